@@ -1,0 +1,31 @@
+# How a room of the house becomes a library.
+
+add_library(ambrelis_options INTERFACE)
+target_compile_options(ambrelis_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion)
+if(AMBRELIS_WERROR)
+  target_compile_options(ambrelis_options INTERFACE -Werror)
+endif()
+if(AMBRELIS_SANITIZE)
+  target_compile_options(ambrelis_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(ambrelis_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# ambrelis_piece(NAME LINKS [PRIVATE_LINKS ...] [PUBLIC_LINKS ...])
+# One static library from every .cpp of the current folder. PUBLIC_LINKS are the rooms whose headers this room's
+# headers show; PRIVATE_LINKS are third-party libraries that no header of the room names.
+function(ambrelis_piece nom)
+  cmake_parse_arguments(PIECE "" "" "PUBLIC_LINKS;PRIVATE_LINKS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  set(compiled ${sources})
+  list(FILTER compiled INCLUDE REGEX "\\.cpp$")
+  if(compiled)
+    add_library(${nom} STATIC ${sources})
+    target_include_directories(${nom} PUBLIC "${PROJECT_SOURCE_DIR}/src")
+    target_link_libraries(${nom} PUBLIC ${PIECE_PUBLIC_LINKS} PRIVATE ambrelis_options ${PIECE_PRIVATE_LINKS})
+  else() # only headers so far
+    add_library(${nom} INTERFACE)
+    target_include_directories(${nom} INTERFACE "${PROJECT_SOURCE_DIR}/src")
+    target_link_libraries(${nom} INTERFACE ${PIECE_PUBLIC_LINKS} ${PIECE_PRIVATE_LINKS})
+  endif()
+endfunction()

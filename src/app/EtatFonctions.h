@@ -1,0 +1,42 @@
+#pragma once
+
+#include <array>
+
+#include "platform/ecran/Controles.h"
+
+namespace app {
+
+// The function panels of the right side (inside frameListeFonctions): add ("divers"), tools, configuration.
+struct EtatFonctions {
+    ecran::Cadre frameDivers, frameOutils, frameConfig;
+    std::array<ecran::Bouton, 2> cmdConfig;  // tools, configuration; the bold one is showing
+    // Help captions: a title and its description, in the order of the panels' sections.
+    // 0 .FILM files, 1 punctuation, 2 Internet, 3 personal titles, 4 compaction, 5 pictures, 6 programs, 7 search, 8 text
+    // file, 9 deletion by ticking.
+    std::array<ecran::Etiquette, 10> Label14;
+    std::array<ecran::Etiquette, 10> Label7;
+
+    // Tools.
+    ecran::Bouton cmdChargeOuvreBase, cmdCompacter, cmdInfosBase, cmdSupprInfosPerso, cmdPonctuation, cmdMultiSuppress,
+        cmdCreerListe;
+    // Configuration.
+    ecran::Bouton cmdMajBase;
+    ecran::Progression ProgressBar2;  // conversion of the posters
+    ecran::CaseACocher chkLancerConnexion;
+    std::array<ecran::Liste, 2> Combo6;  // extensions, programs
+
+    ecran::Etiquette Label13;  // version
+    ecran::Etiquette Label4;   // link to the program's own page
+
+    // Deletion by ticking.
+    std::array<ecran::BoutonOption, 2> Option4;  // off, on
+    ecran::Bouton cmdSupprTitresSelect;
+};
+
+// Window size in twips (15 are one logical pixel); 0: the designed size.
+struct EtatFenetre {
+    int Width = 0;
+    int Height = 0;
+};
+
+}  // namespace app

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "app/EtatFonctions.h"
+#include "browse/EtatFiche.h"
+#include "browse/EtatListe.h"
+#include "browse/EtatPanneaux.h"
+#include "browse/EtatRecherche.h"
+#include "db/EtatStockage.h"
+#include "edit/EtatAjout.h"
+#include "platform/ecran/Ecran.h"
+
+namespace app {
+
+// Which of the tree's pop-up menus a right click asked for; the window shows it after the command.
+enum class MenuContextuel { Aucun, MenuClicDroitFilm, MenuClicDroitSupport, MenuClicDroitGenre };
+
+// Every control value of the window. The window copies its widgets in before a command, and back after it.
+struct Etats {
+    EtatFenetre frmPrincipal;
+    browse::EtatListe liste;
+    browse::EtatRecherche recherche;
+    browse::EtatPanneaux panneaux;
+    browse::EtatFiche fiche;
+    db::EtatStockage stockage;
+    edit::EtatAjout ajout;
+    EtatFonctions fonctions;
+    ecran::Demandes demandes;
+    MenuContextuel menu = MenuContextuel::Aucun;
+};
+
+}  // namespace app

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/Etats.h"
+#include "platform/dialogues/Dialogues.h"
+#include "platform/ecran/Ecran.h"
+#include "platform/systeme/Documents.h"
+#include "platform/systeme/Horloge.h"
+
+namespace app {
+
+// What the program asks of its machine. Everything outlives the session.
+struct Machine {
+    dialogues::Dialogues& dialogues;
+    ecran::Ecran& ecran;
+    ecran::Images& images;
+    systeme::Horloge& horloge;
+    systeme::Documents& documents;
+    std::string dossierProgramme;  // the executable's folder
+};
+
+// One run of the program: owns the panels' state, the open base and the commands, and wires them. The window calls one
+// command per gesture, through its wrapper, with `etats` up to date; afterwards it shows `etats`.
+//
+// Any command may throw systeme::FinDuProgramme (the program ends), db::RequeteEchouee (the message was shown) or
+// dao::ErreurDao (to be shown as "Erreur " + number + " : " + description).
+class Session {
+  public:
+    explicit Session(const Machine& machine);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    Etats etats;
+
+    // Life of the window. Form_Load runs before it is shown. Form_Unload is the shut-down; it runs once, later calls do nothing.
+    void Form_Load();
+    void Form_Unload();
+    void cmdStop_Click();  // shuts down, then throws FinDuProgramme
+    // The layout has room for both pages of the sheet, or no longer has.
+    void Form_Resize(bool deuxPages);
+
+    // Listing and tree.
+    void ChoixZone_Click();
+    void ChoixZone_DropDown();
+    void ChoixTri_Click();
+    void TreeView1_NodeClick(int indice);
+    void TreeView1_NodeCheck(int indice, bool coche);
+    // A right click on a node (which first does what a click does); sets etats.menu.
+    void TreeView1_MouseUpDroit(int indice);
+    void AffStats_Click();
+
+    // Sheet.
+    void cmdGeneralites_Click();
+    void cmdAutresInfos_Click();
+    void lblRealisateur_Click();
+
+    // Panels.
+    void ChoixFonction1_Divers();
+    void ChoixFonction2_Outils();
+    void ChoixFonction3_Config();
+    void cmdAfficherFonctions_Click();
+    void cmdConfigurer_Click();
+    void cmdConfig_Click(int indice);
+    void cmdFonctionRecherche_Click();
+    void cmdRecherche_Click();
+    void cmdAide_Click();
+    void Image3_Click();
+    void Label4_Click();
+
+    // Base and posters.
+    void cmdChargeOuvreBase_Click();
+    void Option3_Click();
+    void cmdParcourir_Click();
+
+    // Adding.
+    void Command13_Click(int indice);
+    void cmdParcourir2_Click();
+    void cmdAjoutAuto_Click();
+
+  private:
+    struct Rouages;  // the base, the paths and the commands
+    std::unique_ptr<Rouages> m_rouages;
+};
+
+}  // namespace app

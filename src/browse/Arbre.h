@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace browse {
+
+// The title tree as a plain list of nodes in creation order, their indexes from 1. Two levels: headings and films; a film
+// may stand at the root. It keeps its own texts: no view of it points into a recordset.
+class Arbre {
+  public:
+    void Clear();  // generation() rises
+    void reserve(std::size_t films, std::size_t octetsDeTexte);
+
+    int ajouteGroupe(std::string cle, std::string texte);
+    // `position` is the film's 1-based row in the listing; `groupe` the index of its heading, 0 for the root.
+    int ajouteFilm(int groupe, std::uint32_t position, std::string_view titre);
+
+    [[nodiscard]] int Count() const { return static_cast<int>(m_noeuds.size()); }
+    [[nodiscard]] bool estGroupe(int indice) const { return noeud(indice).position == 0; }
+    [[nodiscard]] std::string Key(int indice) const;  // "T" + group, "K" + position
+    [[nodiscard]] std::string_view Text(int indice) const;
+    void changeTexteGroupe(int indice, std::string texte);
+    [[nodiscard]] std::uint32_t position(int indice) const { return noeud(indice).position; }  // 0 for a heading
+    [[nodiscard]] int Parent(int indice) const { return static_cast<int>(noeud(indice).parent); }  // 0: the root
+    [[nodiscard]] int rang(int indice) const { return static_cast<int>(noeud(indice).rang); }  // among its siblings, from 0
+    [[nodiscard]] const std::vector<std::int32_t>& enfants(int indice) const;  // of a heading, or of the root (0)
+
+    [[nodiscard]] int generation() const { return m_generation; }
+
+  private:
+    struct Noeud {
+        std::uint32_t position = 0;
+        std::uint32_t parent = 0;
+        std::uint32_t rang = 0;
+        std::uint32_t texte = 0;  // films: offset into m_titres; headings: index into m_groupes
+    };
+    struct Groupe {
+        std::string cle, texte;
+        std::vector<std::int32_t> enfants;
+    };
+    [[nodiscard]] const Noeud& noeud(int indice) const { return m_noeuds[static_cast<std::size_t>(indice - 1)]; }
+
+    std::vector<Noeud> m_noeuds;
+    std::vector<Groupe> m_groupes;
+    std::vector<std::int32_t> m_racine;
+    std::string m_titres;  // each title followed by its end mark
+    int m_generation = 0;
+};
+
+}  // namespace browse

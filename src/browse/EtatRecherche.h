@@ -1,0 +1,21 @@
+#pragma once
+
+#include <array>
+
+#include "platform/ecran/Controles.h"
+
+namespace browse {
+
+struct EtatRecherche {
+    ecran::ZoneTexte Text2;
+    std::array<ecran::CaseACocher, 4> ZoneRecherche;  // title, director, year, cast
+    std::array<ecran::BoutonOption, 3> TypeFilm;      // all films, the user's, those not owned
+    ecran::Bouton cmdRecherche;
+
+    EtatRecherche() {
+        ZoneRecherche[0].Value = 1;
+        ecran::choisit(TypeFilm, 0);
+    }
+};
+
+}  // namespace browse

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+namespace browse {
+
+// The film whose sheet is shown: every later edit finds its rows by these two values.
+struct FilmCourant {
+    std::string cle;  // key of the tree's selected node
+    std::string titre;
+    std::string realisateur;
+    bool fichiersPresents = false;        // its first attached file is set
+    std::array<std::string, 3> fichiers;  // the attached files, for the launcher
+    std::string affiche;                  // "" none, "JPG" + file name, or "STO" alone: the bytes are in the temporary file
+};
+
+}  // namespace browse

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/dao/Database.h"
+
+namespace db {
+
+// The open base and the three recordsets the whole program shares. All are open while the window exists, except during
+// a change of base.
+struct Base {
+    dao::Database base;
+    dao::Recordset films;      // the catalogue, live
+    dao::Recordset personnel;  // the holdings, live
+    dao::Recordset liste;      // first the catalogue, then the result of each listing query
+
+    // Recordsets first (catalogue, holdings, listing), then the base.
+    void ferme();
+};
+
+}  // namespace db

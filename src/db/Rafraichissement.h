@@ -1,0 +1,15 @@
+#pragma once
+
+namespace db {
+
+// What the database room asks of the rooms above it after a change of base; the application supplies it.
+class Rafraichissement {
+  public:
+    virtual ~Rafraichissement() = default;
+    virtual void AfficheAccueil() = 0;                // resets the film-sheet area
+    virtual void reconstruitListe() = 0;              // listing of the current zone and sort, without a search
+    virtual void RaffraichitBoitesDeroulantes() = 0;  // the personal drop-down lists
+    virtual void AfficheNbTitres() = 0;               // the two counts
+};
+
+}  // namespace db

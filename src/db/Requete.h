@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+
+#include "platform/dao/Database.h"
+#include "platform/dialogues/Dialogues.h"
+
+namespace db {
+
+// Each procedure that runs a query has its own number in "Erreur (n) : Etablissement de requête". 22 is the failed
+// opening of a base and belongs to OuvertureBase.
+enum class NumeroErreur : int {
+    CreeRequeteAffichage = 1,
+    AfficheFiche = 8,
+    ModifieNoteFilm = 9,
+    TitreDejaExistant = 10,
+    TestRessemblance = 11,
+    RaffraichitBoitesDeroulantes = 12,
+    EnregistreNouveauFilm = 14,
+    Command13 = 15,
+    cmdModifierTitre = 16,
+    cmdAjoutFilm = 17,
+    cmdValiderInfosPossessions = 18,
+    cmdSupprimerTitre = 19,
+    cmdSupprTitresSelect = 23,
+    ModifieGroupe = 24,
+    cmdPonctuation = 25,
+    cmdCreerListe = 26,
+};
+
+// Thrown after its message was shown: the running command stops, the window stays as it is.
+struct RequeteEchouee {};
+
+[[nodiscard]] std::string texteErreurRequete(NumeroErreur numero);
+
+// Opens a statement; on failure shows its message (style 16) and throws RequeteEchouee.
+[[nodiscard]] dao::Recordset ouvreRequete(dao::Database& base, const std::string& enonce, NumeroErreur numero,
+                                          dialogues::Dialogues& dialogues);
+
+}  // namespace db

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string_view>
+
+namespace db {
+
+// The statements that make an empty base: the two tables with their published fields, and the plain indexes that the
+// listings read instead of the rows. The template "Modele.dat" is made from it by the build.
+[[nodiscard]] std::string_view schema();
+
+// What a base made elsewhere may lack and is given at its opening: the plain indexes. Each statement is harmless when
+// its index stands already.
+[[nodiscard]] std::string_view indexDesListes();
+
+}  // namespace db

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/dao/ErreurDao.h"
+#include "platform/dao/Recordset.h"
+
+namespace dao {
+
+namespace interne {
+class Connexion;
+}
+
+// One open base. It must outlive the recordsets opened on it; Close closes them first.
+class Database {
+  public:
+    Database();  // closed
+    explicit Database(std::unique_ptr<interne::Connexion> connexion);
+    Database(Database&&) noexcept;
+    Database& operator=(Database&&) noexcept;
+    ~Database();
+
+    // A table name gives a live recordset, a SELECT a keyset. The statement is taken as the program writes it, with
+    // Jet's text comparison. Throws ErreurDao 3075 (syntax), 3061 (unknown column), 3078 (unknown table), or a disk error.
+    [[nodiscard]] Recordset OpenRecordset(std::string_view source);
+
+    // Runs a statement of SQLite's own as it is: for the schema and for tools, not for the program's statements.
+    void Execute(std::string_view sql);
+
+    // Groups updates: all of them are in the file after CommitTrans, none after Rollback. One level, no nesting.
+    void BeginTrans();
+    void CommitTrans();
+    void Rollback();
+    [[nodiscard]] bool enTransaction() const;
+
+    void Close();  // closing twice is harmless
+    [[nodiscard]] bool estOuverte() const { return m_connexion != nullptr; }
+    [[nodiscard]] const std::string& nom() const;  // the path it was opened with
+
+  private:
+    std::unique_ptr<interne::Connexion> m_connexion;
+};
+
+// Opens a transaction, and rolls it back unless confirme was called: what a batch holds between two breaths.
+class Transaction {
+  public:
+    explicit Transaction(Database& base) : m_base(base) { m_base.BeginTrans(); }
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+    ~Transaction();
+    void confirme();  // CommitTrans
+
+  private:
+    Database& m_base;
+    bool m_ouverte = true;
+};
+
+}  // namespace dao

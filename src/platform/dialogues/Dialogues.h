@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+
+namespace dialogues {
+
+// Style numbers of a message box, and its answers.
+enum Style : int { kSimple = 0, kCritique = 16, kQuestion = 36, kExclamation = 48, kInformation = 64 };
+enum Reponse : int { kOk = 1, kOui = 6, kNon = 7 };
+
+inline constexpr const char* kTitre = "Ambrelis";
+
+struct DemandeFichier {
+    std::string titre;
+    std::string filtre;   // "Fichiers JPEG|*.jpg"
+    std::string dossier;  // where the box opens
+    bool peutCreer = false;  // accepts the name of a file that does not exist yet
+};
+
+// Every box the program shows. The window opens Qt's own; tests answer from a script.
+// A box is never shown inside a transaction; the panels' state is on the screen before it opens.
+class Dialogues {
+  public:
+    virtual ~Dialogues() = default;
+
+    // kOk for a box with one button, kOui or kNon for style 36 (closing it answers No).
+    virtual int MsgBox(const std::string& texte, int style = kSimple, const std::string& titre = kTitre) = 0;
+    // The text typed; empty also when cancelled.
+    virtual std::string InputBox(const std::string& invite, const std::string& titre = kTitre,
+                                 const std::string& defaut = "") = 0;
+    // The path chosen, empty when cancelled.
+    virtual std::string choisitFichier(const DemandeFichier& demande) = 0;
+    virtual std::string choisitDossier(const std::string& titre, const std::string& dossierInitial) = 0;
+};
+
+}  // namespace dialogues

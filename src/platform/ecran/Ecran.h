@@ -1,0 +1,55 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace ecran {
+
+// The screen as long work sees it.
+class Ecran {
+  public:
+    virtual ~Ecran() = default;
+    // Between two items of a long loop, with rows and files whole: shows the state, lets events through (no second
+    // command starts meanwhile). False when the user asked to stop, by "Annuler" or by closing the window.
+    [[nodiscard]] virtual bool respire() = 0;
+    // Shows the state now; takes no input.
+    virtual void rafraichit() = 0;
+    // The long work that respire belongs to begins or ends: while it lasts the window offers "Annuler".
+    virtual void debutTravail() = 0;
+    virtual void finTravail() = 0;
+};
+
+// Holds debutTravail and finTravail together, however the loop is left.
+class Travail {
+  public:
+    explicit Travail(Ecran& ecran) : m_ecran(ecran) { m_ecran.debutTravail(); }
+    Travail(const Travail&) = delete;
+    Travail& operator=(const Travail&) = delete;
+    ~Travail() { m_ecran.finTravail(); }
+
+  private:
+    Ecran& m_ecran;
+};
+
+struct TailleImage {
+    int largeur = 0;  // pixels
+    int hauteur = 0;
+};
+
+// The one picture the sheet and the poster viewer share. Decoding is the window's work.
+class Images {
+  public:
+    virtual ~Images() = default;
+    // Loads the file as the current picture; its size, or nothing when it is missing, broken or too large to decode
+    // (the current picture is then empty).
+    [[nodiscard]] virtual std::optional<TailleImage> charge(const std::string& chemin) = 0;
+    virtual void vide() = 0;
+};
+
+// Asked for once by a command; the window carries it out after the command and clears it.
+struct Demandes {
+    std::string focus;           // name of the control to give the focus to
+    std::string boutonParDefaut; // name of the button that Enter presses while it is visible and enabled
+};
+
+}  // namespace ecran

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Files and folders of the machine. A path is the bytes the system uses, with "/" between folders. Nothing here throws:
+// each call says whether it did its work.
+namespace fichiers {
+
+// Where a file really lies: the name as it stands; else with "\" taken as a separator; else ignoring letter case in each
+// of its parts (names copied from Windows). Empty when there is none.
+[[nodiscard]] std::optional<std::string> trouve(const std::string& chemin);
+
+[[nodiscard]] bool existe(const std::string& chemin);         // a file that trouve finds; a folder is none
+[[nodiscard]] bool dossierExiste(const std::string& chemin);
+[[nodiscard]] std::int64_t longueur(const std::string& chemin);  // in bytes, -1 when there is no such file
+
+// A whole file; empty when it cannot be read (a folder included) or is longer than `limite` bytes.
+[[nodiscard]] std::optional<std::string> lit(const std::string& chemin, std::int64_t limite = INT64_MAX);
+// The lines of a text of the outside world, decoded to UTF-8, ended by CR LF, LF or CR; at most `maximum` of them.
+// NULs are carried. Empty when the file cannot be read.
+[[nodiscard]] std::optional<std::vector<std::string>> litLignes(const std::string& chemin, std::size_t maximum = SIZE_MAX);
+
+// Writes in place: for working files, which need not survive.
+bool ecrit(const std::string& chemin, std::string_view octets);
+// Replaces a whole file safely: written beside it, synced, renamed over it. On failure what stood there still stands.
+bool remplace(const std::string& chemin, std::string_view octets);
+
+// Copies over what stands at `vers`; a copy onto itself is recognised and does nothing, successfully.
+bool copie(const std::string& de, const std::string& vers);
+bool supprime(const std::string& chemin);     // true when the file is gone, also when there was none
+bool creeDossier(const std::string& chemin);  // with its parents; true when it stands there in the end
+// Deletes the folder's files (not its folders) that match: "*.*" and "*" mean every file, "*.jpg" an ending in any case.
+// Returns how many went.
+int supprimeSelonMotif(const std::string& dossier, std::string_view motif);
+
+// The names of the folder's files, in name order, folders left out. Empty when it cannot be read.
+[[nodiscard]] std::vector<std::string> listeFichiers(const std::string& dossier);
+
+// Pieces of a path, both separators understood.
+[[nodiscard]] std::string nomDeFichier(std::string_view chemin);   // "a/b.txt" -> "b.txt"
+[[nodiscard]] std::string dossierDe(std::string_view chemin);      // "a/b.txt" -> "a/"; "" without a folder
+[[nodiscard]] std::string extension(std::string_view chemin);      // "a/b.tar.GZ" -> "GZ"; "" without one
+[[nodiscard]] std::string sansExtension(std::string_view chemin);  // "a/b.FILM" -> "a/b"
+
+}  // namespace fichiers

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+namespace systeme {
+
+// What day it is, as text: a service, so that a test can choose the day.
+class Horloge {
+  public:
+    virtual ~Horloge() = default;
+    // Today in the user's short date form ("21/11/2026"); French where the locale is C or POSIX.
+    [[nodiscard]] virtual std::string dateDuJour() const = 0;
+};
+
+class HorlogeSysteme final : public Horloge {
+  public:
+    [[nodiscard]] std::string dateDuJour() const override;
+};
+
+// The user's decimal separator; the comma where the locale is C or POSIX.
+[[nodiscard]] std::string separateurDecimal();
+
+}  // namespace systeme

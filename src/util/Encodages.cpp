@@ -1,0 +1,109 @@
+#include "util/Texte.h"
+#include "util/Unicode.h"
+
+#include <algorithm>
+#include <array>
+
+#include <unicode/normalizer2.h>
+#include <unicode/unistr.h>
+#include <unicode/utf16.h>
+
+namespace util {
+
+namespace {
+
+constexpr std::string_view kMarqueUtf8 = "\xEF\xBB\xBF";
+constexpr std::string_view kMarqueUtf16Petit = "\xFF\xFE";
+constexpr std::string_view kMarqueUtf16Grand = "\xFE\xFF";
+
+// Windows-1252 from 80 to 9F; the five bytes it leaves unused stand for themselves.
+constexpr std::array<char16_t, 32> k1252 = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+UChar32 pointDepuis1252(unsigned char octet) {
+    return octet >= 0x80 && octet < 0xA0 ? k1252[octet - 0x80u] : octet;
+}
+
+char octet1252(UChar32 point) {
+    if (point >= 0 && (point < 0x80 || point >= 0xA0) && point <= 0xFF) return static_cast<char>(point);
+    const auto* trouve = std::find(k1252.begin(), k1252.end(), point);
+    return trouve == k1252.end() ? '?' : static_cast<char>(0x80 + (trouve - k1252.begin()));
+}
+
+// A letter written as base and accent becomes one code point where there is one; else -1.
+UChar32 pointUnique(std::string_view caractere) {
+    UErrorCode etat = U_ZERO_ERROR;
+    const icu::Normalizer2* composition = icu::Normalizer2::getNFCInstance(etat);
+    if (U_FAILURE(etat)) return -1;
+    const auto compose = composition->normalize(
+        icu::UnicodeString::fromUTF8(icu::StringPiece(caractere.data(), static_cast<int>(caractere.size()))), etat);
+    return U_SUCCESS(etat) && compose.countChar32() == 1 ? compose.char32At(0) : -1;
+}
+
+bool estAscii(std::string_view octets) {
+    return std::all_of(octets.begin(), octets.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+std::string depuisUtf16(std::string_view octets, bool petitDabord) {
+    const auto octet = [&](std::size_t i) { return static_cast<unsigned char>(octets[i]); };
+    const auto unite = [&](std::size_t i) -> char16_t {
+        const unsigned fort = octet(petitDabord ? i + 1 : i), faible = octet(petitDabord ? i : i + 1);
+        return static_cast<char16_t>(fort << 8 | faible);
+    };
+    std::string texte;
+    std::size_t i = 0;
+    for (; i + 1 < octets.size(); i += 2) {
+        const char16_t premiere = unite(i);
+        if (!U16_IS_SURROGATE(premiere)) {
+            ajoutePoint(texte, premiere);
+        } else if (U16_IS_SURROGATE_LEAD(premiere) && i + 3 < octets.size() && U16_IS_TRAIL(unite(i + 2))) {
+            ajoutePoint(texte, U16_GET_SUPPLEMENTARY(premiere, unite(i + 2)));
+            i += 2;
+        } else {
+            ajoutePoint(texte, 0xFFFD);
+        }
+    }
+    return texte + depuis1252(octets.substr(i));  // an odd last byte is not lost
+}
+
+}  // namespace
+
+bool estUtf8(std::string_view octets) {
+    for (std::size_t i = 0; i < octets.size();) {
+        const PointDeCode point = litPoint(octets, i);
+        if (point.valeur < 0) return false;
+        i += point.taille;
+    }
+    return true;
+}
+
+std::string depuis1252(std::string_view octets) {
+    std::string texte;
+    texte.reserve(octets.size());
+    for (const char c : octets) ajoutePoint(texte, pointDepuis1252(static_cast<unsigned char>(c)));
+    return texte;
+}
+
+std::string vers1252(std::string_view texte) {
+    if (estAscii(texte)) return std::string(texte);
+    std::string octets;
+    octets.reserve(texte.size());
+    for (const std::string_view caractere : caracteres(texte)) {
+        const PointDeCode point = litPoint(caractere, 0);
+        if (point.valeur < 0)
+            octets += caractere;
+        else
+            octets += octet1252(point.taille == caractere.size() ? point.valeur : pointUnique(caractere));
+    }
+    return octets;
+}
+
+std::string decodeTexteExterne(std::string_view octets) {
+    if (octets.starts_with(kMarqueUtf8)) return std::string(octets.substr(kMarqueUtf8.size()));
+    if (octets.starts_with(kMarqueUtf16Petit)) return depuisUtf16(octets.substr(2), true);
+    if (octets.starts_with(kMarqueUtf16Grand)) return depuisUtf16(octets.substr(2), false);
+    return estUtf8(octets) ? std::string(octets) : depuis1252(octets);
+}
+
+}  // namespace util

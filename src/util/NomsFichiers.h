@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace util {
+
+// The nine characters " \ / ? < > | * : replaced, in posters and exports by nothing.
+[[nodiscard]] std::string nettoieNomFichier(std::string_view nom, std::string_view remplacement = "");
+// The folder with a separator appended unless it ends with one. Values from an older base may end in "\", and keep it.
+[[nodiscard]] std::string avecSeparateur(std::string_view dossier);
+
+}  // namespace util

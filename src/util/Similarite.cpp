@@ -1,0 +1,55 @@
+#include "util/Similarite.h"
+
+#include "util/Nombres.h"
+#include "util/Unicode.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace util {
+
+namespace {
+
+constexpr std::size_t kBlanc = 26, kChiffres = 27, kAucune = 39;  // kAucune: counted, then forgotten
+
+std::size_t caseDe(UChar32 point) {
+    const UChar32 lettre = sansAccent(minusculeDe(point));
+    if (lettre >= 'a' && lettre <= 'z') return static_cast<std::size_t>(lettre - 'a');
+    if (lettre == ' ') return kBlanc;
+    if (lettre >= '0' && lettre <= '9') return kChiffres + static_cast<std::size_t>(lettre - '0');
+    return kAucune;
+}
+
+}  // namespace
+
+CompteLettres compteLettres(std::string_view texte) {
+    std::array<std::size_t, 40> exact{};
+    for (std::size_t i = 0; i < texte.size();) {
+        const PointDeCode point = litPoint(texte, i);
+        ++exact[point.valeur < 0 ? kAucune : caseDe(point.valeur)];
+        i += point.taille;
+    }
+    exact[kAucune] = 0;
+
+    // A huge text stops counting at the type's limit, in the total too: it still equals itself at 100 %.
+    CompteLettres compte;
+    for (std::size_t i = 0; i < exact.size(); ++i) {
+        compte.nombre[i] = static_cast<std::uint16_t>(
+            std::min<std::size_t>(exact[i], std::numeric_limits<std::uint16_t>::max()));
+        compte.total += compte.nombre[i];
+    }
+    return compte;
+}
+
+int similarite(const CompteLettres& gauche, const CompteLettres& droite) {
+    std::uint32_t commun = 0;
+    for (std::size_t i = 0; i < gauche.nombre.size(); ++i) commun += std::min(gauche.nombre[i], droite.nombre[i]);
+    const std::uint32_t total = gauche.total + droite.total;
+    return total == 0 ? 0 : arrondiPair(2.0 * commun / total * 100);
+}
+
+int similarite(std::string_view gauche, std::string_view droite) {
+    return similarite(compteLettres(gauche), compteLettres(droite));
+}
+
+}  // namespace util

@@ -1,0 +1,104 @@
+#include "util/Texte.h"
+
+#include "util/Unicode.h"
+
+#include <algorithm>
+
+#include <unicode/uchar.h>
+
+namespace util {
+
+namespace {
+
+constexpr UChar32 kIotaSouscrit = 0x345;  // a combining mark whose capital would be a letter of its own
+
+bool estMarqueRetiree(UChar32 base, UChar32 marque) {
+    constexpr UChar32 kGrave = 0x300, kAigu = 0x301, kCirconflexe = 0x302, kTrema = 0x308, kCedille = 0x327;
+    switch (base) {
+        case 'e': return marque == kAigu || marque == kTrema || marque == kGrave || marque == kCirconflexe;
+        case 'a':
+        case 'u': return marque == kTrema || marque == kGrave || marque == kCirconflexe;
+        case 'i':
+        case 'o': return marque == kTrema || marque == kCirconflexe;
+        case 'c': return marque == kCedille;
+        default: return false;
+    }
+}
+
+}  // namespace
+
+UChar32 minusculeDe(UChar32 point) {
+    if (point < 0x80) return point >= 'A' && point <= 'Z' ? point + 32 : point;
+    return u_tolower(point);
+}
+
+UChar32 majusculeDe(UChar32 point) {
+    if (point < 0x80) return point >= 'a' && point <= 'z' ? point - 32 : point;
+    return point == kIotaSouscrit ? point : u_toupper(point);
+}
+
+UChar32 casseRepliee(UChar32 point) {
+    if (point < 0x80) return minusculeDe(point);
+    return u_foldCase(point, U_FOLD_CASE_DEFAULT);
+}
+
+UChar32 sansAccent(UChar32 point) {
+    switch (point) {
+        case U'é': case U'ë': case U'è': case U'ê': return 'e';
+        case U'â': case U'à': case U'ä': return 'a';
+        case U'ï': case U'î': return 'i';
+        case U'ô': case U'ö': return 'o';
+        case U'ù': case U'ü': case U'û': return 'u';
+        case U'ç': return 'c';
+        default: return point;
+    }
+}
+
+std::string minuscules(std::string_view texte) { return transforme(texte, minusculeDe); }
+
+std::string majuscules(std::string_view texte) { return transforme(texte, majusculeDe); }
+
+bool egalSansCasse(std::string_view gauche, std::string_view droite) {
+    std::size_t i = 0, j = 0;
+    while (i < gauche.size() && j < droite.size()) {
+        const PointDeCode a = litPoint(gauche, i), b = litPoint(droite, j);
+        if ((a.valeur < 0) != (b.valeur < 0)) return false;
+        if (a.valeur < 0 ? gauche[i] != droite[j] : casseRepliee(a.valeur) != casseRepliee(b.valeur)) return false;
+        i += a.taille;
+        j += b.taille;
+    }
+    return i == gauche.size() && j == droite.size();
+}
+
+std::string sansAccents(std::string_view texte) {
+    std::string resultat;
+    resultat.reserve(texte.size());
+    UChar32 precedent = -1;
+    for (std::size_t i = 0; i < texte.size();) {
+        const PointDeCode point = litPoint(texte, i);
+        if (point.valeur < 0)
+            resultat += texte[i];
+        else if (!estMarqueRetiree(precedent, point.valeur))  // also an accent written apart from its letter
+            ajoutePoint(resultat, sansAccent(point.valeur));
+        precedent = point.valeur;
+        i += point.taille;
+    }
+    return resultat;
+}
+
+std::string remplace(std::string_view texte, std::string_view cherche, std::string_view par) {
+    if (cherche.empty()) return std::string(texte);
+    std::string resultat;
+    std::size_t debut = 0;
+    for (std::size_t trouve; (trouve = texte.find(cherche, debut)) != std::string_view::npos;) {
+        resultat.append(texte.substr(debut, trouve - debut)).append(par);
+        debut = trouve + cherche.size();
+    }
+    return resultat.append(texte.substr(debut));
+}
+
+bool commencePar(std::string_view texte, std::string_view debut) { return texte.starts_with(debut); }
+
+bool finitPar(std::string_view texte, std::string_view fin) { return texte.ends_with(fin); }
+
+}  // namespace util

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Text is UTF-8. A character here is what the user sees as a letter: a letter with its combining accents, an emoji with
+// its modifiers, count as one. Bytes that are no UTF-8 are carried through unharmed, each counting as one character.
+namespace util {
+
+[[nodiscard]] std::size_t longueur(std::string_view texte);                    // in characters
+[[nodiscard]] std::string coupe(std::string_view texte, std::size_t nombre);   // the first `nombre` characters
+[[nodiscard]] std::vector<std::string_view> caracteres(std::string_view texte);  // views into `texte`
+
+// Case by characters, one to one: ß stays ß, so that the number of characters never changes.
+[[nodiscard]] std::string minuscules(std::string_view texte);
+[[nodiscard]] std::string majuscules(std::string_view texte);
+// Equal but for letter case.
+[[nodiscard]] bool egalSansCasse(std::string_view gauche, std::string_view droite);
+
+// é ë è ê -> e, â à ä -> a, ï î -> i, ô ö -> o, ù ü û -> u, ç -> c; lower-case letters only, nothing else.
+[[nodiscard]] std::string sansAccents(std::string_view texte);
+
+[[nodiscard]] std::string remplace(std::string_view texte, std::string_view cherche, std::string_view par);
+[[nodiscard]] bool commencePar(std::string_view texte, std::string_view debut);
+[[nodiscard]] bool finitPar(std::string_view texte, std::string_view fin);
+
+[[nodiscard]] bool estUtf8(std::string_view octets);
+// Windows-1252 (81 8D 8F 90 9D as U+0081 and so on) to UTF-8 and back; what 1252 lacks becomes "?".
+[[nodiscard]] std::string depuis1252(std::string_view octets);
+[[nodiscard]] std::string vers1252(std::string_view texte);
+// A text of the outside world: UTF-8 when it starts with a byte order mark (which is dropped) or is valid UTF-8 with
+// characters beyond ASCII; otherwise Windows-1252.
+[[nodiscard]] std::string decodeTexteExterne(std::string_view octets);
+
+}  // namespace util
