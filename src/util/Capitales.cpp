@@ -3,6 +3,7 @@
 #include "util/Texte.h"
 #include "util/Unicode.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <unordered_set>
@@ -15,20 +16,10 @@ constexpr std::string_view kOuvrentUnMot = "\"-/(. ";
 constexpr std::string_view kBornent = " ,.";
 constexpr int kRomainMax = 100;
 
-// Does the text go on from `position` with `attendu` (ASCII letters in lower case), whatever its case?
-bool suit(std::string_view texte, std::size_t position, std::string_view attendu) {
-    for (const char c : attendu) {
-        if (position >= texte.size()) return false;
-        const PointDeCode point = litPoint(texte, position);
-        if (point.valeur < 0 || casseRepliee(point.valeur) != c) return false;
-        position += point.taille;
-    }
-    return true;
-}
-
 // "Don't " and "aujourd'hui" keep a small letter after the apostrophe, "l'été" does not.
 bool apostropheOuvreUnMot(std::string_view texte, std::size_t apres) {
-    return apres < texte.size() && !suit(texte, apres, "t ") && !suit(texte, apres, "s ") && !suit(texte, apres, "hui");
+    const auto suit = [&](std::string_view mot) { return finSansCasse(texte, apres, mot) != std::string_view::npos; };
+    return apres < texte.size() && !suit("t ") && !suit("s ") && !suit("hui");
 }
 
 std::string capitalesDesMots(std::string_view texte) {
@@ -54,16 +45,17 @@ std::string capitalesDesMots(std::string_view texte) {
 const std::unordered_set<std::string>& romains() {
     static const std::unordered_set<std::string> ensemble = [] {
         std::unordered_set<std::string> tous;
-        for (int i = 1; i <= kRomainMax; ++i) tous.insert(chiffresRomains(i));
+        for (int i = 1; i <= kRomainMax; ++i)
+            tous.insert(chiffresRomains(i));
         return tous;
     }();
     return ensemble;
 }
 
-// The numeral in capitals when the word is one; words longer than the longest (LXXXVIII) are not even looked at.
+// The numeral in capitals when the word is one.
 std::optional<std::string> enRomain(std::string_view mot) {
-    constexpr std::size_t kPlusLong = 8;
-    if (mot.empty() || mot.size() > kPlusLong) return std::nullopt;
+    constexpr std::size_t kPlusLong = 8;  // LXXXVIII
+    if (mot.empty() || mot.size() > kPlusLong || mot.find_first_not_of("IVXLCivxlc") != mot.npos) return std::nullopt;
     std::string capitales = majuscules(mot);
     if (!romains().contains(capitales)) return std::nullopt;
     return capitales;
@@ -71,6 +63,7 @@ std::optional<std::string> enRomain(std::string_view mot) {
 
 }  // namespace
 
+// Every occurrence of a numeral is put in capitals: the words are looked at one by one.
 std::string metEnCapitales(std::string_view titre) {
     std::string resultat = capitalesDesMots(titre);
     for (std::size_t debut = 0; debut < resultat.size();) {
@@ -87,13 +80,24 @@ std::string chiffresRomains(int nombre) {
         int valeur;
         const char* texte;
     };
-    static constexpr std::array<Signe, 13> kSignes{{{1000, "M"}, {900, "CM"}, {500, "D"}, {400, "CD"}, {100, "C"},
-                                                    {90, "XC"}, {50, "L"}, {40, "XL"}, {10, "X"}, {9, "IX"},
-                                                    {5, "V"}, {4, "IV"}, {1, "I"}}};
+    static constexpr std::array<Signe, 13> kSignes{{{1000, "M"},
+                                                    {900, "CM"},
+                                                    {500, "D"},
+                                                    {400, "CD"},
+                                                    {100, "C"},
+                                                    {90, "XC"},
+                                                    {50, "L"},
+                                                    {40, "XL"},
+                                                    {10, "X"},
+                                                    {9, "IX"},
+                                                    {5, "V"},
+                                                    {4, "IV"},
+                                                    {1, "I"}}};
     if (nombre < 1 || nombre > 3999) return "";
     std::string texte;
     for (const Signe& signe : kSignes)
-        for (; nombre >= signe.valeur; nombre -= signe.valeur) texte += signe.texte;
+        for (; nombre >= signe.valeur; nombre -= signe.valeur)
+            texte += signe.texte;
     return texte;
 }
 

@@ -17,9 +17,10 @@ constexpr std::string_view kMarqueUtf16Petit = "\xFF\xFE";
 constexpr std::string_view kMarqueUtf16Grand = "\xFE\xFF";
 
 // Windows-1252 from 80 to 9F; the five bytes it leaves unused stand for themselves.
-constexpr std::array<char16_t, 32> k1252 = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
-    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+constexpr std::array<char16_t, 32> k1252 = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                            0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                            0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                            0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 UChar32 pointDepuis1252(unsigned char octet) {
     return octet >= 0x80 && octet < 0xA0 ? k1252[octet - 0x80u] : octet;
@@ -81,7 +82,8 @@ bool estUtf8(std::string_view octets) {
 std::string depuis1252(std::string_view octets) {
     std::string texte;
     texte.reserve(octets.size());
-    for (const char c : octets) ajoutePoint(texte, pointDepuis1252(static_cast<unsigned char>(c)));
+    for (const char c : octets)
+        ajoutePoint(texte, pointDepuis1252(static_cast<unsigned char>(c)));
     return texte;
 }
 

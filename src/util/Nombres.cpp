@@ -15,7 +15,9 @@ namespace {
 constexpr double kEntierMin = std::numeric_limits<int>::min();
 constexpr double kEntierMax = std::numeric_limits<int>::max();
 
-int enEntier(double nombre) { return std::isnan(nombre) ? 0 : static_cast<int>(std::clamp(nombre, kEntierMin, kEntierMax)); }
+int enEntier(double nombre) {
+    return std::isnan(nombre) ? 0 : static_cast<int>(std::clamp(nombre, kEntierMin, kEntierMax));
+}
 
 // Does a number start here: digits, or a point and digits? (Words like "inf" and "nan" are no numbers.)
 bool commenceUnNombre(std::string_view texte) {
@@ -44,10 +46,14 @@ double Val(std::string_view texte) {
     return negatif ? -nombre : nombre;
 }
 
-int valEntier(std::string_view texte) { return enEntier(std::trunc(Val(texte))); }
+int valEntier(std::string_view texte) {
+    return enEntier(std::trunc(Val(texte)));
+}
 
 // Relies on the default rounding mode, which nothing here changes.
-int arrondiPair(double nombre) { return enEntier(std::nearbyint(nombre)); }
+int arrondiPair(double nombre) {
+    return enEntier(std::nearbyint(nombre));
+}
 
 double tronque(double nombre, int decimales) {
     const double echelle = std::pow(10.0, decimales);
@@ -57,8 +63,7 @@ double tronque(double nombre, int decimales) {
 std::string texteDuNombre(double nombre, std::string_view separateur) {
     if (nombre == 0) return "0";     // also for a negative zero
     std::array<char, 512> tampon{};  // the longest double is 327 characters
-    const auto ecrit =
-        std::to_chars(tampon.data(), tampon.data() + tampon.size(), nombre, std::chars_format::fixed);
+    const auto ecrit = std::to_chars(tampon.data(), tampon.data() + tampon.size(), nombre, std::chars_format::fixed);
     return remplace({tampon.data(), static_cast<std::size_t>(ecrit.ptr - tampon.data())}, ".", separateur);
 }
 

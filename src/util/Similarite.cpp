@@ -34,8 +34,8 @@ CompteLettres compteLettres(std::string_view texte) {
     // A huge text stops counting at the type's limit, in the total too: it still equals itself at 100 %.
     CompteLettres compte;
     for (std::size_t i = 0; i < exact.size(); ++i) {
-        compte.nombre[i] = static_cast<std::uint16_t>(
-            std::min<std::size_t>(exact[i], std::numeric_limits<std::uint16_t>::max()));
+        compte.nombre[i] =
+            static_cast<std::uint16_t>(std::min<std::size_t>(exact[i], std::numeric_limits<std::uint16_t>::max()));
         compte.total += compte.nombre[i];
     }
     return compte;
@@ -43,7 +43,8 @@ CompteLettres compteLettres(std::string_view texte) {
 
 int similarite(const CompteLettres& gauche, const CompteLettres& droite) {
     std::uint32_t commun = 0;
-    for (std::size_t i = 0; i < gauche.nombre.size(); ++i) commun += std::min(gauche.nombre[i], droite.nombre[i]);
+    for (std::size_t i = 0; i < gauche.nombre.size(); ++i)
+        commun += std::min(gauche.nombre[i], droite.nombre[i]);
     const std::uint32_t total = gauche.total + droite.total;
     return total == 0 ? 0 : arrondiPair(2.0 * commun / total * 100);
 }

@@ -4,8 +4,12 @@
 
 namespace util {
 
-std::string doubleGuillemets(std::string_view valeur) { return remplace(valeur, "\"", "\"\""); }
+std::string doubleGuillemets(std::string_view valeur) {
+    return remplace(valeur, "\"", "\"\"");
+}
 
-std::string entreGuillemets(std::string_view valeur) { return '"' + doubleGuillemets(valeur) + '"'; }
+std::string entreGuillemets(std::string_view valeur) {
+    return '"' + doubleGuillemets(valeur) + '"';
+}
 
 }  // namespace util

@@ -2,8 +2,6 @@
 
 #include "util/Unicode.h"
 
-#include <algorithm>
-
 #include <unicode/uchar.h>
 
 namespace util {
@@ -15,13 +13,18 @@ constexpr UChar32 kIotaSouscrit = 0x345;  // a combining mark whose capital woul
 bool estMarqueRetiree(UChar32 base, UChar32 marque) {
     constexpr UChar32 kGrave = 0x300, kAigu = 0x301, kCirconflexe = 0x302, kTrema = 0x308, kCedille = 0x327;
     switch (base) {
-        case 'e': return marque == kAigu || marque == kTrema || marque == kGrave || marque == kCirconflexe;
+        case 'e':
+            return marque == kAigu || marque == kTrema || marque == kGrave || marque == kCirconflexe;
         case 'a':
-        case 'u': return marque == kTrema || marque == kGrave || marque == kCirconflexe;
+        case 'u':
+            return marque == kTrema || marque == kGrave || marque == kCirconflexe;
         case 'i':
-        case 'o': return marque == kTrema || marque == kCirconflexe;
-        case 'c': return marque == kCedille;
-        default: return false;
+        case 'o':
+            return marque == kTrema || marque == kCirconflexe;
+        case 'c':
+            return marque == kCedille;
+        default:
+            return false;
     }
 }
 
@@ -44,30 +47,55 @@ UChar32 casseRepliee(UChar32 point) {
 
 UChar32 sansAccent(UChar32 point) {
     switch (point) {
-        case U'é': case U'ë': case U'è': case U'ê': return 'e';
-        case U'â': case U'à': case U'ä': return 'a';
-        case U'ï': case U'î': return 'i';
-        case U'ô': case U'ö': return 'o';
-        case U'ù': case U'ü': case U'û': return 'u';
-        case U'ç': return 'c';
-        default: return point;
+        case U'é':
+        case U'ë':
+        case U'è':
+        case U'ê':
+            return 'e';
+        case U'â':
+        case U'à':
+        case U'ä':
+            return 'a';
+        case U'ï':
+        case U'î':
+            return 'i';
+        case U'ô':
+        case U'ö':
+            return 'o';
+        case U'ù':
+        case U'ü':
+        case U'û':
+            return 'u';
+        case U'ç':
+            return 'c';
+        default:
+            return point;
     }
 }
 
-std::string minuscules(std::string_view texte) { return transforme(texte, minusculeDe); }
+std::string minuscules(std::string_view texte) {
+    return transforme(texte, minusculeDe);
+}
 
-std::string majuscules(std::string_view texte) { return transforme(texte, majusculeDe); }
+std::string majuscules(std::string_view texte) {
+    return transforme(texte, majusculeDe);
+}
+
+std::size_t finSansCasse(std::string_view texte, std::size_t position, std::string_view attendu) {
+    for (std::size_t i = 0; i < attendu.size();) {
+        if (position >= texte.size()) return std::string_view::npos;
+        const PointDeCode lu = litPoint(texte, position), voulu = litPoint(attendu, i);
+        const bool octets = lu.valeur < 0 && voulu.valeur < 0;
+        if (octets ? texte[position] != attendu[i] : casseRepliee(lu.valeur) != casseRepliee(voulu.valeur))
+            return std::string_view::npos;
+        position += lu.taille;
+        i += voulu.taille;
+    }
+    return position;
+}
 
 bool egalSansCasse(std::string_view gauche, std::string_view droite) {
-    std::size_t i = 0, j = 0;
-    while (i < gauche.size() && j < droite.size()) {
-        const PointDeCode a = litPoint(gauche, i), b = litPoint(droite, j);
-        if ((a.valeur < 0) != (b.valeur < 0)) return false;
-        if (a.valeur < 0 ? gauche[i] != droite[j] : casseRepliee(a.valeur) != casseRepliee(b.valeur)) return false;
-        i += a.taille;
-        j += b.taille;
-    }
-    return i == gauche.size() && j == droite.size();
+    return finSansCasse(gauche, 0, droite) == gauche.size();
 }
 
 std::string sansAccents(std::string_view texte) {
@@ -97,8 +125,12 @@ std::string remplace(std::string_view texte, std::string_view cherche, std::stri
     return resultat.append(texte.substr(debut));
 }
 
-bool commencePar(std::string_view texte, std::string_view debut) { return texte.starts_with(debut); }
+bool commencePar(std::string_view texte, std::string_view debut) {
+    return texte.starts_with(debut);
+}
 
-bool finitPar(std::string_view texte, std::string_view fin) { return texte.ends_with(fin); }
+bool finitPar(std::string_view texte, std::string_view fin) {
+    return texte.ends_with(fin);
+}
 
 }  // namespace util

@@ -9,8 +9,8 @@
 // its modifiers, count as one. Bytes that are no UTF-8 are carried through unharmed, each counting as one character.
 namespace util {
 
-[[nodiscard]] std::size_t longueur(std::string_view texte);                    // in characters
-[[nodiscard]] std::string coupe(std::string_view texte, std::size_t nombre);   // the first `nombre` characters
+[[nodiscard]] std::size_t longueur(std::string_view texte);                      // in characters
+[[nodiscard]] std::string coupe(std::string_view texte, std::size_t nombre);     // the first `nombre` characters
 [[nodiscard]] std::vector<std::string_view> caracteres(std::string_view texte);  // views into `texte`
 
 // Case by characters, one to one: ß stays ß, so that the number of characters never changes.

@@ -54,4 +54,7 @@ template <typename Change>
 [[nodiscard]] UChar32 casseRepliee(UChar32 point);
 [[nodiscard]] UChar32 sansAccent(UChar32 point);
 
+// Where `attendu` ends in `texte` when it stands at `position`, whatever its letter case; npos when it does not.
+[[nodiscard]] std::size_t finSansCasse(std::string_view texte, std::size_t position, std::string_view attendu);
+
 }  // namespace util
