@@ -1,0 +1,54 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+#include <stdlib.h>
+
+namespace doubles {
+
+// A folder of its own for one test, deleted with all it holds. Names are relative to it; a name with folders makes them.
+class DossierTemporaire {
+  public:
+    DossierTemporaire() {
+        std::string modele = (std::filesystem::temp_directory_path() / "ambrelis-XXXXXX").string();
+        if (!mkdtemp(modele.data())) throw std::runtime_error("no temporary folder: " + modele);
+        m_chemin = modele + "/";
+    }
+    DossierTemporaire(const DossierTemporaire&) = delete;
+    DossierTemporaire& operator=(const DossierTemporaire&) = delete;
+    ~DossierTemporaire() {
+        std::error_code ignoree;
+        // A test may have made a folder read-only.
+        std::filesystem::permissions(m_chemin, std::filesystem::perms::owner_all, ignoree);
+        std::filesystem::remove_all(m_chemin, ignoree);
+    }
+
+    [[nodiscard]] const std::string& chemin() const { return m_chemin; }  // with its final "/"
+    [[nodiscard]] std::string chemin(std::string_view nom) const { return m_chemin + std::string(nom); }
+
+    // Answers the whole path.
+    std::string ecrit(std::string_view nom, std::string_view octets) const {
+        const std::string complet = chemin(nom);
+        std::filesystem::create_directories(std::filesystem::path(complet).parent_path());
+        std::ofstream(complet, std::ios::binary).write(octets.data(), static_cast<std::streamsize>(octets.size()));
+        return complet;
+    }
+    // The bytes of a file; throws when it is not there, so that an absent file is never taken for an empty one.
+    [[nodiscard]] std::string lit(std::string_view nom) const {
+        std::ifstream fichier(chemin(nom), std::ios::binary);
+        if (!fichier) throw std::runtime_error("no such file: " + chemin(nom));
+        return {std::istreambuf_iterator<char>(fichier), {}};
+    }
+    [[nodiscard]] bool existe(std::string_view nom) const { return std::filesystem::exists(chemin(nom)); }
+
+  private:
+    std::string m_chemin;
+};
+
+}  // namespace doubles
