@@ -1,8 +1,8 @@
 #pragma once
 
-#include <array>
-
 #include "platform/ecran/Controles.h"
+
+#include <array>
 
 namespace edit {
 
@@ -16,11 +16,11 @@ struct EtatAjout {
     // Automatic page.
     ecran::ZoneTexte txtCheminAjoutAuto;
     ecran::Bouton cmdParcourir2, cmdAjoutAuto;
-    ecran::Etiquette lblNbFilms;                            // how many sheets the folder holds
-    ecran::Etiquette lblProgression;                        // the sheet being imported
+    ecran::Etiquette lblNbFilms;      // how many sheets the folder holds
+    ecran::Etiquette lblProgression;  // the sheet being imported
     ecran::Progression ProgressBar1;
     ecran::ZoneTexte txtRechInternet;
-    std::array<ecran::BoutonOption, 4> OptionTelecharge;    // by title, director, actor, year
+    std::array<ecran::BoutonOption, 4> OptionTelecharge;  // by title, director, actor, year
     ecran::Bouton cmdTelecharge;
 
     // Manual page. Text3: 0 title, 1 director, 2 year, 3 duration, 4 actors.
@@ -29,8 +29,8 @@ struct EtatAjout {
     ecran::Liste Combo3;  // origin
     ecran::Liste Combo4;  // production
     ecran::ZoneTexte txtResume;
-    ecran::Etiquette lblImage;  // path of the poster chosen for the new film
-    ecran::Bouton cmdAjoutFilm; // its caption is the mode
+    ecran::Etiquette lblImage;   // path of the poster chosen for the new film
+    ecran::Bouton cmdAjoutFilm;  // its caption is the mode
 
     EtatAjout() {
         cmdAjoutFilm.Caption = "Ajouter";
