@@ -1,13 +1,13 @@
 #pragma once
 
-#include <memory>
-#include <string>
-
 #include "app/Etats.h"
 #include "platform/dialogues/Dialogues.h"
 #include "platform/ecran/Ecran.h"
 #include "platform/systeme/Documents.h"
 #include "platform/systeme/Horloge.h"
+
+#include <memory>
+#include <string>
 
 namespace app {
 

@@ -1,0 +1,59 @@
+#include "app/CommandesAVenir.h"
+
+#include "app/Etats.h"
+
+namespace app {
+
+namespace {
+
+template <typename... Controles>
+void grise(Controles&... controles) {
+    ((controles.Enabled = false), ...);
+}
+
+template <typename... Tableaux>
+void griseTous(Tableaux&... tableaux) {
+    const auto griseTableau = [](auto& tableau) {
+        for (auto& controle : tableau)
+            controle.Enabled = false;
+    };
+    (griseTableau(tableaux), ...);
+}
+
+void griseFiche(browse::EtatFiche& fiche) {
+    grise(fiche.cmdModifieNote);
+    grise(fiche.cmdModifierTitre);
+    grise(fiche.cmdSupprimerTitre);
+    grise(fiche.cmdCreeFichierTxt);
+    grise(fiche.cmdFichiersFilm);
+    griseTous(fiche.Option1, fiche.Text10, fiche.Combo7, fiche.Command2);
+    grise(fiche.cmdValiderInfosPossessions, fiche.cmdRaffraichirListe);
+}
+
+void griseFonctions(EtatFonctions& fonctions) {
+    grise(fonctions.cmdCompacter);
+    grise(fonctions.cmdInfosBase);
+    grise(fonctions.cmdSupprInfosPerso);
+    grise(fonctions.cmdPonctuation);
+    grise(fonctions.cmdMultiSuppress, fonctions.cmdSupprTitresSelect);
+    griseTous(fonctions.Option4);
+    grise(fonctions.cmdCreerListe);
+    grise(fonctions.cmdMajBase);
+    griseTous(fonctions.Combo6);
+}
+
+void griseAjout(edit::EtatAjout& ajout) {
+    grise(ajout.Command13[1]);
+    grise(ajout.Command13[2]);
+    grise(ajout.cmdTelecharge);
+}
+
+}  // namespace
+
+void griseCommandesAVenir(Etats& etats) {
+    griseFiche(etats.fiche);
+    griseFonctions(etats.fonctions);
+    griseAjout(etats.ajout);
+}
+
+}  // namespace app

@@ -1,0 +1,24 @@
+#include "app/Extensions.h"
+
+#include <algorithm>
+
+namespace app {
+
+std::size_t litExtensions(const std::vector<std::string>& lignesDuFichier, TableExtensions& table) {
+    const std::size_t nombre = std::min((lignesDuFichier.size() + 1) / 2, TableExtensions::kLignesLues);
+    for (std::size_t i = 0; i < nombre; ++i) {
+        const std::size_t programme = 2 * i + 1;
+        table.lignes[i] = {lignesDuFichier[2 * i],
+                           programme < lignesDuFichier.size() ? lignesDuFichier[programme] : ""};
+    }
+    return nombre;
+}
+
+std::string texteExtensions(const TableExtensions& table, std::size_t nombre) {
+    std::string texte;
+    for (std::size_t i = 0; i < std::min(nombre, TableExtensions::kLignes); ++i)
+        texte += table.lignes[i][0] + '\n' + table.lignes[i][1] + '\n';
+    return texte;
+}
+
+}  // namespace app
