@@ -98,6 +98,10 @@ bool egalSansCasse(std::string_view gauche, std::string_view droite) {
     return finSansCasse(gauche, 0, droite) == gauche.size();
 }
 
+std::string cleSansCasse(std::string_view texte) {
+    return transforme(texte, casseRepliee);
+}
+
 std::string sansAccents(std::string_view texte) {
     std::string resultat;
     resultat.reserve(texte.size());

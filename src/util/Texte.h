@@ -18,6 +18,8 @@ namespace util {
 [[nodiscard]] std::string majuscules(std::string_view texte);
 // Equal but for letter case.
 [[nodiscard]] bool egalSansCasse(std::string_view gauche, std::string_view droite);
+// The same key for all texts that egalSansCasse calls equal.
+[[nodiscard]] std::string cleSansCasse(std::string_view texte);
 
 // é ë è ê -> e, â à ä -> a, ï î -> i, ô ö -> o, ù ü û -> u, ç -> c; lower-case letters only, nothing else.
 [[nodiscard]] std::string sansAccents(std::string_view texte);

@@ -15,7 +15,7 @@ namespace fichiers {
 // of its parts (names copied from Windows). Empty when there is none.
 [[nodiscard]] std::optional<std::string> trouve(const std::string& chemin);
 
-[[nodiscard]] bool existe(const std::string& chemin);         // a file that trouve finds; a folder is none
+[[nodiscard]] bool existe(const std::string& chemin);  // a file that trouve finds; a folder is none
 [[nodiscard]] bool dossierExiste(const std::string& chemin);
 [[nodiscard]] std::int64_t longueur(const std::string& chemin);  // in bytes, -1 when there is no such file
 
@@ -23,7 +23,8 @@ namespace fichiers {
 [[nodiscard]] std::optional<std::string> lit(const std::string& chemin, std::int64_t limite = INT64_MAX);
 // The lines of a text of the outside world, decoded to UTF-8, ended by CR LF, LF or CR; at most `maximum` of them.
 // NULs are carried. Empty when the file cannot be read.
-[[nodiscard]] std::optional<std::vector<std::string>> litLignes(const std::string& chemin, std::size_t maximum = SIZE_MAX);
+[[nodiscard]] std::optional<std::vector<std::string>> litLignes(const std::string& chemin,
+                                                                std::size_t maximum = SIZE_MAX);
 
 // Writes in place: for working files, which need not survive.
 bool ecrit(const std::string& chemin, std::string_view octets);

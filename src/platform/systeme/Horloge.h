@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ctime>
 #include <string>
 
 namespace systeme {
@@ -16,6 +17,9 @@ class HorlogeSysteme final : public Horloge {
   public:
     [[nodiscard]] std::string dateDuJour() const override;
 };
+
+// A moment's day in the same form, in the machine's time zone.
+[[nodiscard]] std::string dateCourte(std::time_t instant);
 
 // The user's decimal separator; the comma where the locale is C or POSIX.
 [[nodiscard]] std::string separateurDecimal();

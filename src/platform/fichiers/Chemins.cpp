@@ -1,0 +1,37 @@
+#include "platform/fichiers/Fichiers.h"
+
+namespace fichiers {
+
+namespace {
+
+std::size_t debutDuNom(std::string_view chemin) {
+    const std::size_t separateur = chemin.find_last_of("/\\");
+    return separateur == std::string_view::npos ? 0 : separateur + 1;
+}
+
+// Where the point of the extension stands, npos without one. A leading point hides a file and starts no extension.
+std::size_t pointDeLExtension(std::string_view chemin) {
+    const std::size_t point = chemin.rfind('.');
+    return point == std::string_view::npos || point <= debutDuNom(chemin) ? std::string_view::npos : point;
+}
+
+}  // namespace
+
+std::string nomDeFichier(std::string_view chemin) {
+    return std::string(chemin.substr(debutDuNom(chemin)));
+}
+
+std::string dossierDe(std::string_view chemin) {
+    return std::string(chemin.substr(0, debutDuNom(chemin)));
+}
+
+std::string extension(std::string_view chemin) {
+    const std::size_t point = pointDeLExtension(chemin);
+    return point == std::string_view::npos ? "" : std::string(chemin.substr(point + 1));
+}
+
+std::string sansExtension(std::string_view chemin) {
+    return std::string(chemin.substr(0, pointDeLExtension(chemin)));
+}
+
+}  // namespace fichiers

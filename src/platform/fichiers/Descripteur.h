@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+// For this room only: an open file, closed with its owner.
+namespace fichiers {
+
+class Descripteur {
+  public:
+    // Never waits: a pipe without its other end gives an error or an empty answer.
+    Descripteur(const std::string& chemin, int mode, mode_t droits = 0)
+        : m_numero(open(chemin.c_str(), mode | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, droits)) {}
+    Descripteur(const Descripteur&) = delete;
+    Descripteur& operator=(const Descripteur&) = delete;
+    ~Descripteur() { ferme(); }
+
+    [[nodiscard]] int numero() const { return m_numero; }
+    [[nodiscard]] bool estOuvert() const { return m_numero >= 0; }
+    [[nodiscard]] bool estFichier() const {
+        struct stat infos {};
+        return estOuvert() && fstat(m_numero, &infos) == 0 && S_ISREG(infos.st_mode);
+    }
+    // False when the system could not take the last bytes.
+    bool ferme() {
+        const int numero = std::exchange(m_numero, -1);
+        return numero < 0 || close(numero) == 0;
+    }
+
+  private:
+    int m_numero;
+};
+
+// All the bytes or false.
+[[nodiscard]] bool ecritTout(int descripteur, std::string_view octets);
+// Up to `taille` bytes, fewer only at the end of the file; -1 on error.
+[[nodiscard]] ssize_t litBloc(int descripteur, char* tampon, std::size_t taille);
+
+}  // namespace fichiers

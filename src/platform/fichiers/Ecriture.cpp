@@ -1,0 +1,129 @@
+#include "platform/fichiers/Descripteur.h"
+#include "platform/fichiers/Fichiers.h"
+
+#include <array>
+#include <cerrno>
+#include <memory>
+
+#include <stdio.h>
+#include <stdlib.h>
+
+namespace fichiers {
+
+namespace {
+
+constexpr mode_t kDroitsOrdinaires = 0666;  // before the user's umask
+
+// The file that a link leads to, so that the link itself stays.
+std::string ciblePhysique(const std::string& chemin) {
+    const std::unique_ptr<char, decltype(&free)> reel(realpath(chemin.c_str(), nullptr), &free);
+    return reel ? reel.get() : chemin;
+}
+
+// A new file beside `cible`, gone again unless it takes the target's place. A target that is no ordinary file, or that
+// the user may not write, is refused.
+class FichierNeuf {
+  public:
+    explicit FichierNeuf(const std::string& cible)
+        : m_cible(ciblePhysique(cible)),
+          m_chemin(dossierDe(m_cible) + nomProvisoire()),
+          m_fichier(m_chemin, O_WRONLY | O_CREAT | O_EXCL, kDroitsOrdinaires) {
+        struct stat ancien {};
+        if (!m_fichier.estOuvert() || stat(m_cible.c_str(), &ancien) != 0) return;
+        m_refuse = !S_ISREG(ancien.st_mode) || access(m_cible.c_str(), W_OK) != 0 ||
+                   fchmod(m_fichier.numero(), ancien.st_mode & 07777) != 0;
+    }
+    FichierNeuf(const FichierNeuf&) = delete;
+    FichierNeuf& operator=(const FichierNeuf&) = delete;
+    ~FichierNeuf() {
+        if (m_fichier.estOuvert() || m_aEffacer) unlink(m_chemin.c_str());
+    }
+
+    [[nodiscard]] bool estPret() const { return m_fichier.estOuvert() && !m_refuse; }
+    [[nodiscard]] int numero() const { return m_fichier.numero(); }
+    [[nodiscard]] bool synchronise() const { return fsync(m_fichier.numero()) == 0; }
+
+    [[nodiscard]] bool prendLaPlace() {
+        m_aEffacer = true;
+        if (!m_fichier.ferme() || rename(m_chemin.c_str(), m_cible.c_str()) != 0) return false;
+        m_aEffacer = false;
+        return true;
+    }
+    // The rename has happened: where a folder cannot be synced, nothing more can be done.
+    void synchroniseDossier() const {
+        const std::string dossier = dossierDe(m_cible);
+        const Descripteur ouvert(dossier.empty() ? "." : dossier, O_RDONLY | O_DIRECTORY);
+        if (ouvert.estOuvert()) fsync(ouvert.numero());
+    }
+
+  private:
+    // Short whatever the target's name is, and never that of a file left by a killed run of another number.
+    static std::string nomProvisoire() {
+        static unsigned compteur = 0;
+        struct timespec instant {};
+        clock_gettime(CLOCK_REALTIME, &instant);
+        return ".ambrelis-" + std::to_string(getpid()) + "-" + std::to_string(instant.tv_nsec) + "-" +
+               std::to_string(++compteur) + ".tmp";
+    }
+
+    std::string m_cible;
+    std::string m_chemin;
+    Descripteur m_fichier;
+    bool m_refuse = false;
+    bool m_aEffacer = false;
+};
+
+bool verse(int source, int cible) {
+    std::array<char, 1 << 16> tampon;
+    for (;;) {
+        const ssize_t lus = litBloc(source, tampon.data(), tampon.size());
+        if (lus <= 0) return lus == 0;
+        if (!ecritTout(cible, {tampon.data(), static_cast<std::size_t>(lus)})) return false;
+    }
+}
+
+bool memeFichier(const std::string& a, const std::string& b) {
+    struct stat infosA {
+    }, infosB{};
+    return stat(a.c_str(), &infosA) == 0 && stat(b.c_str(), &infosB) == 0 && infosA.st_dev == infosB.st_dev &&
+           infosA.st_ino == infosB.st_ino;
+}
+
+}  // namespace
+
+bool ecritTout(int descripteur, std::string_view octets) {
+    while (!octets.empty()) {
+        const ssize_t pris = write(descripteur, octets.data(), octets.size());
+        if (pris >= 0)
+            octets.remove_prefix(static_cast<std::size_t>(pris));
+        else if (errno != EINTR)
+            return false;
+    }
+    return true;
+}
+
+bool ecrit(const std::string& chemin, std::string_view octets) {
+    Descripteur fichier(chemin, O_WRONLY | O_CREAT, kDroitsOrdinaires);
+    return fichier.estFichier() && ftruncate(fichier.numero(), 0) == 0 && ecritTout(fichier.numero(), octets) &&
+           fichier.ferme();
+}
+
+bool remplace(const std::string& chemin, std::string_view octets) {
+    FichierNeuf neuf(chemin);
+    if (!neuf.estPret() || !ecritTout(neuf.numero(), octets) || !neuf.synchronise() || !neuf.prendLaPlace())
+        return false;
+    neuf.synchroniseDossier();
+    return true;
+}
+
+bool copie(const std::string& de, const std::string& vers) {
+    const auto source = trouve(de);
+    if (!source) return false;
+    const Descripteur lue(*source, O_RDONLY);
+    if (!lue.estFichier()) return false;
+    if (memeFichier(*source, vers)) return true;
+    FichierNeuf neuf(vers);
+    return neuf.estPret() && verse(lue.numero(), neuf.numero()) && neuf.prendLaPlace();
+}
+
+}  // namespace fichiers
