@@ -23,9 +23,11 @@ class Arbre {
     [[nodiscard]] std::string Key(int indice) const;  // "T" + group, "K" + position
     [[nodiscard]] std::string_view Text(int indice) const;
     void changeTexteGroupe(int indice, std::string texte);
-    [[nodiscard]] std::uint32_t position(int indice) const { return noeud(indice).position; }  // 0 for a heading
+    [[nodiscard]] std::uint32_t position(int indice) const { return noeud(indice).position; }      // 0 for a heading
     [[nodiscard]] int Parent(int indice) const { return static_cast<int>(noeud(indice).parent); }  // 0: the root
-    [[nodiscard]] int rang(int indice) const { return static_cast<int>(noeud(indice).rang); }  // among its siblings, from 0
+    [[nodiscard]] int rang(int indice) const {
+        return static_cast<int>(noeud(indice).rang);
+    }                                                                          // among its siblings, from 0
     [[nodiscard]] const std::vector<std::int32_t>& enfants(int indice) const;  // of a heading, or of the root (0)
 
     [[nodiscard]] int generation() const { return m_generation; }

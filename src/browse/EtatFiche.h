@@ -1,8 +1,8 @@
 #pragma once
 
-#include <array>
-
 #include "platform/ecran/Controles.h"
+
+#include <array>
 
 namespace browse {
 
@@ -12,10 +12,10 @@ struct EtatFiche {
     std::array<ecran::Etiquette, 7> Label1;
     ecran::Etiquette lblRealisateur;
     ecran::Etiquette lblInfosActeurs;
-    ecran::ZoneTexte Text1;      // summary
-    ecran::Etiquette lblNote;    // "Note : 8/10"
-    ecran::Image Image1;         // the poster
-    ecran::Etiquette Label12;    // poster status: loading, or "Pas d'image"
+    ecran::ZoneTexte Text1;    // summary
+    ecran::Etiquette lblNote;  // "Note : 8/10"
+    ecran::Image Image1;       // the poster
+    ecran::Etiquette Label12;  // poster status: loading, or "Pas d'image"
     std::array<ecran::Cadre, 2> frameGeneralites;
     std::array<ecran::Cadre, 2> frameAutresInfos;
     ecran::Bouton cmdGeneralites, cmdAutresInfos;  // hidden where the layout shows both pages

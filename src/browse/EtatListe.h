@@ -1,11 +1,11 @@
 #pragma once
 
+#include "browse/Arbre.h"
+#include "platform/ecran/Controles.h"
+
 #include <array>
 #include <set>
 #include <string>
-
-#include "browse/Arbre.h"
-#include "platform/ecran/Controles.h"
 
 namespace browse {
 
@@ -15,9 +15,9 @@ inline constexpr int kTriTitre1 = 0, kTriTitre2 = 1, kTriGenre = 4, kTriNote = 7
 // TreeView1: the nodes, and what the user and the program did to them.
 struct VueArbre : ecran::Controle {
     Arbre Nodes;
-    int SelectedItem = 0;     // index of the highlighted node, 0 for none; the window scrolls and expands to it
+    int SelectedItem = 0;  // index of the highlighted node, 0 for none; the window scrolls and expands to it
     bool Checkboxes = false;
-    std::set<int> coches;     // indexes of the ticked nodes
+    std::set<int> coches;  // indexes of the ticked nodes
 };
 
 // The left side of the window and what the listing remembers.
@@ -29,12 +29,12 @@ struct EtatListe {
     ecran::CaseACocher AffStats;
     VueArbre TreeView1;
 
-    int noeudChoisi = -1;          // index of the node whose sheet was asked for, -1 for none
-    std::string cleCliquee;        // key of the node last clicked or right-clicked
-    int triDeLArbre = 0;           // the sort the tree was filled with: a refused sort leaves it as it was
-    bool occupe = false;           // the program itself is changing ChoixZone or ChoixTri
-    std::string critereRecherche;  // search condition, empty when no search was made
-    int zoneRecherche = kZoneTous; // saved search zone
+    int noeudChoisi = -1;           // index of the node whose sheet was asked for, -1 for none
+    std::string cleCliquee;         // key of the node last clicked or right-clicked
+    int triDeLArbre = 0;            // the sort the tree was filled with: a refused sort leaves it as it was
+    bool occupe = false;            // the program itself is changing ChoixZone or ChoixTri
+    std::string critereRecherche;   // search condition, empty when no search was made
+    int zoneRecherche = kZoneTous;  // saved search zone
 };
 
 }  // namespace browse

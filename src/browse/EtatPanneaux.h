@@ -19,7 +19,8 @@ struct EtatPanneaux {
         cadre.Visible = true;
     }
     void montreAucun() {
-        for (ecran::Cadre* c : {&framePresentation, &frameFiche, &frameRecherche, &frameListeFonctions, &frameMultiSuppression})
+        for (ecran::Cadre* c :
+             {&framePresentation, &frameFiche, &frameRecherche, &frameListeFonctions, &frameMultiSuppression})
             c->Visible = false;
     }
 };

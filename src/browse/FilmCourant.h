@@ -12,7 +12,7 @@ struct FilmCourant {
     std::string realisateur;
     bool fichiersPresents = false;        // its first attached file is set
     std::array<std::string, 3> fichiers;  // the attached files, for the launcher
-    std::string affiche;                  // "" none, "JPG" + file name, or "STO" alone: the bytes are in the temporary file
+    std::string affiche;  // "" none, "JPG" + file name, or "STO" alone: the bytes are in the temporary file
 };
 
 }  // namespace browse

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "db/Chemins.h"
+#include "db/EtatStockage.h"
+#include "platform/dao/Valeur.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
-
-#include "db/Chemins.h"
-#include "db/EtatStockage.h"
-#include "platform/dao/Valeur.h"
 
 // Where a film's poster is, as its `Affiche` column tells: nothing, "JPG" + the name of a file in the images folder, or
 // "STO" + the picture's bytes.

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <array>
-
 #include "platform/ecran/Controles.h"
+
+#include <array>
 
 namespace db {
 

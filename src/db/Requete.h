@@ -1,9 +1,9 @@
 #pragma once
 
-#include <string>
-
 #include "platform/dao/Database.h"
 #include "platform/dialogues/Dialogues.h"
+
+#include <string>
 
 namespace db {
 

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "browse/EtatFiche.h"
+#include "db/Chemins.h"
+#include "platform/ecran/Ecran.h"
+
+namespace browse {
+
+// The box that a poster fills as far as its shape allows, in twips.
+inline constexpr int kLargeurAffiche = 2895;
+inline constexpr int kHauteurAffiche = 4455;
+
+// Loads the temporary poster file as the sheet's and the viewer's picture, fitted and centred in its box; without a file
+// or with a broken one, the caption that offers to add a poster.
+class ChargeAffiche {
+  public:
+    ChargeAffiche(EtatFiche& fiche, const db::Chemins& chemins, ecran::Images& images, ecran::Ecran& ecran)
+        : m_fiche(fiche), m_chemins(chemins), m_images(images), m_ecran(ecran) {}
+
+    void operator()();
+
+  private:
+    void place(const ecran::TailleImage& taille);
+
+    EtatFiche& m_fiche;
+    const db::Chemins& m_chemins;
+    ecran::Images& m_images;
+    ecran::Ecran& m_ecran;
+};
+
+}  // namespace browse
