@@ -1,0 +1,35 @@
+# The program folder: the executable and the files it looks for beside itself. Copied elsewhere, the folder runs there.
+
+add_executable(fabrique_modele "${PROJECT_SOURCE_DIR}/src/db/modele/main.cpp")
+target_link_libraries(fabrique_modele PRIVATE db ambrelis_options)
+add_custom_command(OUTPUT "${AMBRELIS_DOSSIER}/Modele.dat"
+  COMMAND "${CMAKE_COMMAND}" -E make_directory "${AMBRELIS_DOSSIER}"
+  COMMAND fabrique_modele "${AMBRELIS_DOSSIER}/Modele.dat"
+  DEPENDS fabrique_modele
+  COMMENT "Making the empty base Modele.dat" VERBATIM)
+
+# The program rewrites Extensions.txt with the user's choices: ours is copied where there is none or when ours changed.
+set(extensions "${PROJECT_SOURCE_DIR}/src/app/Extensions.txt")
+add_custom_command(OUTPUT "${AMBRELIS_DOSSIER}/Extensions.txt"
+  COMMAND "${CMAKE_COMMAND}" "-DSOURCE=${extensions}" "-DDOSSIER=${AMBRELIS_DOSSIER}"
+          -P "${PROJECT_SOURCE_DIR}/cmake/CopieExtensions.cmake"
+  DEPENDS "${extensions}"
+  COMMENT "Copying Extensions.txt" VERBATIM)
+
+# Qt's own French, so that the standard boxes are French also where Qt's catalogues are not installed.
+get_filename_component(prefixe_qt "${Qt6_DIR}/../../../.." ABSOLUTE)
+find_file(CATALOGUE_QT_FRANCAIS qtbase_fr.qm NO_DEFAULT_PATH REQUIRED
+  PATHS "${prefixe_qt}/${QT6_INSTALL_TRANSLATIONS}" "${QT6_INSTALL_PREFIX}/${QT6_INSTALL_TRANSLATIONS}"
+        /usr/share/qt6/translations)
+add_custom_command(OUTPUT "${AMBRELIS_DOSSIER}/traductions/qtbase_fr.qm"
+  COMMAND "${CMAKE_COMMAND}" -E make_directory "${AMBRELIS_DOSSIER}/traductions"
+  COMMAND "${CMAKE_COMMAND}" -E copy "${CATALOGUE_QT_FRANCAIS}" "${AMBRELIS_DOSSIER}/traductions/qtbase_fr.qm"
+  DEPENDS "${CATALOGUE_QT_FRANCAIS}"
+  COMMENT "Copying Qt's French catalogue" VERBATIM)
+
+add_custom_target(dossier_programme ALL
+  DEPENDS "${AMBRELIS_DOSSIER}/Modele.dat" "${AMBRELIS_DOSSIER}/Extensions.txt"
+          "${AMBRELIS_DOSSIER}/traductions/qtbase_fr.qm")
+if(TARGET Ambrelis)
+  add_dependencies(dossier_programme Ambrelis)
+endif()
