@@ -1,0 +1,44 @@
+#include "util/ListeAuto.h"
+#include "util/NomsFichiers.h"
+#include "util/Sql.h"
+
+#include <gtest/gtest.h>
+
+TEST(NomsFichiers, TheNineForbiddenCharactersGo) {
+    EXPECT_EQ(util::nettoieNomFichier("\"Où\\est/la?<fin>|*:\" - É.jpg"), "Oùestlafin - É.jpg");
+    EXPECT_EQ(util::nettoieNomFichier("a:b", "_"), "a_b");
+}
+
+TEST(NomsFichiers, OneSeparatorAtTheEnd) {
+    EXPECT_EQ(util::avecSeparateur("Images"), "Images/");
+    EXPECT_EQ(util::avecSeparateur("Images/"), "Images/");
+    EXPECT_EQ(util::avecSeparateur("C:\\Images\\"), "C:\\Images\\");
+    EXPECT_EQ(util::avecSeparateur(""), "");
+}
+
+TEST(Sql, QuotesAreDoubledApostrophesStay) {
+    EXPECT_EQ(util::entreGuillemets("L'\"œuvre\""), "\"L'\"\"œuvre\"\"\"");
+    EXPECT_EQ(util::entreGuillemets(""), "\"\"");
+}
+
+TEST(ListeAuto, AddsFindsRemovesSortsAndDropsDoubles) {
+    util::ListeAuto liste;
+    for (const char* texte : {"c", "a", "c", "b", "a"})
+        liste.ajoute(texte);
+    const auto contenu = [&] {
+        std::string tout;
+        for (std::size_t i = 0; i < liste.taille(); ++i)
+            tout += liste.element(i);
+        return tout;
+    };
+    EXPECT_EQ(liste.indiceDe("b"), 3u);
+    EXPECT_EQ(liste.indiceDe("z"), liste.taille());
+    liste.dedoublonne();
+    EXPECT_EQ(contenu(), "cab");
+    liste.trie();
+    EXPECT_EQ(contenu(), "abc");
+    EXPECT_TRUE(liste.retire(1));
+    EXPECT_FALSE(liste.retire(2));
+    EXPECT_EQ(contenu(), "ac");
+    EXPECT_EQ(liste.element(99), "");
+}
