@@ -1,0 +1,138 @@
+#include "architecture/Fleches.h"
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+#include <optional>
+#include <regex>
+
+namespace fs = std::filesystem;
+
+namespace architecture {
+namespace {
+
+// A room may include itself and every room of a lower level.
+const std::map<std::string, int> kNiveaux = {
+    {"util", 0},
+    {"platform/dao", 1},
+    {"platform/dialogues", 1},
+    {"platform/ecran", 1},
+    {"platform/fichiers", 1},
+    {"platform/systeme", 1},
+    {"platform/texteriche", 1},
+    {"db", 2},
+    {"browse", 3},
+    {"edit", 4},
+    {"view", 4},
+    {"acquire", 5},
+    {"export", 5},
+    {"app", 6},
+    {"ui", 7},
+};
+
+// What only one room may touch: a header, or a call.
+struct Reserve {
+    std::regex motif;
+    std::string piece;
+};
+const std::vector<Reserve> kEntetesReserves = {
+    {std::regex(R"(Q[A-Z].*|Qt.*)"), "ui"},
+    {std::regex(R"(sqlite3\.h)"), "platform/dao"},
+    {std::regex(R"(spawn\.h|sys/wait\.h)"), "platform/systeme"},
+};
+const std::vector<Reserve> kAppelsReserves = {
+    {std::regex(R"(\b(v?fork|popen|system|posix_spawnp?|exec[lv]p?e?)\s*\()"), "platform/systeme"},
+};
+
+// The room a path written from src/ belongs to; nothing when it belongs to none.
+std::optional<std::string> pieceDe(const std::string& chemin) {
+    for (const auto& [piece, niveau] : kNiveaux) {
+        if (chemin.starts_with(piece + "/")) return piece;
+    }
+    return std::nullopt;
+}
+
+std::string sansTextesNiCommentaires(const std::string& source) {
+    static const std::regex motif(R"(//[^\n]*|/\*[^]*?\*/|"(\\.|[^"\\\n])*"|'(\\.|[^'\\\n])')");
+    std::string reste;
+    auto debut = source.cbegin();
+    for (std::sregex_iterator it(source.begin(), source.end(), motif), fin; it != fin; ++it) {
+        reste.append(debut, source.cbegin() + it->position());
+        const std::string trouve = it->str();
+        reste.append(static_cast<std::size_t>(std::count(trouve.begin(), trouve.end(), '\n')), '\n');
+        debut = source.cbegin() + it->position() + it->length();
+    }
+    return reste.append(debut, source.cend());
+}
+
+std::string fauteInclusion(const std::string& piece, char ouvrant, const std::string& cible) {
+    for (const Reserve& reserve : kEntetesReserves) {
+        if (piece != reserve.piece && std::regex_match(cible, reserve.motif)) {
+            return cible + " belongs to " + reserve.piece + " alone";
+        }
+    }
+    if (ouvrant == '<' || (piece == "ui" && cible.ends_with(".moc"))) return {};
+    const auto visee = pieceDe(cible);
+    if (!visee || cible.find("..") != std::string::npos) return "\"" + cible + "\" is not written from a room of src/";
+    if (*visee == piece || kNiveaux.at(*visee) < kNiveaux.at(piece)) return {};
+    return piece + " may not look at " + *visee;
+}
+
+std::string fauteAppel(const std::string& piece, const std::string& ligne) {
+    for (const Reserve& reserve : kAppelsReserves) {
+        std::smatch appel;
+        if (piece != reserve.piece && std::regex_search(ligne, appel, reserve.motif)) {
+            return appel.str(1) + "() belongs to " + reserve.piece + " alone";
+        }
+    }
+    return {};
+}
+
+std::vector<std::string> lignes(const std::string& texte) {
+    std::vector<std::string> resultat;
+    std::istringstream flux(texte);
+    for (std::string ligne; std::getline(flux, ligne);)
+        resultat.push_back(ligne);
+    return resultat;
+}
+
+void examine(const fs::path& fichier, const std::string& nom, std::vector<std::string>& fautes) {
+    const auto piece = pieceDe(nom);
+    if (!piece) {
+        fautes.push_back(nom + ":1: stands in no room");
+        return;
+    }
+    static const std::regex inclusion(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"].*)");
+    std::ifstream flux(fichier, std::ios::binary);
+    const std::string source{std::istreambuf_iterator<char>(flux), {}};
+    const auto brutes = lignes(source);
+    const auto nues = lignes(sansTextesNiCommentaires(source));
+    for (std::size_t i = 0; i < brutes.size(); ++i) {
+        // In a comment spread over lines nothing is left of the line once comments are gone.
+        const std::string nue = i < nues.size() ? nues[i] : "";
+        std::smatch morceaux;
+        const bool estInclusion =
+            nue.find('#') != std::string::npos && std::regex_match(brutes[i], morceaux, inclusion);
+        const std::string faute =
+            estInclusion ? fauteInclusion(*piece, morceaux.str(1)[0], morceaux.str(2)) : fauteAppel(*piece, nue);
+        if (!faute.empty()) fautes.push_back(nom + ":" + std::to_string(i + 1) + ": " + faute);
+    }
+}
+
+}  // namespace
+
+std::vector<std::string> fautes(const fs::path& src) {
+    std::map<std::string, fs::path> sources;
+    for (const auto& entree : fs::recursive_directory_iterator(src)) {
+        const auto extension = entree.path().extension();
+        if (extension == ".h" || extension == ".cpp") {
+            sources[fs::relative(entree.path(), src).generic_string()] = entree.path();
+        }
+    }
+    std::vector<std::string> trouvees;
+    for (const auto& [nom, fichier] : sources)
+        examine(fichier, nom, trouvees);
+    return trouvees;
+}
+
+}  // namespace architecture
