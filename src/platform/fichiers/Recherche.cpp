@@ -2,6 +2,7 @@
 #include "util/Texte.h"
 
 #include <algorithm>
+#include <climits>
 #include <ctime>
 #include <memory>
 #include <unordered_map>
@@ -31,47 +32,51 @@ NomsParCle litNoms(const std::string& dossier) {
     return noms;
 }
 
-// The names of the folder searched last. A batch looks for one missing file after the other in the same folder, and
+std::int64_t nanosecondes(const timespec& instant) {
+    return instant.tv_sec * std::int64_t{1'000'000'000} + instant.tv_nsec;
+}
+
+// The names of the folders searched last. A batch looks for one missing file after the other in the same folder, and
 // would read thousands of names each time. What is kept serves only while the folder's own date stands, and never when
 // that date was so fresh at the reading that a later change could bear the same.
-class DernierDossier {
+class DossiersLus {
   public:
     const NomsParCle& noms(const std::string& dossier) {
         struct stat infos {};
-        if (stat(dossier.c_str(), &infos) != 0) {
-            m_sur = false;
-            return m_noms = {};
-        }
-        const bool connu = m_sur && dossier == m_dossier && infos.st_ino == m_infos.st_ino &&
-                           infos.st_dev == m_infos.st_dev &&
-                           nanosecondes(infos.st_mtim) == nanosecondes(m_infos.st_mtim);
-        if (connu) return m_noms;
+        if (stat(dossier.c_str(), &infos) != 0) infos = {};
+        if (const auto lu = m_lus.find(dossier); lu != m_lus.end() && vautEncore(lu->second, infos))
+            return lu->second.noms;
+        if (m_lus.size() >= kMaximum) m_lus.clear();
         struct timespec maintenant {};
         clock_gettime(CLOCK_REALTIME, &maintenant);
-        m_sur = nanosecondes(maintenant) - nanosecondes(infos.st_mtim) > kMarge;
-        m_dossier = dossier;
-        m_infos = infos;
-        return m_noms = litNoms(dossier);
+        Lu& lu = m_lus[dossier];
+        lu = {infos, nanosecondes(maintenant) - nanosecondes(infos.st_mtim) > kMarge, litNoms(dossier)};
+        return lu.noms;
     }
 
   private:
-    static constexpr std::int64_t kMarge = 50'000'000;  // several ticks of the clock that dates files
-    static std::int64_t nanosecondes(const timespec& instant) {
-        return instant.tv_sec * std::int64_t{1'000'000'000} + instant.tv_nsec;
+    static constexpr std::size_t kMaximum = 16;         // a path's folders, and a few more
+    static constexpr std::int64_t kMarge = 50'000'000;  // ns: several ticks of the clock that dates files
+
+    struct Lu {
+        struct stat infos;
+        bool sur;
+        NomsParCle noms;
+    };
+    static bool vautEncore(const Lu& lu, const struct stat& infos) {
+        return lu.sur && lu.infos.st_ino == infos.st_ino && lu.infos.st_dev == infos.st_dev &&
+               nanosecondes(lu.infos.st_mtim) == nanosecondes(infos.st_mtim);
     }
 
-    std::string m_dossier;
-    struct stat m_infos {};
-    bool m_sur = false;
-    NomsParCle m_noms;
+    std::unordered_map<std::string, Lu> m_lus;
 };
 
 // The names of `dossier` that are `nom`: as it stands first, then in other letters, in name order.
 std::vector<std::string> candidats(const std::string& dossier, const std::string& nom) {
-    thread_local DernierDossier dernier;
+    thread_local DossiersLus lus;
     std::vector<std::string> resultat;
     if (estLa(dossier + nom)) resultat.push_back(nom);
-    const NomsParCle& noms = dernier.noms(dossier.empty() ? "." : dossier);
+    const NomsParCle& noms = lus.noms(dossier.empty() ? "." : dossier);
     if (const auto memes = noms.find(util::cleSansCasse(nom)); memes != noms.end())
         std::copy_if(memes->second.begin(), memes->second.end(), std::back_inserter(resultat),
                      [&](const std::string& autre) { return autre != nom; });
@@ -102,7 +107,7 @@ std::optional<std::string> suit(const std::string& dossier, std::string_view res
 
 std::optional<std::string> trouve(const std::string& chemin) {
     if (estLa(chemin)) return chemin;
-    if (chemin.empty() || chemin.find('\0') != std::string::npos) return std::nullopt;
+    if (chemin.empty() || chemin.size() >= PATH_MAX || chemin.find('\0') != std::string::npos) return std::nullopt;
     std::string traduit = chemin;
     std::replace(traduit.begin(), traduit.end(), '\\', '/');
     if (estLa(traduit)) return traduit;

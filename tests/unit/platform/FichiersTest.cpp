@@ -55,6 +55,7 @@ TEST(FichiersTrouve, FindsNamesCopiedFromElsewhere) {
         EXPECT_EQ(fichiers::existe(d.chemin(c.cherche)), c.trouve != nullptr) << c.cherche;
     }
     EXPECT_EQ(fichiers::trouve(""), std::nullopt);
+    EXPECT_EQ(fichiers::trouve(d.chemin(std::string(5'000'000, '\\'))), std::nullopt);
     EXPECT_TRUE(fichiers::dossierExiste(d.chemin("Images")));
     EXPECT_FALSE(fichiers::existe(d.chemin("Images")));
 }
