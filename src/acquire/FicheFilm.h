@@ -8,11 +8,12 @@ namespace acquire {
 
 inline constexpr const char* kNonDefini = "Non défini";
 
-// What a .FILM sheet says: its first nine lines, by position.
+// What a .FILM sheet says: its first nine lines, by position, each cut to its column except the summary, so that a line
+// of any length does no harm.
 struct FicheFilm {
     std::string premiereLigne;  // the title as the sheet writes it
-    std::string titre;          // cut to its column, in the house capitals; never empty
-    std::string realisateur;    // cut to its column; never empty
+    std::string titre;          // in the house capitals; never empty
+    std::string realisateur;    // never empty
     std::string annee, origine, genre, duree, acteurs, resume, production;
 };
 

@@ -49,7 +49,4 @@ class EnregistrementFilm {
     dialogues::Dialogues& m_dialogues;
 };
 
-// SELECT of the one film of that title and director, as the entry and its modification ask for it.
-[[nodiscard]] std::string requeteFilm(const std::string& titre, const std::string& realisateur);
-
 }  // namespace edit

@@ -27,6 +27,9 @@ class Ressemblances {
     dialogues::Dialogues& m_dialogues;
 };
 
+// Every film, as both checks of a resemblance read them.
+[[nodiscard]] dao::Recordset ouvreFilmsParTitre(db::Base& base, dialogues::Dialogues& dialogues);
+
 [[nodiscard]] std::string questionRessemblance(std::string_view titre, std::string_view realisateur,
                                                std::string_view ancienTitre, std::string_view ancienRealisateur);
 

@@ -1,0 +1,24 @@
+#include "acquire/CompteFilmsRepertoire.h"
+
+#include "platform/fichiers/Fichiers.h"
+#include "util/Texte.h"
+
+#include <algorithm>
+
+namespace acquire {
+
+bool estFiche(const std::string& nom) {
+    return util::majuscules(fichiers::extension(nom)) == "FILM";
+}
+
+long CompteFilmsRepertoire(const std::string& dossier) {
+    const std::vector<std::string> noms = fichiersDuDossier(dossier);
+    return static_cast<long>(std::count_if(noms.begin(), noms.end(), estFiche));
+}
+
+std::vector<std::string> fichiersDuDossier(const std::string& dossier) {
+    if (dossier.empty()) return {};
+    return fichiers::listeFichiers(dossier);
+}
+
+}  // namespace acquire

@@ -1,0 +1,157 @@
+#include "acquire/PassageImport.h"
+
+#include "db/Requete.h"
+#include "edit/LongueursChamps.h"
+#include "platform/fichiers/Fichiers.h"
+#include "util/Texte.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace acquire {
+namespace {
+
+// Often enough for the eye and for "Annuler", seldom enough to cost nothing.
+constexpr std::chrono::milliseconds kEntreDeuxSouffles{50};
+
+// The progress controls, on the screen for as long as the work lasts.
+class ProgressionVisible {
+  public:
+    ProgressionVisible(edit::EtatAjout& ajout, long maximum) : m_ajout(ajout) {
+        m_ajout.lblProgression.Caption.clear();
+        m_ajout.ProgressBar1.Max = maximum;
+        m_ajout.ProgressBar1.Value = 0;
+        montre(true);
+    }
+    ProgressionVisible(const ProgressionVisible&) = delete;
+    ProgressionVisible& operator=(const ProgressionVisible&) = delete;
+    ~ProgressionVisible() { montre(false); }
+
+  private:
+    void montre(bool visible) {
+        m_ajout.lblProgression.Visible = visible;
+        m_ajout.ProgressBar1.Visible = visible;
+    }
+    edit::EtatAjout& m_ajout;
+};
+
+}  // namespace
+
+PassageImport::PassageImport(const OutilsImport& outils, const ChoixImport& choix, const std::string& dossier)
+    : m_outils(outils), m_choix(choix), m_dossier(dossier), m_lot(outils.base.base) {}
+
+RapportImport PassageImport::execute() {
+    std::string erreur;
+    try {
+        importeTout();
+    } catch (const dao::ErreurDao& echec) {
+        erreur = "Erreur " + std::to_string(echec.numero) + " : " + echec.description;
+    } catch (const db::RequeteEchouee&) {  // already shown
+    }
+    m_lot.abandonne();
+    if (!erreur.empty()) m_outils.dialogues.MsgBox(erreur, dialogues::kCritique);
+    return m_acquis;
+}
+
+void PassageImport::importeTout() {
+    const ecran::Travail travail(m_outils.ecran);
+    const ProgressionVisible progression(m_outils.ajout, static_cast<long>(m_dossier.fiches().size()));
+    m_outils.ajout.cmdAjoutFilm.Caption = "Ajouter";
+    if (m_choix.testeRessemblance) m_lettres = edit::LettresDuCatalogue::de(m_outils.base, m_outils.dialogues);
+    for (const std::string& nom : m_dossier.fiches()) {
+        importe(nom);
+        ++m_outils.ajout.ProgressBar1.Value;
+        const bool plein = m_lot.estPlein();
+        if (plein) confirmeLot();
+        if ((plein || doitRespirer()) && !respire()) break;
+    }
+    confirmeLot();
+}
+
+void PassageImport::importe(const std::string& nom) {
+    const std::optional<FicheFilm> fiche = litFiche(m_dossier.chemin(nom));
+    if (!fiche) {
+        m_rapport.fichesIllisibles.push_back(m_dossier.chemin(nom));
+        return;
+    }
+    m_outils.ajout.lblProgression.Caption = fiche->premiereLigne;
+    if (estRefuse(*fiche))
+        m_rapport.titresRefuses.push_back(fiche->titre);
+    else
+        enregistre(*fiche, nom);
+}
+
+bool PassageImport::estRefuse(const FicheFilm& fiche) {
+    if (m_outils.doublons.TitreDejaExistant(fiche.titre, fiche.realisateur)) return true;
+    return m_lettres && m_lettres->aUnProche(fiche.titre, fiche.realisateur) &&
+           m_outils.ressemblances.TitreDejaExistant_TestRessemblance(fiche.titre, fiche.realisateur,
+                                                                     [this] { confirmeLot(); });
+}
+
+void PassageImport::enregistre(const FicheFilm& fiche, const std::string& nom) {
+    m_lot.commence();
+    remplitSaisie(fiche);
+    const Affiche affiche = choisitAffiche(nom);
+    const edit::SortAffiche sort =
+        m_outils.enregistrement.EnregistreNouveauFilm(affiche.chemin, fiche.resume, m_choix.date);
+    if (sort == edit::SortAffiche::Illisible) m_rapport.affichesManquantes.push_back(affiche.chemin);
+    if (m_choix.possedes) ajoutePossession(fiche);
+    if (m_lettres) m_lettres->ajoute(fiche.titre, fiche.realisateur);
+    ++m_rapport.ajoutes;
+    m_lot.compteFiche(fiche.resume.size() + affiche.octets);
+}
+
+void PassageImport::remplitSaisie(const FicheFilm& fiche) {
+    edit::EtatAjout& saisie = m_outils.ajout;
+    saisie.Text3[0].Text = fiche.titre;
+    saisie.Text3[1].Text = fiche.realisateur;
+    saisie.Text3[2].Text = fiche.annee;
+    saisie.Text3[3].Text = fiche.duree;
+    saisie.Text3[4].Text = fiche.acteurs;
+    saisie.Combo2.Text = fiche.genre;
+    saisie.Combo3.Text = fiche.origine;
+    saisie.Combo4.Text = fiche.production;
+}
+
+PassageImport::Affiche PassageImport::choisitAffiche(const std::string& nom) {
+    const std::optional<std::string> chemin = m_dossier.trouveAffiche(nom);
+    if (!chemin) {
+        m_rapport.affichesManquantes.push_back(m_dossier.cheminAffiche(nom));
+        return {};
+    }
+    if (!m_outils.stockage.dansLaBase()) return {*chemin, 0};
+    const std::int64_t longueur = fichiers::longueur(*chemin);
+    if (longueur > db::kTailleMaxAffiche) {
+        m_rapport.affichesManquantes.push_back(*chemin + " (trop grande pour la base) ");
+        return {};
+    }
+    return {*chemin, static_cast<std::size_t>(std::max<std::int64_t>(longueur, 0))};
+}
+
+void PassageImport::ajoutePossession(const FicheFilm& fiche) {
+    dao::Recordset& personnel = m_outils.base.personnel;
+    personnel.AddNew();
+    personnel.assigne("Titre2", util::coupe(fiche.titre, edit::kLongueurTitre));
+    personnel.assigne("Realisateur2", util::coupe(fiche.realisateur, edit::kLongueurRealisateur));
+    for (const char* vide : {"Rangement", "Fichier1", "Fichier2", "Fichier3", "Pret", "Reserve", "Date", "Divers"})
+        personnel.assigne(vide, "");
+    personnel.assigne("Support", util::coupe(m_choix.support, edit::kLongueurSupport));
+    personnel.Update();
+}
+
+void PassageImport::confirmeLot() {
+    m_lot.confirme();
+    m_acquis = m_rapport;
+}
+
+bool PassageImport::doitRespirer() const {
+    return std::chrono::steady_clock::now() - m_dernierSouffle >= kEntreDeuxSouffles;
+}
+
+bool PassageImport::respire() {
+    const bool continuer = m_outils.ecran.respire();
+    m_dernierSouffle = std::chrono::steady_clock::now();
+    return continuer;
+}
+
+}  // namespace acquire

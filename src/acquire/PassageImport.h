@@ -1,0 +1,80 @@
+#pragma once
+
+#include "acquire/DossierFiches.h"
+#include "acquire/FicheFilm.h"
+#include "acquire/LotImport.h"
+#include "acquire/RapportImport.h"
+#include "db/Base.h"
+#include "db/EtatStockage.h"
+#include "edit/EnregistreNouveauFilm.h"
+#include "edit/EtatAjout.h"
+#include "edit/LettresDuCatalogue.h"
+#include "edit/TitreDejaExistant.h"
+#include "edit/TitreDejaExistant_TestRessemblance.h"
+#include "platform/dialogues/Dialogues.h"
+#include "platform/ecran/Ecran.h"
+
+#include <chrono>
+#include <cstddef>
+#include <optional>
+#include <string>
+
+namespace acquire {
+
+// What an import stores films with. All of it outlives the import.
+struct OutilsImport {
+    db::Base& base;
+    edit::EtatAjout& ajout;
+    const db::EtatStockage& stockage;
+    edit::EnregistrementFilm& enregistrement;
+    edit::Doublons& doublons;
+    edit::Ressemblances& ressemblances;
+    dialogues::Dialogues& dialogues;
+    ecran::Ecran& ecran;
+};
+
+// What the user answered before the import.
+struct ChoixImport {
+    bool possedes = false;
+    std::string support;
+    bool testeRessemblance = false;
+    std::string date;  // of the day, for the whole batch
+};
+
+// One passage over a folder. Films are stored in lots, each with its holding; between two sheets the screen breathes, and
+// a stop leaves what was added. Of a lot that fails nothing stays, in the base nor in the report.
+class PassageImport {
+  public:
+    PassageImport(const OutilsImport& outils, const ChoixImport& choix, const std::string& dossier);
+
+    // Runs it to its end, to the user's stop, or to the base's failure, which it has shown.
+    [[nodiscard]] RapportImport execute();
+
+  private:
+    void importeTout();
+    void importe(const std::string& nom);
+    [[nodiscard]] bool estRefuse(const FicheFilm& fiche);
+    void enregistre(const FicheFilm& fiche, const std::string& nom);
+    void remplitSaisie(const FicheFilm& fiche);
+    // The poster to store, empty for none; what is missing or too large goes to the report.
+    struct Affiche {
+        std::string chemin;
+        std::size_t octets = 0;  // that it will take in the base
+    };
+    [[nodiscard]] Affiche choisitAffiche(const std::string& nom);
+    void ajoutePossession(const FicheFilm& fiche);
+    void confirmeLot();
+    [[nodiscard]] bool doitRespirer() const;
+    [[nodiscard]] bool respire();  // false when the user stops
+
+    OutilsImport m_outils;
+    ChoixImport m_choix;
+    DossierFiches m_dossier;
+    LotImport m_lot;
+    std::optional<edit::LettresDuCatalogue> m_lettres;  // where resemblances are tested
+    RapportImport m_rapport;
+    RapportImport m_acquis;  // the report as it was when the last lot was stored
+    std::chrono::steady_clock::time_point m_dernierSouffle;
+};
+
+}  // namespace acquire

@@ -1,0 +1,23 @@
+#include "edit/Command13_Click.h"
+
+#include <cstddef>
+
+namespace edit {
+
+void ModesAjout::Command13_Click(int indice) {
+    for (std::size_t i = 0; i < m_ajout.Command13.size(); ++i)
+        m_ajout.Command13[i].FontBold = static_cast<int>(i) == indice;
+    m_ajout.cmdAjoutFilm.Caption = "Ajouter";
+    m_ajout.Label5.Caption = "-";
+    m_ajout.frameAjoutAuto.Visible = false;
+    m_ajout.Frame13.Visible = false;
+    if (indice == 0) ouvreAjoutAutomatique();
+}
+
+void ModesAjout::ouvreAjoutAutomatique() {
+    m_ajout.frameAjoutAuto.Visible = true;
+    m_ajout.Label5.Caption = "Ajout automatique de fiches de films";
+    m_demandes.focus = "txtRechInternet";
+}
+
+}  // namespace edit

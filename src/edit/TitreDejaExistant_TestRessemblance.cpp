@@ -1,0 +1,64 @@
+#include "edit/TitreDejaExistant_TestRessemblance.h"
+
+#include "db/Requete.h"
+#include "util/Similarite.h"
+
+#include <unordered_map>
+
+namespace edit {
+namespace {
+
+// Tells whether directors resemble one; a director of many films is compared once.
+class RealisateursProches {
+  public:
+    explicit RealisateursProches(std::string_view realisateur) : m_lettres(util::compteLettres(realisateur)) {}
+
+    bool operator()(std::string_view autre) {
+        const auto [place, nouveau] = m_connus.try_emplace(std::string(autre), false);
+        if (nouveau) place->second = util::similarite(m_lettres, util::compteLettres(autre)) > kSeuilRessemblance;
+        return place->second;
+    }
+
+  private:
+    util::CompteLettres m_lettres;
+    std::unordered_map<std::string, bool> m_connus;
+};
+
+std::string film(std::string_view titre, std::string_view realisateur) {
+    std::string texte(titre);
+    if (!realisateur.empty()) texte.append(" de ").append(realisateur);
+    return texte;
+}
+
+}  // namespace
+
+std::string questionRessemblance(std::string_view titre, std::string_view realisateur, std::string_view ancienTitre,
+                                 std::string_view ancienRealisateur) {
+    return "Le nouveau titre ajouté (" + film(titre, realisateur) + ") ressemble beaucoup \n" +
+           " à un autre existant déjà dans la base (" + film(ancienTitre, ancienRealisateur) + ").\n\n" +
+           "Souhaitez-vous malgré tout l'ajouter ?";
+}
+
+dao::Recordset ouvreFilmsParTitre(db::Base& base, dialogues::Dialogues& dialogues) {
+    return db::ouvreRequete(base.base, "SELECT * FROM films ORDER BY Titre ASC ;", db::NumeroErreur::TestRessemblance,
+                            dialogues);
+}
+
+bool Ressemblances::TitreDejaExistant_TestRessemblance(const std::string& titre, const std::string& realisateur,
+                                                       const std::function<void()>& avantQuestion) {
+    dao::Recordset films = ouvreFilmsParTitre(m_base, m_dialogues);
+    const dao::Colonne colonneTitre = films.colonne("Titre"), colonneRealisateur = films.colonne("Realisateur");
+    const util::CompteLettres lettres = util::compteLettres(titre);
+    RealisateursProches realisateurProche(realisateur);
+    for (; !films.Eof(); films.MoveNext()) {
+        if (!realisateurProche(films.vue(colonneRealisateur))) continue;
+        if (util::similarite(lettres, util::compteLettres(films.vue(colonneTitre))) <= kSeuilRessemblance) continue;
+        const std::string question =
+            questionRessemblance(titre, realisateur, films.texte("Titre"), films.texte("Realisateur"));
+        if (avantQuestion) avantQuestion();
+        if (m_dialogues.MsgBox(question, dialogues::kQuestion) != dialogues::kOui) return true;
+    }
+    return false;
+}
+
+}  // namespace edit
