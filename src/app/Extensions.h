@@ -7,6 +7,8 @@
 
 namespace app {
 
+inline constexpr const char* kFichierExtensions = "Extensions.txt";
+
 // The programs that open attached files: column 0 a list of extensions, column 1 the program.
 // "Extensions.txt" holds them as pairs of lines.
 struct TableExtensions {

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "app/EtatFonctions.h"
+#include "browse/AfficheAccueil.h"
+#include "browse/EtatPanneaux.h"
+#include "edit/Command13_Click.h"
+
+namespace app {
+
+// Shows one of the three function panels in the place of the film sheet.
+class ChoixFonction {
+  public:
+    ChoixFonction(EtatFonctions& fonctions, browse::EtatPanneaux& panneaux, browse::AfficheAccueil& afficheAccueil,
+                  edit::ModesAjout& modesAjout)
+        : m_fonctions(fonctions), m_panneaux(panneaux), m_afficheAccueil(afficheAccueil), m_modesAjout(modesAjout) {}
+
+    void ChoixFonction1_Divers();  // adding films, opened on the automatic page
+    void ChoixFonction2_Outils();
+    void ChoixFonction3_Config();
+    void cmdConfig_Click(int indice);
+
+  private:
+    void montre(const ecran::Cadre& panneau);
+    void metEnGras(std::size_t bouton);
+
+    EtatFonctions& m_fonctions;
+    browse::EtatPanneaux& m_panneaux;
+    browse::AfficheAccueil& m_afficheAccueil;
+    edit::ModesAjout& m_modesAjout;
+};
+
+}  // namespace app

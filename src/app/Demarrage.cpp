@@ -1,0 +1,127 @@
+#include "app/Demarrage.h"
+
+#include "app/APropos.h"
+#include "app/TextesAide.h"
+#include "db/Requete.h"
+#include "platform/fichiers/Fichiers.h"
+#include "platform/systeme/FinDuProgramme.h"
+
+namespace app {
+
+namespace {
+
+constexpr const char* kZones[] = {"Mes films",        "Tous les films",     "Mes films non prêtés",
+                                  "Mes films prêtés", "Mes films réservés", "Films non possédés"};
+constexpr const char* kTris[] = {"Tri par titre - 1",   "Tri par titre - 2 ", "Tri par année",
+                                 "Tri par réalisateur", "Tri par genre",      "Tri par origine",
+                                 "Tri par durée",       "Tri par notation",   "Tri par support"};
+constexpr const char* kLogicielParDefaut = " Logiciel par défaut";
+
+template <typename Textes>
+void remplit(ecran::Liste& liste, const Textes& textes) {
+    liste.Clear();
+    for (const char* texte : textes)
+        liste.AddItem(texte);
+}
+
+}  // namespace
+
+void Demarrage::execute() {
+    prendsInstance();
+    verifieDossier();
+    m_etats.menu = MenuContextuel::Aucun;
+    verifieModele();
+    litReglages();
+    m_etats.fonctions.Label13.Caption = texteVersion();
+    m_suites.ouvertureBase();
+    remplit(m_etats.liste.ChoixZone, kZones);
+    remplit(m_etats.liste.ChoixTri, kTris);
+    choisitTriEtZone();
+    litExtensions();
+    metTextesAide(m_etats.fonctions);
+    poursuit([this] { m_suites.rafraichissement.RaffraichitBoitesDeroulantes(); });
+    poursuit([this] { m_suites.rafraichissement.AfficheNbTitres(); });
+}
+
+void Demarrage::prendsInstance() {
+    if (!m_instance.prends(m_chemins.dossier)) throw systeme::FinDuProgramme{};
+}
+
+void Demarrage::verifieDossier() {
+    fichiers::creeDossier(m_chemins.dossierTmp);
+    const std::string essai = m_chemins.dossierTmp + "/tmp.tmp";
+    if (!fichiers::ecrit(essai, "")) refuse("Le répertoire d'Ambrelis doit être en lecture-écriture");
+    fichiers::supprime(essai);
+}
+
+void Demarrage::verifieModele() {
+    if (!fichiers::existe(m_chemins.modele)) refuse("Le fichier " + m_chemins.modele + " n'existe pas.");
+}
+
+void Demarrage::litReglages() {
+    if (!fichiers::existe(m_chemins.reglages)) fichiers::ecrit(m_chemins.reglages, "");
+    const std::optional<Reglages> lus = chargeReglages(m_chemins.reglages, m_chemins.dossier);
+    m_reglagesLus = lus.has_value();
+    if (lus)
+        applique(*lus);
+    else
+        m_dialogues.MsgBox("Les réglages n'ont pas pu être lus (" + m_chemins.reglages + ").", dialogues::kExclamation);
+    activeStockage();
+}
+
+void Demarrage::applique(const Reglages& reglages) {
+    ecran::choisit(m_etats.stockage.Option3, static_cast<std::size_t>(reglages.stockage));
+    m_etats.stockage.Text4.Text = reglages.dossierImages;
+    m_etats.frmPrincipal.Width = reglages.largeur;
+    m_etats.frmPrincipal.Height = reglages.hauteur;
+    m_triEnregistre = reglages.tri;
+    if (!reglages.base.empty()) m_chemins.base = reglages.base;
+    m_etats.fonctions.chkLancerConnexion.Value = reglages.lancerConnexion ? 1 : 0;
+    m_etats.liste.AffStats.Value = reglages.statistiques ? 1 : 0;
+}
+
+// A folder of posters is made only where posters go to one.
+void Demarrage::activeStockage() {
+    if (!m_etats.stockage.dansLaBase()) return m_suites.option3();
+    m_etats.stockage.Text4.Enabled = false;
+    m_etats.stockage.cmdParcourir.Enabled = false;
+}
+
+// The sort first, then the zone; each selection raises its change event. Without a zone the first one lists nothing.
+void Demarrage::choisitTriEtZone() {
+    ecran::Liste& tri = m_etats.liste.ChoixTri;
+    tri.selectionne(m_triEnregistre < tri.ListCount() ? m_triEnregistre : 0);
+    poursuit([this] { m_suites.choixTri.Click(); });
+    m_etats.liste.ChoixZone.selectionne(browse::kZoneMesFilms);
+    poursuit([this] { m_suites.choixZone.Click(); });
+}
+
+void Demarrage::litExtensions() {
+    const std::string chemin = m_chemins.dansDossier(kFichierExtensions);
+    const auto lignes = fichiers::litLignes(chemin, 2 * TableExtensions::kLignesLues);
+    if (!lignes) refuse("Le fichier 'Extensions.txt' est absent.");
+    auto& [extensions, programmes] = m_etats.fonctions.Combo6;
+    extensions.Clear();
+    const std::size_t nombre = app::litExtensions(*lignes, m_extensions);
+    for (std::size_t i = 0; i < nombre; ++i)
+        extensions.AddItem(m_extensions.lignes[i][0]);
+    programmes.AddItem(kLogicielParDefaut);
+    programmes.selectionne(programmes.ListCount() - 1);
+    if (nombre > 0) extensions.selectionne(0);
+}
+
+void Demarrage::poursuit(const std::function<void()>& etape) {
+    try {
+        etape();
+    } catch (const db::RequeteEchouee&) {
+    } catch (const dao::ErreurDao& erreur) {
+        m_dialogues.MsgBox("Erreur " + std::to_string(erreur.numero) + " : " + erreur.description);
+    }
+}
+
+void Demarrage::refuse(const std::string& message) {
+    m_dialogues.MsgBox(message, dialogues::kCritique);
+    throw systeme::FinDuProgramme{};
+}
+
+}  // namespace app

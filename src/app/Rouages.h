@@ -1,0 +1,89 @@
+#pragma once
+
+#include "acquire/cmdAjoutAuto_Click.h"
+#include "acquire/cmdParcourir2_Click.h"
+#include "app/Arret.h"
+#include "app/ChoixFonction.h"
+#include "app/Demarrage.h"
+#include "app/Session.h"
+#include "browse/AfficheNbTitres.h"
+#include "browse/SelectionneTitre.h"
+#include "browse/lblRealisateur_Click.h"
+#include "db/cmdChargeOuvreBase_Click.h"
+#include "edit/RaffraichitBoitesDeroulantes.h"
+
+namespace app {
+
+// What a session is made of, each part after those it uses: the base and the paths, then the commands.
+struct Session::Rouages final : db::Rafraichissement {
+    Rouages(const Machine& machine, Etats& etats);
+
+    Machine machine;
+    Etats& etats;
+    bool enMarche = false;  // between a start that held and the shut-down
+
+    systeme::InstanceUnique instance;
+    db::Chemins chemins = db::Chemins::depuis(machine.dossierProgramme);
+    db::Base base;
+    browse::FilmCourant film;
+    TableExtensions extensions;
+
+    // Base.
+    db::OuvertureBase ouvertureBase{base, chemins, machine.dialogues};
+    db::cmdChargeOuvreBase_Click cmdChargeOuvreBase{base, chemins, ouvertureBase, *this, machine.dialogues};
+    db::Option3_Click option3{etats.stockage, chemins};
+
+    // Listing.
+    browse::AfficheAccueil afficheAccueil{etats.panneaux, machine.ecran};
+    browse::AfficheTitres afficheTitres{etats.liste, base};
+    browse::CreeRequeteAffichage creeRequeteAffichage{base, etats.liste, film, afficheTitres, machine.dialogues};
+    browse::AffichageApresModification affichageApresModification{etats.liste, afficheAccueil, creeRequeteAffichage};
+    browse::CreeEtAfficheRecherche creeEtAfficheRecherche{etats.liste, creeRequeteAffichage};
+    browse::AfficheNbTitres afficheNbTitres{etats.liste, base};
+    browse::ChoixTri choixTri{etats.liste, affichageApresModification};
+    browse::ChoixZone choixZone{etats.liste, affichageApresModification};
+
+    // Sheet.
+    browse::AfficheTemporaire afficheTemporaire{chemins, etats.stockage, machine.dialogues};
+    browse::ChargeAffiche chargeAffiche{etats.fiche, chemins, machine.images, machine.ecran};
+    browse::AfficheVolet afficheVolet{etats.fiche, etats.demandes, chargeAffiche};
+    browse::ModifieNoteFilm modifieNoteFilm{base, etats.fiche, film, machine.dialogues};
+    browse::AffichePossession affichePossession{base, etats.fiche, film, machine.dialogues};
+    browse::AfficheFiche afficheFiche{
+        base,           etats.liste,       etats.fiche,       etats.panneaux,  film,
+        machine.images, afficheTemporaire, affichePossession, modifieNoteFilm, afficheAccueil,
+        afficheVolet};
+    browse::TreeView1 treeView1{etats.liste, afficheFiche, machine.dialogues};
+
+    // Search.
+    browse::cmdFonctionRecherche_Click cmdFonctionRecherche{etats.panneaux, etats.demandes, afficheAccueil};
+    browse::cmdRecherche_Click cmdRecherche{base, etats.recherche, etats.liste, creeEtAfficheRecherche,
+                                            machine.dialogues};
+    browse::lblRealisateur_Click lblRealisateur{film, etats.recherche, cmdFonctionRecherche, cmdRecherche};
+
+    // Adding.
+    edit::ModesAjout modesAjout{etats.ajout, etats.demandes};
+    edit::BoitesDeroulantes boitesDeroulantes{base, etats.fiche, machine.dialogues};
+    edit::Doublons doublons{base, machine.dialogues};
+    edit::Ressemblances ressemblances{base, machine.dialogues};
+    edit::EnregistrementFilm enregistrement{base, etats.ajout, etats.stockage, chemins, film, machine.dialogues};
+    acquire::ImportFiches importFiches{
+        {base, etats.ajout, etats.stockage, enregistrement, doublons, ressemblances, machine.dialogues, machine.ecran},
+        {etats.liste, creeEtAfficheRecherche, afficheNbTitres, boitesDeroulantes},
+        machine.horloge};
+    acquire::ChoixDossierFiches choixDossierFiches{etats.ajout, machine.dialogues};
+
+    // Life of the window.
+    ChoixFonction choixFonction{etats.fonctions, etats.panneaux, afficheAccueil, modesAjout};
+    Demarrage demarrage{etats,    chemins,           extensions,
+                        instance, machine.dialogues, {option3, ouvertureBase, choixTri, choixZone, *this}};
+    Arret arret{etats, chemins, extensions, base, machine.dialogues};
+
+    // What a change of base asks for.
+    void AfficheAccueil() override { afficheAccueil(); }
+    void reconstruitListe() override { creeRequeteAffichage.apresChangementDeBase(); }
+    void RaffraichitBoitesDeroulantes() override { boitesDeroulantes.RaffraichitBoitesDeroulantes(); }
+    void AfficheNbTitres() override { afficheNbTitres(); }
+};
+
+}  // namespace app

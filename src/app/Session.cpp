@@ -1,0 +1,179 @@
+#include "app/Session.h"
+
+#include "app/APropos.h"
+#include "app/CommandesAVenir.h"
+#include "app/Liens.h"
+#include "app/Rouages.h"
+#include "app/cmdParcourir_Click.h"
+#include "platform/systeme/FinDuProgramme.h"
+
+#include <utility>
+
+namespace app {
+
+namespace {
+
+MenuContextuel menuDemande(browse::MenuArbre menu) {
+    switch (menu) {
+        case browse::MenuArbre::Film:
+            return MenuContextuel::MenuClicDroitFilm;
+        case browse::MenuArbre::Support:
+            return MenuContextuel::MenuClicDroitSupport;
+        case browse::MenuArbre::Genre:
+            return MenuContextuel::MenuClicDroitGenre;
+        case browse::MenuArbre::Aucun:
+            break;
+    }
+    return MenuContextuel::Aucun;
+}
+
+}  // namespace
+
+Session::Rouages::Rouages(const Machine& laMachine, Etats& lesEtats) : machine(laMachine), etats(lesEtats) {}
+
+Session::Session(const Machine& machine) : m_rouages(std::make_unique<Rouages>(machine, etats)) {
+    griseCommandesAVenir(etats);
+}
+
+Session::~Session() = default;
+
+void Session::Form_Load() {
+    m_rouages->demarrage.execute();
+    m_rouages->enMarche = true;
+}
+
+void Session::Form_Unload() {
+    if (!std::exchange(m_rouages->enMarche, false)) return;
+    m_rouages->arret.execute(m_rouages->demarrage.reglagesLus());
+}
+
+void Session::cmdStop_Click() {
+    Form_Unload();
+    throw systeme::FinDuProgramme{};
+}
+
+void Session::Form_Resize(bool deuxPages) {
+    browse::EtatFiche& fiche = etats.fiche;
+    if (fiche.cmdGeneralites.Visible == !deuxPages) return;
+    fiche.cmdGeneralites.Visible = fiche.cmdAutresInfos.Visible = !deuxPages;
+    if (etats.panneaux.frameFiche.Visible)
+        m_rouages->afficheVolet(fiche.frameGeneralites[0].Visible ? browse::kVoletGeneralites
+                                                                  : browse::kVoletAutresInfos);
+}
+
+void Session::ChoixZone_Click() {
+    m_rouages->choixZone.Click();
+}
+
+void Session::ChoixZone_DropDown() {
+    m_rouages->choixZone.DropDown();
+}
+
+void Session::ChoixTri_Click() {
+    m_rouages->choixTri.Click();
+}
+
+void Session::TreeView1_NodeClick(int indice) {
+    m_rouages->treeView1.NodeClick(indice);
+}
+
+void Session::TreeView1_NodeCheck(int indice, bool coche) {
+    m_rouages->treeView1.NodeCheck(indice, coche);
+}
+
+void Session::TreeView1_MouseUpDroit(int indice) {
+    etats.menu = MenuContextuel::Aucun;
+    etats.menu = menuDemande(m_rouages->treeView1.MouseUp(indice));
+}
+
+// The percentages are part of the headings: the tree is filled again.
+void Session::AffStats_Click() {
+    m_rouages->affichageApresModification();
+}
+
+void Session::cmdGeneralites_Click() {
+    m_rouages->afficheVolet(browse::kVoletGeneralites);
+}
+
+void Session::cmdAutresInfos_Click() {
+    m_rouages->afficheVolet(browse::kVoletAutresInfos);
+}
+
+void Session::lblRealisateur_Click() {
+    m_rouages->lblRealisateur();
+}
+
+void Session::ChoixFonction1_Divers() {
+    m_rouages->choixFonction.ChoixFonction1_Divers();
+}
+
+void Session::ChoixFonction2_Outils() {
+    m_rouages->choixFonction.ChoixFonction2_Outils();
+}
+
+void Session::ChoixFonction3_Config() {
+    m_rouages->choixFonction.ChoixFonction3_Config();
+}
+
+void Session::cmdAfficherFonctions_Click() {
+    ChoixFonction1_Divers();
+}
+
+void Session::cmdConfigurer_Click() {
+    ChoixFonction2_Outils();
+}
+
+void Session::cmdConfig_Click(int indice) {
+    m_rouages->choixFonction.cmdConfig_Click(indice);
+}
+
+void Session::cmdFonctionRecherche_Click() {
+    m_rouages->cmdFonctionRecherche();
+}
+
+void Session::cmdRecherche_Click() {
+    m_rouages->cmdRecherche();
+}
+
+void Session::cmdAide_Click() {
+    m_rouages->machine.dialogues.MsgBox(texteAPropos(), dialogues::kInformation);
+}
+
+void Session::Image3_Click() {
+    ouvreLien(kSiteMovieCovers, m_rouages->machine.documents, m_rouages->machine.dialogues);
+}
+
+void Session::Label4_Click() {
+    ouvreLien(kPageAmbrelis, m_rouages->machine.documents, m_rouages->machine.dialogues);
+}
+
+void Session::cmdChargeOuvreBase_Click() {
+    try {
+        m_rouages->cmdChargeOuvreBase();
+    } catch (const systeme::FinDuProgramme&) {
+        m_rouages->enMarche = false;  // no base is open: the settings keep the one they name
+        throw;
+    }
+}
+
+void Session::Option3_Click() {
+    m_rouages->option3();
+}
+
+void Session::cmdParcourir_Click() {
+    app::cmdParcourir_Click(etats.stockage, m_rouages->machine.dialogues);
+}
+
+void Session::Command13_Click(int indice) {
+    m_rouages->modesAjout.Command13_Click(indice);
+}
+
+void Session::cmdParcourir2_Click() {
+    m_rouages->choixDossierFiches.cmdParcourir2_Click();
+}
+
+void Session::cmdAjoutAuto_Click() {
+    m_rouages->importFiches.cmdAjoutAuto_Click();
+}
+
+}  // namespace app
