@@ -38,6 +38,7 @@ class AfficheFiche {
     void remplitGeneralites();
     void remplitNote();
     void videImages();
+    void abandonne();
 
     db::Base& m_base;
     EtatListe& m_liste;

@@ -48,7 +48,7 @@ class Arbre {
     std::vector<Noeud> m_noeuds;
     std::vector<Groupe> m_groupes;
     std::vector<std::int32_t> m_racine;
-    std::string m_titres;  // each title followed by its end mark
+    std::string m_titres;  // one after the other, in the order of their nodes
     int m_generation = 0;
 };
 

@@ -1,0 +1,122 @@
+#include "browse/AfficheTitres.h"
+
+#include "platform/systeme/Horloge.h"
+#include "util/Nombres.h"
+#include "util/Texte.h"
+
+#include <array>
+#include <string_view>
+#include <utility>
+
+namespace browse {
+
+namespace {
+
+constexpr std::string_view kHorsTri = " Hors tri !";
+constexpr std::size_t kOctetsParTitre = 24;  // a usual title's length, to reserve the tree's text once
+
+// The heading's column of each sort; sorts 0 and 1 have none.
+constexpr std::array<std::string_view, 9> kChamps{"",        "",      "Annee", "Realisateur", "Genre",
+                                                  "Origine", "Duree", "Note",  "Support"};
+
+// 1 to 26 for a title that begins with a letter, accented or not, 0 for any other.
+std::size_t rangDeLettre(std::string_view titre) {
+    const bool ascii = titre.empty() || static_cast<unsigned char>(titre.front()) < 0x80;
+    const std::string plie = ascii ? "" : util::sansAccents(util::minuscules(util::coupe(titre, 1)));
+    const std::string_view debut = ascii ? titre : std::string_view(plie);
+    if (debut.empty()) return 0;
+    const auto lettre = static_cast<unsigned char>(debut.front() | 0x20);  // lower case, for a letter
+    return lettre >= 'a' && lettre <= 'z' ? lettre - 'a' + 1U : 0;
+}
+
+// Headings by first letter: one node a letter, wherever its titles stand.
+class GroupesParLettre {
+  public:
+    explicit GroupesParLettre(Arbre& arbre) : m_arbre(arbre) {}
+
+    int groupe(std::string_view titre) {
+        const std::size_t rang = rangDeLettre(titre);
+        if (m_noeuds[rang] == 0) {
+            const std::string lettre(1, rang == 0 ? '#' : static_cast<char>('A' + rang - 1));
+            m_noeuds[rang] = m_arbre.ajouteGroupe("T" + lettre, lettre);
+        }
+        return m_noeuds[rang];
+    }
+
+  private:
+    Arbre& m_arbre;
+    std::array<int, 27> m_noeuds{};
+};
+
+// Headings by a column that the listing is ordered by: a new one where the value changes.
+class GroupesParValeur {
+  public:
+    explicit GroupesParValeur(Arbre& arbre) : m_arbre(arbre) {}
+
+    int groupe(std::string_view valeur) {
+        if (valeur.empty()) valeur = kHorsTri;
+        if (m_noeud != 0 && valeur == m_precedente) return m_noeud;
+        m_precedente.assign(valeur);
+        std::string majuscules = util::majuscules(valeur);
+        if (m_noeud != 0 && majuscules == m_majuscules) return m_noeud;
+        m_majuscules = std::move(majuscules);
+        return m_noeud = m_arbre.ajouteGroupe("T" + std::to_string(++m_compteur), m_precedente);
+    }
+
+  private:
+    Arbre& m_arbre;
+    int m_noeud = 0;
+    long m_compteur = 0;
+    std::string m_precedente;
+    std::string m_majuscules;  // of the heading, which all its values share
+};
+
+}  // namespace
+
+void AfficheTitres::operator()(int tri) {
+    vide();
+    const long lignes = m_base.liste.RecordCount();
+    m_liste.Frame1.Caption = "Liste de films (" + util::phraseCompte(lignes, "# titre", "# titres") + ")";
+    if (lignes < 1) return;
+    m_liste.TreeView1.Nodes.reserve(static_cast<std::size_t>(lignes),
+                                    static_cast<std::size_t>(lignes) * kOctetsParTitre);
+    remplit(tri);
+    if (m_liste.AffStats.Value == 1) ajoutePourcentages(lignes);
+}
+
+void AfficheTitres::vide() {
+    m_liste.TreeView1.Nodes.Clear();
+    m_liste.TreeView1.SelectedItem = 0;
+    m_liste.TreeView1.coches.clear();
+}
+
+void AfficheTitres::remplit(int tri) {
+    Arbre& arbre = m_liste.TreeView1.Nodes;
+    dao::Recordset& liste = m_base.liste;
+    GroupesParLettre lettres(arbre);
+    GroupesParValeur valeurs(arbre);
+    const dao::Colonne titres = liste.colonne("Titre");
+    const dao::Colonne champ = liste.colonne(kChamps.at(static_cast<std::size_t>(tri)));
+    std::uint32_t position = 0;
+    for (liste.MoveFirst(); !liste.Eof(); liste.MoveNext()) {
+        // A view holds until the next one is asked for: the heading first, then the title.
+        int groupe = tri > kTriTitre2 ? valeurs.groupe(liste.vue(champ)) : 0;
+        const std::string_view titre = liste.vue(titres);
+        if (tri == kTriTitre1) groupe = lettres.groupe(titre);
+        arbre.ajouteFilm(groupe, ++position, titre);
+    }
+}
+
+// Cut to one decimal in whole numbers: a quotient of its own would make 28.9 of 29.
+void AfficheTitres::ajoutePourcentages(long lignes) {
+    Arbre& arbre = m_liste.TreeView1.Nodes;
+    const std::string separateur = systeme::separateurDecimal();
+    for (const std::int32_t noeud : arbre.enfants(0)) {
+        if (!arbre.estGroupe(noeud)) continue;
+        const auto dixiemes = static_cast<long>(arbre.enfants(noeud).size()) * 1000 / lignes;
+        const std::string pourcentage = util::texteDuNombre(static_cast<double>(dixiemes) / 10, separateur);
+        arbre.changeTexteGroupe(noeud, std::string(arbre.Text(noeud)) + " (" + pourcentage + " %)");
+    }
+}
+
+}  // namespace browse

@@ -1,0 +1,66 @@
+#include "browse/Arbre.h"
+
+#include <utility>
+
+namespace browse {
+
+void Arbre::Clear() {
+    m_noeuds.clear();
+    m_groupes.clear();
+    m_racine.clear();
+    m_titres.clear();
+    ++m_generation;
+}
+
+void Arbre::reserve(std::size_t films, std::size_t octetsDeTexte) {
+    m_noeuds.reserve(films);
+    m_titres.reserve(octetsDeTexte);
+}
+
+int Arbre::ajouteGroupe(std::string cle, std::string texte) {
+    Noeud nouveau;
+    nouveau.rang = static_cast<std::uint32_t>(m_racine.size());
+    nouveau.texte = static_cast<std::uint32_t>(m_groupes.size());
+    m_groupes.push_back({std::move(cle), std::move(texte), {}});
+    m_noeuds.push_back(nouveau);
+    m_racine.push_back(Count());
+    return Count();
+}
+
+int Arbre::ajouteFilm(int groupe, std::uint32_t position, std::string_view titre) {
+    std::vector<std::int32_t>& freres = groupe == 0 ? m_racine : m_groupes[noeud(groupe).texte].enfants;
+    Noeud nouveau;
+    nouveau.position = position;
+    nouveau.parent = static_cast<std::uint32_t>(groupe);
+    nouveau.rang = static_cast<std::uint32_t>(freres.size());
+    nouveau.texte = static_cast<std::uint32_t>(m_titres.size());
+    m_titres += titre;
+    m_noeuds.push_back(nouveau);
+    freres.push_back(Count());
+    return Count();
+}
+
+std::string Arbre::Key(int indice) const {
+    if (estGroupe(indice)) return m_groupes[noeud(indice).texte].cle;
+    return "K" + std::to_string(noeud(indice).position);
+}
+
+std::string_view Arbre::Text(int indice) const {
+    const Noeud& choisi = noeud(indice);
+    if (estGroupe(indice)) return m_groupes[choisi.texte].texte;
+    int suivant = indice + 1;  // the next film's title begins where this one's ends
+    while (suivant <= Count() && estGroupe(suivant))
+        ++suivant;
+    const std::size_t fin = suivant <= Count() ? noeud(suivant).texte : m_titres.size();
+    return std::string_view(m_titres).substr(choisi.texte, fin - choisi.texte);
+}
+
+void Arbre::changeTexteGroupe(int indice, std::string texte) {
+    m_groupes[noeud(indice).texte].texte = std::move(texte);
+}
+
+const std::vector<std::int32_t>& Arbre::enfants(int indice) const {
+    return indice == 0 ? m_racine : m_groupes[noeud(indice).texte].enfants;
+}
+
+}  // namespace browse

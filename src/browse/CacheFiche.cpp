@@ -1,0 +1,9 @@
+#include "browse/CacheFiche.h"
+
+namespace browse {
+
+void CacheFiche(EtatPanneaux& panneaux) {
+    panneaux.frameFiche.Visible = false;
+}
+
+}  // namespace browse

@@ -1,0 +1,36 @@
+#include "browse/ChargeAffiche.h"
+
+#include "platform/fichiers/Fichiers.h"
+#include "util/Nombres.h"
+
+#include <algorithm>
+
+namespace browse {
+
+void ChargeAffiche::operator()() {
+    m_fiche.Label12.Caption = "Chargement de l'image...";
+    m_fiche.Label12.Visible = true;
+    m_ecran.rafraichit();
+    const auto taille = fichiers::existe(m_chemins.afficheTmp) ? m_images.charge(m_chemins.afficheTmp) : std::nullopt;
+    if (taille && taille->largeur > 0 && taille->hauteur > 0) {
+        place(*taille);
+        m_fiche.Label12.Visible = false;
+    } else {
+        m_fiche.Label12.Caption = "Pas d'image \r\n(Cliquez pour ajouter)";
+        m_fiche.Image1.Visible = false;
+    }
+}
+
+void ChargeAffiche::place(const ecran::TailleImage& taille) {
+    ecran::Image& image = m_fiche.Image1;
+    const double largeur = taille.largeur, hauteur = taille.hauteur;
+    image.Width = std::min(kLargeurAffiche, util::arrondiPair(largeur / (hauteur / kHauteurAffiche)));
+    image.Height = std::min(kHauteurAffiche, util::arrondiPair(hauteur / (largeur / kLargeurAffiche)));
+    image.Left = (kLargeurAffiche - image.Width) / 2;
+    image.Top = (kHauteurAffiche - image.Height) / 2;
+    image.vide = false;
+    image.Visible = true;
+    ++image.numero;
+}
+
+}  // namespace browse

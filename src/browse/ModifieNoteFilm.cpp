@@ -1,0 +1,28 @@
+#include "browse/ModifieNoteFilm.h"
+
+#include "db/EnonceFilm.h"
+#include "db/Requete.h"
+#include "platform/systeme/Horloge.h"
+#include "util/Nombres.h"
+
+namespace browse {
+
+void ModifieNoteFilm::operator()(int note) {
+    dao::Recordset films = db::ouvreRequete(m_base.base, db::enonceFilmNote(m_film.titre, m_film.realisateur),
+                                            db::NumeroErreur::ModifieNoteFilm, m_dialogues);
+    if (films.Eof()) {
+        m_dialogues.MsgBox("Film non trouvé !", dialogues::kExclamation);
+        return;
+    }
+    films.Edit();
+    films.assigne("Note", note == 0 ? dao::Valeur() : dao::Valeur(note));
+    films.Update();
+    m_fiche.lblNote.Caption = texteDeLaNote(note);
+}
+
+std::string texteDeLaNote(double note) {
+    if (note < 1 || note > 10) return "Pas de notation";
+    return "Note : " + util::texteDuNombre(note, systeme::separateurDecimal()) + "/10";
+}
+
+}  // namespace browse
