@@ -27,10 +27,15 @@ TEST(DialoguesScript, FailsAndStopsOnAnotherBox) {
     dialogues::Dialogues& boites = script;
     const auto montre = [&](auto boite) { EXPECT_THROW(boite(), BoiteInattendue); };
     EXPECT_NONFATAL_FAILURE(montre([&] { boites.MsgBox("Surprise"); }), "No box was expected");
-    for (const auto& [texte, style, titre] :
-         {std::tuple("autre", 0, "T"), std::tuple("texte", 48, "T"), std::tuple("texte", 0, "U")}) {
+    const struct {
+        const char* texte;
+        int style;
+        const char* titre;
+    } autres[] = {{"autre", 0, "T"}, {"texte", 48, "T"}, {"texte", 0, "U"}};
+    for (const auto& autre : autres) {
         script.attendMsgBox("texte", 0, dialogues::kOk, "T");
-        EXPECT_NONFATAL_FAILURE(montre([&] { boites.MsgBox(texte, style, titre); }), "Another box was expected");
+        EXPECT_NONFATAL_FAILURE(montre([&] { boites.MsgBox(autre.texte, autre.style, autre.titre); }),
+                                "Another box was expected");
     }
     script.attendInputBox("texte", "réponse");
     EXPECT_NONFATAL_FAILURE(montre([&] { boites.MsgBox("texte"); }), "Another box was expected");
