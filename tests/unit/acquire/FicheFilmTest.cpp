@@ -1,0 +1,103 @@
+#include "acquire/FicheFilm.h"
+#include "acquire/RapportImport.h"
+#include "acquire/cmdParcourir2_Click.h"
+#include "doubles/DialoguesScript.h"
+#include "doubles/DossierTemporaire.h"
+
+#include <filesystem>
+#include <string>
+
+namespace {
+
+using namespace std::string_literals;
+
+TEST(FicheFilm, readsNineLinesByPosition) {
+    const acquire::FicheFilm fiche = acquire::analyseFiche(
+        "le PARRAIN II\r\nFrancis Ford Coppola\r\n1974\r\nUSA\r\nDrame\r\n3H20\r\nAl "
+        "Pacino\r\nSuite.\r\nParamount\r\nx\r\n");
+    EXPECT_EQ(fiche.premiereLigne, "le PARRAIN II");
+    EXPECT_EQ(fiche.titre, "Le Parrain II");
+    EXPECT_EQ(fiche.realisateur, "Francis Ford Coppola");
+    EXPECT_EQ(fiche.annee, "1974");
+    EXPECT_EQ(fiche.origine, "USA");
+    EXPECT_EQ(fiche.genre, "Drame");
+    EXPECT_EQ(fiche.duree, "3H20");
+    EXPECT_EQ(fiche.acteurs, "Al Pacino");
+    EXPECT_EQ(fiche.resume, "Suite.");
+    EXPECT_EQ(fiche.production, "Paramount");
+}
+
+TEST(FicheFilm, carriesHostileTextsThrough) {
+    struct Cas {
+        const char* nom;
+        std::string octets, titre, realisateur, annee;
+    };
+    const std::string vingt = "vingt caracteres ici";
+    for (const Cas& cas : {
+             Cas{"no line", "", "Non défini", "Non défini", ""},
+             Cas{"one line without an end", "Alien", "Alien", "Non défini", ""},
+             Cas{"empty lines", "\r\n\r\n1979\r\n", "Non défini", "Non défini", "1979"},
+             Cas{"LF ends", "alien\nScott\n1979", "Alien", "Scott", "1979"},
+             Cas{"CR ends", "alien\rScott\r1979", "Alien", "Scott", "1979"},
+             Cas{"Windows-1252", "l'\xC9T\xC9\r\nAndr\xE9 \x9Cuvre\r\n", "L'Été", "André œuvre", ""},
+             Cas{"UTF-8", "l'ÉTÉ\r\nAndré œuvre\r\n", "L'Été", "André œuvre", ""},
+             Cas{"byte order mark",
+                 "\xEF\xBB\xBF"
+                 "alien\r\nScott",
+                 "Alien", "Scott", ""},
+             Cas{"an accent of 1252 after the lines that count", "l'été\n\n\n\n\n\n\n\n\n\xE9", "L'Été", "Non défini",
+                 ""},
+             Cas{"NULs", "al\0ien\r\0\nSc\0ott\r\n\0\0"s, "Alien", "Scott", ""},
+             Cas{"quotes and statements", "\"10\"; DROP TABLE Films\r\na\"b", "\"10\"; Drop Table Films", "a\"b", ""},
+             Cas{"title cut before its capitals", vingt + vingt + vingt + vingt + vingt + "X",  // 101 characters
+                 "Vingt Caracteres Icivingt Caracteres Icivingt Caracteres Icivingt Caracteres Icivingt Caracteres Ici",
+                 "Non défini", ""},
+             Cas{"lines of 5 MB", std::string(5 << 20, 'a') + "\n" + std::string(5 << 20, 'b') + "\n19999",
+                 "A" + std::string(99, 'a'), std::string(100, 'b'), "1999"},
+         }) {
+        const acquire::FicheFilm fiche = acquire::analyseFiche(cas.octets);
+        EXPECT_EQ(fiche.titre, cas.titre) << cas.nom;
+        EXPECT_EQ(fiche.realisateur, cas.realisateur) << cas.nom;
+        EXPECT_EQ(fiche.annee, cas.annee) << cas.nom;
+    }
+    EXPECT_EQ(acquire::analyseFiche("\n\n\n\n\n\n\n" + std::string(5 << 20, 'r')).resume.size(), 5u << 20);
+}
+
+TEST(RapportImport, tellsOnlyWhatThereIs) {
+    acquire::RapportImport rapport;
+    EXPECT_EQ(rapport.texte(), "0 film ajouté.");
+    rapport.ajoutes = 1;
+    rapport.titresRefuses = {"Alien"};
+    EXPECT_EQ(rapport.texte(), "1 film ajouté.\n1 film non ajouté car déjà dans la base.\n- Déjà existant : \nAlien");
+    rapport.ajoutes = 2;
+    rapport.titresRefuses = {"Alien", "Z"};
+    rapport.affichesManquantes = {"/f/a.jpg", "/f/b.jpg (trop grande pour la base) "};
+    rapport.fichesIllisibles = {"/f/c.film"};
+    EXPECT_EQ(rapport.texte(),
+              "2 films ajoutés.\n2 films non ajoutés car déjà dans la base.\n- Image manquante :\n/f/a.jpg, /f/b.jpg "
+              "(trop grande pour la base) \n- Déjà existant : \nAlien, Z\n- Fiche illisible :\n/f/c.film");
+}
+
+TEST(ChoixDossierFiches, countsTheSheetsOfTheChosenFolder) {
+    doubles::DossierTemporaire dossier;
+    doubles::DialoguesScript dialogues;
+    edit::EtatAjout ajout;
+    acquire::ChoixDossierFiches choix(ajout, dialogues);
+    const auto choisit = [&](const std::string& reponse) {
+        dialogues.attendDossier("Dossier des fiches de films", ajout.txtCheminAjoutAuto.Text, reponse);
+        choix.cmdParcourir2_Click();
+        return ajout.lblNbFilms.Caption;
+    };
+    std::filesystem::create_directory(dossier.chemin("dossier.film"));
+    dossier.ecrit("afilm", "");
+    dossier.ecrit("b.films", "");
+    EXPECT_EQ(choisit(dossier.chemin()), "Aucun fichier .FILM trouvé.");
+    dossier.ecrit("NOM.FILM", "");
+    EXPECT_EQ(choisit(dossier.chemin()), "Un fichier .FILM trouvé.");
+    dossier.ecrit("nom.Film", "");
+    EXPECT_EQ(choisit(dossier.chemin()), "2 fichiers .FILM trouvés.");
+    EXPECT_EQ(choisit(""), "2 fichiers .FILM trouvés.");  // cancelled
+    EXPECT_EQ(ajout.txtCheminAjoutAuto.Text, dossier.chemin());
+}
+
+}  // namespace
