@@ -1,0 +1,262 @@
+#include "browse/Arbre.h"
+#include "parcours/Installation.h"
+
+#include <filesystem>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using parcours::Execution;
+using parcours::Installation;
+using testing::ElementsAre;
+
+constexpr const char* kTriRefuse =
+    "Le tri par support n'est pas possible pour ce cas-là : il faut que la recherche soit sur les titres possédés (Mes "
+    "Films).";
+
+dialogues::DemandeFichier demandeBase(const Installation& installation) {
+    return {"Ouvrir/Créer une base de données", "Fichiers de base de données|*.mdb", installation.chemin(), true};
+}
+
+std::string fiche(const char* titre, const char* realisateur, const char* annee, const char* origine,
+                  const char* genre) {
+    return std::string(titre) + "\r\n" + realisateur + "\r\n" + annee + "\r\n" + origine + "\r\n" + genre +
+           "\r\n100\r\nActeur;Actrice\r\nUn r\xE9sum\xE9.\r\nProduction\r\n";
+}
+
+// Four sheets in Windows-1252, one of them a single line, one with a poster.
+void ecritFiches(const Installation& installation) {
+    installation.ecrit("Fiches/1.FILM", fiche("LE CERCLE ROUGE", "Jean-Pierre Melville", "1970", "France", "Policier"));
+    installation.ecrit("Fiches/1.jpg", "\xFF\xD8 une image");
+    installation.ecrit("Fiches/2.film", fiche("le samoura\xEF", "Jean-Pierre Melville", "1967", "France", "Policier"));
+    installation.ecrit("Fiches/3.FILM", fiche("\xC9t\xE9 violent", "Valerio Zurlini", "1959", "Italie", "Drame"));
+    installation.ecrit("Fiches/4.FILM", "Sans rien");
+}
+
+void importe(Execution& execution, const Installation& installation) {
+    const std::string dossier = installation.chemin("Fiches");
+    doubles::DialoguesScript& boites = execution.boites;
+    execution.session.cmdAfficherFonctions_Click();
+    boites.attendDossier("Dossier des fiches de films", "", dossier);
+    execution.session.cmdParcourir2_Click();
+    EXPECT_EQ(execution.etats.ajout.lblNbFilms.Caption, "4 fichiers .FILM trouvés.");
+    boites.attendMsgBox(
+        "Souhaitez-vous déclarer les 4 films comme étant en votre possession ?\n\nDans le cas contraire, l'ajout sera "
+        "fait mais il faudra indiquer \n pour chaque film qu'il se trouve bien dans votre vidéothèque.",
+        dialogues::kQuestion, dialogues::kOui);
+    boites.attendInputBox(
+        "Vous pouvez indiquer le nom du support qui sera attribué à tous les films ajoutés (DVD, K7...)", "DVD",
+        "Nom du support");
+    boites.attendMsgBox(
+        "Souhaitez-vous que le logiciel vérifie si les nouveaux titres ajoutés ressemblent à d'autres titres déjà "
+        "présents en base ?",
+        dialogues::kQuestion, dialogues::kOui);
+    boites.attendMsgBox(
+        "4 films ajoutés.\n- Image manquante :\n" + dossier + "/2.jpg, " + dossier + "/3.jpg, " + dossier + "/4.jpg",
+        dialogues::kInformation);
+    execution.session.cmdAjoutAuto_Click();
+    boites.verifie();
+}
+
+// Headings as they read, films behind two blanks, in the tree's order.
+std::vector<std::string> arbre(const app::Etats& etats) {
+    const browse::Arbre& noeuds = etats.liste.TreeView1.Nodes;
+    std::vector<std::string> textes;
+    const std::function<void(int)> ajoute = [&](int parent) {
+        for (const int indice : noeuds.enfants(parent)) {
+            textes.push_back((parent == 0 ? "" : "  ") + std::string(noeuds.Text(indice)));
+            if (noeuds.estGroupe(indice)) ajoute(indice);
+        }
+    };
+    ajoute(0);
+    return textes;
+}
+
+int noeud(const app::Etats& etats, std::string_view texte) {
+    const browse::Arbre& noeuds = etats.liste.TreeView1.Nodes;
+    for (int i = 1; i <= noeuds.Count(); ++i)
+        if (noeuds.Text(i) == texte) return i;
+    ADD_FAILURE() << "no node reads " << texte;
+    return 0;
+}
+
+void choisitTri(Execution& execution, int tri) {
+    execution.etats.liste.ChoixTri.selectionne(tri);
+    execution.session.ChoixTri_Click();
+}
+
+void choisitZone(Execution& execution, int zone) {
+    execution.session.ChoixZone_DropDown();
+    execution.etats.liste.ChoixZone.selectionne(zone);
+    execution.session.ChoixZone_Click();
+}
+
+class UneCollection : public testing::Test {
+  protected:
+    UneCollection() {
+        ecritFiches(installation);
+        if (!execution.demarre()) ADD_FAILURE() << "the start failed";
+        importe(execution, installation);
+    }
+
+    const Installation installation;
+    Execution execution{installation.chemin()};
+    app::Session& session = execution.session;
+    app::Etats& etats = execution.etats;
+};
+
+TEST_F(UneCollection, AnImportShowsWhatItAdded) {
+    EXPECT_EQ(etats.liste.ChoixZone.Text, "Recherche");
+    EXPECT_THAT(arbre(etats), ElementsAre("Été Violent", "Le Cercle Rouge", "Le Samouraï", "Sans Rien"));
+    EXPECT_EQ(etats.liste.Label9[0].Caption, "4 titres");
+    EXPECT_EQ(etats.liste.Label9[1].Caption, "4 personnels");
+    EXPECT_THAT(etats.fiche.Combo7[2].Items, ElementsAre("DVD"));
+}
+
+TEST_F(UneCollection, IsGroupedByEachSort) {
+    choisitZone(execution, 0);
+    choisitTri(execution, 0);
+    EXPECT_THAT(arbre(etats),
+                ElementsAre("E", "  Été Violent", "L", "  Le Cercle Rouge", "  Le Samouraï", "S", "  Sans Rien"));
+    choisitTri(execution, 2);
+    EXPECT_THAT(arbre(etats), ElementsAre(" Hors tri !", "  Sans Rien", "1959", "  Été Violent", "1967",
+                                          "  Le Samouraï", "1970", "  Le Cercle Rouge"));
+    choisitTri(execution, 3);
+    EXPECT_THAT(arbre(etats), ElementsAre("Jean-Pierre Melville", "  Le Cercle Rouge", "  Le Samouraï", "Non défini",
+                                          "  Sans Rien", "Valerio Zurlini", "  Été Violent"));
+    choisitTri(execution, 8);
+    EXPECT_THAT(arbre(etats), ElementsAre("DVD", "  Été Violent", "  Le Cercle Rouge", "  Le Samouraï", "  Sans Rien"));
+    etats.liste.AffStats.Value = 1;
+    session.AffStats_Click();
+    EXPECT_EQ(arbre(etats).front(), "DVD (100 %)");
+}
+
+TEST_F(UneCollection, EveryZoneAndSortListsItsFilms) {
+    const std::vector<std::string> captions{"Liste de films (4 titres)", "Liste de films (4 titres)",
+                                            "Liste de films (4 titres)", "Liste de films (0 titre)",
+                                            "Liste de films (0 titre)",  "Liste de films (0 titre)"};
+    for (int zone = 0; zone < 6; ++zone) {
+        choisitTri(execution, 0);
+        choisitZone(execution, zone);
+        for (int tri = 0; tri < 9; ++tri) {
+            const bool refuse = tri == 8 && (zone == 1 || zone == 5);
+            if (refuse) execution.boites.attendMsgBox(kTriRefuse, dialogues::kExclamation);
+            choisitTri(execution, tri);
+            EXPECT_EQ(etats.liste.Frame1.Caption, captions[static_cast<std::size_t>(zone)]) << zone << " " << tri;
+        }
+    }
+}
+
+TEST_F(UneCollection, AClickShowsTheSheetWithItsPosterOrNone) {
+    for (const char* titre : {"Le Cercle Rouge", "Sans Rien", "Le Cercle Rouge", "Été Violent"}) {
+        session.TreeView1_NodeClick(noeud(etats, titre));
+        EXPECT_TRUE(etats.panneaux.frameFiche.Visible);
+        EXPECT_EQ(etats.fiche.Label1[0].Caption, titre);
+        const bool aUneAffiche = std::string(titre) == "Le Cercle Rouge";
+        EXPECT_EQ(etats.fiche.Image1.vide, !aUneAffiche) << titre;
+        EXPECT_EQ(execution.images.courante, aUneAffiche ? installation.chemin("Tmp/ImageTMP.jpg") : "") << titre;
+    }
+    EXPECT_EQ(etats.fiche.Label1[2].Caption, "Production (1959)");
+    EXPECT_EQ(etats.fiche.Text1.Text, "Un résumé.");
+    EXPECT_EQ(etats.fiche.Combo7[2].Text, "DVD");
+}
+
+TEST_F(UneCollection, ThePagesFollowTheLayout) {
+    const auto pages = [&] {
+        const browse::EtatFiche& fiche = etats.fiche;
+        return std::string(fiche.frameGeneralites[0].Visible ? "G" : "-") +
+               (fiche.frameAutresInfos[1].Visible ? "A" : "-") + (fiche.cmdGeneralites.Visible ? " boutons" : "");
+    };
+    session.TreeView1_NodeClick(noeud(etats, "Sans Rien"));
+    session.cmdAutresInfos_Click();
+    EXPECT_EQ(pages(), "-A boutons");
+    session.Form_Resize(false);
+    EXPECT_EQ(pages(), "-A boutons");
+    session.Form_Resize(true);
+    EXPECT_EQ(pages(), "GA");
+    session.Form_Resize(false);
+    EXPECT_EQ(pages(), "G- boutons");
+}
+
+TEST_F(UneCollection, TheDirectorLineSearchesTheCollection) {
+    session.TreeView1_NodeClick(noeud(etats, "Le Samouraï"));
+    session.lblRealisateur_Click();
+    EXPECT_THAT(arbre(etats), ElementsAre("Le Cercle Rouge", "Le Samouraï"));
+    EXPECT_EQ(etats.recherche.Text2.Text, "Jean-Pierre Melville");
+    choisitTri(execution, 2);
+    EXPECT_THAT(arbre(etats), ElementsAre("1967", "  Le Samouraï", "1970", "  Le Cercle Rouge"));
+}
+
+TEST_F(UneCollection, ARightClickAsksForTheMenuOfItsNode) {
+    choisitZone(execution, 0);
+    choisitTri(execution, 4);
+    session.TreeView1_MouseUpDroit(noeud(etats, "Policier"));
+    EXPECT_EQ(etats.menu, app::MenuContextuel::MenuClicDroitGenre);
+    session.TreeView1_MouseUpDroit(noeud(etats, "Le Samouraï"));
+    EXPECT_EQ(etats.menu, app::MenuContextuel::MenuClicDroitFilm);
+    EXPECT_EQ(etats.fiche.Label1[0].Caption, "Le Samouraï");
+    choisitTri(execution, 2);
+    session.TreeView1_MouseUpDroit(noeud(etats, "1970"));
+    EXPECT_EQ(etats.menu, app::MenuContextuel::Aucun);
+}
+
+TEST(Parcours, TheNextStartFindsEverythingAsItWasLeft) {
+    const Installation installation;
+    ecritFiches(installation);
+    const std::string series = installation.chemin("Séries.mdb");
+    {
+        Execution premiere(installation.chemin());
+        ASSERT_TRUE(premiere.demarre());
+        importe(premiere, installation);
+        choisitTri(premiere, 4);
+        premiere.etats.frmPrincipal = {15000, 9000};
+        premiere.boites.attendFichier(demandeBase(installation), installation.chemin("Séries"));
+        premiere.boites.attendMsgBox("Le fichier " + series + " n'existe pas. Voulez-vous le créer ?",
+                                     dialogues::kQuestion, dialogues::kOui);
+        premiere.session.cmdChargeOuvreBase_Click();
+        EXPECT_EQ(premiere.etats.liste.Label9[0].Caption, "0 titre");
+        EXPECT_THROW(premiere.session.cmdStop_Click(), systeme::FinDuProgramme);
+    }
+    {
+        Execution deuxieme(installation.chemin());
+        ASSERT_TRUE(deuxieme.demarre());
+        EXPECT_EQ(deuxieme.etats.liste.ChoixTri.Text, "Tri par genre");
+        EXPECT_EQ(deuxieme.etats.frmPrincipal.Width, 15000);
+        EXPECT_EQ(deuxieme.etats.liste.Label9[0].Caption, "0 titre");
+        deuxieme.boites.attendFichier(demandeBase(installation), installation.chemin("Films.mdb"));
+        deuxieme.session.cmdChargeOuvreBase_Click();
+        deuxieme.session.Form_Unload();
+    }
+    Execution troisieme(installation.chemin());
+    ASSERT_TRUE(troisieme.demarre());
+    EXPECT_THAT(arbre(troisieme.etats), ElementsAre(" Hors tri !", "  Sans Rien", "Drame", "  Été Violent", "Policier",
+                                                    "  Le Cercle Rouge", "  Le Samouraï"));
+}
+
+TEST(Parcours, ACopiedFolderIsAnInstallationOfItsOwn) {
+    const Installation installation;
+    ecritFiches(installation);
+    {
+        Execution execution(installation.chemin());
+        ASSERT_TRUE(execution.demarre());
+        importe(execution, installation);
+        execution.session.Form_Unload();
+    }
+    const doubles::DossierTemporaire ailleurs;
+    std::filesystem::copy(installation.chemin(), ailleurs.chemin("Copie"), std::filesystem::copy_options::recursive);
+    {
+        dao::Database base = dao::DBEngine::OpenDatabase(ailleurs.chemin("Copie/Films.mdb"));
+        dao::Recordset films = base.OpenRecordset("Films");
+        films.AddNew();
+        films.assigne("Titre", "Seulement dans la copie");
+        films.Update();
+    }
+    Execution copie(ailleurs.chemin("Copie"));
+    Execution originale(installation.chemin());
+    ASSERT_TRUE(copie.demarre() && originale.demarre());
+    EXPECT_EQ(copie.etats.liste.Label9[0].Caption, "5 titres");
+    EXPECT_EQ(originale.etats.liste.Label9[0].Caption, "4 titres");
+}
+
+}  // namespace

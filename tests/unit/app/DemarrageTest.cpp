@@ -1,0 +1,145 @@
+#include "parcours/Installation.h"
+
+#include <filesystem>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using parcours::Execution;
+using parcours::Installation;
+using testing::ElementsAre;
+
+constexpr const char* kDossierRefuse = "Le répertoire d'Ambrelis doit être en lecture-écriture";
+constexpr const char* kBaseRefusee = "Erreur (22) : Ouverture de la base (Lecture seule/Fichier manquant ?)";
+
+TEST(Demarrage, AFirstStartMakesWhatIsMissingAndFillsTheLists) {
+    const Installation installation;
+    Execution premiere(installation.chemin());
+    ASSERT_TRUE(premiere.demarre());
+
+    EXPECT_TRUE(std::filesystem::is_empty(installation.chemin("Tmp")));
+    EXPECT_EQ(installation.lit("Ambrelis.ini"), "");
+    EXPECT_TRUE(installation.existe("Films.mdb"));
+    EXPECT_FALSE(installation.existe("Images"));
+
+    const browse::EtatListe& liste = premiere.etats.liste;
+    EXPECT_THAT(liste.ChoixZone.Items, ElementsAre("Mes films", "Tous les films", "Mes films non prêtés",
+                                                   "Mes films prêtés", "Mes films réservés", "Films non possédés"));
+    EXPECT_THAT(liste.ChoixTri.Items, ElementsAre("Tri par titre - 1", "Tri par titre - 2 ", "Tri par année",
+                                                  "Tri par réalisateur", "Tri par genre", "Tri par origine",
+                                                  "Tri par durée", "Tri par notation", "Tri par support"));
+    EXPECT_EQ(liste.ChoixZone.Text, "Mes films");
+    EXPECT_EQ(liste.ChoixTri.Text, "Tri par titre - 1");
+    EXPECT_EQ(liste.Frame1.Caption, "Liste de films (0 titre)");
+    EXPECT_EQ(liste.Label9[1].Caption, "0 personnel");
+
+    const app::EtatFonctions& fonctions = premiere.etats.fonctions;
+    EXPECT_THAT(fonctions.Label13.Caption, testing::MatchesRegex("v\\. [0-9]+\\.[0-9]+\\.[0-9]+"));
+    EXPECT_EQ(fonctions.Label14[9].Caption, " - Multi-supressions :");
+    EXPECT_THAT(fonctions.Combo6[0].Items, ElementsAre("avi", "mkv"));
+    EXPECT_EQ(fonctions.Combo6[0].Text, "avi");
+    EXPECT_EQ(fonctions.Combo6[1].Text, " Logiciel par défaut");
+}
+
+// Everything is wrong at first; each start tells the first thing that is, which is then mended.
+TEST(Demarrage, RefusalsComeInOrderAndWriteNoSettings) {
+    const Installation installation;
+    const std::string reglages = "0\n\n0\n0\n3\nfilms.mdb\n0\n1\n";
+    installation.ecrit("Ambrelis.ini", reglages);
+    installation.ecrit("films.mdb", "ceci n'est pas une base");
+    installation.ecrit("Tmp", "un fichier");
+    std::filesystem::remove(installation.chemin("Modele.dat"));
+    std::filesystem::remove(installation.chemin("Extensions.txt"));
+
+    const auto refuse = [&](const std::string& message) {
+        Execution essai(installation.chemin());
+        essai.boites.attendMsgBox(message, dialogues::kCritique);
+        EXPECT_FALSE(essai.demarre());
+        EXPECT_EQ(installation.lit("Ambrelis.ini"), reglages) << message;
+        EXPECT_FALSE(installation.existe("Extensions.txt")) << message;
+    };
+    refuse(kDossierRefuse);
+    std::filesystem::remove(installation.chemin("Tmp"));
+    refuse("Le fichier " + installation.chemin("Modele.dat") + " n'existe pas.");
+    installation.ajouteModele();
+    refuse(kBaseRefusee);
+    EXPECT_EQ(installation.lit("films.mdb"), "ceci n'est pas une base");
+    std::filesystem::remove(installation.chemin("films.mdb"));
+    refuse("Le fichier 'Extensions.txt' est absent.");
+    installation.ecrit("Extensions.txt", "");
+    Execution bonne(installation.chemin());
+    EXPECT_TRUE(bonne.demarre());
+}
+
+TEST(Demarrage, ASecondInstanceEndsSilentlyAndDisturbsNothing) {
+    const Installation installation;
+    const Installation autreDossier;
+    {
+        Execution premiere(installation.chemin());
+        ASSERT_TRUE(premiere.demarre());
+        const std::string temporaire = installation.ecrit("Tmp/ImageTMP.jpg", "affiche");
+        EXPECT_FALSE(Execution(installation.chemin()).demarre());
+        EXPECT_EQ(installation.lit("Tmp/ImageTMP.jpg"), "affiche");
+        EXPECT_TRUE(Execution(autreDossier.chemin()).demarre());
+    }
+    EXPECT_TRUE(Execution(installation.chemin()).demarre()) << "after a crash nothing of the lock is left";
+}
+
+TEST(Demarrage, SettingsAreApplied) {
+    const Installation installation;
+    installation.ecrit("Ambrelis.ini", "1\n/img/\n12000\n9000\n8\nAutre/Été.mdb\n1\n1\n");
+    installation.ecrit("Autre/Été.mdb", installation.lit("Modele.dat"));
+    Execution execution(installation.chemin());
+    ASSERT_TRUE(execution.demarre());
+    const app::Etats& etats = execution.etats;
+    EXPECT_TRUE(etats.stockage.Option3[1].Value && !etats.stockage.Option3[0].Value);
+    EXPECT_EQ(etats.stockage.Text4.Text, "/img/");
+    EXPECT_TRUE(etats.stockage.Text4.Enabled && etats.stockage.cmdParcourir.Enabled);
+    EXPECT_EQ(etats.frmPrincipal.Width, 12000);
+    EXPECT_EQ(etats.frmPrincipal.Height, 9000);
+    EXPECT_EQ(etats.liste.ChoixTri.Text, "Tri par support");
+    EXPECT_EQ(etats.fonctions.chkLancerConnexion.Value, 1);
+    EXPECT_EQ(etats.liste.AffStats.Value, 1);
+    EXPECT_FALSE(installation.existe("Films.mdb"));
+}
+
+TEST(Demarrage, SettingsThatCannotHoldGiveWay) {
+    const Installation installation;
+    installation.ecrit("Ambrelis.ini", "0\n\n0\n0\n9\n/disparue.mdb\n0\n2\n");
+    {
+        Execution execution(installation.chemin());
+        ASSERT_TRUE(execution.demarre());
+        EXPECT_EQ(execution.etats.liste.ChoixTri.ListIndex, 0);
+        EXPECT_EQ(execution.etats.liste.AffStats.Value, 0);
+        EXPECT_FALSE(execution.etats.stockage.Text4.Enabled || execution.etats.stockage.cmdParcourir.Enabled);
+        execution.session.Form_Unload();
+    }
+    EXPECT_EQ(installation.lit("Ambrelis.ini"), "0\n\n0\n0\n0\nfilms.mdb\n0\n0\n");
+    EXPECT_TRUE(installation.existe("films.mdb"));
+}
+
+TEST(Demarrage, GarbageSettingsStartTheProgram) {
+    for (const std::string& octets :
+         {std::string("\x7f"
+                      "ELF\0\x01\xff\xfe\n\0\n",
+                      11),
+          std::string(10'000'000, '\xE9'), std::string(10'000'000, '\n'), std::string("0\n\n0\n0\n0\nTmp\n")}) {
+        const Installation installation;
+        installation.ecrit("Ambrelis.ini", octets);
+        Execution execution(installation.chemin());
+        EXPECT_TRUE(execution.demarre());
+    }
+}
+
+TEST(Demarrage, SettingsThatCannotBeReadAreToldAndLeftAlone) {
+    const Installation installation;
+    std::filesystem::create_directory(installation.chemin("Ambrelis.ini"));
+    Execution execution(installation.chemin());
+    execution.boites.attendMsgBox("Les réglages n'ont pas pu être lus (" + installation.chemin("Ambrelis.ini") + ").",
+                                  dialogues::kExclamation);
+    ASSERT_TRUE(execution.demarre());
+    execution.session.Form_Unload();
+}
+
+}  // namespace

@@ -1,0 +1,77 @@
+#include "app/APropos.h"
+#include "app/Liens.h"
+#include "parcours/Installation.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using parcours::Execution;
+using parcours::Installation;
+
+// "D" the add panel, "O" tools, "C" configuration; a capital is shown. Then the bold button, "-" for none.
+std::string panneaux(const app::Etats& etats) {
+    const app::EtatFonctions& f = etats.fonctions;
+    const std::string gras = f.cmdConfig[0].FontBold ? "0" : f.cmdConfig[1].FontBold ? "1" : "-";
+    if (!etats.panneaux.frameListeFonctions.Visible || etats.panneaux.frameFiche.Visible ||
+        etats.panneaux.framePresentation.Visible)
+        return "not the functions";
+    return std::string(f.frameDivers.Visible ? "D" : "d") + (f.frameOutils.Visible ? "O" : "o") +
+           (f.frameConfig.Visible ? "C" : "c") + gras;
+}
+
+TEST(ChoixFonction, OnePanelAtATimeUnderItsBoldButton) {
+    const Installation installation;
+    Execution execution(installation.chemin());
+    app::Session& session = execution.session;
+    session.cmdAfficherFonctions_Click();
+    EXPECT_EQ(panneaux(session.etats), "Doc-");
+    EXPECT_TRUE(session.etats.ajout.frameAjoutAuto.Visible && session.etats.ajout.Command13[0].FontBold);
+    EXPECT_EQ(session.etats.demandes.focus, "txtRechInternet");
+    session.cmdConfigurer_Click();
+    EXPECT_EQ(panneaux(session.etats), "dOc0");
+    session.cmdConfig_Click(1);
+    EXPECT_EQ(panneaux(session.etats), "doC1");
+    session.cmdConfig_Click(0);
+    EXPECT_EQ(panneaux(session.etats), "dOc0");
+    session.cmdConfig_Click(7);
+    EXPECT_EQ(panneaux(session.etats), "doC1");
+}
+
+TEST(APropos, KeepsItsFixedLines) {
+    const std::string texte = app::texteAPropos();
+    EXPECT_TRUE(
+        texte.starts_with("Ambrelis\n\nFreeware permettant de gérer sa vidéothèque personnelle.  L'ajout des "
+                          "titres peut être automatisé\n"));
+    EXPECT_TRUE(
+        texte.ends_with("\n\nNotes : pour agrandir la fenêtre du logiciel, cliquez sur les bords : \n"
+                        "Ambrelis s'adaptera à la taille que vous lui donnez ! "));
+    const Installation installation;
+    Execution execution(installation.chemin());
+    execution.boites.attendMsgBox(texte, dialogues::kInformation);
+    execution.session.cmdAide_Click();
+}
+
+TEST(Liens, OpenInTheBrowserOrGiveTheirAddress) {
+    const Installation installation;
+    Execution execution(installation.chemin());
+    execution.session.Image3_Click();
+    execution.session.Label4_Click();
+    EXPECT_EQ(execution.documents.ouverts, (std::vector<std::string>{app::kSiteMovieCovers, app::kPageAmbrelis}));
+    execution.documents.reussit = false;
+    execution.boites.attendMsgBox(std::string("Le navigateur n'a pas pu être ouvert (") + app::kSiteMovieCovers + ").",
+                                  dialogues::kExclamation);
+    execution.session.Image3_Click();
+}
+
+TEST(Parcourir, ACancelledFolderChangesNothing) {
+    const Installation installation;
+    Execution execution(installation.chemin());
+    execution.boites.attendDossier("Dossier des images", "", "/img/Été");
+    execution.session.cmdParcourir_Click();
+    execution.boites.attendDossier("Dossier des images", "/img/Été", "");
+    execution.session.cmdParcourir_Click();
+    EXPECT_EQ(execution.etats.stockage.Text4.Text, "/img/Été");
+}
+
+}  // namespace
