@@ -1,0 +1,80 @@
+# What ./run and ./check share. Sourced with $racine set to the checkout; nothing here needs a terminal.
+
+# What builds and runs the program; ./check adds what tests need.
+paquets_programme=(g++ cmake ninja-build qt6-base-dev qt6-translations-l10n libsqlite3-dev libicu-dev xdg-utils)
+paquets_essais=(libgtest-dev libgmock-dev)
+
+dit() { printf '%s\n' "$*"; }
+
+echoue() {
+  printf '%s\n' "$*" >&2
+  exit 1
+}
+
+# How long a step took, said once it is over.
+depuis() { dit "  done in $((SECONDS - $1)) s"; }
+
+# absents PACKAGE...: those that are not installed, one a line.
+absents() {
+  local etats paquet
+  etats=$(dpkg-query -W -f='/${Package} ${db:Status-Status}/' "$@" 2>/dev/null)
+  for paquet; do
+    [[ $etats == *"/$paquet installed/"* ]] || printf '%s\n' "$paquet"
+  done
+}
+
+# installe PACKAGE...: installs what is missing and only that; the package lists are read again only when they must be.
+installe() {
+  if ! command -v dpkg-query apt-get >/dev/null; then
+    command -v cmake ninja g++ >/dev/null ||
+      echoue "This is no Debian system: install a C++20 compiler, CMake 3.25, Ninja, Qt 6.4, SQLite 3.40 and ICU 72 yourself, then start again."
+    return 0
+  fi
+  local manque=() admin=() journal debut=$SECONDS
+  mapfile -t manque < <(absents "$@")
+  ((${#manque[@]})) || return 0
+  if ((EUID != 0)); then
+    command -v sudo >/dev/null && { sudo -n true 2>/dev/null || [ -t 0 ]; } ||
+      echoue "These packages are missing and only root can install them: ${manque[*]}. Run as root: apt-get install --no-install-recommends ${manque[*]}"
+    admin=(sudo)
+  fi
+  admin+=(env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o DPkg::Lock::Timeout=300 -o Acquire::Retries=2)
+  mkdir -p "$racine/build"
+  journal=$racine/build/installation.log
+  dit "Installing what is missing: ${manque[*]}"
+  if ! "${admin[@]}" install --no-install-recommends "${manque[@]}" </dev/null >"$journal" 2>&1; then
+    dit "  reading the package lists first"
+    "${admin[@]}" update </dev/null >"$journal" 2>&1 || true
+    if ! "${admin[@]}" install --no-install-recommends "${manque[@]}" </dev/null >>"$journal" 2>&1; then
+      grep -h '^[EW]:' "$journal" | sort -u | head -n 4 >&2 || true
+      echoue "The packages could not be installed: is the network there? The whole story is in build/installation.log."
+    fi
+  fi
+  depuis "$debut"
+}
+
+# construit PRESET: configures where that was not done yet, and builds; says little unless it fails.
+construit() {
+  local preset=$1 dossier=$racine/build/$1 journal=$racine/build/$1.log debut=$SECONDS
+  local lanceur=()
+  command -v ccache >/dev/null && lanceur=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+  mkdir -p "$racine/build"
+  if [ -f "$dossier/CMakeCache.txt" ] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$racine" "$dossier/CMakeCache.txt"; then
+    dit "The checkout has moved: $preset is built anew"
+    rm -rf "$dossier"
+  fi
+  if [ ! -f "$dossier/build.ninja" ]; then
+    dit "Building Ambrelis ($preset); the first time takes some minutes"
+    (cd "$racine" && cmake --preset "$preset" "${lanceur[@]}") </dev/null >"$journal" 2>&1 || raconte "$journal" "The build could not be prepared"
+  fi
+  if ! ninja -C "$dossier" -j "$(nproc)" </dev/null >"$journal" 2>&1; then
+    raconte "$journal" "The build failed"
+  fi
+  ((SECONDS - debut < 3)) || depuis "$debut"
+}
+
+# raconte LOG SENTENCE: the end of a log, then the sentence, then the end of everything.
+raconte() {
+  grep -nE -A6 '(error|Error|FAILED)' "$1" | tail -n 40 >&2 || tail -n 40 "$1" >&2
+  echoue "$2; the whole story is in ${1#"$racine"/}."
+}
