@@ -1,10 +1,10 @@
 #pragma once
 
+#include "platform/dao/Database.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
-
-#include "platform/dao/Database.h"
 
 // The base engine: one SQLite file per base, spoken to in DAO's words.
 namespace dao::DBEngine {

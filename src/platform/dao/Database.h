@@ -1,11 +1,11 @@
 #pragma once
 
+#include "platform/dao/ErreurDao.h"
+#include "platform/dao/Recordset.h"
+
 #include <memory>
 #include <string>
 #include <string_view>
-
-#include "platform/dao/ErreurDao.h"
-#include "platform/dao/Recordset.h"
 
 namespace dao {
 
@@ -40,6 +40,7 @@ class Database {
     [[nodiscard]] const std::string& nom() const;  // the path it was opened with
 
   private:
+    friend class Transaction;
     std::unique_ptr<interne::Connexion> m_connexion;
 };
 

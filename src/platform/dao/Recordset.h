@@ -1,10 +1,10 @@
 #pragma once
 
+#include "platform/dao/Valeur.h"
+
 #include <memory>
 #include <string>
 #include <string_view>
-
-#include "platform/dao/Valeur.h"
 
 namespace dao {
 

@@ -1,0 +1,213 @@
+#include "platform/dao/CleJet.h"
+
+#include "platform/dao/PoidsJet.h"
+#include "platform/dao/Utf8.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+
+#include <unicode/utf16.h>
+
+namespace dao::interne {
+
+namespace {
+
+constexpr char kFinDeNiveau = 0x01;  // below every weight
+
+std::string_view sansBlancsFinaux(std::string_view texte) {
+    while (texte.ends_with(' '))
+        texte.remove_suffix(1);
+    return texte;
+}
+
+// A key in the making, level by level, on a bench kept from one text to the next.
+class CleEnCours {
+  public:
+    // No more than `caracteres` characters of the table, or elements of ICU, may be added before reserve is called again.
+    explicit CleEnCours(std::size_t caracteres) : m_etabli(etabli()) { reserve(caracteres); }
+
+    void reserve(std::size_t caracteres) {
+        if (m_etabli.places <= m_reserves + caracteres) agrandit(m_reserves + caracteres);
+        m_reserves += caracteres;
+    }
+
+    // Copies whole fixed arrays and keeps their used part: quicker than counting bytes.
+    void ajoute(const Poids& poids) {
+        std::memcpy(m_etabli.lettres.get() + m_lettres, poids.lettres.data(), poids.lettres.size());
+        m_lettres += poids.lettresTaille;
+        m_elements += poids.elements;
+        for (std::size_t i = 0; i < poids.accentsTaille; ++i)
+            accent(poids.accents[i]);
+    }
+
+    // The plain letters at the start of a text; answers how many there were.
+    std::size_t ajouteSimples(std::string_view texte) {
+        char* const lettres = m_etabli.lettres.get() + m_lettres;
+        std::size_t nombre = 0;
+        for (; nombre < texte.size(); ++nombre) {
+            const std::uint8_t lettre = g_lettresSimples[static_cast<std::uint8_t>(texte[nombre])];
+            if (lettre == 0) break;
+            lettres[nombre] = static_cast<char>(lettre);
+        }
+        m_lettres += nombre;
+        m_elements += nombre;
+        m_accents += nombre;
+        return nombre;
+    }
+
+    void ajoute(const ElementJet& element) {
+        std::memcpy(m_etabli.lettres.get() + m_lettres, element.lettre.data(), element.lettre.size());
+        m_lettres += element.lettreTaille;
+        m_elements += element.commence ? 1 : 0;
+        if (element.accent != 0) accent(element.accent);
+    }
+
+    void signe(std::uint8_t rang) {
+        constexpr std::size_t kBase = 250;
+        const std::size_t haut = std::min(m_elements / kBase, kBase);
+        char* signes = m_etabli.signes.get() + m_signes;
+        signes[0] = static_cast<char>(2 + haut);
+        signes[1] = static_cast<char>(2 + m_elements % kBase);
+        signes[2] = static_cast<char>(1 + rang);
+        m_signes += 3;
+    }
+
+    // Common accents at the end say nothing and are left out.
+    void finit(std::string& cle) {
+        m_etabli.lettres[m_lettres++] = kFinDeNiveau;
+        cle.append(m_etabli.lettres.get(), m_lettres);
+        cle.append(m_etabli.accents.get(), m_accentsUtiles);
+        if (m_signes == 0) return;
+        cle.push_back(kFinDeNiveau);
+        cle.append(m_etabli.signes.get(), m_signes);
+    }
+
+  private:
+    struct Etabli {
+        std::size_t places = 0;
+        std::unique_ptr<char[]> lettres, accents, signes;
+    };
+
+    static Etabli& etabli() {
+        thread_local Etabli unique;
+        return unique;
+    }
+
+    void agrandit(std::size_t caracteres) {
+        const auto refait = [](std::unique_ptr<char[]>& octets, std::size_t garde, std::size_t taille) {
+            auto nouveaux = std::make_unique<char[]>(taille);
+            if (garde != 0) std::memcpy(nouveaux.get(), octets.get(), garde);
+            octets = std::move(nouveaux);
+        };
+        const std::size_t places = 2 * caracteres + 256;
+        refait(m_etabli.lettres, m_lettres, places * sizeof(Poids::lettres) + 1);
+        refait(m_etabli.accents, m_accentsUtiles, places * sizeof(Poids::accents));
+        refait(m_etabli.signes, m_signes, places * 3);
+        m_etabli.places = places;
+    }
+
+    void accent(std::uint8_t octet) {
+        if (octet != kAccentCommun) {
+            char* const accents = m_etabli.accents.get();
+            std::memset(accents + m_accentsUtiles, kAccentCommun, m_accents - m_accentsUtiles);
+            accents[m_accents] = static_cast<char>(octet);
+            m_accentsUtiles = m_accents + 1;
+        }
+        ++m_accents;
+    }
+
+    Etabli& m_etabli;
+    std::size_t m_reserves = 0;
+    std::size_t m_lettres = 0;
+    std::size_t m_accents = 0;
+    std::size_t m_accentsUtiles = 0;
+    std::size_t m_signes = 0;
+    std::size_t m_elements = 0;
+};
+
+void ajouteMorceau(const std::u16string& morceau, CleEnCours& cle) {
+    if (morceau.empty()) return;
+    ElementsDeTexte elements(morceau);
+    for (ElementJet element; elements.suivant(element);) {
+        cle.reserve(1);
+        cle.ajoute(element);
+    }
+}
+
+void ajouteUtf16(char32_t caractere, std::u16string& texte) {
+    std::array<char16_t, 2> unites{};
+    std::size_t taille = 0;
+    U16_APPEND_UNSAFE(unites, taille, caractere);
+    texte.append(unites.data(), taille);
+}
+
+void ajouteCleLente(std::string_view texte, std::string& cle) {
+    CleEnCours enCours(texte.size());
+    std::u16string morceau;
+    while (!texte.empty()) {
+        const CaractereLu lu = litCaractere(texte);
+        texte.remove_prefix(lu.octets);
+        const std::uint8_t signe = signeDe(lu.point);
+        if (signe == 0) {
+            ajouteUtf16(lu.point, morceau);
+            continue;
+        }
+        ajouteMorceau(morceau, enCours);
+        morceau.clear();
+        enCours.signe(signe);
+    }
+    ajouteMorceau(morceau, enCours);
+    enCours.finit(cle);
+}
+
+// Answers false, the key untouched, at the first character that is not in the table.
+bool ajouteCleRapide(std::string_view texte, std::string& cle) {
+    CleEnCours enCours(texte.size());
+    std::size_t rang = 0;
+    while (true) {
+        rang += enCours.ajouteSimples(texte.substr(rang));
+        if (rang == texte.size()) break;
+        char32_t caractere = static_cast<std::uint8_t>(texte[rang]);
+        std::size_t octets = 1;
+        if (caractere >= 0x80) {
+            const CaractereLu lu = litCaractere(texte.substr(rang));
+            caractere = lu.point;
+            octets = lu.octets;
+        }
+        rang += octets;
+        const Poids& poids = poidsDe(caractere);
+        if (poids.genre == Poids::Genre::Lent) return false;
+        if (poids.genre == Poids::Genre::Signe) {
+            enCours.signe(poids.signe);
+            continue;
+        }
+        enCours.ajoute(poids);
+    }
+    enCours.finit(cle);
+    return true;
+}
+
+}  // namespace
+
+void ajouteCleJet(std::string_view texte, std::string& cle) {
+    texte = sansBlancsFinaux(texte);
+    if (!ajouteCleRapide(texte, cle)) ajouteCleLente(texte, cle);
+}
+
+std::string cleJet(std::string_view texte) {
+    std::string cle;
+    ajouteCleJet(texte, cle);
+    return cle;
+}
+
+std::string cleJetLente(std::string_view texte) {
+    std::string cle;
+    ajouteCleLente(sansBlancsFinaux(texte), cle);
+    return cle;
+}
+
+}  // namespace dao::interne

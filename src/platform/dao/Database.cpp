@@ -1,0 +1,81 @@
+#include "platform/dao/Database.h"
+
+#include "platform/dao/Connexion.h"
+#include "platform/dao/Enonce.h"
+#include "platform/dao/Erreurs.h"
+#include "platform/dao/JeuDeCles.h"
+#include "platform/dao/JeuVivant.h"
+#include "platform/dao/Plan.h"
+#include "platform/dao/Resultat.h"
+
+#include <algorithm>
+
+namespace dao {
+
+namespace {
+
+interne::Connexion& ouverte(const std::unique_ptr<interne::Connexion>& connexion) {
+    if (connexion == nullptr) interne::jetteFerme();
+    return *connexion;
+}
+
+// A source of one word is a table's name.
+bool estUnNom(std::string_view source) {
+    return source.find_first_of(" \t\r\n;") == std::string_view::npos;
+}
+
+}  // namespace
+
+Database::Database() = default;
+Database::Database(std::unique_ptr<interne::Connexion> connexion) : m_connexion(std::move(connexion)) {}
+Database::Database(Database&&) noexcept = default;
+Database& Database::operator=(Database&&) noexcept = default;
+Database::~Database() = default;
+
+Recordset Database::OpenRecordset(std::string_view source) {
+    interne::Connexion& connexion = ouverte(m_connexion);
+    connexion.veille();
+    if (estUnNom(source)) return Recordset(std::make_unique<interne::JeuVivant>(connexion, connexion.table(source)));
+    const interne::Plan plan = interne::planifie(connexion, interne::analyseEnonce(source));
+    return Recordset(std::make_unique<interne::JeuDeCles>(connexion, plan, interne::execute(connexion, plan)));
+}
+
+void Database::Execute(std::string_view sql) {
+    ouverte(m_connexion).execute(sql);
+}
+void Database::BeginTrans() {
+    ouverte(m_connexion).commence();
+}
+void Database::CommitTrans() {
+    ouverte(m_connexion).confirme();
+}
+
+void Database::Rollback() {
+    if (!enTransaction()) interne::jette(kErreurTransaction, "Aucune transaction n'est ouverte.");
+    m_connexion->annule();
+}
+
+bool Database::enTransaction() const {
+    return ouverte(m_connexion).enTransaction();
+}
+void Database::Close() {
+    m_connexion.reset();
+}
+const std::string& Database::nom() const {
+    return ouverte(m_connexion).nom();
+}
+
+Transaction::~Transaction() {
+    if (!m_ouverte || !m_base.estOuverte()) return;
+    try {
+        m_base.m_connexion->annule();
+    } catch (...) {  // the file engine rolls back what is left when the base is closed or next opened
+    }
+}
+
+void Transaction::confirme() {
+    m_base.CommitTrans();
+    m_ouverte = false;
+}
+
+}  // namespace dao

@@ -1,0 +1,158 @@
+#include "platform/dao/Ecriture.h"
+
+#include "platform/dao/AccesValeur.h"
+#include "platform/dao/Erreurs.h"
+
+#include <algorithm>
+#include <optional>
+
+#include <sqlite3.h>
+
+namespace dao::interne {
+
+namespace {
+
+std::string clauseDeLigne(const Table& table) {
+    return " FROM " + table.nomSql() + " WHERE " + table.ligneSql + "=?1";
+}
+
+// A number found in a title column is compared as its text is.
+std::string_view texteDe(const ValeurVue& valeur, std::string& tampon) {
+    if (valeur.genre != ValeurVue::Genre::Nombre) return valeur.texte;
+    return tampon = texteDeNombre(valeur.nombre);
+}
+
+// Null has no place in the index: it equals nothing.
+std::optional<std::uint64_t> hachageDeColonnes(sqlite3_stmt* requete, int titre) {
+    const ValeurVue gauche = vueDeColonne(requete, titre);
+    const ValeurVue droite = vueDeColonne(requete, titre + 1);
+    if (gauche.estNulle() || droite.estNulle()) return std::nullopt;
+    std::string tamponGauche;
+    std::string tamponDroit;
+    return hacheFilm(texteDe(gauche, tamponGauche), texteDe(droite, tamponDroit));
+}
+
+std::optional<std::uint64_t> hachageDeLigne(Connexion& connexion, const Table& table, long long ligne) {
+    Requete lecture = connexion.prepare("SELECT " + table.colonneSql(table.titre) + "," +
+                                        table.colonneSql(table.realisateur) + clauseDeLigne(table));
+    lecture.lie(1, ligne);
+    return lecture.avance() ? hachageDeColonnes(lecture.brute(), 0) : std::nullopt;
+}
+
+void construitIndex(Connexion& connexion, Table& table) {
+    Requete lecture = connexion.prepare("SELECT " + table.ligneSql + "," + table.colonneSql(table.titre) + "," +
+                                        table.colonneSql(table.realisateur) + " FROM " + table.nomSql());
+    IndexDesFilms& index = table.suivi.index;
+    index.commence(static_cast<std::size_t>(table.suivi.compte.value_or(0)));
+    try {
+        while (lecture.avance()) {
+            if (const auto hachage = hachageDeColonnes(lecture.brute(), 1)) index.ajoute(*hachage, lecture.entier(0));
+        }
+    } catch (...) {
+        index.oublie();
+        throw;
+    }
+}
+
+std::string listeSql(const Table& table, const Assignees& assignees, std::string_view apres) {
+    std::string liste;
+    int rang = 1;
+    for (const auto& [colonne, valeur] : assignees) {
+        liste += "," + table.colonneSql(colonne);
+        if (apres == "=") liste += "=?" + std::to_string(++rang);
+    }
+    return liste;
+}
+
+void lieTout(Requete& requete, const Assignees& assignees) {
+    int rang = 1;
+    for (const auto& [colonne, valeur] : assignees)
+        requete.lie(++rang, valeur);
+}
+
+// The change is in the file already: an index that cannot follow it is built again at its next use.
+void indexe(Connexion& connexion, Table& table, long long ligne) {
+    try {
+        if (const auto hachage = hachageDeLigne(connexion, table, ligne)) table.suivi.index.ajoute(*hachage, ligne);
+    } catch (const ErreurDao&) {
+        table.suivi.index.oublie();
+    }
+}
+
+bool toucheLaCle(const Table& table, const Assignees& assignees) {
+    return std::any_of(assignees.begin(), assignees.end(),
+                       [&](const auto& assignee) { return table.estCle(assignee.first); });
+}
+
+}  // namespace
+
+void jetteSupprime() {
+    jette(kErreurEnregistrementSupprime, "L'enregistrement est supprimé.");
+}
+
+long long ajouteLigne(Connexion& connexion, Table& table, const Assignees& assignees) {
+    Suivi& suivi = table.suivi;
+    const std::string& ligneSql = table.ligneSql;
+    std::string places;
+    for (std::size_t i = 0; i < assignees.size(); ++i)
+        places += ",?" + std::to_string(i + 2);
+    {
+        Requete ajout = connexion.prepare("INSERT INTO " + table.nomSql() + "(" + ligneSql +
+                                          listeSql(table, assignees, "") + ") VALUES (max(?1,coalesce((SELECT max(" +
+                                          ligneSql + ") FROM " + table.nomSql() + "),0)+1)" + places + ")");
+        ajout.lie(1, suivi.plusHaute + 1);
+        lieTout(ajout, assignees);
+        ajout.execute();
+    }
+    const long long ligne = sqlite3_last_insert_rowid(connexion.brute());
+    suivi.plusHaute = std::max(suivi.plusHaute, ligne);
+    if (suivi.compte) ++*suivi.compte;
+    if (suivi.index.estConstruit()) indexe(connexion, table, ligne);
+    connexion.nouvelleVersion();
+    return ligne;
+}
+
+void modifieLigne(Connexion& connexion, Table& table, long long ligne, const Assignees& assignees) {
+    const bool aSuivre = table.suivi.index.estConstruit() && toucheLaCle(table, assignees);
+    const auto ancien = aSuivre ? hachageDeLigne(connexion, table, ligne) : std::nullopt;
+    {
+        Requete modification =
+            connexion.prepare("UPDATE " + table.nomSql() + " SET " + listeSql(table, assignees, "=").substr(1) +
+                              " WHERE " + table.ligneSql + "=?1");
+        modification.lie(1, ligne);
+        lieTout(modification, assignees);
+        modification.execute();
+    }
+    if (sqlite3_changes(connexion.brute()) == 0) jetteSupprime();
+    table.suivi.ecrites[ligne] = connexion.nouvelleVersion();
+    if (ancien) table.suivi.index.retire(*ancien, ligne);
+    if (aSuivre) indexe(connexion, table, ligne);
+}
+
+void supprimeLigne(Connexion& connexion, Table& table, long long ligne) {
+    Suivi& suivi = table.suivi;
+    const auto ancien = suivi.index.estConstruit() ? hachageDeLigne(connexion, table, ligne) : std::nullopt;
+    connexion.prepare("DELETE" + clauseDeLigne(table)).lie(1, ligne).execute();
+    if (sqlite3_changes(connexion.brute()) == 0) jetteSupprime();
+    if (ancien) suivi.index.retire(*ancien, ligne);
+    suivi.plusHaute = std::max(suivi.plusHaute, ligne);
+    suivi.supprimees.insert(ligne);
+    if (connexion.enTransaction()) suivi.supprimeesEnCours.push_back(ligne);
+    if (suivi.compte) --*suivi.compte;
+    connexion.nouvelleVersion();
+}
+
+Valeur litChamp(Connexion& connexion, const Table& table, int colonne, long long ligne) {
+    Requete lecture = connexion.prepare("SELECT " + table.colonneSql(colonne) + clauseDeLigne(table));
+    lecture.lie(1, ligne);
+    if (!lecture.avance()) jetteSupprime();
+    return lecture.valeur(0);
+}
+
+std::vector<long long> candidats(Connexion& connexion, Table& table, std::string_view titre,
+                                 std::string_view realisateur) {
+    if (!table.suivi.index.estConstruit()) construitIndex(connexion, table);
+    return table.suivi.index.candidats(hacheFilm(titre, realisateur));
+}
+
+}  // namespace dao::interne

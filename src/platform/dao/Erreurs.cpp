@@ -1,0 +1,44 @@
+#include "platform/dao/Erreurs.h"
+
+#include <new>
+
+#include <sqlite3.h>
+
+namespace dao::interne {
+
+void jette(int numero, std::string description) {
+    throw ErreurDao(numero, std::move(description));
+}
+
+void jetteFerme() {
+    jette(kErreurObjetFerme, "L'objet n'est pas valide ou n'est plus défini.");
+}
+
+void jetteSqlite(sqlite3* base, int code) {
+    const std::string detail = base != nullptr ? sqlite3_errmsg(base) : sqlite3_errstr(code);
+    switch (code & 0xff) {
+        case SQLITE_NOMEM:
+            throw std::bad_alloc();
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED:
+            jette(kErreurVerrouille, "Mise à jour impossible : la base est verrouillée par un autre programme.");
+        case SQLITE_READONLY:
+        case SQLITE_PERM:
+        case SQLITE_AUTH:
+        case SQLITE_CANTOPEN:
+            jette(kErreurLectureSeule, "Mise à jour impossible : la base ou son dossier est en lecture seule.");
+        case SQLITE_FULL:
+            jette(kErreurDisque, "Erreur de disque : le disque est plein.");
+        case SQLITE_CORRUPT:
+        case SQLITE_NOTADB:
+            jette(kErreurFormat, "La base est endommagée ou d'un format inconnu (" + detail + ").");
+        case SQLITE_CONSTRAINT:
+            jette(kErreurDoublon, "La modification contredit une règle de la base (" + detail + ").");
+        case SQLITE_IOERR:
+            jette(kErreurDisque, "Erreur de disque ou de réseau (" + detail + ").");
+        default:
+            jette(kErreurDisque, "Erreur de la base (" + detail + ").");
+    }
+}
+
+}  // namespace dao::interne

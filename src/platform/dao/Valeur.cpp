@@ -1,0 +1,111 @@
+#include "platform/dao/Valeur.h"
+
+#include "platform/dao/AccesValeur.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include <sqlite3.h>
+
+namespace dao {
+
+namespace interne {
+
+std::string texteDeNombre(double nombre) {
+    std::array<char, 400> tampon{};
+    const bool simple = std::isfinite(nombre) && std::fabs(nombre) < 1e15;
+    const auto fin = simple
+                         ? std::to_chars(tampon.data(), tampon.data() + tampon.size(), nombre, std::chars_format::fixed)
+                         : std::to_chars(tampon.data(), tampon.data() + tampon.size(), nombre);
+    std::string texte(tampon.data(), fin.ptr);
+    return texte == "-0" ? "0" : texte;
+}
+
+double nombreDeTexte(std::string_view texte) {
+    const auto debut = texte.find_first_not_of(" \t\r\n");
+    if (debut == std::string_view::npos) return 0;
+    texte.remove_prefix(debut);
+    if (texte.starts_with('+')) texte.remove_prefix(1);
+    const std::size_t apresSigne = texte.starts_with('-') ? 1 : 0;
+    const bool chiffre = texte.size() > apresSigne &&
+                         (texte[apresSigne] == '.' || (texte[apresSigne] >= '0' && texte[apresSigne] <= '9'));
+    if (!chiffre) return 0;  // "inf" and "nan" are words here
+    double nombre = 0;
+    const auto lu = std::from_chars(texte.data(), texte.data() + texte.size(), nombre);
+    return lu.ec == std::errc{} ? nombre : 0;
+}
+
+ValeurVue vueDeColonne(sqlite3_stmt* requete, int colonne) {
+    switch (sqlite3_column_type(requete, colonne)) {
+        case SQLITE_NULL:
+            return ValeurVue::nulle();
+        case SQLITE_INTEGER:
+        case SQLITE_FLOAT:
+            return ValeurVue::deNombre(sqlite3_column_double(requete, colonne));
+        case SQLITE_BLOB: {
+            const auto* octets = static_cast<const char*>(sqlite3_column_blob(requete, colonne));
+            const auto taille = static_cast<std::size_t>(sqlite3_column_bytes(requete, colonne));
+            return {ValeurVue::Genre::Texte, false,
+                    taille == 0 ? std::string_view("") : std::string_view(octets, taille), 0};
+        }
+        default: {
+            const auto* texte = reinterpret_cast<const char*>(sqlite3_column_text(requete, colonne));
+            return ValeurVue::deTexte({texte, static_cast<std::size_t>(sqlite3_column_bytes(requete, colonne))});
+        }
+    }
+}
+
+}  // namespace interne
+
+Valeur Valeur::octets(std::string octets) {
+    Valeur valeur;
+    valeur.m_valeur = Octets{std::move(octets)};
+    return valeur;
+}
+
+std::string Valeur::texte() const {
+    if (const auto* texte = std::get_if<Texte>(&m_valeur)) return texte->contenu;
+    if (const auto* octets = std::get_if<Octets>(&m_valeur)) return octets->contenu;
+    if (const auto* entier = std::get_if<long long>(&m_valeur)) return std::to_string(*entier);
+    if (const auto* reel = std::get_if<double>(&m_valeur)) return interne::texteDeNombre(*reel);
+    return {};
+}
+
+double Valeur::nombre() const {
+    if (const auto* entier = std::get_if<long long>(&m_valeur)) return static_cast<double>(*entier);
+    if (const auto* reel = std::get_if<double>(&m_valeur)) return *reel;
+    return interne::nombreDeTexte(texte());
+}
+
+void AccesValeur::lie(sqlite3_stmt* requete, int rang, const Valeur& valeur) {
+    if (const auto* texte = std::get_if<Valeur::Texte>(&valeur.m_valeur)) {
+        sqlite3_bind_text64(requete, rang, texte->contenu.data(), texte->contenu.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+    } else if (const auto* octets = std::get_if<Valeur::Octets>(&valeur.m_valeur)) {
+        sqlite3_bind_blob64(requete, rang, octets->contenu.data(), octets->contenu.size(), SQLITE_TRANSIENT);
+    } else if (const auto* entier = std::get_if<long long>(&valeur.m_valeur)) {
+        sqlite3_bind_int64(requete, rang, *entier);
+    } else if (const auto* reel = std::get_if<double>(&valeur.m_valeur)) {
+        sqlite3_bind_double(requete, rang, *reel);
+    } else {
+        sqlite3_bind_null(requete, rang);
+    }
+}
+
+Valeur AccesValeur::lit(sqlite3_stmt* requete, int colonne) {
+    switch (sqlite3_column_type(requete, colonne)) {
+        case SQLITE_NULL:
+            return {};
+        case SQLITE_INTEGER:
+            return static_cast<long long>(sqlite3_column_int64(requete, colonne));
+        case SQLITE_FLOAT:
+            return sqlite3_column_double(requete, colonne);
+        case SQLITE_BLOB:
+            return Valeur::octets(std::string(interne::vueDeColonne(requete, colonne).texte));
+        default:
+            return interne::vueDeColonne(requete, colonne).texte;
+    }
+}
+
+}  // namespace dao
