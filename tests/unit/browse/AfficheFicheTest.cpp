@@ -1,0 +1,206 @@
+#include "Fenetre.h"
+#include "db/Affiches.h"
+#include "platform/fichiers/Fichiers.h"
+
+namespace {
+
+const std::string kPasDImage = "Pas d'image \r\n(Cliquez pour ajouter)";
+const std::string kJpeg("\xFF\xD8\xFF\0\x80image", 10);
+
+class AfficheFicheTest : public Fenetre {
+  protected:
+    void montreFilm(const char* titre) {
+        montre(browse::kZoneTous, browse::kTriTitre2);
+        clique(titre);
+    }
+    // The rating in the base, as it is after everything was shown.
+    [[nodiscard]] dao::Valeur noteEnBase() {
+        base.films.MoveFirst();
+        return base.films.valeur("Note");
+    }
+};
+
+TEST_F(AfficheFicheTest, TheSheetShowsWhatTheRowHolds) {
+    ajouteFilm("L'\"Été\"", {{"Realisateur", "Rohmer"},
+                             {"Annee", "1996"},
+                             {"Production", "Losange"},
+                             {"Origine", "France"},
+                             {"Duree", "1h53"},
+                             {"Genre", "Comédie"},
+                             {"Acteurs", "Poupaud;Langlet;Simon"},
+                             {"Resume", "À Dinard.\r\nL'été."},
+                             {"Note", 8}});
+    panneaux.montre(panneaux.frameListeFonctions);
+    montreFilm("L'\"Été\"");
+    EXPECT_EQ(fiche.Label1[0].Caption, "L'\"Été\"");
+    EXPECT_EQ(fiche.lblRealisateur.Caption, "de Rohmer");
+    EXPECT_EQ(fiche.Label1[1].Caption, "de Rohmer");
+    EXPECT_EQ(fiche.Label1[2].Caption, "Losange (1996)");
+    EXPECT_EQ(fiche.Label1[4].Caption, "France");
+    EXPECT_EQ(fiche.Label1[5].Caption, "1h53");
+    EXPECT_EQ(fiche.Label1[6].Caption, "Comédie");
+    EXPECT_EQ(fiche.lblInfosActeurs.Caption, "Poupaud\r\nLanglet\r\nSimon");
+    EXPECT_EQ(fiche.Text1.Text, "À Dinard.\r\nL'été.");
+    EXPECT_EQ(fiche.lblNote.Caption, "Note : 8/10");
+    EXPECT_EQ(fiche.captionAffiche, "L'\"Été\"");
+    EXPECT_EQ(film.cle, "K1");
+    EXPECT_EQ(film.titre, "L'\"Été\"");
+    EXPECT_TRUE(panneaux.frameFiche.Visible);
+    EXPECT_FALSE(panneaux.frameListeFonctions.Visible || panneaux.framePresentation.Visible);
+}
+
+TEST_F(AfficheFicheTest, OldRatingsAreBroughtToTheNewScale) {
+    const struct {
+        dao::Valeur avant, apres;
+        const char* texte;
+    } cas[]{{100, 9, "Note : 9/10"},     {20, 1, "Note : 1/10"},      {15, {}, "Pas de notation"},
+            {11, {}, "Pas de notation"}, {75, 6, "Note : 6/10"},      {10, 10, "Note : 10/10"},
+            {0, 0, "Pas de notation"},   {{}, {}, "Pas de notation"}, {101, 101, "Pas de notation"}};
+    ajouteFilm("Film \"noté\"", {{"Realisateur", "R"}});
+    for (const auto& [avant, apres, texte] : cas) {
+        base.films.MoveFirst();
+        base.films.Edit();
+        base.films.assigne("Note", avant);
+        base.films.Update();
+        montreFilm("Film \"noté\"");
+        EXPECT_EQ(fiche.lblNote.Caption, texte) << avant.texte();
+        EXPECT_EQ(noteEnBase(), apres) << avant.texte();
+    }
+}
+
+TEST_F(AfficheFicheTest, ARatingNeedsItsFilm) {
+    film.titre = "Parti";
+    dialogues.attendMsgBox("Film non trouvé !", 48);
+    modifieNoteFilm(5);
+    EXPECT_EQ(fiche.lblNote.Caption, "");
+}
+
+TEST_F(AfficheFicheTest, PostersComeFromTheBaseOrFromTheirFolder) {
+    ajouteFilm("En base", {{"Affiche", db::valeurAfficheDansLaBase(kJpeg)}});
+    ajouteFilm("En fichier", {{"Affiche", db::valeurAfficheFichier("Fichier.jpg")}});
+    ajouteFilm("Sans");
+    dossier.ecrit("Images/FICHIER.JPG", kJpeg + "2");  // copied from a system that ignores case
+    montreFilm("En base");
+    EXPECT_EQ(dossier.lit("Tmp/ImageTMP.jpg"), kJpeg);
+    EXPECT_EQ(film.affiche, "STO");
+    EXPECT_TRUE(fiche.Image1.Visible);
+    EXPECT_FALSE(fiche.Image1.vide || fiche.Label12.Visible);
+    const int numero = fiche.Image1.numero;
+    clique("En fichier");
+    EXPECT_EQ(dossier.lit("Tmp/ImageTMP.jpg"), kJpeg + "2");
+    EXPECT_EQ(film.affiche, "JPGFichier.jpg");
+    EXPECT_EQ(stockage.Text4.Text, dossier.chemin("Images"));
+    EXPECT_GT(fiche.Image1.numero, numero);
+    clique("Sans");  // never the poster of the film before
+    EXPECT_FALSE(dossier.existe("Tmp/ImageTMP.jpg"));
+    EXPECT_EQ(images.courante, "");
+    EXPECT_TRUE(fiche.Image1.vide);
+    EXPECT_FALSE(fiche.Image1.Visible);
+    EXPECT_EQ(fiche.Label12.Caption, kPasDImage);
+    EXPECT_TRUE(fiche.Label12.Visible);
+    EXPECT_EQ(film.affiche, "");
+}
+
+TEST_F(AfficheFicheTest, APosterThatIsGoneOrBrokenShowsAsNone) {
+    ajouteFilm("Perdue", {{"Affiche", "JPGPerdue.jpg"}});
+    ajouteFilm("Abîmée", {{"Affiche", db::valeurAfficheDansLaBase("pas une image")}});
+    ajouteFilm("Vide", {{"Affiche", "STO"}});
+    stockage.Text4.Text = dossier.chemin("Affiches");
+    dialogues.attendMsgBox("Le fichier image n'existe plus (" + dossier.chemin("Affiches/Perdue.jpg") + ") !", 48);
+    montreFilm("Perdue");
+    EXPECT_EQ(film.affiche, "JPGPerdue.jpg");
+    for (const char* titre : {"Abîmée", "Vide"}) {
+        clique(titre);
+        EXPECT_TRUE(fiche.Image1.vide);
+        EXPECT_FALSE(fiche.Image1.Visible);
+        EXPECT_EQ(fiche.Label12.Caption, kPasDImage);
+        EXPECT_TRUE(panneaux.frameFiche.Visible);
+    }
+}
+
+TEST_F(AfficheFicheTest, PostersFillTheirBoxAndKeepTheirShape) {
+    const struct {
+        ecran::TailleImage image;
+        int largeur, hauteur, gauche, haut;
+    } cas[]{{{300, 400}, 2895, 3860, 0, 297},   // wider than the box
+            {{10, 40}, 1114, 4455, 890, 0},     // higher, and small: enlarged
+            {{2895, 4455}, 2895, 4455, 0, 0}};  // of its very shape
+    dossier.ecrit("Tmp/ImageTMP.jpg", kJpeg);
+    for (const auto& [taille, largeur, hauteur, gauche, haut] : cas) {
+        images.taille = taille;
+        chargeAffiche();
+        EXPECT_EQ(fiche.Image1.Width, largeur);
+        EXPECT_EQ(fiche.Image1.Height, hauteur);
+        EXPECT_EQ(fiche.Image1.Left, gauche);
+        EXPECT_EQ(fiche.Image1.Top, haut);
+    }
+}
+
+TEST_F(AfficheFicheTest, TheHoldingIsShownWithItsFiles) {
+    ajouteFilm("A", {{"Realisateur", "R"}});
+    ajouteFilm("B", {{"Realisateur", "R"}});
+    ajouteFilm("C", {{"Realisateur", "R"}});
+    possede("A", "R",
+            {{"Rangement", "Étagère"},
+             {"Fichier1", "a.avi"},
+             {"Fichier2", "b.avi"},
+             {"Pret", "Luc"},
+             {"Reserve", "Ève"},
+             {"Date", "21/11/2026"},
+             {"Support", "DVD"},
+             {"Divers", "rayé"}});
+    possede("B", "R", {{"Fichier2", "b.avi"}});
+    montreFilm("A");
+    EXPECT_TRUE(fiche.Option1[1].Value && fiche.framePossession.Visible && fiche.cmdRaffraichirListe.Visible);
+    const std::array<const char*, 7> attendus{"a.avi", "b.avi", "", "Étagère", "rayé", "", "21/11/2026"};
+    for (std::size_t i = 0; i < attendus.size(); ++i)
+        EXPECT_EQ(fiche.Text10[i].Text, attendus[i]) << i;
+    EXPECT_EQ(fiche.Combo7[0].Text + "," + fiche.Combo7[1].Text + "," + fiche.Combo7[2].Text, "Luc,Ève,DVD");
+    EXPECT_TRUE(film.fichiersPresents && fiche.cmdFichiersFilm.Visible);
+    EXPECT_EQ(film.fichiers[1], "b.avi");
+    EXPECT_EQ(fiche.captionFichiers, "A");
+
+    fiche.cmdValiderInfosPossessions.Visible = true;  // pending edits go with their film
+    clique("B");
+    EXPECT_FALSE(film.fichiersPresents || fiche.cmdFichiersFilm.Visible || fiche.cmdValiderInfosPossessions.Visible);
+    EXPECT_EQ(fiche.Text10[1].Text, "b.avi");
+    EXPECT_EQ(fiche.Combo7[2].Text, "");
+    clique("C");
+    EXPECT_TRUE(fiche.Option1[0].Value);
+    EXPECT_FALSE(fiche.framePossession.Visible || fiche.cmdRaffraichirListe.Visible);
+    EXPECT_EQ(fiche.Text10[1].Text, "");
+}
+
+TEST_F(AfficheFicheTest, TheUserStaysOnThePageThatWasOpen) {
+    ajouteFilm("A");
+    ajouteFilm("B");
+    montreFilm("A");
+    EXPECT_TRUE(fiche.frameGeneralites[1].Visible && fiche.cmdGeneralites.FontBold);
+    EXPECT_FALSE(fiche.frameAutresInfos[0].Visible || fiche.cmdAutresInfos.FontBold);
+    afficheVolet(browse::kVoletAutresInfos);
+    EXPECT_EQ(demandes.boutonParDefaut, "cmdAutresInfos");
+    clique("B");
+    EXPECT_TRUE(fiche.frameAutresInfos[1].Visible && fiche.cmdAutresInfos.FontBold);
+    EXPECT_FALSE(fiche.frameGeneralites[0].Visible || fiche.cmdGeneralites.FontBold);
+    fiche.cmdGeneralites.Visible = fiche.cmdAutresInfos.Visible = false;  // a wide window
+    clique("A");
+    EXPECT_TRUE(fiche.frameAutresInfos[0].Visible && fiche.frameGeneralites[0].Visible);
+}
+
+TEST_F(AfficheFicheTest, AHeadingAndADeletedFilmShowThePresentation) {
+    ajouteFilm("Avatar");
+    montre(browse::kZoneTous, browse::kTriTitre1);
+    clique("Avatar");
+    clique("A");
+    EXPECT_TRUE(panneaux.framePresentation.Visible);
+    EXPECT_EQ(film.cle, "TA");
+    base.films.MoveFirst();
+    base.films.Delete();
+    clique("Avatar");
+    EXPECT_TRUE(panneaux.framePresentation.Visible);
+    EXPECT_FALSE(panneaux.frameFiche.Visible);
+    EXPECT_EQ(film.titre, "");  // no command reaches the film shown before
+    EXPECT_EQ(arbre.MouseUp(2), browse::MenuArbre::Aucun);
+}
+
+}  // namespace

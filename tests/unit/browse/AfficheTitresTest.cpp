@@ -1,0 +1,123 @@
+#include "Fenetre.h"
+#include "platform/systeme/Horloge.h"
+
+namespace {
+
+using Lignes = std::vector<std::string>;
+
+class AfficheTitresTest : public Fenetre {};
+
+TEST_F(AfficheTitresTest, TitlesGoUnderTheirFirstLetterWithoutItsAccent) {
+    for (const char* titre : {"Été", "Ecran", "Avatar", "(500) jours", "1984", "émile", "Œdipe", "", "Ça", "ñ"})
+        ajouteFilm(titre);
+    ajoute(base.films, {{"Realisateur", "sans titre"}});
+    montre(browse::kZoneTous, browse::kTriTitre1);
+    const auto& noeuds = liste.TreeView1.Nodes;
+    std::vector<std::string> sous;  // heading: titles
+    for (const int groupe : noeuds.enfants(0)) {
+        EXPECT_EQ(noeuds.Key(groupe), "T" + std::string(noeuds.Text(groupe)));
+        std::string ligne(noeuds.Text(groupe));
+        for (const int enfant : noeuds.enfants(groupe))
+            ligne += "|" + std::string(noeuds.Text(enfant));
+        sous.push_back(ligne);
+    }
+    // Sorted: no title, empty, signs and digits, then letters; "Œ" and "ñ" have no letter of their own.
+    EXPECT_EQ(sous, (Lignes{"#|||(500) jours|1984|ñ|Œdipe", "A|Avatar", "C|Ça", "E|Ecran|émile|Été"}));
+    EXPECT_EQ(liste.Frame1.Caption, "Liste de films (11 titres)");
+}
+
+TEST_F(AfficheTitresTest, ValuesThatDifferByCaseShareAHeadingAndNoneGoesApart) {
+    ajouteFilm("A", {{"Genre", "drame"}});
+    ajouteFilm("B", {{"Genre", "Drame"}});
+    ajouteFilm("C", {{"Genre", "Épopée"}});
+    ajouteFilm("D", {{"Genre", "épopée"}});
+    ajouteFilm("E", {{"Genre", ""}});
+    ajouteFilm("F");
+    montre(browse::kZoneTous, browse::kTriGenre);
+    EXPECT_EQ(arbreEnTexte(), (Lignes{"T1= Hors tri !", ">K1=F", ">K2=E", "T2=drame", ">K3=A", ">K4=B", "T3=Épopée",
+                                      ">K5=C", ">K6=D"}));
+}
+
+TEST_F(AfficheTitresTest, RatingsAreHeadedByTheirNumberInItsOrder) {
+    ajouteFilm("Dix", {{"Note", 10}});
+    ajouteFilm("Neuf", {{"Note", 9}});
+    ajouteFilm("Aucune");
+    montre(browse::kZoneTous, browse::kTriNote);
+    EXPECT_EQ(arbreEnTexte(), (Lignes{"T1= Hors tri !", ">K1=Aucune", "T2=9", ">K2=Neuf", "T3=10", ">K3=Dix"}));
+}
+
+TEST_F(AfficheTitresTest, TheSecondSortIsAFlatListAndStatisticsAddNothingToIt) {
+    liste.AffStats.Value = 1;
+    for (const char* titre : {"Bleu", "Avatar"})
+        ajouteFilm(titre);
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    EXPECT_EQ(arbreEnTexte(), (Lignes{"K1=Avatar", "K2=Bleu"}));
+}
+
+TEST_F(AfficheTitresTest, PercentagesAreCutToOneDecimal) {
+    const std::string virgule = systeme::separateurDecimal();
+    ajouteFilm("A", {{"Genre", "Drame"}});
+    ajouteFilm("B", {{"Genre", "Comédie"}});
+    ajouteFilm("C", {{"Genre", "Comédie"}});
+    liste.AffStats.Value = 1;
+    montre(browse::kZoneTous, browse::kTriGenre);
+    EXPECT_EQ(liste.TreeView1.Nodes.Text(1), "Comédie (66" + virgule + "6 %)");
+    EXPECT_EQ(liste.TreeView1.Nodes.Text(4), "Drame (33" + virgule + "3 %)");
+    for (int i = 0; i < 97; ++i)  // 29 of 100: its quotient lies below 0.29
+        ajouteFilm("D", {{"Genre", i < 28 ? "Drame" : "Comédie"}});
+    montre(browse::kZoneTous, browse::kTriGenre);
+    EXPECT_EQ(liste.TreeView1.Nodes.Text(liste.TreeView1.Nodes.enfants(0)[1]), "Drame (29 %)");
+    liste.AffStats.Value = 2;
+    montre(browse::kZoneTous, browse::kTriGenre);
+    EXPECT_EQ(liste.TreeView1.Nodes.Text(1), "Comédie");
+}
+
+TEST_F(AfficheTitresTest, AnEmptyListingIsAnEmptyTree) {
+    ajouteFilm("Avatar");
+    montre(browse::kZoneTous, browse::kTriTitre1);
+    liste.TreeView1.coches.insert(2);
+    montre(browse::kZoneMesFilms, browse::kTriTitre1);
+    EXPECT_EQ(liste.TreeView1.Nodes.Count(), 0);
+    EXPECT_TRUE(liste.TreeView1.coches.empty());
+    EXPECT_EQ(liste.Frame1.Caption, "Liste de films (0 titre)");
+}
+
+TEST_F(AfficheTitresTest, TheTwoCounts) {
+    ajouteFilm("A");
+    ajouteFilm("B");
+    possede("A", "");
+    afficheNbTitres();
+    EXPECT_EQ(liste.Label9[0].Caption, "2 titres");
+    EXPECT_EQ(liste.Label9[1].Caption, "1 personnel");
+}
+
+TEST_F(AfficheTitresTest, TicksStayOnFilms) {
+    ajouteFilm("Avatar");
+    montre(browse::kZoneTous, browse::kTriTitre1);
+    arbre.NodeCheck(2, true);
+    EXPECT_EQ(liste.TreeView1.coches, std::set<int>{2});
+    dialogues.attendMsgBox("Choisissez un titre plutôt qu'une catégorie.", 48);
+    arbre.NodeCheck(1, true);
+    EXPECT_EQ(liste.TreeView1.coches, std::set<int>{2});
+    arbre.NodeCheck(2, false);
+    EXPECT_TRUE(liste.TreeView1.coches.empty());
+}
+
+TEST_F(AfficheTitresTest, TheRightButtonAsksForTheMenuOfItsNode) {
+    ajouteFilm("Avatar", {{"Genre", "Drame"}, {"Realisateur", "R"}});
+    possede("Avatar", "R", {{"Support", "DVD"}});
+    using browse::MenuArbre;
+    EXPECT_EQ(arbre.MouseUp(0), MenuArbre::Aucun);
+    const std::pair<int, MenuArbre> cas[]{{browse::kTriGenre, MenuArbre::Genre},
+                                          {browse::kTriSupport, MenuArbre::Support},
+                                          {browse::kTriTitre1, MenuArbre::Aucun}};
+    for (const auto& [tri, menu] : cas) {
+        montre(browse::kZoneMesFilms, tri);
+        EXPECT_EQ(arbre.MouseUp(1), menu) << tri;
+        EXPECT_EQ(arbre.MouseUp(2), MenuArbre::Film);
+        EXPECT_EQ(film.titre, "Avatar");  // the click's work first
+        EXPECT_EQ(liste.cleCliquee, "K1");
+    }
+}
+
+}  // namespace

@@ -1,0 +1,140 @@
+#pragma once
+
+#include "browse/AffichageApresModification.h"
+#include "browse/AfficheFiche.h"
+#include "browse/AfficheNbTitres.h"
+#include "browse/ChoixTri.h"
+#include "browse/ChoixZone.h"
+#include "browse/CreeEtAfficheRecherche.h"
+#include "browse/SelectionneTitre.h"
+#include "browse/TreeView1.h"
+#include "browse/cmdFonctionRecherche_Click.h"
+#include "browse/cmdRecherche_Click.h"
+#include "browse/lblRealisateur_Click.h"
+#include "db/Schema.h"
+#include "doubles/DialoguesScript.h"
+#include "doubles/DossierTemporaire.h"
+#include "doubles/EcranMuet.h"
+#include "doubles/ImagesSimulees.h"
+#include "platform/dao/DBEngine.h"
+
+#include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+using Ligne = std::vector<std::pair<const char*, dao::Valeur>>;
+
+// The left and right sides of a window without a window, over a real base.
+class Fenetre : public ::testing::Test {
+  protected:
+    doubles::DossierTemporaire dossier;
+    db::Chemins chemins = db::Chemins::depuis(dossier.chemin());
+    doubles::DialoguesScript dialogues;
+    doubles::EcranMuet ecranMuet;
+    doubles::ImagesSimulees images;
+    db::Base base;
+    db::EtatStockage stockage;
+    browse::EtatListe liste;
+    browse::EtatRecherche recherche;
+    browse::EtatFiche fiche;
+    browse::EtatPanneaux panneaux;
+    browse::FilmCourant film;
+    ecran::Demandes demandes;
+
+    browse::AfficheTitres afficheTitres{liste, base};
+    browse::AfficheNbTitres afficheNbTitres{liste, base};
+    browse::CreeRequeteAffichage creeRequeteAffichage{base, liste, film, afficheTitres, dialogues};
+    browse::AfficheAccueil afficheAccueil{panneaux, ecranMuet};
+    browse::ChargeAffiche chargeAffiche{fiche, chemins, images, ecranMuet};
+    browse::AfficheVolet afficheVolet{fiche, demandes, chargeAffiche};
+    browse::ModifieNoteFilm modifieNoteFilm{base, fiche, film, dialogues};
+    browse::AfficheTemporaire afficheTemporaire{chemins, stockage, dialogues};
+    browse::AffichePossession affichePossession{base, fiche, film, dialogues};
+    browse::AfficheFiche afficheFiche{base,
+                                      liste,
+                                      fiche,
+                                      panneaux,
+                                      film,
+                                      images,
+                                      afficheTemporaire,
+                                      affichePossession,
+                                      modifieNoteFilm,
+                                      afficheAccueil,
+                                      afficheVolet};
+    browse::TreeView1 arbre{liste, afficheFiche, dialogues};
+    browse::SelectionneTitre selectionneTitre{liste, base, arbre};
+    browse::CreeEtAfficheRecherche creeEtAfficheRecherche{liste, creeRequeteAffichage};
+    browse::AffichageApresModification affichageApresModification{liste, afficheAccueil, creeRequeteAffichage};
+    browse::ChoixZone choixZone{liste, affichageApresModification};
+    browse::ChoixTri choixTri{liste, affichageApresModification};
+    browse::cmdFonctionRecherche_Click cmdFonctionRecherche{panneaux, demandes, afficheAccueil};
+    browse::cmdRecherche_Click cmdRecherche{base, recherche, liste, creeEtAfficheRecherche, dialogues};
+    browse::lblRealisateur_Click lblRealisateur{film, recherche, cmdFonctionRecherche, cmdRecherche};
+
+    void SetUp() override {
+        std::filesystem::create_directory(chemins.dossierTmp);
+        dao::DBEngine::CreateDatabase(chemins.base, db::schema());
+        base.base = dao::DBEngine::OpenDatabase(chemins.base);
+        base.films = base.base.OpenRecordset("Films");
+        base.personnel = base.base.OpenRecordset("Personnel");
+        base.liste = base.base.OpenRecordset("Films");
+        for (const char* zone : {"Mes films", "Tous les films", "Mes films non prêtés", "Mes films prêtés",
+                                 "Mes films réservés", "Films non possédés"})
+            liste.ChoixZone.AddItem(zone);
+        liste.ChoixTri.Items.assign(9, "Tri");
+        choisit(browse::kZoneTous, browse::kTriTitre2);
+    }
+
+    static void ajoute(dao::Recordset& table, const Ligne& ligne) {
+        table.AddNew();
+        for (const auto& [champ, valeur] : ligne)
+            table.assigne(champ, valeur);
+        table.Update();
+    }
+    void ajouteFilm(const char* titre, Ligne autres = {}) {
+        autres.insert(autres.begin(), {"Titre", titre});
+        ajoute(base.films, autres);
+    }
+    void possede(const char* titre, const char* realisateur, Ligne autres = {}) {
+        autres.insert(autres.begin(), {{"Titre2", titre}, {"Realisateur2", realisateur}});
+        ajoute(base.personnel, autres);
+    }
+    void choisit(int zone, int tri) {
+        liste.ChoixZone.selectionne(zone);
+        liste.ChoixTri.selectionne(tri);
+    }
+    void montre(int zone, int tri) {
+        choisit(zone, tri);
+        affichageApresModification();
+    }
+    // The tree as text: "Key=Text", films under a heading indented by ">".
+    [[nodiscard]] std::vector<std::string> arbreEnTexte() const {
+        const browse::Arbre& noeuds = liste.TreeView1.Nodes;
+        std::vector<std::string> lignes;
+        for (const int racine : noeuds.enfants(0)) {
+            lignes.push_back(noeuds.Key(racine) + "=" + std::string(noeuds.Text(racine)));
+            if (!noeuds.estGroupe(racine)) continue;
+            for (const int enfant : noeuds.enfants(racine)) {
+                EXPECT_EQ(noeuds.Parent(enfant), racine);
+                lignes.push_back(">" + noeuds.Key(enfant) + "=" + std::string(noeuds.Text(enfant)));
+            }
+        }
+        return lignes;
+    }
+    [[nodiscard]] std::vector<std::string> titres() const {
+        const browse::Arbre& noeuds = liste.TreeView1.Nodes;
+        std::vector<std::string> textes;
+        for (int i = 1; i <= noeuds.Count(); ++i)
+            if (!noeuds.estGroupe(i)) textes.emplace_back(noeuds.Text(i));
+        return textes;
+    }
+    // Clicks the first node of that text.
+    void clique(std::string_view texte) {
+        for (int i = 1; i <= liste.TreeView1.Nodes.Count(); ++i)
+            if (liste.TreeView1.Nodes.Text(i) == texte) return arbre.NodeClick(i);
+        FAIL() << "no such node: " << texte;
+    }
+};

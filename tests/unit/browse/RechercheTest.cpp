@@ -1,0 +1,168 @@
+#include "Fenetre.h"
+#include "db/Requete.h"
+
+namespace {
+
+using Titres = std::vector<std::string>;
+
+class RechercheTest : public Fenetre {
+  protected:
+    void SetUp() override {
+        Fenetre::SetUp();
+        ajouteFilm("Bleu", {{"Realisateur", "K"}, {"Annee", "1993"}, {"Acteurs", "Binoche"}});
+        ajouteFilm("Avatar", {{"Realisateur", "C"}, {"Annee", "2009"}, {"Acteurs", "Worthington"}});
+        ajouteFilm("Été \"bleu\"", {{"Realisateur", "R"}, {"Annee", "1996"}, {"Acteurs", ""}});
+        ajouteFilm("Clair", {{"Realisateur", "K"}, {"Annee", "1998"}});  // no cast at all
+        possede("Bleu", "K", {{"Pret", "Luc"}, {"Reserve", ""}});
+        possede("avatar", "c", {{"Pret", ""}, {"Reserve", "Ève"}});  // the same film for the base
+    }
+    void cherche(const char* texte, std::array<int, 4> champs, std::size_t portee) {
+        recherche.Text2.Text = texte;
+        for (std::size_t i = 0; i < champs.size(); ++i)
+            recherche.ZoneRecherche[i].Value = champs[i];
+        ecran::choisit(recherche.TypeFilm, portee);
+        cmdRecherche();
+    }
+};
+
+TEST_F(RechercheTest, EachZoneHasItsFilms) {
+    const Titres zones[]{{"Avatar", "Bleu"}, {"Avatar", "Bleu", "Clair", "Été \"bleu\""},
+                         {"Avatar"},         {"Bleu"},
+                         {"Avatar"},         {"Clair", "Été \"bleu\""}};
+    for (int zone = 0; zone < 6; ++zone)
+        for (const int tri : {browse::kTriTitre1, browse::kTriTitre2}) {
+            montre(zone, tri);
+            EXPECT_EQ(titres(), zones[zone]) << zone;
+        }
+}
+
+TEST_F(RechercheTest, SortBySupportIsRefusedWhereFilmsHaveNoneAndTheTreeStays) {
+    montre(browse::kZoneMesFilms, browse::kTriSupport);
+    EXPECT_EQ(liste.triDeLArbre, browse::kTriSupport);
+    montre(browse::kZoneTous, browse::kTriGenre);
+    for (const int zone : {browse::kZoneTous, browse::kZoneNonPossedes}) {
+        dialogues.attendMsgBox(
+            "Le tri par support n'est pas possible pour ce cas-là : il faut que la recherche soit sur les titres "
+            "possédés (Mes Films).",
+            48);
+        montre(zone, browse::kTriSupport);
+        EXPECT_EQ(titres().size(), 4U);
+        EXPECT_EQ(liste.triDeLArbre, browse::kTriGenre);
+    }
+    dialogues.attendMsgBox(
+        "Le tri par support n'est pas possible pour ce cas-là : il faut que la recherche soit sur les titres possédés "
+        "(Mes Films).",
+        48);
+    creeRequeteAffichage.apresChangementDeBase();  // another base: no node of the old one may stay
+    EXPECT_EQ(liste.TreeView1.Nodes.Count(), 0);
+}
+
+TEST_F(RechercheTest, AListingThatFailsTellsItAndTheTreeStillFindsItsFilms) {
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    dialogues.attendMsgBox("Erreur (1) : Etablissement de requête", 16);
+    EXPECT_THROW(creeRequeteAffichage(browse::kZoneTous, browse::kTriGenre, "ceci n'est pas"), db::RequeteEchouee);
+    EXPECT_EQ(liste.triDeLArbre, browse::kTriTitre2);
+    clique("Clair");
+    EXPECT_EQ(film.titre, "Clair");
+    creeRequeteAffichage(browse::kZoneTous, 9);  // neither a zone nor a sort of the lists: nothing is rebuilt
+    creeRequeteAffichage(-1, browse::kTriGenre);
+    EXPECT_EQ(titres().size(), 4U);
+    EXPECT_EQ(film.titre, "");
+    EXPECT_EQ(liste.noeudChoisi, -1);
+}
+
+TEST_F(RechercheTest, TheThreeRefusals) {
+    dialogues.attendMsgBox("Aucun texte à rechercher !", 48);
+    cherche("", {1, 0, 0, 0}, 0);
+    dialogues.attendMsgBox("Aucune zone de recherche précisée !", 48);
+    cherche("Bleu", {0, 0, 0, 0}, 0);
+    base.films.MoveFirst();
+    for (; !base.films.Eof(); base.films.MoveNext())
+        base.films.Delete();
+    dialogues.attendMsgBox("Aucun enregistrement déjà disponible !", 48);
+    cherche("Bleu", {1, 0, 0, 0}, 0);
+    EXPECT_EQ(liste.critereRecherche, "");
+    EXPECT_EQ(liste.ChoixZone.ListCount(), 6);
+}
+
+TEST_F(RechercheTest, TheSearchFindsItsTextInTheCheckedFieldsOfItsScope) {
+    const struct {
+        const char* texte;
+        std::array<int, 4> champs;
+        std::size_t portee;
+        Titres attendus;
+    } cas[]{
+        {"BLEU", {1, 0, 0, 0}, 0, {"Bleu", "Été \"bleu\""}},
+        {"\"bleu", {1, 0, 0, 0}, 0, {"Été \"bleu\""}},
+        {"199", {0, 0, 1, 0}, 0, {"Bleu", "Clair", "Été \"bleu\""}},
+        {"199", {0, 0, 1, 0}, 1, {"Bleu"}},
+        {"199", {0, 0, 1, 0}, 2, {"Clair", "Été \"bleu\""}},
+        {"K", {0, 1, 0, 1}, 0, {"Bleu"}},  // a film without a cast has no sum of positions
+        {"ete", {1, 0, 0, 0}, 0, {}},      // accents count
+    };
+    for (const auto& [texte, champs, portee, attendus] : cas) {
+        cherche(texte, champs, portee);
+        EXPECT_EQ(titres(), attendus) << texte << portee;
+        EXPECT_EQ(liste.ChoixZone.Text, "Recherche");
+        EXPECT_EQ(liste.ChoixZone.ListIndex, browse::kZoneRecherche);
+        EXPECT_EQ(liste.ChoixZone.ListCount(), 7);  // once only
+        EXPECT_EQ(liste.ChoixTri.ListIndex, browse::kTriTitre2);
+        EXPECT_FALSE(liste.occupe);
+    }
+}
+
+TEST_F(RechercheTest, TheSearchStaysUnderAnotherSortAndGoesWithAnotherZone) {
+    cherche("199", {0, 0, 1, 0}, 2);
+    liste.ChoixTri.selectionne(browse::kTriTitre1);
+    choixTri.Click();
+    EXPECT_EQ(arbreEnTexte(), (Titres{"TC=C", ">K1=Clair", "TE=E", ">K2=Été \"bleu\""}));
+    choixZone.DropDown();
+    EXPECT_EQ(liste.ChoixZone.ListCount(), 6);
+    EXPECT_EQ(liste.ChoixZone.Text, "Mes films");
+    EXPECT_EQ(titres(), (Titres{"Clair", "Été \"bleu\""}));  // until a zone is picked
+    liste.ChoixZone.selectionne(browse::kZoneTous);
+    choixZone.Click();
+    EXPECT_EQ(titres().size(), 4U);
+    EXPECT_NE(liste.critereRecherche, "");
+}
+
+TEST_F(RechercheTest, ChangesTheProgramMakesRaiseNothing) {
+    liste.occupe = true;
+    choixZone.Click();
+    choixTri.Click();
+    liste.occupe = false;
+    liste.ChoixTri.selectionne(-1);
+    choixTri.Click();
+    EXPECT_EQ(liste.TreeView1.Nodes.generation(), 0);
+}
+
+TEST_F(RechercheTest, TheDirectorOfTheSheetIsSearchedFor) {
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    clique("Bleu");
+    recherche.ZoneRecherche[3].Value = 1;
+    lblRealisateur();
+    EXPECT_EQ(titres(), (Titres{"Bleu", "Clair"}));
+    EXPECT_EQ(liste.critereRecherche, R"(INSTR(Realisateur, "K")>0)");
+    EXPECT_TRUE(panneaux.frameRecherche.Visible);
+    EXPECT_FALSE(panneaux.frameFiche.Visible);
+    EXPECT_EQ(demandes.focus, "Text2");
+    EXPECT_EQ(demandes.boutonParDefaut, "cmdRecherche");
+}
+
+TEST_F(RechercheTest, AFilmIsSelectedByBothItsTexts) {
+    ajouteFilm("Bleu", {{"Realisateur", "Un autre"}});
+    montre(browse::kZoneTous, browse::kTriTitre1);
+    selectionneTitre("BLEU ", "un autre");
+    EXPECT_EQ(film.realisateur, "Un autre");
+    EXPECT_EQ(liste.TreeView1.Nodes.Text(liste.TreeView1.SelectedItem), "Bleu");
+    EXPECT_TRUE(panneaux.frameFiche.Visible);
+    selectionneTitre(film.titre, film.realisateur);  // its own fields, which showing a sheet rewrites
+    EXPECT_EQ(film.realisateur, "Un autre");
+    selectionneTitre("Bleu", "personne");
+    EXPECT_EQ(film.realisateur, "Un autre");
+    choisit(browse::kZoneMesFilms, browse::kTriTitre1);
+    selectionneTitre("Rouge", "K");
+    EXPECT_EQ(film.titre, "Bleu");
+}
+
+}  // namespace

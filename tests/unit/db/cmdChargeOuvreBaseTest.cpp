@@ -1,0 +1,114 @@
+#include "Installation.h"
+#include "db/cmdChargeOuvreBase_Click.h"
+#include "doubles/DialoguesScript.h"
+
+#include <filesystem>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct RafraichissementNote final : db::Rafraichissement {
+    std::vector<std::string> appels;
+    void AfficheAccueil() override { appels.push_back("AfficheAccueil"); }
+    void reconstruitListe() override { appels.push_back("reconstruitListe"); }
+    void RaffraichitBoitesDeroulantes() override { appels.push_back("RaffraichitBoitesDeroulantes"); }
+    void AfficheNbTitres() override { appels.push_back("AfficheNbTitres"); }
+};
+
+class cmdChargeOuvreBaseTest : public ::testing::Test {
+  protected:
+    Installation installation;
+    db::Base base;
+    doubles::DialoguesScript dialogues;
+    RafraichissementNote rafraichissement;
+    db::OuvertureBase ouvertureBase{base, installation.chemins, dialogues};
+    db::cmdChargeOuvreBase_Click commande{base, installation.chemins, ouvertureBase, rafraichissement, dialogues};
+
+    void SetUp() override {
+        installation.creeBase("Films.mdb");
+        installation.ajouteFilm("Films.mdb", "Le film ouvert");
+        ouvertureBase();
+    }
+    std::string chemin(std::string_view nom) const { return installation.dossier.chemin(nom); }
+
+    void choisit(const std::string& reponse) {
+        dialogues.attendFichier({"Ouvrir/Créer une base de données", "Fichiers de base de données|*.mdb",
+                                 installation.dossier.chemin(), true},
+                                reponse);
+    }
+    void demandeCreation(const std::string& nom, int reponse) {
+        dialogues.attendMsgBox("Le fichier " + nom + " n'existe pas. Voulez-vous le créer ?", 36, reponse);
+    }
+    void rienNAChange() {
+        commande();
+        EXPECT_TRUE(rafraichissement.appels.empty());
+        EXPECT_EQ(installation.chemins.base, chemin("Films.mdb"));
+        EXPECT_EQ(Installation::premierTitre(base), "Le film ouvert");
+        dialogues.verifie();
+    }
+    void aChangePour(const std::string& nom) {
+        commande();
+        const std::vector<std::string> attendus{"AfficheAccueil", "reconstruitListe", "RaffraichitBoitesDeroulantes",
+                                                "AfficheNbTitres"};
+        EXPECT_EQ(rafraichissement.appels, attendus);
+        EXPECT_EQ(installation.chemins.base, nom);
+    }
+};
+
+TEST_F(cmdChargeOuvreBaseTest, ItsFourRefusalsChangeNothing) {
+    choisit("");  // cancelled
+    rienNAChange();
+    choisit(chemin("FILMS.MDB"));  // the open base
+    rienNAChange();
+    choisit(chemin("Autre.mdb"));
+    demandeCreation(chemin("Autre.mdb"), dialogues::kNon);
+    rienNAChange();
+    std::filesystem::remove(chemin("Modele.dat"));
+    choisit(chemin("Autre.mdb"));
+    demandeCreation(chemin("Autre.mdb"), dialogues::kOui);
+    dialogues.attendMsgBox("Le fichier modèle n'a pas été trouvé (" + chemin("Modele.dat") + ").", 48);
+    rienNAChange();
+    EXPECT_FALSE(installation.dossier.existe("Autre.mdb"));
+}
+
+TEST_F(cmdChargeOuvreBaseTest, AFileThatIsNoBaseLeavesTheOpenOne) {
+    installation.dossier.ecrit("lettre.mdb", "Ce fichier est une lettre.");
+    choisit(chemin("lettre.mdb"));
+    dialogues.attendMsgBox("Erreur (22) : Ouverture de la base (Lecture seule/Fichier manquant ?)", 16);
+    rienNAChange();
+    EXPECT_EQ(installation.dossier.lit("lettre.mdb"), "Ce fichier est une lettre.");
+}
+
+TEST_F(cmdChargeOuvreBaseTest, ABaseThatCannotBeMadeLeavesTheOpenOne) {
+    const std::string nom = chemin("nulle/part.mdb");
+    choisit(nom);
+    demandeCreation(nom, dialogues::kOui);
+    dialogues.attendMsgBox("Le fichier " + nom + " n'a pas pu être créé.", 16);
+    rienNAChange();
+
+    installation.dossier.ecrit("Modele.dat", "abîmé");
+    choisit(chemin("Neuve.mdb"));
+    demandeCreation(chemin("Neuve.mdb"), dialogues::kOui);
+    dialogues.attendMsgBox("Erreur (22) : Ouverture de la base (Lecture seule/Fichier manquant ?)", 16);
+    rienNAChange();
+    EXPECT_FALSE(installation.dossier.existe("Neuve.mdb"));
+}
+
+TEST_F(cmdChargeOuvreBaseTest, ANameWithoutItsEndingIsGivenOne) {
+    choisit(chemin("Base"));
+    demandeCreation(chemin("Base.mdb"), dialogues::kOui);
+    aChangePour(chemin("Base.mdb"));
+    EXPECT_EQ(base.films.RecordCount(), 0);
+}
+
+TEST_F(cmdChargeOuvreBaseTest, AnEndingInCapitalsIsKept) {
+    installation.creeBase("Voisin.MDB");
+    installation.ajouteFilm("Voisin.MDB", "Le film du voisin");
+    choisit(chemin("Voisin.MDB"));
+    aChangePour(chemin("Voisin.MDB"));
+    EXPECT_EQ(Installation::premierTitre(base), "Le film du voisin");
+}
+
+}  // namespace
