@@ -14,7 +14,7 @@ class LotImport {
   public:
     static constexpr int kFiches = 250;
     static constexpr std::size_t kOctets = 32 << 20;
-    static constexpr std::chrono::milliseconds kDuree{1000};
+    static constexpr std::chrono::milliseconds kDuree{3000};
 
     explicit LotImport(dao::Database& base) : m_base(base) {}
 

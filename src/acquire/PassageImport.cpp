@@ -49,7 +49,7 @@ RapportImport PassageImport::execute() {
     } catch (const db::RequeteEchouee&) {  // already shown
     }
     m_lot.abandonne();
-    if (!erreur.empty()) m_outils.dialogues.MsgBox(erreur, dialogues::kCritique);
+    if (!erreur.empty()) m_outils.dialogues.MsgBox(erreur);
     return m_acquis;
 }
 

@@ -1,0 +1,327 @@
+#include "acquire/CompteFilmsRepertoire.h"
+#include "acquire/cmdAjoutAuto_Click.h"
+#include "doubles/DialoguesScript.h"
+#include "doubles/EcranMuet.h"
+#include "doubles/HorlogeFixe.h"
+#include "unit/edit/BaseDEssai.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+#include <gmock/gmock.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace std::string_literals;
+using dialogues::kExclamation;
+using dialogues::kInformation;
+using dialogues::kNon;
+using dialogues::kOui;
+using dialogues::kQuestion;
+using testing::ElementsAre;
+
+constexpr const char* kQuestionRessemblance =
+    "Souhaitez-vous que le logiciel vérifie si les nouveaux titres ajoutés ressemblent à d'autres titres déjà présents "
+    "en base ?";
+
+// The import with everything under it, on a real base; the boxes are scripted.
+struct ImportTest : testing::Test {
+    doubles::BaseDEssai essai;
+    doubles::DossierTemporaire fiches;
+    doubles::DialoguesScript dialogues;
+    doubles::EcranMuet ecran;
+    doubles::HorlogeFixe horloge;
+    edit::EtatAjout ajout;
+    db::EtatStockage stockage;
+    db::Chemins chemins = db::Chemins::depuis(essai.dossier.chemin());
+    browse::EtatListe liste;
+    browse::EtatFiche fiche;
+    browse::FilmCourant courant;
+    browse::AfficheTitres afficheTitres{liste, essai.base};
+    browse::CreeRequeteAffichage creeRequeteAffichage{essai.base, liste, courant, afficheTitres, dialogues};
+    browse::CreeEtAfficheRecherche creeEtAfficheRecherche{liste, creeRequeteAffichage};
+    browse::AfficheNbTitres afficheNbTitres{liste, essai.base};
+    edit::EnregistrementFilm enregistrement{essai.base, ajout, stockage, chemins, courant, dialogues};
+    edit::Doublons doublons{essai.base, dialogues};
+    edit::Ressemblances ressemblances{essai.base, dialogues};
+    edit::BoitesDeroulantes boites{essai.base, fiche, dialogues};
+    acquire::ImportFiches import{
+        {essai.base, ajout, stockage, enregistrement, doublons, ressemblances, dialogues, ecran},
+        {liste, creeEtAfficheRecherche, afficheNbTitres, boites},
+        horloge};
+
+    ImportTest() {
+        for (const char* zone : {"Mes films", "Tous", "2", "3", "4", "5"})
+            liste.ChoixZone.AddItem(zone);
+        for (int tri = 0; tri < 9; ++tri)
+            liste.ChoixTri.AddItem(std::to_string(tri));
+        ajout.txtCheminAjoutAuto.Text = fiches.chemin();
+        ajout.cmdAjoutFilm.Caption = "Modifier";  // what was being modified is no concern of an import
+    }
+
+    void ecritFiches(int nombre) {
+        for (int i = 0; i < nombre; ++i) {
+            char nom[16];
+            std::snprintf(nom, sizeof nom, "f%04d", i);
+            fiches.ecrit(nom + ".FILM"s, "Film "s + nom + "\r\nR\r\n");
+            fiches.ecrit(nom + ".jpg"s, nom);
+        }
+    }
+    void attendQuestions(long nombre, bool possede, bool ressemblance, const std::string& support = "") {
+        dialogues.attendMsgBox(acquire::questionPossession(nombre), kQuestion, possede ? kOui : kNon);
+        if (possede)
+            dialogues.attendInputBox(
+                "Vous pouvez indiquer le nom du support qui sera attribué à tous les films ajoutés (DVD, K7...)",
+                support, "Nom du support");
+        dialogues.attendMsgBox(kQuestionRessemblance, kQuestion, ressemblance ? kOui : kNon);
+    }
+    void importe(long nombre, const std::string& rapport, bool possede = false, bool ressemblance = false) {
+        attendQuestions(nombre, possede, ressemblance, "DVD");
+        dialogues.attendMsgBox(rapport, kInformation);
+        import.cmdAjoutAuto_Click();
+        dialogues.verifie();
+    }
+    std::size_t nombre(const std::string& table) { return essai.colonne(table, "id").size(); }
+};
+
+TEST_F(ImportTest, asksNothingWithoutASheet) {
+    fiches.ecrit("lisezmoi.txt", "Alien");
+    for (const std::string& dossier : {fiches.chemin(), std::string(), fiches.chemin("absent")}) {
+        ajout.txtCheminAjoutAuto.Text = dossier;
+        dialogues.attendMsgBox("Aucun fichier .film trouvé !", kExclamation);
+        import.cmdAjoutAuto_Click();
+    }
+}
+
+TEST_F(ImportTest, wordsTheOwnedQuestionByTheNumberOfSheets) {
+    const std::string fin =
+        "\n\nDans le cas contraire, l'ajout sera fait mais il faudra indiquer \n pour chaque film qu'il "
+        "se trouve bien dans votre vidéothèque.";
+    EXPECT_EQ(acquire::questionPossession(1),
+              "Souhaitez-vous déclarer le film comme étant en votre possession ?" + fin);
+    EXPECT_EQ(acquire::questionPossession(12),
+              "Souhaitez-vous déclarer les 12 films comme étant en votre possession ?" + fin);
+}
+
+TEST_F(ImportTest, storesASheetWithItsPosterAndItsHolding) {
+    fiches.ecrit("a.film",
+                 "l'ÉTÉ \"10\"\r\nJean Becker\r\n19831\r\nFrance\r\nDrame\r\n2H13\r\nAdjani\r\nUn été.\r\nCapac\r\n");
+    fiches.ecrit("a.JPG", "pas une image");
+    ajout.txtCheminAjoutAuto.Text.pop_back();  // a folder without its final separator
+    attendQuestions(1, true, false, "un support de plus de vingt");
+    dialogues.attendMsgBox("1 film ajouté.", kInformation);
+    import.cmdAjoutAuto_Click();
+
+    const std::vector<std::pair<std::string, std::string>> film{{"Titre", "L'Été \"10\""},
+                                                                {"Realisateur", "Jean Becker"},
+                                                                {"Annee", "1983"},
+                                                                {"Origine", "France"},
+                                                                {"Genre", "Drame"},
+                                                                {"Duree", "2H13"},
+                                                                {"Acteurs", "Adjani"},
+                                                                {"Resume", "Un été."},
+                                                                {"Production", "Capac"},
+                                                                {"DateAjout", "21/11/2026"},
+                                                                {"Affiche", "STOpas une image"}};
+    for (const auto& [champ, valeur] : film)
+        EXPECT_THAT(essai.colonne("Films", champ), ElementsAre(valeur)) << champ;
+    dao::Recordset possession = essai.base.base.OpenRecordset("Personnel");
+    EXPECT_EQ(possession.texte("Titre2"), "L'Été \"10\"");
+    EXPECT_EQ(possession.texte("Realisateur2"), "Jean Becker");
+    EXPECT_EQ(possession.texte("Support"), "un support de plus d");
+    for (const char* vide : {"Rangement", "Fichier1", "Fichier2", "Fichier3", "Pret", "Reserve", "Date", "Divers"})
+        EXPECT_EQ(possession.valeur(vide), dao::Valeur("")) << vide;
+
+    EXPECT_FALSE(ajout.modeModifier());
+    EXPECT_FALSE(ajout.lblProgression.Visible || ajout.ProgressBar1.Visible);
+    EXPECT_EQ(liste.critereRecherche, "DateAjout = \"21/11/2026\"");
+    EXPECT_EQ(liste.ChoixZone.Text, "Recherche");
+    EXPECT_EQ(liste.TreeView1.Nodes.Text(liste.TreeView1.Nodes.Count()), "L'Été \"10\"");
+    EXPECT_THAT(fiche.Combo7[2].Items, ElementsAre("un support de plus d"));
+}
+
+TEST_F(ImportTest, showsEveryFilmOfTheDayWhateverTheLastSearchWas) {
+    fiches.ecrit("a.film", "Alien\r\nScott");
+    liste.zoneRecherche = browse::kZoneMesFilms;
+    importe(1, "1 film ajouté.\n- Image manquante :\n" + fiches.chemin("a.jpg"));
+    EXPECT_EQ(liste.zoneRecherche, browse::kZoneTous);
+    EXPECT_EQ(nombre("Personnel"), 0u);
+    EXPECT_EQ(liste.TreeView1.Nodes.Text(liste.TreeView1.Nodes.Count()), "Alien");
+}
+
+TEST_F(ImportTest, reportsMissingAndTooLargePostersAndKeepsSilentAtTheLimit) {
+    for (const int octets : {229999, 230000, 230001}) {
+        const std::string nom = std::to_string(octets);
+        fiches.ecrit(nom + ".FILM", nom + "\r\nR");
+        fiches.ecrit(nom + ".jpg", std::string(static_cast<std::size_t>(octets), 'x'));
+    }
+    fiches.ecrit("sans.FILM", "sans\r\nR");
+    importe(4, "4 films ajoutés.\n- Image manquante :\n" + fiches.chemin("230001.jpg") +
+                   " (trop grande pour la base) , " + fiches.chemin("sans.jpg"));
+    std::vector<std::size_t> tailles;
+    for (const std::string& affiche : essai.colonne("SELECT * FROM films ORDER BY Titre ASC ;", "Affiche"))
+        tailles.push_back(affiche.size());
+    EXPECT_THAT(tailles, ElementsAre(3 + 229999u, 0u, 0u, 0u));
+
+    // As files, any size goes; what cannot be copied is told.
+    ecran::choisit(stockage.Option3, 1);
+    fiches.ecrit("230001.FILM", "autre\r\nR");
+    fiches.ecrit("sans.FILM", "encore\r\nR");
+    fiches.ecrit("sans.jpg", "x");
+    std::filesystem::create_directories(essai.dossier.chemin("Images/Encore - R.jpg"));  // a folder stands in its place
+    importe(4, "2 films ajoutés.\n2 films non ajoutés car déjà dans la base.\n- Image manquante :\n" +
+                   fiches.chemin("sans.jpg") + "\n- Déjà existant : \n229999, 230000");
+    EXPECT_EQ(std::filesystem::file_size(essai.dossier.chemin("Images/Autre - R.jpg")), 230001u);
+    EXPECT_THAT(essai.colonne("SELECT * FROM films WHERE titre =\"encore\"", "Affiche"), ElementsAre(""));
+}
+
+TEST_F(ImportTest, refusesWhatIsAlreadyThereAndWhatTheUserFindsTooClose) {
+    essai.ajouteFilm("Solaris", "Andreï Tarkovski");
+    fiches.ecrit("1.film", "SOLARIS\r\nandreï tarkovski");
+    fiches.ecrit("2.film", "Solarise\r\nAndreï Tarkovski");
+    fiches.ecrit("3.film", "Solari\r\nAndreï Tarkovski");
+    fiches.ecrit("4.film", "Alien\r\nRidley Scott");
+    fiches.ecrit("5.film", "Aliens\r\nRidley Scott");  // close to one of the same batch
+    fiches.ecrit("6.film", "");
+    fiches.ecrit("7.film", "\r\n\r\n1999");
+    attendQuestions(7, true, true, "DVD");
+    const auto attend = [&](const std::string& nouveau, const std::string& ancien, int reponse,
+                            const std::string& realisateur) {
+        dialogues.attendMsgBox(edit::questionRessemblance(nouveau, realisateur, ancien, realisateur), kQuestion,
+                               reponse);
+    };
+    attend("Solarise", "Solaris", kNon, "Andreï Tarkovski");
+    attend("Solari", "Solaris", kOui, "Andreï Tarkovski");
+    attend("Aliens", "Alien", kNon, "Ridley Scott");
+    dialogues.attendMsgBox("3 films ajoutés.\n4 films non ajoutés car déjà dans la base.\n- Image manquante :\n" +
+                               fiches.chemin("3.jpg") + ", " + fiches.chemin("4.jpg") + ", " + fiches.chemin("6.jpg") +
+                               "\n- Déjà existant : \nSolaris, Solarise, Aliens, Non défini",
+                           kInformation);
+    import.cmdAjoutAuto_Click();
+    EXPECT_THAT(essai.colonne("Films", "Titre"), ElementsAre("Solaris", "Solari", "Alien", "Non défini"));
+    EXPECT_EQ(nombre("Personnel"), 3u);
+}
+
+TEST_F(ImportTest, passesOverASheetThatCannotBeRead) {
+    fiches.ecrit("b.film", "Alien\r\nScott");
+    fiches.ecrit("b.jpg", "x");
+    fiches.ecrit("a.film", "");
+    std::filesystem::resize_file(fiches.chemin("a.film"), (64 << 20) + 1);  // no sheet is that large
+    std::filesystem::create_directory(fiches.chemin("c.film"));
+    importe(2, "1 film ajouté.\n- Fiche illisible :\n" + fiches.chemin("a.film"));
+}
+
+TEST_F(ImportTest, showsItsProgressAndLeavesWhatWasAddedWhenStopped) {
+    ecritFiches(300);
+    std::vector<std::string> legendes;
+    ecran.pendantSouffle = [&] {
+        legendes.push_back(ajout.lblProgression.Caption + " " + std::to_string(ajout.ProgressBar1.Value) + "/" +
+                           std::to_string(ajout.ProgressBar1.Max));
+        EXPECT_TRUE(ajout.lblProgression.Visible && ajout.ProgressBar1.Visible);
+    };
+    ecran.arretApres = 1;
+    importe(300, "1 film ajouté.", true);
+    EXPECT_THAT(legendes, ElementsAre("Film f0000 1/300"));
+    EXPECT_THAT(essai.colonne("Personnel", "Titre2"), ElementsAre("Film F0000"));
+    EXPECT_EQ(ecran.soufflesHorsTravail, 0);
+    EXPECT_EQ(ecran.debuts, ecran.fins);
+
+    ecran.arretApres = 0;
+    importe(300, "299 films ajoutés.\n1 film non ajouté car déjà dans la base.\n- Déjà existant : \nFilm F0000", true);
+    EXPECT_EQ(nombre("Films"), 300u);
+    EXPECT_EQ(nombre("Personnel"), 300u);
+}
+
+TEST_F(ImportTest, toldOfTheBasesFailureReportsWhatIsStored) {
+    ecritFiches(acquire::LotImport::kFiches + 20);
+    // After the first lot, another program holds the base.
+    dao::Database autre = dao::DBEngine::OpenDatabase(essai.dossier.chemin("Films.mdb"));
+    dao::Recordset films = autre.OpenRecordset("Films");
+    ecran.pendantSouffle = [&] {
+        if (ajout.ProgressBar1.Value != acquire::LotImport::kFiches) return;
+        autre.BeginTrans();
+        doubles::BaseDEssai::ajoute(films, {{"Titre", "Autre"}});
+    };
+    attendQuestions(acquire::LotImport::kFiches + 20, true, false, "DVD");
+    dialogues.attendMsgBox("Erreur 3260 : Mise à jour impossible : la base est verrouillée par un autre programme.");
+    dialogues.attendMsgBox("250 films ajoutés.", kInformation);
+    import.cmdAjoutAuto_Click();
+    autre.Rollback();
+    EXPECT_EQ(nombre("Films"), 250u);
+    EXPECT_EQ(nombre("Personnel"), 250u);
+    EXPECT_FALSE(essai.base.base.enTransaction());
+    films.Close();
+}
+
+// What a kill leaves: whole lots, each film with its holding.
+TEST_F(ImportTest, killedMidwayKeepsWholeFilmsWithTheirHoldings) {
+    ecritFiches(400);
+    struct Cas {
+        long fiche;
+        std::size_t restent;
+    };
+    for (const Cas& cas : {Cas{1, 0}, Cas{acquire::LotImport::kFiches, 250}}) {
+        essai.base.ferme();
+        const pid_t enfant = fork();
+        ASSERT_GE(enfant, 0);
+        if (enfant == 0) {
+            essai.ouvre();
+            ecran.pendantSouffle = [&] {
+                if (ajout.ProgressBar1.Value >= cas.fiche) kill(getpid(), SIGKILL);
+            };
+            attendQuestions(400, true, false, "DVD");
+            import.cmdAjoutAuto_Click();
+            _exit(1);
+        }
+        int etat = 0;
+        ASSERT_EQ(waitpid(enfant, &etat, 0), enfant);
+        EXPECT_TRUE(WIFSIGNALED(etat) && WTERMSIG(etat) == SIGKILL) << etat;
+        essai.ouvre();
+        EXPECT_EQ(nombre("Films"), cas.restent);
+        EXPECT_EQ(nombre("Personnel"), cas.restent);
+    }
+}
+
+std::string dossierDonnees() {
+    const char* choisi = std::getenv("AMBRELIS_DONNEES");
+    return std::string(choisi ? choisi : AMBRELIS_DONNEES_DEFAUT) + "/fiches";
+}
+
+TEST_F(ImportTest, takesInARealFolderOnce) {
+    if (!std::filesystem::is_directory(dossierDonnees())) GTEST_SKIP() << "no real sheets at " << dossierDonnees();
+    std::filesystem::copy(dossierDonnees(), fiches.chemin());
+    // 43 sheets; 9 without a poster, 3 posters too large by one byte, 3 of exactly the limit.
+    std::string attendu;
+    const acquire::DossierFiches dossier(fiches.chemin());
+    for (const std::string& nom : dossier.fiches()) {
+        const std::string affiche = dossier.cheminAffiche(nom);
+        const bool existe = std::filesystem::exists(affiche);
+        if (existe && std::filesystem::file_size(affiche) <= 230000) continue;
+        attendu += (attendu.empty() ? "" : ", ") + affiche + (existe ? " (trop grande pour la base) " : "");
+    }
+    importe(43, "43 films ajoutés.\n- Image manquante :\n" + attendu, true, true);
+    EXPECT_EQ(nombre("Personnel"), 43u);
+    std::size_t affiches = 0;
+    for (const std::string& affiche : essai.colonne("Films", "Affiche"))
+        affiches += affiche.empty() ? 0 : 1;
+    EXPECT_EQ(affiches, 28u);
+    EXPECT_THAT(essai.colonne("SELECT * FROM films WHERE titre =\"le parrain II\"", "Realisateur"),
+                ElementsAre("Non défini"));
+    EXPECT_THAT(essai.colonne("SELECT * FROM films WHERE Realisateur =\"Joseph \"\"McG\"\" McGinty Nichol\"", "Titre"),
+                ElementsAre("Charlie Et Ses Drôles De Dames"));
+
+    attendQuestions(43, false, false);
+    std::string titres;
+    for (const std::string& nom : dossier.fiches())
+        titres += (titres.empty() ? "" : ", ") + acquire::litFiche(dossier.chemin(nom))->titre;
+    dialogues.attendMsgBox("0 film ajouté.\n43 films non ajoutés car déjà dans la base.\n- Déjà existant : \n" + titres,
+                           kInformation);
+    import.cmdAjoutAuto_Click();
+    EXPECT_EQ(nombre("Films"), 43u);
+}
+
+}  // namespace

@@ -1,0 +1,113 @@
+#include "doubles/DialoguesScript.h"
+#include "edit/EnregistreNouveauFilm.h"
+#include "unit/edit/BaseDEssai.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::ElementsAre;
+
+struct EnregistreNouveauFilmTest : testing::Test {
+    doubles::BaseDEssai essai;
+    edit::EtatAjout ajout;
+    db::EtatStockage stockage;
+    db::Chemins chemins = db::Chemins::depuis(essai.dossier.chemin());
+    browse::FilmCourant courant;
+    doubles::DialoguesScript dialogues;
+    edit::EnregistrementFilm enregistrement{essai.base, ajout, stockage, chemins, courant, dialogues};
+
+    void saisis(const std::string& titre, const std::string& realisateur) {
+        ajout.Text3[0].Text = titre;
+        ajout.Text3[1].Text = realisateur;
+    }
+    static std::string repete(const std::string& texte, int fois) {
+        std::string resultat;
+        while (fois-- > 0)
+            resultat += texte;
+        return resultat;
+    }
+};
+
+TEST_F(EnregistreNouveauFilmTest, cutsEachTextToItsColumnByCharacters) {
+    const std::string long300 = repete("é", 300);
+    for (auto& zone : ajout.Text3)
+        zone.Text = long300;
+    ajout.Combo2.Text = ajout.Combo3.Text = ajout.Combo4.Text = long300;
+    EXPECT_EQ(enregistrement.EnregistreNouveauFilm("", long300, "21/11/2026"), edit::SortAffiche::Aucune);
+    const std::vector<std::pair<std::string, int>> longueurs{{"Titre", 100},   {"Realisateur", 100}, {"Annee", 4},
+                                                             {"Origine", 40},  {"Duree", 6},         {"Genre", 40},
+                                                             {"Acteurs", 200}, {"Production", 30},   {"Resume", 300}};
+    for (const auto& [champ, longueur] : longueurs)
+        EXPECT_EQ(essai.film(champ).texte(), repete("é", longueur)) << champ;
+    EXPECT_TRUE(essai.film("Note").estNull());
+    EXPECT_EQ(essai.film("DateAjout").texte(), "21/11/2026");
+    EXPECT_EQ(essai.film("Affiche"), dao::Valeur(""));
+}
+
+TEST_F(EnregistreNouveauFilmTest, storesInTheBaseOnlyPostersBelowTheLimit) {
+    struct Cas {
+        std::size_t octets;
+        edit::SortAffiche sort;
+    };
+    for (const Cas& cas : {Cas{0, edit::SortAffiche::Enregistree}, Cas{229999, edit::SortAffiche::Enregistree},
+                           Cas{230000, edit::SortAffiche::TropGrande}, Cas{230001, edit::SortAffiche::TropGrande}}) {
+        std::string octets(cas.octets, '\0');
+        for (std::size_t i = 0; i < octets.size(); ++i)
+            octets[i] = static_cast<char>(i);
+        saisis(std::to_string(cas.octets), "R");
+        const std::string image = essai.dossier.ecrit("image.jpg", octets);
+        EXPECT_EQ(enregistrement.EnregistreNouveauFilm(image, "", ""), cas.sort) << cas.octets;
+        const bool stockee = cas.sort == edit::SortAffiche::Enregistree;
+        const auto affiches =
+            essai.colonne("SELECT * FROM films WHERE titre =\"" + std::to_string(cas.octets) + "\"", "Affiche");
+        ASSERT_EQ(affiches.size(), 1u);
+        EXPECT_TRUE(affiches[0] == (stockee ? "STO" + octets : "")) << cas.octets;
+    }
+}
+
+TEST_F(EnregistreNouveauFilmTest, copiesAPosterIntoTheImagesFolderUnderACleanName) {
+    ecran::choisit(stockage.Option3, 1);
+    saisis("Qui ? \"Lui\"", "A/B");
+    const std::string image = essai.dossier.ecrit("image.jpg", "octets");
+    EXPECT_EQ(enregistrement.EnregistreNouveauFilm(image, "", ""), edit::SortAffiche::Enregistree);
+    EXPECT_EQ(essai.film("Affiche").texte(), "JPGQui  Lui - AB.jpg");
+    EXPECT_EQ(stockage.Text4.Text, essai.dossier.chemin("Images"));
+    EXPECT_EQ(essai.dossier.lit("Images/Qui  Lui - AB.jpg"), "octets");
+}
+
+TEST_F(EnregistreNouveauFilmTest, namesNoPosterThatCouldNotBeCopied) {
+    saisis("Alien", "Ridley Scott");
+    for (const int option : {0, 1}) {
+        ecran::choisit(stockage.Option3, static_cast<std::size_t>(option));
+        stockage.Text4.Text = essai.dossier.ecrit("un fichier", "") + "/Images";  // no folder can be made there
+        const std::string image = option == 0 ? essai.dossier.chemin("absente.jpg") : essai.dossier.ecrit("a.jpg", "a");
+        EXPECT_EQ(enregistrement.EnregistreNouveauFilm(image, "", ""), edit::SortAffiche::Illisible) << option;
+    }
+    EXPECT_THAT(essai.colonne("Films", "Affiche"), ElementsAre("", ""));
+}
+
+TEST_F(EnregistreNouveauFilmTest, modifiesTheCurrentFilmAndKeepsItsPosterRatingAndDate) {
+    essai.ajoute(essai.base.films, {{"Titre", "Les \"Tontons\""},
+                                    {"Realisateur", "Lautner"},
+                                    {"Affiche", "JPGx.jpg"},
+                                    {"Note", 8},
+                                    {"DateAjout", "01/01/2001"}});
+    courant.titre = "Les \"Tontons\"";
+    courant.realisateur = "Lautner";
+    saisis("Les Tontons flingueurs", "Georges Lautner");
+    ajout.cmdAjoutFilm.Caption = "Modifier";
+    enregistrement.EnregistreNouveauFilm("", "Un résumé", "21/11/2026");
+    EXPECT_THAT(essai.colonne("Films", "Titre"), ElementsAre("Les Tontons flingueurs"));
+    EXPECT_THAT(essai.colonne("Films", "Resume"), ElementsAre("Un résumé"));
+    EXPECT_THAT(essai.colonne("Films", "Affiche"), ElementsAre("JPGx.jpg"));
+    EXPECT_THAT(essai.colonne("Films", "Note"), ElementsAre("8"));
+    EXPECT_THAT(essai.colonne("Films", "DateAjout"), ElementsAre("01/01/2001"));
+
+    // No longer found under its old title: nothing of the entry is lost.
+    saisis("Encore un autre", "Georges Lautner");
+    enregistrement.EnregistreNouveauFilm("", "", "21/11/2026");
+    EXPECT_THAT(essai.colonne("Films", "Titre"), ElementsAre("Les Tontons flingueurs", "Encore un autre"));
+}
+
+}  // namespace
