@@ -17,7 +17,7 @@ depuis() { dit "  done in $((SECONDS - $1)) s"; }
 # absents PACKAGE...: those that are not installed, one a line.
 absents() {
   local etats paquet
-  etats=$(dpkg-query -W -f='/${Package} ${db:Status-Status}/' "$@" 2>/dev/null)
+  etats=$(dpkg-query -W -f='/${Package} ${db:Status-Status}/' "$@" 2>/dev/null || true)
   for paquet; do
     [[ $etats == *"/$paquet installed/"* ]] || printf '%s\n' "$paquet"
   done
