@@ -104,8 +104,12 @@ bool ecritTout(int descripteur, std::string_view octets) {
 
 bool ecrit(const std::string& chemin, std::string_view octets) {
     Descripteur fichier(chemin, O_WRONLY | O_CREAT, kDroitsOrdinaires);
-    return fichier.estFichier() && ftruncate(fichier.numero(), 0) == 0 && ecritTout(fichier.numero(), octets) &&
-           fichier.ferme();
+    struct stat infos {};
+    if (!fichier.estFichier() || fstat(fichier.numero(), &infos) != 0) return false;
+    // A new file is not cut: some file systems take a cut one to the disk as soon as it is closed, and its deletion,
+    // which every change of poster begins with, would wait for that.
+    if (infos.st_size != 0 && ftruncate(fichier.numero(), 0) != 0) return false;
+    return ecritTout(fichier.numero(), octets) && fichier.ferme();
 }
 
 bool remplace(const std::string& chemin, std::string_view octets) {
