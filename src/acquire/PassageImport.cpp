@@ -75,6 +75,7 @@ void PassageImport::importe(const std::string& nom) {
         return;
     }
     m_outils.ajout.lblProgression.Caption = fiche->premiereLigne;
+    m_lot.commence();  // the checks of one lot share what they read
     if (estRefuse(*fiche))
         m_rapport.titresRefuses.push_back(fiche->titre);
     else
@@ -89,7 +90,7 @@ bool PassageImport::estRefuse(const FicheFilm& fiche) {
 }
 
 void PassageImport::enregistre(const FicheFilm& fiche, const std::string& nom) {
-    m_lot.commence();
+    m_lot.commence();  // a question may have ended it
     remplitSaisie(fiche);
     const Affiche affiche = choisitAffiche(nom);
     const edit::SortAffiche sort =

@@ -3,43 +3,35 @@
 #include "edit/TitreDejaExistant_TestRessemblance.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace edit {
 
 LettresDuCatalogue LettresDuCatalogue::de(db::Base& base, dialogues::Dialogues& dialogues) {
     LettresDuCatalogue lettres;
     dao::Recordset films = ouvreFilmsParTitre(base, dialogues);
-    const dao::Colonne colonneTitre = films.colonne("Titre"), colonneRealisateur = films.colonne("Realisateur");
-    lettres.m_films.reserve(static_cast<std::size_t>(films.RecordCount()));
+    const dao::Colonne titre = films.colonne("Titre"), realisateur = films.colonne("Realisateur");
     for (; !films.Eof(); films.MoveNext()) {
-        const std::uint32_t rang = lettres.rangDe(films.vue(colonneRealisateur));
-        lettres.m_films.push_back({rang, util::compteLettres(films.vue(colonneTitre))});
+        std::string duFilm(films.vue(realisateur));  // the view of the one goes when the other is taken
+        lettres.ajoute(films.vue(titre), std::move(duFilm));
     }
     return lettres;
 }
 
-void LettresDuCatalogue::ajoute(std::string_view titre, std::string_view realisateur) {
-    m_films.push_back({rangDe(realisateur), util::compteLettres(titre)});
+void LettresDuCatalogue::ajoute(std::string_view titre, std::string realisateur) {
+    const util::CompteLettres lettres = util::compteLettres(realisateur);
+    const auto [place, nouveau] = m_rangs.try_emplace(std::move(realisateur), m_realisateurs.size());
+    if (nouveau) m_realisateurs.push_back({lettres, {}});
+    m_realisateurs[place->second].titres.push_back(util::compteLettres(titre));
 }
 
 bool LettresDuCatalogue::aUnProche(std::string_view titre, std::string_view realisateur) const {
-    const util::CompteLettres lettresTitre = util::compteLettres(titre);
-    const util::CompteLettres lettresRealisateur = util::compteLettres(realisateur);
-    std::vector<bool> proches(m_realisateurs.size());
-    std::transform(m_realisateurs.begin(), m_realisateurs.end(), proches.begin(),
-                   [&](const util::CompteLettres& autre) {
-                       return util::similarite(lettresRealisateur, autre) > kSeuilRessemblance;
-                   });
-    return std::any_of(m_films.begin(), m_films.end(), [&](const Film& film) {
-        return proches[film.realisateur] && util::similarite(lettresTitre, film.titre) > kSeuilRessemblance;
+    const util::CompteLettres duTitre = util::compteLettres(titre), duRealisateur = util::compteLettres(realisateur);
+    return std::any_of(m_realisateurs.begin(), m_realisateurs.end(), [&](const Realisateur& autre) {
+        return ressemble(duRealisateur, autre.lettres) &&
+               std::any_of(autre.titres.begin(), autre.titres.end(),
+                           [&](const util::CompteLettres& autreTitre) { return ressemble(duTitre, autreTitre); });
     });
-}
-
-std::uint32_t LettresDuCatalogue::rangDe(std::string_view realisateur) {
-    const auto nouveau = static_cast<std::uint32_t>(m_realisateurs.size());
-    const auto [place, ajoute] = m_rangs.try_emplace(std::string(realisateur), nouveau);
-    if (ajoute) m_realisateurs.push_back(util::compteLettres(realisateur));
-    return place->second;
 }
 
 }  // namespace edit

@@ -4,7 +4,7 @@
 #include "platform/dialogues/Dialogues.h"
 #include "util/Similarite.h"
 
-#include <cstdint>
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -19,19 +19,17 @@ class LettresDuCatalogue {
     // Counts the films of the base; those the batch adds afterwards come by `ajoute`, as they are stored.
     [[nodiscard]] static LettresDuCatalogue de(db::Base& base, dialogues::Dialogues& dialogues);
 
-    void ajoute(std::string_view titre, std::string_view realisateur);
+    void ajoute(std::string_view titre, std::string realisateur);
     [[nodiscard]] bool aUnProche(std::string_view titre, std::string_view realisateur) const;
 
   private:
-    struct Film {
-        std::uint32_t realisateur;  // index into m_realisateurs
-        util::CompteLettres titre;
+    struct Realisateur {
+        util::CompteLettres lettres;
+        std::vector<util::CompteLettres> titres;
     };
-    [[nodiscard]] std::uint32_t rangDe(std::string_view realisateur);
 
-    std::vector<Film> m_films;
-    std::vector<util::CompteLettres> m_realisateurs;
-    std::unordered_map<std::string, std::uint32_t> m_rangs;
+    std::vector<Realisateur> m_realisateurs;
+    std::unordered_map<std::string, std::size_t> m_rangs;  // in m_realisateurs
 };
 
 }  // namespace edit

@@ -1,8 +1,9 @@
 #include "edit/TitreDejaExistant_TestRessemblance.h"
 
 #include "db/Requete.h"
-#include "util/Similarite.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <unordered_map>
 
 namespace edit {
@@ -15,7 +16,7 @@ class RealisateursProches {
 
     bool operator()(std::string_view autre) {
         const auto [place, nouveau] = m_connus.try_emplace(std::string(autre), false);
-        if (nouveau) place->second = util::similarite(m_lettres, util::compteLettres(autre)) > kSeuilRessemblance;
+        if (nouveau) place->second = ressemble(m_lettres, util::compteLettres(autre));
         return place->second;
     }
 
@@ -31,6 +32,13 @@ std::string film(std::string_view titre, std::string_view realisateur) {
 }
 
 }  // namespace
+
+bool ressemble(const util::CompteLettres& gauche, const util::CompteLettres& droite) {
+    // Common letters are at most those of the shorter text: lengths alone rule most pairs out.
+    const std::uint64_t courte = std::min(gauche.total, droite.total), longue = std::max(gauche.total, droite.total);
+    return 200 * courte > kSeuilRessemblance * (courte + longue) &&
+           util::similarite(gauche, droite) > kSeuilRessemblance;
+}
 
 std::string questionRessemblance(std::string_view titre, std::string_view realisateur, std::string_view ancienTitre,
                                  std::string_view ancienRealisateur) {
@@ -52,7 +60,7 @@ bool Ressemblances::TitreDejaExistant_TestRessemblance(const std::string& titre,
     RealisateursProches realisateurProche(realisateur);
     for (; !films.Eof(); films.MoveNext()) {
         if (!realisateurProche(films.vue(colonneRealisateur))) continue;
-        if (util::similarite(lettres, util::compteLettres(films.vue(colonneTitre))) <= kSeuilRessemblance) continue;
+        if (!ressemble(lettres, util::compteLettres(films.vue(colonneTitre)))) continue;
         const std::string question =
             questionRessemblance(titre, realisateur, films.texte("Titre"), films.texte("Realisateur"));
         if (avantQuestion) avantQuestion();

@@ -2,6 +2,7 @@
 
 #include "db/Base.h"
 #include "platform/dialogues/Dialogues.h"
+#include "util/Similarite.h"
 
 #include <functional>
 #include <string>
@@ -11,6 +12,9 @@ namespace edit {
 
 // A film whose title and director are each more than this alike (in per cent) resembles the new one.
 inline constexpr int kSeuilRessemblance = 80;
+
+// Whether two texts are that much alike.
+[[nodiscard]] bool ressemble(const util::CompteLettres& gauche, const util::CompteLettres& droite);
 
 // Shows the user, one after the other, the films of the catalogue that resemble a new one.
 class Ressemblances {
