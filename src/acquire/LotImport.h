@@ -12,7 +12,7 @@ namespace acquire {
 // in memory) and in time. Not confirmed, it leaves no trace.
 class LotImport {
   public:
-    static constexpr int kFiches = 250;
+    static constexpr int kFiches = 500;
     static constexpr std::size_t kOctets = 32 << 20;
     static constexpr std::chrono::milliseconds kDuree{3000};
 

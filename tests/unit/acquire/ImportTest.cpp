@@ -248,23 +248,23 @@ TEST_F(ImportTest, toldOfTheBasesFailureReportsWhatIsStored) {
     };
     attendQuestions(acquire::LotImport::kFiches + 20, true, false, "DVD");
     dialogues.attendMsgBox("Erreur 3260 : Mise à jour impossible : la base est verrouillée par un autre programme.");
-    dialogues.attendMsgBox("250 films ajoutés.", kInformation);
+    dialogues.attendMsgBox(std::to_string(acquire::LotImport::kFiches) + " films ajoutés.", kInformation);
     import.cmdAjoutAuto_Click();
     autre.Rollback();
-    EXPECT_EQ(nombre("Films"), 250u);
-    EXPECT_EQ(nombre("Personnel"), 250u);
+    EXPECT_EQ(nombre("Films"), std::size_t{acquire::LotImport::kFiches});
+    EXPECT_EQ(nombre("Personnel"), std::size_t{acquire::LotImport::kFiches});
     EXPECT_FALSE(essai.base.base.enTransaction());
     films.Close();
 }
 
 // What a kill leaves: whole lots, each film with its holding.
 TEST_F(ImportTest, killedMidwayKeepsWholeFilmsWithTheirHoldings) {
-    ecritFiches(400);
+    ecritFiches(600);
     struct Cas {
         long fiche;
         std::size_t restent;
     };
-    for (const Cas& cas : {Cas{1, 0}, Cas{acquire::LotImport::kFiches, 250}}) {
+    for (const Cas& cas : {Cas{1, 0}, Cas{acquire::LotImport::kFiches, acquire::LotImport::kFiches}}) {
         essai.base.ferme();
         const pid_t enfant = fork();
         ASSERT_GE(enfant, 0);
@@ -273,7 +273,7 @@ TEST_F(ImportTest, killedMidwayKeepsWholeFilmsWithTheirHoldings) {
             ecran.pendantSouffle = [&] {
                 if (ajout.ProgressBar1.Value >= cas.fiche) kill(getpid(), SIGKILL);
             };
-            attendQuestions(400, true, false, "DVD");
+            attendQuestions(600, true, false, "DVD");
             import.cmdAjoutAuto_Click();
             _exit(1);
         }
