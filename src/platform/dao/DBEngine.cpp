@@ -91,12 +91,16 @@ void protege(Poignee& base) {
 }
 
 // Reads the first page and the schema: SQLite then undoes what a killed program left half written, and refuses a file
-// that is shorter than its first page says.
+// that lacks whole pages.
 void verifieLeContenu(Poignee& base) {
     base.entier("SELECT count(*) FROM sqlite_schema");
     const long long identifiant = base.entier("PRAGMA application_id");
     if (identifiant != 0 && identifiant != kIdentifiantApplication)
         jette(kErreurFormat, "La base appartient à un autre programme.");
+    std::error_code erreur;
+    const auto taille = std::filesystem::file_size(sqlite3_db_filename(base.brute(), "main"), erreur);
+    if (erreur || static_cast<long long>(taille) % base.entier("PRAGMA page_size") != 0)
+        jette(kErreurFormat, "La base est tronquée.");
 }
 
 // The only sure way to know that a change will be possible is to begin one: it takes the lock and makes the journal.

@@ -1,0 +1,248 @@
+#include "BaseDEssai.h"
+
+#include <sqlite3.h>
+
+namespace {
+
+using essais::BaseDEssai;
+using essais::numeroErreur;
+using Liste = std::vector<std::string>;
+
+struct JeuxTest : testing::Test {
+    JeuxTest() {
+        dao::Transaction transaction(base);
+        for (const auto titre : {"Avatar", "Brazil", "Casino", "Dune"})
+            essai.film(titre, "x");
+        transaction.confirme();
+    }
+    BaseDEssai essai;
+    dao::Database& base = essai.base;
+};
+
+// Another program at work on the same file.
+void parUnAutreProgramme(const std::string& chemin, const char* sql) {
+    sqlite3* autre = nullptr;
+    ASSERT_EQ(sqlite3_open(chemin.c_str(), &autre), SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(autre, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(autre);
+    sqlite3_close(autre);
+}
+
+const char* const kParTitre = "SELECT * FROM Films ORDER BY Titre ASC ;";
+
+}  // namespace
+
+TEST_F(JeuxTest, MovesLikeAKeyset) {
+    dao::Recordset jeu = base.OpenRecordset(kParTitre);
+    EXPECT_EQ(jeu.texte("Titre"), "Avatar");  // opened on its first record
+    jeu.Move(3);
+    EXPECT_EQ(jeu.texte("Titre"), "Dune");
+    jeu.Move(-2);
+    EXPECT_EQ(jeu.texte("Titre"), "Brazil");
+    jeu.Move(100);
+    EXPECT_TRUE(jeu.Eof());
+    EXPECT_EQ(numeroErreur([&] { jeu.MoveNext(); }), dao::kErreurAucunEnregistrement);
+    EXPECT_EQ(numeroErreur([&] { (void)jeu.texte("Titre"); }), dao::kErreurAucunEnregistrement);
+    jeu.Move(-1);
+    EXPECT_EQ(jeu.texte("Titre"), "Dune");
+    jeu.Move(-100);
+    EXPECT_FALSE(jeu.Eof());
+    EXPECT_EQ(numeroErreur([&] { (void)jeu.texte("Titre"); }), dao::kErreurAucunEnregistrement);
+    dao::Recordset vide = base.OpenRecordset("SELECT * FROM Films WHERE Titre = \"rien\"");
+    EXPECT_TRUE(vide.Eof());
+    EXPECT_EQ(numeroErreur([&] { vide.MoveFirst(); }), dao::kErreurAucunEnregistrement);
+}
+
+TEST_F(JeuxTest, ADeletedRowKeepsItsSlotAndItsIdIsNotGivenAgain) {
+    dao::Recordset liste = base.OpenRecordset(kParTitre);
+    dao::Recordset autre =
+        base.OpenRecordset("SELECT * FROM films WHERE titre =\"dune\" and Realisateur =\"X\" ORDER BY Titre ASC ;");
+    autre.Delete();
+    essai.film("Nouveau", "x");  // would take the last row's id
+    EXPECT_EQ(liste.RecordCount(), 4);
+    liste.Move(3);
+    EXPECT_EQ(numeroErreur([&] { (void)liste.texte("Titre"); }), dao::kErreurEnregistrementSupprime);
+    EXPECT_EQ(numeroErreur([&] { (void)liste.vue(liste.colonne("Titre")); }), dao::kErreurEnregistrementSupprime);
+    EXPECT_EQ(numeroErreur([&] { (void)liste.texte("Resume"); }), dao::kErreurEnregistrementSupprime);
+    EXPECT_EQ(numeroErreur([&] { liste.Edit(); }), dao::kErreurEnregistrementSupprime);
+    EXPECT_EQ(numeroErreur([&] { liste.Delete(); }), dao::kErreurEnregistrementSupprime);
+    EXPECT_EQ(essai.lit(kParTitre), (Liste{"Avatar", "Brazil", "Casino", "Nouveau"}));
+}
+
+TEST_F(JeuxTest, KeptValuesFollowEveryonesUpdates) {
+    dao::Recordset liste = base.OpenRecordset(kParTitre);
+    dao::Recordset films = base.OpenRecordset("Films");
+    films.Edit();
+    films.Fields("titre") = "Zodiac";
+    EXPECT_EQ(liste.texte("Titre"), "Avatar");
+    EXPECT_EQ(films.texte("Titre"), "Zodiac");  // what is being written
+    films.Update();
+    EXPECT_EQ(liste.texte("Titre"), "Zodiac");
+    EXPECT_EQ(liste.vue(liste.colonne("Titre")), "Zodiac");
+    parUnAutreProgramme(essai.chemin, "UPDATE Films SET Titre='Alien' WHERE id=1; DELETE FROM Films WHERE id=2");
+    EXPECT_EQ(films.RecordCount(), 3);
+    liste.MoveFirst();
+    EXPECT_EQ(liste.texte("Titre"), "Alien");
+    liste.MoveNext();
+    EXPECT_EQ(numeroErreur([&] { (void)liste.texte("Titre"); }), dao::kErreurEnregistrementSupprime);
+}
+
+TEST_F(JeuxTest, TheSortedColumnMayBeEditedWhileWalking) {
+    dao::Recordset liste = base.OpenRecordset("SELECT titre FROM films ORDER BY titre");
+    for (; !liste.Eof(); liste.MoveNext()) {
+        liste.Edit();
+        liste.Fields("Titre") = "z" + liste.texte("Titre");
+        liste.Update();
+    }
+    EXPECT_EQ(essai.lit(kParTitre), (Liste{"zAvatar", "zBrazil", "zCasino", "zDune"}));
+}
+
+TEST_F(JeuxTest, UpdateWritesOnlyWhatWasAssigned) {
+    dao::Recordset jeu = base.OpenRecordset(kParTitre);
+    const auto octets = dao::Valeur::octets(std::string("STO\0\xff\xd8", 6));
+    jeu.Edit();
+    jeu.Fields("Affiche") = octets;
+    jeu.Fields("Resume") = std::string_view("caf\xe9\0x", 6);  // no UTF-8, and a zero
+    jeu.Fields("Note") = 7;
+    parUnAutreProgramme(essai.chemin, "UPDATE Films SET Genre='Drame'");
+    jeu.Update();
+    EXPECT_EQ(jeu.valeur("Affiche"), octets);
+    EXPECT_EQ(jeu.texte("Resume"), std::string("caf\xe9\0x", 6));
+    EXPECT_EQ(jeu.valeur("Note"), dao::Valeur(7));
+    EXPECT_EQ(jeu.texte("Genre"), "Drame");
+    EXPECT_TRUE(jeu.valeur("Annee").estNull());
+    EXPECT_EQ(numeroErreur([&] { jeu.Update(); }), dao::kErreurEditSansEdition);
+    EXPECT_EQ(numeroErreur([&] { jeu.Fields("Note") = 1; }), dao::kErreurEditSansEdition);
+    jeu.Edit();
+    EXPECT_EQ(numeroErreur([&] { jeu.Fields("Support") = "DVD"; }), dao::kErreurChampIntrouvable);
+    jeu.Fields("Note") = dao::Valeur();
+    jeu.MoveNext();  // leaves the edition
+    EXPECT_EQ(numeroErreur([&] { jeu.Update(); }), dao::kErreurEditSansEdition);
+    EXPECT_EQ(jeu.texte("Support"), "");
+}
+
+TEST_F(JeuxTest, ARowOfAJoinIsEditedThroughItsTables) {
+    essai.possede("dune", "X");
+    const std::string joint =
+        "SELECT * FROM Films INNER JOIN Personnel ON Films.Titre = Personnel.Titre2 AND "
+        "Films.realisateur=Personnel.realisateur2";
+    dao::Recordset jeu = base.OpenRecordset(joint);
+    jeu.Edit();
+    jeu.Fields("Genre") = "SF";
+    jeu.Fields("Support") = "DVD";
+    jeu.Update();
+    EXPECT_EQ(essai.lit("SELECT * FROM Films WHERE Genre = \"sf\""), Liste{"Dune"});
+    EXPECT_EQ(essai.lit("SELECT * FROM Personnel WHERE Support = \"dvd\"", "Titre2"), Liste{"dune"});
+    jeu.Delete();  // the holding; the catalogue keeps its film
+    EXPECT_EQ(numeroErreur([&] { (void)jeu.texte("Titre"); }), dao::kErreurEnregistrementSupprime);
+    EXPECT_EQ(base.OpenRecordset("Films").RecordCount(), 4);
+    EXPECT_EQ(base.OpenRecordset("Personnel").RecordCount(), 0);
+    EXPECT_EQ(base.OpenRecordset(joint).RecordCount(), 0);
+}
+
+TEST_F(JeuxTest, AddNewJoinsTheEndAndKeepsTheCurrentRecord) {
+    dao::Recordset vivant = base.OpenRecordset("Films");
+    dao::Recordset jeu = base.OpenRecordset("SELECT * FROM Films WHERE Titre = \"Eden\" AND Realisateur = \"x\"");
+    jeu.AddNew();
+    jeu.Fields("Titre") = "Eden";
+    jeu.Fields("Realisateur") = "x";
+    jeu.Update();
+    EXPECT_EQ(jeu.RecordCount(), 1);
+    jeu.MoveFirst();
+    EXPECT_EQ(jeu.texte("Titre"), "Eden");
+    EXPECT_EQ(vivant.RecordCount(), 5);
+    EXPECT_EQ(vivant.texte("Titre"), "Avatar");
+    vivant.Move(4);
+    EXPECT_EQ(vivant.texte("Titre"), "Eden");
+    vivant.Delete();
+    EXPECT_EQ(numeroErreur([&] { (void)vivant.texte("Titre"); }), dao::kErreurEnregistrementSupprime);
+    vivant.Move(-1);
+    EXPECT_EQ(vivant.texte("Titre"), "Dune");
+}
+
+TEST_F(JeuxTest, DistinctRecordsCannotBeChanged) {
+    dao::Recordset jeu = base.OpenRecordset("SELECT DISTINCT Titre FROM Films");
+    EXPECT_EQ(numeroErreur([&] { jeu.Edit(); }), dao::kErreurNonModifiable);
+    EXPECT_EQ(numeroErreur([&] { jeu.Delete(); }), dao::kErreurNonModifiable);
+}
+
+// The index in memory must follow additions, renames, deletions, rollbacks and other programs.
+TEST_F(JeuxTest, LookUpsFollowEveryChange) {
+    const auto trouve = [&](const std::string& titre) {
+        return base
+            .OpenRecordset("SELECT * FROM films WHERE titre =\"" + titre +
+                           "\" and Realisateur =\"x\" ORDER BY Titre ASC ;")
+            .RecordCount();
+    };
+    EXPECT_EQ(trouve("dune"), 1);
+    essai.film("Eden", "X");
+    EXPECT_EQ(trouve("EDEN"), 1);
+    dao::Recordset films = base.OpenRecordset("Films");
+    films.Edit();
+    films.Fields("Titre") = "Alien";
+    films.Update();
+    EXPECT_EQ(trouve("avatar"), 0);
+    EXPECT_EQ(trouve("alien"), 1);
+    {
+        const dao::Transaction transaction(base);
+        films.Delete();
+        essai.film("Fargo", "x");
+        EXPECT_EQ(trouve("alien"), 0);
+        EXPECT_EQ(trouve("fargo"), 1);
+        EXPECT_EQ(films.RecordCount(), 5);
+    }
+    EXPECT_EQ(trouve("alien"), 1);
+    EXPECT_EQ(trouve("fargo"), 0);
+    EXPECT_EQ(films.RecordCount(), 5);
+    EXPECT_EQ(films.texte("Titre"), "Alien");
+    parUnAutreProgramme(essai.chemin, "UPDATE Films SET Titre='Gilda' WHERE id=1");
+    EXPECT_EQ(trouve("alien"), 0);
+    EXPECT_EQ(trouve("gilda"), 1);
+    dao::Transaction transaction(base);
+    for (int i = 0; i < 300; ++i)
+        essai.film("Film " + std::to_string(i), "x");  // it grows
+    for (int i = 0; i < 300; ++i)
+        ASSERT_EQ(trouve("film " + std::to_string(i)), 1);
+}
+
+TEST_F(JeuxTest, TransactionsDoNotNestAndMustBeOpen) {
+    EXPECT_EQ(numeroErreur([&] { base.CommitTrans(); }), dao::kErreurTransaction);
+    EXPECT_EQ(numeroErreur([&] { base.Rollback(); }), dao::kErreurTransaction);
+    {
+        dao::Transaction transaction(base);
+        EXPECT_EQ(numeroErreur([&] { base.BeginTrans(); }), dao::kErreurTransaction);
+        essai.film("Eden", "x");
+        transaction.confirme();
+    }
+    EXPECT_EQ(base.OpenRecordset("Films").RecordCount(), 5);
+}
+
+TEST_F(JeuxTest, ClosedObjectsSaySo) {
+    dao::Recordset jeu = base.OpenRecordset(kParTitre);
+    dao::Recordset ferme = base.OpenRecordset("Films");
+    ferme.Close();
+    ferme.Close();
+    EXPECT_EQ(numeroErreur([&] { ferme.MoveFirst(); }), dao::kErreurObjetFerme);
+    base.Close();
+    base.Close();
+    EXPECT_EQ(numeroErreur([&] { (void)jeu.texte("Titre"); }), dao::kErreurObjetFerme);
+    EXPECT_EQ(numeroErreur([&] { (void)jeu.RecordCount(); }), dao::kErreurObjetFerme);
+    EXPECT_EQ(numeroErreur([&] { (void)base.OpenRecordset("Films"); }), dao::kErreurObjetFerme);
+}
+
+TEST(Valeur, NumbersReadAndWritePlainly) {
+    for (const auto& [reel, texte] : std::vector<std::pair<double, std::string>>{
+             {7, "7"}, {7.5, "7.5"}, {-0.0, "0"}, {0.1, "0.1"}, {1e6, "1000000"}}) {
+        EXPECT_EQ(dao::Valeur(reel).texte(), texte);
+    }
+    for (const auto& [texte, reel] : std::vector<std::pair<std::string, double>>{{"7/10", 7},
+                                                                                 {" 12 px", 12},
+                                                                                 {"-3.5", -3.5},
+                                                                                 {"+2", 2},
+                                                                                 {"", 0},
+                                                                                 {"inf", 0},
+                                                                                 {"nan", 0},
+                                                                                 {"x", 0},
+                                                                                 {".5", 0.5}}) {
+        EXPECT_EQ(dao::Valeur(texte).nombre(), reel) << texte;
+    }
+}

@@ -1,0 +1,194 @@
+#include "BaseDEssai.h"
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
+
+#include <sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using essais::BaseDEssai;
+using essais::numeroErreur;
+namespace fs = std::filesystem;
+
+std::string octetsDe(const std::string& chemin) {
+    std::ifstream fichier(chemin, std::ios::binary);
+    return {std::istreambuf_iterator<char>(fichier), {}};
+}
+
+int numeroDOuverture(const std::string& chemin) {
+    return numeroErreur([&] { (void)dao::DBEngine::OpenDatabase(chemin); });
+}
+
+// What the action answers in a process without root's rights, which would write anywhere.
+int sansDroits(const std::function<int()>& action) {
+    const pid_t enfant = fork();
+    if (enfant == 0) {
+        if (geteuid() == 0 && setuid(65534) != 0) _exit(99);
+        const int numero = action();
+        _exit(numero == 0 ? 0 : numero == dao::kErreurLectureSeule ? 51 : 98);
+    }
+    int etat = 0;
+    waitpid(enfant, &etat, 0);
+    return WIFEXITED(etat) ? WEXITSTATUS(etat) : -1;
+}
+
+}  // namespace
+
+TEST(Ouverture, TellsFilesThatAreNoBaseAndLeavesThemAlone) {
+    BaseDEssai essai;
+    essai.film("Dune", "x");
+    essai.base.Close();
+    const std::string base = octetsDe(essai.chemin);
+    EXPECT_EQ(numeroDOuverture(essai.dossier.chemin("absent.mdb")), dao::kErreurFichierIntrouvable);
+    EXPECT_FALSE(essai.dossier.existe("absent.mdb"));
+    EXPECT_EQ(numeroDOuverture(essai.dossier.chemin()), dao::kErreurFormat);
+    std::string autreProgramme = base;
+    autreProgramme[70] = 'Z';  // the application id
+    std::string demiSchema = base;
+    demiSchema.replace(100, 3000, 3000, '\x7f');
+    for (const std::string& contenu :
+         {std::string(), std::string("SQLite format 3"), std::string(5000, 'x'), base.substr(0, 50),
+          base.substr(0, base.size() / 2), base.substr(0, base.size() - 1), autreProgramme, demiSchema,
+          std::string("SQLite format 3\0", 16) + std::string(4096, '\xff')}) {
+        const std::string chemin = essai.dossier.ecrit("autre.mdb", contenu);
+        EXPECT_EQ(numeroDOuverture(chemin), dao::kErreurFormat) << contenu.size();
+        EXPECT_EQ(octetsDe(chemin), contenu);
+    }
+    EXPECT_EQ(numeroDOuverture(essai.chemin), 0);
+    EXPECT_EQ(octetsDe(essai.chemin), base) << "opening changes nothing";
+}
+
+TEST(Ouverture, TellsALockedBaseFromAReadOnlyOne) {
+    BaseDEssai essai;
+    essai.base.Close();
+    sqlite3* autre = nullptr;
+    ASSERT_EQ(sqlite3_open(essai.chemin.c_str(), &autre), SQLITE_OK);
+    sqlite3_exec(autre, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
+    EXPECT_EQ(numeroDOuverture(essai.chemin), dao::kErreurFichierDejaUtilise);
+    sqlite3_exec(autre, "ROLLBACK", nullptr, nullptr, nullptr);
+    sqlite3_close(autre);
+    const std::string dossier = essai.dossier.chemin();
+    fs::permissions(dossier, fs::perms(0777));
+    fs::permissions(essai.chemin, fs::perms(0666));
+    EXPECT_EQ(sansDroits([&] { return numeroDOuverture(essai.chemin); }), 0);
+    fs::permissions(essai.chemin, fs::perms(0444));
+    EXPECT_EQ(sansDroits([&] { return numeroDOuverture(essai.chemin); }), 51);
+    fs::permissions(essai.chemin, fs::perms(0666));
+    fs::permissions(dossier, fs::perms(0555));
+    EXPECT_EQ(sansDroits([&] { return numeroDOuverture(essai.chemin); }), 51);
+}
+
+TEST(Ouverture, ALockTakenLaterStopsTheUpdateAlone) {
+    BaseDEssai essai;
+    essai.film("Dune", "x");
+    dao::Recordset films = essai.base.OpenRecordset("Films");
+    sqlite3* autre = nullptr;
+    ASSERT_EQ(sqlite3_open(essai.chemin.c_str(), &autre), SQLITE_OK);
+    sqlite3_exec(autre, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
+    films.Edit();
+    films.Fields("Genre") = "SF";
+    EXPECT_EQ(numeroErreur([&] { films.Update(); }), dao::kErreurVerrouille);
+    EXPECT_EQ(numeroErreur([&] { essai.base.BeginTrans(); }), dao::kErreurVerrouille);
+    sqlite3_exec(autre, "ROLLBACK", nullptr, nullptr, nullptr);
+    sqlite3_close(autre);
+    films.Update();  // the edition was kept
+    EXPECT_EQ(essai.lit("SELECT * FROM Films", "Genre"), std::vector<std::string>{"SF"});
+}
+
+TEST(Ouverture, AKilledProgramLeavesTheOldState) {
+    BaseDEssai essai;
+    essai.film("Dune", "x");
+    essai.base.Close();
+    const pid_t enfant = fork();
+    if (enfant == 0) {
+        dao::Database base = dao::DBEngine::OpenDatabase(essai.chemin);
+        base.Execute("PRAGMA cache_size=5");  // so that pages reach the file before the end
+        base.BeginTrans();
+        dao::Recordset films = base.OpenRecordset("Films");
+        films.Edit();
+        films.Fields("Titre") = "Alien";
+        films.Update();
+        for (int i = 0; i < 200; ++i) {
+            films.AddNew();
+            films.Fields("Titre") = "Film";
+            films.Fields("Resume") = std::string(2000, 'r');
+            films.Update();
+        }
+        raise(SIGKILL);
+    }
+    int etat = 0;
+    waitpid(enfant, &etat, 0);
+    ASSERT_TRUE(WIFSIGNALED(etat));
+    EXPECT_TRUE(essai.dossier.existe("films.mdb-journal"));
+    essai.base = dao::DBEngine::OpenDatabase(essai.chemin);
+    EXPECT_EQ(essai.lit("SELECT * FROM Films"), std::vector<std::string>{"Dune"});
+    EXPECT_FALSE(essai.dossier.existe("films.mdb-journal"));
+}
+
+TEST(Ouverture, WhatTheFileHoldsDoesNotActByItself) {
+    BaseDEssai essai;
+    essai.base.Execute(
+        "CREATE TRIGGER t AFTER UPDATE ON Films BEGIN DELETE FROM Personnel; END;"
+        "CREATE VIEW Vue AS SELECT * FROM Films");
+    essai.film("Dune", "x");
+    essai.possede("Dune", "x");
+    dao::Recordset films = essai.base.OpenRecordset("Films");
+    films.Edit();
+    films.Fields("Genre") = "SF";
+    films.Update();
+    EXPECT_EQ(essai.base.OpenRecordset("Personnel").RecordCount(), 1);
+    EXPECT_EQ(numeroErreur([&] { (void)essai.base.OpenRecordset("Vue"); }), dao::kErreurTableIntrouvable);
+}
+
+TEST(Ouverture, CreateRefusesAnExistingFile) {
+    BaseDEssai essai;
+    EXPECT_EQ(numeroErreur([&] { dao::DBEngine::CreateDatabase(essai.chemin, essais::kSchema); }),
+              dao::kErreurFichierExiste);
+    const std::string autre = essai.dossier.chemin("autre.mdb");
+    EXPECT_NE(numeroErreur([&] { dao::DBEngine::CreateDatabase(autre, "CREATE TABLE Films ("); }), 0);
+    EXPECT_FALSE(fs::exists(autre));
+}
+
+// Posters are read when `Affiche` is asked for, and never before: not by a listing, not by a search, not to tell their kind.
+TEST(Ouverture, ListingsReadNoPoster) {
+    BaseDEssai essai;
+    constexpr int kFilms = 100;
+    constexpr std::size_t kTailleAffiche = 200000;
+    {
+        dao::Transaction transaction(essai.base);
+        for (int i = 0; i < kFilms; ++i) {
+            essai.ajoute("Films", {{"Titre", "Film " + std::to_string(i)},
+                                   {"Realisateur", "x"},
+                                   {"Acteurs", "Bleu"},
+                                   {"Affiche", dao::Valeur::octets("STO" + std::string(kTailleAffiche, '\xff'))}});
+            essai.possede("Film " + std::to_string(i), "x");
+        }
+        transaction.confirme();
+    }
+    essai.base = {};
+    essai.base = dao::DBEngine::OpenDatabase(essai.chemin);
+    const auto octetsLus = [] {
+        std::ifstream io("/proc/self/io");
+        std::string nom;
+        long long nombre = 0;
+        io >> nom >> nombre;  // rchar
+        return nombre;
+    };
+    for (const std::string enonce :
+         {"SELECT * FROM Films ORDER BY Titre ASC",
+          "SELECT * FROM Films WHERE INSTR(Titre, \"Film\")+INSTR(Acteurs, \"bleu\")>0 ORDER BY Titre ASC",
+          "SELECT * FROM Films INNER JOIN Personnel ON Films.Titre = Personnel.Titre2 AND "
+          "Films.realisateur=Personnel.realisateur2 ORDER BY Genre ASC, Titre2 ASC",
+          "SELECT titre FROM films where Affiche like 'STO*' order by titre"}) {
+        const long long avant = octetsLus();
+        EXPECT_EQ(essai.lit(enonce).size(), static_cast<std::size_t>(kFilms));
+        EXPECT_LT(octetsLus() - avant, 2'000'000) << enonce;  // the posters are 20 MB
+    }
+    EXPECT_EQ(essai.base.OpenRecordset("Films").texte("Affiche").size(), kTailleAffiche + 3);
+}

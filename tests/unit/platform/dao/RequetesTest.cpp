@@ -1,0 +1,303 @@
+#include "BaseDEssai.h"
+#include "platform/dao/CleJet.h"
+
+#include <algorithm>
+#include <functional>
+#include <optional>
+
+// Every statement of the program, over rows made to trip it up, against a plain filter and sort in memory.
+namespace {
+
+using essais::BaseDEssai;
+using Texte = std::optional<std::string>;
+
+struct Film {
+    Texte titre, realisateur, annee, genre, acteurs, affiche;
+    std::optional<int> note;
+};
+struct Possession {
+    Texte titre2, realisateur2, pret, support;
+};
+
+const std::vector<Film> kFilms{
+    {"Note", "Titre", "1999", "drame", "Bleu nuit", "JPGnote.jpg", 10},
+    {"a\"b", "x\"\"y", "2001", "Drame", "Jean \"Bleu\"", "STO\xff\xd8", 9},
+    {"ORDER BY", "Realisateur = \"x\"", "199", "", "", "", {}},
+    {"", "", "", {}, {}, {}, 2},
+    {{}, {}, {}, "Été", "le BLEU", "STOjpg", {}},
+    {"l'Été", "D'Été", "1999", "Éte", "bleuet", {}, 1},
+    {"L'ete", "d'ete", "1999", "ete", {}, "jpgminuscule", 1},
+    {"lEté", "dEté", "1999", "Comédie", "x", {}, 100},
+    {"L'Œuvre au noir", "Delvaux", "1988", "comedie", "Bleu", {}, 3},
+    {"l'oeuvre AU noir ", "delvaux", "1988", "Comédie", "bleu", {}, 4},
+    {"Solaris", "Soderbergh", "2002", "SF", "Clooney, Bleu", {}, 5},
+    {"Solaris", "Tarkovski", "1972", "SF", "🎬 Bleu", {}, 5},
+};
+const std::vector<Possession> kPossessions{
+    {"NOTE", "titre", "", "DVD"},
+    {"A\"B", "x\"\"y", "Paul", "K7"},
+    {"", "", {}, "DVD"},
+    {{}, {}, "Paul", "DVD"},
+    {"L'ÉTÉ", "d'été", "", {}},
+    {"Orphelin", "x", "", "DVD"},
+    {"solaris", "TARKOVSKI", "", "dvd"},
+    {"L'ŒUVRE au noir", "Delvaux", " ", "DVD"},
+    {"order by", "Realisateur = \"X\"", "Zoé", "DivX"},
+};
+
+dao::Valeur valeur(const Texte& texte) {
+    return texte ? dao::Valeur(*texte) : dao::Valeur();
+}
+
+struct BaseDesRequetes : BaseDEssai {
+    BaseDesRequetes() {
+        dao::Transaction transaction(base);
+        for (const Film& f : kFilms) {
+            const bool octets = f.affiche && f.affiche->starts_with("STO");
+            ajoute("Films", {{"Titre", valeur(f.titre)},
+                             {"Realisateur", valeur(f.realisateur)},
+                             {"Annee", valeur(f.annee)},
+                             {"Genre", valeur(f.genre)},
+                             {"Acteurs", valeur(f.acteurs)},
+                             {"DateAjout", "21/11/2026"},
+                             {"Affiche", octets ? dao::Valeur::octets(*f.affiche) : valeur(f.affiche)},
+                             {"Note", f.note ? dao::Valeur(*f.note) : dao::Valeur()}});
+        }
+        for (const Possession& p : kPossessions) {
+            ajoute("Personnel", {{"Titre2", valeur(p.titre2)},
+                                 {"Realisateur2", valeur(p.realisateur2)},
+                                 {"Pret", valeur(p.pret)},
+                                 {"Reserve", valeur(p.pret)},
+                                 {"Support", valeur(p.support)}});
+        }
+        transaction.confirme();
+    }
+};
+
+// Null first, then Jet's order.
+std::string cle(const Texte& texte) {
+    return texte ? dao::interne::cleJet(*texte) : "";
+}
+bool egaux(const Texte& a, const Texte& b) {
+    return a && b && cle(a) == cle(b);
+}
+
+struct Ligne {
+    std::size_t film;
+    std::optional<std::size_t> possession;
+};
+using Cle = std::function<std::string(const Ligne&)>;
+using Filtre = std::function<bool(const Ligne&)>;
+
+enum class Source { Films, Possedes, FilmsAvecOuSans };
+
+std::vector<Ligne> attendues(Source source, const Filtre& filtre, const Cle& cleDeTri) {
+    std::vector<Ligne> lignes;
+    for (std::size_t f = 0; f < kFilms.size(); ++f) {
+        bool possede = false;
+        for (std::size_t p = 0; source != Source::Films && p < kPossessions.size(); ++p) {
+            if (!egaux(kFilms[f].titre, kPossessions[p].titre2) ||
+                !egaux(kFilms[f].realisateur, kPossessions[p].realisateur2))
+                continue;
+            possede = true;
+            lignes.push_back({f, p});
+        }
+        if (source == Source::Films || (source == Source::FilmsAvecOuSans && !possede)) lignes.push_back({f, {}});
+    }
+    std::erase_if(lignes, [&](const Ligne& ligne) { return filtre && !filtre(ligne); });
+    std::stable_sort(lignes.begin(), lignes.end(),
+                     [&](const Ligne& a, const Ligne& b) { return cleDeTri(a) < cleDeTri(b); });
+    return lignes;
+}
+
+const Film& film(const Ligne& ligne) {
+    return kFilms[ligne.film];
+}
+const Possession& possession(const Ligne& ligne) {
+    return kPossessions[*ligne.possession];
+}
+std::string parTitre(const Ligne& l) {
+    return cle(film(l).titre);
+}
+std::string parGenre(const Ligne& l) {
+    return cle(film(l).genre) + '\0' + cle(film(l).titre);
+}
+std::string parNote(const Ligne& l) {
+    return std::string(1, static_cast<char>(film(l).note.value_or(0)));
+}
+std::string parNotePuisTitre(const Ligne& l) {
+    return parNote(l) + parTitre(l);
+}
+std::string parSupport(const Ligne& l) {
+    return cle(possession(l).support) + '\0' + parTitre(l);
+}
+
+const std::string kJoint =
+    "FROM Films INNER JOIN Personnel ON Films.Titre = Personnel.Titre2 AND Films.realisateur=Personnel.realisateur2";
+const std::string kJointEntreParentheses =
+    "FROM Films INNER JOIN Personnel ON (Films.Titre = Personnel.Titre2 AND Films.realisateur=Personnel.realisateur2)";
+const std::string kSans =
+    "FROM Films LEFT JOIN Personnel ON (Films.Realisateur = Personnel.Realisateur2) AND (Films.Titre = "
+    "Personnel.Titre2)"
+    " WHERE ((Personnel.Titre2) Is Null)";
+
+bool contient(const Texte& texte, std::string_view cherche) {
+    std::string plis;
+    for (const char c : *texte)
+        plis += c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+    return plis.find(cherche) != std::string::npos;
+}
+
+}  // namespace
+
+TEST(Requetes, ListingsHaveTheRowsOfAPlainFilterInJetsOrder) {
+    BaseDesRequetes essai;
+    const Filtre bleu = [](const Ligne& l) {
+        return film(l).titre && film(l).acteurs &&
+               (contient(film(l).titre, "bleu") || contient(film(l).acteurs, "bleu"));
+    };
+    const auto pret = [](const Ligne& l) { return possession(l).pret; };
+    struct Cas {
+        std::string enonce;
+        Source source;
+        Filtre filtre;
+        Cle tri;
+    };
+    const std::vector<Cas> cas{
+        {"SELECT * " + kJoint + " ORDER BY Titre ASC, Titre2 ASC", Source::Possedes, {}, parTitre},
+        {"SELECT * " + kJoint + " ORDER BY Genre ASC, Titre2 ASC", Source::Possedes, {}, parGenre},
+        {"SELECT * " + kJoint + " ORDER BY Support ASC, Titre2 ASC", Source::Possedes, {}, parSupport},
+        {"SELECT * " + kJoint + " ORDER BY Note ASC, Titre2 ASC", Source::Possedes, {}, parNotePuisTitre},
+        {"SELECT * FROM Films INNER JOIN Personnel ON Films.Titre = Personnel.Titre2 and "
+         "Films.realisateur=Personnel.realisateur2 "
+         "ORDER BY genre asc, titre asc ;",
+         Source::Possedes,
+         {},
+         parGenre},
+        {"SELECT * " + kJointEntreParentheses + " WHERE Pret=\"\" ORDER BY Titre ASC, Titre2 ASC", Source::Possedes,
+         [&](const Ligne& l) { return pret(l) && cle(*pret(l)) == cle(""); }, parTitre},
+        {"SELECT * " + kJointEntreParentheses + " WHERE Pret<>\"\" ORDER BY Titre ASC, Titre2 ASC", Source::Possedes,
+         [&](const Ligne& l) { return pret(l) && cle(*pret(l)) != cle(""); }, parTitre},
+        {"SELECT * " + kJointEntreParentheses +
+             " WHERE Reserve<>\"\" AND INSTR(Titre, \"bleu\")+INSTR(Acteurs, \"bleu\")>0 ORDER BY Titre ASC",
+         Source::Possedes, [&](const Ligne& l) { return pret(l) && cle(*pret(l)) != cle("") && bleu(l); }, parTitre},
+        {"SELECT * FROM Films ORDER BY Titre ASC", Source::Films, {}, parTitre},
+        {"SELECT * FROM films ORDER BY Titre ASC ;", Source::Films, {}, parTitre},
+        {"SELECT * FROM Films ORDER BY Note ASC", Source::Films, {}, parNote},
+        {"SELECT titre FROM films ORDER BY titre", Source::Films, {}, parTitre},
+        {"SELECT * FROM Films WHERE INSTR(Titre, \"Bleu\")+INSTR(Acteurs, \"Bleu\")>0 ORDER BY Titre ASC",
+         Source::Films, bleu, parTitre},
+        {"SELECT * FROM Films WHERE INSTR(Acteurs, \"\"\"bleu\"\"\")>0 ORDER BY Titre ASC", Source::Films,
+         [](const Ligne& l) { return film(l).titre == "a\"b"; }, parTitre},
+        {"SELECT * FROM Films WHERE INSTR(Annee, \"199\")>0 ORDER BY Titre ASC", Source::Films,
+         [](const Ligne& l) { return film(l).annee && film(l).annee->starts_with("199"); }, parTitre},
+        {"SELECT DISTINCTROW * " + kSans + " ORDER BY Note ASC, Titre2 ASC", Source::FilmsAvecOuSans,
+         [](const Ligne& l) { return !l.possession; }, parNote},
+        {"SELECT DISTINCTROW * " + kSans +
+             " AND INSTR(Titre, \"bleu\")+INSTR(Acteurs, \"bleu\")>0 ORDER BY Titre ASC, Titre2 ASC",
+         Source::FilmsAvecOuSans, [&](const Ligne& l) { return !l.possession && bleu(l); }, parTitre},
+        {"SELECT titre FROM films where Affiche like 'JPG*' order by titre", Source::Films,
+         [](const Ligne& l) {
+             return film(l).affiche && contient(film(l).affiche, "jpg") && !contient(film(l).affiche, "sto");
+         },
+         parTitre},
+        {"SELECT titre FROM films where Affiche like 'STO*' order by titre", Source::Films,
+         [](const Ligne& l) { return film(l).affiche && film(l).affiche->starts_with("STO"); }, parTitre},
+    };
+    for (const Cas& c : cas) {
+        const auto lignes = attendues(c.source, c.filtre, c.tri);
+        EXPECT_FALSE(lignes.empty()) << c.enonce;
+        dao::Recordset jeu = essai.base.OpenRecordset(c.enonce);
+        ASSERT_EQ(jeu.RecordCount(), static_cast<long>(lignes.size())) << c.enonce;
+        for (const Ligne& ligne : lignes) {
+            EXPECT_EQ(jeu.valeur("TITRE"), valeur(film(ligne).titre)) << c.enonce;
+            if (c.enonce.find('*') == std::string::npos || c.enonce.find("like") != std::string::npos) {
+                EXPECT_EQ(jeu.valeur("Realisateur"), dao::Valeur("")) << "not listed";
+            } else {
+                EXPECT_EQ(jeu.valeur("realisateur"), valeur(film(ligne).realisateur)) << c.enonce;
+                EXPECT_EQ(jeu.valeur("Acteurs"), valeur(film(ligne).acteurs)) << c.enonce;
+            }
+            const dao::Valeur support =
+                c.source == Source::Possedes ? valeur(possession(ligne).support) : jeu.valeur("Support");
+            EXPECT_EQ(jeu.valeur("support"), support) << c.enonce;
+            jeu.MoveNext();
+        }
+        EXPECT_TRUE(jeu.Eof());
+    }
+}
+
+TEST(Requetes, AFilmIsFoundByTitleAndDirectorInEveryWriting) {
+    BaseDesRequetes essai;
+    const auto guillemets = [](const std::string& texte) {
+        std::string doubles = "\"";
+        for (const char c : texte)
+            doubles.append(c == '"' ? 2 : 1, c);
+        return doubles + '"';
+    };
+    for (const Film& f : kFilms) {
+        if (!f.titre) continue;
+        const std::string t = guillemets(*f.titre);
+        const std::string r = guillemets(*f.realisateur);
+        std::vector<std::string> films;
+        std::vector<std::string> possessions;
+        for (const Film& autre : kFilms) {
+            if (egaux(autre.titre, f.titre) && egaux(autre.realisateur, f.realisateur)) films.push_back(*autre.titre);
+        }
+        for (const Possession& p : kPossessions) {
+            if (egaux(p.titre2, f.titre) && egaux(p.realisateur2, f.realisateur)) possessions.push_back(*p.titre2);
+        }
+        for (const std::string& enonce :
+             {"SELECT * FROM films WHERE titre =" + t + " and Realisateur =" + r + " ORDER BY Titre ASC ;",
+              "SELECT * FROM films WHERE titre =" + t + " AND Realisateur =  " + r + "ORDER BY Titre ASC ;",
+              "SELECT * From Films WHERE Realisateur = " + r + " AND Titre = " + t + " ;",
+              "SELECT * FROM Films WHERE Titre = " + t + " AND Realisateur = " + r +
+                  " AND DateAjout = \"21/11/2026\""}) {
+            EXPECT_EQ(essai.lit(enonce), films) << enonce;
+        }
+        const std::string enonce =
+            "SELECT * FROM personnel WHERE titre2 =" + t + " and Realisateur2 =  " + r + "ORDER BY Titre2 ASC ;";
+        EXPECT_EQ(essai.lit(enonce, "Titre2"), possessions) << enonce;
+    }
+    EXPECT_EQ(essai.lit("SELECT * FROM Films WHERE DateAjout = \"21/11/2026\"").size(), kFilms.size());
+}
+
+TEST(Requetes, DistinctListsKeepTheFirstOfEqualValues) {
+    BaseDesRequetes essai;
+    using Liste = std::vector<std::string>;
+    EXPECT_EQ(essai.lit("SELECT DISTINCT genre FROM films where genre<>\"\" ORDER BY Genre ASC ;", "Genre"),
+              (Liste{"comedie", "Comédie", "drame", "ete", "Éte", "Été", "SF"}));
+    EXPECT_EQ(essai.lit("SELECT DISTINCT pret FROM personnel ORDER BY pret ASC ;", "pret"),
+              (Liste{"(Null)", "", "Paul", "Zoé"}));
+    EXPECT_EQ(essai.lit("SELECT DISTINCT support FROM personnel ORDER BY support ASC ;", "support"),
+              (Liste{"(Null)", "DivX", "DVD", "K7"}));
+    EXPECT_EQ(essai.lit("SELECT DISTINCT origine  FROM films where origine<>\"\" ORDER BY origine ASC ;", "origine"),
+              Liste{});
+}
+
+TEST(Requetes, StatementsWithoutOrderComeInRowOrder) {
+    BaseDesRequetes essai;
+    std::vector<std::string> titres;
+    for (const Possession& p : kPossessions)
+        titres.push_back(p.titre2.value_or("(Null)"));
+    EXPECT_EQ(essai.lit("SELECT * From Personnel ", "Titre2"), titres);
+    EXPECT_EQ(essai.lit("SELECT * FROM Personnel order by titre2;", "Titre2").size(), titres.size());
+}
+
+TEST(Requetes, ErrorsSayWhatIsWrong) {
+    BaseDesRequetes essai;
+    const auto numero = [&](std::string_view enonce) {
+        return essais::numeroErreur([&] { (void)essai.base.OpenRecordset(enonce); });
+    };
+    EXPECT_EQ(numero("Filmes"), dao::kErreurTableIntrouvable);
+    EXPECT_EQ(numero("SELECT * FROM Filmes"), dao::kErreurTableIntrouvable);
+    EXPECT_EQ(numero("SELECT * FROM Films ORDER BY Titr"), dao::kErreurParametre);
+    EXPECT_EQ(numero("SELECT * FROM Films WHERE Personnel.Titre2 = \"x\""), dao::kErreurParametre);
+    for (const auto enonce :
+         {"DELETE FROM Films", "SELECT * FROM Films WHERE", "SELECT * FROM Films WHERE Titre = \"x",
+          "SELECT * FROM Films WHERE (Titre = 1", "SELECT * FROM Films; DROP TABLE Films",
+          "SELECT * FROM Films ORDER Titre", "SELECT * FROM Films INNER JOIN Personnel ON Titre < Titre2",
+          "SELECT * FROM Films WHERE Titre % 2", "SELECT DISTINCT Titre FROM Films ORDER BY Genre"}) {
+        EXPECT_EQ(numero(enonce), dao::kErreurSyntaxe) << enonce;
+    }
+    EXPECT_EQ(numero("SELECT * FROM Films WHERE " + std::string(100000, '(')), dao::kErreurSyntaxe);
+}
