@@ -1,0 +1,54 @@
+#include "ui/BandeTravail.h"
+
+#include "ui/Composition.h"
+#include "ui/EcranQt.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QProgressBar>
+
+namespace ui {
+
+BandeTravail::BandeTravail(const Atelier& atelier, QWidget* parent)
+    : QWidget(parent),
+      m_texte(new Etiquette),
+      m_progression(new QProgressBar),
+      m_annuler(bouton("cmdAnnuler", tr("Annuler"))) {
+    m_annuler->setToolTip(tr("Arrêter après l'élément en cours ; ce qui est fait reste fait"));
+    m_progression->setAccessibleName(tr("Avancement"));
+    m_progression->setTextVisible(false);
+    m_progression->setFixedSize(220, 8);
+    auto* ligne = rangee({m_texte}, kMoyen);
+    ligne->setContentsMargins(kGrand, kPetit, kGrand, kPetit);
+    ligne->setStretch(0, 1);
+    ligne->addWidget(m_progression);
+    ligne->addWidget(m_annuler);
+    auto* boite = colonne(0);
+    boite->addWidget(filetHorizontal());
+    boite->addLayout(ligne);
+    setLayout(boite);
+    hide();
+
+    EcranQt* ecran = &atelier.ecran;
+    ecran->laissePasser(m_annuler);
+    connect(m_annuler, &QPushButton::clicked, ecran, &EcranQt::demandeArret);
+    connect(ecran, &EcranQt::travailCommence, this, [this] {
+        m_annuler->setEnabled(true);
+        show();
+        m_annuler->setFocus();
+    });
+    connect(ecran, &EcranQt::travailFini, this, &QWidget::hide);
+    connect(m_annuler, &QPushButton::clicked, m_annuler, [this] { m_annuler->setEnabled(false); });
+    atelier.liaison.apresEcriture([this, etats = &atelier.etats()] { suis(*etats); });
+}
+
+void BandeTravail::suis(const app::Etats& etats) {
+    if (!isVisible()) return;
+    const bool ajout = etats.ajout.ProgressBar1.Visible;
+    const ecran::Progression& progression = ajout ? etats.ajout.ProgressBar1 : etats.fonctions.ProgressBar2;
+    m_texte->setText(ajout ? QString::fromStdString(etats.ajout.lblProgression.Caption) : QString());
+    m_progression->setRange(0, static_cast<int>(progression.Max));
+    m_progression->setValue(static_cast<int>(progression.Value));
+}
+
+}  // namespace ui

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ui/Atelier.h"
+
+#include <QWidget>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
+namespace ui {
+
+// The strip at the bottom while long work runs: what is being done, how far it is, and "Annuler".
+class BandeTravail final : public QWidget {
+    Q_OBJECT
+  public:
+    explicit BandeTravail(const Atelier& atelier, QWidget* parent = nullptr);
+
+    [[nodiscard]] QPushButton* annuler() const { return m_annuler; }
+
+  private:
+    void suis(const app::Etats& etats);
+
+    QLabel* m_texte;
+    QProgressBar* m_progression;
+    QPushButton* m_annuler;
+};
+
+}  // namespace ui

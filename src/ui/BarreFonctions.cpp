@@ -1,0 +1,56 @@
+#include "ui/BarreFonctions.h"
+
+#include "ui/Boutons.h"
+#include "ui/Composition.h"
+#include "ui/Icones.h"
+
+namespace ui {
+
+namespace {
+
+QPushButton* fonction(const char* nom, const QString& texte, Pictogramme pictogramme, const QString& infobulle) {
+    auto* resultat = bouton(nom, texte, infobulle);
+    resultat->setFlat(true);
+    resultat->setIcon(icone(pictogramme));
+    resultat->setIconSize({18, 18});
+    return resultat;
+}
+
+}  // namespace
+
+BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
+    auto* nom1 = nomme((new Etiquette(tr("Ambr")))->avecPolice(1.7, QFont::DemiBold), "lblNom1");
+    auto* nom2 = nomme((new Etiquette(tr("elis")))->avecPolice(1.7, QFont::DemiBold)->avecTon(Ton::Accent), "lblNom2");
+    auto* version = nomme((new Etiquette)->avecPolice(0.85)->avecTon(Ton::Discret), "Label13");
+    atelier.liaison.lie(atelier.etats().fonctions.Label13, version);
+
+    auto* recherche =
+        fonction("cmdFonctionRecherche", tr("&Rechercher"), Pictogramme::Loupe, tr("Chercher des films dans la base"));
+    auto* ajout =
+        fonction("cmdAfficherFonctions", tr("&Ajouter"), Pictogramme::Plus, tr("Ajouter des films à la base"));
+    auto* outils = fonction("cmdConfigurer", tr("&Outils"), Pictogramme::Reglages,
+                            tr("Entretenir la base et régler le programme"));
+    auto* site = fonction("Image3", tr("MovieCovers"), Pictogramme::Lien, tr("Ouvrir le site de MovieCovers"));
+    auto* aide = fonction("cmdAide", tr("À &propos"), Pictogramme::Aide, tr("À propos d'Ambrelis"));
+    auto* sortie = fonction("cmdStop", tr("&Quitter"), Pictogramme::Sortie, tr("Enregistrer les réglages et quitter"));
+    atelier.auClic(recherche, &app::Session::cmdFonctionRecherche_Click);
+    atelier.auClic(ajout, &app::Session::cmdAfficherFonctions_Click);
+    atelier.auClic(outils, &app::Session::cmdConfigurer_Click);
+    atelier.auClic(site, &app::Session::Image3_Click);
+    atelier.auClic(aide, &app::Session::cmdAide_Click);
+    atelier.auClic(sortie, &app::Session::cmdStop_Click);
+
+    auto* boite = rangee({nom1, nom2}, 0);
+    boite->setContentsMargins(kGrand, kPetit, kPetit, kPetit);
+    boite->addSpacing(kPetit);
+    boite->addWidget(version, 0, Qt::AlignBottom);
+    boite->addSpacing(kLarge);
+    for (QPushButton* gauche : {recherche, ajout, outils})
+        boite->addWidget(gauche);
+    boite->addStretch();
+    for (QPushButton* droite : {site, aide, sortie})
+        boite->addWidget(droite);
+    setLayout(boite);
+}
+
+}  // namespace ui

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
+
+namespace ui {
+
+// The one button of a panel that does what the panel is for: filled with the accent colour.
+class BoutonAccent final : public QPushButton {
+    Q_OBJECT
+  public:
+    using QPushButton::QPushButton;
+
+  protected:
+    void paintEvent(QPaintEvent* evenement) override;
+};
+
+// A page of several: the one whose font is bold is showing, and underlined in the accent colour.
+class BoutonOnglet final : public QPushButton {
+    Q_OBJECT
+  public:
+    using QPushButton::QPushButton;
+    QSize sizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* evenement) override;
+};
+
+// Text that acts: underlined under the mouse or with the focus, elided where it does not fit.
+class BoutonLien final : public QAbstractButton {
+    Q_OBJECT
+  public:
+    explicit BoutonLien(const QString& texte = {}, QWidget* parent = nullptr);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* evenement) override;
+    bool event(QEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
+};
+
+// A check box whose text wraps.
+class CaseRepliee final : public QCheckBox {
+    Q_OBJECT
+  public:
+    using QCheckBox::QCheckBox;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int largeur) const override;
+
+  protected:
+    void paintEvent(QPaintEvent* evenement) override;
+    bool hitButton(const QPoint& endroit) const override { return rect().contains(endroit); }
+
+  private:
+    [[nodiscard]] int retrait() const;
+};
+
+// A drop-down list that tells when it opens, before its entries are shown, and leaves the wheel to what scrolls.
+class ListeDeroulante final : public QComboBox {
+    Q_OBJECT
+  public:
+    using QComboBox::QComboBox;
+    void showPopup() override;
+
+  signals:
+    void vaSOuvrir();
+
+  protected:
+    void wheelEvent(QWheelEvent* evenement) override;
+};
+
+}  // namespace ui

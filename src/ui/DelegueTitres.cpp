@@ -1,0 +1,79 @@
+#include "ui/DelegueTitres.h"
+
+#include "ui/Couleurs.h"
+#include "ui/ModeleArbre.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+namespace ui {
+
+namespace {
+
+constexpr int kAir = 4;             // above and below the text
+constexpr int kMargeDuNombre = 10;  // right of a heading's number
+
+int largeurDuNombre(const QStyleOptionViewItem& option, const QModelIndex& index) {
+    const QString nombre = QString::number(index.data(ModeleArbre::NombreDEnfants).toInt());
+    return QFontMetrics(option.font).horizontalAdvance(nombre) + 2 * kMargeDuNombre;
+}
+
+}  // namespace
+
+void DelegueTitres::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->text = option->text.trimmed();
+    option->state &= ~QStyle::State_HasFocus;
+    if (!index.data(ModeleArbre::EstGroupe).toBool()) return;
+    option->font.setWeight(QFont::DemiBold);
+    option->fontMetrics = QFontMetrics(option->font);
+}
+
+void DelegueTitres::paint(QPainter* peintre, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    QStyleOptionViewItem ligne = option;
+    initStyleOption(&ligne, index);
+    const QStyle* style = ligne.widget ? ligne.widget->style() : QApplication::style();
+    const bool groupe = index.data(ModeleArbre::EstGroupe).toBool();
+    const int place = groupe ? largeurDuNombre(option, index) : 0;
+    const QString texte = ligne.text;
+    const QRect entier = ligne.rect;
+    if (groupe) ligne.text.clear();
+    style->drawControl(QStyle::CE_ItemViewItem, &ligne, peintre, ligne.widget);
+    if (!groupe) return;
+
+    ligne.text = texte;
+    const bool choisie = ligne.state.testFlag(QStyle::State_Selected);
+    const QRect zone =
+        style->subElementRect(QStyle::SE_ItemViewItemText, &ligne, ligne.widget).adjusted(4, 0, -place, 0);
+    peintre->save();
+    peintre->setFont(ligne.font);
+    peintre->setPen(ligne.palette.color(choisie ? QPalette::HighlightedText : QPalette::Text));
+    peintre->drawText(zone, Qt::AlignVCenter | Qt::AlignLeft,
+                      ligne.fontMetrics.elidedText(texte, Qt::ElideRight, zone.width()));
+    peintre->setFont(option.font);
+    if (!choisie) peintre->setPen(texteDiscret(ligne.palette));
+    peintre->drawText(entier.adjusted(0, 0, -kMargeDuNombre, 0), Qt::AlignVCenter | Qt::AlignRight,
+                      QString::number(index.data(ModeleArbre::NombreDEnfants).toInt()));
+    peintre->restore();
+}
+
+QSize DelegueTitres::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
+    return {option.fontMetrics.averageCharWidth() * 20, option.fontMetrics.height() + 2 * kAir};
+}
+
+bool DelegueTitres::helpEvent(QHelpEvent* evenement, QAbstractItemView* vue, const QStyleOptionViewItem& option,
+                              const QModelIndex& index) {
+    if (evenement->type() != QEvent::ToolTip || !index.isValid())
+        return QStyledItemDelegate::helpEvent(evenement, vue, option, index);
+    QStyleOptionViewItem ligne = option;
+    initStyleOption(&ligne, index);
+    const int place = index.data(ModeleArbre::EstGroupe).toBool() ? largeurDuNombre(option, index) : 0;
+    const bool coupe = ligne.fontMetrics.horizontalAdvance(ligne.text) + 12 > option.rect.width() - place;
+    QToolTip::showText(evenement->globalPos(), coupe ? ligne.text.toHtmlEscaped() : QString(), vue);
+    return true;
+}
+
+}  // namespace ui

@@ -1,0 +1,124 @@
+#include "ui/DialoguesQt.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QScrollArea>
+
+namespace ui {
+
+namespace {
+
+constexpr int kLongTexte = 900;  // characters beyond which a message scrolls
+
+QString qt(const std::string& texte) {
+    return QString::fromStdString(texte);
+}
+
+QMessageBox::Icon icone(int style) {
+    switch (style) {
+        case dialogues::kCritique:
+            return QMessageBox::Critical;
+        case dialogues::kQuestion:
+            return QMessageBox::Question;
+        case dialogues::kExclamation:
+            return QMessageBox::Warning;
+        case dialogues::kInformation:
+            return QMessageBox::Information;
+        default:
+            return QMessageBox::NoIcon;
+    }
+}
+
+// A report may list hundreds of titles: its text scrolls, so that the buttons stay on the screen.
+void faitDefiler(QMessageBox& boite) {
+    auto* texte = boite.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    auto* grille = qobject_cast<QGridLayout*>(boite.layout());
+    if (!texte || !grille) return;
+    auto* zone = new QScrollArea(&boite);
+    delete grille->replaceWidget(texte, zone);
+    texte->setWordWrap(true);
+    zone->setWidget(texte);
+    zone->setWidgetResizable(true);
+    zone->setFrameShape(QFrame::NoFrame);
+    zone->setMinimumSize(520, 340);
+}
+
+std::string choisit(QFileDialog& boite, const std::string& dossier) {
+    boite.setOption(QFileDialog::DontUseNativeDialog);  // a desktop's own would speak the desktop's language
+    const QString ouverture = qt(dossier);
+    boite.setDirectory(QDir(ouverture).exists() && !ouverture.isEmpty() ? ouverture : QDir::homePath());
+    if (boite.exec() != QDialog::Accepted || boite.selectedFiles().isEmpty()) return {};
+    return boite.selectedFiles().first().toStdString();
+}
+
+}  // namespace
+
+QWidget* DialoguesQt::parent() const {
+    return m_fenetre && m_fenetre->isVisible() ? m_fenetre.data() : nullptr;
+}
+
+int DialoguesQt::MsgBox(const std::string& texte, int style, const std::string& titre) {
+    m_liaison.ecrit();
+    QMessageBox boite(icone(style), qt(titre), {}, QMessageBox::NoButton, parent());
+    boite.setTextFormat(Qt::PlainText);
+    boite.setText(qt(texte));
+    boite.setStandardButtons(style == dialogues::kQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+    if (style == dialogues::kQuestion) boite.setEscapeButton(QMessageBox::No);
+    if (texte.size() > kLongTexte) faitDefiler(boite);
+    switch (boite.exec()) {
+        case QMessageBox::Yes:
+            return dialogues::kOui;
+        case QMessageBox::No:
+            return dialogues::kNon;
+        default:
+            return style == dialogues::kQuestion ? dialogues::kNon : dialogues::kOk;
+    }
+}
+
+std::string DialoguesQt::InputBox(const std::string& invite, const std::string& titre, const std::string& defaut) {
+    m_liaison.ecrit();
+    QInputDialog boite(parent());
+    boite.setWindowTitle(qt(titre));
+    boite.setLabelText(qt(invite));
+    boite.setTextValue(qt(defaut));
+    if (auto* texte = boite.findChild<QLabel*>()) {
+        texte->setTextFormat(Qt::PlainText);
+        texte->setWordWrap(true);
+    }
+    boite.resize(460, boite.sizeHint().height());
+    return boite.exec() == QDialog::Accepted ? boite.textValue().toStdString() : std::string();
+}
+
+std::string DialoguesQt::choisitFichier(const dialogues::DemandeFichier& demande) {
+    m_liaison.ecrit();
+    QFileDialog boite(parent(), qt(demande.titre));
+    boite.setNameFilter(filtreQt(demande.filtre));
+    boite.setFileMode(demande.peutCreer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    return choisit(boite, demande.dossier);
+}
+
+std::string DialoguesQt::choisitDossier(const std::string& titre, const std::string& dossierInitial) {
+    m_liaison.ecrit();
+    QFileDialog boite(parent(), qt(titre));
+    boite.setFileMode(QFileDialog::Directory);
+    boite.setOption(QFileDialog::ShowDirsOnly);
+    return choisit(boite, dossierInitial);
+}
+
+QString filtreQt(const std::string& filtre) {
+    const QStringList parties = qt(filtre).split(QLatin1Char('|'));
+    QStringList motifs;
+    for (const QString& motif : parties.value(1).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+        const QString propre = motif.trimmed();
+        motifs << (propre == QLatin1String("*.*") ? QStringLiteral("*") : propre);
+        if (propre.toUpper() != propre) motifs << propre.toUpper();
+    }
+    if (motifs.isEmpty()) motifs << QStringLiteral("*");
+    return parties.value(0) + QLatin1String(" (") + motifs.join(QLatin1Char(' ')) + QLatin1Char(')');
+}
+
+}  // namespace ui

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/dialogues/Dialogues.h"
+#include "ui/Liaison.h"
+
+#include <QPointer>
+#include <QWidget>
+
+namespace ui {
+
+// The boxes of the program as Qt's own, in French. Texts are shown plainly, never as rich text.
+class DialoguesQt final : public dialogues::Dialogues {
+  public:
+    explicit DialoguesQt(Liaison& liaison) : m_liaison(liaison) {}
+    void metParent(QWidget* fenetre) { m_fenetre = fenetre; }
+
+    int MsgBox(const std::string& texte, int style, const std::string& titre) override;
+    std::string InputBox(const std::string& invite, const std::string& titre, const std::string& defaut) override;
+    std::string choisitFichier(const dialogues::DemandeFichier& demande) override;
+    std::string choisitDossier(const std::string& titre, const std::string& dossierInitial) override;
+
+  private:
+    QWidget* parent() const;  // none as long as the window is not shown
+
+    Liaison& m_liaison;
+    QPointer<QWidget> m_fenetre;
+};
+
+// "Fichiers JPEG|*.jpg" as Qt writes it, with the endings in both cases; "*.*" means every file.
+[[nodiscard]] QString filtreQt(const std::string& filtre);
+
+}  // namespace ui

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/ecran/Ecran.h"
+#include "ui/Liaison.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+
+namespace ui {
+
+// The screen of long work: shows the state between two items and lets only "Annuler" and the closing of the window
+// through. The strip that offers "Annuler" belongs to the window, which follows travailCommence and travailFini.
+class EcranQt final : public QObject, public ecran::Ecran {
+    Q_OBJECT
+  public:
+    explicit EcranQt(Liaison& liaison) : m_liaison(liaison) {}
+
+    bool respire() override;
+    void rafraichit() override;
+    void debutTravail() override;
+    void finTravail() override;
+
+    // The user wants the work to stop. Forgotten when the work ends.
+    void demandeArret() { m_arretDemande = true; }
+    void laissePasser(QObject* widget) { m_admis = widget; }  // the one widget that takes input during work
+
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
+
+  signals:
+    void travailCommence();
+    void travailFini();
+
+  private:
+    Liaison& m_liaison;
+    QObject* m_admis = nullptr;
+    QElapsedTimer m_depuisSouffle;
+    int m_travaux = 0;  // works may lie within one another
+    bool m_arretDemande = false;
+};
+
+}  // namespace ui

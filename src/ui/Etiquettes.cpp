@@ -1,0 +1,135 @@
+#include "ui/Etiquettes.h"
+
+#include "ui/Couleurs.h"
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QTextLayout>
+#include <QToolTip>
+
+namespace ui {
+
+QFont policeRelative(double facteur, QFont::Weight graisse) {
+    QFont police = QApplication::font();
+    if (police.pointSizeF() > 0)
+        police.setPointSizeF(police.pointSizeF() * facteur);
+    else
+        police.setPixelSize(static_cast<int>(police.pixelSize() * facteur));
+    police.setWeight(graisse);
+    return police;
+}
+
+Etiquette::Etiquette(const QString& texte, QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setText(texte);
+    setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+Etiquette* Etiquette::avecTon(Ton ton) {
+    m_ton = ton;
+    return this;
+}
+
+Etiquette* Etiquette::avecLignes(int maximum) {
+    m_lignesMax = maximum;
+    QSizePolicy politique(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    politique.setHeightForWidth(maximum > 1);
+    setSizePolicy(politique);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    return this;
+}
+
+Etiquette* Etiquette::avecPolice(double facteur, QFont::Weight graisse) {
+    setFont(policeRelative(facteur, graisse));
+    return this;
+}
+
+Etiquette::Lignes Etiquette::lignes(int largeur) const {
+    Lignes resultat;
+    const QFontMetricsF mesure(font());
+    for (const QString& paragraphe : texteAffiche().split(QLatin1Char('\n'))) {
+        QTextLayout mise(paragraphe, font());
+        mise.beginLayout();
+        for (QTextLine ligne = mise.createLine(); ligne.isValid(); ligne = mise.createLine()) {
+            if (resultat.textes.size() == m_lignesMax) {
+                resultat.coupees = true;
+                break;
+            }
+            ligne.setLineWidth(m_lignesMax > 1 ? largeur : 1e6);
+            resultat.textes << paragraphe.mid(ligne.textStart(), ligne.textLength()).trimmed();
+            const bool derniere = resultat.textes.size() == m_lignesMax;
+            if (!derniere && mesure.horizontalAdvance(resultat.textes.last()) <= largeur) continue;
+            const QString reste = derniere ? paragraphe.mid(ligne.textStart()) : resultat.textes.last();
+            const QString coupe = mesure.elidedText(reste, Qt::ElideRight, largeur + 1);
+            resultat.coupees |= coupe != reste;
+            resultat.textes.last() = coupe;
+            if (derniere) break;
+        }
+        mise.endLayout();
+    }
+    return resultat;
+}
+
+int Etiquette::hauteur(qsizetype nombre) const {
+    const QMargins marges = contentsMargins();
+    return static_cast<int>(std::max<qsizetype>(nombre, 1)) * fontMetrics().lineSpacing() + marges.top() +
+           marges.bottom();
+}
+
+QSize Etiquette::sizeHint() const {
+    int largeur = 0;
+    const QStringList paragraphes = texteAffiche().split(QLatin1Char('\n'));
+    for (const QString& paragraphe : paragraphes)
+        largeur = std::max(largeur, fontMetrics().horizontalAdvance(paragraphe) + 1);
+    if (m_lignesMax > 1) largeur = std::min(largeur, fontMetrics().averageCharWidth() * 60);
+    return {largeur, hauteur(m_lignesMax > 1 ? lignes(std::max(largeur, 1)).textes.size() : 1)};
+}
+
+QSize Etiquette::minimumSizeHint() const {
+    return {std::min(sizeHint().width(), fontMetrics().averageCharWidth() * 8), hauteur(1)};
+}
+
+int Etiquette::heightForWidth(int largeur) const {
+    return hauteur(lignes(largeur).textes.size());
+}
+
+void Etiquette::peintLegende(QPainter& peintre) const {
+    peintre.drawText(contentsRect(), static_cast<int>(alignment()) | Qt::TextShowMnemonic, text());
+}
+
+void Etiquette::paintEvent(QPaintEvent*) {
+    QPainter peintre(this);
+    peintre.setFont(font());
+    QColor couleur = palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText);
+    if (isEnabled() && m_ton == Ton::Discret) couleur = texteDiscret(palette());
+    if (isEnabled() && m_ton == Ton::Accent) couleur = accentLisible(palette());
+    peintre.setPen(couleur);
+    if (buddy()) return peintLegende(peintre);
+    const QRect zone = contentsRect();
+    const Lignes textes = lignes(zone.width());
+    peintre.drawText(zone, static_cast<int>(alignment()) | Qt::TextIncludeTrailingSpaces,
+                     textes.textes.join(QLatin1Char('\n')));
+}
+
+bool Etiquette::event(QEvent* evenement) {
+    if (evenement->type() != QEvent::ToolTip || !toolTip().isEmpty()) return QLabel::event(evenement);
+    const bool coupe = !buddy() && (lignes(contentsRect().width()).coupees ||
+                                    hauteur(lignes(contentsRect().width()).textes.size()) > height());
+    QToolTip::showText(static_cast<QHelpEvent*>(evenement)->globalPos(), coupe ? text().toHtmlEscaped() : QString(),
+                       this);
+    return true;
+}
+
+TitreDeSection::TitreDeSection(QWidget* parent) : Etiquette({}, parent) {
+    avecPolice(1.08, QFont::DemiBold);
+}
+
+QString TitreDeSection::texteAffiche() const {
+    QString titre = text().trimmed();
+    if (titre.startsWith(QLatin1String("- "))) titre.remove(0, 2);
+    if (titre.endsWith(QLatin1Char(':'))) titre.chop(1);
+    return titre.trimmed();
+}
+
+}  // namespace ui

@@ -1,0 +1,176 @@
+#include "ui/FenetrePrincipale.h"
+
+#include "ui/BandeTravail.h"
+#include "ui/BarreFonctions.h"
+#include "ui/Composition.h"
+#include "ui/EcranQt.h"
+#include "ui/Icones.h"
+#include "ui/PanneauAccueil.h"
+#include "ui/PanneauFiche.h"
+#include "ui/PanneauFonctions.h"
+#include "ui/PanneauListe.h"
+#include "ui/PanneauMultiSuppression.h"
+#include "ui/PanneauRecherche.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QSplitter>
+#include <QTimer>
+
+namespace ui {
+
+namespace {
+
+constexpr int kTwipsParPixel = 15;
+constexpr QSize kTailleParDefaut{1180, 760};
+constexpr QSize kTailleMinimale{900, 600};
+constexpr int kLargeurDeuxPages = 1400;
+constexpr int kLargeurListe = 320;
+
+}  // namespace
+
+// The window's size, in twips.
+class FenetrePrincipale::LienTaille final : public Lien {
+  public:
+    explicit LienTaille(FenetrePrincipale& fenetre)
+        : m_fenetre(fenetre), m_etat(fenetre.m_atelier.etats().frmPrincipal) {}
+
+    void lit() override {
+        if (!m_fenetre.isVisible()) return;
+        m_etat = {m_fenetre.width() * kTwipsParPixel, m_fenetre.height() * kTwipsParPixel};
+        m_montree = {m_etat.Width, m_etat.Height};
+    }
+    void ecrit() override {
+        const QSize voulue(m_etat.Width, m_etat.Height);
+        if (voulue == m_montree) return;
+        m_montree = voulue;
+        if (m_fenetre.isVisible()) m_fenetre.resize(m_fenetre.tailleVoulue());
+    }
+
+  private:
+    FenetrePrincipale& m_fenetre;
+    app::EtatFenetre& m_etat;
+    QSize m_montree{0, 0};
+};
+
+FenetrePrincipale::FenetrePrincipale(const Atelier& atelier) : m_atelier(atelier) {
+    nomme(this, "frmPrincipal");
+    setWindowTitle(QStringLiteral("Ambrelis"));
+    setMinimumSize(kTailleMinimale);
+    compose();
+    suitLesCommandes();
+    m_atelier.liaison.ajoute(std::make_unique<LienTaille>(*this));
+}
+
+void FenetrePrincipale::compose() {
+    m_liste = new PanneauListe(m_atelier);
+    m_liste->setMinimumWidth(260);
+    auto* droite = new QWidget;
+    m_droite = new QVBoxLayout(droite);
+    m_droite->setContentsMargins(0, 0, 0, 0);
+    m_droite->addWidget(new PanneauAccueil(m_atelier), 1);
+    auto* partage = new QSplitter;
+    partage->setChildrenCollapsible(false);
+    partage->addWidget(m_liste);
+    partage->addWidget(droite);
+    partage->setStretchFactor(1, 1);
+    partage->setSizes({kLargeurListe, kTailleParDefaut.width() - kLargeurListe});
+
+    auto* boite = new QVBoxLayout(this);
+    boite->setContentsMargins(0, 0, 0, 0);
+    boite->setSpacing(0);
+    boite->addWidget(new BarreFonctions(m_atelier));
+    boite->addWidget(filetHorizontal());
+    boite->addWidget(partage, 1);
+    boite->addWidget(new BandeTravail(m_atelier));
+    connect(m_liste->titres(), &VueTitres::peinte, this,
+            [this] { QTimer::singleShot(0, this, [this] { completePanneaux(); }); });
+}
+
+// All that is behind the first page, in reading order after it.
+void FenetrePrincipale::completePanneaux() {
+    if (m_menus) return;
+    m_menus.emplace(this);
+    m_droite->addWidget(new PanneauFiche(m_atelier), 1);
+    m_droite->addWidget(new PanneauRecherche(m_atelier), 1);
+    m_droite->addWidget(new PanneauFonctions(m_atelier), 1);
+    m_droite->addWidget(new PanneauMultiSuppression(m_atelier), 1);
+    setWindowIcon(icone(Pictogramme::Clap));
+}
+
+void FenetrePrincipale::suitLesCommandes() {
+    connect(&m_atelier.commande, &Commande::vaCommencer, this, [this] {
+        if (isVisible()) completePanneaux();
+    });
+    connect(&m_atelier.commande, &Commande::terminee, this, &FenetrePrincipale::executeDemandes);
+    connect(m_liste->titres(), &VueTitres::menuDemande, this, [this](int indice, const QPoint& endroit) {
+        m_endroitMenu = endroit;
+        m_atelier.commande.execute([=, this] { m_atelier.session.TreeView1_MouseUpDroit(indice); });
+    });
+}
+
+// What the command asked for once.
+void FenetrePrincipale::executeDemandes() {
+    const ecran::Demandes demandes = std::exchange(m_atelier.etats().demandes, {});
+    const app::MenuContextuel menu = std::exchange(m_atelier.etats().menu, app::MenuContextuel::Aucun);
+    if (!demandes.boutonParDefaut.empty()) choisitParDefaut(demandes.boutonParDefaut);
+    auto* focus = demandes.focus.empty() ? nullptr : findChild<QWidget*>(QString::fromStdString(demandes.focus));
+    if (focus) focus->setFocus(Qt::OtherFocusReason);
+    if (m_menus) m_menus->montre(menu, m_endroitMenu);
+    if (m_fermetureDemandee) QTimer::singleShot(0, this, &QWidget::close);
+    if (m_deuxPages != (width() >= kLargeurDeuxPages)) QTimer::singleShot(0, this, [this] { suisLargeur(); });
+}
+
+void FenetrePrincipale::choisitParDefaut(const std::string& nom) {
+    if (m_parDefaut) m_parDefaut->setDefault(false);
+    m_parDefaut = findChild<QPushButton*>(QString::fromStdString(nom));
+    if (m_parDefaut) m_parDefaut->setDefault(true);
+}
+
+void FenetrePrincipale::ouvre() {
+    resize(tailleVoulue());
+    suisLargeur();
+    show();
+}
+
+QSize FenetrePrincipale::tailleVoulue() const {
+    const app::EtatFenetre& etat = m_atelier.etats().frmPrincipal;
+    if (etat.Width <= 0 || etat.Height <= 0) return kTailleParDefaut;
+    const QSize enPixels(etat.Width / kTwipsParPixel, etat.Height / kTwipsParPixel);
+    return enPixels.boundedTo(screen()->availableSize()).expandedTo(kTailleMinimale);
+}
+
+void FenetrePrincipale::suisLargeur() {
+    const bool deuxPages = width() >= kLargeurDeuxPages;
+    if (deuxPages == m_deuxPages) return;
+    const auto issue = m_atelier.commande.execute([=, this] { m_atelier.session.Form_Resize(deuxPages); });
+    if (issue != Commande::Issue::Refusee) m_deuxPages = deuxPages;
+}
+
+void FenetrePrincipale::resizeEvent(QResizeEvent*) {
+    if (isVisible()) suisLargeur();
+}
+
+void FenetrePrincipale::keyPressEvent(QKeyEvent* evenement) {
+    const bool valide = evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter;
+    if (valide && m_parDefaut && m_parDefaut->isVisible() && m_parDefaut->isEnabled())
+        m_parDefaut->click();
+    else
+        QWidget::keyPressEvent(evenement);
+}
+
+// During a command the window first lets it stop, and closes after it.
+void FenetrePrincipale::closeEvent(QCloseEvent* evenement) {
+    if (m_atelier.commande.enCours()) {
+        m_fermetureDemandee = true;
+        m_atelier.ecran.demandeArret();
+        evenement->ignore();
+        return;
+    }
+    m_atelier.commande.execute([this] { m_atelier.session.Form_Unload(); });
+    m_atelier.commande.arrete();
+    evenement->accept();
+}
+
+}  // namespace ui

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "ui/Atelier.h"
+#include "ui/MenusArbre.h"
+
+#include <QPointer>
+#include <QWidget>
+#include <optional>
+
+class QPushButton;
+class QVBoxLayout;
+
+namespace ui {
+
+class PanneauListe;
+
+// The window: a frame around its panels. The panels that the start does not show are built after the first painting.
+class FenetrePrincipale final : public QWidget {
+    Q_OBJECT
+  public:
+    explicit FenetrePrincipale(const Atelier& atelier);
+
+    // Shows the window at the size of the settings. The program was loaded before.
+    void ouvre();
+
+  protected:
+    void closeEvent(QCloseEvent* evenement) override;
+    void resizeEvent(QResizeEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
+
+  private:
+    class LienTaille;
+
+    void compose();
+    void completePanneaux();
+    void suitLesCommandes();
+    void executeDemandes();
+    void choisitParDefaut(const std::string& nom);
+    void suisLargeur();
+    [[nodiscard]] QSize tailleVoulue() const;
+
+    const Atelier m_atelier;
+    PanneauListe* m_liste = nullptr;
+    QVBoxLayout* m_droite = nullptr;
+    std::optional<MenusArbre> m_menus;  // with the late panels
+    QPoint m_endroitMenu;
+    QPointer<QPushButton> m_parDefaut;
+    bool m_deuxPages = false;
+    bool m_fermetureDemandee = false;  // while a command runs
+};
+
+}  // namespace ui

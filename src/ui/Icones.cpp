@@ -1,0 +1,103 @@
+#include "ui/Icones.h"
+
+#include <QApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPalette>
+
+namespace ui {
+
+namespace {
+
+// Drawn on a square of 24 by 24.
+QPainterPath trace(Pictogramme pictogramme) {
+    QPainterPath t;
+    switch (pictogramme) {
+        case Pictogramme::Loupe:
+            t.addEllipse(QPointF(10.5, 10.5), 6.5, 6.5);
+            t.moveTo(15.5, 15.5), t.lineTo(20.5, 20.5);
+            break;
+        case Pictogramme::Plus:
+            t.moveTo(12, 4.5), t.lineTo(12, 19.5);
+            t.moveTo(4.5, 12), t.lineTo(19.5, 12);
+            break;
+        case Pictogramme::Reglages:
+            for (const auto& [y, x] : {std::pair(6.5, 15.0), std::pair(12.0, 8.5), std::pair(17.5, 13.5)}) {
+                t.moveTo(3.5, y), t.lineTo(x - 2.2, y);
+                t.moveTo(x + 2.2, y), t.lineTo(20.5, y);
+                t.addEllipse(QPointF(x, y), 2.2, 2.2);
+            }
+            break;
+        case Pictogramme::Aide:
+            t.addEllipse(QPointF(12, 12), 8.5, 8.5);
+            t.moveTo(12, 11.2), t.lineTo(12, 16.2);
+            t.addEllipse(QPointF(12, 7.9), 0.4, 0.4);
+            break;
+        case Pictogramme::Sortie:
+            t.moveTo(13.5, 4), t.lineTo(5, 4), t.lineTo(5, 20), t.lineTo(13.5, 20);
+            t.moveTo(10, 12), t.lineTo(20.5, 12);
+            t.moveTo(16.8, 8.3), t.lineTo(20.5, 12), t.lineTo(16.8, 15.7);
+            break;
+        case Pictogramme::Lien:
+            t.moveTo(18, 13.5), t.lineTo(18, 19.5), t.lineTo(4.5, 19.5), t.lineTo(4.5, 6), t.lineTo(10.5, 6);
+            t.moveTo(14, 4), t.lineTo(20, 4), t.lineTo(20, 10);
+            t.moveTo(20, 4), t.lineTo(11, 13);
+            break;
+        case Pictogramme::Etoile:
+            t.moveTo(12, 3.6);
+            for (const auto& [x, y] : {std::pair(14.5, 9.1), std::pair(20.5, 9.8), std::pair(16.0, 13.9),
+                                       std::pair(17.3, 19.8), std::pair(12.0, 16.8), std::pair(6.7, 19.8),
+                                       std::pair(8.0, 13.9), std::pair(3.5, 9.8), std::pair(9.5, 9.1)})
+                t.lineTo(x, y);
+            t.closeSubpath();
+            break;
+        case Pictogramme::Clap:
+            t.addRoundedRect(QRectF(3, 10, 18, 10.5), 1.2, 1.2);
+            t.moveTo(3.2, 9.6), t.lineTo(2.5, 6.4), t.lineTo(19.8, 2.6), t.lineTo(20.5, 5.8), t.closeSubpath();
+            t.moveTo(7.4, 5.4), t.lineTo(9.3, 8.2);
+            t.moveTo(12.6, 4.2), t.lineTo(14.5, 7.1);
+            break;
+    }
+    return t;
+}
+
+class MoteurIcone final : public QIconEngine {
+  public:
+    explicit MoteurIcone(Pictogramme pictogramme) : m_pictogramme(pictogramme) {}
+
+    void paint(QPainter* peintre, const QRect& zone, QIcon::Mode mode, QIcon::State) override {
+        const auto groupe = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        peintPictogramme(*peintre, zone, m_pictogramme, QApplication::palette().color(groupe, QPalette::ButtonText));
+    }
+    QPixmap pixmap(const QSize& taille, QIcon::Mode mode, QIcon::State etat) override {
+        QPixmap image(taille);
+        image.fill(Qt::transparent);
+        QPainter peintre(&image);
+        paint(&peintre, QRect(QPoint(), taille), mode, etat);
+        return image;
+    }
+    QIconEngine* clone() const override { return new MoteurIcone(*this); }
+
+  private:
+    Pictogramme m_pictogramme;
+};
+
+}  // namespace
+
+QIcon icone(Pictogramme pictogramme) {
+    return QIcon(new MoteurIcone(pictogramme));
+}
+
+void peintPictogramme(QPainter& peintre, const QRectF& zone, Pictogramme pictogramme, const QColor& couleur) {
+    peintre.save();
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.translate(zone.topLeft());
+    peintre.scale(zone.width() / 24, zone.height() / 24);
+    peintre.setPen(QPen(couleur, 1.7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    peintre.setBrush(pictogramme == Pictogramme::Etoile ? QBrush(couleur) : QBrush(Qt::NoBrush));
+    peintre.drawPath(trace(pictogramme));
+    peintre.restore();
+}
+
+}  // namespace ui

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/ecran/Ecran.h"
+
+#include <QByteArray>
+#include <QPixmap>
+#include <QSize>
+
+namespace ui {
+
+// The current poster. Its file is kept as bytes, and decoded at the size in which it is shown: a full decoding of each
+// poster would cost the browsing more than everything else.
+class ImagesQt final : public ecran::Images {
+  public:
+    std::optional<ecran::TailleImage> charge(const std::string& chemin) override;
+    void vide() override;
+
+    [[nodiscard]] bool estVide() const { return m_octets.isEmpty(); }
+    // The poster, filling `pixels` as far as its shape allows; never larger than it is.
+    [[nodiscard]] const QPixmap& affiche(const QSize& pixels);
+    // The size, in pixels of the screen, in which the window last showed a poster.
+    void metTailleVoulue(const QSize& pixels) { m_voulue = pixels; }
+
+  private:
+    [[nodiscard]] bool decode(const QSize& pixels);
+
+    QByteArray m_octets;  // of a picture that could be decoded, else empty
+    QSize m_taille;       // of the picture, upright
+    QSize m_voulue{193, 297};
+    QPixmap m_decodee;
+    QSize m_decodeePour;
+};
+
+}  // namespace ui

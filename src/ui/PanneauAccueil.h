@@ -1,0 +1,27 @@
+#pragma once
+
+#include "ui/Atelier.h"
+
+#include <QWidget>
+
+class QLabel;
+
+namespace ui {
+
+// What the right side shows before a film is chosen: what the program is and, as long as the base is empty, what to do
+// first.
+class PanneauAccueil final : public QWidget {
+    Q_OBJECT
+  public:
+    explicit PanneauAccueil(const Atelier& atelier, QWidget* parent = nullptr);
+
+  protected:
+    void paintEvent(QPaintEvent* evenement) override;
+
+  private:
+    [[nodiscard]] QWidget* premiersPas(const Atelier& atelier);
+
+    QWidget* m_signe = nullptr;
+};
+
+}  // namespace ui

@@ -1,0 +1,115 @@
+#include "ui/PanneauAjout.h"
+
+#include "ui/Boutons.h"
+#include "ui/Composition.h"
+#include "ui/PanneauSaisie.h"
+#include "ui/Sections.h"
+
+#include <QProgressBar>
+#include <QRadioButton>
+
+namespace ui {
+
+PanneauAjout::PanneauAjout(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
+    nomme(this, "frameDivers");
+    auto* intitule = nomme((new Etiquette)->avecPolice(1.5, QFont::DemiBold), "Label5");
+    atelier.liaison.lie(atelier.etats().ajout.Label5, intitule);
+    auto* boite = colonne(kGrand);
+    boite->addLayout(manieres(atelier));
+    boite->addWidget(intitule);
+    boite->addWidget(pageAutomatique(atelier));
+    boite->addWidget(new PanneauSaisie(atelier));
+    setLayout(boite);
+    atelier.liaison.lie(atelier.etats().fonctions.frameDivers, this);
+}
+
+QLayout* PanneauAjout::manieres(const Atelier& atelier) {
+    const std::pair<QString, QString> textes[] = {
+        {tr("Ajout auto&matique"), tr("Ajouter des fiches toutes prêtes")},
+        {tr("Saisie ma&nuelle"), tr("Écrire soi-même la fiche d'un film")},
+        {tr("&Importer une base"), tr("Reprendre les films d'une installation précédente")}};
+    auto* boite = rangee({}, kSerre);
+    for (std::size_t i = 0; i < 3; ++i) {
+        auto* onglet = nomme(new BoutonOnglet(textes[i].first), "Command13", i);
+        onglet->setToolTip(textes[i].second);
+        onglet->setAutoDefault(true);
+        atelier.liaison.lie(atelier.etats().ajout.Command13[i], onglet);
+        atelier.auClic(onglet, &app::Session::Command13_Click, static_cast<int>(i));
+        boite->addWidget(onglet);
+    }
+    boite->addStretch();
+    return boite;
+}
+
+QWidget* PanneauAjout::pageAutomatique(const Atelier& atelier) {
+    auto* cadre = nomme(new QWidget, "frameAjoutAuto");
+    auto* boite = colonne(kLarge);
+    boite->addLayout(fiches(atelier));
+    boite->addWidget(filetHorizontal());
+    boite->addLayout(internet(atelier));
+    cadre->setLayout(boite);
+    atelier.liaison.lie(atelier.etats().ajout.frameAjoutAuto, cadre);
+    return cadre;
+}
+
+QLayout* PanneauAjout::fiches(const Atelier& atelier) {
+    auto& ajout = atelier.etats().ajout;
+    auto* chemin = nomme(new QLineEdit, "txtCheminAjoutAuto");
+    auto* parcourir = bouton("cmdParcourir2", tr("Parco&urir…"), tr("Choisir le dossier des fiches"));
+    auto* nombre = nomme((new Etiquette)->avecTon(Ton::Discret), "lblNbFilms");
+    auto* lancer = bouton<BoutonAccent>("cmdAjoutAuto", tr("Ajouter les &fiches"),
+                                        tr("Ajouter à la base toutes les fiches du dossier"));
+    auto* titre = nomme(new Etiquette, "lblProgression");
+    auto* progression = nomme(new QProgressBar, "ProgressBar1", tr("Avancement de l'ajout"));
+    progression->setTextVisible(false);
+    progression->setFixedHeight(8);
+    atelier.liaison.lie(ajout.txtCheminAjoutAuto, chemin);
+    atelier.liaison.lie(ajout.cmdParcourir2, parcourir);
+    atelier.liaison.lie(ajout.lblNbFilms, nombre);
+    atelier.liaison.lie(ajout.cmdAjoutAuto, lancer);
+    atelier.liaison.lie(ajout.lblProgression, titre);
+    atelier.liaison.lie(ajout.ProgressBar1, progression);
+    atelier.auClic(parcourir, &app::Session::cmdParcourir2_Click);
+    atelier.auClic(lancer, &app::Session::cmdAjoutAuto_Click);
+
+    auto* boite = section(atelier, Aide::Fiches);
+    auto* ligne = rangee({chemin});
+    ligne->addWidget(parcourir);
+    auto* dossier = colonne(kSerre);
+    dossier->addWidget(legende(tr("&Dossier des fiches"), chemin));
+    dossier->addLayout(ligne);
+    boite->addLayout(dossier);
+    boite->addWidget(nombre);
+    boite->addLayout(aGauche({lancer}));
+    boite->addWidget(titre);
+    boite->addWidget(progression);
+    return boite;
+}
+
+QLayout* PanneauAjout::internet(const Atelier& atelier) {
+    auto& ajout = atelier.etats().ajout;
+    const QString textes[] = {tr("Titre"), tr("Réalisateur"), tr("Acteur"), tr("Année")};
+    auto* texte = nomme(new QLineEdit, "txtRechInternet");
+    auto* telecharger =
+        bouton("cmdTelecharge", tr("Téléc&harger…"), tr("Chercher ces films sur le site de MovieCovers"));
+    atelier.liaison.lie(ajout.txtRechInternet, texte);
+    atelier.liaison.lie(ajout.cmdTelecharge, telecharger);
+    auto* groupe = new QWidget;
+    auto* options = rangee({}, kLarge);
+    for (std::size_t i = 0; i < 4; ++i) {
+        auto* option = nomme(new QRadioButton(textes[i]), "OptionTelecharge", i);
+        option->setToolTip(tr("Ce que le texte désigne"));
+        atelier.liaison.lie(ajout.OptionTelecharge[i], option);
+        options->addWidget(option);
+    }
+    options->addStretch();
+    groupe->setLayout(options);
+
+    auto* boite = section(atelier, Aide::Internet);
+    boite->addLayout(champ(tr("Te&xte à chercher sur MovieCovers"), texte));
+    boite->addWidget(groupe);
+    boite->addLayout(aGauche({telecharger}));
+    return boite;
+}
+
+}  // namespace ui

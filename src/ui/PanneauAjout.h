@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ui/Atelier.h"
+
+#include <QWidget>
+
+namespace ui {
+
+// Adding films: the three ways, and the pages of the automatic and the manual one.
+class PanneauAjout final : public QWidget {
+    Q_OBJECT
+  public:
+    explicit PanneauAjout(const Atelier& atelier, QWidget* parent = nullptr);
+
+  private:
+    [[nodiscard]] QLayout* manieres(const Atelier& atelier);
+    [[nodiscard]] QWidget* pageAutomatique(const Atelier& atelier);
+    [[nodiscard]] QLayout* fiches(const Atelier& atelier);
+    [[nodiscard]] QLayout* internet(const Atelier& atelier);
+};
+
+}  // namespace ui

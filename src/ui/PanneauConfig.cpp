@@ -1,0 +1,90 @@
+#include "ui/PanneauConfig.h"
+
+#include "ui/Boutons.h"
+#include "ui/Composition.h"
+#include "ui/Sections.h"
+
+#include <QProgressBar>
+#include <QRadioButton>
+
+namespace ui {
+
+PanneauConfig::PanneauConfig(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
+    nomme(this, "frameConfig");
+    auto* boite = colonne(kLarge);
+    boite->addLayout(images(atelier));
+    boite->addLayout(logiciels(atelier));
+    boite->addLayout(programme(atelier));
+    setLayout(boite);
+    atelier.liaison.lie(atelier.etats().fonctions.frameConfig, this);
+}
+
+QLayout* PanneauConfig::images(const Atelier& atelier) {
+    auto& stockage = atelier.etats().stockage;
+    auto& fonctions = atelier.etats().fonctions;
+    const QString textes[] = {tr("Les images sont dans la &base"), tr("Les images sont dans un répertoir&e")};
+    auto* boite = section(atelier, Aide::Images);
+    for (std::size_t i = 0; i < 2; ++i) {
+        auto* option = nomme(new QRadioButton(textes[i]), "Option3", i);
+        option->setToolTip(tr("Où vont les affiches des nouveaux films"));
+        atelier.liaison.lie(stockage.Option3[i], option);
+        atelier.auClic(option, &app::Session::Option3_Click);
+        boite->addWidget(option);
+    }
+    auto* dossier = nomme(new QLineEdit, "Text4");
+    auto* parcourir = bouton("cmdParcourir", tr("Par&courir…"), tr("Choisir le dossier des images"));
+    auto* convertir =
+        bouton("cmdMajBase", tr("Con&vertir les affiches"), tr("Mettre toutes les affiches à l'endroit choisi"));
+    auto* progression = nomme(new QProgressBar, "ProgressBar2", tr("Avancement de la conversion"));
+    progression->setTextVisible(false);
+    progression->setFixedHeight(8);
+    atelier.liaison.lie(stockage.Text4, dossier);
+    atelier.liaison.lie(stockage.cmdParcourir, parcourir);
+    atelier.liaison.lie(fonctions.cmdMajBase, convertir);
+    atelier.liaison.lie(fonctions.ProgressBar2, progression);
+    atelier.auClic(parcourir, &app::Session::cmdParcourir_Click);
+    auto* choix = colonne(kSerre);
+    choix->addWidget(legende(tr("&Dossier des images"), dossier));
+    choix->addLayout(rangee({dossier, parcourir}));
+    boite->addLayout(choix);
+    boite->addLayout(aGauche({convertir}));
+    boite->addWidget(progression);
+    return boite;
+}
+
+QLayout* PanneauConfig::logiciels(const Atelier& atelier) {
+    auto& fonctions = atelier.etats().fonctions;
+    auto* extensions = nomme(new ListeDeroulante, "Combo6", 0);
+    auto* programmes = nomme(new ListeDeroulante, "Combo6", 1);
+    for (QComboBox* liste : {extensions, programmes}) {
+        liste->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        liste->setMinimumContentsLength(10);
+    }
+    atelier.liaison.lie(fonctions.Combo6[0], extensions);
+    atelier.liaison.lie(fonctions.Combo6[1], programmes);
+    auto* boite = section(atelier, Aide::Logiciels);
+    auto* ligne = rangee({}, kMoyen);
+    ligne->addLayout(champ(tr("E&xtension"), extensions), 1);
+    ligne->addLayout(champ(tr("Log&iciel"), programmes), 2);
+    boite->addLayout(ligne);
+    return boite;
+}
+
+QLayout* PanneauConfig::programme(const Atelier& atelier) {
+    auto& fonctions = atelier.etats().fonctions;
+    auto* connexion =
+        nomme(new QCheckBox(tr("&Lancer la connexion au démarrage du téléchargement")), "chkLancerConnexion");
+    auto* page = nomme(new BoutonLien(tr("La page d'Ambrelis")), "Label4");
+    page->setToolTip(tr("Ouvrir la page du programme dans le navigateur"));
+    atelier.liaison.lie(fonctions.chkLancerConnexion, connexion);
+    atelier.liaison.lie(fonctions.Label4, page);
+    atelier.auClic(page, &app::Session::Label4_Click);
+    auto* boite = section(tr("Internet"), tr("Le téléchargement des fiches est confié à un programme compagnon."));
+    boite->addWidget(connexion);
+    auto* lien = aGauche({page});
+    lien->setContentsMargins(-4, 0, 0, 0);
+    boite->addLayout(lien);
+    return boite;
+}
+
+}  // namespace ui

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "ui/Atelier.h"
+
+#include <QWidget>
+
+namespace ui {
+
+// The settings: where posters are kept, programs, the program itself.
+class PanneauConfig final : public QWidget {
+    Q_OBJECT
+  public:
+    explicit PanneauConfig(const Atelier& atelier, QWidget* parent = nullptr);
+
+  private:
+    [[nodiscard]] QLayout* images(const Atelier& atelier);
+    [[nodiscard]] QLayout* logiciels(const Atelier& atelier);
+    [[nodiscard]] QLayout* programme(const Atelier& atelier);
+};
+
+}  // namespace ui

@@ -1,0 +1,163 @@
+#include "ui/PanneauFiche.h"
+
+#include "ui/Boutons.h"
+#include "ui/Composition.h"
+#include "ui/Icones.h"
+#include "ui/PanneauPossession.h"
+#include "ui/VueAffiche.h"
+
+#include <QResizeEvent>
+#include <QTextEdit>
+
+namespace ui {
+
+PanneauFiche::PanneauFiche(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
+    nomme(this, "frameFiche");
+    auto* generalites = colonne(kGrand);
+    generalites->addWidget(faits());
+    generalites->addWidget(resume(), 1);
+    auto* autres = colonne(kGrand);
+    autres->addWidget(new PanneauPossession(m_atelier));
+    autres->addWidget(new PanneauActions(m_atelier));
+    autres->addStretch(1);
+
+    auto* pages = new QHBoxLayout;
+    pages->setSpacing(kLarge);
+    pages->addLayout(colonneAffiche());
+    pages->addLayout(generalites, 5);
+    pages->addLayout(autres, 4);
+
+    auto* boite = new QVBoxLayout(this);
+    boite->setContentsMargins(kPetit, kMoyen, kGrand, kGrand);
+    boite->setSpacing(kMoyen);
+    boite->addLayout(entete());
+    boite->addLayout(pages, 1);
+    m_atelier.liaison.lie(m_atelier.etats().panneaux.frameFiche, this);
+}
+
+QLayout* PanneauFiche::entete() {
+    auto& fiche = m_atelier.etats().fiche;
+    auto* titre = nomme((new Etiquette)->avecPolice(1.9, QFont::DemiBold)->avecLignes(2), "Label1", 0);
+    auto* realisateur = nomme(new BoutonLien, "lblRealisateur");
+    realisateur->setFont(policeRelative(1.15));
+    realisateur->setToolTip(tr("Chercher les films de cette personne"));
+    // The director line stands twice in the state; the link shows it.
+    auto* ligne = nomme(new Etiquette({}, this), "Label1", 1);
+    ligne->hide();
+    m_atelier.liaison.lie(fiche.Label1[0], titre);
+    m_atelier.liaison.lie(fiche.Label1[1], ligne);
+    m_atelier.liaison.lie(fiche.lblRealisateur, realisateur);
+    m_atelier.auClic(realisateur, &app::Session::lblRealisateur_Click);
+
+    auto* boite = colonne(2);
+    boite->addWidget(titre);
+    auto* sousTitre = rangee({realisateur});
+    sousTitre->setContentsMargins(-4, 0, 0, 0);
+    sousTitre->addStretch();
+    sousTitre->addLayout(onglets());
+    boite->addLayout(sousTitre);
+    boite->addWidget(filetHorizontal());
+    return boite;
+}
+
+QLayout* PanneauFiche::onglets() {
+    auto& fiche = m_atelier.etats().fiche;
+    auto* generalites = bouton<BoutonOnglet>("cmdGeneralites", tr("&Généralités"), tr("Le film"));
+    auto* autres = bouton<BoutonOnglet>("cmdAutresInfos", tr("A&utres informations"),
+                                        tr("Votre exemplaire et ce que vous pouvez faire de la fiche"));
+    m_atelier.liaison.lie(fiche.cmdGeneralites, generalites);
+    m_atelier.liaison.lie(fiche.cmdAutresInfos, autres);
+    m_atelier.auClic(generalites, &app::Session::cmdGeneralites_Click);
+    m_atelier.auClic(autres, &app::Session::cmdAutresInfos_Click);
+    return rangee({generalites, autres}, kSerre);
+}
+
+QLayout* PanneauFiche::colonneAffiche() {
+    auto& fiche = m_atelier.etats().fiche;
+    m_affiche = new CadreAffiche(m_atelier.images);
+    nomme(m_affiche->image(), "Image1", tr("Affiche du film"));
+    nomme(m_affiche->statut(), "Label12");
+    auto* note = nomme((new Etiquette)->avecPolice(1.08, QFont::DemiBold), "lblNote");
+    auto* noter = bouton("cmdModifieNote", tr("&Noter…"), tr("Donner une note de 1 à 10"));
+    auto* fichiers = bouton("cmdFichiersFilm", tr("&Fichiers du film…"), tr("Ouvrir un des fichiers attachés au film"));
+    m_atelier.liaison.ajoute(m_affiche->image()->lien(fiche.Image1));
+    m_atelier.liaison.lie(fiche.Label12, m_affiche->statut());
+    m_atelier.liaison.lie(fiche.lblNote, note);
+    m_atelier.liaison.lie(fiche.cmdModifieNote, noter);
+    m_atelier.liaison.lie(fiche.cmdFichiersFilm, fichiers);
+
+    auto* boite = colonne(kMoyen);
+    boite->addWidget(m_affiche);
+    auto* ligne = rangee({note});
+    ligne->addStretch();
+    ligne->addWidget(noter);
+    boite->addLayout(ligne);
+    boite->addWidget(fichiers);
+    boite->addStretch(1);
+    return boite;
+}
+
+QWidget* PanneauFiche::faits() {
+    auto& fiche = m_atelier.etats().fiche;
+    auto* cadre = nomme(new QWidget, "frameGeneralites", 0);
+    auto* grille = colonne(kPetit);
+    const std::pair<std::size_t, QString> lignes[] = {
+        {2, tr("Production et année")}, {4, tr("Origine")}, {5, tr("Durée")}, {6, tr("Genre")}};
+    for (const auto& [indice, intitule] : lignes) {
+        auto* valeur = nomme((new Etiquette)->avecLignes(2), "Label1", indice);
+        valeur->setAccessibleDescription(intitule);
+        m_atelier.liaison.lie(fiche.Label1[indice], valeur);
+        auto* fait = colonne(1);
+        fait->addWidget(legende(intitule));
+        fait->addWidget(valeur);
+        grille->addLayout(fait);
+    }
+    auto* inutilise = nomme(new Etiquette({}, this), "Label1", 3);
+    inutilise->hide();
+    m_atelier.liaison.lie(fiche.Label1[3], inutilise);
+    grille->addStretch();
+
+    auto* acteurs = nomme((new Etiquette)->avecLignes(18), "lblInfosActeurs");
+    acteurs->setAccessibleDescription(tr("Acteurs"));
+    m_atelier.liaison.lie(fiche.lblInfosActeurs, acteurs);
+    auto* distribution = colonne(1);
+    distribution->addWidget(legende(tr("Acteurs")));
+    distribution->addWidget(acteurs);
+    distribution->addStretch();
+
+    auto* boite = new QHBoxLayout(cadre);
+    boite->setContentsMargins(0, 0, 0, 0);
+    boite->setSpacing(kLarge);
+    boite->addLayout(grille, 1);
+    boite->addLayout(distribution, 1);
+    m_atelier.liaison.lie(fiche.frameGeneralites[0], cadre);
+    return cadre;
+}
+
+QWidget* PanneauFiche::resume() {
+    auto& fiche = m_atelier.etats().fiche;
+    auto* cadre = nomme(new QWidget, "frameGeneralites", 1);
+    auto* texte = nomme(new QTextEdit, "Text1", tr("Résumé"));
+    texte->setReadOnly(true);
+    texte->setTabChangesFocus(true);
+    texte->setFrameShape(QFrame::NoFrame);
+    texte->viewport()->setAutoFillBackground(false);
+    texte->document()->setDocumentMargin(0);
+    texte->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    texte->setMinimumHeight(80);
+    m_atelier.liaison.lie(fiche.Text1, texte);
+    auto* boite = colonne(kSerre);
+    boite->addWidget(legende(tr("Résumé")));
+    boite->addWidget(texte, 1);
+    cadre->setLayout(boite);
+    m_atelier.liaison.lie(fiche.frameGeneralites[1], cadre);
+    return cadre;
+}
+
+void PanneauFiche::resizeEvent(QResizeEvent* evenement) {
+    constexpr int kAutourDeLAffiche = 190;  // header, rating, margins
+    const QSize taille = evenement->size();
+    m_affiche->tiensDans({std::min(taille.width() * 32 / 100, 420), taille.height() - kAutourDeLAffiche});
+}
+
+}  // namespace ui

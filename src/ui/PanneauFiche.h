@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ui/Atelier.h"
+
+#include <QWidget>
+
+class QVBoxLayout;
+
+namespace ui {
+
+class CadreAffiche;
+
+// The film sheet: the poster first, the title, the facts, the summary; beside or behind them the user's own copy.
+class PanneauFiche final : public QWidget {
+    Q_OBJECT
+  public:
+    explicit PanneauFiche(const Atelier& atelier, QWidget* parent = nullptr);
+
+  protected:
+    void resizeEvent(QResizeEvent* evenement) override;
+
+  private:
+    [[nodiscard]] QLayout* entete();
+    [[nodiscard]] QLayout* onglets();
+    [[nodiscard]] QLayout* colonneAffiche();
+    [[nodiscard]] QWidget* faits();
+    [[nodiscard]] QWidget* resume();
+
+    const Atelier m_atelier;
+    CadreAffiche* m_affiche = nullptr;
+};
+
+}  // namespace ui

@@ -1,0 +1,54 @@
+#include "ui/PanneauFonctions.h"
+
+#include "ui/Boutons.h"
+#include "ui/Composition.h"
+#include "ui/PanneauAjout.h"
+#include "ui/PanneauConfig.h"
+#include "ui/PanneauOutils.h"
+#include "ui/Sections.h"
+
+#include <QScrollArea>
+
+namespace ui {
+
+PanneauFonctions::PanneauFonctions(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
+    nomme(this, "frameListeFonctions");
+    auto* contenu = colonne(kGrand);
+    auto* pages = onglets(atelier);
+    contenu->addWidget(pages);
+    contenu->addWidget(new PanneauAjout(atelier));
+    contenu->addWidget(new PanneauOutils(atelier));
+    contenu->addWidget(new PanneauConfig(atelier));
+    contenu->addStretch();
+    auto* boite = colonne(0);
+    boite->addWidget(defilant(contenu));
+    setLayout(boite);
+
+    // The page buttons belong to the tools and the configuration alone.
+    const auto suis = [pages, etats = &atelier.etats()] {
+        pages->setVisible(etats->fonctions.frameOutils.Visible || etats->fonctions.frameConfig.Visible);
+    };
+    suis();
+    atelier.liaison.apresEcriture(suis);
+    atelier.liaison.lie(atelier.etats().panneaux.frameListeFonctions, this);
+}
+
+QWidget* PanneauFonctions::onglets(const Atelier& atelier) {
+    const QString textes[] = {tr("O&utils"), tr("Confi&guration")};
+    const QString infobulles[] = {tr("Entretenir la base"), tr("Régler le programme")};
+    auto* boite = rangee({}, kSerre);
+    for (std::size_t i = 0; i < 2; ++i) {
+        auto* onglet = nomme(new BoutonOnglet(textes[i]), "cmdConfig", i);
+        onglet->setToolTip(infobulles[i]);
+        onglet->setAutoDefault(true);
+        atelier.liaison.lie(atelier.etats().fonctions.cmdConfig[i], onglet);
+        atelier.auClic(onglet, &app::Session::cmdConfig_Click, static_cast<int>(i));
+        boite->addWidget(onglet);
+    }
+    boite->addStretch();
+    auto* cadre = new QWidget;
+    cadre->setLayout(boite);
+    return cadre;
+}
+
+}  // namespace ui

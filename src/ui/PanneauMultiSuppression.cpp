@@ -1,0 +1,31 @@
+#include "ui/PanneauMultiSuppression.h"
+
+#include "ui/Composition.h"
+#include "ui/Sections.h"
+
+#include <QRadioButton>
+
+namespace ui {
+
+PanneauMultiSuppression::PanneauMultiSuppression(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
+    nomme(this, "frameMultiSuppression");
+    auto& fonctions = atelier.etats().fonctions;
+    const QString textes[] = {tr("Fonction &désactivée"), tr("Fonction acti&vée")};
+    auto* boite = section(atelier, Aide::MultiSuppression);
+    boite->setContentsMargins(kPetit, kMoyen, kGrand, kGrand);
+    boite->setSpacing(kMoyen);
+    for (std::size_t i = 0; i < 2; ++i) {
+        auto* option = nomme(new QRadioButton(textes[i]), "Option4", i);
+        option->setToolTip(tr("Montre ou cache les cases à cocher de la liste"));
+        atelier.liaison.lie(fonctions.Option4[i], option);
+        boite->addWidget(option);
+    }
+    auto* supprimer = bouton("cmdSupprTitresSelect", tr("S&uppression…"), tr("Supprimer les films cochés"));
+    atelier.liaison.lie(fonctions.cmdSupprTitresSelect, supprimer);
+    boite->addLayout(aGauche({supprimer}));
+    boite->addStretch();
+    setLayout(boite);
+    atelier.liaison.lie(atelier.etats().panneaux.frameMultiSuppression, this);
+}
+
+}  // namespace ui

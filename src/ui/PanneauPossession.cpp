@@ -1,0 +1,116 @@
+#include "ui/PanneauPossession.h"
+
+#include "ui/Boutons.h"
+#include "ui/Composition.h"
+
+#include <QCompleter>
+#include <QRadioButton>
+
+namespace ui {
+
+PanneauPossession::PanneauPossession(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
+    nomme(this, "frameAutresInfos", 0);
+    auto* boite = colonne(kMoyen);
+    boite->addWidget((new Etiquette(tr("Mon exemplaire")))->avecPolice(1.08, QFont::DemiBold));
+    boite->addLayout(choix());
+    boite->addWidget(exemplaire());
+    setLayout(boite);
+    m_atelier.liaison.lie(m_atelier.etats().fiche.frameAutresInfos[0], this);
+}
+
+QLayout* PanneauPossession::choix() {
+    auto& fiche = m_atelier.etats().fiche;
+    auto* nonPossede = nomme(new QRadioButton(tr("Non possédé")), "Option1", 0);
+    auto* possede = nomme(new QRadioButton(tr("Possédé")), "Option1", 1);
+    nonPossede->setToolTip(tr("Ce film n'est pas dans votre vidéothèque"));
+    possede->setToolTip(tr("Ce film est dans votre vidéothèque"));
+    auto* valider = bouton<BoutonAccent>("cmdValiderInfosPossessions", tr("&Valider"),
+                                         tr("Enregistrer ce qui concerne votre exemplaire"));
+    m_atelier.liaison.lie(fiche.Option1[0], nonPossede);
+    m_atelier.liaison.lie(fiche.Option1[1], possede);
+    m_atelier.liaison.lie(fiche.cmdValiderInfosPossessions, valider);
+    auto* boite = rangee({nonPossede, possede}, kGrand);
+    boite->addStretch();
+    boite->addWidget(valider);
+    return boite;
+}
+
+QWidget* PanneauPossession::exemplaire() {
+    auto& fiche = m_atelier.etats().fiche;
+    auto* cadre = nomme(new QWidget, "framePossession");
+    auto* grille = new QGridLayout(cadre);
+    grille->setContentsMargins(0, 0, 0, 0);
+    grille->setHorizontalSpacing(kMoyen);
+    grille->setVerticalSpacing(kPetit);
+    grille->addLayout(champ(tr("Support"), liste(2)), 0, 0);
+    grille->addLayout(champ(tr("&Lieu de rangement"), texte(3, {})), 0, 1);
+    grille->addLayout(champ(tr("Prêté à"), liste(0)), 1, 0);
+    grille->addLayout(champ(tr("Réservé pour"), liste(1)), 1, 1);
+    grille->addLayout(champ(tr("Date"), texte(6, {})), 2, 0);
+    grille->addLayout(champ(tr("Notes"), texte(4, {})), 2, 1);
+    auto* fichiers = colonne(kSerre);
+    fichiers->addWidget(legende(tr("Fichiers attachés")));
+    for (std::size_t i = 0; i < 3; ++i)
+        fichiers->addLayout(fichier(i));
+    grille->addLayout(fichiers, 3, 0, 1, 2);
+    auto* inutilise = texte(5, tr("Inutilisé"));
+    inutilise->setParent(this);
+    inutilise->hide();
+    auto* actualiser = bouton("cmdRaffraichirListe", tr("A&ctualiser les listes"),
+                              tr("Relire les supports et les personnes déjà notés"));
+    m_atelier.liaison.lie(fiche.cmdRaffraichirListe, actualiser);
+    grille->addWidget(actualiser, 4, 0, 1, 2, Qt::AlignLeft);
+    grille->setColumnStretch(0, 1);
+    grille->setColumnStretch(1, 1);
+    m_atelier.liaison.lie(fiche.framePossession, cadre);
+    return cadre;
+}
+
+QWidget* PanneauPossession::texte(std::size_t indice, const QString& nom) {
+    auto* zone = nomme(new QLineEdit, "Text10", indice, nom);
+    m_atelier.liaison.lie(m_atelier.etats().fiche.Text10[indice], zone);
+    return zone;
+}
+
+QWidget* PanneauPossession::liste(std::size_t indice) {
+    auto* choix = nomme(new ListeDeroulante, "Combo7", indice);
+    choix->setEditable(true);
+    choix->setInsertPolicy(QComboBox::NoInsert);
+    choix->completer()->setCompletionMode(QCompleter::PopupCompletion);  // inline it would change the letters typed
+    choix->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_atelier.liaison.lie(m_atelier.etats().fiche.Combo7[indice], choix);
+    return choix;
+}
+
+QLayout* PanneauPossession::fichier(std::size_t indice) {
+    const QString nom = tr("Fichier %1").arg(indice + 1);
+    auto* choisir = nomme(new QPushButton(tr("…")), "Command2", indice, tr("Choisir le fichier %1").arg(indice + 1));
+    choisir->setToolTip(choisir->accessibleName());
+    choisir->setAutoDefault(true);
+    choisir->setMaximumWidth(44);
+    m_atelier.liaison.lie(m_atelier.etats().fiche.Command2[indice], choisir);
+    auto* boite = rangee({texte(indice, nom)});
+    boite->addWidget(choisir);
+    return boite;
+}
+
+PanneauActions::PanneauActions(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
+    nomme(this, "frameAutresInfos", 1);
+    auto& fiche = atelier.etats().fiche;
+    auto* modifier = bouton("cmdModifierTitre", tr("Mo&difier…"), tr("Corriger la fiche du film"));
+    auto* supprimer = bouton("cmdSupprimerTitre", tr("Suppr&imer…"), tr("Supprimer le film de la base"));
+    auto* texte = bouton("cmdCreeFichierTxt", tr("Fiche te&xte…"), tr("Écrire la fiche dans un fichier texte"));
+    atelier.liaison.lie(fiche.cmdModifierTitre, modifier);
+    atelier.liaison.lie(fiche.cmdSupprimerTitre, supprimer);
+    atelier.liaison.lie(fiche.cmdCreeFichierTxt, texte);
+    auto* boite = colonne(kPetit);
+    boite->addWidget(filetHorizontal());
+    boite->addWidget((new Etiquette(tr("La fiche")))->avecPolice(1.08, QFont::DemiBold));
+    auto* boutons = rangee({modifier, supprimer, texte});
+    boutons->addStretch();
+    boite->addLayout(boutons);
+    setLayout(boite);
+    atelier.liaison.lie(fiche.frameAutresInfos[1], this);
+}
+
+}  // namespace ui

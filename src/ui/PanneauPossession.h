@@ -1,0 +1,34 @@
+#pragma once
+
+#include "ui/Atelier.h"
+
+#include <QWidget>
+
+class QGridLayout;
+
+namespace ui {
+
+// The page of the user's own copy: owned or not, where it is, to whom it is lent, its files.
+class PanneauPossession final : public QWidget {
+    Q_OBJECT
+  public:
+    explicit PanneauPossession(const Atelier& atelier, QWidget* parent = nullptr);
+
+  private:
+    [[nodiscard]] QLayout* choix();
+    [[nodiscard]] QWidget* exemplaire();
+    [[nodiscard]] QWidget* texte(std::size_t indice, const QString& nom);
+    [[nodiscard]] QWidget* liste(std::size_t indice);
+    [[nodiscard]] QLayout* fichier(std::size_t indice);
+
+    const Atelier m_atelier;
+};
+
+// What can be done with the sheet.
+class PanneauActions final : public QWidget {
+    Q_OBJECT
+  public:
+    explicit PanneauActions(const Atelier& atelier, QWidget* parent = nullptr);
+};
+
+}  // namespace ui

@@ -1,0 +1,72 @@
+#include "ui/PanneauRecherche.h"
+
+#include "ui/Boutons.h"
+#include "ui/Composition.h"
+#include "ui/Sections.h"
+
+#include <QRadioButton>
+#include <QScrollArea>
+
+namespace ui {
+
+PanneauRecherche::PanneauRecherche(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
+    nomme(this, "frameRecherche");
+    auto& recherche = atelier.etats().recherche;
+    auto* texte = nomme(new QLineEdit, "Text2");
+    texte->setClearButtonEnabled(true);
+    texte->setToolTip(tr("Le texte à trouver ; majuscules et minuscules sont confondues"));
+    auto* lancer =
+        bouton<BoutonAccent>("cmdRecherche", tr("&Lancer la recherche"), tr("Montrer les films trouvés dans la liste"));
+    atelier.liaison.lie(recherche.Text2, texte);
+    atelier.liaison.lie(recherche.cmdRecherche, lancer);
+    atelier.auClic(lancer, &app::Session::cmdRecherche_Click);
+
+    auto* contenu = section(atelier, Aide::Recherche);
+    contenu->setSpacing(kGrand);
+    contenu->addLayout(champ(tr("Texte à c&hercher"), texte));
+    contenu->addLayout(champs(atelier));
+    contenu->addLayout(portee(atelier));
+    contenu->addSpacing(kSerre);
+    contenu->addLayout(aGauche({lancer}));
+    contenu->addStretch();
+    auto* boite = colonne(0);
+    boite->addWidget(defilant(contenu));
+    setLayout(boite);
+    atelier.liaison.lie(atelier.etats().panneaux.frameRecherche, this);
+}
+
+QLayout* PanneauRecherche::champs(const Atelier& atelier) {
+    const QString textes[] = {tr("T&itre"), tr("Réalisate&ur"), tr("A&nnée"), tr("A&cteurs")};
+    auto* cases = rangee({}, kLarge);
+    for (std::size_t i = 0; i < 4; ++i) {
+        auto* coche = nomme(new QCheckBox(textes[i]), "ZoneRecherche", i);
+        coche->setToolTip(tr("Chercher le texte dans ce champ"));
+        atelier.liaison.lie(atelier.etats().recherche.ZoneRecherche[i], coche);
+        cases->addWidget(coche);
+    }
+    cases->addStretch();
+    auto* boite = colonne(kSerre);
+    boite->addWidget(legende(tr("Chercher dans")));
+    boite->addLayout(cases);
+    return boite;
+}
+
+QLayout* PanneauRecherche::portee(const Atelier& atelier) {
+    const QString textes[] = {tr("Tous l&es films"), tr("&Mes films"), tr("Films non possé&dés")};
+    auto* groupe = new QWidget;  // option buttons exclude one another within their parent
+    auto* options = rangee({}, kLarge);
+    for (std::size_t i = 0; i < 3; ++i) {
+        auto* option = nomme(new QRadioButton(textes[i]), "TypeFilm", i);
+        option->setToolTip(tr("Les films parmi lesquels chercher"));
+        atelier.liaison.lie(atelier.etats().recherche.TypeFilm[i], option);
+        options->addWidget(option);
+    }
+    options->addStretch();
+    groupe->setLayout(options);
+    auto* boite = colonne(kSerre);
+    boite->addWidget(legende(tr("Parmi")));
+    boite->addWidget(groupe);
+    return boite;
+}
+
+}  // namespace ui

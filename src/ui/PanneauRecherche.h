@@ -1,0 +1,20 @@
+#pragma once
+
+#include "ui/Atelier.h"
+
+#include <QWidget>
+
+namespace ui {
+
+// The search: a text, the fields it is looked for in, and among which films.
+class PanneauRecherche final : public QWidget {
+    Q_OBJECT
+  public:
+    explicit PanneauRecherche(const Atelier& atelier, QWidget* parent = nullptr);
+
+  private:
+    [[nodiscard]] QLayout* champs(const Atelier& atelier);
+    [[nodiscard]] QLayout* portee(const Atelier& atelier);
+};
+
+}  // namespace ui

@@ -1,0 +1,61 @@
+#include "ui/PanneauSaisie.h"
+
+#include "ui/Boutons.h"
+#include "ui/Composition.h"
+#include "ui/Sections.h"
+
+#include <QCompleter>
+#include <QPlainTextEdit>
+
+namespace ui {
+
+PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
+    nomme(this, "Frame13");
+    auto& ajout = m_atelier.etats().ajout;
+    auto* resume = nomme(new QPlainTextEdit, "txtResume");
+    resume->setTabChangesFocus(true);
+    resume->setMinimumHeight(110);
+    auto* image = nomme((new Etiquette)->avecTon(Ton::Discret), "lblImage");
+    auto* ajouter = bouton<BoutonAccent>("cmdAjoutFilm", tr("Ajouter"), tr("Enregistrer la fiche"));
+    m_atelier.liaison.lie(ajout.txtResume, resume);
+    m_atelier.liaison.lie(ajout.lblImage, image);
+    m_atelier.liaison.lie(ajout.cmdAjoutFilm, ajouter);
+
+    auto* grille = new QGridLayout(this);
+    grille->setContentsMargins(0, 0, 0, 0);
+    grille->setHorizontalSpacing(kMoyen);
+    grille->setVerticalSpacing(kMoyen);
+    grille->addLayout(champ(tr("Titr&e"), texte(0)), 0, 0, 1, 3);
+    grille->addLayout(champ(tr("Réalisate&ur"), texte(1)), 0, 3, 1, 3);
+    grille->addLayout(champ(tr("Année"), texte(2)), 1, 0, 1, 2);
+    grille->addLayout(champ(tr("&Durée"), texte(3)), 1, 2, 1, 2);
+    grille->addLayout(champ(tr("&Genre"), liste("Combo2", ajout.Combo2)), 1, 4, 1, 2);
+    grille->addLayout(champ(tr("Origine"), liste("Combo3", ajout.Combo3)), 2, 0, 1, 3);
+    grille->addLayout(champ(tr("Production"), liste("Combo4", ajout.Combo4)), 2, 3, 1, 3);
+    grille->addLayout(champ(tr("A&cteurs, séparés par des points-virgules"), texte(4)), 3, 0, 1, 6);
+    grille->addLayout(champ(tr("Résumé"), resume), 4, 0, 1, 6);
+    auto* bas = aGauche({ajouter});
+    bas->insertWidget(1, image);
+    grille->addLayout(bas, 5, 0, 1, 6);
+    for (int c = 0; c < 6; ++c)
+        grille->setColumnStretch(c, 1);
+    m_atelier.liaison.lie(ajout.Frame13, this);
+}
+
+QWidget* PanneauSaisie::texte(std::size_t indice) {
+    auto* zone = nomme(new QLineEdit, "Text3", indice);
+    m_atelier.liaison.lie(m_atelier.etats().ajout.Text3[indice], zone);
+    return zone;
+}
+
+QWidget* PanneauSaisie::liste(const char* nom, ecran::Liste& etat) {
+    auto* choix = nomme(new ListeDeroulante, nom);
+    choix->setEditable(true);
+    choix->setInsertPolicy(QComboBox::NoInsert);
+    choix->completer()->setCompletionMode(QCompleter::PopupCompletion);  // inline it would change the letters typed
+    choix->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_atelier.liaison.lie(etat, choix);
+    return choix;
+}
+
+}  // namespace ui

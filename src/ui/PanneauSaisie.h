@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ui/Atelier.h"
+
+#include <QWidget>
+
+namespace ui {
+
+// The manual entry of a sheet.
+class PanneauSaisie final : public QWidget {
+    Q_OBJECT
+  public:
+    explicit PanneauSaisie(const Atelier& atelier, QWidget* parent = nullptr);
+
+  private:
+    [[nodiscard]] QWidget* texte(std::size_t indice);
+    [[nodiscard]] QWidget* liste(const char* nom, ecran::Liste& etat);
+
+    const Atelier m_atelier;
+};
+
+}  // namespace ui

@@ -1,0 +1,37 @@
+#include "ui/Programme.h"
+
+#include <QCoreApplication>
+
+namespace ui {
+
+namespace {
+
+template <typename Service>
+Service& choisi(Service* deTest, Service& reel) {
+    return deTest ? *deTest : reel;
+}
+
+}  // namespace
+
+Programme::Programme(const std::string& dossier, const Services& services)
+    : m_boites(m_liaison),
+      m_ecran(m_liaison),
+      m_session(app::Machine{choisi<dialogues::Dialogues>(services.dialogues, m_boites), m_ecran, m_images,
+                             choisi<systeme::Horloge>(services.horloge, m_horloge),
+                             choisi<systeme::Documents>(services.documents, m_documents), dossier}),
+      m_commande(m_liaison, choisi<dialogues::Dialogues>(services.dialogues, m_boites)),
+      m_fenetre(Atelier{m_session, m_liaison, m_commande, m_images, m_ecran}) {
+    m_boites.metParent(&m_fenetre);
+    QObject::connect(&m_commande, &Commande::finDuProgramme, &m_fenetre, [this] {
+        m_fenetre.hide();
+        QCoreApplication::quit();
+    });
+}
+
+bool Programme::demarre() {
+    if (m_commande.execute([this] { m_session.Form_Load(); }) != Commande::Issue::Faite) return false;
+    m_fenetre.ouvre();
+    return true;
+}
+
+}  // namespace ui

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "app/Session.h"
+#include "platform/systeme/Documents.h"
+#include "platform/systeme/Horloge.h"
+#include "ui/Commande.h"
+#include "ui/DialoguesQt.h"
+#include "ui/EcranQt.h"
+#include "ui/FenetrePrincipale.h"
+#include "ui/ImagesQt.h"
+#include "ui/Liaison.h"
+
+namespace ui {
+
+// One run of the program in its window: the session, the doors it is given, and the window that shows it.
+class Programme {
+  public:
+    // What a test puts in the place of the real services; the others are Qt's and the system's.
+    struct Services {
+        dialogues::Dialogues* dialogues = nullptr;
+        systeme::Horloge* horloge = nullptr;
+        systeme::Documents* documents = nullptr;
+    };
+
+    explicit Programme(const std::string& dossier) : Programme(dossier, Services{}) {}
+    Programme(const std::string& dossier, const Services& services);
+
+    // Loads the program and shows its window; false when it must end before, its message shown.
+    [[nodiscard]] bool demarre();
+
+    [[nodiscard]] FenetrePrincipale& fenetre() { return m_fenetre; }
+    [[nodiscard]] app::Session& session() { return m_session; }
+    [[nodiscard]] Commande& commande() { return m_commande; }
+    [[nodiscard]] EcranQt& ecran() { return m_ecran; }
+
+  private:
+    Liaison m_liaison;
+    DialoguesQt m_boites;
+    EcranQt m_ecran;
+    ImagesQt m_images;
+    systeme::HorlogeSysteme m_horloge;
+    systeme::DocumentsSysteme m_documents;
+    app::Session m_session;
+    Commande m_commande;
+    FenetrePrincipale m_fenetre;
+};
+
+}  // namespace ui

@@ -1,0 +1,236 @@
+#include "ui/StyleAmbrelis.h"
+
+#include "ui/Couleurs.h"
+#include "ui/Traits.h"
+
+#include <QPainter>
+#include <QPushButton>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+namespace ui {
+
+namespace {
+
+bool a(const QStyleOption& option, QStyle::StateFlag etat) {
+    return option.state.testFlag(etat);
+}
+
+void peintCadreDeSaisie(QPainter& peintre, const QStyleOption& option) {
+    const bool actif = a(option, QStyle::State_Enabled);
+    const bool focus = actif && a(option, QStyle::State_HasFocus);
+    peintSurface(peintre, option.rect, actif ? option.palette.color(QPalette::Base) : voile(option.palette),
+                 filet(option.palette));
+    if (focus) peintContourDeFocus(peintre, option.rect, accent(option.palette));
+}
+
+void peintListeDeroulante(QPainter& peintre, const QStyleOptionComboBox& option, const QRect& fleche) {
+    if (option.editable) {
+        peintCadreDeSaisie(peintre, option);
+    } else {
+        peintBouton(peintre, option, false);
+        if (a(option, QStyle::State_HasFocus)) peintContourDeFocus(peintre, option.rect, accent(option.palette));
+    }
+    peintChevron(peintre, fleche, 90, texteDiscret(option.palette));
+}
+
+void peintAscenseur(QPainter& peintre, const QStyleOptionSlider& option, QRect curseur) {
+    const bool survol = option.state & (QStyle::State_MouseOver | QStyle::State_Sunken);
+    const QColor couleur =
+        melange(option.palette.color(QPalette::WindowText), option.palette.color(QPalette::Base), survol ? 0.45 : 0.25);
+    const int retrait = survol ? 2 : 3;
+    curseur.adjust(retrait, retrait, -retrait, -retrait);
+    peintSurface(peintre, curseur, couleur, {}, std::min(curseur.width(), curseur.height()) / 2.0);
+}
+
+void peintLigneChoisie(QPainter& peintre, const QStyleOptionViewItem& option) {
+    const QRectF zone = QRectF(option.rect).adjusted(0, 1, -2, -1);
+    if (a(option, QStyle::State_Selected))
+        peintSurface(peintre, zone, accent(option.palette), {});
+    else if (a(option, QStyle::State_MouseOver) && a(option, QStyle::State_Enabled))
+        peintSurface(peintre, zone, voile(option.palette), {});
+}
+
+}  // namespace
+
+StyleAmbrelis::StyleAmbrelis() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+void StyleAmbrelis::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* peintre,
+                                  const QWidget* widget) const {
+    switch (element) {
+        case PE_PanelButtonCommand: {
+            const auto* bouton = qstyleoption_cast<const QStyleOptionButton*>(option);
+            peintBouton(*peintre, *option, bouton && bouton->features.testFlag(QStyleOptionButton::Flat));
+            if (a(*option, State_HasFocus)) peintContourDeFocus(*peintre, option->rect, accent(option->palette));
+            return;
+        }
+        case PE_PanelButtonTool:
+            peintBouton(*peintre, *option, true);
+            return;
+        case PE_PanelLineEdit: {
+            const auto* cadre = qstyleoption_cast<const QStyleOptionFrame*>(option);
+            if (cadre && cadre->lineWidth > 0) peintCadreDeSaisie(*peintre, *option);
+            return;
+        }
+        case PE_Frame:
+            if (widget && widget->inherits("QComboBoxPrivateContainer")) break;
+            peintSurface(*peintre, option->rect, {},
+                         a(*option, State_HasFocus) ? accent(option->palette) : filet(option->palette));
+            return;
+        case PE_IndicatorCheckBox:
+        case PE_IndicatorItemViewItemCheck:
+            peintCase(*peintre, *option);
+            return;
+        case PE_IndicatorRadioButton:
+            peintRond(*peintre, *option);
+            return;
+        case PE_IndicatorBranch:
+            if (a(*option, State_Children))
+                peintChevron(*peintre, option->rect, a(*option, State_Open) ? 90 : 0, texteDiscret(option->palette));
+            return;
+        case PE_PanelItemViewRow:
+            return;
+        case PE_PanelItemViewItem: {
+            const auto* ligne = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+            if (ligne) peintLigneChoisie(*peintre, *ligne);
+            return;
+        }
+        case PE_FrameFocusRect:
+            if (widget && (widget->inherits("QAbstractItemView") || widget->inherits("QPushButton"))) return;
+            peintContourDeFocus(*peintre, QRectF(option->rect).adjusted(-2, -1, 2, 1), accent(option->palette), 3);
+            return;
+        default:
+            break;
+    }
+    QProxyStyle::drawPrimitive(element, option, peintre, widget);
+}
+
+void StyleAmbrelis::drawControl(ControlElement element, const QStyleOption* option, QPainter* peintre,
+                                const QWidget* widget) const {
+    switch (element) {
+        case CE_Splitter:
+            return;
+        case CE_ProgressBarGroove:
+            peintSurface(*peintre, option->rect, voile(option->palette), {});
+            return;
+        case CE_ProgressBarContents: {
+            const auto* barre = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
+            if (!barre || barre->maximum <= barre->minimum) break;
+            QRectF fait = option->rect;
+            fait.setWidth(fait.width() * (barre->progress - barre->minimum) / (barre->maximum - barre->minimum));
+            if (fait.width() > 1) peintSurface(*peintre, fait, accent(option->palette), {});
+            return;
+        }
+        default:
+            break;
+    }
+    QProxyStyle::drawControl(element, option, peintre, widget);
+}
+
+void StyleAmbrelis::drawComplexControl(ComplexControl controle, const QStyleOptionComplex* option, QPainter* peintre,
+                                       const QWidget* widget) const {
+    if (controle == CC_ComboBox) {
+        const auto* liste = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        if (liste)
+            return peintListeDeroulante(*peintre, *liste, subControlRect(controle, option, SC_ComboBoxArrow, widget));
+    }
+    if (controle == CC_ScrollBar) {
+        const auto* ascenseur = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        if (ascenseur && ascenseur->maximum > ascenseur->minimum)
+            peintAscenseur(*peintre, *ascenseur, subControlRect(controle, option, SC_ScrollBarSlider, widget));
+        return;
+    }
+    QProxyStyle::drawComplexControl(controle, option, peintre, widget);
+}
+
+int StyleAmbrelis::pixelMetric(PixelMetric mesure, const QStyleOption* option, const QWidget* widget) const {
+    switch (mesure) {
+        case PM_ButtonMargin:
+            return 16;
+        case PM_ButtonShiftHorizontal:
+        case PM_ButtonShiftVertical:
+            return 0;
+        case PM_ScrollBarExtent:
+            return 12;
+        case PM_SplitterWidth:
+            return 16;
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+        case PM_ExclusiveIndicatorWidth:
+        case PM_ExclusiveIndicatorHeight:
+            return 16;
+        case PM_CheckBoxLabelSpacing:
+        case PM_RadioButtonLabelSpacing:
+            return 8;
+        default:
+            return QProxyStyle::pixelMetric(mesure, option, widget);
+    }
+}
+
+int StyleAmbrelis::styleHint(StyleHint conseil, const QStyleOption* option, const QWidget* widget,
+                             QStyleHintReturn* retour) const {
+    switch (conseil) {
+        case SH_ComboBox_Popup:
+            return 0;
+        case SH_EtchDisabledText:
+        case SH_ItemView_ArrowKeysNavigateIntoChildren:
+            return conseil == SH_EtchDisabledText ? 0 : 1;
+        case SH_ScrollBar_Transient:
+            return 0;
+        default:
+            return QProxyStyle::styleHint(conseil, option, widget, retour);
+    }
+}
+
+QSize StyleAmbrelis::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contenu,
+                                      const QWidget* widget) const {
+    QSize taille = QProxyStyle::sizeFromContents(type, option, contenu, widget);
+    const int haute = option ? option->fontMetrics.height() + 14 : 0;
+    switch (type) {
+        case CT_PushButton:
+        case CT_ToolButton:
+        case CT_ComboBox:
+        case CT_LineEdit:
+            return {taille.width(), std::max(taille.height(), haute)};
+        case CT_CheckBox:
+        case CT_RadioButton:
+            return {taille.width(), std::max(taille.height(), 22)};
+        default:
+            return taille;
+    }
+}
+
+QRect StyleAmbrelis::subControlRect(ComplexControl controle, const QStyleOptionComplex* option, SubControl partie,
+                                    const QWidget* widget) const {
+    const auto* ascenseur = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (controle != CC_ScrollBar || !ascenseur) return QProxyStyle::subControlRect(controle, option, partie, widget);
+    // No arrows: the whole length is the groove.
+    const bool couche = ascenseur->orientation == Qt::Horizontal;
+    const QRect tout = ascenseur->rect;
+    const int longueur = couche ? tout.width() : tout.height();
+    const int etendue = ascenseur->maximum - ascenseur->minimum;
+    const qint64 ensemble = qint64{etendue} + ascenseur->pageStep;
+    const int curseur = ensemble > 0 ? std::clamp(static_cast<int>(qint64{longueur} * ascenseur->pageStep / ensemble),
+                                                  std::min(28, longueur), longueur)
+                                     : longueur;
+    const int debut = sliderPositionFromValue(ascenseur->minimum, ascenseur->maximum, ascenseur->sliderPosition,
+                                              longueur - curseur, ascenseur->upsideDown);
+    const auto tranche = [&](int de, int sur) {
+        return couche ? QRect(tout.x() + de, tout.y(), sur, tout.height())
+                      : QRect(tout.x(), tout.y() + de, tout.width(), sur);
+    };
+    switch (partie) {
+        case SC_ScrollBarSlider:
+            return tranche(debut, curseur);
+        case SC_ScrollBarGroove:
+            return tout;
+        case SC_ScrollBarSubPage:
+            return tranche(0, debut);
+        case SC_ScrollBarAddPage:
+            return tranche(debut + curseur, longueur - debut - curseur);
+        default:
+            return {};
+    }
+}
+
+}  // namespace ui

@@ -1,0 +1,89 @@
+#include "ui/VueAffiche.h"
+
+#include "ui/Couleurs.h"
+#include "ui/Etiquettes.h"
+#include "ui/Icones.h"
+#include "ui/Traits.h"
+
+#include <QPainter>
+
+namespace ui {
+
+namespace {
+
+constexpr QSize kBoite{193, 297};  // 2895 by 4455 twips
+constexpr double kAgrandissementMax = 2.2;
+
+}  // namespace
+
+class VueAffiche::LienImage final : public Lien {
+  public:
+    LienImage(ecran::Image& etat, VueAffiche& vue) : m_etat(etat), m_vue(vue) {}
+
+    void ecrit() override {
+        if (m_etat == m_montre) return;
+        if (m_etat.Visible != m_montre.Visible) m_vue.setVisible(m_etat.Visible);
+        m_montre = m_etat;
+        m_vue.update();
+        m_vue.parentWidget()->update();
+    }
+
+  private:
+    ecran::Image& m_etat;
+    VueAffiche& m_vue;
+    ecran::Image m_montre;
+};
+
+VueAffiche::VueAffiche(ImagesQt& images, QWidget* parent) : QWidget(parent), m_images(images) {}
+
+std::unique_ptr<Lien> VueAffiche::lien(ecran::Image& etat) {
+    return std::make_unique<LienImage>(etat, *this);
+}
+
+QSize VueAffiche::pixels() const {
+    return (QSizeF(size()) * devicePixelRatioF()).toSize();
+}
+
+void VueAffiche::resizeEvent(QResizeEvent*) {
+    m_images.metTailleVoulue(pixels());
+}
+
+void VueAffiche::paintEvent(QPaintEvent*) {
+    if (m_images.estVide()) return;
+    const QPixmap& affiche = m_images.affiche(pixels());
+    if (affiche.isNull()) return;
+    QRectF zone(QPointF(), QSizeF(affiche.size()).scaled(size(), Qt::KeepAspectRatio));
+    zone.moveCenter(QRectF(rect()).center());
+    QPainter peintre(this);
+    peintre.setRenderHint(QPainter::SmoothPixmapTransform);
+    peintre.drawPixmap(zone.toAlignedRect(), affiche);
+}
+
+CadreAffiche::CadreAffiche(ImagesQt& images, QWidget* parent)
+    : QWidget(parent),
+      m_image(new VueAffiche(images, this)),
+      m_statut((new Etiquette({}, this))->avecTon(Ton::Discret)->avecLignes(3)) {
+    m_statut->setAlignment(Qt::AlignCenter);
+    setFixedSize(kBoite);
+}
+
+void CadreAffiche::tiensDans(const QSize& place) {
+    const QSize voulue = kBoite.scaled(place, Qt::KeepAspectRatio).boundedTo(kBoite * kAgrandissementMax);
+    setFixedSize(voulue.expandedTo(kBoite));
+}
+
+void CadreAffiche::resizeEvent(QResizeEvent*) {
+    m_image->setGeometry(rect());
+    m_statut->setGeometry(rect().adjusted(12, height() / 2 - 8, -12, -12));
+}
+
+void CadreAffiche::paintEvent(QPaintEvent*) {
+    if (!m_image->isHidden()) return;
+    QPainter peintre(this);
+    peintSurface(peintre, rect(), voile(palette()), filet(palette()));
+    const QRectF signe(width() / 2.0 - 24, height() / 2.0 - 72, 48, 48);
+    peintPictogramme(peintre, signe, Pictogramme::Clap,
+                     melange(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.30));
+}
+
+}  // namespace ui

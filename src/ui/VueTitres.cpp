@@ -1,0 +1,126 @@
+#include "ui/VueTitres.h"
+
+#include "ui/DelegueTitres.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace ui {
+
+// The tree's part of the liaison: the node list is too large to be compared, its generation and count tell it changed.
+class VueTitres::LienArbre final : public Lien {
+  public:
+    LienArbre(browse::VueArbre& etat, VueTitres& vue) : m_etat(etat), m_vue(vue) {}
+
+    void lit() override {
+        // The selected row: the current one also moves when the tree merely takes the focus.
+        const QModelIndexList choisis = m_vue.selectionModel()->selectedIndexes();
+        m_etat.SelectedItem = m_choisi = choisis.isEmpty() ? 0 : ModeleArbre::noeud(choisis.first());
+    }
+
+    void ecrit() override {
+        if (m_generation != m_etat.Nodes.generation() || m_nombre != m_etat.Nodes.Count()) recommence();
+        if (m_coches != m_etat.coches || m_cases != m_etat.Checkboxes) {
+            m_coches = m_etat.coches;
+            m_cases = m_etat.Checkboxes;
+            m_vue.m_modele.coches();
+        }
+        if (m_choisi != m_etat.SelectedItem) {
+            m_choisi = m_etat.SelectedItem;
+            m_vue.montreNoeud(m_choisi);
+        }
+        if (m_vue.isEnabled() != m_etat.Enabled) m_vue.setEnabled(m_etat.Enabled);
+    }
+
+  private:
+    void recommence() {
+        m_generation = m_etat.Nodes.generation();
+        m_nombre = m_etat.Nodes.Count();
+        m_choisi = 0;
+        m_vue.m_modele.recommence();
+    }
+
+    browse::VueArbre& m_etat;
+    VueTitres& m_vue;
+    int m_generation = 0;
+    int m_nombre = 0;
+    int m_choisi = 0;
+    bool m_cases = false;
+    std::set<int> m_coches;
+};
+
+VueTitres::VueTitres(browse::VueArbre& etat, QWidget* parent) : QTreeView(parent), m_modele(etat) {
+    setModel(&m_modele);
+    setItemDelegate(new DelegueTitres(this));
+    setUniformRowHeights(true);
+    setHeaderHidden(true);
+    setExpandsOnDoubleClick(false);
+    setEditTriggers(NoEditTriggers);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(ScrollPerPixel);
+    setTextElideMode(Qt::ElideRight);
+    setIndentation(18);
+    setMouseTracking(true);
+    header()->setStretchLastSection(true);
+    connect(this, &QTreeView::clicked, this, &VueTitres::clique);
+}
+
+std::unique_ptr<Lien> VueTitres::lien() {
+    return std::make_unique<LienArbre>(m_modele.etat(), *this);
+}
+
+void VueTitres::clique(const QModelIndex& index) {
+    basculeGroupe(index);
+    emit noeudChoisi(ModeleArbre::noeud(index));
+}
+
+void VueTitres::basculeGroupe(const QModelIndex& index) {
+    if (m_modele.hasChildren(index)) setExpanded(index, !isExpanded(index));
+}
+
+void VueTitres::montreNoeud(int indice) {
+    const QModelIndex index = m_modele.indexDuNoeud(indice);
+    setCurrentIndex(index);
+    if (index.isValid())
+        scrollTo(index);
+    else
+        clearSelection();
+}
+
+void VueTitres::keyPressEvent(QKeyEvent* evenement) {
+    const QModelIndex avant = currentIndex();
+    const bool valide = evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter;
+    if (valide && avant.isValid()) {
+        clique(avant);
+        return;
+    }
+    QTreeView::keyPressEvent(evenement);
+    const QModelIndex apres = currentIndex();
+    if (apres.isValid() && apres != avant) emit noeudChoisi(ModeleArbre::noeud(apres));
+}
+
+void VueTitres::mouseReleaseEvent(QMouseEvent* evenement) {
+    QTreeView::mouseReleaseEvent(evenement);
+    if (evenement->button() != Qt::RightButton) return;
+    const QModelIndex index = indexAt(evenement->position().toPoint());
+    emit menuDemande(index.isValid() ? ModeleArbre::noeud(index) : 0, evenement->globalPosition().toPoint());
+}
+
+// The mouse asks for its menu when it is released; only the keyboard does it here.
+void VueTitres::contextMenuEvent(QContextMenuEvent* evenement) {
+    evenement->accept();
+    if (evenement->reason() == QContextMenuEvent::Mouse || !currentIndex().isValid()) return;
+    scrollTo(currentIndex());
+    emit menuDemande(ModeleArbre::noeud(currentIndex()),
+                     viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()));
+}
+
+void VueTitres::paintEvent(QPaintEvent* evenement) {
+    QTreeView::paintEvent(evenement);
+    if (std::exchange(m_peinte, true)) return;
+    emit peinte();
+}
+
+}  // namespace ui

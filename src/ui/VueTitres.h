@@ -1,0 +1,43 @@
+#pragma once
+
+#include "browse/EtatListe.h"
+#include "ui/Liaison.h"
+#include "ui/ModeleArbre.h"
+
+#include <QTreeView>
+#include <set>
+
+namespace ui {
+
+// The title tree. Its signals are the user's gestures alone: a row that becomes current by itself tells nothing.
+class VueTitres final : public QTreeView {
+    Q_OBJECT
+  public:
+    explicit VueTitres(browse::VueArbre& etat, QWidget* parent = nullptr);
+
+    [[nodiscard]] ModeleArbre& modele() { return m_modele; }
+    [[nodiscard]] std::unique_ptr<Lien> lien();
+
+  signals:
+    void noeudChoisi(int indice);                         // click, or a key that moved to it or pressed it
+    void menuDemande(int indice, const QPoint& endroit);  // right click, 0 over no node; the place is global
+    void peinte();                                        // painted for the first time
+
+  protected:
+    void keyPressEvent(QKeyEvent* evenement) override;
+    void mouseReleaseEvent(QMouseEvent* evenement) override;
+    void contextMenuEvent(QContextMenuEvent* evenement) override;
+    void paintEvent(QPaintEvent* evenement) override;
+
+  private:
+    class LienArbre;
+
+    void clique(const QModelIndex& index);
+    void basculeGroupe(const QModelIndex& index);
+    void montreNoeud(int indice);
+
+    ModeleArbre m_modele;
+    bool m_peinte = false;
+};
+
+}  // namespace ui
