@@ -41,7 +41,7 @@ installe() {
   admin+=(env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o DPkg::Lock::Timeout=300 -o Acquire::Retries=2)
   mkdir -p "$racine/build"
   journal=$racine/build/installation.log
-  dit "Installing what is missing: ${manque[*]}"
+  dit "Installing what is missing (a minute or two at first): ${manque[*]}"
   if ! "${admin[@]}" install --no-install-recommends "${manque[@]}" </dev/null >"$journal" 2>&1; then
     dit "  reading the package lists first"
     "${admin[@]}" update </dev/null >"$journal" 2>&1 || true
@@ -63,7 +63,9 @@ construit() {
     dit "The checkout has moved: $preset is built anew"
     rm -rf "$dossier"
   fi
-  if [ ! -f "$dossier/build.ninja" ]; then
+  if [ -f "$dossier/build.ninja" ]; then
+    dit "Bringing the build up to date ($preset)"
+  else
     dit "Building Ambrelis ($preset); the first time takes some minutes"
     (cd "$racine" && cmake --preset "$preset" "${lanceur[@]}") </dev/null >"$journal" 2>&1 || raconte "$journal" "The build could not be prepared"
   fi
