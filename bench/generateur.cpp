@@ -1,0 +1,125 @@
+// generateur base|fiches N CHEMIN [--affiches] [--depuis NUMERO]
+// Writes N films as a base of the program (the file CHEMIN), or as .FILM sheets in the folder CHEMIN.
+
+#include "Affiches.h"
+#include "Film.h"
+#include "Mesure.h"
+#include "db/Affiches.h"
+#include "db/Schema.h"
+#include "platform/dao/DBEngine.h"
+#include "util/Texte.h"
+
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <stdexcept>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Demande {
+    std::string genre;
+    std::uint64_t nombre = 0, premier = 0;
+    fs::path chemin;
+    bool affiches = false;
+};
+
+void ajoute(dao::Recordset& films, const bench::Film& f, const std::optional<std::string>& affiche) {
+    films.AddNew();
+    films.assigne("Titre", f.titre);
+    films.assigne("Realisateur", f.realisateur);
+    films.assigne("Annee", f.annee);
+    films.assigne("Origine", f.origine);
+    films.assigne("Genre", f.genre);
+    films.assigne("Duree", f.duree);
+    films.assigne("Acteurs", f.acteurs);
+    films.assigne("Resume", f.resume);
+    films.assigne("Production", f.production);
+    films.assigne("DateAjout", f.dateAjout);
+    if (f.note > 0) films.assigne("Note", f.note);
+    if (affiche) films.assigne("Affiche", db::valeurAfficheDansLaBase(*affiche));
+    films.Update();
+}
+
+void ajoute(dao::Recordset& personnel, const bench::Film& f, const bench::Possession& p) {
+    personnel.AddNew();
+    personnel.assigne("Titre2", f.titre);
+    personnel.assigne("Realisateur2", f.realisateur);
+    personnel.assigne("Rangement", p.rangement);
+    personnel.assigne("Fichier1", p.fichier1);
+    personnel.assigne("Fichier2", "");
+    personnel.assigne("Fichier3", "");
+    personnel.assigne("Pret", p.pret);
+    personnel.assigne("Reserve", p.reserve);
+    personnel.assigne("Date", p.date);
+    personnel.assigne("Divers", p.divers);
+    personnel.assigne("Support", p.support);
+    personnel.Update();
+}
+
+void ecritBase(const Demande& d, const std::optional<bench::Affiches>& affiches) {
+    fs::remove(d.chemin);
+    dao::DBEngine::CreateDatabase(d.chemin, db::schema());
+    dao::Database base = dao::DBEngine::OpenDatabase(d.chemin);
+    dao::Recordset films = base.OpenRecordset("Films"), personnel = base.OpenRecordset("Personnel");
+    dao::Transaction transaction(base);
+    for (std::uint64_t i = d.premier; i < d.premier + d.nombre; ++i) {
+        const bench::Film f = bench::film(i);
+        ajoute(films, f, affiches ? std::optional(affiches->affiche(i)) : std::nullopt);
+        if (f.possession) ajoute(personnel, f, *f.possession);
+    }
+    transaction.confirme();
+}
+
+void ecritFichier(const fs::path& chemin, const std::string& octets) {
+    std::ofstream flux(chemin, std::ios::binary);
+    if (!flux.write(octets.data(), static_cast<std::streamsize>(octets.size())).flush())
+        throw std::runtime_error("cannot write " + chemin.string());
+}
+
+void ecritFiches(const Demande& d, const std::optional<bench::Affiches>& affiches) {
+    fs::create_directories(d.chemin);
+    for (std::uint64_t i = d.premier; i < d.premier + d.nombre; ++i) {
+        const bench::Film f = bench::film(i);
+        std::string fiche;
+        for (const std::string& ligne :
+             {f.titre, f.realisateur, f.annee, f.origine, f.genre, f.duree, f.acteurs, f.resume, f.production})
+            fiche += ligne + "\r\n";
+        const fs::path nom = d.chemin / ("film" + std::to_string(i));
+        ecritFichier(fs::path(nom) += ".FILM", util::vers1252(fiche));
+        if (affiches) ecritFichier(fs::path(nom) += ".jpg", affiches->affiche(i));
+    }
+}
+
+Demande lisDemande(int nombre, char** mots) {
+    if (nombre < 4)
+        throw std::invalid_argument("usage: generateur base|fiches N CHEMIN [--affiches] [--depuis NUMERO]");
+    Demande d{mots[1], std::stoull(mots[2]), 0, mots[3]};
+    for (int i = 4; i < nombre; ++i) {
+        if (std::strcmp(mots[i], "--affiches") == 0) d.affiches = true;
+        if (std::strcmp(mots[i], "--depuis") == 0 && i + 1 < nombre) d.premier = std::stoull(mots[i + 1]);
+    }
+    if (d.premier + d.nombre > bench::kNombreMaxFilms)
+        throw std::invalid_argument("films are distinct below " + std::to_string(bench::kNombreMaxFilms) + " only");
+    return d;
+}
+
+}  // namespace
+
+int main(int nombre, char** mots) try {
+    const Demande d = lisDemande(nombre, mots);
+    std::optional<bench::Affiches> affiches;
+    if (d.affiches) affiches.emplace();
+    if (d.genre == "base")
+        ecritBase(d, affiches);
+    else if (d.genre == "fiches")
+        ecritFiches(d, affiches);
+    else
+        throw std::invalid_argument("the first word is base or fiches");
+    return 0;
+} catch (const std::exception& e) {
+    std::cerr << "generateur: " << e.what() << '\n';
+    return 1;
+}

@@ -1,0 +1,104 @@
+// mesure_fenetre DOSSIER [CLICS]: the program itself in a program folder, started as its main does, driven and watched from
+// outside by its published control names.
+
+#include "Guetteur.h"
+#include "ui/Apparence.h"
+#include "ui/Programme.h"
+
+#include <QAbstractItemModel>
+#include <QComboBox>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QTreeView>
+#include <stdexcept>
+
+namespace {
+
+template <typename Type>
+Type& controle(const QWidget& fenetre, const char* nom) {
+    if (auto* trouve = fenetre.findChild<Type*>(nom)) return *trouve;
+    throw std::runtime_error(std::string("no control named ") + nom);
+}
+
+// What a choice in a drop-down list does: the entry becomes the current one, then the list tells of the gesture.
+double choisit(QComboBox& liste, int indice, bench::Guetteur& arbre) {
+    return arbre.dureeDe([&] {
+        liste.setCurrentIndex(indice);
+        emit liste.activated(indice);
+    });
+}
+
+std::vector<QModelIndex> films(const QAbstractItemModel& modele) {
+    std::vector<QModelIndex> resultat;
+    for (int g = 0; g < modele.rowCount(); ++g) {
+        const QModelIndex groupe = modele.index(g, 0);
+        for (int f = 0; f < modele.rowCount(groupe); ++f)
+            resultat.push_back(modele.index(f, 0, groupe));
+    }
+    return resultat;
+}
+
+void clique(QTreeView& arbre, const QModelIndex& film) {
+    const QPointF place = arbre.visualRect(film).center();
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        const Qt::MouseButtons boutons = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+        QMouseEvent evenement(type, place, arbre.viewport()->mapToGlobal(place), Qt::LeftButton, boutons,
+                              Qt::NoModifier);
+        QApplication::sendEvent(arbre.viewport(), &evenement);
+    }
+}
+
+void mesureClics(const QWidget& fenetre, QTreeView& arbre, std::size_t nombre) {
+    std::vector<double> durees;
+    const auto tous = films(*arbre.model());
+    auto& titre = controle<QLabel>(fenetre, "Label1_0");
+    auto& chargement = controle<QWidget>(fenetre, "Label12");
+    bench::Guetteur affiche(controle<QWidget>(fenetre, "Image1"));
+    for (std::size_t i = 0; i < nombre; ++i) {
+        const QModelIndex film = tous[i * tous.size() / nombre];
+        arbre.scrollTo(film, QAbstractItemView::PositionAtCenter);
+        bench::laisseFinir();
+        durees.push_back(affiche.dureeDe([&] { clique(arbre, film); }));
+        if (titre.text() != film.data().toString() || chargement.isVisible())
+            throw std::runtime_error("the sheet of another film is shown, or no poster");
+    }
+    bench::declareClics(std::move(durees));
+}
+
+void mesureChoix(const QWidget& fenetre, bench::Guetteur& arbre) {
+    auto& tri = controle<QComboBox>(fenetre, "ChoixTri");
+    auto& zone = controle<QComboBox>(fenetre, "ChoixZone");
+    for (int i : bench::kTris)
+        bench::declare("tri" + std::to_string(i), choisit(tri, i, arbre));
+    for (int i : bench::kZones)
+        bench::declare("zone" + std::to_string(i), choisit(zone, i, arbre));
+}
+
+void mesure(const std::string& dossier, std::size_t clics) {
+    ui::habille(dossier);
+    ui::Programme programme(dossier);
+    QWidget& fenetre = programme.fenetre();
+    auto& arbre = controle<QTreeView>(fenetre, "TreeView1");
+    bench::Guetteur guetteur(*arbre.viewport());
+    if (!programme.demarre()) throw std::runtime_error("the program ended at its start");
+    guetteur.attend();
+    bench::declare("peint", bench::depuisLeDepart());
+    if (arbre.model()->rowCount() == 0) throw std::runtime_error("the tree shows no film");
+    bench::laisseFinir();
+    mesureChoix(fenetre, guetteur);
+    if (clics > 0) mesureClics(fenetre, arbre, clics);
+    bench::declare("memoire", bench::memoireDePointe());
+}
+
+}  // namespace
+
+int main(int nombre, char** mots) try {
+    QApplication application(nombre, mots);
+    QApplication::setApplicationName(QStringLiteral("Ambrelis"));
+    if (nombre < 2) throw std::invalid_argument("usage: mesure_fenetre DOSSIER [CLICS]");
+    mesure(std::string(mots[1]) + "/", nombre > 2 ? std::stoul(mots[2]) : 0);
+    return 0;
+} catch (const std::exception& e) {
+    std::cerr << "mesure_fenetre: " << e.what() << '\n';
+    return 1;
+}

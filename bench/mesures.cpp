@@ -1,0 +1,181 @@
+// mesures PROGRAMME DOSSIER [--vite] [--garde]: makes collections in DOSSIER, each beside a copy of the program folder
+// PROGRAMME, runs every measured program and its floor on them in turn, and prints the table.
+
+#include "Programmes.h"
+#include "Tableau.h"
+
+#include <cstring>
+#include <iostream>
+#include <stdexcept>
+
+namespace {
+
+namespace fs = std::filesystem;
+using bench::Figures;
+
+struct Options {
+    fs::path programme, dossier;
+    bool vite = false, garde = false;
+    [[nodiscard]] int passages() const { return vite ? 3 : 9; }
+};
+
+struct Collection {
+    int films = 0;
+    bool affiches = false;
+    double demarrageMax = 0, memoireMax = 0;  // targets; 0: none
+    [[nodiscard]] std::string nom() const { return std::to_string(films) + (affiches ? "-affiches" : ""); }
+};
+
+constexpr int kFiches = 1000, kPremiereFiche = 200000;
+constexpr int kClics = 200;
+
+double megaoctets(const fs::path& chemin) {
+    return static_cast<double>(fs::file_size(chemin)) / 1e6;
+}
+
+// An empty program folder, as the user has one before the first start.
+void installe(const Options& options, const fs::path& dossier) {
+    fs::remove_all(dossier);
+    fs::create_directories(dossier);
+    for (const char* nom : {"Modele.dat", "Extensions.txt", "traductions"})
+        fs::copy(options.programme / nom, dossier / nom, fs::copy_options::recursive);
+}
+
+fs::path dossierDe(const Options& options, const Collection& c) {
+    return options.dossier / c.nom();
+}
+
+// A program folder and its base.
+void installe(const Options& options, const Collection& c) {
+    installe(options, dossierDe(options, c));
+    std::vector<std::string> mots{"base", std::to_string(c.films), (dossierDe(options, c) / "Films.mdb").string()};
+    if (c.affiches) mots.emplace_back("--affiches");
+    static_cast<void>(bench::lance("generateur", mots));
+}
+
+std::pair<Figures, Figures> enAlternance(int passages, const auto& plancher, const auto& programme) {
+    std::vector<Figures> planchers, programmes;
+    for (int i = 0; i < passages; ++i) {
+        planchers.push_back(plancher());
+        programmes.push_back(programme());
+    }
+    return {bench::retenues(planchers), bench::retenues(programmes)};
+}
+
+// The mean of the figures whose names begin so, and the one farthest from its floor.
+void compareSerie(bench::Tableau& tableau, const std::string& prefixe, const std::string& texte,
+                  const Figures& plancher, const Figures& programme, std::optional<double> cible) {
+    double somme = 0, sommePlancher = 0, pire = 0;
+    int nombre = 0;
+    std::string laPire;
+    for (const auto& [nom, valeur] : programme) {
+        if (!nom.starts_with(prefixe)) continue;
+        somme += valeur;
+        sommePlancher += plancher.at(nom);
+        ++nombre;
+        if (valeur / plancher.at(nom) > pire) pire = valeur / plancher.at(nom), laPire = nom;
+    }
+    tableau.ajoute(
+        {texte + ", mean of " + std::to_string(nombre), "ms", somme / nombre, sommePlancher / nombre, cible, true});
+    tableau.ajoute({"  farthest from its floor: " + laPire, "ms", programme.at(laPire), plancher.at(laPire), {}, true});
+}
+
+void mesureFenetre(bench::Tableau& tableau, const Options& options, const Collection& c) {
+    installe(options, c);
+    const fs::path dossier = dossierDe(options, c);
+    const std::string base = (dossier / "Films.mdb").string();
+    const std::string clics = c.affiches ? std::to_string(kClics) : "0";
+    const auto [plancher, programme] = enAlternance(
+        options.passages(),
+        [&] {
+            return bench::lance("plancher_arbre", {base, clics});
+        },
+        [&] {
+            return bench::lance("mesure_fenetre", {dossier.string(), clics});
+        });
+    const auto cible = [](double valeur) { return valeur > 0 ? std::optional(valeur) : std::nullopt; };
+    tableau.titre(std::to_string(c.films) + " films, " + (c.affiches ? "posters in the base" : "no posters"));
+    tableau.ajoute(
+        {"start to the tree painted", "ms", programme.at("peint"), plancher.at("peint"), cible(c.demarrageMax), true});
+    compareSerie(tableau, "tri", "change of sort", plancher, programme, 2.0);
+    compareSerie(tableau, "zone", "change of zone", plancher, programme, {});
+    if (c.affiches) {
+        tableau.ajoute(
+            {"click to sheet shown, median", "ms", programme.at("clic_median"), plancher.at("clic_median"), 16.0});
+        tableau.ajoute(
+            {"click to sheet shown, worst of 200", "ms", programme.at("clic_pire"), plancher.at("clic_pire"), {}});
+        const Figures listes = bench::lance("mesure_session", {"listes", dossier.string()});
+        const fs::path sansAffiches = dossierDe(options, {c.films, false}) / "Films.mdb";
+        tableau.ajoute({"read by the costliest listing", "MB", listes.at("lu_au_plus"), {}, megaoctets(sansAffiches)});
+    }
+    tableau.ajoute({"peak memory", "MB", programme.at("memoire"), plancher.at("memoire"), cible(c.memoireMax)});
+    tableau.ajoute({"size of the base", "MB", megaoctets(base), {}, {}});
+}
+
+// Each pass starts again from a copy of the same base.
+Figures importe(const Options& options, const std::string& programme, const fs::path& modele) {
+    const fs::path copie = options.dossier / "import";
+    installe(options, copie);
+    fs::copy_file(modele / "Films.mdb", copie / "Films.mdb");
+    const std::string fiches = (options.dossier / "fiches").string();
+    if (programme == "plancher_import") return bench::lance(programme, {(copie / "Films.mdb").string(), fiches});
+    return bench::lance("mesure_session", {programme, copie.string(), fiches});
+}
+
+void mesureImport(bench::Tableau& tableau, const Options& options, const std::vector<int>& tailles) {
+    static_cast<void>(
+        bench::lance("generateur", {"fiches", std::to_string(kFiches), (options.dossier / "fiches").string(),
+                                    "--affiches", "--depuis", std::to_string(kPremiereFiche)}));
+    tableau.titre("import of " + std::to_string(kFiches) + " sheets with their posters, into the base");
+    std::map<int, double> durees;
+    for (int films : tailles) {
+        const fs::path modele = dossierDe(options, {films, false});
+        if (!fs::exists(modele)) installe(options, Collection{films, false});
+        const auto [plancher, programme] = enAlternance(
+            3, [&] { return importe(options, "plancher_import", modele); },
+            [&] { return importe(options, "import", modele); });
+        durees[films] = programme.at("import");
+        tableau.ajoute(
+            {"into " + std::to_string(films) + " films", "ms", durees[films], plancher.at("import"), 3.0, true});
+        tableau.ajoute(
+            {"  with the resemblance test", "ms", importe(options, "ressemblance", modele).at("import"), {}, {}});
+        tableau.ajoute({"  peak memory", "MB", programme.at("memoire"), plancher.at("memoire"), {}});
+    }
+    const int petite = tailles[1], grande = tailles.back();
+    tableau.ajoute({"into " + std::to_string(grande) + " against into " + std::to_string(petite), "ms", durees[grande],
+                    durees[petite], 1.3, true});
+}
+
+Options litOptions(int nombre, char** mots) {
+    if (nombre < 3) throw std::invalid_argument("usage: mesures PROGRAMME DOSSIER [--vite] [--garde]");
+    Options options{mots[1], mots[2]};
+    for (int i = 3; i < nombre; ++i) {
+        options.vite |= std::strcmp(mots[i], "--vite") == 0;
+        options.garde |= std::strcmp(mots[i], "--garde") == 0;
+    }
+    return options;
+}
+
+}  // namespace
+
+int main(int nombre, char** mots) try {
+    const Options options = litOptions(nombre, mots);
+    std::vector<Collection> collections{{1000, false}, {1000, true}, {10000, false, 1.7, 60}};
+    if (!options.vite) {
+        collections.push_back({10000, true, 1.7, 60});
+        collections.push_back({100000, false, 1.5, 110});
+    }
+    bench::Tableau tableau;
+    for (const Collection& c : collections)
+        mesureFenetre(tableau, options, c);
+    mesureImport(tableau, options, {0, 1000, options.vite ? 10000 : 100000});
+    if (!options.garde) fs::remove_all(options.dossier);
+    std::cout << '\n'
+              << (tableau.depassements() == 0 ? "every target is held"
+                                              : std::to_string(tableau.depassements()) + " over target")
+              << '\n';
+    return 0;
+} catch (const std::exception& e) {
+    std::cerr << "mesures: " << e.what() << '\n';
+    return 1;
+}
