@@ -79,6 +79,19 @@ class Session {
     void Command13_Click(int indice);
     void cmdParcourir2_Click();
     void cmdAjoutAuto_Click();
+    void cmdAjoutFilm_Click();
+
+    // Correcting the film of the sheet, from its button and from the tree's menu.
+    void cmdModifierTitre_Click();
+    void ModifieFilm_Click();
+
+    // Holdings. Option1's values are those after the click; the indexes are those of Combo7, Text10 and Command2.
+    void cmdValiderInfosPossessions_Click();
+    void Option1_Click();
+    void Combo7_Change(int indice);
+    void Text10_Change(int indice);
+    void Command2_Click(int indice);
+    void cmdRaffraichirListe_Click();
 
   private:
     struct Rouages;  // the base, the paths and the commands
