@@ -20,7 +20,8 @@ struct Session::Rouages final : db::Rafraichissement {
 
     Machine machine;
     Etats& etats;
-    bool enMarche = false;  // between a start that held and the shut-down
+    bool enMarche = false;                  // between a start that held and the shut-down
+    int volet = browse::kVoletGeneralites;  // the page that was open before the layout showed both
 
     systeme::InstanceUnique instance;
     db::Chemins chemins = db::Chemins::depuis(machine.dossierProgramme);

@@ -55,10 +55,10 @@ void Session::cmdStop_Click() {
 void Session::Form_Resize(bool deuxPages) {
     browse::EtatFiche& fiche = etats.fiche;
     if (fiche.cmdGeneralites.Visible == !deuxPages) return;
+    if (deuxPages)
+        m_rouages->volet = fiche.frameGeneralites[0].Visible ? browse::kVoletGeneralites : browse::kVoletAutresInfos;
     fiche.cmdGeneralites.Visible = fiche.cmdAutresInfos.Visible = !deuxPages;
-    if (etats.panneaux.frameFiche.Visible)
-        m_rouages->afficheVolet(fiche.frameGeneralites[0].Visible ? browse::kVoletGeneralites
-                                                                  : browse::kVoletAutresInfos);
+    if (etats.panneaux.frameFiche.Visible) m_rouages->afficheVolet(m_rouages->volet);
 }
 
 void Session::ChoixZone_Click() {

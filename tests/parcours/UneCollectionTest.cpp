@@ -176,7 +176,7 @@ TEST_F(UneCollection, ThePagesFollowTheLayout) {
     session.Form_Resize(true);
     EXPECT_EQ(pages(), "GA");
     session.Form_Resize(false);
-    EXPECT_EQ(pages(), "G- boutons");
+    EXPECT_EQ(pages(), "-A boutons");
 }
 
 TEST_F(UneCollection, TheDirectorLineSearchesTheCollection) {

@@ -56,4 +56,35 @@ TEST(Arret, AFileThatCannotBeWrittenIsToldAndTheRestIsDone) {
     EXPECT_TRUE(std::filesystem::is_empty(installation.chemin("Tmp")));
 }
 
+// Damages the base being opened while the window paints, between the closing of the old one and its own opening.
+class EcranSaboteur final : public ecran::Ecran {
+  public:
+    const Installation* installation = nullptr;
+    bool respire() override { return true; }
+    void rafraichit() override {
+        if (installation) installation->ecrit("Autre.mdb", "plus une base");
+    }
+    void debutTravail() override {}
+    void finTravail() override {}
+};
+
+TEST(Arret, AFailedChangeOfBaseEndsTheProgramAndWritesNoSettings) {
+    const Installation installation;
+    const std::string autre = installation.ecrit("Autre.mdb", installation.lit("Modele.dat"));
+    Execution machine(installation.chemin());
+    EcranSaboteur ecran;
+    app::Session session(
+        {machine.boites, ecran, machine.images, machine.horloge, machine.documents, installation.chemin()});
+    session.Form_Load();
+    session.cmdConfigurer_Click();
+    ecran.installation = &installation;
+    machine.boites.attendFichier(
+        {"Ouvrir/Créer une base de données", "Fichiers de base de données|*.mdb", installation.chemin(), true}, autre);
+    machine.boites.attendMsgBox("Erreur (22) : Ouverture de la base (Lecture seule/Fichier manquant ?)",
+                                dialogues::kCritique);
+    EXPECT_THROW(session.cmdChargeOuvreBase_Click(), systeme::FinDuProgramme);
+    session.Form_Unload();
+    EXPECT_EQ(installation.lit("Ambrelis.ini"), "");
+}
+
 }  // namespace

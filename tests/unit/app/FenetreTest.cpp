@@ -64,14 +64,4 @@ TEST(Liens, OpenInTheBrowserOrGiveTheirAddress) {
     execution.session.Image3_Click();
 }
 
-TEST(Parcourir, ACancelledFolderChangesNothing) {
-    const Installation installation;
-    Execution execution(installation.chemin());
-    execution.boites.attendDossier("Dossier des images", "", "/img/Été");
-    execution.session.cmdParcourir_Click();
-    execution.boites.attendDossier("Dossier des images", "/img/Été", "");
-    execution.session.cmdParcourir_Click();
-    EXPECT_EQ(execution.etats.stockage.Text4.Text, "/img/Été");
-}
-
 }  // namespace

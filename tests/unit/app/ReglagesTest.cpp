@@ -68,13 +68,6 @@ TEST(Reglages, WriteEightLinesOfPlainValues) {
     EXPECT_EQ(texteReglages({}, kDossier), "0\n\n0\n0\n0\n\n0\n0\n");
 }
 
-TEST(Reglages, FollowTheirFolderWhenItIsCopied) {
-    const Reglages ici{0, kDossier + "Images/", 0, 0, 0, kDossier + "Base/Été.mdb"};
-    const Reglages ailleurs = litReglages(texteReglages(ici, kDossier), "/ailleurs/");
-    EXPECT_EQ(ailleurs.dossierImages, "/ailleurs/Images/");
-    EXPECT_EQ(ailleurs.base, "/ailleurs/Base/Été.mdb");
-}
-
 TEST(Reglages, AnyPathReadsAsItWasWritten) {
     for (const char* chemin : {"/opt/Vidéothèque/", "/opt/Vidéothèque/C:films.mdb", "/opt/Vidéothèque//films.mdb",
                                "/opt/Vidéothèque 2/films.mdb", "https://site/images", "C:\\a.mdb"}) {
