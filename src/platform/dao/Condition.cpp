@@ -1,6 +1,7 @@
 #include "platform/dao/Condition.h"
 
 #include "platform/dao/CleJet.h"
+#include "platform/dao/Jointure.h"
 
 #include <algorithm>
 
@@ -16,11 +17,6 @@ ValeurVue verite(bool vraie) {
 
 double nombreDe(const ValeurVue& valeur) {
     return valeur.genre == ValeurVue::Genre::Nombre ? valeur.nombre : nombreDeTexte(valeur.texte);
-}
-
-std::string_view texteDe(const ValeurVue& valeur, std::string& tampon) {
-    if (valeur.genre == ValeurVue::Genre::Texte) return valeur.texte;
-    return tampon = texteDeNombre(valeur.nombre);
 }
 
 int signeDeDifference(double gauche, double droite) {

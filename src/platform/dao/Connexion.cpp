@@ -102,21 +102,24 @@ bool Connexion::enTransaction() const {
 }
 
 void Connexion::commence() {
-    if (enTransaction()) jette(kErreurTransaction, "Une transaction est déjà ouverte.");
+    if (m_commencee) jette(kErreurTransaction, "Une transaction est déjà ouverte.");
     prepare("BEGIN IMMEDIATE").execute();
+    m_commencee = true;
     suitLeFichier();
 }
 
 void Connexion::confirme() {
-    if (!enTransaction()) jette(kErreurTransaction, "Aucune transaction n'est ouverte.");
+    if (!m_commencee) jette(kErreurTransaction, "Aucune transaction n'est ouverte.");
+    if (!enTransaction()) jette(kErreurDisque, "Erreur de disque : les modifications ont été annulées.");
     prepare("COMMIT").execute();
+    m_commencee = false;
     for (const auto& [nom, table] : m_tables)
         table->suivi.supprimeesEnCours.clear();
 }
 
 void Connexion::annule() {
-    const bool ouverte = enTransaction();  // SQLite ends it by itself on a full disk
-    if (ouverte) prepare("ROLLBACK").execute();
+    if (enTransaction()) prepare("ROLLBACK").execute();
+    m_commencee = false;
     for (const auto& [nom, table] : m_tables) {
         for (const long long ligne : table->suivi.supprimeesEnCours)
             table->suivi.supprimees.erase(ligne);

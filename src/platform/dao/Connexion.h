@@ -60,6 +60,9 @@ class Connexion {
     void commence();
     void confirme();
     void annule();
+    // Between commence and confirme or annule.
+    [[nodiscard]] bool estCommencee() const { return m_commencee; }
+    // What the file engine says: it ends a transaction by itself when the disk is full or fails.
     [[nodiscard]] bool enTransaction() const;
 
     // Looks whether another program changed the file, and if so throws away what is known of its rows.
@@ -84,6 +87,7 @@ class Connexion {
     std::unordered_map<std::string, sqlite3_stmt*> m_requetes;
     std::map<std::string, std::unique_ptr<Table>, std::less<>> m_tables;  // by lower-case name
     std::vector<Jeu*> m_jeux;
+    bool m_commencee = false;
     std::uint64_t m_epoque = 0;
     std::uint64_t m_version = 0;
     long long m_versionDuFichier = 0;

@@ -51,12 +51,12 @@ void Database::CommitTrans() {
 }
 
 void Database::Rollback() {
-    if (!enTransaction()) interne::jette(kErreurTransaction, "Aucune transaction n'est ouverte.");
+    if (!ouverte(m_connexion).estCommencee()) interne::jette(kErreurTransaction, "Aucune transaction n'est ouverte.");
     m_connexion->annule();
 }
 
 bool Database::enTransaction() const {
-    return ouverte(m_connexion).enTransaction();
+    return ouverte(m_connexion).estCommencee();
 }
 void Database::Close() {
     m_connexion.reset();

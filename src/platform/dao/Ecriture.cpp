@@ -2,6 +2,7 @@
 
 #include "platform/dao/AccesValeur.h"
 #include "platform/dao/Erreurs.h"
+#include "platform/dao/Jointure.h"
 
 #include <algorithm>
 #include <optional>
@@ -14,12 +15,6 @@ namespace {
 
 std::string clauseDeLigne(const Table& table) {
     return " FROM " + table.nomSql() + " WHERE " + table.ligneSql + "=?1";
-}
-
-// A number found in a title column is compared as its text is.
-std::string_view texteDe(const ValeurVue& valeur, std::string& tampon) {
-    if (valeur.genre != ValeurVue::Genre::Nombre) return valeur.texte;
-    return tampon = texteDeNombre(valeur.nombre);
 }
 
 // Null has no place in the index: it equals nothing.

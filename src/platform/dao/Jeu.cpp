@@ -56,7 +56,8 @@ void Jeu::deplace(long nombre) {
     exigeOuvert();
     if (nombre > 0 && estAuBout()) jetteAucun();
     m_edition = Edition::Aucune;
-    pas(nombre);
+    constexpr long kPasMax = 1L << 40;
+    pas(std::clamp(nombre, -kPasMax, kPasMax));
 }
 
 bool Jeu::fini() const {

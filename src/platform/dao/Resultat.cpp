@@ -3,79 +3,16 @@
 #include "platform/dao/Balayage.h"
 #include "platform/dao/CleJet.h"
 #include "platform/dao/Ecriture.h"
+#include "platform/dao/Jointure.h"
 #include "platform/dao/Ordre.h"
 
 #include <algorithm>
-#include <bit>
 #include <string>
 #include <unordered_map>
 
 namespace dao::interne {
 
 namespace {
-
-// A row id's place in its table's store, by the hash of the columns that join; any number of rows under one hash.
-class Partenaires {
-  public:
-    explicit Partenaires(const std::vector<std::uint64_t>& hachages)
-        : m_places(std::bit_ceil(hachages.size() * 2 + 2), {0, kSansLigne}) {
-        for (std::size_t ligne = 0; ligne < hachages.size(); ++ligne) {
-            std::size_t rang = hachages[ligne] & masque();
-            while (m_places[rang].ligne != kSansLigne)
-                rang = (rang + 1) & masque();
-            m_places[rang] = {hachages[ligne], static_cast<std::uint32_t>(ligne)};
-        }
-    }
-
-    template <typename Visite>
-    void chaque(std::uint64_t hachage, Visite visite) const {
-        for (std::size_t rang = hachage & masque(); m_places[rang].ligne != kSansLigne; rang = (rang + 1) & masque()) {
-            if (m_places[rang].hachage == hachage) visite(m_places[rang].ligne);
-        }
-    }
-
-  private:
-    struct Place {
-        std::uint64_t hachage;
-        std::uint32_t ligne;
-    };
-    [[nodiscard]] std::size_t masque() const { return m_places.size() - 1; }
-    std::vector<Place> m_places;
-};
-
-std::string_view texteDe(const ValeurVue& valeur, std::string& tampon) {
-    if (valeur.genre != ValeurVue::Genre::Nombre) return valeur.texte;
-    return tampon = texteDeNombre(valeur.nombre);
-}
-
-// The Jet keys of the row being read, each worked out once at most.
-class ClesDeLigne {
-  public:
-    explicit ClesDeLigne(std::size_t colonnes) : m_cles(colonnes), m_faites(colonnes, false) {}
-
-    void change(const std::vector<ValeurVue>& valeurs) {
-        m_valeurs = &valeurs;
-        std::fill(m_faites.begin(), m_faites.end(), false);
-    }
-
-    const std::string& cle(int rang) {
-        const auto i = static_cast<std::size_t>(rang);
-        if (!m_faites[i]) {
-            m_cles[i].clear();
-            ajouteCleJet(texteDe((*m_valeurs)[i], m_tampon), m_cles[i]);
-            m_faites[i] = true;
-        }
-        return m_cles[i];
-    }
-
-    const ValeurVue& valeur(int rang) const { return (*m_valeurs)[static_cast<std::size_t>(rang)]; }
-
-  private:
-    const std::vector<ValeurVue>* m_valeurs = nullptr;
-    std::vector<std::string> m_cles;
-    std::vector<char> m_faites;
-    std::string m_tampon;
-};
 
 class Execution {
   public:

@@ -216,6 +216,27 @@ TEST_F(JeuxTest, TransactionsDoNotNestAndMustBeOpen) {
     EXPECT_EQ(base.OpenRecordset("Films").RecordCount(), 5);
 }
 
+TEST_F(JeuxTest, AFullDiskUndoesTheWholeTransaction) {
+    base.Execute("PRAGMA max_page_count=12");
+    dao::Recordset films = base.OpenRecordset("Films");
+    EXPECT_EQ(films.RecordCount(), 4);
+    {
+        dao::Transaction transaction(base);
+        essai.film("Eden", "x");
+        films.Edit();
+        films.Fields("Resume") = std::string(100000, 'r');
+        EXPECT_EQ(numeroErreur([&] { films.Update(); }), dao::kErreurDisque);
+    }
+    EXPECT_FALSE(base.enTransaction());
+    EXPECT_EQ(films.RecordCount(), 4);
+    EXPECT_EQ(essai.lit(kParTitre), (Liste{"Avatar", "Brazil", "Casino", "Dune"}));
+    EXPECT_EQ(numeroErreur([&] { films.Update(); }), dao::kErreurDisque);  // alone too
+    EXPECT_TRUE(films.valeur("Annee").estNull());
+    base.Execute("PRAGMA max_page_count=1000000");
+    films.Update();
+    EXPECT_EQ(films.texte("Resume").size(), 100000U);
+}
+
 TEST_F(JeuxTest, ClosedObjectsSaySo) {
     dao::Recordset jeu = base.OpenRecordset(kParTitre);
     dao::Recordset ferme = base.OpenRecordset("Films");

@@ -1,9 +1,14 @@
 #include "BaseDEssai.h"
+#include "platform/dao/Balayage.h"
 #include "platform/dao/CleJet.h"
+#include "platform/dao/Enonce.h"
+#include "platform/dao/Plan.h"
 
 #include <algorithm>
 #include <functional>
 #include <optional>
+
+#include <sqlite3.h>
 
 // Every statement of the program, over rows made to trip it up, against a plain filter and sort in memory.
 namespace {
@@ -281,6 +286,42 @@ TEST(Requetes, StatementsWithoutOrderComeInRowOrder) {
         titres.push_back(p.titre2.value_or("(Null)"));
     EXPECT_EQ(essai.lit("SELECT * From Personnel ", "Titre2"), titres);
     EXPECT_EQ(essai.lit("SELECT * FROM Personnel order by titre2;", "Titre2").size(), titres.size());
+}
+
+// The whole of what a listing reads, to the last column: an index of the file answers it without touching a row.
+TEST(Requetes, ListingsReadOnlyWhatAPlainIndexHolds) {
+    BaseDesRequetes essai;
+    sqlite3* brute = nullptr;
+    ASSERT_EQ(sqlite3_open(essai.chemin.c_str(), &brute), SQLITE_OK);
+    dao::interne::Connexion connexion(brute, essai.chemin);
+    const std::string personnel = R"(SELECT rowid,"Titre2","Realisateur2" FROM "Personnel")";
+    struct Cas {
+        std::string enonce;
+        std::vector<std::string> lectures;
+    };
+    for (const Cas& cas :
+         {Cas{"SELECT * " + kJoint + " ORDER BY Titre ASC, Titre2 ASC",
+              {R"(SELECT rowid,"Titre","Realisateur" FROM "Films")", personnel}},
+          Cas{"SELECT * " + kJoint + " ORDER BY Note ASC, Titre2 ASC",
+              {R"(SELECT rowid,"Titre","Realisateur","Note" FROM "Films")", personnel}},
+          Cas{"SELECT * " + kJointEntreParentheses + " WHERE Pret<>\"\" ORDER BY Support ASC, Titre2 ASC",
+              {R"(SELECT rowid,"Titre","Realisateur" FROM "Films")",
+               R"(SELECT rowid,"Titre2","Realisateur2","Pret","Support" FROM "Personnel")"}},
+          Cas{"SELECT DISTINCTROW * " + kSans + " ORDER BY Duree ASC, Titre2 ASC",
+              {R"(SELECT rowid,"Realisateur","Titre","Duree" FROM "Films")",
+               R"(SELECT rowid,"Realisateur2","Titre2" FROM "Personnel")"}},
+          Cas{"SELECT * FROM Films ORDER BY Genre ASC", {R"(SELECT rowid,"Genre","Titre","Realisateur" FROM "Films")"}},
+          Cas{"SELECT DISTINCT reserve FROM personnel ORDER BY reserve ASC ;",
+              {R"(SELECT rowid,"Reserve" FROM "Personnel")"}}}) {
+        const auto plan = dao::interne::planifie(connexion, dao::interne::analyseEnonce(cas.enonce));
+        ASSERT_EQ(plan.tables.size(), cas.lectures.size());
+        for (std::size_t t = 0; t < cas.lectures.size(); ++t) {
+            EXPECT_EQ(dao::interne::enonceDeLecture(plan.tables[t], false), cas.lectures[t]);
+            auto explication = connexion.prepare("EXPLAIN QUERY PLAN " + cas.lectures[t]);
+            ASSERT_TRUE(explication.avance());
+            EXPECT_NE(explication.valeur(3).texte().find("USING COVERING INDEX"), std::string::npos) << cas.lectures[t];
+        }
+    }
 }
 
 TEST(Requetes, ErrorsSayWhatIsWrong) {
