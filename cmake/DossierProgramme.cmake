@@ -30,6 +30,4 @@ add_custom_command(OUTPUT "${AMBRELIS_DOSSIER}/traductions/qtbase_fr.qm"
 add_custom_target(dossier_programme ALL
   DEPENDS "${AMBRELIS_DOSSIER}/Modele.dat" "${AMBRELIS_DOSSIER}/Extensions.txt"
           "${AMBRELIS_DOSSIER}/traductions/qtbase_fr.qm")
-if(TARGET Ambrelis)
-  add_dependencies(dossier_programme Ambrelis)
-endif()
+add_dependencies(dossier_programme Ambrelis)
