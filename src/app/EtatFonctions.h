@@ -22,6 +22,7 @@ struct EtatFonctions {
     // Configuration.
     ecran::Bouton cmdMajBase;
     ecran::Progression ProgressBar2;  // conversion of the posters
+    ecran::Progression ProgressBar3;  // work over many films: deletion, renaming, correction; visible while it lasts
     ecran::CaseACocher chkLancerConnexion;
     std::array<ecran::Liste, 2> Combo6;  // extensions, programs
 
@@ -31,6 +32,12 @@ struct EtatFonctions {
     // Deletion by ticking.
     std::array<ecran::BoutonOption, 2> Option4;  // off, on
     ecran::Bouton cmdSupprTitresSelect;
+
+    EtatFonctions() {
+        ProgressBar3.Visible = false;
+        ecran::choisit(Option4, 0);
+        cmdSupprTitresSelect.Visible = false;
+    }
 };
 
 // Window size in twips (15 are one logical pixel); 0: the designed size.

@@ -93,6 +93,19 @@ class Session {
     void Command2_Click(int indice);
     void cmdRaffraichirListe_Click();
 
+    // Deletion: of the current film, by the sheet's button or the tree's menu, and of the ticked ones.
+    void cmdSupprimerTitre_Click();
+    void SupprFilm_Click();
+    void cmdMultiSuppress_Click();
+    void Option4_Click();  // the check boxes of the tree come or go, as Option4's values say
+    void cmdSupprTitresSelect_Click();
+
+    // Rating of the current film, renaming of the selected heading, correction of every title.
+    void cmdModifieNote_Click();
+    void RenommerGenreFilms_Click();
+    void RenommeSupportFilms_Click();
+    void cmdPonctuation_Click();
+
   private:
     struct Rouages;  // the base, the paths and the commands
     std::unique_ptr<Rouages> m_rouages;
