@@ -22,6 +22,7 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     auto* nom1 = nomme((new Etiquette(tr("Ambr")))->avecPolice(1.7, QFont::DemiBold), "lblNom1");
     auto* nom2 = nomme((new Etiquette(tr("elis")))->avecPolice(1.7, QFont::DemiBold)->avecTon(Ton::Accent), "lblNom2");
     auto* version = nomme((new Etiquette)->avecPolice(0.85)->avecTon(Ton::Discret), "Label13");
+    version->setContentsMargins(0, 0, 0, kSerre);
     atelier.liaison.lie(atelier.etats().fonctions.Label13, version);
 
     auto* recherche =

@@ -60,7 +60,7 @@ BoutonLien::BoutonLien(const QString& texte, QWidget* parent) : QAbstractButton(
 QSize BoutonLien::sizeHint() const {
     const QSize texteSeul = fontMetrics().size(Qt::TextShowMnemonic, text());
     const int place = icon().isNull() ? 0 : iconSize().width() + 6;
-    return {texteSeul.width() + place + 8, std::max(texteSeul.height(), icon().isNull() ? 0 : iconSize().height()) + 6};
+    return {texteSeul.width() + place + 2, std::max(texteSeul.height(), icon().isNull() ? 0 : iconSize().height()) + 6};
 }
 
 QSize BoutonLien::minimumSizeHint() const {
@@ -69,7 +69,7 @@ QSize BoutonLien::minimumSizeHint() const {
 
 void BoutonLien::paintEvent(QPaintEvent*) {
     QPainter peintre(this);
-    QRect zone = rect().adjusted(4, 0, -4, 0);
+    QRect zone = rect();
     if (!icon().isNull()) {
         const QRect image(zone.left(), (height() - iconSize().height()) / 2, iconSize().width(), iconSize().height());
         icon().paint(&peintre, image, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
@@ -81,7 +81,7 @@ void BoutonLien::paintEvent(QPaintEvent*) {
     peintre.setPen(isEnabled() ? accentLisible(palette()) : palette().color(QPalette::Disabled, QPalette::WindowText));
     const QString visible = fontMetrics().elidedText(text(), Qt::ElideRight, zone.width() + 1, Qt::TextShowMnemonic);
     peintre.drawText(zone, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, visible);
-    if (hasFocus()) peintContourDeFocus(peintre, rect(), accent(palette()), 4);
+    if (hasFocus()) peintre.fillRect(QRect(0, height() - 2, width(), 2), accent(palette()));
 }
 
 bool BoutonLien::event(QEvent* evenement) {
@@ -97,6 +97,12 @@ void BoutonLien::keyPressEvent(QKeyEvent* evenement) {
     if (evenement->key() != Qt::Key_Return && evenement->key() != Qt::Key_Enter)
         return QAbstractButton::keyPressEvent(evenement);
     click();
+}
+
+CaseRepliee::CaseRepliee(const QString& texte, QWidget* parent) : QCheckBox(texte, parent) {
+    QSizePolicy politique(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    politique.setHeightForWidth(true);
+    setSizePolicy(politique);
 }
 
 int CaseRepliee::retrait() const {

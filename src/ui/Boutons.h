@@ -45,7 +45,7 @@ class BoutonLien final : public QAbstractButton {
 class CaseRepliee final : public QCheckBox {
     Q_OBJECT
   public:
-    using QCheckBox::QCheckBox;
+    explicit CaseRepliee(const QString& texte, QWidget* parent = nullptr);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
     bool hasHeightForWidth() const override { return true; }

@@ -71,10 +71,13 @@ Etiquette::Lignes Etiquette::lignes(int largeur) const {
     return resultat;
 }
 
+int Etiquette::interligne() const {
+    return m_lignesMax > 1 ? fontMetrics().lineSpacing() * 6 / 5 : fontMetrics().lineSpacing();
+}
+
 int Etiquette::hauteur(qsizetype nombre) const {
     const QMargins marges = contentsMargins();
-    return static_cast<int>(std::max<qsizetype>(nombre, 1)) * fontMetrics().lineSpacing() + marges.top() +
-           marges.bottom();
+    return static_cast<int>(std::max<qsizetype>(nombre, 1)) * interligne() + marges.top() + marges.bottom();
 }
 
 QSize Etiquette::sizeHint() const {
@@ -108,8 +111,13 @@ void Etiquette::paintEvent(QPaintEvent*) {
     if (buddy()) return peintLegende(peintre);
     const QRect zone = contentsRect();
     const Lignes textes = lignes(zone.width());
-    peintre.drawText(zone, static_cast<int>(alignment()) | Qt::TextIncludeTrailingSpaces,
-                     textes.textes.join(QLatin1Char('\n')));
+    const int haut = static_cast<int>(textes.textes.size()) * interligne();
+    const bool centre = alignment() & Qt::AlignVCenter;
+    QRect ligne(zone.left(), centre ? zone.center().y() - haut / 2 : zone.top(), zone.width(), interligne());
+    for (const QString& texte : textes.textes) {
+        peintre.drawText(ligne, static_cast<int>(alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter, texte);
+        ligne.translate(0, interligne());
+    }
 }
 
 bool Etiquette::event(QEvent* evenement) {
@@ -121,8 +129,8 @@ bool Etiquette::event(QEvent* evenement) {
     return true;
 }
 
-TitreDeSection::TitreDeSection(QWidget* parent) : Etiquette({}, parent) {
-    avecPolice(1.08, QFont::DemiBold);
+TitreDeSection::TitreDeSection(double facteur, QWidget* parent) : Etiquette({}, parent) {
+    avecPolice(facteur, QFont::DemiBold);
 }
 
 QString TitreDeSection::texteAffiche() const {

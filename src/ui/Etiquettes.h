@@ -33,6 +33,7 @@ class Etiquette : public QLabel {
         bool coupees = false;
     };
     [[nodiscard]] Lignes lignes(int largeur) const;
+    [[nodiscard]] int interligne() const;
     [[nodiscard]] int hauteur(qsizetype lignes) const;
     void peintLegende(QPainter& peintre) const;
 
@@ -44,7 +45,7 @@ class Etiquette : public QLabel {
 class TitreDeSection final : public Etiquette {
     Q_OBJECT
   public:
-    explicit TitreDeSection(QWidget* parent = nullptr);
+    explicit TitreDeSection(double facteur = 1.08, QWidget* parent = nullptr);
 
   protected:
     QString texteAffiche() const override;

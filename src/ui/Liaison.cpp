@@ -171,7 +171,8 @@ class LienSimple final : public Lien {
     }
     void ecrit() override {
         if (m_etat == m_montre) return;
-        const QSignalBlocker silence(&m_widget);
+        const QSignalBlocker silence(std::is_same_v<Etat, ecran::Cadre> ? nullptr
+                                                                        : &m_widget);  // frames have no gesture
         montre(m_etat, m_montre, m_widget, m_temoin);
         montreEtat(m_etat, m_montre, m_widget);
         m_montre = m_etat;

@@ -20,6 +20,16 @@ Etiquette* phrase(const QString& texte) {
     return etiquette;
 }
 
+// Centred, no wider than lines read well.
+QHBoxLayout* auMilieu(QWidget* widget) {
+    widget->setMaximumWidth(460);
+    auto* boite = new QHBoxLayout;
+    boite->addStretch(1);
+    boite->addWidget(widget, 1000);
+    boite->addStretch(1);
+    return boite;
+}
+
 }  // namespace
 
 PanneauAccueil::PanneauAccueil(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_signe(new QWidget) {
@@ -38,10 +48,10 @@ PanneauAccueil::PanneauAccueil(const Atelier& atelier, QWidget* parent) : QWidge
     boite->addStretch(2);
     boite->addWidget(m_signe, 0, Qt::AlignHCenter);
     boite->addWidget(titre, 0, Qt::AlignHCenter);
-    boite->addWidget(presentation);
+    boite->addLayout(auMilieu(presentation));
     boite->addSpacing(kPetit);
-    boite->addWidget(invite);
-    boite->addWidget(pas, 0, Qt::AlignHCenter);
+    boite->addLayout(auMilieu(invite));
+    boite->addLayout(auMilieu(pas));
     boite->addStretch(3);
     setLayout(boite);
 
@@ -69,7 +79,6 @@ QWidget* PanneauAccueil::premiersPas(const Atelier& atelier) {
     boite->addSpacing(kSerre);
     boite->addWidget(commencer, 0, Qt::AlignHCenter);
     cadre->setLayout(boite);
-    cadre->setMinimumWidth(420);
     return cadre;
 }
 

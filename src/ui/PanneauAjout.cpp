@@ -78,6 +78,7 @@ QLayout* PanneauAjout::fiches(const Atelier& atelier) {
     auto* dossier = colonne(kSerre);
     dossier->addWidget(legende(tr("&Dossier des fiches"), chemin));
     dossier->addLayout(ligne);
+    boite->addSpacing(kSerre);
     boite->addLayout(dossier);
     boite->addWidget(nombre);
     boite->addLayout(aGauche({lancer}));
@@ -106,6 +107,7 @@ QLayout* PanneauAjout::internet(const Atelier& atelier) {
     groupe->setLayout(options);
 
     auto* boite = section(atelier, Aide::Internet);
+    boite->addSpacing(kSerre);
     boite->addLayout(champ(tr("Te&xte à chercher sur MovieCovers"), texte));
     boite->addWidget(groupe);
     boite->addLayout(aGauche({telecharger}));

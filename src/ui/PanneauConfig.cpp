@@ -81,9 +81,7 @@ QLayout* PanneauConfig::programme(const Atelier& atelier) {
     atelier.auClic(page, &app::Session::Label4_Click);
     auto* boite = section(tr("Internet"), tr("Le téléchargement des fiches est confié à un programme compagnon."));
     boite->addWidget(connexion);
-    auto* lien = aGauche({page});
-    lien->setContentsMargins(-4, 0, 0, 0);
-    boite->addLayout(lien);
+    boite->addLayout(aGauche({page}));
     return boite;
 }
 

@@ -11,21 +11,31 @@
 
 namespace ui {
 
+namespace {
+
+QWidget* page(std::initializer_list<QWidget*> cadres) {
+    auto* boite = colonne(kGrand);
+    for (QWidget* cadre : cadres)
+        boite->addWidget(cadre);
+    auto* resultat = new QWidget;
+    resultat->setLayout(boite);
+    return resultat;
+}
+
+}  // namespace
+
 PanneauFiche::PanneauFiche(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameFiche");
-    auto* generalites = colonne(kGrand);
-    generalites->addWidget(faits());
-    generalites->addWidget(resume(), 1);
-    auto* autres = colonne(kGrand);
-    autres->addWidget(new PanneauPossession(m_atelier));
-    autres->addWidget(new PanneauActions(m_atelier));
-    autres->addStretch(1);
+    auto* generalites = page({faits(), resume()});
+    auto* autres = page({new PanneauPossession(m_atelier), new PanneauActions(m_atelier)});
+    static_cast<QVBoxLayout*>(generalites->layout())->setStretch(1, 1);
+    static_cast<QVBoxLayout*>(autres->layout())->addStretch(1);
 
     auto* pages = new QHBoxLayout;
     pages->setSpacing(kLarge);
     pages->addLayout(colonneAffiche());
-    pages->addLayout(generalites, 5);
-    pages->addLayout(autres, 4);
+    pages->addWidget(generalites, 5);
+    pages->addWidget(autres, 4);
 
     auto* boite = new QVBoxLayout(this);
     boite->setContentsMargins(kPetit, kMoyen, kGrand, kGrand);
@@ -33,6 +43,14 @@ PanneauFiche::PanneauFiche(const Atelier& atelier, QWidget* parent) : QWidget(pa
     boite->addLayout(entete());
     boite->addLayout(pages, 1);
     m_atelier.liaison.lie(m_atelier.etats().panneaux.frameFiche, this);
+
+    // A page takes its room as long as one of its frames is shown.
+    const auto suis = [generalites, autres, fiche = &m_atelier.etats().fiche] {
+        generalites->setVisible(fiche->frameGeneralites[0].Visible || fiche->frameGeneralites[1].Visible);
+        autres->setVisible(fiche->frameAutresInfos[0].Visible || fiche->frameAutresInfos[1].Visible);
+    };
+    suis();
+    m_atelier.liaison.apresEcriture(suis);
 }
 
 QLayout* PanneauFiche::entete() {
@@ -52,7 +70,6 @@ QLayout* PanneauFiche::entete() {
     auto* boite = colonne(2);
     boite->addWidget(titre);
     auto* sousTitre = rangee({realisateur});
-    sousTitre->setContentsMargins(-4, 0, 0, 0);
     sousTitre->addStretch();
     sousTitre->addLayout(onglets());
     boite->addLayout(sousTitre);

@@ -11,7 +11,7 @@ PanneauMultiSuppression::PanneauMultiSuppression(const Atelier& atelier, QWidget
     nomme(this, "frameMultiSuppression");
     auto& fonctions = atelier.etats().fonctions;
     const QString textes[] = {tr("Fonction &désactivée"), tr("Fonction acti&vée")};
-    auto* boite = section(atelier, Aide::MultiSuppression);
+    auto* boite = section(atelier, Aide::MultiSuppression, 1.5);
     boite->setContentsMargins(kPetit, kMoyen, kGrand, kGrand);
     boite->setSpacing(kMoyen);
     for (std::size_t i = 0; i < 2; ++i) {

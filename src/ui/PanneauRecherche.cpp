@@ -21,7 +21,7 @@ PanneauRecherche::PanneauRecherche(const Atelier& atelier, QWidget* parent) : QW
     atelier.liaison.lie(recherche.cmdRecherche, lancer);
     atelier.auClic(lancer, &app::Session::cmdRecherche_Click);
 
-    auto* contenu = section(atelier, Aide::Recherche);
+    auto* contenu = section(atelier, Aide::Recherche, 1.5);
     contenu->setSpacing(kGrand);
     contenu->addLayout(champ(tr("Texte à c&hercher"), texte));
     contenu->addLayout(champs(atelier));

@@ -16,10 +16,10 @@ Etiquette* description(const QString& texte) {
 
 }  // namespace
 
-QVBoxLayout* section(const Atelier& atelier, Aide aide) {
+QVBoxLayout* section(const Atelier& atelier, Aide aide, double grandeur) {
     const auto indice = static_cast<std::size_t>(aide);
     auto& fonctions = atelier.etats().fonctions;
-    auto* titre = nomme(new TitreDeSection, "Label14", indice);
+    auto* titre = nomme(new TitreDeSection(grandeur), "Label14", indice);
     auto* texte = nomme(description({}), "Label7", indice);
     atelier.liaison.lie(fonctions.Label14[indice], titre);
     atelier.liaison.lie(fonctions.Label7[indice], texte);

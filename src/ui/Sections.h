@@ -23,7 +23,7 @@ enum class Aide : std::size_t {
 };
 
 // A title, its description, and room for the section's controls below them.
-[[nodiscard]] QVBoxLayout* section(const Atelier& atelier, Aide aide);
+[[nodiscard]] QVBoxLayout* section(const Atelier& atelier, Aide aide, double grandeur = 1.08);
 [[nodiscard]] QVBoxLayout* section(const QString& titre, const QString& description);
 // Controls side by side, kept left.
 [[nodiscard]] QHBoxLayout* aGauche(std::initializer_list<QWidget*> widgets);

@@ -51,6 +51,36 @@ void peintLigneChoisie(QPainter& peintre, const QStyleOptionViewItem& option) {
         peintSurface(peintre, zone, voile(option.palette), {});
 }
 
+// No arrows: the whole length is the groove.
+QRect partieDAscenseur(const QStyleOptionSlider& ascenseur, QStyle::SubControl partie) {
+    const bool couche = ascenseur.orientation == Qt::Horizontal;
+    const QRect tout = ascenseur.rect;
+    const int longueur = couche ? tout.width() : tout.height();
+    const int etendue = ascenseur.maximum - ascenseur.minimum;
+    const qint64 ensemble = qint64{etendue} + ascenseur.pageStep;
+    const int curseur = ensemble > 0 ? std::clamp(static_cast<int>(qint64{longueur} * ascenseur.pageStep / ensemble),
+                                                  std::min(28, longueur), longueur)
+                                     : longueur;
+    const int debut = QStyle::sliderPositionFromValue(ascenseur.minimum, ascenseur.maximum, ascenseur.sliderPosition,
+                                                      longueur - curseur, ascenseur.upsideDown);
+    const auto tranche = [&](int de, int sur) {
+        return couche ? QRect(tout.x() + de, tout.y(), sur, tout.height())
+                      : QRect(tout.x(), tout.y() + de, tout.width(), sur);
+    };
+    switch (partie) {
+        case QStyle::SC_ScrollBarSlider:
+            return tranche(debut, curseur);
+        case QStyle::SC_ScrollBarGroove:
+            return tout;
+        case QStyle::SC_ScrollBarSubPage:
+            return tranche(0, debut);
+        case QStyle::SC_ScrollBarAddPage:
+            return tranche(debut + curseur, longueur - debut - curseur);
+        default:
+            return {};
+    }
+}
+
 }  // namespace
 
 StyleAmbrelis::StyleAmbrelis() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
@@ -110,9 +140,12 @@ void StyleAmbrelis::drawControl(ControlElement element, const QStyleOption* opti
     switch (element) {
         case CE_Splitter:
             return;
-        case CE_ProgressBarGroove:
-            peintSurface(*peintre, option->rect, voile(option->palette), {});
+        case CE_ProgressBarGroove: {
+            const auto* barre = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
+            if (barre && barre->progress > barre->minimum)
+                peintSurface(*peintre, option->rect, voile(option->palette), {});
             return;
+        }
         case CE_ProgressBarContents: {
             const auto* barre = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
             if (!barre || barre->maximum <= barre->minimum) break;
@@ -200,37 +233,18 @@ QSize StyleAmbrelis::sizeFromContents(ContentsType type, const QStyleOption* opt
     }
 }
 
+QRect StyleAmbrelis::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
+    const QRect zone = QProxyStyle::subElementRect(element, option, widget);
+    const auto* cadre = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    return element == SE_LineEditContents && cadre && cadre->lineWidth > 0 ? zone.adjusted(4, 0, -4, 0) : zone;
+}
+
 QRect StyleAmbrelis::subControlRect(ComplexControl controle, const QStyleOptionComplex* option, SubControl partie,
                                     const QWidget* widget) const {
+    const QRect zone = QProxyStyle::subControlRect(controle, option, partie, widget);
+    if (controle == CC_ComboBox && partie == SC_ComboBoxEditField) return zone.adjusted(5, 0, 0, 0);
     const auto* ascenseur = qstyleoption_cast<const QStyleOptionSlider*>(option);
-    if (controle != CC_ScrollBar || !ascenseur) return QProxyStyle::subControlRect(controle, option, partie, widget);
-    // No arrows: the whole length is the groove.
-    const bool couche = ascenseur->orientation == Qt::Horizontal;
-    const QRect tout = ascenseur->rect;
-    const int longueur = couche ? tout.width() : tout.height();
-    const int etendue = ascenseur->maximum - ascenseur->minimum;
-    const qint64 ensemble = qint64{etendue} + ascenseur->pageStep;
-    const int curseur = ensemble > 0 ? std::clamp(static_cast<int>(qint64{longueur} * ascenseur->pageStep / ensemble),
-                                                  std::min(28, longueur), longueur)
-                                     : longueur;
-    const int debut = sliderPositionFromValue(ascenseur->minimum, ascenseur->maximum, ascenseur->sliderPosition,
-                                              longueur - curseur, ascenseur->upsideDown);
-    const auto tranche = [&](int de, int sur) {
-        return couche ? QRect(tout.x() + de, tout.y(), sur, tout.height())
-                      : QRect(tout.x(), tout.y() + de, tout.width(), sur);
-    };
-    switch (partie) {
-        case SC_ScrollBarSlider:
-            return tranche(debut, curseur);
-        case SC_ScrollBarGroove:
-            return tout;
-        case SC_ScrollBarSubPage:
-            return tranche(0, debut);
-        case SC_ScrollBarAddPage:
-            return tranche(debut + curseur, longueur - debut - curseur);
-        default:
-            return {};
-    }
+    return controle == CC_ScrollBar && ascenseur ? partieDAscenseur(*ascenseur, partie) : zone;
 }
 
 }  // namespace ui

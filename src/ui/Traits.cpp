@@ -86,7 +86,8 @@ void peintRond(QPainter& peintre, const QStyleOption& option) {
     peintSurface(peintre, zone, habit.fond, habit.bord, zone.width() / 2);
     if (!option.state.testFlag(QStyle::State_On)) return;
     const qreal retrait = zone.width() * 0.31;
-    peintSurface(peintre, zone.adjusted(retrait, retrait, -retrait, -retrait), habit.signe, {}, zone.width() / 2);
+    const QRectF point = zone.adjusted(retrait, retrait, -retrait, -retrait);
+    peintSurface(peintre, point, habit.signe, {}, point.width() / 2);
 }
 
 void peintBouton(QPainter& peintre, const QStyleOption& option, bool plat) {
