@@ -11,6 +11,9 @@ namespace {
 constexpr char kFinDeColonne = 0x00;  // in no key; alone it is Null
 constexpr char kMarqueDeNombre = 0x02;
 
+constexpr std::size_t kGroupesMax = 1024;
+constexpr int kBitsDuGroupe = 16;
+
 std::uint64_t premiersOctets(std::string_view cle) {
     std::uint64_t prefixe = 0;
     std::memcpy(&prefixe, cle.data(), std::min<std::size_t>(8, cle.size()));
@@ -20,16 +23,17 @@ std::uint64_t premiersOctets(std::string_view cle) {
 
 }  // namespace
 
-void Ordre::inverseDepuis(std::size_t debut) {
-    for (std::size_t i = debut; i < m_cles.size(); ++i)
+void Ordre::finitColonne(std::size_t debut, bool decroissant) {
+    for (std::size_t i = debut; decroissant && i < m_cles.size(); ++i)
         m_cles[i] = static_cast<char>(~m_cles[i]);
+    if (debut == m_debut) m_finPremiere = m_cles.size();
 }
 
 void Ordre::ajouteTexte(std::string_view cleJet, bool decroissant) {
     const std::size_t debut = m_cles.size();
     m_cles += cleJet;
     m_cles.push_back(kFinDeColonne);
-    if (decroissant) inverseDepuis(debut);
+    finitColonne(debut, decroissant);
 }
 
 void Ordre::ajouteNombre(double nombre, bool decroissant) {
@@ -40,22 +44,64 @@ void Ordre::ajouteNombre(double nombre, bool decroissant) {
     m_cles.push_back(kMarqueDeNombre);
     for (int decalage = 56; decalage >= 0; decalage -= 8)
         m_cles.push_back(static_cast<char>((bits >> decalage) & 0xff));
-    if (decroissant) inverseDepuis(debut);
+    finitColonne(debut, decroissant);
 }
 
 void Ordre::ajouteNul(bool decroissant) {
     ajouteTexte({}, decroissant);
 }
 
+std::uint32_t Ordre::groupe(std::string_view premiereColonne) {
+    const auto connu = m_groupes.find(premiereColonne);
+    if (connu != m_groupes.end()) return connu->second.numero;
+    if (m_groupes.size() == kGroupesMax) {
+        m_parGroupes = false;
+        m_groupes = {};
+        return 0;
+    }
+    const auto numero = static_cast<std::uint32_t>(m_groupes.size());
+    m_groupes.emplace(premiereColonne, Groupe{numero, static_cast<std::uint32_t>(premiereColonne.size())});
+    return numero;
+}
+
 void Ordre::finit(long long premier, long long second) {
     const std::string_view cle = std::string_view(m_cles).substr(m_debut);
-    m_entrees.push_back({premiersOctets(cle), m_debut, static_cast<std::uint32_t>(cle.size()),
-                         static_cast<std::uint32_t>(m_entrees.size())});
+    const std::uint64_t numero = m_parGroupes ? groupe(cle.substr(0, std::max(m_finPremiere, m_debut) - m_debut)) : 0;
+    m_entrees.push_back(
+        {numero, m_debut, static_cast<std::uint32_t>(cle.size()), static_cast<std::uint32_t>(m_entrees.size())});
     m_suites.emplace_back(premier, second);
     m_debut = m_cles.size();
 }
 
+// Until now the prefix of each row was the number of its group.
+void Ordre::prefixeParGroupes() {
+    std::vector<std::pair<std::string_view, Groupe>> groupes(m_groupes.begin(), m_groupes.end());
+    std::sort(groupes.begin(), groupes.end(),
+              [](const auto& gauche, const auto& droite) { return gauche.first < droite.first; });
+    std::vector<Groupe> rangs(groupes.size());  // by number: the group's rank, and how long its column is
+    for (std::size_t i = 0; i < groupes.size(); ++i) {
+        rangs[groupes[i].second.numero] = {static_cast<std::uint32_t>(i), groupes[i].second.taille};
+    }
+    for (Entree& entree : m_entrees) {
+        const Groupe& groupe = rangs[entree.prefixe];
+        entree.debut += groupe.taille;
+        entree.taille -= groupe.taille;
+        entree.prefixe = static_cast<std::uint64_t>(groupe.numero) << (64 - kBitsDuGroupe) |
+                         premiersOctets(cle(entree)) >> kBitsDuGroupe;
+    }
+}
+
+void Ordre::prefixeParOctets() {
+    for (Entree& entree : m_entrees)
+        entree.prefixe = premiersOctets(cle(entree));
+}
+
 std::vector<std::uint32_t> Ordre::rangs(bool sansDoublons) {
+    if (m_parGroupes) {
+        prefixeParGroupes();
+    } else {
+        prefixeParOctets();
+    }
     std::sort(m_entrees.begin(), m_entrees.end(), [this](const Entree& gauche, const Entree& droite) {
         if (gauche.prefixe != droite.prefixe) return gauche.prefixe < droite.prefixe;
         const int ordre = cle(gauche).compare(cle(droite));
@@ -63,7 +109,9 @@ std::vector<std::uint32_t> Ordre::rangs(bool sansDoublons) {
         return m_suites[gauche.rang] < m_suites[droite.rang];
     });
     if (sansDoublons) {
-        const auto egales = [this](const Entree& gauche, const Entree& droite) { return cle(gauche) == cle(droite); };
+        const auto egales = [this](const Entree& gauche, const Entree& droite) {
+            return gauche.prefixe == droite.prefixe && cle(gauche) == cle(droite);
+        };
         m_entrees.erase(std::unique(m_entrees.begin(), m_entrees.end(), egales), m_entrees.end());
     }
     std::vector<std::uint32_t> resultat;

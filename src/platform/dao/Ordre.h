@@ -1,14 +1,19 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
 namespace dao::interne {
 
-// Keys of rows, added in any number, then put in order: by their bytes, and as they were added where these are equal.
+// Keys of rows, added in any number, then put in order: by their bytes, then by the numbers they were ended with.
+//
+// A first column of few values (genres, years) is numbered as it comes, so that rows are told apart by a number instead
+// of by the same long beginnings; one of many values (titles) soon gives that up.
 class Ordre {
   public:
     // A column of the key of the row being added. Null comes first; a number orders by its value.
@@ -25,7 +30,7 @@ class Ordre {
 
   private:
     struct Entree {
-        std::uint64_t prefixe;  // the key's first eight bytes
+        std::uint64_t prefixe;  // what is compared first: the key's first eight bytes, or its group and the next six
         std::uint64_t debut;
         std::uint32_t taille;
         std::uint32_t rang;
@@ -33,9 +38,23 @@ class Ordre {
     [[nodiscard]] std::string_view cle(const Entree& entree) const {
         return std::string_view(m_cles).substr(entree.debut, entree.taille);
     }
-    void inverseDepuis(std::size_t debut);
+    struct Groupe {
+        std::uint32_t numero;
+        std::uint32_t taille;
+    };
+    struct Hachage {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view cle) const { return std::hash<std::string_view>{}(cle); }
+    };
+    void finitColonne(std::size_t debut, bool decroissant);
+    [[nodiscard]] std::uint32_t groupe(std::string_view premiereColonne);
+    void prefixeParGroupes();
+    void prefixeParOctets();
 
     std::string m_cles;
+    std::size_t m_finPremiere = 0;  // of the row being added
+    std::unordered_map<std::string, Groupe, Hachage, std::equal_to<>> m_groupes;
+    bool m_parGroupes = true;
     std::size_t m_debut = 0;
     std::vector<Entree> m_entrees;
     std::vector<std::pair<long long, long long>> m_suites;
