@@ -182,9 +182,11 @@ TEST_F(JeuxTest, LookUpsFollowEveryChange) {
     films.Update();
     EXPECT_EQ(trouve("avatar"), 0);
     EXPECT_EQ(trouve("alien"), 1);
+    dao::Recordset liste = base.OpenRecordset("SELECT * FROM Films");
     {
         const dao::Transaction transaction(base);
         films.Delete();
+        EXPECT_EQ(numeroErreur([&] { (void)liste.texte("Titre"); }), dao::kErreurEnregistrementSupprime);
         essai.film("Fargo", "x");
         EXPECT_EQ(trouve("alien"), 0);
         EXPECT_EQ(trouve("fargo"), 1);
@@ -194,6 +196,7 @@ TEST_F(JeuxTest, LookUpsFollowEveryChange) {
     EXPECT_EQ(trouve("fargo"), 0);
     EXPECT_EQ(films.RecordCount(), 5);
     EXPECT_EQ(films.texte("Titre"), "Alien");
+    EXPECT_EQ(liste.texte("Titre"), "Alien");
     parUnAutreProgramme(essai.chemin, "UPDATE Films SET Titre='Gilda' WHERE id=1");
     EXPECT_EQ(trouve("alien"), 0);
     EXPECT_EQ(trouve("gilda"), 1);

@@ -170,6 +170,10 @@ TEST(Requetes, ListingsHaveTheRowsOfAPlainFilterInJetsOrder) {
     };
     const std::vector<Cas> cas{
         {"SELECT * " + kJoint + " ORDER BY Titre ASC, Titre2 ASC", Source::Possedes, {}, parTitre},
+        {"SELECT * " + kJoint + " ORDER BY Realisateur2 ASC",
+         Source::Possedes,
+         {},
+         [](const Ligne& l) { return cle(film(l).realisateur); }},
         {"SELECT * " + kJoint + " ORDER BY Genre ASC, Titre2 ASC", Source::Possedes, {}, parGenre},
         {"SELECT * " + kJoint + " ORDER BY Support ASC, Titre2 ASC", Source::Possedes, {}, parSupport},
         {"SELECT * " + kJoint + " ORDER BY Note ASC, Titre2 ASC", Source::Possedes, {}, parNotePuisTitre},
@@ -277,6 +281,15 @@ TEST(Requetes, DistinctListsKeepTheFirstOfEqualValues) {
               (Liste{"(Null)", "DivX", "DVD", "K7"}));
     EXPECT_EQ(essai.lit("SELECT DISTINCT origine  FROM films where origine<>\"\" ORDER BY origine ASC ;", "origine"),
               Liste{});
+}
+
+TEST(Requetes, TheFirstOfEqualValuesIsTheLowestRow) {
+    BaseDEssai essai;  // its index is read in the order of titles
+    essai.ajoute("Films", {{"Titre", "c"}, {"Genre", "drame"}});
+    essai.ajoute("Films", {{"Titre", "b"}, {"Genre", "Drame"}});
+    essai.ajoute("Films", {{"Titre", "a"}, {"Genre", "drame"}});
+    EXPECT_EQ(essai.lit("SELECT DISTINCT genre FROM films ORDER BY Genre ASC ;", "genre"),
+              std::vector<std::string>{"drame"});
 }
 
 TEST(Requetes, StatementsWithoutOrderComeInRowOrder) {
