@@ -30,7 +30,7 @@ const std::map<std::string, int> kNiveaux = {
     {"ui", 7},
 };
 
-// What only one room may touch: a header, or a call.
+// What only one room may touch: a header, or a call of the C library (members and other classes may bear its name).
 struct Reserve {
     std::regex motif;
     std::string piece;
@@ -41,7 +41,8 @@ const std::vector<Reserve> kEntetesReserves = {
     {std::regex(R"(spawn\.h|sys/wait\.h)"), "platform/systeme"},
 };
 const std::vector<Reserve> kAppelsReserves = {
-    {std::regex(R"(\b(v?fork|popen|system|posix_spawnp?|exec[lv]p?e?)\s*\()"), "platform/systeme"},
+    {std::regex(R"((?:^|[^\w:.>]|(?:^|\W)::|\bstd::)(v?fork|popen|system|posix_spawnp?|exec[lv]p?e?)\s*\()"),
+     "platform/systeme"},
 };
 
 // The room a path written from src/ belongs to; nothing when it belongs to none.

@@ -65,6 +65,12 @@ TEST_F(Fleches, ReservedThingsStayInTheirRoom) {
                             "app/A.cpp:5: fork() belongs to platform/systeme alone"));
 }
 
+TEST_F(Fleches, OnlyTheLibrarysOwnCallsAreProcessCalls) {
+    EXPECT_THAT(juge("ui/L.cpp", "auto l = QLocale::system();\nb.system(c);\nd->fork();\nmonsystem(e);\n"), IsEmpty());
+    EXPECT_THAT(juge("ui/L.cpp", "std::system(a);\n"),
+                ElementsAre("ui/L.cpp:1: system() belongs to platform/systeme alone"));
+}
+
 TEST_F(Fleches, WhatIsNotWrittenFromARoomIsAFault) {
     EXPECT_THAT(juge("db/B.cpp", "#include \"B.h\"\n#include \"doubles/Dialogues.h\"\n#include \"util/../app/A.h\"\n"),
                 ElementsAre("db/B.cpp:1: \"B.h\" is not written from a room of src/",
