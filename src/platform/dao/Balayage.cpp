@@ -12,7 +12,7 @@ std::string enonceDeLecture(const TableDuPlan& table, bool parLigne) {
     std::string enonce = "SELECT " + table.table->ligneSql;
     for (const ColonneLue& lue : table.lues) {
         const std::string nom = table.table->colonneSql(lue.colonne);
-        enonce += "," + (lue.debut == 0 ? nom : "typeof(" + nom + ")");
+        enonce.append(lue.debut == 0 ? "," : ",typeof(").append(nom).append(lue.debut == 0 ? "" : ")");
     }
     enonce += " FROM " + table.table->nomSql();
     return parLigne ? enonce + " WHERE " + table.table->ligneSql + "=?1" : enonce;

@@ -53,8 +53,9 @@ std::string listeSql(const Table& table, const Assignees& assignees, std::string
     std::string liste;
     int rang = 1;
     for (const auto& [colonne, valeur] : assignees) {
-        liste += "," + table.colonneSql(colonne);
-        if (apres == "=") liste += "=?" + std::to_string(++rang);
+        liste += ',';
+        liste += table.colonneSql(colonne);
+        if (apres == "=") liste.append("=?").append(std::to_string(++rang));
     }
     return liste;
 }
@@ -90,7 +91,7 @@ long long ajouteLigne(Connexion& connexion, Table& table, const Assignees& assig
     const std::string& ligneSql = table.ligneSql;
     std::string places;
     for (std::size_t i = 0; i < assignees.size(); ++i)
-        places += ",?" + std::to_string(i + 2);
+        places.append(",?").append(std::to_string(i + 2));
     {
         Requete ajout = connexion.prepare("INSERT INTO " + table.nomSql() + "(" + ligneSql +
                                           listeSql(table, assignees, "") + ") VALUES (max(?1,coalesce((SELECT max(" +

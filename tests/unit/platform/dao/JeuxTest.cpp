@@ -90,7 +90,7 @@ TEST_F(JeuxTest, TheSortedColumnMayBeEditedWhileWalking) {
     dao::Recordset liste = base.OpenRecordset("SELECT titre FROM films ORDER BY titre");
     for (; !liste.Eof(); liste.MoveNext()) {
         liste.Edit();
-        liste.Fields("Titre") = "z" + liste.texte("Titre");
+        liste.Fields("Titre") = std::string("z") + liste.texte("Titre");
         liste.Update();
     }
     EXPECT_EQ(essai.lit(kParTitre), (Liste{"zAvatar", "zBrazil", "zCasino", "zDune"}));

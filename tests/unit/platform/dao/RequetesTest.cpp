@@ -128,10 +128,12 @@ std::string parGenre(const Ligne& l) {
     return cle(film(l).genre) + '\0' + cle(film(l).titre);
 }
 std::string parNote(const Ligne& l) {
-    return std::string(1, static_cast<char>(film(l).note.value_or(0)));
+    std::string note;
+    note.push_back(static_cast<char>(film(l).note.value_or(0)));
+    return note;
 }
 std::string parNotePuisTitre(const Ligne& l) {
-    return parNote(l) + parTitre(l);
+    return parNote(l).append(parTitre(l));
 }
 std::string parSupport(const Ligne& l) {
     return cle(possession(l).support) + '\0' + parTitre(l);
