@@ -7,6 +7,8 @@ namespace browse {
 
 // The film whose sheet is shown: every later edit finds its rows by these two values.
 struct FilmCourant {
+    [[nodiscard]] bool estUnFilm() const { return cle.starts_with('K'); }  // false after a heading, or nothing
+
     std::string cle;  // key of the tree's selected node
     std::string titre;
     std::string realisateur;
