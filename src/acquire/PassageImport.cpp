@@ -1,7 +1,7 @@
 #include "acquire/PassageImport.h"
 
 #include "db/Requete.h"
-#include "edit/LongueursChamps.h"
+#include "edit/AjoutePossession.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/Texte.h"
 
@@ -96,7 +96,8 @@ void PassageImport::enregistre(const FicheFilm& fiche, const std::string& nom) {
     const edit::SortAffiche sort =
         m_outils.enregistrement.EnregistreNouveauFilm(affiche.chemin, fiche.resume, m_choix.date);
     if (sort == edit::SortAffiche::Illisible) m_rapport.affichesManquantes.push_back(affiche.chemin);
-    if (m_choix.possedes) ajoutePossession(fiche);
+    if (m_choix.possedes)
+        edit::ajoutePossession(m_outils.base.personnel, fiche.titre, fiche.realisateur, m_choix.support);
     if (m_lettres) m_lettres->ajoute(fiche.titre, fiche.realisateur);
     ++m_rapport.ajoutes;
     m_lot.compteFiche(fiche.resume.size() + affiche.octets);
@@ -127,17 +128,6 @@ PassageImport::Affiche PassageImport::choisitAffiche(const std::string& nom) {
         return {};
     }
     return {*chemin, static_cast<std::size_t>(std::max<std::int64_t>(longueur, 0))};
-}
-
-void PassageImport::ajoutePossession(const FicheFilm& fiche) {
-    dao::Recordset& personnel = m_outils.base.personnel;
-    personnel.AddNew();
-    personnel.assigne("Titre2", util::coupe(fiche.titre, edit::kLongueurTitre));
-    personnel.assigne("Realisateur2", util::coupe(fiche.realisateur, edit::kLongueurRealisateur));
-    for (const char* vide : {"Rangement", "Fichier1", "Fichier2", "Fichier3", "Pret", "Reserve", "Date", "Divers"})
-        personnel.assigne(vide, "");
-    personnel.assigne("Support", util::coupe(m_choix.support, edit::kLongueurSupport));
-    personnel.Update();
 }
 
 void PassageImport::confirmeLot() {

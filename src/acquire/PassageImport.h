@@ -62,7 +62,6 @@ class PassageImport {
         std::size_t octets = 0;  // that it will take in the base
     };
     [[nodiscard]] Affiche choisitAffiche(const std::string& nom);
-    void ajoutePossession(const FicheFilm& fiche);
     void confirmeLot();
     [[nodiscard]] bool doitRespirer() const;
     [[nodiscard]] bool respire();  // false when the user stops

@@ -4,11 +4,12 @@
 #include "browse/AfficheAccueil.h"
 #include "browse/EtatPanneaux.h"
 #include "edit/Command13_Click.h"
+#include "edit/VoletAjout.h"
 
 namespace app {
 
 // Shows one of the three function panels in the place of the film sheet.
-class ChoixFonction {
+class ChoixFonction final : public edit::VoletAjout {
   public:
     ChoixFonction(EtatFonctions& fonctions, browse::EtatPanneaux& panneaux, browse::AfficheAccueil& afficheAccueil,
                   edit::ModesAjout& modesAjout)
@@ -18,6 +19,7 @@ class ChoixFonction {
     void ChoixFonction2_Outils();
     void ChoixFonction3_Config();
     void cmdConfig_Click(int indice);
+    void montreVoletAjout() override { montre(m_fonctions.frameDivers); }  // whatever its page
 
   private:
     void montre(const ecran::Cadre& panneau);

@@ -22,12 +22,9 @@ void griseTous(Tableaux&... tableaux) {
 
 void griseFiche(browse::EtatFiche& fiche) {
     grise(fiche.cmdModifieNote);
-    grise(fiche.cmdModifierTitre);
     grise(fiche.cmdSupprimerTitre);
     grise(fiche.cmdCreeFichierTxt);
     grise(fiche.cmdFichiersFilm);
-    griseTous(fiche.Option1, fiche.Text10, fiche.Combo7, fiche.Command2);
-    grise(fiche.cmdValiderInfosPossessions, fiche.cmdRaffraichirListe);
 }
 
 void griseFonctions(EtatFonctions& fonctions) {
@@ -43,7 +40,6 @@ void griseFonctions(EtatFonctions& fonctions) {
 }
 
 void griseAjout(edit::EtatAjout& ajout) {
-    grise(ajout.Command13[1]);
     grise(ajout.Command13[2]);
     grise(ajout.cmdTelecharge);
 }

@@ -10,7 +10,10 @@
 #include "browse/SelectionneTitre.h"
 #include "browse/lblRealisateur_Click.h"
 #include "db/cmdChargeOuvreBase_Click.h"
-#include "edit/RaffraichitBoitesDeroulantes.h"
+#include "edit/SaisiePossession.h"
+#include "edit/cmdAjoutFilm_Click.h"
+#include "edit/cmdModifierTitre_Click.h"
+#include "edit/cmdValiderInfosPossessions_Click.h"
 
 namespace app {
 
@@ -55,6 +58,7 @@ struct Session::Rouages final : db::Rafraichissement {
         machine.images, afficheTemporaire, affichePossession, modifieNoteFilm, afficheAccueil,
         afficheVolet};
     browse::TreeView1 treeView1{etats.liste, afficheFiche, machine.dialogues};
+    browse::SelectionneTitre selectionneTitre{etats.liste, base, treeView1};
 
     // Search.
     browse::cmdFonctionRecherche_Click cmdFonctionRecherche{etats.panneaux, etats.demandes, afficheAccueil};
@@ -63,7 +67,8 @@ struct Session::Rouages final : db::Rafraichissement {
     browse::lblRealisateur_Click lblRealisateur{film, etats.recherche, cmdFonctionRecherche, cmdRecherche};
 
     // Adding.
-    edit::ModesAjout modesAjout{etats.ajout, etats.demandes};
+    edit::ListesDeSaisie listesDeSaisie{base, etats.ajout, machine.dialogues};
+    edit::ModesAjout modesAjout{etats.ajout, etats.demandes, listesDeSaisie};
     edit::BoitesDeroulantes boitesDeroulantes{base, etats.fiche, machine.dialogues};
     edit::Doublons doublons{base, machine.dialogues};
     edit::Ressemblances ressemblances{base, machine.dialogues};
@@ -73,9 +78,24 @@ struct Session::Rouages final : db::Rafraichissement {
         {etats.liste, creeEtAfficheRecherche, afficheNbTitres, boitesDeroulantes},
         machine.horloge};
     acquire::ChoixDossierFiches choixDossierFiches{etats.ajout, machine.dialogues};
+    edit::cmdAjoutFilm_Click cmdAjoutFilm{{base, etats.ajout, etats.fiche, etats.stockage, chemins, film,
+                                           enregistrement, doublons, machine.dialogues, machine.horloge},
+                                          {etats.liste, affichageApresModification, selectionneTitre,
+                                           creeEtAfficheRecherche, afficheNbTitres, listesDeSaisie}};
+
+    // Holdings.
+    edit::SaisiePossession saisiePossession{etats.fiche, machine.dialogues};
+    edit::cmdValiderInfosPossessions_Click cmdValiderInfosPossessions{
+        base,
+        etats.fiche,
+        film,
+        {affichageApresModification, selectionneTitre, afficheNbTitres, boitesDeroulantes},
+        machine.dialogues};
 
     // Life of the window.
     ChoixFonction choixFonction{etats.fonctions, etats.panneaux, afficheAccueil, modesAjout};
+    edit::cmdModifierTitre_Click cmdModifierTitre{base,          etats.ajout, film,
+                                                  choixFonction, modesAjout,  machine.dialogues};
     Demarrage demarrage{etats,    chemins,           extensions,
                         instance, machine.dialogues, {option3, ouvertureBase, choixTri, choixZone, *this}};
     Arret arret{etats, chemins, extensions, base, machine.dialogues};

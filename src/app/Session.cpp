@@ -176,4 +176,40 @@ void Session::cmdAjoutAuto_Click() {
     m_rouages->importFiches.cmdAjoutAuto_Click();
 }
 
+void Session::cmdAjoutFilm_Click() {
+    m_rouages->cmdAjoutFilm();
+}
+
+void Session::cmdModifierTitre_Click() {
+    m_rouages->cmdModifierTitre();
+}
+
+void Session::ModifieFilm_Click() {
+    cmdModifierTitre_Click();
+}
+
+void Session::cmdValiderInfosPossessions_Click() {
+    m_rouages->cmdValiderInfosPossessions();
+}
+
+void Session::Option1_Click() {
+    m_rouages->saisiePossession.Option1_Click();
+}
+
+void Session::Combo7_Change(int) {
+    m_rouages->saisiePossession.Combo7_Change();
+}
+
+void Session::Text10_Change(int) {
+    m_rouages->saisiePossession.Text10_Change();
+}
+
+void Session::Command2_Click(int indice) {
+    m_rouages->saisiePossession.Command2_Click(static_cast<std::size_t>(indice));
+}
+
+void Session::cmdRaffraichirListe_Click() {
+    m_rouages->boitesDeroulantes.RaffraichitBoitesDeroulantes();
+}
+
 }  // namespace app

@@ -12,12 +12,23 @@ void ModesAjout::Command13_Click(int indice) {
     m_ajout.frameAjoutAuto.Visible = false;
     m_ajout.Frame13.Visible = false;
     if (indice == 0) ouvreAjoutAutomatique();
+    if (indice == 1) ouvreSaisie();
 }
 
 void ModesAjout::ouvreAjoutAutomatique() {
     m_ajout.frameAjoutAuto.Visible = true;
     m_ajout.Label5.Caption = "Ajout automatique de fiches de films";
     m_demandes.focus = "txtRechInternet";
+}
+
+void ModesAjout::ouvreSaisie() {
+    m_ajout.Frame13.Visible = true;
+    for (ecran::ZoneTexte& zone : m_ajout.Text3)
+        zone.Text.clear();
+    m_ajout.txtResume.Text.clear();
+    m_ajout.lblImage.Caption.clear();
+    m_demandes.focus = "Text3_0";
+    m_listes.remplit();
 }
 
 }  // namespace edit

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "edit/EtatAjout.h"
+#include "edit/ListesDeSaisie.h"
 #include "platform/ecran/Ecran.h"
 
 namespace edit {
@@ -8,16 +9,20 @@ namespace edit {
 // The buttons at the top of the add panel, each of which opens one way of adding films.
 class ModesAjout {
   public:
-    ModesAjout(EtatAjout& ajout, ecran::Demandes& demandes) : m_ajout(ajout), m_demandes(demandes) {}
+    ModesAjout(EtatAjout& ajout, ecran::Demandes& demandes, ListesDeSaisie& listes)
+        : m_ajout(ajout), m_demandes(demandes), m_listes(listes) {}
 
-    // 0: automatic import and web search. Back to add mode whatever was being modified.
+    // 0: automatic import and web search; 1: manual entry, of an empty sheet. Back to add mode whatever was being
+    // modified. Throws db::RequeteEchouee after its message.
     void Command13_Click(int indice);
 
   private:
     void ouvreAjoutAutomatique();
+    void ouvreSaisie();
 
     EtatAjout& m_ajout;
     ecran::Demandes& m_demandes;
+    ListesDeSaisie& m_listes;
 };
 
 }  // namespace edit

@@ -22,45 +22,64 @@ EnregistrementFilm::EnregistrementFilm(db::Base& base, const EtatAjout& ajout, d
 
 SortAffiche EnregistrementFilm::EnregistreNouveauFilm(const std::string& image, const std::string& resume,
                                                       const std::string& dateAjout) {
-    const Affiche affiche = prepareAffiche(image);
-    if (m_ajout.modeModifier() && modifieFilmCourant(resume)) return SortAffiche::Aucune;
+    FilmPret film = prepare(image);
+    ecrit(film, resume, dateAjout);
+    return film.sort;
+}
+
+FilmPret EnregistrementFilm::prepare(const std::string& image) {
+    FilmPret film{.affiche = "", .sort = SortAffiche::Aucune, .ancien = {}};
+    if (m_ajout.modeModifier()) {
+        film.ancien = db::ouvreRequete(m_base.base, db::enonceFilm(m_courant.titre, m_courant.realisateur),
+                                       db::NumeroErreur::EnregistreNouveauFilm, m_dialogues);
+        if (film.ancien.RecordCount() > 0) return film;
+        film.ancien.Close();
+    }
+    if (!image.empty()) prepareAffiche(film, image);
+    return film;
+}
+
+void EnregistrementFilm::prepareAffiche(FilmPret& film, const std::string& image) {
+    if (m_stockage.dansLaBase())
+        afficheDansLaBase(film, image);
+    else
+        afficheEnFichier(film, image);
+}
+
+void EnregistrementFilm::afficheDansLaBase(FilmPret& film, const std::string& image) {
+    const std::optional<std::string> octets = fichiers::lit(image, db::kTailleMaxAffiche - 1);
+    if (octets) {
+        film.affiche = db::valeurAfficheDansLaBase(*octets);
+        film.sort = SortAffiche::Enregistree;
+    } else {
+        const bool tropGrande = fichiers::longueur(image) >= db::kTailleMaxAffiche;
+        film.sort = tropGrande ? SortAffiche::TropGrande : SortAffiche::Illisible;
+    }
+}
+
+void EnregistrementFilm::afficheEnFichier(FilmPret& film, const std::string& image) {
+    const std::string nom = db::nomFichierAffiche(m_ajout.Text3[0].Text, m_ajout.Text3[1].Text);
+    const std::string dossier = db::dossierImages(m_stockage, m_chemins);
+    film.sort = SortAffiche::Illisible;
+    if (!fichiers::creeDossier(dossier) || !fichiers::copie(image, dossier + nom)) return;
+    film.affiche = db::valeurAfficheFichier(nom);
+    film.sort = SortAffiche::Enregistree;
+}
+
+void EnregistrementFilm::ecrit(FilmPret& film, const std::string& resume, const std::string& dateAjout) {
+    if (film.ancien.estOuvert()) {
+        film.ancien.Edit();
+        ecritChamps(film.ancien, resume);
+        film.ancien.Update();
+        return;
+    }
     dao::Recordset& films = m_base.films;
     films.AddNew();
     ecritChamps(films, resume);
-    films.assigne("Affiche", affiche.valeur);
+    films.assigne("Affiche", film.affiche);
     films.assigne("Note", dao::Valeur());
     films.assigne("DateAjout", dateAjout);
     films.Update();
-    return affiche.sort;
-}
-
-EnregistrementFilm::Affiche EnregistrementFilm::prepareAffiche(const std::string& image) {
-    if (image.empty()) return {"", SortAffiche::Aucune};
-    return m_stockage.dansLaBase() ? afficheDansLaBase(image) : afficheEnFichier(image);
-}
-
-EnregistrementFilm::Affiche EnregistrementFilm::afficheDansLaBase(const std::string& image) {
-    if (const std::optional<std::string> octets = fichiers::lit(image, db::kTailleMaxAffiche - 1))
-        return {db::valeurAfficheDansLaBase(*octets), SortAffiche::Enregistree};
-    const bool tropGrande = fichiers::longueur(image) >= db::kTailleMaxAffiche;
-    return {"", tropGrande ? SortAffiche::TropGrande : SortAffiche::Illisible};
-}
-
-EnregistrementFilm::Affiche EnregistrementFilm::afficheEnFichier(const std::string& image) {
-    const std::string nom = db::nomFichierAffiche(m_ajout.Text3[0].Text, m_ajout.Text3[1].Text);
-    const std::string dossier = db::dossierImages(m_stockage, m_chemins);
-    if (!fichiers::creeDossier(dossier) || !fichiers::copie(image, dossier + nom)) return {"", SortAffiche::Illisible};
-    return {db::valeurAfficheFichier(nom), SortAffiche::Enregistree};
-}
-
-bool EnregistrementFilm::modifieFilmCourant(const std::string& resume) {
-    dao::Recordset film = db::ouvreRequete(m_base.base, db::enonceFilm(m_courant.titre, m_courant.realisateur),
-                                           db::NumeroErreur::EnregistreNouveauFilm, m_dialogues);
-    if (film.RecordCount() == 0) return false;
-    film.Edit();
-    ecritChamps(film, resume);
-    film.Update();
-    return true;
 }
 
 void EnregistrementFilm::ecritChamps(dao::Recordset& films, const std::string& resume) const {

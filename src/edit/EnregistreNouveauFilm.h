@@ -18,6 +18,13 @@ enum class SortAffiche {
     Illisible,    // could not be read or copied: the film has no poster, and names no file that is not there
 };
 
+// A film about to be written: all that reads files or may show a box has been done.
+struct FilmPret {
+    dao::Valeur affiche;
+    SortAffiche sort = SortAffiche::Aucune;
+    dao::Recordset ancien;  // the row to rewrite; closed where a row is to be added
+};
+
 // Writes one film from the entry controls, cut to the lengths of the columns. Used by the manual entry and by the
 // import. A film is stored whole whatever happens to its poster.
 class EnregistrementFilm {
@@ -30,15 +37,14 @@ class EnregistrementFilm {
     SortAffiche EnregistreNouveauFilm(const std::string& image, const std::string& resume,
                                       const std::string& dateAjout);
 
+    // The same in two steps, for who writes more in the same transaction: only the second belongs inside it.
+    [[nodiscard]] FilmPret prepare(const std::string& image);  // throws db::RequeteEchouee after its message
+    void ecrit(FilmPret& film, const std::string& resume, const std::string& dateAjout);
+
   private:
-    struct Affiche {
-        dao::Valeur valeur;
-        SortAffiche sort = SortAffiche::Aucune;
-    };
-    [[nodiscard]] Affiche prepareAffiche(const std::string& image);
-    [[nodiscard]] static Affiche afficheDansLaBase(const std::string& image);
-    [[nodiscard]] Affiche afficheEnFichier(const std::string& image);
-    [[nodiscard]] bool modifieFilmCourant(const std::string& resume);
+    void prepareAffiche(FilmPret& film, const std::string& image);
+    static void afficheDansLaBase(FilmPret& film, const std::string& image);
+    void afficheEnFichier(FilmPret& film, const std::string& image);
     void ecritChamps(dao::Recordset& films, const std::string& resume) const;
 
     db::Base& m_base;

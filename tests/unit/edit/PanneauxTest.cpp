@@ -30,13 +30,20 @@ TEST(BoitesDeroulantes, listWhatTheHoldingsKnowAndKeepWhatIsBeingTyped) {
     EXPECT_EQ(fiche.Combo7[2].ListIndex, -1);
 }
 
-TEST(ModesAjout, openTheAutomaticPageBackInAddMode) {
+struct ModesAjoutTest : testing::Test {
+    doubles::BaseDEssai essai;
+    doubles::DialoguesScript dialogues;
     edit::EtatAjout ajout;
     ecran::Demandes demandes;
+    edit::ListesDeSaisie listes{essai.base, ajout, dialogues};
+    edit::ModesAjout modes{ajout, demandes, listes};
+};
+
+TEST_F(ModesAjoutTest, openTheAutomaticPageBackInAddMode) {
     ajout.cmdAjoutFilm.Caption = "Modifier";
     ajout.Frame13.Visible = true;
     ajout.Command13[1].FontBold = true;
-    edit::ModesAjout(ajout, demandes).Command13_Click(0);
+    modes.Command13_Click(0);
     EXPECT_FALSE(ajout.modeModifier());
     EXPECT_TRUE(ajout.frameAjoutAuto.Visible);
     EXPECT_FALSE(ajout.Frame13.Visible);
@@ -44,6 +51,27 @@ TEST(ModesAjout, openTheAutomaticPageBackInAddMode) {
     EXPECT_FALSE(ajout.Command13[1].FontBold);
     EXPECT_NE(ajout.Label5.Caption, "-");
     EXPECT_EQ(demandes.focus, "txtRechInternet");
+}
+
+TEST_F(ModesAjoutTest, openAnEmptySheetWithWhatTheCatalogueKnows) {
+    for (const auto& [genre, origine, production] : std::vector<std::array<dao::Valeur, 3>>{
+             {"Péplum", "Italie", ""}, {"drame", dao::Valeur(), "MGM"}, {"", "États-Unis", "Mgm"}, {"Drame", "", ""}})
+        essai.ajoute(essai.base.films, {{"Genre", genre}, {"Origine", origine}, {"Production", production}});
+    for (auto& zone : ajout.Text3)
+        zone.Text = "ancien";
+    ajout.txtResume.Text = ajout.Combo2.Text = ajout.Combo4.Text = "ancien";
+    ajout.cmdAjoutFilm.Caption = "Modifier";
+    modes.Command13_Click(1);
+    EXPECT_FALSE(ajout.modeModifier());
+    EXPECT_TRUE(ajout.Frame13.Visible && ajout.Command13[1].FontBold);
+    EXPECT_FALSE(ajout.frameAjoutAuto.Visible || ajout.Command13[0].FontBold);
+    EXPECT_EQ(ajout.Label5.Caption, "-");
+    for (const auto& zone : ajout.Text3)
+        EXPECT_EQ(zone.Text, "");
+    EXPECT_EQ(ajout.txtResume.Text + ajout.Combo2.Text + ajout.Combo3.Text + ajout.Combo4.Text, "");
+    EXPECT_THAT(ajout.Combo2.Items, ElementsAre("drame", "Péplum"));
+    EXPECT_THAT(ajout.Combo3.Items, ElementsAre("États-Unis", "Italie"));
+    EXPECT_THAT(ajout.Combo4.Items, ElementsAre("MGM"));
 }
 
 }  // namespace

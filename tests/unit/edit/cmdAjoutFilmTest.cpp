@@ -1,0 +1,275 @@
+#include "db/EnonceFilm.h"
+#include "doubles/HorlogeFixe.h"
+#include "edit/cmdAjoutFilm_Click.h"
+#include "edit/cmdModifierTitre_Click.h"
+#include "unit/browse/Fenetre.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::ElementsAre;
+
+const std::string kDoublon = "Un film ayant le même titre et du même réalisateur existe déjà !";
+
+std::string repete(const std::string& texte, int fois) {
+    std::string resultat;
+    while (fois-- > 0)
+        resultat += texte;
+    return resultat;
+}
+
+// Shows the function panel as the application does.
+struct VoletDEssai final : edit::VoletAjout {
+    explicit VoletDEssai(browse::EtatPanneaux& lesPanneaux) : panneaux(lesPanneaux) {}
+    void montreVoletAjout() override { panneaux.montre(panneaux.frameListeFonctions); }
+    browse::EtatPanneaux& panneaux;
+};
+
+class cmdAjoutFilm : public Fenetre {
+  protected:
+    edit::EtatAjout ajout;
+    doubles::HorlogeFixe horloge;
+    VoletDEssai volet{panneaux};
+    edit::ListesDeSaisie listes{base, ajout, dialogues};
+    edit::ModesAjout modes{ajout, demandes, listes};
+    edit::Doublons doublons{base, dialogues};
+    edit::EnregistrementFilm enregistrement{base, ajout, stockage, chemins, film, dialogues};
+    edit::cmdModifierTitre_Click cmdModifierTitre{base, ajout, film, volet, modes, dialogues};
+    edit::cmdAjoutFilm_Click commande{
+        {base, ajout, fiche, stockage, chemins, film, enregistrement, doublons, dialogues, horloge},
+        {liste, affichageApresModification, selectionneTitre, creeEtAfficheRecherche, afficheNbTitres, listes}};
+
+    void saisis(const std::string& titre, const std::string& realisateur) {
+        ajout.Text3[0].Text = titre;
+        ajout.Text3[1].Text = realisateur;
+    }
+    void ouvreSaisie(const std::string& titre, const std::string& realisateur) {
+        modes.Command13_Click(1);
+        saisis(titre, realisateur);
+    }
+    void modifie(const char* noeud, const std::string& titre, const std::string& realisateur) {
+        clique(noeud);
+        cmdModifierTitre();
+        saisis(titre, realisateur);
+    }
+    void attendChoix(const std::string& reponse) {
+        dialogues.attendFichier(
+            {"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", dossier.chemin("Images") + "/"}, reponse);
+    }
+    void attendRefus(const std::string& texte) { dialogues.attendMsgBox(texte, dialogues::kExclamation); }
+    // One column of a table's rows, or of a statement's.
+    std::vector<std::string> colonne(const std::string& source, const std::string& champ) {
+        std::vector<std::string> valeurs;
+        for (dao::Recordset lignes = base.base.OpenRecordset(source); !lignes.Eof(); lignes.MoveNext())
+            valeurs.push_back(lignes.texte(champ));
+        return valeurs;
+    }
+    std::string filmChoisi() {  // the selected node, and the sheet
+        const browse::Arbre& noeuds = liste.TreeView1.Nodes;
+        const int noeud = liste.TreeView1.SelectedItem;
+        return (noeud == 0 ? "" : std::string(noeuds.Text(noeud))) + "/" + film.titre;
+    }
+};
+
+TEST_F(cmdAjoutFilm, refusesInOrderAndWritesNothing) {
+    ajouteFilm("Alien", {{"Realisateur", "Ridley Scott"}});
+    ouvreSaisie("", "");
+    attendRefus("Le titre du film est obligatoire !");
+    commande();
+    saisis("ALIEN", "");
+    attendRefus("Le réalisateur du film est obligatoire !");
+    commande();
+    saisis("ALIEN", "ridley scott ");
+    attendRefus(kDoublon);
+    commande();
+    dialogues.verifie();
+    EXPECT_EQ(base.films.RecordCount(), 1);
+    EXPECT_EQ(base.personnel.RecordCount(), 0);
+}
+
+TEST_F(cmdAjoutFilm, asksForThePosterUntilItCanBeTaken) {
+    const std::string octets = "\xFF\xD8" + std::string(229997, 'x');  // 229,999 bytes
+    const std::string bonne = dossier.ecrit("bonne.jpg", octets), limite = dossier.ecrit("limite.jpg", octets + "x"),
+                      grande = dossier.ecrit("grande.jpg", octets + "xx");
+    ouvreSaisie("Premier", "R");
+    attendChoix(dossier.chemin("absente.jpg"));
+    attendRefus("Le fichier indiqué est inexistant !");
+    attendChoix(grande);
+    attendRefus("Image trop grande pour tenir en base !");
+    attendChoix(bonne);
+    commande();
+    EXPECT_EQ(ajout.lblImage.Caption, bonne);
+    EXPECT_EQ(fiche.Label12.Caption, bonne);
+
+    // The dialog takes one byte more than the base does.
+    saisis("Second", "R");
+    attendChoix(limite);
+    commande();
+    saisis("Troisième", "R");
+    attendChoix("");
+    commande();
+    EXPECT_EQ(ajout.lblImage.Caption, "");
+
+    // No limit for files.
+    ecran::choisit(stockage.Option3, 1);
+    saisis("Quatrième", "R");
+    attendChoix(grande);
+    commande();
+    EXPECT_THAT(colonne("Films", "Affiche"), ElementsAre("STO" + octets, "", "", "JPGQuatrième - R.jpg"));
+    EXPECT_EQ(dossier.lit("Images/Quatrième - R.jpg").size(), 230001u);
+}
+
+TEST_F(cmdAjoutFilm, tellsOfAPosterThatCouldNotBeCopiedAndKeepsTheFilm) {
+    ecran::choisit(stockage.Option3, 1);
+    stockage.Text4.Text = dossier.ecrit("un fichier", "") + "/Images";
+    const std::string image = dossier.ecrit("image.jpg", "octets");
+    ouvreSaisie("Alien", "R");
+    dialogues.attendFichier({"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", stockage.Text4.Text + "/"},
+                            image);
+    attendRefus("L'image n'a pas pu être enregistrée (" + image + ") !");
+    commande();
+    EXPECT_THAT(colonne("Films", "Affiche"), ElementsAre(""));
+    EXPECT_THAT(titres(), ElementsAre("Alien"));
+}
+
+TEST_F(cmdAjoutFilm, addsTheFilmWithItsHoldingAndShowsTheDay) {
+    ajouteFilm("Hier", {{"Realisateur", "R"}, {"DateAjout", "20/11/2026"}});
+    ajouteFilm("Non possédé", {{"Realisateur", "R"}, {"DateAjout", "21/11/2026"}});
+    const std::string titre = repete("é", 99) + "👨‍👩‍👧", realisateur = repete("É", 100);
+    ouvreSaisie(titre + "coupé", realisateur + "coupé");
+    ajout.Text3[2].Text = "19795";
+    ajout.Combo2.Text = "Péplum";
+    ajout.txtResume.Text = "Un \"résumé\"";
+    attendChoix("");
+    commande();
+    EXPECT_THAT(titres(), ElementsAre(titre, "Non possédé"));
+    EXPECT_EQ(liste.critereRecherche, "DateAjout = \"21/11/2026\"");
+    EXPECT_EQ(liste.zoneRecherche, browse::kZoneTous);
+    EXPECT_EQ(liste.ChoixZone.Text, "Recherche");
+    EXPECT_EQ(liste.Label9[0].Caption, "3 titres");
+    EXPECT_EQ(liste.Label9[1].Caption, "1 personnel");
+    EXPECT_THAT(colonne("Films", "Annee"), ElementsAre("", "", "1979"));
+    EXPECT_THAT(colonne("Films", "Resume"), ElementsAre("", "", "Un \"résumé\""));
+    EXPECT_THAT(colonne("Personnel", "Titre2"), ElementsAre(titre));
+    EXPECT_THAT(colonne("Personnel", "Realisateur2"), ElementsAre(realisateur));
+    for (const char* champ :
+         {"Rangement", "Fichier1", "Fichier2", "Fichier3", "Pret", "Reserve", "Date", "Support", "Divers"})
+        EXPECT_EQ(base.base.OpenRecordset("Personnel").valeur(champ), dao::Valeur("")) << champ;
+
+    // The page is as it was, its list knows the new genre; what was cut is the same film.
+    EXPECT_THAT(ajout.Combo2.Items, ElementsAre("Péplum"));
+    EXPECT_EQ(ajout.Combo2.Text, "Péplum");
+    attendRefus(kDoublon);
+    commande();
+}
+
+TEST_F(cmdAjoutFilm, correctsTheFilmWithItsHoldingAndShowsItAgain) {
+    const std::string titre = R"(L'"œuvre")";
+    ajouteFilm(titre.c_str(), {{"Realisateur", "Clouzot"},
+                               {"Annee", "1956"},
+                               {"Duree", "78"},
+                               {"Acteurs", "Picasso;Renoir"},
+                               {"Genre", "Documentaire"},
+                               {"Origine", "France"},
+                               {"Production", "Filmsonor"},
+                               {"Resume", "Un peintre."},
+                               {"Affiche", "JPGLœuvre - Clouzot.jpg"},
+                               {"Note", 9},
+                               {"DateAjout", "01/01/2001"}});
+    dossier.ecrit("Images/Lœuvre - Clouzot.jpg", "\xFF\xD8");
+    ajouteFilm("Alien", {{"Realisateur", "Ridley Scott"}, {"Genre", "Horreur"}});
+    possede(titre.c_str(), "Clouzot", {{"Support", "DVD"}, {"Pret", "Zoé"}});
+    montre(browse::kZoneMesFilms, browse::kTriGenre);
+
+    clique(titre);
+    cmdModifierTitre();
+    EXPECT_TRUE(panneaux.frameListeFonctions.Visible && ajout.Frame13.Visible && ajout.modeModifier());
+    EXPECT_FALSE(panneaux.frameFiche.Visible);
+    std::vector<std::string> saisie;
+    for (const auto& zone : ajout.Text3)
+        saisie.push_back(zone.Text);
+    EXPECT_THAT(saisie, ElementsAre(titre, "Clouzot", "1956", "78", "Picasso;Renoir"));
+    EXPECT_EQ(ajout.Combo2.Text + "/" + ajout.Combo3.Text + "/" + ajout.Combo4.Text + "/" + ajout.txtResume.Text,
+              "Documentaire/France/Filmsonor/Un peintre.");
+    EXPECT_THAT(ajout.Combo2.Items, ElementsAre("Documentaire", "Horreur"));
+
+    saisis("Le Mystère Picasso" + repete("!", 100), "H.-G. Clouzot");
+    commande();
+    const std::string nouveau = "Le Mystère Picasso" + repete("!", 82);
+    EXPECT_EQ(filmChoisi(), nouveau + "/" + nouveau);
+    EXPECT_TRUE(panneaux.frameFiche.Visible);
+    EXPECT_EQ(fiche.Combo7[0].Text, "Zoé");
+    EXPECT_THAT(colonne("Films", "Titre"), ElementsAre(nouveau, "Alien"));
+    EXPECT_THAT(colonne("Films", "Affiche"), ElementsAre("JPGLœuvre - Clouzot.jpg", ""));
+    EXPECT_THAT(colonne("Films", "Note"), ElementsAre("9", ""));
+    EXPECT_THAT(colonne("Films", "DateAjout"), ElementsAre("01/01/2001", ""));
+    EXPECT_THAT(colonne("Personnel", "Titre2"), ElementsAre(nouveau));
+    EXPECT_THAT(colonne("Personnel", "Realisateur2"), ElementsAre("H.-G. Clouzot"));
+    EXPECT_THAT(colonne("Personnel", "Support"), ElementsAre("DVD"));
+}
+
+TEST_F(cmdAjoutFilm, testsForADuplicateOnlyWhatIsMoreThanAChangeOfCase) {
+    ajouteFilm("été", {{"Realisateur", "Zurlini"}});
+    ajouteFilm("ÉTÉ", {{"Realisateur", "Zurlini"}});  // twice already: a change of case is not tested all the same
+    ajouteFilm("Alien", {{"Realisateur", "Ridley Scott"}});
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    modifie("été", "Été", "ZURLINI");
+    commande();
+    EXPECT_EQ(filmChoisi(), "Été/Été");
+    EXPECT_EQ(base.personnel.RecordCount(), 0);  // a modification makes no holding
+
+    modifie("Été", "alien", "ridley SCOTT");
+    attendRefus(kDoublon);
+    commande();
+    EXPECT_TRUE(panneaux.frameListeFonctions.Visible && ajout.modeModifier());
+    saisis("Été", "");
+    attendRefus("Le réalisateur du film est obligatoire !");
+    commande();
+    EXPECT_THAT(colonne("Films", "Realisateur"), ElementsAre("ZURLINI", "Zurlini", "Ridley Scott"));
+}
+
+TEST_F(cmdAjoutFilm, addsAFilmThatWentWhileItWasBeingCorrected) {
+    ajouteFilm("Alien", {{"Realisateur", "Ridley Scott"}});
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    modifie("Alien", "Aliens", "James Cameron");
+    base.base.Execute("DELETE FROM Films");
+    commande();
+    EXPECT_THAT(colonne("Films", "Titre"), ElementsAre("Aliens"));
+    EXPECT_EQ(filmChoisi(), "Aliens/Aliens");
+}
+
+TEST_F(cmdAjoutFilm, opensNoCorrectionWithoutAFilm) {
+    ajouteFilm("", {{"Realisateur", ""}, {"Genre", "Drame"}});
+    montre(browse::kZoneTous, browse::kTriGenre);
+    clique("Drame");
+    cmdModifierTitre();
+    EXPECT_FALSE(panneaux.frameListeFonctions.Visible || ajout.modeModifier());
+}
+
+TEST_F(cmdAjoutFilm, leavesBothRowsAsTheyWereWhenOneCannotBeWritten) {
+    ajouteFilm("Alien", {{"Realisateur", "Ridley Scott"}, {"Genre", "Horreur"}});
+    possede("Alien", "Ridley Scott");
+    possede("Aliens", "Un autre");
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    base.base.Execute("CREATE UNIQUE INDEX obstacle ON Personnel(Titre2)");  // the second row is refused
+    modifie("Alien", "Aliens", "James Cameron");
+    EXPECT_THROW(commande(), dao::ErreurDao);
+    ouvreSaisie("Aliens", "James Cameron");
+    attendChoix("");
+    EXPECT_THROW(commande(), dao::ErreurDao);
+    EXPECT_FALSE(base.base.enTransaction());
+    EXPECT_THAT(colonne("Films", "Titre"), ElementsAre("Alien"));
+    EXPECT_THAT(colonne(db::enonceFilm("Alien", "Ridley Scott"), "Genre"), ElementsAre("Horreur"));
+    EXPECT_THAT(colonne("Personnel", "Titre2"), ElementsAre("Alien", "Aliens"));
+    EXPECT_EQ(base.films.RecordCount(), 1);
+
+    // The entry is still there, to be stored once the base takes it again.
+    base.base.Execute("DROP INDEX obstacle");
+    attendChoix("");
+    commande();
+    EXPECT_THAT(colonne("Personnel", "Realisateur2"), ElementsAre("Ridley Scott", "Un autre", "James Cameron"));
+    EXPECT_THAT(titres(), ElementsAre("Aliens"));
+}
+
+}  // namespace
