@@ -28,7 +28,7 @@ int Arbre::ajouteGroupe(std::string cle, std::string texte) {
 }
 
 int Arbre::ajouteFilm(int groupe, std::uint32_t position, std::string_view titre) {
-    std::vector<std::int32_t>& freres = groupe == 0 ? m_racine : m_groupes[noeud(groupe).texte].enfants;
+    std::vector<std::int32_t>& freres = enfantsDe(groupe);
     Noeud nouveau;
     nouveau.position = position;
     nouveau.parent = static_cast<std::uint32_t>(groupe);
@@ -38,6 +38,30 @@ int Arbre::ajouteFilm(int groupe, std::uint32_t position, std::string_view titre
     m_noeuds.push_back(nouveau);
     freres.push_back(Count());
     return Count();
+}
+
+void Arbre::retire(int indice) {
+    const Noeud parti = noeud(indice);
+    const auto octets = static_cast<std::uint32_t>(Text(indice).size());
+    m_titres.erase(parti.texte, octets);
+    std::vector<std::int32_t>& freres = enfantsDe(static_cast<int>(parti.parent));
+    freres.erase(freres.begin() + parti.rang);
+    for (std::size_t rang = parti.rang; rang < freres.size(); ++rang)
+        --m_noeuds[static_cast<std::size_t>(freres[rang] - 1)].rang;
+
+    m_noeuds.erase(m_noeuds.begin() + (indice - 1));
+    for (std::size_t i = static_cast<std::size_t>(indice - 1); i < m_noeuds.size(); ++i) {
+        if (m_noeuds[i].position != 0) m_noeuds[i].texte -= octets;
+        if (static_cast<int>(m_noeuds[i].parent) > indice) --m_noeuds[i].parent;
+    }
+    const auto remonte = [indice](std::vector<std::int32_t>& indices) {
+        for (std::int32_t& autre : indices)
+            if (autre > indice) --autre;
+    };
+    remonte(m_racine);
+    for (Groupe& groupe : m_groupes)
+        remonte(groupe.enfants);
+    ++m_generation;
 }
 
 std::string Arbre::Key(int indice) const {
@@ -61,6 +85,16 @@ void Arbre::changeTexteGroupe(int indice, std::string texte) {
 
 const std::vector<std::int32_t>& Arbre::enfants(int indice) const {
     return indice == 0 ? m_racine : m_groupes[noeud(indice).texte].enfants;
+}
+
+std::vector<std::int32_t>& Arbre::enfantsDe(int indice) {
+    return indice == 0 ? m_racine : m_groupes[noeud(indice).texte].enfants;
+}
+
+int Arbre::noeudDuFilm(std::uint32_t position) const {
+    for (int i = 1; i <= Count(); ++i)
+        if (!estGroupe(i) && noeud(i).position == position) return i;
+    return 0;
 }
 
 }  // namespace browse

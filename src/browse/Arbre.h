@@ -18,6 +18,10 @@ class Arbre {
     // `position` is the film's 1-based row in the listing; `groupe` the index of its heading, 0 for the root.
     int ajouteFilm(int groupe, std::uint32_t position, std::string_view titre);
 
+    // Takes a film's node out: those after it move up by one, as in a node collection. Keys and positions stay, and so
+    // does the heading of a last film. generation() rises.
+    void retire(int indice);
+
     [[nodiscard]] int Count() const { return static_cast<int>(m_noeuds.size()); }
     [[nodiscard]] bool estGroupe(int indice) const { return noeud(indice).position == 0; }
     [[nodiscard]] std::string Key(int indice) const;  // "T" + group, "K" + position
@@ -29,6 +33,8 @@ class Arbre {
         return static_cast<int>(noeud(indice).rang);
     }                                                                          // among its siblings, from 0
     [[nodiscard]] const std::vector<std::int32_t>& enfants(int indice) const;  // of a heading, or of the root (0)
+
+    [[nodiscard]] int noeudDuFilm(std::uint32_t position) const;  // 0: none has that position
 
     [[nodiscard]] int generation() const { return m_generation; }
 
@@ -43,6 +49,7 @@ class Arbre {
         std::string cle, texte;
         std::vector<std::int32_t> enfants;
     };
+    [[nodiscard]] std::vector<std::int32_t>& enfantsDe(int indice);
     [[nodiscard]] const Noeud& noeud(int indice) const { return m_noeuds[static_cast<std::size_t>(indice - 1)]; }
 
     std::vector<Noeud> m_noeuds;

@@ -11,7 +11,7 @@ void SelectionneTitre::operator()(std::string titre, std::string realisateur) {
     // Nearly always the very texts are listed, and comparing bytes over a whole collection takes no time.
     std::uint32_t position = cherche(titre, realisateur, std::equal_to<std::string_view>());
     if (position == 0) position = cherche(titre, realisateur, dao::egalJet);
-    if (position != 0) m_arbre.NodeClick(noeudDe(position));
+    if (position != 0) m_arbre.NodeClick(m_liste.TreeView1.Nodes.noeudDuFilm(position));
 }
 
 // The position of the first such film in the listing, 0 when it has none.
@@ -25,13 +25,6 @@ std::uint32_t SelectionneTitre::cherche(const std::string& titre, const std::str
         ++position;
         if (egal(liste.vue(titres), titre) && egal(liste.vue(realisateurs), realisateur)) return position;
     }
-    return 0;
-}
-
-int SelectionneTitre::noeudDe(std::uint32_t position) const {
-    const Arbre& arbre = m_liste.TreeView1.Nodes;
-    for (int i = 1; i <= arbre.Count(); ++i)
-        if (arbre.position(i) == position) return i;
     return 0;
 }
 

@@ -20,7 +20,6 @@ class SelectionneTitre {
   private:
     template <typename Egalite>
     [[nodiscard]] std::uint32_t cherche(const std::string& titre, const std::string& realisateur, Egalite egal);
-    [[nodiscard]] int noeudDe(std::uint32_t position) const;
 
     EtatListe& m_liste;
     db::Base& m_base;

@@ -10,6 +10,8 @@ namespace db {
 [[nodiscard]] std::string enonceFilm(std::string_view titre, std::string_view realisateur);
 // The same rows, in the text that ratings use.
 [[nodiscard]] std::string enonceFilmNote(std::string_view titre, std::string_view realisateur);
+// The same rows, in the text that deletion and renaming use.
+[[nodiscard]] std::string enonceFilmModifie(std::string_view titre, std::string_view realisateur);
 // The film's row in the holdings.
 [[nodiscard]] std::string enoncePossession(std::string_view titre, std::string_view realisateur);
 

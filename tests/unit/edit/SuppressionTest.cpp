@@ -1,0 +1,200 @@
+#include "edit/cmdSupprTitresSelect_Click.h"
+#include "edit/cmdSupprimerTitre_Click.h"
+#include "unit/edit/FenetreEdition.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* kQuestionSimple = "Voulez-vous vraiment supprimer ce titre ?";
+
+class SuppressionTest : public FenetreEdition {
+  protected:
+    std::array<ecran::BoutonOption, 2> Option4;
+    ecran::Bouton cmdSupprTitresSelect;
+    edit::SuppressionTitre suppression{base, fiche, film, {liste, afficheAccueil, afficheNbTitres, boites}, dialogues};
+    edit::MultiSuppression multi{base, {liste, fiche, panneaux, Option4, cmdSupprTitresSelect}, outils(), suites};
+
+    void coche(const std::vector<std::string>& textes) {
+        for (const std::string& texte : textes)
+            arbre.NodeCheck(noeud(texte), true);
+    }
+    void interditDeSupprimer(const std::string& titre) {
+        base.base.Execute(
+            "PRAGMA foreign_keys=ON; CREATE TABLE Garde(film REFERENCES Films(id)); INSERT INTO Garde "
+            "SELECT id FROM Films WHERE Titre='" +
+            titre + "'");
+    }
+    void retire(const char* titre) {
+        dao::Recordset ligne = base.base.OpenRecordset("SELECT * FROM films WHERE titre=\"" + std::string(titre) + '"');
+        ligne.Delete();
+    }
+};
+
+TEST_F(SuppressionTest, AnOwnedFilmGoesWithItsHoldingAndItsNode) {
+    ajouteFilm("Avatar", {{"Realisateur", "R"}});
+    ajouteFilm("Le \"Été\"", {{"Realisateur", "L'a\"b"}});
+    ajouteFilm("Zorro", {{"Realisateur", "R"}});
+    possede("Le \"Été\"", "L'a\"b", {{"Support", "DVD"}});
+    boites.RaffraichitBoitesDeroulantes();
+    montre(browse::kZoneTous, browse::kTriTitre1);
+    arbre.NodeCheck(noeud("Zorro"), true);
+    clique("Le \"Été\"");
+    liste.TreeView1.SelectedItem = noeud("Avatar");  // a tick moved the highlight, not the sheet
+    dialogues.attendMsgBox(kQuestionSimple, 36, dialogues::kNon);
+    suppression.cmdSupprimerTitre_Click();
+    EXPECT_EQ(titresDesFilms().size(), 3U);
+    EXPECT_TRUE(panneaux.frameFiche.Visible);
+
+    dialogues.attendMsgBox(kQuestionSimple, 36, dialogues::kOui);
+    suppression.SupprFilm_Click();
+    EXPECT_THAT(titresDesFilms(), ElementsAre("Avatar", "Zorro"));
+    EXPECT_THAT(titresPossedes(), IsEmpty());
+    EXPECT_THAT(arbreEnTexte(), ElementsAre("TA=A", ">K1=Avatar", "TL=L", "TZ=Z", ">K3=Zorro"));
+    EXPECT_EQ(liste.TreeView1.SelectedItem, noeud("Avatar"));
+    EXPECT_EQ(liste.TreeView1.coches, std::set<int>{noeud("Zorro")});
+    EXPECT_EQ(liste.Frame1.Caption, "Liste des titres");
+    EXPECT_EQ(liste.Label9[0].Caption, "2 titres");
+    EXPECT_EQ(liste.Label9[1].Caption, "0 personnel");
+    EXPECT_THAT(fiche.Combo7[2].Items, IsEmpty());
+    EXPECT_TRUE(panneaux.framePresentation.Visible);
+
+    suppression.cmdSupprimerTitre_Click();  // no film is current any more: no question
+    clique("Zorro");
+    EXPECT_EQ(film.titre, "Zorro");
+}
+
+TEST_F(SuppressionTest, TheLastFilmLeavesItsHeadingUntilTheNextListing) {
+    ajouteFilm("Avatar", {{"Realisateur", "R"}});
+    possede("Avatar", "R");
+    montre(browse::kZoneTous, browse::kTriTitre1);
+    clique("Avatar");
+    ecran::choisit(fiche.Option1, 0);  // shown as not owned: the holding stays
+    dialogues.attendMsgBox(kQuestionSimple, 36, dialogues::kOui);
+    suppression.cmdSupprimerTitre_Click();
+    EXPECT_THAT(arbreEnTexte(), ElementsAre("TA=A"));
+    EXPECT_THAT(titresPossedes(), ElementsAre("Avatar"));
+    montre(browse::kZoneTous, browse::kTriTitre1);
+    EXPECT_THAT(arbreEnTexte(), IsEmpty());
+}
+
+TEST_F(SuppressionTest, AFilmThatIsGoneIsToldAndItsNodeStays) {
+    ajouteFilm("Avatar", {{"Realisateur", "R"}});
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    clique("Avatar");
+    retire("Avatar");
+    dialogues.attendMsgBox(kQuestionSimple, 36, dialogues::kOui);
+    dialogues.attendMsgBox("Titre non trouvé !", 48);
+    suppression.cmdSupprimerTitre_Click();
+    EXPECT_EQ(liste.TreeView1.Nodes.Count(), 1);
+    EXPECT_TRUE(panneaux.framePresentation.Visible);
+}
+
+TEST_F(SuppressionTest, ABaseThatCannotDeleteKeepsFilmAndHolding) {
+    ajouteFilm("Avatar", {{"Realisateur", "R"}});
+    possede("Avatar", "R");
+    interditDeSupprimer("Avatar");
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    clique("Avatar");
+    dialogues.attendMsgBox(kQuestionSimple, 36, dialogues::kOui);
+    EXPECT_THROW(suppression.cmdSupprimerTitre_Click(), dao::ErreurDao);
+    EXPECT_THAT(titresDesFilms(), ElementsAre("Avatar"));
+    EXPECT_THAT(titresPossedes(), ElementsAre("Avatar"));
+    EXPECT_FALSE(base.base.enTransaction());
+}
+
+TEST_F(SuppressionTest, TheCheckBoxesComeAndGoWithTheirOption) {
+    multi.cmdMultiSuppress_Click();
+    EXPECT_TRUE(panneaux.frameMultiSuppression.Visible);
+    EXPECT_FALSE(panneaux.framePresentation.Visible);
+    for (const bool active : {true, false}) {
+        ecran::choisit(Option4, active ? 1 : 0);
+        multi.Option4_Click();
+        EXPECT_EQ(liste.TreeView1.Checkboxes, active);
+        EXPECT_EQ(cmdSupprTitresSelect.Visible, active);
+    }
+}
+
+TEST_F(SuppressionTest, OnlyTickedFilmsCountAndRefusingKeepsTheTicks) {
+    ajouteFilm("Avatar");
+    ajouteFilm("Zorro");
+    montre(browse::kZoneTous, browse::kTriTitre1);
+    liste.TreeView1.coches = {noeud("A")};
+    dialogues.attendMsgBox("Aucun film n'a été coché !", 48);
+    multi.cmdSupprTitresSelect_Click();
+    coche({"Avatar", "Zorro"});
+    const std::set<int> coches = liste.TreeView1.coches;
+    dialogues.attendMsgBox("Voulez-vous vraiment supprimer ces 2 titres ?", 36, dialogues::kNon);
+    multi.cmdSupprTitresSelect_Click();
+    EXPECT_EQ(liste.TreeView1.coches, coches);
+    EXPECT_EQ(titresDesFilms().size(), 2U);
+}
+
+TEST_F(SuppressionTest, TheOwnershipOnTheScreenDecidesForEveryTickedFilm) {
+    for (const bool possedeALEcran : {false, true}) {
+        for (const char* titre : {"Avatar", "Brazil", "Zorro"}) {
+            ajouteFilm(titre, {{"Realisateur", "R"}});
+            possede(titre, "R");
+        }
+        montre(browse::kZoneMesFilms, browse::kTriTitre1);
+        coche({"Avatar", "Zorro"});
+        multi.cmdMultiSuppress_Click();
+        ecran::choisit(fiche.Option1, possedeALEcran ? 1 : 0);
+        dialogues.attendMsgBox("Voulez-vous vraiment supprimer ces 2 titres ?", 36, dialogues::kOui);
+        dialogues.attendMsgBox("2 titres supprimés.", 64);
+        multi.cmdSupprTitresSelect_Click();
+        EXPECT_THAT(titresDesFilms(), ElementsAre("Brazil"));
+        EXPECT_EQ(titresPossedes().size(), possedeALEcran ? 1U : 3U);
+        EXPECT_THAT(titres(), ElementsAre("Brazil"));
+        EXPECT_THAT(liste.TreeView1.coches, IsEmpty());
+        EXPECT_TRUE(panneaux.frameMultiSuppression.Visible);
+        base.base.Execute("DELETE FROM Films; DELETE FROM Personnel");
+    }
+}
+
+TEST_F(SuppressionTest, FilmsThatAreGoneAreNotCountedAndTwinsGoBoth) {
+    for (const char* titre : {"Alien", "Avatar", "Zorro"})
+        ajouteFilm(titre, {{"Realisateur", "R"}, {"Annee", "1990"}});
+    ajouteFilm("Avatar", {{"Realisateur", "R"}, {"Annee", "1980"}});  // listed before its elder twin
+    montre(browse::kZoneTous, 2);
+    for (int i = 1; i <= liste.TreeView1.Nodes.Count(); ++i)
+        if (liste.TreeView1.Nodes.Text(i) == "Avatar") arbre.NodeCheck(i, true);
+    coche({"Zorro"});
+    retire("Zorro");
+    dialogues.attendMsgBox("Voulez-vous vraiment supprimer ces 3 titres ?", 36, dialogues::kOui);
+    dialogues.attendMsgBox("2 titres supprimés.", 64);
+    multi.cmdSupprTitresSelect_Click();
+    EXPECT_THAT(titresDesFilms(), ElementsAre("Alien"));
+}
+
+TEST_F(SuppressionTest, AStopKeepsWhatWasDeletedAndAFailureDeletesNothing) {
+    for (const char* titre : {"Alien", "Brazil", "Casino", "Zorro"})
+        ajouteFilm(titre, {{"Realisateur", "R"}});
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    coche({"Alien", "Brazil", "Casino"});
+    ecranMuet.arretApres = 2;
+    ecranMuet.pendantSouffle = [this] { EXPECT_TRUE(progression.Visible && progression.Max == 3); };
+    dialogues.attendMsgBox("Voulez-vous vraiment supprimer ces 3 titres ?", 36, dialogues::kOui);
+    dialogues.attendMsgBox("2 titres supprimés.", 64);
+    multi.cmdSupprTitresSelect_Click();
+    EXPECT_THAT(titresDesFilms(), ElementsAre("Casino", "Zorro"));
+    EXPECT_FALSE(progression.Visible);
+    EXPECT_EQ(ecranMuet.soufflesHorsTravail, 0);
+
+    ecranMuet.arretApres = 0;
+    ecranMuet.pendantSouffle = nullptr;
+    interditDeSupprimer("Zorro");
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    coche({"Casino", "Zorro"});
+    dialogues.attendMsgBox("Voulez-vous vraiment supprimer ces 2 titres ?", 36, dialogues::kOui);
+    dialogues.attendMsgBox(
+        "Erreur 3022 : La modification contredit une règle de la base (FOREIGN KEY constraint failed).");
+    dialogues.attendMsgBox("0 titre supprimé.", 64);
+    multi.cmdSupprTitresSelect_Click();
+    EXPECT_THAT(titresDesFilms(), ElementsAre("Casino", "Zorro"));
+}
+
+}  // namespace
