@@ -1,0 +1,121 @@
+#include "edit/ModifieGroupe.h"
+#include "edit/cmdModifieNote_Click.h"
+#include "unit/edit/FenetreEdition.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::ElementsAre;
+
+class NotesEtGroupesTest : public FenetreEdition {
+  protected:
+    edit::Notation notation{liste, film, modifieNoteFilm, suites, dialogues};
+    edit::RenommageGroupe renommage{base, liste, film, outils(), suites};
+
+    void attendNote(const std::string& reponse) {
+        dialogues.attendInputBox("Quelle note (entre 1 et 10) voulez vous attribuer au film \"L'a\"b\" de R ?",
+                                 reponse);
+    }
+    void attendGenre(const std::string& reponse, const std::string& defaut) {
+        dialogues.attendInputBox("Entrez le nom du nouveau genre", reponse, "Modifier le genre", defaut);
+    }
+    void attendSupport(const std::string& reponse, const std::string& defaut) {
+        dialogues.attendInputBox("Entrez le nom du nouveau support", reponse, "Modifier le support", defaut);
+    }
+};
+
+TEST_F(NotesEtGroupesTest, AnAnswerFromOneToTenIsRoundedAnEmptyOneClears) {
+    ajouteFilm("L'a\"b", {{"Realisateur", "R"}});
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    clique("L'a\"b");
+    const struct {
+        const char* reponse;
+        const char* note;
+    } cas[] = {{"3", "3"},   {"0", "3"},   {"11", "3"},  {"0.9", "3"},   {"10,1", "3"}, {"bien", "3"},
+               {" ", "3"},   {"-5", "3"},  {"7.5", "8"}, {"6.5", "6"},   {"7,5", "8"},  {" 9 sur 10", "9"},
+               {"1,4", "1"}, {"10", "10"}, {"", ""},     {"9,99", "10"}, {"", ""}};
+    for (const auto& c : cas) {
+        attendNote(c.reponse);
+        notation.cmdModifieNote_Click();
+        EXPECT_THAT(colonne("Films", "Note"), ElementsAre(c.note)) << c.reponse;
+        EXPECT_EQ(fiche.lblNote.Caption, browse::texteDeLaNote(*c.note ? std::stod(c.note) : 0));
+        EXPECT_TRUE(panneaux.frameFiche.Visible);
+    }
+    EXPECT_TRUE(base.base.OpenRecordset("Films").valeur("Note").estNull());
+}
+
+TEST_F(NotesEtGroupesTest, TheSortByRatingFollowsAndTheFilmStaysShown) {
+    ajouteFilm("L'a\"b", {{"Realisateur", "R"}, {"Note", 2}});
+    ajouteFilm("Zorro", {{"Realisateur", "R"}, {"Note", 5}});
+    notation.cmdModifieNote_Click();  // no current film: no question
+    montre(browse::kZoneTous, browse::kTriNote);
+    clique("L'a\"b");
+    attendNote("9");
+    notation.cmdModifieNote_Click();
+    EXPECT_THAT(arbreEnTexte(), ElementsAre("T1=5", ">K1=Zorro", "T2=9", ">K2=L'a\"b"));
+    EXPECT_EQ(liste.TreeView1.SelectedItem, noeud("L'a\"b"));
+    EXPECT_EQ(film.titre, "L'a\"b");
+    EXPECT_EQ(fiche.lblNote.Caption, "Note : 9/10");
+}
+
+TEST_F(NotesEtGroupesTest, AGenreIsRenamedUnderItsHeadingOnly) {
+    for (const char* titre : {"Avatar", "Brazil"})
+        ajouteFilm(titre, {{"Realisateur", "R"}, {"Genre", "Drame"}});
+    ajouteFilm("Zorro", {{"Realisateur", "R"}, {"Genre", "Western"}});
+    montre(browse::kZoneTous, browse::kTriGenre);  // a listing without Support
+    clique("Drame");
+    for (const char* sansEffet : {"", "Comédie dramatique"}) {
+        attendGenre(sansEffet, "Drame");
+        renommage.RenommerGenreFilms_Click();
+    }
+    EXPECT_THAT(colonne("Films", "Genre"), ElementsAre("Comédie dramatique", "Comédie dramatique", "Western"));
+    EXPECT_THAT(arbreEnTexte(),
+                ElementsAre("T1=Comédie dramatique", ">K1=Avatar", ">K2=Brazil", "T2=Western", ">K3=Zorro"));
+    clique("Avatar");
+    renommage.RenommerGenreFilms_Click();  // a film is selected, no heading
+    clique("Western");
+    attendGenre(std::string(39, 'x') + "éé", "Western");
+    renommage.RenommerGenreFilms_Click();
+    EXPECT_EQ(colonne("Films", "Genre").back(), std::string(39, 'x') + "é");
+}
+
+TEST_F(NotesEtGroupesTest, ARenamingStopsAtTheFirstFilmWithoutAHolding) {
+    for (const char* titre : {"Alien", "Brazil", "L'a\"b", "Zorro"}) {
+        ajouteFilm(titre, {{"Realisateur", "R"}});
+        possede(titre, "R", {{"Support", "DVD"}});
+    }
+    montre(browse::kZoneMesFilms, browse::kTriSupport);
+    {
+        dao::Recordset partie = base.base.OpenRecordset("SELECT * FROM Personnel WHERE titre2=\"L'a\"\"b\"");
+        partie.Edit();
+        partie.assigne("Realisateur2", "autre");
+        partie.Update();
+    }
+    clique("DVD");
+    attendSupport("Disque bleu", "DVD");
+    dialogues.attendMsgBox("Infos personnelles sur le titre \"L'a\"b\" de R non trouvées !\r\nProcessus arrêté.", 48);
+    renommage.RenommeSupportFilms_Click();
+    EXPECT_THAT(colonne("Personnel", "Support"), ElementsAre("Disque bleu", "Disque bleu", "DVD", "DVD"));
+    EXPECT_THAT(titres(), ElementsAre("Alien", "Brazil", "Zorro"));
+    EXPECT_THAT(fiche.Combo7[2].Items, ElementsAre("Disque bleu", "DVD"));
+}
+
+TEST_F(NotesEtGroupesTest, AHeadingWithoutFilmsRenamesNothingAndAStopKeepsWhatIsDone) {
+    for (const char* titre : {"Alien", "Brazil", "Zorro"})
+        ajouteFilm(titre, {{"Realisateur", "R"}, {"Genre", "Drame"}});
+    montre(browse::kZoneTous, browse::kTriGenre);
+    clique("Drame");
+    ecranMuet.arretApres = 2;
+    attendGenre("Noir", "Drame");
+    renommage.RenommerGenreFilms_Click();
+    EXPECT_THAT(colonne("Films", "Genre"), ElementsAre("Noir", "Noir", "Drame"));
+    EXPECT_EQ(ecranMuet.debuts, ecranMuet.fins);
+    clique("Drame");
+    liste.TreeView1.Nodes.retire(noeud("Zorro"));
+    attendGenre("Gai", "");
+    renommage.RenommerGenreFilms_Click();
+    EXPECT_THAT(colonne("Films", "Genre"), ElementsAre("Noir", "Noir", "Drame"));
+}
+
+}  // namespace
