@@ -1,0 +1,100 @@
+#include "ui/DialoguesQt.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Runs on the box as soon as it is open.
+template <typename Boite>
+void surLaBoite(const std::function<void(Boite&)>& action) {
+    auto* minuterie = new QTimer(qApp);
+    QObject::connect(minuterie, &QTimer::timeout, qApp, [=] {
+        auto* boite = qobject_cast<Boite*>(QApplication::activeModalWidget());
+        if (!boite) return;
+        minuterie->stop();
+        minuterie->deleteLater();
+        action(*boite);
+    });
+    minuterie->start(1);
+}
+
+TEST(DialoguesQt, AQuestionSpeaksFrenchAndIsShownPlainly) {
+    ui::Liaison liaison;
+    ui::DialoguesQt boites(liaison);
+    surLaBoite<QMessageBox>([](QMessageBox& boite) {
+        EXPECT_EQ(boite.icon(), QMessageBox::Question);
+        EXPECT_EQ(boite.windowTitle(), "Ambrelis");
+        EXPECT_EQ(boite.textFormat(), Qt::PlainText);
+        EXPECT_EQ(boite.button(QMessageBox::Yes)->text().remove('&'), "Oui");
+        boite.button(QMessageBox::Yes)->click();
+    });
+    EXPECT_EQ(boites.MsgBox("Supprimer <b>Été</b> ?", dialogues::kQuestion, dialogues::kTitre), dialogues::kOui);
+    surLaBoite<QMessageBox>([](QMessageBox& boite) { boite.reject(); });
+    EXPECT_EQ(boites.MsgBox("Continuer ?", dialogues::kQuestion, dialogues::kTitre), dialogues::kNon)
+        << "closing answers No";
+}
+
+TEST(DialoguesQt, ALongReportKeepsItsButtonsOnTheScreen) {
+    ui::Liaison liaison;
+    ui::DialoguesQt boites(liaison);
+    std::string rapport = "900 films ajoutés.\n- Déjà existant : \n";
+    for (int i = 0; i < 900; ++i)
+        rapport += "Un titre déjà présent dans la base, ";
+    surLaBoite<QMessageBox>([&](QMessageBox& boite) {
+        EXPECT_EQ(boite.text().toStdString(), rapport);
+        EXPECT_LE(boite.height(), boite.screen()->availableSize().height());
+        EXPECT_TRUE(boite.button(QMessageBox::Ok)->isVisible());
+        boite.accept();
+    });
+    EXPECT_EQ(boites.MsgBox(rapport, dialogues::kInformation, dialogues::kTitre), dialogues::kOk);
+}
+
+TEST(DialoguesQt, AnInputAnswersItsTextOrNothing) {
+    ui::Liaison liaison;
+    ui::DialoguesQt boites(liaison);
+    surLaBoite<QInputDialog>([](QInputDialog& boite) {
+        EXPECT_EQ(boite.textValue(), "Comédie");
+        EXPECT_EQ(boite.findChild<QLabel*>()->textFormat(), Qt::PlainText);
+        EXPECT_EQ(boite.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel)->text().remove('&'),
+                  "Annuler");
+        boite.setTextValue("Œuvre");
+        boite.accept();
+    });
+    EXPECT_EQ(boites.InputBox("Quel <i>genre</i> ?", "Modifier le genre", "Comédie"), "Œuvre");
+    surLaBoite<QInputDialog>([](QInputDialog& boite) { boite.reject(); });
+    EXPECT_EQ(boites.InputBox("Quel genre ?", "Modifier le genre", "Comédie"), "");
+}
+
+TEST(DialoguesQt, TheFileBoxTakesANewNameOnlyWhereItMay) {
+    ui::Liaison liaison;
+    ui::DialoguesQt boites(liaison);
+    const std::string dossier = QDir::tempPath().toStdString();
+    for (const bool peutCreer : {true, false}) {
+        surLaBoite<QFileDialog>([&](QFileDialog& boite) {
+            EXPECT_EQ(boite.fileMode(), peutCreer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+            EXPECT_EQ(boite.acceptMode(), QFileDialog::AcceptOpen);
+            EXPECT_EQ(boite.directory().absolutePath().toStdString(),
+                      QDir(QString::fromStdString(dossier)).absolutePath().toStdString());
+            boite.reject();
+        });
+        EXPECT_EQ(boites.choisitFichier({"Ouvrir", "Fichiers de base de données|*.mdb", dossier, peutCreer}), "");
+    }
+}
+
+TEST(DialoguesQt, FiltersTakeBothLetterCases) {
+    EXPECT_EQ(ui::filtreQt("Fichiers JPEG|*.jpg"), "Fichiers JPEG (*.jpg *.JPG)");
+    EXPECT_EQ(ui::filtreQt("Tous types de fichiers|*.*"), "Tous types de fichiers (*)");
+    EXPECT_EQ(ui::filtreQt(""), " (*)");
+}
+
+}  // namespace

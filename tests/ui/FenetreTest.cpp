@@ -1,0 +1,220 @@
+#include "ProgrammeDEssai.h"
+
+#include <QAbstractItemModelTester>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTextEdit>
+
+namespace {
+
+using essais::Film;
+using essais::octetsDImage;
+using essais::ProgrammeDEssai;
+
+const std::vector<Film> kFilms = {{"L'Été meurtrier", "Jean Becker", "Drame", octetsDImage(Qt::red)},
+                                  {"Écrit sur du vent", "Douglas Sirk", "", octetsDImage(Qt::green)},
+                                  {"Avatar", "James Cameron", "Science-fiction", ""},
+                                  {"L'Œuvre au noir", "André Delvaux", "drame", octetsDImage(Qt::blue)}};
+
+struct Fenetre : testing::Test {
+    ProgrammeDEssai essai;
+
+    void SetUp() override { essai.demarre(); }
+    void importe() {
+        essai.importe(kFilms);
+        essai.choisit("ChoixZone", 1);
+        essai.choisit("ChoixTri", 0);
+    }
+    [[nodiscard]] QStringList entetes() {
+        QStringList textes;
+        for (int i = 0; i < essai.arbre().model()->rowCount(); ++i)
+            textes << essai.arbre().model()->index(i, 0).data().toString();
+        return textes;
+    }
+    // The colour in the middle of the poster that is shown.
+    [[nodiscard]] QColor couleurAffiche() {
+        QWidget& affiche = essai.trouve("Image1");
+        return affiche.grab().toImage().pixelColor(affiche.rect().center() * affiche.devicePixelRatio());
+    }
+    void attendsLaFiche(const std::string& titre, const std::string& realisateur) {
+        EXPECT_TRUE(essai.trouve("frameFiche").isVisible());
+        EXPECT_EQ(essai.texte("Label1_0"), titre);
+        EXPECT_EQ(essai.trouve<QAbstractButton>("lblRealisateur").text().toStdString(), "de " + realisateur);
+    }
+};
+
+TEST_F(Fenetre, AnEmptyBaseSaysHowToBeginAndLeadsThere) {
+    EXPECT_TRUE(essai.trouve("framePresentation").isVisible());
+    EXPECT_EQ(essai.texte("Label9_0"), "0 titre");
+    ASSERT_TRUE(essai.trouve("cmdCommencer").isVisible());
+    essai.clique("cmdCommencer");
+    EXPECT_TRUE(essai.trouve("frameAjoutAuto").isVisible());
+    EXPECT_FALSE(essai.trouve("framePresentation").isVisible());
+    EXPECT_TRUE(essai.trouve("txtRechInternet").hasFocus());
+
+    importe();
+    essai.choisit("ChoixTri", 2);
+    EXPECT_TRUE(essai.trouve("framePresentation").isVisible());
+    EXPECT_FALSE(essai.trouve("cmdCommencer").isVisible()) << "a base with films needs no first steps";
+}
+
+TEST_F(Fenetre, ImportedFilmsAreListedAndCounted) {
+    essai.importe(kFilms);
+    ASSERT_FALSE(essai.boites.messages.empty());
+    EXPECT_EQ(essai.boites.messages.back().rfind("4 films ajoutés.\n", 0), 0u);
+    EXPECT_EQ(essai.texte("Label9_0"), "4 titres");
+    EXPECT_EQ(essai.trouve<QComboBox>("ChoixZone").currentText(), "Recherche");
+    EXPECT_EQ(essai.trouve("Frame1").windowTitle(), "Liste de films (4 titres)");
+    EXPECT_FALSE(essai.trouve("cmdAnnuler").isVisible());
+
+    essai.choisit("ChoixZone", 1);
+    essai.choisit("ChoixTri", 0);
+    EXPECT_EQ(entetes(), QStringList({"A", "E", "L"}));
+    EXPECT_FALSE(essai.arbre().isExpanded(essai.arbre().model()->index(0, 0)));
+    essai.choisit("ChoixTri", 4);
+    EXPECT_EQ(entetes(),
+              QStringList({" Hors tri !", "Drame", "Science-Fiction"}).replaceInStrings("Fiction", "fiction"));
+    const QAbstractItemModelTester verificateur(essai.arbre().model(),
+                                                QAbstractItemModelTester::FailureReportingMode::Fatal);
+}
+
+TEST_F(Fenetre, AClickShowsTheSheetOfTheFilmAndItsOwnPoster) {
+    importe();
+    essai.cliqueTitre("L'Été Meurtrier");
+    attendsLaFiche("L'Été Meurtrier", "Jean Becker");
+    EXPECT_EQ(essai.texte("lblInfosActeurs"), "Un acteur\nUne actrice");
+    EXPECT_EQ(essai.trouve<QTextEdit>("Text1").toPlainText(), "Résumé de L'Été meurtrier");
+    EXPECT_GT(couleurAffiche().red(), 200);
+
+    essai.cliqueTitre("L'Œuvre Au Noir");
+    attendsLaFiche("L'Œuvre Au Noir", "André Delvaux");
+    EXPECT_GT(couleurAffiche().blue(), 200);
+
+    essai.cliqueTitre("Avatar");
+    EXPECT_FALSE(essai.trouve("Image1").isVisible());
+    EXPECT_EQ(essai.texte("Label12").substr(0, 11), "Pas d'image");
+}
+
+TEST_F(Fenetre, KeysWalkTheTreeAsClicksDo) {
+    importe();
+    essai.cliqueTitre("L'Été Meurtrier");
+    QTest::keyClick(&essai.arbre(), Qt::Key_Down);
+    attendsLaFiche("L'Œuvre Au Noir", "André Delvaux");
+    QTest::keyClick(&essai.arbre(), Qt::Key_Home);
+    EXPECT_TRUE(essai.trouve("framePresentation").isVisible()) << "a heading shows no sheet";
+    QTest::keyClick(&essai.arbre(), Qt::Key_Return);
+    EXPECT_TRUE(essai.arbre().isExpanded(essai.arbre().currentIndex()));
+    QTest::keyClick(&essai.arbre(), Qt::Key_Down);
+    attendsLaFiche("Avatar", "James Cameron");
+}
+
+TEST_F(Fenetre, ProgramSelectionOpensAndShowsTheNodeWithoutAGesture) {
+    importe();
+    const browse::Arbre& noeuds = essai.etats().liste.TreeView1.Nodes;
+    int indice = noeuds.Count();
+    while (noeuds.estGroupe(indice))
+        --indice;
+    essai.programme->commande().execute([&] { essai.etats().liste.TreeView1.SelectedItem = indice; });
+    EXPECT_EQ(ui::ModeleArbre::noeud(essai.arbre().currentIndex()), indice);
+    EXPECT_TRUE(essai.arbre().isExpanded(essai.arbre().currentIndex().parent()));
+    EXPECT_TRUE(essai.trouve("framePresentation").isVisible()) << "nothing was clicked";
+}
+
+TEST_F(Fenetre, ARightClickShowsTheFilmAndItsMenu) {
+    importe();
+    essai.cliqueTitre("Avatar", Qt::RightButton);
+    attendsLaFiche("Avatar", "James Cameron");
+    auto& menu = essai.trouve<QMenu>("MenuClicDroitFilm");
+    ASSERT_TRUE(menu.isVisible());
+    for (const QAction* entree : menu.actions())
+        EXPECT_FALSE(entree->isEnabled()) << entree->objectName().toStdString();
+    menu.close();
+
+    essai.choisit("ChoixTri", 4);
+    essai.cliqueTitre("Science-fiction", Qt::RightButton);
+    ASSERT_TRUE(essai.trouve<QMenu>("MenuClicDroitGenre").isVisible());
+    essai.trouve<QMenu>("MenuClicDroitGenre").close();
+    essai.choisit("ChoixTri", 2);
+    essai.cliqueTitre("2001", Qt::RightButton);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "headings of other sorts have none";
+}
+
+TEST_F(Fenetre, SearchIsTypedAndStartedWithEnter) {
+    importe();
+    essai.clique("cmdFonctionRecherche");
+    EXPECT_TRUE(essai.trouve("Text2").hasFocus());
+    QInputMethodEvent saisie;  // letters beyond ASCII
+    saisie.setCommitString("œuvre");
+    QApplication::sendEvent(&essai.trouve("Text2"), &saisie);
+    QTest::keyClick(&essai.trouve("Text2"), Qt::Key_Return);
+    EXPECT_EQ(entetes(), QStringList("L'Œuvre Au Noir"));
+    EXPECT_EQ(essai.trouve<QComboBox>("ChoixZone").currentText(), "Recherche");
+
+    essai.trouve<QComboBox>("ChoixZone").showPopup();
+    EXPECT_EQ(essai.trouve<QComboBox>("ChoixZone").count(), 6) << "the search leaves the list before it is shown";
+    essai.trouve<QComboBox>("ChoixZone").hidePopup();
+
+    essai.choisit("ChoixZone", 0);
+    essai.choisit("ChoixTri", 1);
+    essai.cliqueTitre("Avatar");
+    essai.clique("lblRealisateur");
+    EXPECT_EQ(essai.trouve<QLineEdit>("Text2").text(), "James Cameron");
+    EXPECT_EQ(entetes(), QStringList("Avatar"));
+}
+
+TEST_F(Fenetre, AbandonedImportKeepsWhatWasAdded) {
+    std::vector<Film> beaucoup;
+    for (int i = 0; i < 400; ++i)
+        beaucoup.push_back({"Film " + std::to_string(i), "Quelqu'un", "Drame", ""});
+    auto& annuler = essai.trouve<QAbstractButton>("cmdAnnuler");
+    QObject::connect(&essai.programme->ecran(), &ui::EcranQt::travailCommence, &annuler, [&] { annuler.click(); });
+    essai.importe(beaucoup);
+    const int ajoutes = std::stoi(essai.texte("Label9_0"));
+    EXPECT_LT(ajoutes, 400);
+    EXPECT_EQ(essai.boites.messages.back().rfind(std::to_string(ajoutes) + " film", 0), 0u);
+    EXPECT_FALSE(essai.trouve("cmdAnnuler").isVisible());
+}
+
+TEST_F(Fenetre, ClosingDuringWorkStopsItAndThenSavesTheSettings) {
+    std::vector<Film> films(60, {"", "Quelqu'un", "Drame", ""});
+    for (std::size_t i = 0; i < films.size(); ++i)
+        films[i].titre = "Film " + std::to_string(i);
+    QObject::connect(&essai.programme->ecran(), &ui::EcranQt::travailCommence, &essai.fenetre(),
+                     [&] { essai.fenetre().close(); });
+    essai.importe(films);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !essai.fenetre().isVisible(); }));
+    EXPECT_LT(std::stoi(essai.texte("Label9_0")), 60);
+    EXPECT_FALSE(essai.dossier.lit("Ambrelis.ini").empty());
+}
+
+TEST(Depart, TheWindowComesBackAsItWasLeft) {
+    ProgrammeDEssai essai;
+    essai.demarre();
+    EXPECT_EQ(essai.fenetre().size(), QSize(1180, 760));
+    essai.importe({{"Avatar", "James Cameron", "Science-fiction", ""}});
+    essai.choisit("ChoixTri", 4);
+    essai.clique("AffStats");
+    essai.fenetre().resize(960, 640);
+    essai.fenetre().close();
+    essai.programme.reset();
+
+    essai.demarre();
+    EXPECT_EQ(essai.fenetre().size(),
+              QSize(960, 640).boundedTo(essai.fenetre().screen()->availableSize()).expandedTo({900, 600}));
+    EXPECT_EQ(essai.trouve<QComboBox>("ChoixTri").currentIndex(), 4);
+    EXPECT_TRUE(essai.trouve<QAbstractButton>("AffStats").isChecked());
+    EXPECT_EQ(essai.arbre().model()->index(0, 0).data().toString().left(15), "Science-fiction");
+}
+
+TEST(Depart, AStartThatFailsShowsNoWindow) {
+    ProgrammeDEssai essai;
+    std::filesystem::remove(essai.dossier.chemin("Modele.dat"));
+    ui::Programme programme(essai.dossier.chemin(), {&essai.boites, &essai.horloge, &essai.documents});
+    EXPECT_FALSE(programme.demarre());
+    EXPECT_FALSE(programme.fenetre().isVisible());
+    EXPECT_EQ(essai.boites.messages,
+              std::vector<std::string>{"Le fichier " + essai.dossier.chemin("Modele.dat") + " n'existe pas."});
+}
+
+}  // namespace

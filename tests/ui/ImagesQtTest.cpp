@@ -1,0 +1,72 @@
+#include "doubles/DossierTemporaire.h"
+#include "ui/ImagesQt.h"
+
+#include <QBuffer>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string octets(const QSize& taille, const char* format) {
+    QImage image(taille, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QByteArray resultat;
+    QBuffer tampon(&resultat);
+    image.save(&tampon, format);
+    return resultat.toStdString();
+}
+
+// A JPEG that asks to be turned a quarter (EXIF orientation 6).
+std::string couchee(const QSize& taille) {
+    const std::string exif(
+        "\xff\xe1\x00\x22"
+        "Exif\0\0"
+        "MM\0\x2a\0\0\0\x08"
+        "\0\x01"
+        "\x01\x12\0\x03\0\0\0\x01\0\x06\0\0"
+        "\0\0\0\0",
+        36);
+    return octets(taille, "JPG").insert(2, exif);
+}
+
+// A bitmap whose header tells a size that is not worth the memory.
+std::string demesuree() {
+    const std::string taille("\x30\x75\0\0\x30\x75\0\0", 8);  // 30,000 by 30,000
+    return octets({8, 8}, "BMP").replace(18, 8, taille);
+}
+
+TEST(ImagesQt, LoadsByContentUprightAndDecodesAtTheSizeShown) {
+    doubles::DossierTemporaire dossier;
+    ui::ImagesQt images;
+    struct Cas {
+        std::string octets;
+        int largeur, hauteur;
+    };
+    for (const Cas& cas : {Cas{octets({400, 600}, "JPG"), 400, 600}, Cas{octets({40, 60}, "PNG"), 40, 60},
+                           Cas{couchee({600, 400}), 400, 600}}) {
+        const auto taille = images.charge(dossier.ecrit("affiche.jpg", cas.octets));
+        ASSERT_TRUE(taille.has_value());
+        EXPECT_EQ(taille->largeur, cas.largeur);
+        EXPECT_EQ(taille->hauteur, cas.hauteur);
+    }
+    EXPECT_EQ(images.affiche({193, 297}).size(), QSize(193, 289)) << "scaled while decoding, upright";
+    EXPECT_EQ(images.affiche({386, 594}).size(), QSize(386, 579)) << "decoded again when shown larger";
+}
+
+TEST(ImagesQt, WhatCannotBeDecodedIsNoPicture) {
+    doubles::DossierTemporaire dossier;
+    ui::ImagesQt images;
+    const std::string bonne = octets({30, 40}, "JPG");
+    for (const std::string& mauvaise :
+         {std::string(), std::string("pas une image"), bonne.substr(0, 20), demesuree(),
+          std::string("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>")}) {
+        ASSERT_TRUE(images.charge(dossier.ecrit("bonne.jpg", bonne)));
+        EXPECT_FALSE(images.charge(dossier.ecrit("mauvaise.jpg", mauvaise))) << mauvaise.size();
+        EXPECT_TRUE(images.estVide()) << "the picture before must not stay";
+    }
+    EXPECT_FALSE(images.charge(dossier.chemin("absente.jpg")));
+    EXPECT_FALSE(images.charge(dossier.chemin()));
+}
+
+}  // namespace
