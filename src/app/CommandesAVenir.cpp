@@ -21,8 +21,6 @@ void griseTous(Tableaux&... tableaux) {
 }
 
 void griseFiche(browse::EtatFiche& fiche) {
-    grise(fiche.cmdModifieNote);
-    grise(fiche.cmdSupprimerTitre);
     grise(fiche.cmdCreeFichierTxt);
     grise(fiche.cmdFichiersFilm);
 }
@@ -31,9 +29,6 @@ void griseFonctions(EtatFonctions& fonctions) {
     grise(fonctions.cmdCompacter);
     grise(fonctions.cmdInfosBase);
     grise(fonctions.cmdSupprInfosPerso);
-    grise(fonctions.cmdPonctuation);
-    grise(fonctions.cmdMultiSuppress, fonctions.cmdSupprTitresSelect);
-    griseTous(fonctions.Option4);
     grise(fonctions.cmdCreerListe);
     grise(fonctions.cmdMajBase);
     griseTous(fonctions.Combo6);

@@ -10,9 +10,14 @@
 #include "browse/SelectionneTitre.h"
 #include "browse/lblRealisateur_Click.h"
 #include "db/cmdChargeOuvreBase_Click.h"
+#include "edit/ModifieGroupe.h"
 #include "edit/SaisiePossession.h"
 #include "edit/cmdAjoutFilm_Click.h"
+#include "edit/cmdModifieNote_Click.h"
 #include "edit/cmdModifierTitre_Click.h"
+#include "edit/cmdPonctuation_Click.h"
+#include "edit/cmdSupprTitresSelect_Click.h"
+#include "edit/cmdSupprimerTitre_Click.h"
 #include "edit/cmdValiderInfosPossessions_Click.h"
 
 namespace app {
@@ -91,6 +96,20 @@ struct Session::Rouages final : db::Rafraichissement {
         film,
         {affichageApresModification, selectionneTitre, afficheNbTitres, boitesDeroulantes},
         machine.dialogues};
+
+    // Deletion, ratings, renaming, correction of the titles.
+    edit::OutilsTravail outilsTravail{base.base, machine.ecran, etats.fonctions.ProgressBar3, machine.dialogues};
+    edit::SuitesModification suites{affichageApresModification, selectionneTitre, afficheNbTitres, boitesDeroulantes};
+    edit::SuppressionTitre suppressionTitre{
+        base, etats.fiche, film, {etats.liste, afficheAccueil, afficheNbTitres, boitesDeroulantes}, machine.dialogues};
+    edit::MultiSuppression multiSuppression{
+        base,
+        {etats.liste, etats.fiche, etats.panneaux, etats.fonctions.Option4, etats.fonctions.cmdSupprTitresSelect},
+        outilsTravail,
+        suites};
+    edit::Notation notation{etats.liste, film, modifieNoteFilm, suites, machine.dialogues};
+    edit::RenommageGroupe renommageGroupe{base, etats.liste, film, outilsTravail, suites};
+    edit::CorrectionTitres correctionTitres{base, etats.panneaux, outilsTravail, suites};
 
     // Life of the window.
     ChoixFonction choixFonction{etats.fonctions, etats.panneaux, afficheAccueil, modesAjout};

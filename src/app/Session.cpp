@@ -212,4 +212,40 @@ void Session::cmdRaffraichirListe_Click() {
     m_rouages->boitesDeroulantes.RaffraichitBoitesDeroulantes();
 }
 
+void Session::cmdSupprimerTitre_Click() {
+    m_rouages->suppressionTitre.cmdSupprimerTitre_Click();
+}
+
+void Session::SupprFilm_Click() {
+    m_rouages->suppressionTitre.SupprFilm_Click();
+}
+
+void Session::cmdMultiSuppress_Click() {
+    m_rouages->multiSuppression.cmdMultiSuppress_Click();
+}
+
+void Session::Option4_Click() {
+    m_rouages->multiSuppression.Option4_Click();
+}
+
+void Session::cmdSupprTitresSelect_Click() {
+    m_rouages->multiSuppression.cmdSupprTitresSelect_Click();
+}
+
+void Session::cmdModifieNote_Click() {
+    m_rouages->notation.cmdModifieNote_Click();
+}
+
+void Session::RenommerGenreFilms_Click() {
+    m_rouages->renommageGroupe.RenommerGenreFilms_Click();
+}
+
+void Session::RenommeSupportFilms_Click() {
+    m_rouages->renommageGroupe.RenommeSupportFilms_Click();
+}
+
+void Session::cmdPonctuation_Click() {
+    m_rouages->correctionTitres.cmdPonctuation_Click();
+}
+
 }  // namespace app
