@@ -72,10 +72,10 @@ struct Session::Rouages final : db::Rafraichissement {
     browse::lblRealisateur_Click lblRealisateur{film, etats.recherche, cmdFonctionRecherche, cmdRecherche};
 
     // Adding.
-    edit::ListesDeSaisie listesDeSaisie{base, etats.ajout, machine.dialogues};
-    edit::ModesAjout modesAjout{etats.ajout, etats.demandes, listesDeSaisie};
-    edit::BoitesDeroulantes boitesDeroulantes{base, etats.fiche, machine.dialogues};
     edit::Doublons doublons{base, machine.dialogues};
+    edit::ListesDeSaisie listesDeSaisie{base, etats.ajout, machine.dialogues};
+    edit::ModesAjout modesAjout{etats.ajout, etats.demandes, listesDeSaisie, doublons};
+    edit::BoitesDeroulantes boitesDeroulantes{base, etats.fiche, machine.dialogues};
     edit::Ressemblances ressemblances{base, machine.dialogues};
     edit::EnregistrementFilm enregistrement{base, etats.ajout, etats.stockage, chemins, film, machine.dialogues};
     acquire::ImportFiches importFiches{

@@ -29,6 +29,8 @@ void ModesAjout::ouvreSaisie() {
     m_ajout.lblImage.Caption.clear();
     m_demandes.focus = "Text3_0";
     m_listes.remplit();
+    // The first look-up in a base reads the whole catalogue: better while the page opens than after "Ajouter".
+    static_cast<void>(m_doublons.TitreDejaExistant("", ""));
 }
 
 }  // namespace edit

@@ -36,7 +36,8 @@ struct ModesAjoutTest : testing::Test {
     edit::EtatAjout ajout;
     ecran::Demandes demandes;
     edit::ListesDeSaisie listes{essai.base, ajout, dialogues};
-    edit::ModesAjout modes{ajout, demandes, listes};
+    edit::Doublons doublons{essai.base, dialogues};
+    edit::ModesAjout modes{ajout, demandes, listes, doublons};
 };
 
 TEST_F(ModesAjoutTest, openTheAutomaticPageBackInAddMode) {

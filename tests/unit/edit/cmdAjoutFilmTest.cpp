@@ -32,8 +32,8 @@ class cmdAjoutFilm : public Fenetre {
     doubles::HorlogeFixe horloge;
     VoletDEssai volet{panneaux};
     edit::ListesDeSaisie listes{base, ajout, dialogues};
-    edit::ModesAjout modes{ajout, demandes, listes};
     edit::Doublons doublons{base, dialogues};
+    edit::ModesAjout modes{ajout, demandes, listes, doublons};
     edit::EnregistrementFilm enregistrement{base, ajout, stockage, chemins, film, dialogues};
     edit::cmdModifierTitre_Click cmdModifierTitre{base, ajout, film, volet, modes, dialogues};
     edit::cmdAjoutFilm_Click commande{
