@@ -49,6 +49,7 @@ void faitDefiler(QMessageBox& boite) {
 
 std::string choisit(QFileDialog& boite, const std::string& dossier) {
     boite.setOption(QFileDialog::DontUseNativeDialog);  // a desktop's own would speak the desktop's language
+    boite.resize(780, 500);
     const QString ouverture = qt(dossier);
     boite.setDirectory(QDir(ouverture).exists() && !ouverture.isEmpty() ? ouverture : QDir::homePath());
     if (boite.exec() != QDialog::Accepted || boite.selectedFiles().isEmpty()) return {};

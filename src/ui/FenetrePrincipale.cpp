@@ -97,6 +97,13 @@ void FenetrePrincipale::completePanneaux() {
     m_droite->addWidget(new PanneauFonctions(m_atelier), 1);
     m_droite->addWidget(new PanneauMultiSuppression(m_atelier), 1);
     setWindowIcon(icone(Pictogramme::Clap));
+    // The windows that follow the film; nothing opens them yet.
+    auto* affiche = nomme(new QWidget(this, Qt::Window), "frmAffiche");
+    auto* fichiers = nomme(new QWidget(this, Qt::Window), "frmFichiersFilm");
+    m_atelier.liaison.apresEcriture([=, fiche = &m_atelier.etats().fiche] {
+        affiche->setWindowTitle(QString::fromStdString(fiche->captionAffiche));
+        fichiers->setWindowTitle(QString::fromStdString(fiche->captionFichiers));
+    });
 }
 
 void FenetrePrincipale::suitLesCommandes() {

@@ -1,5 +1,7 @@
 #include "ui/Icones.h"
 
+#include "ui/Couleurs.h"
+
 #include <QApplication>
 #include <QIconEngine>
 #include <QPainter>
@@ -52,6 +54,23 @@ QPainterPath trace(Pictogramme pictogramme) {
                 t.lineTo(x, y);
             t.closeSubpath();
             break;
+        case Pictogramme::Question:
+            t.addEllipse(QPointF(12, 12), 8.5, 8.5);
+            t.moveTo(9.4, 10);
+            t.cubicTo(9.4, 6.2, 14.7, 6.4, 14.6, 9.8);
+            t.cubicTo(14.5, 11.6, 12, 11.6, 12, 13.8);
+            t.addEllipse(QPointF(12, 16.6), 0.4, 0.4);
+            break;
+        case Pictogramme::Attention:
+            t.moveTo(12, 4), t.lineTo(21, 19.5), t.lineTo(3, 19.5), t.closeSubpath();
+            t.moveTo(12, 10), t.lineTo(12, 14);
+            t.addEllipse(QPointF(12, 16.7), 0.4, 0.4);
+            break;
+        case Pictogramme::Erreur:
+            t.addEllipse(QPointF(12, 12), 8.5, 8.5);
+            t.moveTo(9, 9), t.lineTo(15, 15);
+            t.moveTo(15, 9), t.lineTo(9, 15);
+            break;
         case Pictogramme::Clap:
             t.addRoundedRect(QRectF(3, 10, 18, 10.5), 1.2, 1.2);
             t.moveTo(3.2, 9.6), t.lineTo(2.5, 6.4), t.lineTo(19.8, 2.6), t.lineTo(20.5, 5.8), t.closeSubpath();
@@ -64,11 +83,13 @@ QPainterPath trace(Pictogramme pictogramme) {
 
 class MoteurIcone final : public QIconEngine {
   public:
-    explicit MoteurIcone(Pictogramme pictogramme) : m_pictogramme(pictogramme) {}
+    MoteurIcone(Pictogramme pictogramme, bool accentuee) : m_pictogramme(pictogramme), m_accentuee(accentuee) {}
 
     void paint(QPainter* peintre, const QRect& zone, QIcon::Mode mode, QIcon::State) override {
         const auto groupe = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        peintPictogramme(*peintre, zone, m_pictogramme, QApplication::palette().color(groupe, QPalette::ButtonText));
+        const QPalette palette = QApplication::palette();
+        peintPictogramme(*peintre, zone, m_pictogramme,
+                         m_accentuee ? accentLisible(palette) : palette.color(groupe, QPalette::ButtonText));
     }
     QPixmap pixmap(const QSize& taille, QIcon::Mode mode, QIcon::State etat) override {
         QPixmap image(taille);
@@ -81,12 +102,17 @@ class MoteurIcone final : public QIconEngine {
 
   private:
     Pictogramme m_pictogramme;
+    bool m_accentuee;
 };
 
 }  // namespace
 
 QIcon icone(Pictogramme pictogramme) {
-    return QIcon(new MoteurIcone(pictogramme));
+    return QIcon(new MoteurIcone(pictogramme, false));
+}
+
+QIcon iconeDeBoite(Pictogramme pictogramme) {
+    return QIcon(new MoteurIcone(pictogramme, true));
 }
 
 void peintPictogramme(QPainter& peintre, const QRectF& zone, Pictogramme pictogramme, const QColor& couleur) {

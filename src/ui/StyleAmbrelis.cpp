@@ -1,6 +1,7 @@
 #include "ui/StyleAmbrelis.h"
 
 #include "ui/Couleurs.h"
+#include "ui/Icones.h"
 #include "ui/Traits.h"
 
 #include <QPainter>
@@ -204,6 +205,7 @@ int StyleAmbrelis::styleHint(StyleHint conseil, const QStyleOption* option, cons
                              QStyleHintReturn* retour) const {
     switch (conseil) {
         case SH_ComboBox_Popup:
+        case SH_DialogButtonBox_ButtonsHaveIcons:
             return 0;
         case SH_EtchDisabledText:
         case SH_ItemView_ArrowKeysNavigateIntoChildren:
@@ -230,6 +232,21 @@ QSize StyleAmbrelis::sizeFromContents(ContentsType type, const QStyleOption* opt
             return {taille.width(), std::max(taille.height(), 22)};
         default:
             return taille;
+    }
+}
+
+QIcon StyleAmbrelis::standardIcon(StandardPixmap image, const QStyleOption* option, const QWidget* widget) const {
+    switch (image) {
+        case SP_MessageBoxQuestion:
+            return iconeDeBoite(Pictogramme::Question);
+        case SP_MessageBoxInformation:
+            return iconeDeBoite(Pictogramme::Aide);
+        case SP_MessageBoxWarning:
+            return iconeDeBoite(Pictogramme::Attention);
+        case SP_MessageBoxCritical:
+            return iconeDeBoite(Pictogramme::Erreur);
+        default:
+            return QProxyStyle::standardIcon(image, option, widget);
     }
 }
 

@@ -22,6 +22,7 @@ class StyleAmbrelis final : public QProxyStyle {
                   QStyleHintReturn* retour) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contenu,
                            const QWidget* widget) const override;
+    QIcon standardIcon(StandardPixmap image, const QStyleOption* option, const QWidget* widget) const override;
     QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const override;
     QRect subControlRect(ComplexControl controle, const QStyleOptionComplex* option, SubControl partie,
                          const QWidget* widget) const override;

@@ -102,7 +102,9 @@ const std::vector<std::pair<const char*, int>> kControles = {{"lblNom1", 0},
                                                              {"cmdSupprTitresSelect", 0},
                                                              {"MenuClicDroitFilm", 0},
                                                              {"MenuClicDroitSupport", 0},
-                                                             {"MenuClicDroitGenre", 0}};
+                                                             {"MenuClicDroitGenre", 0},
+                                                             {"frmAffiche", 0},
+                                                             {"frmFichiersFilm", 0}};
 
 TEST(Noms, EveryControlIsFoundOnceByItsPublishedName) {
     ProgrammeDEssai essai;
