@@ -44,36 +44,42 @@ std::string complement(std::uint64_t rang) {
     return (elide(prenom) ? "d'" : "de ") + std::string(prenom);
 }
 
-// Forms that do not begin with an article; nearly half of the titles begin with "L".
-std::string debutDeTitre(const Nom& nom, std::uint64_t forme) {
-    static constexpr std::array kAvants = {"Sous "sv,  "Dans "sv,   "Après "sv,    "Vers "sv,
-                                           "Avant "sv, "Contre "sv, "À travers "sv};
-    static constexpr std::array kNombres = {"Deux "sv,  "Trois "sv, "Sept "sv, "12 "sv,
-                                            "(500) "sv, "Mes "sv,   "Des "sv,  "Quelques "sv};
-    if (forme < kAvants.size()) return std::string(kAvants[forme]) + avecArticle(nom, false);
-    forme -= kAvants.size();
-    if (forme < kNombres.size()) return std::string(kNombres[forme]) + std::string(nom.pluriel);
-    forme -= kNombres.size();
-    if (forme == 0) return std::string("\"").append(nom.singulier).append("\"");
-    if (forme == 1) return std::string(nom.singulier);
-    if (forme == 2) return (nom.feminin ? "Une " : "Un ") + std::string(nom.singulier);
-    return std::string(kPrenoms[forme * 7 % std::size(kPrenoms)]) + " et " + avecArticle(nom, false);
+std::string avecNom(std::string_view avant, std::string_view nom) {
+    return std::string(avant).append(nom);
 }
 
-std::string titreOriginal(std::uint64_t numero) {
+// Nearly half of the forms begin with "L"; no two of them give the same text.
+std::string debutDeTitre(const Nom& nom, std::uint64_t forme) {
     static constexpr std::array kEpithetes = {
         "invisible"sv, "ordinaire"sv, "tranquille"sv, "fidèle"sv,    "sauvage"sv,  "immobile"sv, "fragile"sv,
         "célèbre"sv,   "étrange"sv,   "magnifique"sv, "solitaire"sv, "rouge"sv,    "terrible"sv, "fantastique"sv,
         "éphémère"sv,  "triste"sv,    "jeune"sv,      "unique"sv,    "illustre"sv, "moderne"sv,  "infidèle"sv};
+    static constexpr std::array kAvants = {"Sous "sv,  "Dans "sv,   "Après "sv,    "Vers "sv,
+                                           "Avant "sv, "Contre "sv, "À travers "sv};
+    static constexpr std::array kNombres = {"Les "sv,   "Deux "sv, "Trois "sv, "Sept "sv,    "12 "sv,
+                                            "(500) "sv, "Mes "sv,  "Des "sv,   "Quelques "sv};
+    if (forme < kEpithetes.size()) return avecNom(avecArticle(nom, true) + " ", kEpithetes[forme]);
+    forme -= kEpithetes.size();
+    if (forme < kAvants.size()) return avecNom(kAvants[forme], avecArticle(nom, false));
+    forme -= kAvants.size();
+    if (forme < kNombres.size()) return avecNom(kNombres[forme], nom.pluriel);
+    forme -= kNombres.size();
+    if (forme == 0) return avecArticle(nom, true);
+    if (forme == 1) return avecNom("\"", nom.singulier) + '"';
+    if (forme == 2) return std::string(nom.singulier);
+    if (forme == 3) return avecNom(nom.feminin ? "Une " : "Un ", nom.singulier);
+    return avecNom(kPrenoms[forme * 7 % std::size(kPrenoms)], " et ") + avecArticle(nom, false);
+}
+
+std::string titreOriginal(std::uint64_t numero) {
     // A prime that does not divide kTitres, so that each number below it has a title of its own.
     const std::uint64_t rang = numero * 1000003 % kTitres;
     const Nom& nom = kNoms[rang % std::size(kNoms)];
-    const std::string fin = " " + complement(rang / std::size(kNoms) % kNombreComplements);
     const std::uint64_t forme = rang / (std::size(kNoms) * kNombreComplements);
-    if (forme == 0) return avecArticle(nom, true) + fin;
-    if (forme == 1) return "Les " + std::string(nom.pluriel) + fin;
-    if (forme < 2 + kEpithetes.size()) return avecArticle(nom, true) + " " + std::string(kEpithetes[forme - 2]) + fin;
-    return debutDeTitre(nom, forme - 2 - kEpithetes.size()) + fin;
+    std::string titre = debutDeTitre(nom, forme);
+    titre += ' ';
+    titre += complement(rang / std::size(kNoms) % kNombreComplements);
+    return titre;
 }
 
 std::string personne(std::uint64_t numero) {

@@ -6,7 +6,10 @@
 
 #include <cstring>
 #include <iostream>
+#include <map>
 #include <stdexcept>
+
+#include <unistd.h>
 
 namespace {
 
@@ -77,7 +80,8 @@ void compareSerie(bench::Tableau& tableau, const std::string& prefixe, const std
     }
     tableau.ajoute(
         {texte + ", mean of " + std::to_string(nombre), "ms", somme / nombre, sommePlancher / nombre, cible, true});
-    tableau.ajoute({"  farthest from its floor: " + laPire, "ms", programme.at(laPire), plancher.at(laPire), {}, true});
+    tableau.ajoute(
+        {"  farthest from its floor: " + laPire, "ms", programme.at(laPire), plancher.at(laPire), cible, true});
 }
 
 void mesureFenetre(bench::Tableau& tableau, const Options& options, const Collection& c) {
@@ -117,6 +121,7 @@ Figures importe(const Options& options, const std::string& programme, const fs::
     const fs::path copie = options.dossier / "import";
     installe(options, copie);
     fs::copy_file(modele / "Films.mdb", copie / "Films.mdb");
+    sync();  // what was just copied is no part of what the import must write
     const std::string fiches = (options.dossier / "fiches").string();
     if (programme == "plancher_import") return bench::lance(programme, {(copie / "Films.mdb").string(), fiches});
     return bench::lance("mesure_session", {programme, copie.string(), fiches});
@@ -132,13 +137,14 @@ void mesureImport(bench::Tableau& tableau, const Options& options, const std::ve
         const fs::path modele = dossierDe(options, {films, false});
         if (!fs::exists(modele)) installe(options, Collection{films, false});
         const auto [plancher, programme] = enAlternance(
-            3, [&] { return importe(options, "plancher_import", modele); },
+            options.vite ? 3 : 5, [&] { return importe(options, "plancher_import", modele); },
             [&] { return importe(options, "import", modele); });
         durees[films] = programme.at("import");
         tableau.ajoute(
             {"into " + std::to_string(films) + " films", "ms", durees[films], plancher.at("import"), 3.0, true});
-        tableau.ajoute(
-            {"  with the resemblance test", "ms", importe(options, "ressemblance", modele).at("import"), {}, {}});
+        if (films <= 1000)  // each question lists the catalogue, and this one holds thousands of likenesses
+            tableau.ajoute(
+                {"  with the resemblance test", "ms", importe(options, "ressemblance", modele).at("import"), {}, {}});
         tableau.ajoute({"  peak memory", "MB", programme.at("memoire"), plancher.at("memoire"), {}});
     }
     const int petite = tailles[1], grande = tailles.back();
