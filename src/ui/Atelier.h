@@ -5,6 +5,7 @@
 #include "ui/Liaison.h"
 
 #include <QAbstractButton>
+#include <QLineEdit>
 
 namespace ui {
 
@@ -30,6 +31,12 @@ struct Atelier {
         QObject::connect(
             bouton, &QAbstractButton::clicked, &commande,
             [s = &session, c = &commande, procedure, indice] { c->execute([=] { (s->*procedure)(indice); }); });
+    }
+    // The same for a text that the user types.
+    void aLaFrappe(QLineEdit* zone, void (app::Session::*procedure)(int), int indice) const {
+        QObject::connect(zone, &QLineEdit::textEdited, &commande, [s = &session, c = &commande, procedure, indice] {
+            c->execute([=] { (s->*procedure)(indice); });
+        });
     }
 };
 

@@ -12,7 +12,7 @@ namespace ui {
 BandeTravail::BandeTravail(const Atelier& atelier, QWidget* parent)
     : QWidget(parent),
       m_texte(new Etiquette),
-      m_progression(new QProgressBar),
+      m_progression(nomme(new QProgressBar, "ProgressBar3")),
       m_annuler(bouton("cmdAnnuler", tr("Annuler"))) {
     m_annuler->setToolTip(tr("Arrêter après l'élément en cours ; ce qui est fait reste fait"));
     m_progression->setAccessibleName(tr("Avancement"));
@@ -45,7 +45,9 @@ BandeTravail::BandeTravail(const Atelier& atelier, QWidget* parent)
 void BandeTravail::suis(const app::Etats& etats) {
     if (!isVisible()) return;
     const bool ajout = etats.ajout.ProgressBar1.Visible;
-    const ecran::Progression& progression = ajout ? etats.ajout.ProgressBar1 : etats.fonctions.ProgressBar2;
+    const ecran::Progression& progression = ajout                                  ? etats.ajout.ProgressBar1
+                                            : etats.fonctions.ProgressBar3.Visible ? etats.fonctions.ProgressBar3
+                                                                                   : etats.fonctions.ProgressBar2;
     m_texte->setText(ajout ? QString::fromStdString(etats.ajout.lblProgression.Caption) : QString());
     m_progression->setRange(0, static_cast<int>(progression.Max));
     m_progression->setValue(static_cast<int>(progression.Value));

@@ -91,7 +91,7 @@ void FenetrePrincipale::compose() {
 // All that is behind the first page, in reading order after it.
 void FenetrePrincipale::completePanneaux() {
     if (m_menus) return;
-    m_menus.emplace(this);
+    m_menus.emplace(m_atelier, this);
     m_droite->addWidget(new PanneauFiche(m_atelier), 1);
     m_droite->addWidget(new PanneauRecherche(m_atelier), 1);
     m_droite->addWidget(new PanneauFonctions(m_atelier), 1);

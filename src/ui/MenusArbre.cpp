@@ -6,26 +6,40 @@ namespace ui {
 
 namespace {
 
-QMenu* menu(QWidget* fenetre, const char* nom, std::initializer_list<std::pair<const char*, QString>> entrees) {
+struct Entree {
+    const char* nom;
+    QString texte;
+    void (app::Session::*procedure)();  // none: greyed until its command exists
+};
+
+QMenu* menu(const Atelier& atelier, QWidget* fenetre, const char* nom, std::initializer_list<Entree> entrees) {
     auto* resultat = new QMenu(fenetre);
     resultat->setObjectName(QLatin1String(nom));
-    for (const auto& [nomEntree, texte] : entrees) {
-        QAction* entree = resultat->addAction(texte);
-        entree->setObjectName(QLatin1String(nomEntree));
-        entree->setEnabled(false);  // until their commands exist
+    for (const Entree& entree : entrees) {
+        QAction* action = resultat->addAction(entree.texte);
+        action->setObjectName(QLatin1String(entree.nom));
+        action->setEnabled(entree.procedure != nullptr);
+        QObject::connect(action, &QAction::triggered, &atelier.commande,
+                         [s = &atelier.session, c = &atelier.commande, procedure = entree.procedure] {
+                             c->execute([=] { (s->*procedure)(); });
+                         });
     }
     return resultat;
 }
 
 }  // namespace
 
-MenusArbre::MenusArbre(QWidget* fenetre)
-    : m_film(menu(fenetre, "MenuClicDroitFilm",
-                  {{"ModifieFilm", QWidget::tr("&Modifier le film…")},
-                   {"SupprFilm", QWidget::tr("&Supprimer le film…")},
-                   {"GenereFichierTxt", QWidget::tr("&Générer un fichier texte…")}})),
-      m_support(menu(fenetre, "MenuClicDroitSupport", {{"RenommeSupportFilms", QWidget::tr("&Renommer le support…")}})),
-      m_genre(menu(fenetre, "MenuClicDroitGenre", {{"RenommerGenreFilms", QWidget::tr("&Renommer le genre…")}})) {}
+MenusArbre::MenusArbre(const Atelier& atelier, QWidget* fenetre)
+    : m_film(menu(atelier, fenetre, "MenuClicDroitFilm",
+                  {{"ModifieFilm", QWidget::tr("&Modifier le film…"), &app::Session::ModifieFilm_Click},
+                   {"SupprFilm", QWidget::tr("&Supprimer le film…"), &app::Session::SupprFilm_Click},
+                   {"GenereFichierTxt", QWidget::tr("&Générer un fichier texte…"), nullptr}})),
+      m_support(menu(
+          atelier, fenetre, "MenuClicDroitSupport",
+          {{"RenommeSupportFilms", QWidget::tr("&Renommer le support…"), &app::Session::RenommeSupportFilms_Click}})),
+      m_genre(menu(
+          atelier, fenetre, "MenuClicDroitGenre",
+          {{"RenommerGenreFilms", QWidget::tr("&Renommer le genre…"), &app::Session::RenommerGenreFilms_Click}})) {}
 
 void MenusArbre::montre(app::MenuContextuel demande, const QPoint& endroit) {
     switch (demande) {

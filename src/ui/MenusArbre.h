@@ -1,8 +1,6 @@
 #pragma once
 
-#include "app/Etats.h"
-
-#include <QWidget>
+#include "ui/Atelier.h"
 
 class QMenu;
 
@@ -11,7 +9,7 @@ namespace ui {
 // The three pop-up menus of the title tree, named as published.
 class MenusArbre final {
   public:
-    explicit MenusArbre(QWidget* fenetre);
+    MenusArbre(const Atelier& atelier, QWidget* fenetre);
     void montre(app::MenuContextuel menu, const QPoint& endroit);
 
   private:

@@ -102,6 +102,7 @@ QLayout* PanneauFiche::colonneAffiche() {
     m_atelier.liaison.lie(fiche.lblNote, note);
     m_atelier.liaison.lie(fiche.cmdModifieNote, noter);
     m_atelier.liaison.lie(fiche.cmdFichiersFilm, fichiers);
+    m_atelier.auClic(noter, &app::Session::cmdModifieNote_Click);
 
     auto* boite = colonne(kMoyen);
     boite->addWidget(m_affiche);

@@ -18,10 +18,12 @@ PanneauMultiSuppression::PanneauMultiSuppression(const Atelier& atelier, QWidget
         auto* option = nomme(new QRadioButton(textes[i]), "Option4", i);
         option->setToolTip(tr("Montre ou cache les cases à cocher de la liste"));
         atelier.liaison.lie(fonctions.Option4[i], option);
+        atelier.auClic(option, &app::Session::Option4_Click);
         boite->addWidget(option);
     }
     auto* supprimer = bouton("cmdSupprTitresSelect", tr("S&uppression…"), tr("Supprimer les films cochés"));
     atelier.liaison.lie(fonctions.cmdSupprTitresSelect, supprimer);
+    atelier.auClic(supprimer, &app::Session::cmdSupprTitresSelect_Click);
     boite->addLayout(aGauche({supprimer}));
     boite->addStretch();
     setLayout(boite);

@@ -25,6 +25,8 @@ PanneauOutils::PanneauOutils(const Atelier& atelier, QWidget* parent) : QWidget(
     atelier.liaison.lie(fonctions.cmdSupprInfosPerso, effacer);
     atelier.liaison.lie(fonctions.cmdMultiSuppress, plusieurs);
     atelier.auClic(ouvrir, &app::Session::cmdChargeOuvreBase_Click);
+    atelier.auClic(ponctuation, &app::Session::cmdPonctuation_Click);
+    atelier.auClic(plusieurs, &app::Session::cmdMultiSuppress_Click);
 
     auto* base =
         section(tr("Base de données"), tr("Tous les films sont dans un seul fichier .mdb, que vous pouvez changer."));

@@ -29,6 +29,9 @@ QLayout* PanneauPossession::choix() {
     m_atelier.liaison.lie(fiche.Option1[0], nonPossede);
     m_atelier.liaison.lie(fiche.Option1[1], possede);
     m_atelier.liaison.lie(fiche.cmdValiderInfosPossessions, valider);
+    m_atelier.auClic(nonPossede, &app::Session::Option1_Click);
+    m_atelier.auClic(possede, &app::Session::Option1_Click);
+    m_atelier.auClic(valider, &app::Session::cmdValiderInfosPossessions_Click);
     auto* boite = rangee({nonPossede, possede}, kGrand);
     boite->addStretch();
     boite->addWidget(valider);
@@ -59,6 +62,7 @@ QWidget* PanneauPossession::exemplaire() {
     auto* actualiser = bouton("cmdRaffraichirListe", tr("A&ctualiser les listes"),
                               tr("Relire les supports et les personnes déjà notés"));
     m_atelier.liaison.lie(fiche.cmdRaffraichirListe, actualiser);
+    m_atelier.auClic(actualiser, &app::Session::cmdRaffraichirListe_Click);
     grille->addWidget(actualiser, 4, 0, 1, 2, Qt::AlignLeft);
     grille->setColumnStretch(0, 1);
     grille->setColumnStretch(1, 1);
@@ -69,6 +73,7 @@ QWidget* PanneauPossession::exemplaire() {
 QWidget* PanneauPossession::texte(std::size_t indice, const QString& nom) {
     auto* zone = nomme(new QLineEdit, "Text10", indice, nom);
     m_atelier.liaison.lie(m_atelier.etats().fiche.Text10[indice], zone);
+    m_atelier.aLaFrappe(zone, &app::Session::Text10_Change, static_cast<int>(indice));
     return zone;
 }
 
@@ -79,6 +84,11 @@ QWidget* PanneauPossession::liste(std::size_t indice) {
     choix->completer()->setCompletionMode(QCompleter::PopupCompletion);  // inline it would change the letters typed
     choix->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_atelier.liaison.lie(m_atelier.etats().fiche.Combo7[indice], choix);
+    const int numero = static_cast<int>(indice);
+    m_atelier.aLaFrappe(choix->lineEdit(), &app::Session::Combo7_Change, numero);
+    connect(choix, &QComboBox::activated, this, [this, numero] {
+        m_atelier.commande.execute([this, numero] { m_atelier.session.Combo7_Change(numero); });
+    });
     return choix;
 }
 
@@ -89,6 +99,7 @@ QLayout* PanneauPossession::fichier(std::size_t indice) {
     choisir->setAutoDefault(true);
     choisir->setMaximumWidth(44);
     m_atelier.liaison.lie(m_atelier.etats().fiche.Command2[indice], choisir);
+    m_atelier.auClic(choisir, &app::Session::Command2_Click, static_cast<int>(indice));
     auto* boite = rangee({texte(indice, nom)});
     boite->addWidget(choisir);
     return boite;
@@ -103,6 +114,8 @@ PanneauActions::PanneauActions(const Atelier& atelier, QWidget* parent) : QWidge
     atelier.liaison.lie(fiche.cmdModifierTitre, modifier);
     atelier.liaison.lie(fiche.cmdSupprimerTitre, supprimer);
     atelier.liaison.lie(fiche.cmdCreeFichierTxt, texte);
+    atelier.auClic(modifier, &app::Session::cmdModifierTitre_Click);
+    atelier.auClic(supprimer, &app::Session::cmdSupprimerTitre_Click);
     auto* boite = colonne(kPetit);
     boite->addWidget(filetHorizontal());
     boite->addWidget((new Etiquette(tr("La fiche")))->avecPolice(1.08, QFont::DemiBold));

@@ -20,6 +20,7 @@ PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(
     m_atelier.liaison.lie(ajout.txtResume, resume);
     m_atelier.liaison.lie(ajout.lblImage, image);
     m_atelier.liaison.lie(ajout.cmdAjoutFilm, ajouter);
+    m_atelier.auClic(ajouter, &app::Session::cmdAjoutFilm_Click);
 
     auto* grille = new QGridLayout(this);
     grille->setContentsMargins(0, 0, 0, 0);

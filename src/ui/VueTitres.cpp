@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollBar>
 
 namespace ui {
 
@@ -35,11 +36,22 @@ class VueTitres::LienArbre final : public Lien {
     }
 
   private:
+    // One node less is a removal, not another filling: the headings that were open stay so, and the view where it was.
     void recommence() {
-        m_generation = m_etat.Nodes.generation();
-        m_nombre = m_etat.Nodes.Count();
+        const browse::Arbre& noeuds = m_etat.Nodes;
+        const bool retrait = noeuds.generation() == m_generation + 1 && noeuds.Count() == m_nombre - 1;
+        m_generation = noeuds.generation();
+        m_nombre = noeuds.Count();
         m_choisi = 0;
+        const int hauteur = m_vue.verticalScrollBar()->value();
+        const std::set<QString> ouverts = std::exchange(m_vue.m_ouverts, {});
         m_vue.m_modele.recommence();
+        if (!retrait) return;
+        for (const std::int32_t indice : noeuds.enfants(0)) {
+            const QModelIndex index = m_vue.m_modele.indexDuNoeud(indice);
+            if (ouverts.count(index.data().toString())) m_vue.expand(index);
+        }
+        m_vue.verticalScrollBar()->setValue(hauteur);
     }
 
     browse::VueArbre& m_etat;
@@ -65,6 +77,10 @@ VueTitres::VueTitres(browse::VueArbre& etat, QWidget* parent) : QTreeView(parent
     setMouseTracking(true);
     header()->setStretchLastSection(true);
     connect(this, &QTreeView::clicked, this, &VueTitres::clique);
+    connect(this, &QTreeView::expanded, this,
+            [this](const QModelIndex& groupe) { m_ouverts.insert(groupe.data().toString()); });
+    connect(this, &QTreeView::collapsed, this,
+            [this](const QModelIndex& groupe) { m_ouverts.erase(groupe.data().toString()); });
 }
 
 std::unique_ptr<Lien> VueTitres::lien() {

@@ -37,6 +37,7 @@ class VueTitres final : public QTreeView {
     void montreNoeud(int indice);
 
     ModeleArbre m_modele;
+    std::set<QString> m_ouverts;  // the texts of the open headings
     bool m_peinte = false;
 };
 
