@@ -41,6 +41,7 @@ void faitDefiler(QMessageBox& boite) {
     auto* zone = new QScrollArea(&boite);
     delete grille->replaceWidget(texte, zone);
     texte->setWordWrap(true);
+    texte->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     zone->setWidget(texte);
     zone->setWidgetResizable(true);
     zone->setFrameShape(QFrame::NoFrame);

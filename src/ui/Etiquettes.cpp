@@ -135,6 +135,7 @@ TitreDeSection::TitreDeSection(double facteur, QWidget* parent) : Etiquette({}, 
 
 QString TitreDeSection::texteAffiche() const {
     QString titre = text().trimmed();
+    if (titre == QLatin1String("-")) return {};
     if (titre.startsWith(QLatin1String("- "))) titre.remove(0, 2);
     if (titre.endsWith(QLatin1Char(':'))) titre.chop(1);
     return titre.trimmed();

@@ -41,7 +41,8 @@ class Etiquette : public QLabel {
     int m_lignesMax = 1;
 };
 
-// The title of a help section: the published caption frames it with " - " and " : ", which only its text keeps.
+// The title of a help section: the published caption frames it with " - " and " : ", which only its text keeps; a
+// lone dash stands for no title.
 class TitreDeSection final : public Etiquette {
     Q_OBJECT
   public:

@@ -12,7 +12,7 @@ namespace ui {
 
 PanneauAjout::PanneauAjout(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
     nomme(this, "frameDivers");
-    auto* intitule = nomme((new Etiquette)->avecPolice(1.5, QFont::DemiBold), "Label5");
+    auto* intitule = nomme(new TitreDeSection(1.5), "Label5");
     atelier.liaison.lie(atelier.etats().ajout.Label5, intitule);
     auto* boite = colonne(kGrand);
     boite->addLayout(manieres(atelier));
