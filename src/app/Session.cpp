@@ -6,6 +6,7 @@
 #include "app/Rouages.h"
 #include "app/cmdParcourir_Click.h"
 #include "platform/systeme/FinDuProgramme.h"
+#include "view/cmdSauverImage_Click.h"
 
 #include <utility>
 
@@ -103,6 +104,46 @@ void Session::lblRealisateur_Click() {
     m_rouages->lblRealisateur();
 }
 
+void Session::Image1_Click() {
+    if (!etats.fiche.Image1.vide) m_rouages->visionneuse.montre();
+}
+
+void Session::Picture1_Click() {
+    m_rouages->visionneuse.cache();
+}
+
+void Session::Picture1_KeyDown(int code) {
+    m_rouages->touchesAffiche.Picture1_KeyDown(code);
+}
+
+void Session::HScroll1_KeyDown(int code) {
+    m_rouages->touchesAffiche.HScroll1_KeyDown(code);
+}
+
+void Session::HScroll1_Change() {
+    m_rouages->visionneuse.HScroll1_Change();
+}
+
+void Session::frmAffiche_KeyDown(int code) {
+    m_rouages->touchesAffiche.Form_KeyDown(code);
+}
+
+void Session::frmAffiche_Resize(int largeur, int hauteur) {
+    m_rouages->visionneuse.Form_Resize(largeur, hauteur);
+}
+
+void Session::deplaceAffiche(int dx, int dy) {
+    m_rouages->visionneuse.deplace(dx, dy);
+}
+
+void Session::cmdSauverImage_Click() {
+    view::cmdSauverImage_Click(etats.fiche, m_rouages->chemins, m_rouages->machine.dialogues);
+}
+
+void Session::cmdRemplacerImage_Click() {
+    m_rouages->cmdRemplacerImage();
+}
+
 void Session::ChoixFonction1_Divers() {
     m_rouages->choixFonction.ChoixFonction1_Divers();
 }
@@ -163,6 +204,16 @@ void Session::Option3_Click() {
 void Session::cmdParcourir_Click() {
     app::cmdParcourir_Click(etats.stockage, m_rouages->machine.dialogues);
 }
+
+void Session::Label12_Click() {}
+
+void Session::cmdMajBase_Click() {}
+
+void Session::cmdCompacter_Click() {}
+
+void Session::cmdInfosBase_Click() {}
+
+void Session::cmdSupprInfosPerso_Click() {}
 
 void Session::Command13_Click(int indice) {
     m_rouages->modesAjout.Command13_Click(indice);

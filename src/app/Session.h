@@ -57,6 +57,18 @@ class Session {
     void cmdAutresInfos_Click();
     void lblRealisateur_Click();
 
+    // Poster viewer. Key codes as in Windows; sizes and distances in twips.
+    void Image1_Click();    // the sheet's poster
+    void Picture1_Click();  // closing the window does the same
+    void Picture1_KeyDown(int code);
+    void HScroll1_KeyDown(int code);
+    void HScroll1_Change();
+    void frmAffiche_KeyDown(int code);
+    void frmAffiche_Resize(int largeur, int hauteur);
+    void deplaceAffiche(int dx, int dy);  // by the wheel or by dragging
+    void cmdSauverImage_Click();
+    void cmdRemplacerImage_Click();
+
     // Panels.
     void ChoixFonction1_Divers();
     void ChoixFonction2_Outils();
@@ -74,6 +86,11 @@ class Session {
     void cmdChargeOuvreBase_Click();
     void Option3_Click();
     void cmdParcourir_Click();
+    void Label12_Click();  // attaches a poster to the film of the sheet that has none
+    void cmdMajBase_Click();
+    void cmdCompacter_Click();
+    void cmdInfosBase_Click();
+    void cmdSupprInfosPerso_Click();
 
     // Adding.
     void Command13_Click(int indice);

@@ -43,6 +43,7 @@ QLayout* PanneauConfig::images(const Atelier& atelier) {
     atelier.liaison.lie(fonctions.cmdMajBase, convertir);
     atelier.liaison.lie(fonctions.ProgressBar2, progression);
     atelier.auClic(parcourir, &app::Session::cmdParcourir_Click);
+    atelier.auClic(convertir, &app::Session::cmdMajBase_Click);
     auto* choix = colonne(kSerre);
     choix->addWidget(legende(tr("&Dossier des images"), dossier));
     choix->addLayout(rangee({dossier, parcourir}));

@@ -102,6 +102,8 @@ QLayout* PanneauFiche::colonneAffiche() {
     m_atelier.liaison.lie(fiche.lblNote, note);
     m_atelier.liaison.lie(fiche.cmdModifieNote, noter);
     m_atelier.liaison.lie(fiche.cmdFichiersFilm, fichiers);
+    connect(m_affiche, &CadreAffiche::statutClique, &m_atelier.commande,
+            [a = m_atelier] { a.commande.execute([s = &a.session] { s->Label12_Click(); }); });
     m_atelier.auClic(noter, &app::Session::cmdModifieNote_Click);
 
     auto* boite = colonne(kMoyen);

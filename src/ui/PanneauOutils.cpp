@@ -25,6 +25,9 @@ PanneauOutils::PanneauOutils(const Atelier& atelier, QWidget* parent) : QWidget(
     atelier.liaison.lie(fonctions.cmdSupprInfosPerso, effacer);
     atelier.liaison.lie(fonctions.cmdMultiSuppress, plusieurs);
     atelier.auClic(ouvrir, &app::Session::cmdChargeOuvreBase_Click);
+    atelier.auClic(infos, &app::Session::cmdInfosBase_Click);
+    atelier.auClic(compacter, &app::Session::cmdCompacter_Click);
+    atelier.auClic(effacer, &app::Session::cmdSupprInfosPerso_Click);
     atelier.auClic(ponctuation, &app::Session::cmdPonctuation_Click);
     atelier.auClic(plusieurs, &app::Session::cmdMultiSuppress_Click);
 

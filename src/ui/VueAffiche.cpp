@@ -5,6 +5,7 @@
 #include "ui/Icones.h"
 #include "ui/Traits.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 
 namespace ui {
@@ -64,6 +65,7 @@ CadreAffiche::CadreAffiche(ImagesQt& images, QWidget* parent)
       m_image(new VueAffiche(images, this)),
       m_statut((new Etiquette({}, this))->avecTon(Ton::Discret)->avecLignes(3)) {
     m_statut->setAlignment(Qt::AlignCenter);
+    m_statut->setCursor(Qt::PointingHandCursor);
     setFixedSize(kBoite);
 }
 
@@ -75,6 +77,16 @@ void CadreAffiche::tiensDans(const QSize& place) {
 void CadreAffiche::resizeEvent(QResizeEvent*) {
     m_image->setGeometry(rect());
     m_statut->setGeometry(rect().adjusted(12, height() / 2 - 8, -12, -12));
+}
+
+// The caption lets the mouse through to its frame; accepting the press brings the release here.
+void CadreAffiche::mousePressEvent(QMouseEvent* evenement) {
+    evenement->setAccepted(evenement->button() == Qt::LeftButton && !m_statut->isHidden());
+}
+
+void CadreAffiche::mouseReleaseEvent(QMouseEvent* evenement) {
+    if (evenement->button() == Qt::LeftButton && !m_statut->isHidden() && rect().contains(evenement->pos()))
+        emit statutClique();
 }
 
 void CadreAffiche::paintEvent(QPaintEvent*) {

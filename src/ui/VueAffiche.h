@@ -40,9 +40,14 @@ class CadreAffiche final : public QWidget {
     // Takes the largest size that fits, never below the published one.
     void tiensDans(const QSize& place);
 
+  signals:
+    void statutClique();  // the status caption, or the surface around it, while no picture hides it
+
   protected:
     void paintEvent(QPaintEvent* evenement) override;
     void resizeEvent(QResizeEvent* evenement) override;
+    void mousePressEvent(QMouseEvent* evenement) override;
+    void mouseReleaseEvent(QMouseEvent* evenement) override;
 
   private:
     VueAffiche* m_image;
