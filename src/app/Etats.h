@@ -8,6 +8,7 @@
 #include "db/EtatStockage.h"
 #include "edit/EtatAjout.h"
 #include "platform/ecran/Ecran.h"
+#include "view/EtatAffiche.h"
 
 namespace app {
 
@@ -24,6 +25,7 @@ struct Etats {
     db::EtatStockage stockage;
     edit::EtatAjout ajout;
     EtatFonctions fonctions;
+    view::EtatAffiche affiche;
     ecran::Demandes demandes;
     MenuContextuel menu = MenuContextuel::Aucun;
 };

@@ -19,6 +19,8 @@
 #include "edit/cmdSupprTitresSelect_Click.h"
 #include "edit/cmdSupprimerTitre_Click.h"
 #include "edit/cmdValiderInfosPossessions_Click.h"
+#include "view/TouchesAffiche.h"
+#include "view/cmdRemplacerImage_Click.h"
 
 namespace app {
 
@@ -54,7 +56,8 @@ struct Session::Rouages final : db::Rafraichissement {
 
     // Sheet.
     browse::AfficheTemporaire afficheTemporaire{chemins, etats.stockage, machine.dialogues};
-    browse::ChargeAffiche chargeAffiche{etats.fiche, chemins, machine.images, machine.ecran};
+    view::Visionneuse visionneuse{etats.affiche, chemins};
+    browse::ChargeAffiche chargeAffiche{etats.fiche, chemins, machine.images, machine.ecran, &visionneuse};
     browse::AfficheVolet afficheVolet{etats.fiche, etats.demandes, chargeAffiche};
     browse::ModifieNoteFilm modifieNoteFilm{base, etats.fiche, film, machine.dialogues};
     browse::AffichePossession affichePossession{base, etats.fiche, film, machine.dialogues};
@@ -64,6 +67,11 @@ struct Session::Rouages final : db::Rafraichissement {
         afficheVolet};
     browse::TreeView1 treeView1{etats.liste, afficheFiche, machine.dialogues};
     browse::SelectionneTitre selectionneTitre{etats.liste, base, treeView1};
+
+    // Poster viewer.
+    view::TouchesAffiche touchesAffiche{visionneuse, etats.liste, film, afficheFiche, etats.demandes};
+    view::cmdRemplacerImage_Click cmdRemplacerImage{base,           etats.stockage, chemins,          film,
+                                                    machine.images, chargeAffiche,  machine.dialogues};
 
     // Search.
     browse::cmdFonctionRecherche_Click cmdFonctionRecherche{etats.panneaux, etats.demandes, afficheAccueil};

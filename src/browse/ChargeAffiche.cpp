@@ -11,14 +11,16 @@ void ChargeAffiche::operator()() {
     m_fiche.Label12.Caption = "Chargement de l'image...";
     m_fiche.Label12.Visible = true;
     m_ecran.rafraichit();
-    const auto taille = fichiers::existe(m_chemins.afficheTmp) ? m_images.charge(m_chemins.afficheTmp) : std::nullopt;
-    if (taille && taille->largeur > 0 && taille->hauteur > 0) {
+    auto taille = fichiers::existe(m_chemins.afficheTmp) ? m_images.charge(m_chemins.afficheTmp) : std::nullopt;
+    if (taille && (taille->largeur <= 0 || taille->hauteur <= 0)) taille.reset();
+    if (taille) {
         place(*taille);
         m_fiche.Label12.Visible = false;
     } else {
         m_fiche.Label12.Caption = "Pas d'image \r\n(Cliquez pour ajouter)";
         m_fiche.Image1.Visible = false;
     }
+    if (m_suivi) m_suivi->afficheChargee(taille);
 }
 
 void ChargeAffiche::place(const ecran::TailleImage& taille) {

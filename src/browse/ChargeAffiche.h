@@ -1,6 +1,7 @@
 #pragma once
 
 #include "browse/EtatFiche.h"
+#include "browse/SuiviAffiche.h"
 #include "db/Chemins.h"
 #include "platform/ecran/Ecran.h"
 
@@ -11,11 +12,12 @@ inline constexpr int kLargeurAffiche = 2895;
 inline constexpr int kHauteurAffiche = 4455;
 
 // Loads the temporary poster file as the sheet's and the viewer's picture, fitted and centred in its box; without a file
-// or with a broken one, the caption that offers to add a poster.
+// or with a broken one, the caption that offers to add a poster. `suivi`, when there is one, is told of each load.
 class ChargeAffiche {
   public:
-    ChargeAffiche(EtatFiche& fiche, const db::Chemins& chemins, ecran::Images& images, ecran::Ecran& ecran)
-        : m_fiche(fiche), m_chemins(chemins), m_images(images), m_ecran(ecran) {}
+    ChargeAffiche(EtatFiche& fiche, const db::Chemins& chemins, ecran::Images& images, ecran::Ecran& ecran,
+                  SuiviAffiche* suivi = nullptr)
+        : m_fiche(fiche), m_chemins(chemins), m_images(images), m_ecran(ecran), m_suivi(suivi) {}
 
     void operator()();
 
@@ -26,6 +28,7 @@ class ChargeAffiche {
     const db::Chemins& m_chemins;
     ecran::Images& m_images;
     ecran::Ecran& m_ecran;
+    SuiviAffiche* m_suivi;
 };
 
 }  // namespace browse

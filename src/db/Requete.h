@@ -26,6 +26,7 @@ enum class NumeroErreur : int {
     ModifieGroupe = 24,
     cmdPonctuation = 25,
     cmdCreerListe = 26,
+    cmdRemplacerImage = 27,
 };
 
 // Thrown after its message was shown: the running command stops, the window stays as it is.

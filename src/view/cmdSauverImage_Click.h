@@ -1,0 +1,12 @@
+#pragma once
+
+#include "browse/EtatFiche.h"
+#include "db/Chemins.h"
+#include "platform/dialogues/Dialogues.h"
+
+namespace view {
+
+// Saves the poster shown as a file of the user's choice. Nothing is read again: the temporary poster is copied.
+void cmdSauverImage_Click(const browse::EtatFiche& fiche, const db::Chemins& chemins, dialogues::Dialogues& dialogues);
+
+}  // namespace view
