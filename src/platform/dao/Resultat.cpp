@@ -5,6 +5,7 @@
 #include "platform/dao/Ecriture.h"
 #include "platform/dao/Jointure.h"
 #include "platform/dao/Ordre.h"
+#include "platform/dao/RegistresLarges.h"
 
 #include <algorithm>
 #include <string>
@@ -259,6 +260,7 @@ int rangPorte(const TableDuPlan& table, int rangLu) {
 }
 
 Resultat execute(Connexion& connexion, const Plan& plan) {
+    rendsRegistresLarges();
     return Execution(connexion, plan).resultat();
 }
 
