@@ -47,6 +47,10 @@ bool dossierExiste(const std::string& chemin) {
     return fs::is_directory(chemin, erreur);
 }
 
+bool dossierModifiable(const std::string& chemin) {
+    return dossierExiste(chemin) && access(chemin.c_str(), W_OK | X_OK) == 0;
+}
+
 bool supprime(const std::string& chemin) {
     return unlink(chemin.c_str()) == 0 || errno == ENOENT || errno == ENOTDIR;
 }

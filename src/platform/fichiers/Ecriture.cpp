@@ -4,6 +4,7 @@
 #include <array>
 #include <cerrno>
 #include <memory>
+#include <set>
 
 #include <stdio.h>
 #include <stdlib.h>
@@ -18,6 +19,12 @@ constexpr mode_t kDroitsOrdinaires = 0666;  // before the user's umask
 std::string ciblePhysique(const std::string& chemin) {
     const std::unique_ptr<char, decltype(&free)> reel(realpath(chemin.c_str(), nullptr), &free);
     return reel ? reel.get() : chemin;
+}
+
+// Where a folder cannot be synced, nothing more can be done.
+void synchroniseDossier(const std::string& dossier) {
+    const Descripteur ouvert(dossier.empty() ? "." : dossier, O_RDONLY | O_DIRECTORY);
+    if (ouvert.estOuvert()) fsync(ouvert.numero());
 }
 
 // A new file beside `cible`, gone again unless it takes the target's place. A target that is no ordinary file, or that
@@ -49,12 +56,7 @@ class FichierNeuf {
         m_aEffacer = false;
         return true;
     }
-    // The rename has happened: where a folder cannot be synced, nothing more can be done.
-    void synchroniseDossier() const {
-        const std::string dossier = dossierDe(m_cible);
-        const Descripteur ouvert(dossier.empty() ? "." : dossier, O_RDONLY | O_DIRECTORY);
-        if (ouvert.estOuvert()) fsync(ouvert.numero());
-    }
+    void synchroniseDossier() const { fichiers::synchroniseDossier(dossierDe(m_cible)); }
 
   private:
     // Short whatever the target's name is, and never that of a file left by a killed run of another number.
@@ -117,6 +119,39 @@ bool remplace(const std::string& chemin, std::string_view octets) {
     if (!neuf.estPret() || !ecritTout(neuf.numero(), octets) || !neuf.synchronise() || !neuf.prendLaPlace())
         return false;
     neuf.synchroniseDossier();
+    return true;
+}
+
+Creation cree(const std::string& chemin, std::string_view octets) {
+    Descripteur fichier(chemin, O_WRONLY | O_CREAT | O_EXCL, kDroitsOrdinaires);
+    if (!fichier.estOuvert()) return errno == EEXIST ? Creation::ExisteDeja : Creation::Echouee;
+    if (ecritTout(fichier.numero(), octets) && fichier.ferme()) return Creation::Faite;
+    unlink(chemin.c_str());
+    return Creation::Echouee;
+}
+
+// The writing of all of them is begun before the first is waited for.
+bool synchronise(const std::vector<std::string>& chemins) {
+    std::set<std::string> dossiers;
+    for (const std::string& chemin : chemins) {
+        const Descripteur fichier(chemin, O_RDONLY);
+        if (fichier.estOuvert()) sync_file_range(fichier.numero(), 0, 0, SYNC_FILE_RANGE_WRITE);
+        dossiers.insert(dossierDe(chemin));
+    }
+    bool tous = true;
+    for (const std::string& chemin : chemins) {
+        const Descripteur fichier(chemin, O_RDONLY);
+        tous = fichier.estOuvert() && fsync(fichier.numero()) == 0 && tous;
+    }
+    for (const std::string& dossier : dossiers)
+        synchroniseDossier(dossier);
+    return tous;
+}
+
+bool renomme(const std::string& de, const std::string& vers) {
+    const std::string cible = ciblePhysique(vers);
+    if (rename(de.c_str(), cible.c_str()) != 0) return false;
+    synchroniseDossier(dossierDe(cible));
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 // Files and folders of the machine. A path is the bytes the system uses, with "/" between folders. Nothing here throws:
@@ -17,6 +18,9 @@ namespace fichiers {
 
 [[nodiscard]] bool existe(const std::string& chemin);  // a file that trouve finds; a folder is none
 [[nodiscard]] bool dossierExiste(const std::string& chemin);
+[[nodiscard]] bool dossierModifiable(const std::string& chemin);  // files can be made and deleted in it
+// Which file a path leads to, the same for all of its names; empty when there is none.
+[[nodiscard]] std::optional<std::pair<std::uint64_t, std::uint64_t>> identite(const std::string& chemin);
 [[nodiscard]] std::int64_t longueur(const std::string& chemin);  // in bytes, -1 when there is no such file
 
 // A whole file; empty when it cannot be read (a folder included) or is longer than `limite` bytes.
@@ -30,6 +34,15 @@ namespace fichiers {
 bool ecrit(const std::string& chemin, std::string_view octets);
 // Replaces a whole file safely: written beside it, synced, renamed over it. On failure what stood there still stands.
 bool remplace(const std::string& chemin, std::string_view octets);
+// Makes a file that was not there. What stood there, were it a folder, stays; a file that could not be written whole goes.
+enum class Creation { Faite, ExisteDeja, Echouee };
+[[nodiscard]] Creation cree(const std::string& chemin, std::string_view octets);
+
+// Takes the files and their folders to the disk, together: what they hold survives a power cut from then on. False when
+// one of the files could not be.
+[[nodiscard]] bool synchronise(const std::vector<std::string>& chemins);
+// Renames over what stands at `vers` (where a link leads), on the same file system, and takes the folder to the disk.
+[[nodiscard]] bool renomme(const std::string& de, const std::string& vers);
 
 // Copies over what stands at `vers`; a copy onto itself is recognised and does nothing, successfully.
 bool copie(const std::string& de, const std::string& vers);

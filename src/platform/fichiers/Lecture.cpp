@@ -87,6 +87,12 @@ std::optional<std::vector<std::string>> litLignes(const std::string& chemin, std
     return lignes;
 }
 
+std::optional<std::pair<std::uint64_t, std::uint64_t>> identite(const std::string& chemin) {
+    struct stat infos {};
+    if (stat(cheminLisible(chemin).c_str(), &infos) != 0) return std::nullopt;
+    return std::pair<std::uint64_t, std::uint64_t>(infos.st_dev, infos.st_ino);
+}
+
 std::int64_t longueur(const std::string& chemin) {
     struct stat infos {};
     return stat(cheminLisible(chemin).c_str(), &infos) == 0 && S_ISREG(infos.st_mode) ? infos.st_size : -1;

@@ -30,6 +30,29 @@ void vieillit(const std::string& dossier) {
     fs::last_write_time(dossier, fs::file_time_type::clock::now() - std::chrono::hours(1));
 }
 
+TEST(FichiersTest, ANewFileTakesNobodysPlace) {
+    const doubles::DossierTemporaire dossier;
+    EXPECT_EQ(fichiers::cree(dossier.chemin("a"), "premier"), fichiers::Creation::Faite);
+    EXPECT_EQ(fichiers::cree(dossier.chemin("a"), "second"), fichiers::Creation::ExisteDeja);
+    EXPECT_EQ(fichiers::cree(dossier.chemin("nulle part/a"), ""), fichiers::Creation::Echouee);
+    EXPECT_EQ(dossier.lit("a"), "premier");
+    EXPECT_TRUE(fichiers::synchronise({dossier.chemin("a")}));
+    EXPECT_FALSE(fichiers::synchronise({dossier.chemin("a"), dossier.chemin("b")}));
+}
+
+TEST(FichiersTest, ARenamedFileTakesThePlaceThatALinkLeadsTo) {
+    const doubles::DossierTemporaire dossier;
+    dossier.ecrit("neuf", "neuf");
+    dossier.ecrit("vrai", "vieux");
+    std::filesystem::create_symlink("vrai", dossier.chemin("lien"));
+    EXPECT_EQ(fichiers::identite(dossier.chemin("LIEN")), fichiers::identite(dossier.chemin("vrai")));
+    EXPECT_NE(fichiers::identite(dossier.chemin("neuf")), fichiers::identite(dossier.chemin("vrai")));
+    EXPECT_TRUE(fichiers::renomme(dossier.chemin("neuf"), dossier.chemin("lien")));
+    EXPECT_EQ(dossier.lit("vrai"), "neuf");
+    EXPECT_FALSE(fichiers::renomme(dossier.chemin("neuf"), dossier.chemin("lien")));
+    EXPECT_EQ(fichiers::identite(dossier.chemin("neuf")), std::nullopt);
+}
+
 }  // namespace
 
 TEST(FichiersTrouve, FindsNamesCopiedFromElsewhere) {
