@@ -2,138 +2,21 @@
 
 #include "platform/dao/Connexion.h"
 #include "platform/dao/Erreurs.h"
+#include "platform/dao/Poignee.h"
 
-#include <array>
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <system_error>
-#include <utility>
 
 #include <sqlite3.h>
 
 namespace dao::DBEngine {
 
-namespace {
-
 using interne::jette;
-using interne::jetteSqlite;
-
-constexpr int kAttenteDuVerrou = 2000;  // ms
-
-// An SQLite handle that is closed unless it is handed on.
-class Poignee {
-  public:
-    Poignee(const std::string& chemin, int options) {
-        const int code =
-            sqlite3_open_v2(chemin.c_str(), &m_base, options | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
-        if (code != SQLITE_OK) echoue(code);
-        sqlite3_busy_timeout(m_base, kAttenteDuVerrou);
-    }
-    Poignee(const Poignee&) = delete;
-    Poignee& operator=(const Poignee&) = delete;
-    ~Poignee() { sqlite3_close(m_base); }
-
-    [[nodiscard]] sqlite3* brute() const { return m_base; }
-    sqlite3* cede() { return std::exchange(m_base, nullptr); }
-
-    void regle(int reglage, int valeur) { sqlite3_db_config(m_base, reglage, valeur, nullptr); }
-    int essaie(const std::string& sql) { return sqlite3_exec(m_base, sql.c_str(), nullptr, nullptr, nullptr); }
-    void execute(const std::string& sql) {
-        if (const int code = essaie(sql); code != SQLITE_OK) jetteSqlite(m_base, code);
-    }
-
-    long long entier(const std::string& sql) {
-        sqlite3_stmt* requete = nullptr;
-        int code = sqlite3_prepare_v2(m_base, sql.c_str(), -1, &requete, nullptr);
-        if (code == SQLITE_OK) code = sqlite3_step(requete);
-        const long long resultat = code == SQLITE_ROW ? sqlite3_column_int64(requete, 0) : 0;
-        sqlite3_finalize(requete);
-        if (code != SQLITE_ROW) jetteSqlite(m_base, code);
-        return resultat;
-    }
-
-  private:
-    [[noreturn]] void echoue(int code) {
-        sqlite3_close(std::exchange(m_base, nullptr));
-        jetteSqlite(nullptr, code);
-    }
-
-    sqlite3* m_base = nullptr;
-};
-
-void exigeFichier(const std::string& chemin) {
-    std::error_code erreur;
-    if (!std::filesystem::exists(chemin, erreur))
-        jette(kErreurFichierIntrouvable, "Fichier introuvable : « " + chemin + " ».");
-    if (!std::filesystem::is_regular_file(chemin, erreur))
-        jette(kErreurFormat, "« " + chemin + " » n'est pas une base.");
-}
-
-// SQLite would take an empty file for a new base.
-void exigeSignature(const std::string& chemin) {
-    constexpr std::string_view kSignature("SQLite format 3\0", 16);
-    std::ifstream fichier(chemin, std::ios::binary);
-    std::array<char, 16> debut{};
-    if (!fichier) jette(kErreurLectureSeule, "Le fichier « " + chemin + " » ne peut pas être lu.");
-    fichier.read(debut.data(), debut.size());
-    const std::string_view lu(debut.data(), static_cast<std::size_t>(fichier.gcount()));
-    if (lu != kSignature) jette(kErreurFormat, "« " + chemin + " » n'est pas une base, ou elle est endommagée.");
-}
-
-// What a file made elsewhere may hold must not act by itself.
-void protege(Poignee& base) {
-    base.regle(SQLITE_DBCONFIG_DEFENSIVE, 1);
-    base.regle(SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0);
-    base.regle(SQLITE_DBCONFIG_ENABLE_TRIGGER, 0);
-    base.regle(SQLITE_DBCONFIG_ENABLE_VIEW, 0);
-    base.regle(SQLITE_DBCONFIG_DQS_DML, 0);
-}
-
-// Reads the first page and the schema: SQLite then undoes what a killed program left half written, and refuses a file
-// that lacks whole pages.
-void verifieLeContenu(Poignee& base) {
-    base.entier("SELECT count(*) FROM sqlite_schema");
-    const long long identifiant = base.entier("PRAGMA application_id");
-    if (identifiant != 0 && identifiant != kIdentifiantApplication)
-        jette(kErreurFormat, "La base appartient à un autre programme.");
-    std::error_code erreur;
-    const auto taille = std::filesystem::file_size(sqlite3_db_filename(base.brute(), "main"), erreur);
-    if (erreur || static_cast<long long>(taille) % base.entier("PRAGMA page_size") != 0)
-        jette(kErreurFormat, "La base est tronquée.");
-}
-
-// The only sure way to know that a change will be possible is to begin one: it takes the lock and makes the journal.
-void essaieDEcrire(Poignee& base, bool exclusif) {
-    if (sqlite3_db_readonly(base.brute(), "main") != 0) jetteSqlite(base.brute(), SQLITE_READONLY);
-    base.execute(exclusif ? "BEGIN EXCLUSIVE" : "BEGIN IMMEDIATE");
-    const std::string version = std::to_string(base.entier("PRAGMA user_version"));
-    const int code = base.essaie("PRAGMA user_version=" + version);
-    base.essaie("ROLLBACK");
-    if (code != SQLITE_OK) jetteSqlite(base.brute(), code);
-}
-
-void ouvre(Poignee& base, bool exclusif) {
-    protege(base);
-    base.execute("PRAGMA synchronous=FULL; PRAGMA cache_size=-8000; PRAGMA temp_store=MEMORY");
-    if (exclusif) base.execute("PRAGMA locking_mode=EXCLUSIVE");
-    verifieLeContenu(base);
-    essaieDEcrire(base, exclusif);
-}
-
-}  // namespace
+using interne::Poignee;
 
 Database OpenDatabase(const std::string& chemin, bool exclusif) {
-    exigeFichier(chemin);
-    exigeSignature(chemin);
-    try {
-        Poignee base(chemin, SQLITE_OPEN_READWRITE);
-        ouvre(base, exclusif);
-        return Database(std::make_unique<interne::Connexion>(base.cede(), chemin));
-    } catch (const ErreurDao& erreur) {
-        if (erreur.numero != kErreurVerrouille) throw;
-        jette(kErreurFichierDejaUtilise, "Impossible d'utiliser « " + chemin + " » : le fichier est déjà utilisé.");
-    }
+    return Database(std::make_unique<interne::Connexion>(interne::ouvreBase(chemin, exclusif)->cede(), chemin));
 }
 
 void CreateDatabase(const std::string& chemin, std::string_view schema) {

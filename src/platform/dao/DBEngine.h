@@ -3,6 +3,7 @@
 #include "platform/dao/Database.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -19,5 +20,13 @@ inline constexpr std::uint32_t kIdentifiantApplication = 0x416d6272;
 
 // Makes a new empty base from the statements of its schema. Throws ErreurDao when the file exists or cannot be made.
 void CreateDatabase(const std::string& chemin, std::string_view schema);
+
+// Writes a compacted copy of the base at `source` to a file of its own at `destination`, which must not exist. Row ids,
+// `application_id` and `user_version` stay; the copy is checked, row counts included, and on the disk when this returns.
+// The source is locked against every other program meanwhile, and while `ensuite` runs, last: the place to put the
+// copy where the source was. Throws ErreurDao, whatever `ensuite` throws included: the source is then as it was, and
+// there is no destination.
+void CompactDatabase(const std::string& source, const std::string& destination,
+                     const std::function<void()>& ensuite = {});
 
 }  // namespace dao::DBEngine

@@ -1,0 +1,75 @@
+#include "platform/dao/DBEngine.h"
+#include "platform/dao/Erreurs.h"
+#include "platform/dao/Poignee.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include <fcntl.h>
+#include <sqlite3.h>
+#include <unistd.h>
+
+namespace dao::DBEngine {
+
+namespace {
+
+namespace fs = std::filesystem;
+using interne::jette;
+using interne::Poignee;
+
+constexpr const char* kTables =
+    "SELECT name FROM sqlite_schema WHERE type='table' AND rootpage<>0 AND name NOT LIKE 'sqlite~_%' ESCAPE '~'";
+
+std::string guillemets(const std::string& nom) {
+    std::string resultat = "\"";
+    for (const char c : nom)
+        resultat.append(c == '"' ? 2 : 1, c);
+    return resultat + "\"";
+}
+
+// The copy can be read through, and has every row.
+void verifie(Poignee& source, const std::string& destination) {
+    Poignee copie(destination, SQLITE_OPEN_READONLY);
+    const auto memes = [&](const std::string& sql) { return source.entier(sql) == copie.entier(sql); };
+    bool bonne = memes("PRAGMA application_id") && memes("PRAGMA user_version") &&
+                 source.textes(kTables) == copie.textes(kTables) &&
+                 copie.textes("PRAGMA quick_check(1)") == std::vector<std::string>{"ok"};
+    for (const std::string& table : source.textes(kTables))
+        bonne = bonne && memes("SELECT count(*) FROM " + guillemets(table));
+    if (!bonne) jette(kErreurFormat, "La copie de la base n'est pas identique à l'originale.");
+}
+
+// SQLite makes its copies without waiting for the disk.
+void synchronise(const std::string& chemin) {
+    const int fichier = open(chemin.c_str(), O_RDONLY | O_CLOEXEC);
+    const bool surLeDisque = fichier >= 0 && fsync(fichier) == 0;
+    if (fichier >= 0) close(fichier);
+    if (!surLeDisque) jette(kErreurDisque, "Erreur de disque : la copie de la base n'a pas pu être enregistrée.");
+}
+
+void efface(const std::string& destination) {
+    std::error_code ignoree;
+    for (const char* suite : {"", "-journal"})
+        fs::remove(destination + suite, ignoree);
+}
+
+}  // namespace
+
+void CompactDatabase(const std::string& source, const std::string& destination, const std::function<void()>& ensuite) {
+    const auto base = interne::ouvreBase(source, true);
+    std::error_code erreur;
+    if (fs::exists(destination, erreur)) jette(kErreurFichierExiste, "Le fichier « " + destination + " » existe déjà.");
+    try {
+        base->execute("PRAGMA journal_mode=DELETE");  // else the old log would be taken for the copy's
+        base->execute("VACUUM INTO ?1", destination);
+        verifie(*base, destination);
+        fs::permissions(destination, fs::status(source).permissions(), erreur);
+        synchronise(destination);
+        if (ensuite) ensuite();
+    } catch (...) {
+        efface(destination);
+        throw;
+    }
+}
+
+}  // namespace dao::DBEngine
