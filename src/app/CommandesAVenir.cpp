@@ -26,11 +26,7 @@ void griseFiche(browse::EtatFiche& fiche) {
 }
 
 void griseFonctions(EtatFonctions& fonctions) {
-    grise(fonctions.cmdCompacter);
-    grise(fonctions.cmdInfosBase);
-    grise(fonctions.cmdSupprInfosPerso);
     grise(fonctions.cmdCreerListe);
-    grise(fonctions.cmdMajBase);
     griseTous(fonctions.Combo6);
 }
 

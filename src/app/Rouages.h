@@ -7,9 +7,13 @@
 #include "app/Demarrage.h"
 #include "app/Session.h"
 #include "browse/AfficheNbTitres.h"
+#include "browse/Label12_Click.h"
 #include "browse/SelectionneTitre.h"
 #include "browse/lblRealisateur_Click.h"
 #include "db/cmdChargeOuvreBase_Click.h"
+#include "db/cmdInfosBase_Click.h"
+#include "db/cmdMajBase_Click.h"
+#include "db/cmdSupprInfosPerso_Click.h"
 #include "edit/ModifieGroupe.h"
 #include "edit/SaisiePossession.h"
 #include "edit/cmdAjoutFilm_Click.h"
@@ -21,6 +25,8 @@
 #include "edit/cmdValiderInfosPossessions_Click.h"
 #include "view/TouchesAffiche.h"
 #include "view/cmdRemplacerImage_Click.h"
+
+#include <functional>
 
 namespace app {
 
@@ -43,6 +49,12 @@ struct Session::Rouages final : db::Rafraichissement {
     db::OuvertureBase ouvertureBase{base, chemins, machine.dialogues};
     db::cmdChargeOuvreBase_Click cmdChargeOuvreBase{base, chemins, ouvertureBase, *this, machine.dialogues};
     db::Option3_Click option3{etats.stockage, chemins};
+    db::cmdCompacter_Click cmdCompacter{base, chemins, ouvertureBase, *this, machine.dialogues};
+    db::cmdMajBase_Click cmdMajBase{
+        {base, chemins, etats.stockage, etats.fonctions.ProgressBar2, machine.ecran, machine.dialogues},
+        cmdCompacter,
+        *this};
+    db::cmdSupprInfosPerso_Click cmdSupprInfosPerso{base, *this, machine.dialogues};
 
     // Listing.
     browse::AfficheAccueil afficheAccueil{etats.panneaux, machine.ecran};
@@ -65,6 +77,7 @@ struct Session::Rouages final : db::Rafraichissement {
         base,           etats.liste,       etats.fiche,       etats.panneaux,  film,
         machine.images, afficheTemporaire, affichePossession, modifieNoteFilm, afficheAccueil,
         afficheVolet};
+    browse::Label12_Click label12{base, film, etats.fiche, etats.stockage, chemins, afficheFiche, machine.dialogues};
     browse::TreeView1 treeView1{etats.liste, afficheFiche, machine.dialogues};
     browse::SelectionneTitre selectionneTitre{etats.liste, base, treeView1};
 
@@ -132,6 +145,10 @@ struct Session::Rouages final : db::Rafraichissement {
     void reconstruitListe() override { creeRequeteAffichage.apresChangementDeBase(); }
     void RaffraichitBoitesDeroulantes() override { boitesDeroulantes.RaffraichitBoitesDeroulantes(); }
     void AfficheNbTitres() override { afficheNbTitres(); }
+    void AffichageApresModification() override;
+
+    // Runs a command that closes the base and opens one again.
+    void surLaBase(const std::function<void()>& commande);
 };
 
 }  // namespace app

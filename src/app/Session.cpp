@@ -32,6 +32,22 @@ MenuContextuel menuDemande(browse::MenuArbre menu) {
 
 Session::Rouages::Rouages(const Machine& laMachine, Etats& lesEtats) : machine(laMachine), etats(lesEtats) {}
 
+void Session::Rouages::surLaBase(const std::function<void()>& commande) {
+    try {
+        commande();
+    } catch (const systeme::FinDuProgramme&) {
+        enMarche = false;  // no base is open: the settings keep the one they name
+        throw;
+    }
+}
+
+void Session::Rouages::AffichageApresModification() {
+    const browse::EtatPanneaux panneaux = etats.panneaux;
+    afficheTitres.vide();
+    affichageApresModification();
+    etats.panneaux = panneaux;
+}
+
 Session::Session(const Machine& machine) : m_rouages(std::make_unique<Rouages>(machine, etats)) {
     griseCommandesAVenir(etats);
 }
@@ -189,12 +205,7 @@ void Session::Label4_Click() {
 }
 
 void Session::cmdChargeOuvreBase_Click() {
-    try {
-        m_rouages->cmdChargeOuvreBase();
-    } catch (const systeme::FinDuProgramme&) {
-        m_rouages->enMarche = false;  // no base is open: the settings keep the one they name
-        throw;
-    }
+    m_rouages->surLaBase([this] { m_rouages->cmdChargeOuvreBase(); });
 }
 
 void Session::Option3_Click() {
@@ -205,15 +216,25 @@ void Session::cmdParcourir_Click() {
     app::cmdParcourir_Click(etats.stockage, m_rouages->machine.dialogues);
 }
 
-void Session::Label12_Click() {}
+void Session::Label12_Click() {
+    m_rouages->label12();
+}
 
-void Session::cmdMajBase_Click() {}
+void Session::cmdMajBase_Click() {
+    m_rouages->surLaBase([this] { m_rouages->cmdMajBase(); });
+}
 
-void Session::cmdCompacter_Click() {}
+void Session::cmdCompacter_Click() {
+    m_rouages->surLaBase([this] { m_rouages->cmdCompacter(); });
+}
 
-void Session::cmdInfosBase_Click() {}
+void Session::cmdInfosBase_Click() {
+    db::cmdInfosBase_Click(m_rouages->base, m_rouages->machine.dialogues);
+}
 
-void Session::cmdSupprInfosPerso_Click() {}
+void Session::cmdSupprInfosPerso_Click() {
+    m_rouages->cmdSupprInfosPerso();
+}
 
 void Session::Command13_Click(int indice) {
     m_rouages->modesAjout.Command13_Click(indice);

@@ -10,6 +10,9 @@ class Rafraichissement {
     virtual void reconstruitListe() = 0;              // listing of the current zone and sort, without a search
     virtual void RaffraichitBoitesDeroulantes() = 0;  // the personal drop-down lists
     virtual void AfficheNbTitres() = 0;               // the two counts
+    // Listing and tree of the current zone and sort, with the current search; no node of before is left, the panel
+    // that is open stays.
+    virtual void AffichageApresModification() = 0;
 };
 
 }  // namespace db

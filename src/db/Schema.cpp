@@ -42,10 +42,11 @@ CREATE TABLE Personnel (
 );
 )";
 
-// Each index holds every column that a listing reads, so that no listing ever reads a row, whose summary and poster take
-// the most of it. They are plain indexes: any tool that edits the file keeps them right.
+// Each index holds every column that a listing reads, that of one day's additions included: no listing ever reads a
+// row, whose summary and poster take the most of it. They are plain indexes: any tool that edits the file keeps them
+// right.
 constexpr std::string_view kIndex = R"(
-CREATE INDEX IF NOT EXISTS FilmsListe ON Films (Titre, Realisateur, Annee, Genre, Origine, Duree, Note);
+CREATE INDEX IF NOT EXISTS FilmsListe ON Films (Titre, Realisateur, Annee, Genre, Origine, Duree, Note, DateAjout);
 CREATE INDEX IF NOT EXISTS PersonnelListe ON Personnel (Titre2, Realisateur2, Pret, Reserve, Support);
 )";
 

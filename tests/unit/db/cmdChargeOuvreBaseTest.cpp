@@ -1,21 +1,13 @@
 #include "Installation.h"
+#include "RafraichissementNote.h"
 #include "db/cmdChargeOuvreBase_Click.h"
 #include "doubles/DialoguesScript.h"
 
 #include <filesystem>
-#include <vector>
 
 #include <gtest/gtest.h>
 
 namespace {
-
-struct RafraichissementNote final : db::Rafraichissement {
-    std::vector<std::string> appels;
-    void AfficheAccueil() override { appels.push_back("AfficheAccueil"); }
-    void reconstruitListe() override { appels.push_back("reconstruitListe"); }
-    void RaffraichitBoitesDeroulantes() override { appels.push_back("RaffraichitBoitesDeroulantes"); }
-    void AfficheNbTitres() override { appels.push_back("AfficheNbTitres"); }
-};
 
 class cmdChargeOuvreBaseTest : public ::testing::Test {
   protected:

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "db/RapportConversion.h"
+#include "platform/dao/Database.h"
+
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace db {
+
+// What a poster file could not be given or taken: told to the user, it ends the conversion.
+struct EchecConversion {
+    std::string texte;
+};
+
+// One way of converting posters, film by film, in lots that are one transaction each. At each moment a film's poster is
+// where its row says: the new copy is on the disk before the lot is stored, and the old one goes after.
+class SensConversion {
+  public:
+    virtual ~SensConversion() = default;
+    // The films that may have something to convert.
+    [[nodiscard]] virtual std::string enonce() const = 0;
+    // The current film of the recordset. Throws EchecConversion or dao::ErreurDao, with its row as it was.
+    [[nodiscard]] virtual RapportConversion convertit(dao::Recordset& films) = 0;
+    virtual void avantValidation() = 0;  // throws EchecConversion
+    virtual void apresValidation() = 0;
+    virtual void apresAnnulation() = 0;  // of the lot: nothing of it is left in the folder
+};
+
+// Files of the images folder into the base. A file goes once no film names it any more.
+class VersLaBase final : public SensConversion {
+  public:
+    VersLaBase(dao::Database& base, std::string dossier);
+
+    [[nodiscard]] std::string enonce() const override;
+    [[nodiscard]] RapportConversion convertit(dao::Recordset& films) override;
+    void avantValidation() override {}
+    void apresValidation() override;
+    void apresAnnulation() override { m_inclus.clear(); }
+
+  private:
+    using Identite = std::pair<std::uint64_t, std::uint64_t>;
+    struct Usage {
+        long films = 0;
+        std::set<std::string> chemins;
+    };
+    void releveUsages(dao::Database& base);
+    [[nodiscard]] std::string chemin(const std::string& affiche) const;
+
+    std::string m_dossier;
+    std::map<Identite, Usage> m_usages;
+    std::vector<Identite> m_inclus;  // of the lot
+};
+
+// Posters of the base into files of the images folder. A file that stands there is shared when it holds the same bytes;
+// otherwise it stays, and the film keeps its poster in the base.
+class VersLeDossier final : public SensConversion {
+  public:
+    VersLeDossier(dao::Database& base, std::string dossier) : m_base(base), m_dossier(std::move(dossier)) {}
+
+    [[nodiscard]] std::string enonce() const override;
+    [[nodiscard]] RapportConversion convertit(dao::Recordset& films) override;
+    void avantValidation() override;
+    void apresValidation() override { m_crees.clear(), m_aSynchroniser.clear(); }
+    void apresAnnulation() override;
+
+  private:
+    [[nodiscard]] bool pose(const std::string& nom, std::string_view octets);
+    [[nodiscard]] bool poseSurUnAutre(const std::string& nom, std::string_view octets);
+    [[nodiscard]] bool estNomme(const std::string& nom);
+
+    dao::Database& m_base;
+    std::string m_dossier;
+    std::vector<std::string> m_crees;          // of the lot
+    std::vector<std::string> m_aSynchroniser;  // those, and the files shared
+};
+
+}  // namespace db

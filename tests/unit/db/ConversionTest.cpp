@@ -1,0 +1,204 @@
+#include "Entretien.h"
+#include "doubles/DialoguesScript.h"
+
+#include <random>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string image(int rang, std::size_t taille = 3000) {
+    std::string octets = "\xFF\xD8";
+    std::minstd_rand hasard(static_cast<unsigned>(rang) + 1);
+    while (octets.size() < taille)
+        octets += static_cast<char>(hasard());
+    return octets;
+}
+
+class ConversionTest : public ::testing::Test {
+  protected:
+    Installation installation;
+    doubles::DialoguesScript dialogues;
+    std::optional<Entretien> entretien;
+
+    void SetUp() override {
+        installation.creeBase("Films.mdb");
+        entretien.emplace(installation, dialogues);
+    }
+    void fichier(const std::string& nom, const std::string& octets) {
+        installation.dossier.ecrit("Images/" + nom, octets);
+    }
+    [[nodiscard]] std::string litFichier(const std::string& nom) { return installation.dossier.lit("Images/" + nom); }
+    [[nodiscard]] bool existe(const std::string& nom) { return installation.dossier.existe("Images/" + nom); }
+    void convertit(std::size_t option, const std::string& rapport, bool compacte = false) {
+        ecran::choisit(entretien->stockage.Option3, option);
+        if (compacte) dialogues.attendMsgBox("Compactage effectué.", dialogues::kInformation);
+        if (!rapport.empty()) dialogues.attendMsgBox(rapport, dialogues::kInformation);
+        entretien->cmdMajBase();
+        dialogues.verifie();
+        EXPECT_EQ(entretien->rafraichissement.appels.back(), "AffichageApresModification");
+    }
+};
+
+TEST_F(ConversionTest, FilesGoIntoTheBaseAsFarAsTheyFit) {
+    const std::string laPlusGrande = image(1, 229999);
+    fichier("a.jpg", laPlusGrande);
+    fichier("b.jpg", image(2, 230000));
+    fichier("C.JPG", image(3));
+    entretien->ajoute("a", "", "JPGa.jpg");
+    entretien->ajoute("b", "", "JPGb.jpg");
+    entretien->ajoute("c", "", "JPGc.jpg");
+    entretien->ajoute("d", "", "JPGnullepart.jpg");
+    entretien->ajoute("e", "", dao::Valeur());
+    convertit(0, "1 fichier exclu car trop volumineux.\r\n2 fichiers inclus.");
+    EXPECT_EQ(entretien->affiches(),
+              (std::vector<std::string>{"STO" + laPlusGrande, "JPGb.jpg", "STO" + image(3), "JPGnullepart.jpg", ""}));
+    EXPECT_TRUE(existe("b.jpg"));
+    EXPECT_FALSE(existe("a.jpg") || existe("C.JPG"));
+    EXPECT_EQ(entretien->progression.Value, 5);
+    EXPECT_EQ(entretien->progression.Max, 5);
+    EXPECT_EQ(entretien->ecranMuet.soufflesHorsTravail, 0);
+}
+
+TEST_F(ConversionTest, NothingToMoveShowsNothing) {
+    entretien->ajoute("a", "", dao::Valeur());
+    entretien->ajoute("b", "", "JPGnullepart.jpg");
+    convertit(0, "");
+    convertit(1, "");
+    EXPECT_TRUE(installation.dossier.existe("Images"));
+}
+
+TEST_F(ConversionTest, AFileThatSeveralFilmsNameGoesWithTheLast) {
+    fichier("commun.jpg", image(1));
+    fichier("seul.jpg", image(2));
+    entretien->ajoute("a", "", "JPGcommun.jpg");
+    entretien->ajoute("b", "", "JPGseul.jpg");
+    entretien->ajoute("c", "", "JPGCOMMUN.jpg");
+    entretien->ecranMuet.arretApres = 2;
+    convertit(0, "2 fichiers inclus.");
+    EXPECT_TRUE(existe("commun.jpg"));
+    EXPECT_FALSE(existe("seul.jpg"));
+    entretien->ecranMuet.arretApres = 0;
+    convertit(0, "1 fichier inclu.");
+    EXPECT_FALSE(existe("commun.jpg"));
+    EXPECT_EQ(entretien->affiches().at(2), "STO" + image(1));
+}
+
+TEST_F(ConversionTest, PostersGoIntoFilesThatNoOtherPictureHas) {
+    entretien->ajoute("Été : 1", "R", db::valeurAfficheDansLaBase(image(1)));
+    entretien->ajoute("Été / 1", "R", db::valeurAfficheDansLaBase(image(1)));  // the same file, the same picture
+    entretien->ajoute("Été * 1", "R", db::valeurAfficheDansLaBase(image(2)));  // the same file, another picture
+    entretien->ajoute("Coupé", "R", db::valeurAfficheDansLaBase(image(3)));
+    fichier("Coupé - R.jpg", image(3).substr(0, 100));  // what a killed conversion left
+    entretien->ajoute("Dossier", "R", db::valeurAfficheDansLaBase(image(4)));
+    std::filesystem::create_directories(installation.dossier.chemin("Images/Dossier - R.jpg"));
+    convertit(1,
+              "3 fichiers créés.\r\n2 affiches laissées dans la base car d'autres images portent déjà le nom de leur "
+              "fichier.",
+              true);
+    std::vector<std::string> affiches = entretien->affiches();
+    std::sort(affiches.begin(), affiches.end());
+    EXPECT_EQ(affiches, (std::vector<std::string>{"JPGCoupé - R.jpg", "JPGÉté  1 - R.jpg", "JPGÉté  1 - R.jpg",
+                                                  "STO" + image(2), "STO" + image(4)}));
+    EXPECT_EQ(litFichier("Été  1 - R.jpg"), image(1));
+    EXPECT_EQ(litFichier("Coupé - R.jpg"), image(3));
+}
+
+TEST_F(ConversionTest, AFolderThatCannotBeWrittenLeavesAllAsItWas) {
+    entretien->ajoute("a", "", db::valeurAfficheDansLaBase(image(1)));
+    installation.dossier.ecrit("barrage", "");
+    const std::string dossier = installation.dossier.chemin("barrage/Images");
+    entretien->stockage.Text4.Text = dossier;
+    dialogues.attendMsgBox("Le dossier des images " + dossier + "/ n'est pas accessible en écriture !",
+                           dialogues::kCritique);
+    convertit(1, "");
+    EXPECT_EQ(entretien->affiches().at(0), "STO" + image(1));
+}
+
+TEST_F(ConversionTest, AFullDiskLeavesBaseAndFolderAsTheyWere) {
+    entretien->ajoute("a", "", db::valeurAfficheDansLaBase(image(1)));
+    entretien->ajoute("b", "", db::valeurAfficheDansLaBase(image(2, 200000)));
+    entretien.reset();
+    DialoguesMuets muets;
+    const bool tenu = executeAilleurs(std::nullopt, [&] {
+        Entretien ailleurs(installation, muets);
+        ecran::choisit(ailleurs.stockage.Option3, 1);
+        limiteLesFichiers(100000);
+        ailleurs.cmdMajBase();
+        const std::string attendu = "Le fichier image " + installation.dossier.chemin("Images/b - .jpg") +
+                                    " n'a pas pu être écrit (Disque plein/Lecture seule ?)";
+        _exit(muets.textes == std::vector<std::string>{attendu} ? 0 : 1);
+    });
+    EXPECT_TRUE(tenu);
+    EXPECT_TRUE(std::filesystem::is_empty(installation.dossier.chemin("Images")));
+    entretien.emplace(installation, dialogues);
+    EXPECT_EQ(entretien->affiches(), (std::vector<std::string>{"STO" + image(1), "STO" + image(2, 200000)}));
+}
+
+// Killed at any moment, each film has its poster where its row says; started again, the conversion ends.
+class ConversionTueeTest : public ConversionTest, public ::testing::WithParamInterface<std::size_t> {
+  protected:
+    static constexpr int kFilms = 1300;  // more than a lot
+    static constexpr int kMorts = 25;
+
+    static std::string titre(int rang) { return "Film " + std::to_string(rang); }
+    void remplit(bool dansLaBase) {
+        dao::Transaction ensemble(entretien->base.base);
+        for (int rang = 0; rang < kFilms; ++rang) {
+            const std::string nom = db::nomFichierAffiche(titre(rang), "R");
+            if (!dansLaBase) fichier(nom, image(rang));
+            entretien->ajoute(titre(rang), "R",
+                              dansLaBase ? db::valeurAfficheDansLaBase(image(rang)) : db::valeurAfficheFichier(nom));
+        }
+        ensemble.confirme();
+    }
+    // How many films are stored the way that was asked for.
+    int verifieAffiches(bool dansLaBase) {
+        entretien.emplace(installation, dialogues);
+        dao::Recordset films = entretien->base.base.OpenRecordset("SELECT * FROM films");
+        int convertis = 0, perdus = 0;
+        for (; !films.Eof(); films.MoveNext()) {
+            const std::string affiche = films.texte("Affiche");
+            const bool enBase = db::estDansLaBase(affiche);
+            const std::string octets = enBase                      ? affiche.substr(3)
+                                       : existe(affiche.substr(3)) ? litFichier(affiche.substr(3))
+                                                                   : "";
+            perdus += octets != image(std::stoi(films.texte("Titre").substr(5)));
+            convertis += enBase == dansLaBase;
+        }
+        EXPECT_EQ(films.RecordCount(), kFilms);
+        EXPECT_EQ(perdus, 0);
+        films.Close();
+        entretien.reset();
+        return convertis;
+    }
+    bool convertitAilleurs(std::optional<unsigned> delai) {
+        return executeAilleurs(delai, [&] {
+            DialoguesMuets muets;
+            Entretien ailleurs(installation, muets);
+            ecran::choisit(ailleurs.stockage.Option3, GetParam());
+            ailleurs.cmdMajBase();
+        });
+    }
+};
+
+TEST_P(ConversionTueeTest, NoPosterIsEverLost) {
+    const bool versLaBase = GetParam() == 0;
+    remplit(!versLaBase);
+    entretien.reset();
+    std::mt19937 hasard(20);
+    int interrompues = 0;
+    for (int mort = 0; mort < kMorts && !HasFailure(); ++mort) {
+        const unsigned delai =
+            std::uniform_int_distribution<unsigned>(0, 6000 * (1 + static_cast<unsigned>(mort)))(hasard);
+        if (!convertitAilleurs(delai)) ++interrompues;
+        if (verifieAffiches(versLaBase) == kFilms) break;
+    }
+    EXPECT_GT(interrompues, 3);
+    EXPECT_TRUE(convertitAilleurs(std::nullopt));
+    EXPECT_EQ(verifieAffiches(versLaBase), kFilms);
+}
+
+INSTANTIATE_TEST_SUITE_P(BothWays, ConversionTueeTest, ::testing::Values(0, 1));
+
+}  // namespace

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "Installation.h"
+#include "RafraichissementNote.h"
+#include "db/Affiches.h"
+#include "db/cmdMajBase_Click.h"
+#include "doubles/EcranMuet.h"
+
+#include <csignal>
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+// Every box is as good as any other: for programs that are killed before they show it.
+struct DialoguesMuets final : dialogues::Dialogues {
+    std::vector<std::string> textes;
+    int MsgBox(const std::string& texte, int, const std::string&) override {
+        textes.push_back(texte);
+        return dialogues::kOk;
+    }
+    std::string InputBox(const std::string&, const std::string&, const std::string&) override { return {}; }
+    std::string choisitFichier(const dialogues::DemandeFichier&) override { return {}; }
+    std::string choisitDossier(const std::string&, const std::string&) override { return {}; }
+};
+
+// The commands of upkeep over an installation's base.
+struct Entretien {
+    Entretien(Installation& lInstallation, dialogues::Dialogues& lesDialogues)
+        : installation(lInstallation), dialogues(lesDialogues) {
+        ouvertureBase();
+        ecran::choisit(stockage.Option3, 0);
+        stockage.Text4.Text = installation.dossier.chemin("Images");
+    }
+
+    Installation& installation;
+    dialogues::Dialogues& dialogues;
+    doubles::EcranMuet ecranMuet;
+    ecran::Progression progression;
+    RafraichissementNote rafraichissement;
+    db::EtatStockage stockage;
+    db::Base base;
+    db::OuvertureBase ouvertureBase{base, installation.chemins, dialogues};
+    db::cmdCompacter_Click cmdCompacter{base, installation.chemins, ouvertureBase, rafraichissement, dialogues};
+    db::cmdMajBase_Click cmdMajBase{
+        {base, installation.chemins, stockage, progression, ecranMuet, dialogues}, cmdCompacter, rafraichissement};
+
+    void ajoute(const std::string& titre, const std::string& realisateur, const dao::Valeur& affiche) {
+        base.films.AddNew();
+        base.films.assigne("Titre", titre);
+        base.films.assigne("Realisateur", realisateur);
+        base.films.assigne("Affiche", affiche);
+        base.films.Update();
+    }
+    void possede(const std::string& titre, const std::string& realisateur) {
+        base.personnel.AddNew();
+        base.personnel.assigne("Titre2", titre);
+        base.personnel.assigne("Realisateur2", realisateur);
+        base.personnel.Update();
+    }
+    [[nodiscard]] std::vector<std::string> valeurs(const std::string& enonce, const char* champ) {
+        dao::Recordset lignes = base.base.OpenRecordset(enonce);
+        std::vector<std::string> textes;
+        for (; !lignes.Eof(); lignes.MoveNext())
+            textes.push_back(lignes.texte(champ));
+        return textes;
+    }
+    [[nodiscard]] bool possedeEncore() const { return base.personnel.RecordCount() > 0; }
+    [[nodiscard]] std::vector<std::string> affiches() {
+        return valeurs("SELECT * FROM films ORDER BY titre", "Affiche");
+    }
+};
+
+// Runs the work in a process of its own, killed after so many microseconds unless it ended before. True when it ended.
+inline bool executeAilleurs(std::optional<unsigned> delai, const std::function<void()>& travail) {
+    const pid_t enfant = fork();
+    if (enfant == 0) {
+        travail();
+        _exit(0);
+    }
+    if (delai) {
+        usleep(*delai);
+        kill(enfant, SIGKILL);
+    }
+    int etat = 0;
+    waitpid(enfant, &etat, 0);
+    return WIFEXITED(etat) && WEXITSTATUS(etat) == 0;
+}
+
+// No file may grow beyond so many bytes, as on a full disk.
+inline void limiteLesFichiers(rlim_t octets) {
+    signal(SIGXFSZ, SIG_IGN);
+    const rlimit limite{octets, octets};
+    setrlimit(RLIMIT_FSIZE, &limite);
+}
