@@ -5,6 +5,7 @@
 #include "app/Arret.h"
 #include "app/ChoixFonction.h"
 #include "app/Demarrage.h"
+#include "app/RaccourcisClavier.h"
 #include "app/Session.h"
 #include "browse/AfficheNbTitres.h"
 #include "browse/Label12_Click.h"
@@ -136,6 +137,10 @@ struct Session::Rouages final : db::Rafraichissement {
     ChoixFonction choixFonction{etats.fonctions, etats.panneaux, afficheAccueil, modesAjout};
     edit::cmdModifierTitre_Click cmdModifierTitre{base,          etats.ajout, film,
                                                   choixFonction, modesAjout,  machine.dialogues};
+    RaccourcisClavier raccourcis{
+        {etats.fonctions, etats.panneaux, etats.fiche, etats.ajout, film, etats.demandes},
+        {choixFonction, modesAjout, cmdModifierTitre, suppressionTitre, afficheVolet, afficheAccueil},
+        machine.dialogues};
     Demarrage demarrage{etats,    chemins,           extensions,
                         instance, machine.dialogues, {option3, ouvertureBase, choixTri, choixZone, *this}};
     Arret arret{etats, chemins, extensions, base, machine.dialogues};

@@ -238,6 +238,7 @@ void Session::cmdSupprInfosPerso_Click() {
 
 void Session::Command13_Click(int indice) {
     m_rouages->modesAjout.Command13_Click(indice);
+    m_rouages->raccourcis.retientSaisie();
 }
 
 void Session::cmdParcourir2_Click() {
@@ -249,11 +250,14 @@ void Session::cmdAjoutAuto_Click() {
 }
 
 void Session::cmdAjoutFilm_Click() {
+    const long avant = m_rouages->base.films.RecordCount();
     m_rouages->cmdAjoutFilm();
+    if (m_rouages->base.films.RecordCount() > avant) m_rouages->raccourcis.retientSaisie();
 }
 
 void Session::cmdModifierTitre_Click() {
     m_rouages->cmdModifierTitre();
+    m_rouages->raccourcis.retientSaisie();
 }
 
 void Session::ModifieFilm_Click() {
@@ -318,6 +322,22 @@ void Session::RenommeSupportFilms_Click() {
 
 void Session::cmdPonctuation_Click() {
     m_rouages->correctionTitres.cmdPonctuation_Click();
+}
+
+void Session::QuittePanneau() {
+    m_rouages->raccourcis.QuittePanneau();
+}
+
+void Session::SaisieManuelle() {
+    m_rouages->raccourcis.SaisieManuelle();
+}
+
+void Session::ModifieFilmAffiche() {
+    m_rouages->raccourcis.ModifieFilmAffiche();
+}
+
+void Session::SupprimeFilmAffiche() {
+    m_rouages->raccourcis.SupprimeFilmAffiche();
 }
 
 }  // namespace app

@@ -123,6 +123,12 @@ class Session {
     void RenommeSupportFilms_Click();
     void cmdPonctuation_Click();
 
+    // What keys do beside the buttons, on what is seen.
+    void QuittePanneau();
+    void SaisieManuelle();
+    void ModifieFilmAffiche();
+    void SupprimeFilmAffiche();
+
   private:
     struct Rouages;  // the base, the paths and the commands
     std::unique_ptr<Rouages> m_rouages;
