@@ -117,7 +117,35 @@ void VueTitres::keyPressEvent(QKeyEvent* evenement) {
     if (apres.isValid() && apres != avant) emit noeudChoisi(ModeleArbre::noeud(apres));
 }
 
+// The node whose check box is there. A tick is no click: it neither selects the node nor shows its sheet.
+QModelIndex VueTitres::caseSous(const QMouseEvent& evenement) const {
+    const QModelIndex index = indexAt(evenement.position().toPoint());
+    if (evenement.button() != Qt::LeftButton || !(index.flags() & Qt::ItemIsUserCheckable)) return {};
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    option.rect = visualRect(index);
+    option.features |= QStyleOptionViewItem::HasCheckIndicator;
+    const QRect place = style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, this);
+    return place.adjusted(-3, -3, 3, 3).contains(evenement.position().toPoint()) ? index : QModelIndex();
+}
+
+void VueTitres::mousePressEvent(QMouseEvent* evenement) {
+    m_casePressee = caseSous(*evenement);
+    if (!m_casePressee.isValid()) QTreeView::mousePressEvent(evenement);
+}
+
+void VueTitres::mouseDoubleClickEvent(QMouseEvent* evenement) {
+    m_casePressee = caseSous(*evenement);
+    if (!m_casePressee.isValid()) QTreeView::mouseDoubleClickEvent(evenement);
+}
+
 void VueTitres::mouseReleaseEvent(QMouseEvent* evenement) {
+    if (const QModelIndex pressee = std::exchange(m_casePressee, QPersistentModelIndex()); pressee.isValid()) {
+        const bool cochee = pressee.data(Qt::CheckStateRole).value<Qt::CheckState>() == Qt::Checked;
+        if (caseSous(*evenement) == pressee)
+            m_modele.setData(pressee, cochee ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+        return;
+    }
     QTreeView::mouseReleaseEvent(evenement);
     if (evenement->button() != Qt::RightButton) return;
     const QModelIndex index = indexAt(evenement->position().toPoint());

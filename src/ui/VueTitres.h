@@ -25,6 +25,8 @@ class VueTitres final : public QTreeView {
 
   protected:
     void keyPressEvent(QKeyEvent* evenement) override;
+    void mousePressEvent(QMouseEvent* evenement) override;
+    void mouseDoubleClickEvent(QMouseEvent* evenement) override;
     void mouseReleaseEvent(QMouseEvent* evenement) override;
     void contextMenuEvent(QContextMenuEvent* evenement) override;
     void paintEvent(QPaintEvent* evenement) override;
@@ -33,11 +35,13 @@ class VueTitres final : public QTreeView {
     class LienArbre;
 
     void clique(const QModelIndex& index);
+    [[nodiscard]] QModelIndex caseSous(const QMouseEvent& evenement) const;
     void basculeGroupe(const QModelIndex& index);
     void montreNoeud(int indice);
 
     ModeleArbre m_modele;
     std::set<QString> m_ouverts;  // the texts of the open headings
+    QPersistentModelIndex m_casePressee;
     bool m_peinte = false;
 };
 
