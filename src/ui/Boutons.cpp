@@ -1,6 +1,7 @@
 #include "ui/Boutons.h"
 
 #include "ui/Couleurs.h"
+#include "ui/Infobulles.h"
 #include "ui/Traits.h"
 
 #include <QHelpEvent>
@@ -85,11 +86,11 @@ void BoutonLien::paintEvent(QPaintEvent*) {
 }
 
 bool BoutonLien::event(QEvent* evenement) {
-    if (evenement->type() != QEvent::ToolTip || !toolTip().isEmpty() || width() >= sizeHint().width())
-        return QAbstractButton::event(evenement);
+    if (evenement->type() != QEvent::ToolTip || width() >= sizeHint().width()) return QAbstractButton::event(evenement);
     QString entier = text();
     entier.replace(QLatin1String("&&"), QLatin1String("&"));
-    QToolTip::showText(static_cast<QHelpEvent*>(evenement)->globalPos(), entier.toHtmlEscaped(), this);
+    if (!toolTip().isEmpty()) entier += QLatin1Char('\n') + toolTip();
+    QToolTip::showText(static_cast<QHelpEvent*>(evenement)->globalPos(), enInfobulle(entier), this);
     return true;
 }
 

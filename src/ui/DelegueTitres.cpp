@@ -1,6 +1,7 @@
 #include "ui/DelegueTitres.h"
 
 #include "ui/Couleurs.h"
+#include "ui/Infobulles.h"
 #include "ui/ModeleArbre.h"
 
 #include <QAbstractItemView>
@@ -72,7 +73,7 @@ bool DelegueTitres::helpEvent(QHelpEvent* evenement, QAbstractItemView* vue, con
     initStyleOption(&ligne, index);
     const int place = index.data(ModeleArbre::EstGroupe).toBool() ? largeurDuNombre(option, index) : 0;
     const bool coupe = ligne.fontMetrics.horizontalAdvance(ligne.text) + 12 > option.rect.width() - place;
-    QToolTip::showText(evenement->globalPos(), coupe ? ligne.text.toHtmlEscaped() : QString(), vue);
+    QToolTip::showText(evenement->globalPos(), coupe ? enInfobulle(ligne.text) : QString(), vue);
     return true;
 }
 

@@ -1,6 +1,7 @@
 #include "ui/Etiquettes.h"
 
 #include "ui/Couleurs.h"
+#include "ui/Infobulles.h"
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -124,8 +125,7 @@ bool Etiquette::event(QEvent* evenement) {
     if (evenement->type() != QEvent::ToolTip || !toolTip().isEmpty()) return QLabel::event(evenement);
     const bool coupe = !buddy() && (lignes(contentsRect().width()).coupees ||
                                     hauteur(lignes(contentsRect().width()).textes.size()) > height());
-    QToolTip::showText(static_cast<QHelpEvent*>(evenement)->globalPos(), coupe ? text().toHtmlEscaped() : QString(),
-                       this);
+    QToolTip::showText(static_cast<QHelpEvent*>(evenement)->globalPos(), coupe ? enInfobulle(text()) : QString(), this);
     return true;
 }
 

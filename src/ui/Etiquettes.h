@@ -47,6 +47,7 @@ class TitreDeSection final : public Etiquette {
     Q_OBJECT
   public:
     explicit TitreDeSection(double facteur = 1.08, QWidget* parent = nullptr);
+    [[nodiscard]] bool estVide() const { return texteAffiche().isEmpty(); }
 
   protected:
     QString texteAffiche() const override;

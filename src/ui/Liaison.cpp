@@ -69,6 +69,7 @@ void montreTexte(const ecran::ZoneTexte& etat, const ecran::ZoneTexte& ancien, Z
 
 void montre(const ecran::ZoneTexte& etat, const ecran::ZoneTexte& ancien, QLineEdit& widget, Temoin& temoin) {
     montreTexte(etat, ancien, widget, &QLineEdit::text, &QLineEdit::setText, temoin);
+    if (!widget.hasFocus()) widget.setCursorPosition(0);  // a long text shows its beginning
 }
 
 void montre(const ecran::ZoneTexte& etat, const ecran::ZoneTexte& ancien, QPlainTextEdit& widget, Temoin& temoin) {
@@ -104,7 +105,10 @@ void montre(const ecran::Liste& etat, const ecran::Liste& ancien, QComboBox& wid
         widget.addItems(textes);
     }
     widget.setCurrentIndex(etat.ListIndex);
-    if (widget.isEditable()) widget.setEditText(qt(etat.Text));
+    if (widget.isEditable()) {
+        widget.setEditText(qt(etat.Text));
+        if (!widget.hasFocus()) widget.lineEdit()->setCursorPosition(0);
+    }
     temoin = {widget.currentText(), widget.currentIndex()};
 }
 
