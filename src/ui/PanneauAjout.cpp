@@ -14,6 +14,9 @@ PanneauAjout::PanneauAjout(const Atelier& atelier, QWidget* parent) : QWidget(pa
     nomme(this, "frameDivers");
     auto* intitule = nomme(new TitreDeSection(1.5), "Label5");
     atelier.liaison.lie(atelier.etats().ajout.Label5, intitule);
+    const auto suis = [intitule] { intitule->setVisible(!intitule->estVide()); };
+    suis();
+    atelier.liaison.apresEcriture(suis);
     auto* boite = colonne(kGrand);
     boite->addLayout(manieres(atelier));
     boite->addWidget(intitule);
@@ -26,7 +29,7 @@ PanneauAjout::PanneauAjout(const Atelier& atelier, QWidget* parent) : QWidget(pa
 QLayout* PanneauAjout::manieres(const Atelier& atelier) {
     const std::pair<QString, QString> textes[] = {
         {tr("Ajout auto&matique"), tr("Ajouter des fiches toutes prêtes")},
-        {tr("Saisie ma&nuelle"), tr("Écrire soi-même la fiche d'un film")},
+        {tr("Saisie ma&nuelle"), tr("Écrire soi-même la fiche d'un film (Ctrl+N)")},
         {tr("&Importer une base"), tr("Reprendre les films d'une installation précédente")}};
     auto* boite = rangee({}, kSerre);
     for (std::size_t i = 0; i < 3; ++i) {

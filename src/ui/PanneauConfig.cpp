@@ -29,7 +29,7 @@ QLayout* PanneauConfig::images(const Atelier& atelier) {
         option->setToolTip(tr("Où vont les affiches des nouveaux films"));
         atelier.liaison.lie(stockage.Option3[i], option);
         atelier.auClic(option, &app::Session::Option3_Click);
-        boite->addWidget(option);
+        boite->addWidget(option, 0, Qt::AlignLeft);
     }
     auto* dossier = nomme(new QLineEdit, "Text4");
     auto* parcourir = bouton("cmdParcourir", tr("Par&courir…"), tr("Choisir le dossier des images"));
@@ -81,7 +81,7 @@ QLayout* PanneauConfig::programme(const Atelier& atelier) {
     atelier.liaison.lie(fonctions.Label4, page);
     atelier.auClic(page, &app::Session::Label4_Click);
     auto* boite = section(tr("Internet"), tr("Le téléchargement des fiches est confié à un programme compagnon."));
-    boite->addWidget(connexion);
+    boite->addWidget(connexion, 0, Qt::AlignLeft);
     boite->addLayout(aGauche({page}));
     return boite;
 }

@@ -7,6 +7,7 @@
 #include "ui/VueAffiche.h"
 
 #include <QResizeEvent>
+#include <QScrollArea>
 #include <QTextEdit>
 
 namespace ui {
@@ -14,7 +15,7 @@ namespace ui {
 namespace {
 
 QWidget* page(std::initializer_list<QWidget*> cadres) {
-    auto* boite = colonne(kGrand);
+    auto* boite = colonne(kMoyen);
     for (QWidget* cadre : cadres)
         boite->addWidget(cadre);
     auto* resultat = new QWidget;
@@ -22,14 +23,29 @@ QWidget* page(std::initializer_list<QWidget*> cadres) {
     return resultat;
 }
 
+// Where the window is low the page scrolls rather than being squeezed.
+QScrollArea* defilante(QWidget* page) {
+    auto* zone = new QScrollArea;
+    zone->setWidget(page);
+    zone->setWidgetResizable(true);
+    zone->setFrameShape(QFrame::NoFrame);
+    zone->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    zone->setFocusPolicy(Qt::NoFocus);
+    zone->setMinimumWidth(page->minimumSizeHint().width());
+    zone->viewport()->setAutoFillBackground(false);
+    page->setAutoFillBackground(false);
+    return zone;
+}
+
 }  // namespace
 
 PanneauFiche::PanneauFiche(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameFiche");
     auto* generalites = page({faits(), resume()});
-    auto* autres = page({new PanneauPossession(m_atelier), new PanneauActions(m_atelier)});
+    auto* contenu = page({new PanneauPossession(m_atelier), new PanneauActions(m_atelier)});
     static_cast<QVBoxLayout*>(generalites->layout())->setStretch(1, 1);
-    static_cast<QVBoxLayout*>(autres->layout())->addStretch(1);
+    static_cast<QVBoxLayout*>(contenu->layout())->addStretch(1);
+    auto* autres = defilante(contenu);
 
     auto* pages = new QHBoxLayout;
     pages->setSpacing(kLarge);
@@ -177,7 +193,7 @@ QWidget* PanneauFiche::resume() {
 void PanneauFiche::resizeEvent(QResizeEvent* evenement) {
     constexpr int kAutourDeLAffiche = 190;  // header, rating, margins
     const QSize taille = evenement->size();
-    m_affiche->tiensDans({std::min(taille.width() * 32 / 100, 420), taille.height() - kAutourDeLAffiche});
+    m_affiche->tiensDans({taille.width() * 32 / 100, taille.height() - kAutourDeLAffiche});
 }
 
 }  // namespace ui

@@ -1,5 +1,6 @@
 #include "ui/PanneauMultiSuppression.h"
 
+#include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/Sections.h"
 
@@ -19,9 +20,10 @@ PanneauMultiSuppression::PanneauMultiSuppression(const Atelier& atelier, QWidget
         option->setToolTip(tr("Montre ou cache les cases à cocher de la liste"));
         atelier.liaison.lie(fonctions.Option4[i], option);
         atelier.auClic(option, &app::Session::Option4_Click);
-        boite->addWidget(option);
+        boite->addWidget(option, 0, Qt::AlignLeft);
     }
-    auto* supprimer = bouton("cmdSupprTitresSelect", tr("S&uppression…"), tr("Supprimer les films cochés"));
+    auto* supprimer =
+        bouton<BoutonAccent>("cmdSupprTitresSelect", tr("S&uppression…"), tr("Supprimer les films cochés"));
     atelier.liaison.lie(fonctions.cmdSupprTitresSelect, supprimer);
     atelier.auClic(supprimer, &app::Session::cmdSupprTitresSelect_Click);
     boite->addLayout(aGauche({supprimer}));

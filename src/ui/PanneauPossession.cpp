@@ -10,7 +10,7 @@ namespace ui {
 
 PanneauPossession::PanneauPossession(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameAutresInfos", 0);
-    auto* boite = colonne(kMoyen);
+    auto* boite = colonne(kPetit);
     boite->addWidget((new Etiquette(tr("Mon exemplaire")))->avecPolice(1.08, QFont::DemiBold));
     boite->addLayout(choix());
     boite->addWidget(exemplaire());
@@ -32,6 +32,9 @@ QLayout* PanneauPossession::choix() {
     m_atelier.auClic(nonPossede, &app::Session::Option1_Click);
     m_atelier.auClic(possede, &app::Session::Option1_Click);
     m_atelier.auClic(valider, &app::Session::cmdValiderInfosPossessions_Click);
+    QSizePolicy politique = valider->sizePolicy();
+    politique.setRetainSizeWhenHidden(true);  // what is below stays in its place while the user types
+    valider->setSizePolicy(politique);
     auto* boite = rangee({nonPossede, possede}, kGrand);
     boite->addStretch();
     boite->addWidget(valider);
@@ -108,8 +111,8 @@ QLayout* PanneauPossession::fichier(std::size_t indice) {
 PanneauActions::PanneauActions(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
     nomme(this, "frameAutresInfos", 1);
     auto& fiche = atelier.etats().fiche;
-    auto* modifier = bouton("cmdModifierTitre", tr("Mo&difier…"), tr("Corriger la fiche du film"));
-    auto* supprimer = bouton("cmdSupprimerTitre", tr("Suppr&imer…"), tr("Supprimer le film de la base"));
+    auto* modifier = bouton("cmdModifierTitre", tr("Mo&difier…"), tr("Corriger la fiche du film (F2)"));
+    auto* supprimer = bouton("cmdSupprimerTitre", tr("Suppr&imer…"), tr("Supprimer le film de la base (Suppr)"));
     auto* texte = bouton("cmdCreeFichierTxt", tr("Fiche te&xte…"), tr("Écrire la fiche dans un fichier texte"));
     atelier.liaison.lie(fiche.cmdModifierTitre, modifier);
     atelier.liaison.lie(fiche.cmdSupprimerTitre, supprimer);
@@ -118,7 +121,6 @@ PanneauActions::PanneauActions(const Atelier& atelier, QWidget* parent) : QWidge
     atelier.auClic(supprimer, &app::Session::cmdSupprimerTitre_Click);
     auto* boite = colonne(kPetit);
     boite->addWidget(filetHorizontal());
-    boite->addWidget((new Etiquette(tr("La fiche")))->avecPolice(1.08, QFont::DemiBold));
     auto* boutons = rangee({modifier, supprimer, texte});
     boutons->addStretch();
     boite->addLayout(boutons);

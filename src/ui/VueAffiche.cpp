@@ -13,7 +13,7 @@ namespace ui {
 namespace {
 
 constexpr QSize kBoite{193, 297};  // 2895 by 4455 twips
-constexpr double kAgrandissementMax = 2.2;
+constexpr double kAgrandissementMax = 2.9;
 
 }  // namespace
 
