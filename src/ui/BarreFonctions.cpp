@@ -25,12 +25,12 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     version->setContentsMargins(0, 0, 0, kSerre);
     atelier.liaison.lie(atelier.etats().fonctions.Label13, version);
 
-    auto* recherche =
-        fonction("cmdFonctionRecherche", tr("&Rechercher"), Pictogramme::Loupe, tr("Chercher des films dans la base"));
-    auto* ajout =
-        fonction("cmdAfficherFonctions", tr("&Ajouter"), Pictogramme::Plus, tr("Ajouter des films à la base"));
+    auto* recherche = fonction("cmdFonctionRecherche", tr("&Rechercher"), Pictogramme::Loupe,
+                               tr("Chercher des films dans la base (Ctrl+F ; Échap pour revenir)"));
+    auto* ajout = fonction("cmdAfficherFonctions", tr("&Ajouter"), Pictogramme::Plus,
+                           tr("Ajouter des films à la base (Ctrl+N pour une saisie ; Échap pour revenir)"));
     auto* outils = fonction("cmdConfigurer", tr("&Outils"), Pictogramme::Reglages,
-                            tr("Entretenir la base et régler le programme"));
+                            tr("Entretenir la base et régler le programme (Échap pour revenir)"));
     auto* site = fonction("Image3", tr("MovieCovers"), Pictogramme::Lien, tr("Ouvrir le site de MovieCovers"));
     auto* aide = fonction("cmdAide", tr("À &propos"), Pictogramme::Aide, tr("À propos d'Ambrelis"));
     auto* sortie = fonction("cmdStop", tr("&Quitter"), Pictogramme::Sortie, tr("Enregistrer les réglages et quitter"));

@@ -6,6 +6,7 @@
 #include "ui/EcranQt.h"
 #include "ui/Icones.h"
 #include "ui/PanneauAccueil.h"
+#include "ui/Infobulles.h"
 #include "ui/PanneauFiche.h"
 #include "ui/PanneauFonctions.h"
 #include "ui/PanneauListe.h"
@@ -54,7 +55,7 @@ class FenetrePrincipale::LienTaille final : public Lien {
     QSize m_montree{0, 0};
 };
 
-FenetrePrincipale::FenetrePrincipale(const Atelier& atelier) : m_atelier(atelier) {
+FenetrePrincipale::FenetrePrincipale(const Atelier& atelier) : m_atelier(atelier), m_raccourcis(atelier, this) {
     nomme(this, "frmPrincipal");
     setWindowTitle(QStringLiteral("Ambrelis"));
     setMinimumSize(kTailleMinimale);
@@ -97,6 +98,8 @@ void FenetrePrincipale::completePanneaux() {
     m_droite->addWidget(new PanneauFonctions(m_atelier), 1);
     m_droite->addWidget(new PanneauMultiSuppression(m_atelier), 1);
     setWindowIcon(icone(Pictogramme::Clap));
+    for (QLineEdit* zone : m_droite->parentWidget()->findChildren<QLineEdit*>())
+        new InfobulleEntiere(zone);
     // The windows that follow the film; nothing opens them yet.
     auto* affiche = nomme(new QWidget(this, Qt::Window), "frmAffiche");
     auto* fichiers = nomme(new QWidget(this, Qt::Window), "frmFichiersFilm");
@@ -163,7 +166,7 @@ void FenetrePrincipale::keyPressEvent(QKeyEvent* evenement) {
     const bool valide = evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter;
     if (valide && m_parDefaut && m_parDefaut->isVisible() && m_parDefaut->isEnabled())
         m_parDefaut->click();
-    else
+    else if (!m_raccourcis.prends(*evenement))
         QWidget::keyPressEvent(evenement);
 }
 

@@ -2,6 +2,7 @@
 
 #include "ui/Atelier.h"
 #include "ui/MenusArbre.h"
+#include "ui/Raccourcis.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -42,6 +43,7 @@ class FenetrePrincipale final : public QWidget {
     const Atelier m_atelier;
     PanneauListe* m_liste = nullptr;
     QVBoxLayout* m_droite = nullptr;
+    const Raccourcis m_raccourcis;
     std::optional<MenusArbre> m_menus;  // with the late panels
     QPoint m_endroitMenu;
     QPointer<QPushButton> m_parDefaut;

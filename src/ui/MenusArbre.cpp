@@ -31,8 +31,8 @@ QMenu* menu(const Atelier& atelier, QWidget* fenetre, const char* nom, std::init
 
 MenusArbre::MenusArbre(const Atelier& atelier, QWidget* fenetre)
     : m_film(menu(atelier, fenetre, "MenuClicDroitFilm",
-                  {{"ModifieFilm", QWidget::tr("&Modifier le film…"), &app::Session::ModifieFilm_Click},
-                   {"SupprFilm", QWidget::tr("&Supprimer le film…"), &app::Session::SupprFilm_Click},
+                  {{"ModifieFilm", QWidget::tr("&Modifier le film…\tF2"), &app::Session::ModifieFilm_Click},
+                   {"SupprFilm", QWidget::tr("&Supprimer le film…\tSuppr"), &app::Session::SupprFilm_Click},
                    {"GenereFichierTxt", QWidget::tr("&Générer un fichier texte…"), nullptr}})),
       m_support(menu(
           atelier, fenetre, "MenuClicDroitSupport",

@@ -15,8 +15,8 @@ PanneauRecherche::PanneauRecherche(const Atelier& atelier, QWidget* parent) : QW
     auto* texte = nomme(new QLineEdit, "Text2");
     texte->setClearButtonEnabled(true);
     texte->setToolTip(tr("Le texte à trouver ; majuscules et minuscules sont confondues"));
-    auto* lancer =
-        bouton<BoutonAccent>("cmdRecherche", tr("&Lancer la recherche"), tr("Montrer les films trouvés dans la liste"));
+    auto* lancer = bouton<BoutonAccent>("cmdRecherche", tr("&Lancer la recherche"),
+                                        tr("Montrer les films trouvés dans la liste (Entrée)"));
     atelier.liaison.lie(recherche.Text2, texte);
     atelier.liaison.lie(recherche.cmdRecherche, lancer);
     atelier.auClic(lancer, &app::Session::cmdRecherche_Click);

@@ -5,6 +5,7 @@
 #include "ui/Sections.h"
 
 #include <QCompleter>
+#include <QKeyEvent>
 #include <QPlainTextEdit>
 
 namespace ui {
@@ -16,7 +17,8 @@ PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(
     resume->setTabChangesFocus(true);
     resume->setMinimumHeight(110);
     auto* image = nomme((new Etiquette)->avecTon(Ton::Discret), "lblImage");
-    auto* ajouter = bouton<BoutonAccent>("cmdAjoutFilm", tr("Ajouter"), tr("Enregistrer la fiche"));
+    auto* ajouter = m_ajouter =
+        bouton<BoutonAccent>("cmdAjoutFilm", tr("Ajouter"), tr("Enregistrer la fiche (Entrée ; Échap pour revenir)"));
     m_atelier.liaison.lie(ajout.txtResume, resume);
     m_atelier.liaison.lie(ajout.lblImage, image);
     m_atelier.liaison.lie(ajout.cmdAjoutFilm, ajouter);
@@ -41,6 +43,13 @@ PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(
     for (int c = 0; c < 6; ++c)
         grille->setColumnStretch(c, 1);
     m_atelier.liaison.lie(ajout.Frame13, this);
+}
+
+// Enter in a one-line field stores the sheet, as it starts the search in the search panel.
+void PanneauSaisie::keyPressEvent(QKeyEvent* evenement) {
+    const bool valide = evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter;
+    if (!valide) return QWidget::keyPressEvent(evenement);
+    m_ajouter->click();
 }
 
 QWidget* PanneauSaisie::texte(std::size_t indice) {

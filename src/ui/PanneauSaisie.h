@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+class QPushButton;
+
 namespace ui {
 
 // The manual entry of a sheet.
@@ -12,11 +14,15 @@ class PanneauSaisie final : public QWidget {
   public:
     explicit PanneauSaisie(const Atelier& atelier, QWidget* parent = nullptr);
 
+  protected:
+    void keyPressEvent(QKeyEvent* evenement) override;
+
   private:
     [[nodiscard]] QWidget* texte(std::size_t indice);
     [[nodiscard]] QWidget* liste(const char* nom, ecran::Liste& etat);
 
     const Atelier m_atelier;
+    QPushButton* m_ajouter = nullptr;
 };
 
 }  // namespace ui

@@ -38,12 +38,13 @@ struct Film {
 struct BoitesAccommodantes final : dialogues::Dialogues {
     std::vector<std::string> messages;
     std::string dossier;
+    std::string reponse = "DVD";  // to what is asked for in writing
 
     int MsgBox(const std::string& texte, int style, const std::string&) override {
         messages.push_back(texte);
         return style == dialogues::kQuestion ? dialogues::kOui : dialogues::kOk;
     }
-    std::string InputBox(const std::string&, const std::string&, const std::string&) override { return "DVD"; }
+    std::string InputBox(const std::string&, const std::string&, const std::string&) override { return reponse; }
     std::string choisitFichier(const dialogues::DemandeFichier&) override { return ""; }
     std::string choisitDossier(const std::string&, const std::string&) override { return dossier; }
 };
