@@ -19,6 +19,7 @@ void ModesAjout::ouvreAjoutAutomatique() {
     m_ajout.frameAjoutAuto.Visible = true;
     m_ajout.Label5.Caption = "Ajout automatique de fiches de films";
     m_demandes.focus = "txtRechInternet";
+    prepareLesVerifications();
 }
 
 void ModesAjout::ouvreSaisie() {
@@ -29,7 +30,11 @@ void ModesAjout::ouvreSaisie() {
     m_ajout.lblImage.Caption.clear();
     m_demandes.focus = "Text3_0";
     m_listes.remplit();
-    // The first look-up in a base reads the whole catalogue: better while the page opens than after "Ajouter".
+    prepareLesVerifications();
+}
+
+// The first look-up in a base reads the whole catalogue: better while the page opens than after "Ajouter".
+void ModesAjout::prepareLesVerifications() {
     static_cast<void>(m_doublons.TitreDejaExistant("", ""));
 }
 

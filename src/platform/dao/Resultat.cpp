@@ -15,6 +15,11 @@ namespace dao::interne {
 
 namespace {
 
+struct HachageDeTexte {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view texte) const { return hache(texte); }
+};
+
 class Execution {
   public:
     Execution(Connexion& connexion, const Plan& plan) : m_connexion(connexion), m_plan(plan) {
@@ -89,16 +94,18 @@ class Execution {
 
     // Rows of the same letters are dropped before anything is worked out for them; the lowest row id stands for all.
     bool dejaVue(const Balayage& balayage) {
-        std::string lettres;
+        m_lettres.clear();
         std::string tampon;
         for (const ValeurVue& valeur : balayage.valeurs()) {
             const std::string_view texte = texteDe(valeur, tampon);
-            lettres += valeur.estNulle() ? "n" : std::to_string(texte.size()) + ":";
-            lettres += texte;
+            const std::size_t taille = valeur.estNulle() ? std::string::npos : texte.size();
+            m_lettres.append(reinterpret_cast<const char*>(&taille), sizeof taille).append(texte);
         }
-        const auto [trouvee, nouvelle] =
-            m_vues.try_emplace(std::move(lettres), static_cast<std::uint32_t>(m_resultat.magasins[0].taille()));
-        if (nouvelle) return false;
+        const auto trouvee = m_vues.find(std::string_view(m_lettres));
+        if (trouvee == m_vues.end()) {
+            m_vues.emplace(m_lettres, static_cast<std::uint32_t>(m_resultat.magasins[0].taille()));
+            return false;
+        }
         Magasin& magasin = m_resultat.magasins[0];
         if (balayage.id() < magasin.id(trouvee->second)) {
             magasin.change(trouvee->second, balayage.id());
@@ -246,7 +253,8 @@ class Execution {
     std::vector<std::uint32_t> m_gauches;
     std::vector<std::uint32_t> m_droites;
     std::uint32_t m_ligneDeGauche = kSansLigne;
-    std::unordered_map<std::string, std::uint32_t> m_vues;
+    std::unordered_map<std::string, std::uint32_t, HachageDeTexte, std::equal_to<>> m_vues;
+    std::string m_lettres;  // of the row being looked up
     std::string m_cle;
     mutable std::string m_longue;
 };

@@ -17,7 +17,7 @@ CREATE TABLE Films (id INTEGER PRIMARY KEY, Titre TEXT, Realisateur TEXT, Annee 
   Acteurs TEXT, Resume TEXT, Production TEXT, Note INTEGER, DateAjout TEXT, Affiche BLOB);
 CREATE TABLE Personnel (id INTEGER PRIMARY KEY, Titre2 TEXT, Realisateur2 TEXT, Rangement TEXT, Fichier1 TEXT, Fichier2 TEXT,
   Fichier3 TEXT, Pret TEXT, Reserve TEXT, Date TEXT, Divers TEXT, Support TEXT);
-CREATE INDEX FilmsListe ON Films (Titre, Realisateur, Annee, Genre, Origine, Duree, Note);
+CREATE INDEX FilmsListe ON Films (Titre, Realisateur, Annee, Genre, Origine, Duree, Note, DateAjout);
 CREATE INDEX PersonnelListe ON Personnel (Titre2, Realisateur2, Pret, Reserve, Support))";
 
 using Champs = std::vector<std::pair<std::string, dao::Valeur>>;
