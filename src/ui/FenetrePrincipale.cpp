@@ -4,9 +4,10 @@
 #include "ui/BarreFonctions.h"
 #include "ui/Composition.h"
 #include "ui/EcranQt.h"
+#include "ui/FenetreAffiche.h"
 #include "ui/Icones.h"
-#include "ui/PanneauAccueil.h"
 #include "ui/Infobulles.h"
+#include "ui/PanneauAccueil.h"
 #include "ui/PanneauFiche.h"
 #include "ui/PanneauFonctions.h"
 #include "ui/PanneauListe.h"
@@ -97,14 +98,13 @@ void FenetrePrincipale::completePanneaux() {
     m_droite->addWidget(new PanneauRecherche(m_atelier), 1);
     m_droite->addWidget(new PanneauFonctions(m_atelier), 1);
     m_droite->addWidget(new PanneauMultiSuppression(m_atelier), 1);
-    setWindowIcon(icone(Pictogramme::Clap));
     for (QLineEdit* zone : m_droite->parentWidget()->findChildren<QLineEdit*>())
         new InfobulleEntiere(zone);
-    // The windows that follow the film; nothing opens them yet.
-    auto* affiche = nomme(new QWidget(this, Qt::Window), "frmAffiche");
+    setWindowIcon(icone(Pictogramme::Clap));
+    // The windows that follow the film. The viewer is composed when it first opens; nothing opens the other yet.
+    new FenetreAffiche(m_atelier, this);
     auto* fichiers = nomme(new QWidget(this, Qt::Window), "frmFichiersFilm");
     m_atelier.liaison.apresEcriture([=, fiche = &m_atelier.etats().fiche] {
-        affiche->setWindowTitle(QString::fromStdString(fiche->captionAffiche));
         fichiers->setWindowTitle(QString::fromStdString(fiche->captionFichiers));
     });
 }

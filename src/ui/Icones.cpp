@@ -71,6 +71,15 @@ QPainterPath trace(Pictogramme pictogramme) {
             t.moveTo(9, 9), t.lineTo(15, 15);
             t.moveTo(15, 9), t.lineTo(9, 15);
             break;
+        case Pictogramme::Enregistre:
+            t.moveTo(12, 4), t.lineTo(12, 15);
+            t.moveTo(7.5, 10.5), t.lineTo(12, 15), t.lineTo(16.5, 10.5);
+            t.moveTo(4, 16), t.lineTo(4, 20), t.lineTo(20, 20), t.lineTo(20, 16);
+            break;
+        case Pictogramme::Remplace:
+            t.moveTo(4, 8.5), t.lineTo(19, 8.5), t.moveTo(15.2, 4.7), t.lineTo(19, 8.5), t.lineTo(15.2, 12.3);
+            t.moveTo(20, 16), t.lineTo(5, 16), t.moveTo(8.8, 12.2), t.lineTo(5, 16), t.lineTo(8.8, 19.8);
+            break;
         case Pictogramme::Clap:
             t.addRoundedRect(QRectF(3, 10, 18, 10.5), 1.2, 1.2);
             t.moveTo(3.2, 9.6), t.lineTo(2.5, 6.4), t.lineTo(19.8, 2.6), t.lineTo(20.5, 5.8), t.closeSubpath();

@@ -6,7 +6,21 @@ class QPainter;
 
 namespace ui {
 
-enum class Pictogramme { Loupe, Plus, Reglages, Aide, Sortie, Lien, Etoile, Clap, Question, Attention, Erreur };
+enum class Pictogramme {
+    Loupe,
+    Plus,
+    Reglages,
+    Aide,
+    Sortie,
+    Lien,
+    Etoile,
+    Clap,
+    Question,
+    Attention,
+    Erreur,
+    Enregistre,
+    Remplace
+};
 
 // Line drawings in the palette's colours, followed when the palette changes.
 [[nodiscard]] QIcon icone(Pictogramme pictogramme);

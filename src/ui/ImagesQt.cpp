@@ -3,6 +3,9 @@
 #include <QBuffer>
 #include <QFile>
 #include <QImageReader>
+#include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace ui {
 
@@ -10,6 +13,7 @@ namespace {
 
 constexpr qint64 kOctetsMax = 64 << 20;    // of a picture file
 constexpr qint64 kPixelsMax = 64'000'000;  // beyond, a picture is not decoded
+constexpr double kPixelsEntiere = 16e6;    // decoded for the viewer
 constexpr int kMemoireMax = 256;           // megabytes for one decoding
 
 bool estUnFormatDePhoto(const QByteArray& format) {
@@ -43,6 +47,8 @@ void ImagesQt::vide() {
     m_octets.clear();
     m_decodee = {};
     m_decodeePour = {};
+    m_entiere = {};
+    m_entiereEssayee = false;
 }
 
 const QPixmap& ImagesQt::affiche(const QSize& pixels) {
@@ -50,22 +56,33 @@ const QPixmap& ImagesQt::affiche(const QSize& pixels) {
     return m_decodee;
 }
 
+const QPixmap& ImagesQt::entiere() {
+    if (estVide() || std::exchange(m_entiereEssayee, true)) return m_entiere;
+    const double surface = double{1} * m_taille.width() * m_taille.height();
+    m_entiere = decodee(m_taille * std::min(1.0, std::sqrt(kPixelsEntiere / surface)));
+    return m_entiere;
+}
+
 bool ImagesQt::decode(const QSize& pixels) {
+    m_decodee = decodee(pixels);
+    m_decodeePour = pixels;
+    return !m_decodee.isNull();
+}
+
+QPixmap ImagesQt::decodee(const QSize& pixels) {
     QImageReader::setAllocationLimit(kMemoireMax);
     QBuffer tampon(&m_octets);
     QImageReader lecteur(&tampon);  // a buffer has no name: the bytes alone tell the format
     lecteur.setAutoTransform(true);
     const QSize brute = lecteur.size();
-    if (!estUnFormatDePhoto(lecteur.format()) || brute.isEmpty()) return false;
-    if (qint64{brute.width()} * brute.height() > kPixelsMax) return false;
+    if (!estUnFormatDePhoto(lecteur.format()) || brute.isEmpty()) return {};
+    if (qint64{brute.width()} * brute.height() > kPixelsMax) return {};
 
     const bool couchee = estCouchee(lecteur);
     m_taille = couchee ? brute.transposed() : brute;
     const QSize cible = m_taille.scaled(pixels, Qt::KeepAspectRatio).expandedTo({1, 1});
     if (cible.width() < m_taille.width()) lecteur.setScaledSize(couchee ? cible.transposed() : cible);
-    m_decodee = QPixmap::fromImageReader(&lecteur);
-    m_decodeePour = pixels;
-    return !m_decodee.isNull();
+    return QPixmap::fromImageReader(&lecteur);
 }
 
 }  // namespace ui

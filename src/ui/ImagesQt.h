@@ -18,17 +18,23 @@ class ImagesQt final : public ecran::Images {
     [[nodiscard]] bool estVide() const { return m_octets.isEmpty(); }
     // The poster, filling `pixels` as far as its shape allows; never larger than it is.
     [[nodiscard]] const QPixmap& affiche(const QSize& pixels);
+    // The poster at its own size, upright; decoded when first asked for. One of many megapixels comes smaller, to be
+    // drawn enlarged: the memory it takes stays bounded.
+    [[nodiscard]] const QPixmap& entiere();
     // The size, in pixels of the screen, in which the window last showed a poster.
     void metTailleVoulue(const QSize& pixels) { m_voulue = pixels; }
 
   private:
     [[nodiscard]] bool decode(const QSize& pixels);
+    [[nodiscard]] QPixmap decodee(const QSize& pixels);
 
     QByteArray m_octets;  // of a picture that could be decoded, else empty
     QSize m_taille;       // of the picture, upright
     QSize m_voulue{193, 297};
     QPixmap m_decodee;
     QSize m_decodeePour;
+    QPixmap m_entiere;
+    bool m_entiereEssayee = false;
 };
 
 }  // namespace ui

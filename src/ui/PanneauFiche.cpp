@@ -110,7 +110,10 @@ QLayout* PanneauFiche::colonneAffiche() {
     m_affiche = new CadreAffiche(m_atelier.images);
     nomme(m_affiche->image(), "Image1", tr("Affiche du film"));
     nomme(m_affiche->statut(), "Label12");
-    auto* note = nomme((new Etiquette)->avecPolice(1.08, QFont::DemiBold), "lblNote");
+    m_affiche->image()->setToolTip(tr("Voir l'affiche en grand"));
+    connect(m_affiche->image(), &VueAffiche::cliquee, &m_atelier.commande,
+            [a = m_atelier] { a.commande.execute([s = &a.session] { s->Image1_Click(); }); });
+    auto* note = nomme((new Etiquette)->avecPolice(1.0, QFont::DemiBold), "lblNote");
     auto* noter = bouton("cmdModifieNote", tr("&Noter…"), tr("Donner une note de 1 à 10"));
     auto* fichiers = bouton("cmdFichiersFilm", tr("&Fichiers du film…"), tr("Ouvrir un des fichiers attachés au film"));
     m_atelier.liaison.ajoute(m_affiche->image()->lien(fiche.Image1));

@@ -5,6 +5,7 @@
 #include "ui/Icones.h"
 #include "ui/Traits.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -35,7 +36,10 @@ class VueAffiche::LienImage final : public Lien {
     ecran::Image m_montre;
 };
 
-VueAffiche::VueAffiche(ImagesQt& images, QWidget* parent) : QWidget(parent), m_images(images) {}
+VueAffiche::VueAffiche(ImagesQt& images, QWidget* parent) : QWidget(parent), m_images(images) {
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(Qt::PointingHandCursor);
+}
 
 std::unique_ptr<Lien> VueAffiche::lien(ecran::Image& etat) {
     return std::make_unique<LienImage>(etat, *this);
@@ -58,6 +62,23 @@ void VueAffiche::paintEvent(QPaintEvent*) {
     QPainter peintre(this);
     peintre.setRenderHint(QPainter::SmoothPixmapTransform);
     peintre.drawPixmap(zone.toAlignedRect(), affiche);
+    if (hasFocus()) peintContourDeFocus(peintre, rect(), accent(palette()));
+}
+
+void VueAffiche::mousePressEvent(QMouseEvent* evenement) {
+    evenement->setAccepted(evenement->button() == Qt::LeftButton);
+}
+
+void VueAffiche::mouseReleaseEvent(QMouseEvent* evenement) {
+    if (evenement->button() == Qt::LeftButton && rect().contains(evenement->pos())) emit cliquee();
+}
+
+void VueAffiche::keyPressEvent(QKeyEvent* evenement) {
+    const int touche = evenement->key();
+    if (touche == Qt::Key_Space || touche == Qt::Key_Return || touche == Qt::Key_Enter)
+        emit cliquee();
+    else
+        QWidget::keyPressEvent(evenement);
 }
 
 CadreAffiche::CadreAffiche(ImagesQt& images, QWidget* parent)

@@ -17,9 +17,15 @@ class VueAffiche final : public QWidget {
     VueAffiche(ImagesQt& images, QWidget* parent);
     [[nodiscard]] std::unique_ptr<Lien> lien(ecran::Image& etat);
 
+  signals:
+    void cliquee();
+
   protected:
     void paintEvent(QPaintEvent* evenement) override;
     void resizeEvent(QResizeEvent* evenement) override;
+    void mousePressEvent(QMouseEvent* evenement) override;
+    void mouseReleaseEvent(QMouseEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
 
   private:
     class LienImage;

@@ -1,0 +1,161 @@
+#include "ProgrammeDEssai.h"
+#include "ui/FenetreAffiche.h"
+
+#include <QElapsedTimer>
+#include <QScreen>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <algorithm>
+
+namespace {
+
+using essais::ProgrammeDEssai;
+
+class Affiche : public ::testing::Test {
+  protected:
+    ProgrammeDEssai essai;
+
+    void ouvre(const std::vector<essais::Film>& films) {
+        essai.demarre();
+        essai.importe(films);
+        essai.cliqueTitre(films.front().titre);
+        essai.clique("Image1");
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&fenetre()));
+    }
+    QWidget& fenetre() { return essai.trouve("frmAffiche"); }
+    QWidget& image() { return essai.trouve("Picture1"); }
+    QScrollBar& barre() { return essai.trouve<QScrollBar>("HScroll1"); }
+    QColor milieu() { return image().grab().toImage().pixelColor(image().rect().center()); }
+    // As the desktop delivers a key: to the control that has the focus in the window.
+    void touche(Qt::Key code) {
+        QWidget* active = fenetre().focusWidget();
+        QTest::keyClick(active ? active : &fenetre(), code);
+    }
+};
+
+TEST_F(Affiche, OpensAtThePicturesSizeAndIsOnlyHidden) {
+    essai.demarre();
+    EXPECT_TRUE(fenetre().children().isEmpty()) << "composed when it first opens";
+    essai.importe({{"Alien", "Ridley Scott", "Angoisse", essais::octetsDImage(Qt::red, {200, 300})}});
+    essai.cliqueTitre("Alien");
+    EXPECT_TRUE(fenetre().children().isEmpty());
+    essai.clique("Image1");
+    EXPECT_TRUE(fenetre().isVisible());
+    EXPECT_FALSE(fenetre().isModal());
+    EXPECT_EQ(fenetre().windowTitle(), "Alien");
+    EXPECT_EQ(image().size(), QSize(200, 300));
+    EXPECT_EQ(image().toolTip(), "Curseurs pour visionner l'image, Clic pour fermer, Page suiv/préc pour suivant");
+    EXPECT_EQ(fenetre().height(), 300 + 2 * 28);
+    EXPECT_EQ(fenetre().width(), 200 + 72 + 33);
+    EXPECT_EQ(essai.texte("lblTaille"), "200 × 300 pixels");
+    EXPECT_GT(milieu().red(), 200);
+
+    const auto rouvre = [&] {
+        EXPECT_FALSE(fenetre().isVisible());
+        essai.clique("Image1");
+        EXPECT_TRUE(fenetre().isVisible());
+    };
+    QTest::mouseClick(&image(), Qt::LeftButton);
+    rouvre();
+    for (const Qt::Key code : {Qt::Key_F1, Qt::Key_Escape}) {
+        touche(code);
+        rouvre();
+    }
+    fenetre().close();
+    rouvre();
+    EXPECT_FALSE(essai.programme->commande().finie());
+}
+
+TEST_F(Affiche, ScrollsByTheBarTheWheelAndTheHand) {
+    ouvre({{"Alien", "Ridley Scott", "Angoisse", essais::octetsDImage(Qt::red, {1600, 1000})}});
+    EXPECT_EQ(fenetre().size(), fenetre().screen()->size()) << "capped";
+    EXPECT_EQ(image().size(), QSize(1600, 1000));
+    const int haut = image().y();
+    touche(Qt::Key_Down);
+    EXPECT_EQ(barre().value(), 5);
+    EXPECT_EQ(image().y(), haut - 50);
+    touche(Qt::Key_End);
+    EXPECT_EQ(image().y(), haut - 1000) << "all of it above";
+    touche(Qt::Key_Home);
+
+    const auto roule = [&](const QPoint& angle) {
+        QWheelEvent cran(QPointF(9, 9), fenetre().mapToGlobal(QPointF(9, 9)), {}, angle, {}, {}, Qt::NoScrollPhase,
+                         false);
+        QApplication::sendEvent(&fenetre(), &cran);
+    };
+    roule({0, -120});
+    EXPECT_EQ(image().y(), haut - 90);
+    EXPECT_EQ(barre().value(), 9);
+    roule({0, 1200});
+    EXPECT_EQ(image().y(), haut);
+
+    const QPoint prise = image().mapFromGlobal(fenetre().mapToGlobal(fenetre().rect().center()));
+    QTest::mousePress(&image(), Qt::LeftButton, {}, prise);
+    QTest::mouseMove(&image(), prise - QPoint(40, 60));
+    QTest::mouseRelease(&image(), Qt::LeftButton, {}, prise);
+    EXPECT_TRUE(fenetre().isVisible()) << "a drag is no click";
+    EXPECT_EQ(image().pos(), QPoint(-40, haut - 60));
+    fenetre().resize(100, 80);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return barre().width() == 22; })) << barre().width();
+}
+
+TEST_F(Affiche, GoesFromFilmToFilmByKeysAndFollowsTheSheet) {
+    ouvre({{"Alien", "Ridley Scott", "Angoisse", essais::octetsDImage(Qt::red, {200, 300})},
+           {"Brazil", "Terry Gilliam", "Drame", essais::octetsDImage(Qt::blue, {300, 200})},
+           {"Casque d'or", "Jacques Becker", "Drame", ""}});
+    barre().setValue(40);
+    touche(Qt::Key_PageDown);
+    EXPECT_TRUE(fenetre().isVisible());
+    EXPECT_EQ(fenetre().windowTitle(), "Brazil");
+    EXPECT_EQ(essai.texte("Label1_0"), "Brazil");
+    EXPECT_EQ(image().size(), QSize(300, 200));
+    EXPECT_GT(milieu().blue(), 200);
+    EXPECT_EQ(barre().value(), 0);
+    touche(Qt::Key_PageDown);
+    EXPECT_FALSE(image().isVisible()) << "no poster";
+    EXPECT_EQ(essai.texte("lblTaille"), "Pas d'image");
+    touche(Qt::Key_PageDown);
+    EXPECT_FALSE(fenetre().isVisible()) << "no title below";
+    essai.cliqueTitre("Alien");
+    EXPECT_FALSE(fenetre().isVisible()) << "the sheet opens nothing";
+    essai.clique("Image1");
+    EXPECT_GT(milieu().red(), 200);
+    essai.cliqueTitre("Brazil");
+    EXPECT_GT(milieu().blue(), 200) << "an open viewer follows the sheet";
+}
+
+// Detailed pictures of some 60 KB, as posters are.
+std::string photo(int graine) {
+    QImage image(480, 640, QImage::Format_RGB32);
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const int grain = (x * 7 + y * 13 + graine * 29 + (x * y) % 17 * 5) % 60;
+            image.setPixel(x, y, qRgb(x / 3 + grain, y / 4 + grain, 90 + grain));
+        }
+    QByteArray octets;
+    QBuffer tampon(&octets);
+    image.save(&tampon, "JPG", 75);
+    return octets.toStdString();
+}
+
+TEST_F(Affiche, TheNextFilmComesAtOnce) {
+    std::vector<essais::Film> films;
+    for (int i = 0; i < 12; ++i)
+        films.push_back({"Film " + std::to_string(10 + i), "R", "Drame", photo(i)});
+    ouvre(films);
+    std::vector<qint64> durees;
+    for (int i = 1; i < 12; ++i) {
+        QElapsedTimer depuis;
+        depuis.start();
+        touche(Qt::Key_PageDown);
+        QCoreApplication::processEvents();  // painted
+        durees.push_back(depuis.elapsed());
+        ASSERT_EQ(fenetre().windowTitle().toStdString(), films[static_cast<std::size_t>(i)].titre);
+    }
+    std::nth_element(durees.begin(), durees.begin() + 5, durees.end());
+    RecordProperty("median_ms", static_cast<int>(durees[5]));
+    RecordProperty("poster_bytes", static_cast<int>(films.front().affiche.size()));
+    EXPECT_LT(durees[5], 50);
+}
+
+}  // namespace
