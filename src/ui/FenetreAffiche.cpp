@@ -144,7 +144,8 @@ void FenetreAffiche::dimensionne() {
     const QSize voulue(pixels(etat().Width), pixels(etat().Height));
     if (voulue.isEmpty()) return resize(sizeHint());
     const QPoint centre = frameGeometry().center();
-    const QSize ecran = screen()->size(), cadre = frameGeometry().size() - size();
+    const QWidget* principale = parentWidget()->window();  // its frame is known before this one's
+    const QSize ecran = screen()->size(), cadre = principale->frameGeometry().size() - principale->size();
     resize(voulue.width() < ecran.width() ? voulue.width() : ecran.width() - cadre.width(),
            voulue.height() < ecran.height() ? voulue.height() : ecran.height() - cadre.height());
     if (m_placee) resteALEcran(centre);

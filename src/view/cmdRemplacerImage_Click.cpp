@@ -21,12 +21,13 @@ void cmdRemplacerImage_Click::operator()() {
 }
 
 std::optional<std::string> cmdRemplacerImage_Click::octetsAdmis(const std::string& chemin) {
-    auto octets = std::optional<std::string>();
+    std::optional<std::string> octets;
     if (!fichiers::existe(chemin)) {
         avertit("Image inexistante !");
     } else if (m_stockage.dansLaBase() && fichiers::longueur(chemin) > db::kTailleMaxAffiche) {
         avertit("Image trop grande pour tenir en base !");
-    } else if (!estUneImage(chemin) || !(octets = fichiers::lit(chemin, kTailleMaxFichier))) {
+    } else if (octets = fichiers::lit(chemin, kTailleMaxFichier); !octets || octets->empty() || !estUneImage(chemin)) {
+        octets.reset();
         avertit("Cette image est illisible ou trop grande (" + chemin + ") !");
     }
     return octets;

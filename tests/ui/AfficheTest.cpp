@@ -68,7 +68,7 @@ TEST_F(Affiche, OpensAtThePicturesSizeAndIsOnlyHidden) {
 
 TEST_F(Affiche, ScrollsByTheBarTheWheelAndTheHand) {
     ouvre({{"Alien", "Ridley Scott", "Angoisse", essais::octetsDImage(Qt::red, {1600, 1000})}});
-    EXPECT_EQ(fenetre().size(), fenetre().screen()->size()) << "capped";
+    EXPECT_EQ(fenetre().frameGeometry().size(), fenetre().screen()->size()) << "capped";
     EXPECT_EQ(image().size(), QSize(1600, 1000));
     const int haut = image().y();
     touche(Qt::Key_Down);

@@ -54,12 +54,34 @@ TEST(ImagesQt, LoadsByContentUprightAndDecodesAtTheSizeShown) {
     EXPECT_EQ(images.affiche({386, 594}).size(), QSize(386, 579)) << "decoded again when shown larger";
 }
 
+// A small JPEG whose frame header declares the largest size there is.
+std::string bombe() {
+    std::string resultat = octets({8, 8}, "JPG");
+    const std::size_t entete = resultat.find("\xff\xc0");
+    return resultat.replace(entete + 5, 4, "\xff\xdc\xff\xdc");
+}
+
+TEST(ImagesQt, TheWholePictureComesUprightInBoundedMemory) {
+    doubles::DossierTemporaire dossier;
+    ui::ImagesQt images;
+    ASSERT_TRUE(images.charge(dossier.ecrit("affiche.jpg", couchee({600, 400}))));
+    EXPECT_EQ(images.entiere().size(), QSize(400, 600));
+    const auto grande = images.charge(dossier.ecrit("grande.jpg", octets({8000, 4000}, "JPG")));
+    ASSERT_TRUE(grande);
+    EXPECT_EQ(grande->largeur, 8000);
+    const QSize decodee = images.entiere().size();
+    EXPECT_EQ(decodee.width(), 2 * decodee.height());
+    EXPECT_LE(decodee.width() * decodee.height(), 16'100'000);
+    images.vide();
+    EXPECT_TRUE(images.entiere().isNull());
+}
+
 TEST(ImagesQt, WhatCannotBeDecodedIsNoPicture) {
     doubles::DossierTemporaire dossier;
     ui::ImagesQt images;
     const std::string bonne = octets({30, 40}, "JPG");
     for (const std::string& mauvaise :
-         {std::string(), std::string("pas une image"), bonne.substr(0, 20), demesuree(),
+         {std::string(), std::string("pas une image"), bonne.substr(0, 20), demesuree(), bombe(),
           std::string("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>")}) {
         ASSERT_TRUE(images.charge(dossier.ecrit("bonne.jpg", bonne)));
         EXPECT_FALSE(images.charge(dossier.ecrit("mauvaise.jpg", mauvaise))) << mauvaise.size();

@@ -3,6 +3,8 @@
 #include "view/cmdRemplacerImage_Click.h"
 #include "view/cmdSauverImage_Click.h"
 
+#include <sys/stat.h>
+
 namespace {
 
 constexpr int kT = view::kTwipsParPixel, kF1 = 112, kPagePrecedente = 33, kPageSuivante = 34;
@@ -248,6 +250,9 @@ TEST_F(Remplacement, ARefusedOneLeavesEverythingAsItWas) {
         const std::string chemin = dossier.ecrit("mauvaise.jpg", octets);
         refuse(chemin, "Cette image est illisible ou trop grande (" + chemin + ") !");
     }
+    ASSERT_EQ(mkfifo(dossier.chemin("tube.jpg").c_str(), 0600), 0);
+    refuse(dossier.chemin("tube.jpg"),
+           "Cette image est illisible ou trop grande (" + dossier.chemin("tube.jpg") + ") !");
     refuse(dossier.ecrit("large.jpg", kJpeg + std::string(229999, 'x')), "Image trop grande pour tenir en base !");
 
     ecran::choisit(stockage.Option3, 1);
