@@ -40,7 +40,7 @@ cmdCompacter_Click::Echec cmdCompacter_Click::compacte() {
         copieEtRemplace(base.string());
         return std::nullopt;
     } catch (const dao::ErreurDao& echec) {
-        return "Le compactage n'a pas pu être effectué.\r\n" + echec.description;
+        return "Le compactage n'a pas pu être effectué.\n" + echec.description;
     }
 }
 

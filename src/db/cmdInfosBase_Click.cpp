@@ -16,7 +16,7 @@ void cmdInfosBase_Click(Base& base, dialogues::Dialogues& dialogues) {
     const auto compte = [&](const char* enonce) { return base.base.OpenRecordset(enonce).RecordCount(); };
     const long externes = compte("SELECT titre FROM films where Affiche like 'JPG*' order by titre");
     const long internes = compte("SELECT titre FROM films where Affiche like 'STO*' order by titre");
-    dialogues.MsgBox(titres(externes) + " ayant un lien sur un fichier externe\r\n" + titres(internes) +
+    dialogues.MsgBox(titres(externes) + " ayant un lien sur un fichier externe\n" + titres(internes) +
                          " ayant un lien sur un fichier interne",
                      dialogues::kInformation);
 }

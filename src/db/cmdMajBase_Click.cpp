@@ -3,6 +3,7 @@
 #include "db/Affiches.h"
 #include "platform/fichiers/Fichiers.h"
 
+#include <algorithm>
 #include <chrono>
 
 namespace db {
@@ -38,7 +39,7 @@ cmdMajBase_Click::Echec cmdMajBase_Click::convertit(RapportConversion& rapport) 
     fichiers::creeDossier(dossier);
     const auto sensVoulu = sens(dossier);
     dao::Recordset films = m_outils.base.base.OpenRecordset(sensVoulu->enonce());
-    m_outils.progression.Max = m_outils.base.films.RecordCount();
+    m_outils.progression.Max = std::max(1L, m_outils.base.films.RecordCount());  // of 0 the bar would never end
     m_outils.progression.Value = m_outils.progression.Max - films.RecordCount();
     if (films.Eof()) return std::nullopt;
     if (!fichiers::dossierModifiable(dossier))

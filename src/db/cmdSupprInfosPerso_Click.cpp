@@ -22,7 +22,7 @@ void cmdSupprInfosPerso_Click::operator()() {
 bool cmdSupprInfosPerso_Click::confirme() {
     return m_dialogues.MsgBox(
                "Vous allez supprimer tout ce qui concerne les titres personnels (réservations, prêts, nom de fichiers, "
-               "rangement...)\r\nVoulez-vous continuer ?",
+               "rangement...)\nVoulez-vous continuer ?",
                dialogues::kQuestion, "Suppression des titres personnels") == dialogues::kOui;
 }
 

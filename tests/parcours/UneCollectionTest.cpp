@@ -180,4 +180,38 @@ TEST(Parcours, ACopiedFolderIsAnInstallationOfItsOwn) {
     EXPECT_EQ(originale.etats.liste.Label9[0].Caption, "4 titres");
 }
 
+TEST_F(UneCollection, ItsPostersMoveAndItsBaseIsCompactedUnderTheUsersEyes) {
+    doubles::DialoguesScript& boites = execution.boites;
+    const std::vector<std::string> films = arbre(etats);
+    session.cmdConfigurer_Click();
+    ecran::choisit(etats.stockage.Option3, 1);
+    session.Option3_Click();
+    boites.attendMsgBox("Compactage effectué.", dialogues::kInformation);
+    boites.attendMsgBox("1 fichier créé.\r\n", dialogues::kInformation);
+    session.cmdMajBase_Click();
+    EXPECT_TRUE(etats.panneaux.frameListeFonctions.Visible);
+    EXPECT_EQ(arbre(etats), films);
+    EXPECT_TRUE(std::filesystem::exists(installation.chemin("Images/Le Cercle Rouge - Jean-Pierre Melville.jpg")));
+    boites.attendMsgBox(
+        "Il y a 1 titre ayant un lien sur un fichier externe\nIl y a 0 titre ayant un lien sur un fichier interne",
+        dialogues::kInformation);
+    session.cmdInfosBase_Click();
+
+    clique(execution, "Sans Rien");
+    boites.attendFichier({"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", installation.chemin()},
+                         installation.chemin("Fiches/1.jpg"));
+    session.Label12_Click();
+    EXPECT_TRUE(etats.fiche.Image1.Visible);
+    EXPECT_EQ(etats.fiche.Label1[0].Caption, "Sans Rien");
+
+    boites.attendMsgBox(
+        "Vous allez supprimer tout ce qui concerne les titres personnels (réservations, prêts, nom de fichiers, "
+        "rangement...)\nVoulez-vous continuer ?",
+        dialogues::kQuestion, dialogues::kOui, "Suppression des titres personnels");
+    boites.attendMsgBox("Appartenance de 4 titres supprimée.", dialogues::kInformation);
+    session.cmdSupprInfosPerso_Click();
+    EXPECT_EQ(etats.liste.Label9[1].Caption, "0 personnel");
+    EXPECT_THAT(etats.fiche.Combo7[2].Items, ElementsAre());
+}
+
 }  // namespace

@@ -79,7 +79,7 @@ TEST_F(EntretienTest, ABaseInUseElsewhereStaysOpen) {
     const std::string octets = installation.dossier.lit("Films.mdb");
     dao::Database autre = dao::DBEngine::OpenDatabase(chemin());
     autre.BeginTrans();
-    compacte("Le compactage n'a pas pu être effectué.\r\nImpossible d'utiliser « " + chemin() +
+    compacte("Le compactage n'a pas pu être effectué.\nImpossible d'utiliser « " + chemin() +
                  " » : le fichier est déjà utilisé.",
              dialogues::kCritique);
     EXPECT_EQ(installation.dossier.lit("Films.mdb"), octets);
@@ -99,7 +99,7 @@ TEST_F(EntretienTest, AFullDiskLeavesTheBase) {
         limiteLesFichiers(500000);
         ailleurs.cmdCompacter();
         const bool dit = muets.textes.size() == 1 &&
-                         muets.textes[0].starts_with("Le compactage n'a pas pu être effectué.\r\nErreur de disque");
+                         muets.textes[0].starts_with("Le compactage n'a pas pu être effectué.\nErreur de disque");
         _exit(dit && ailleurs.possedeEncore() ? 0 : 1);
     }));
     EXPECT_EQ(installation.dossier.lit("Films.mdb"), octets);
@@ -131,7 +131,7 @@ TEST_F(EntretienTest, KilledAtAnyMomentTheOldOrTheNewBaseOpens) {
 
 TEST_F(EntretienTest, ThePostersAreCountedByTheirPlace) {
     const auto infos = [&](const char* externes, const char* internes) {
-        dialogues.attendMsgBox(std::string("Il y a ") + externes + " ayant un lien sur un fichier externe\r\nIl y a " +
+        dialogues.attendMsgBox(std::string("Il y a ") + externes + " ayant un lien sur un fichier externe\nIl y a " +
                                    internes + " ayant un lien sur un fichier interne",
                                dialogues::kInformation);
         db::cmdInfosBase_Click(entretien->base, dialogues);
@@ -150,7 +150,7 @@ TEST_F(EntretienTest, TheHoldingsGoWhenTheUserAgrees) {
     const auto demande = [&](int reponse) {
         dialogues.attendMsgBox(
             "Vous allez supprimer tout ce qui concerne les titres personnels (réservations, prêts, nom de fichiers, "
-            "rangement...)\r\nVoulez-vous continuer ?",
+            "rangement...)\nVoulez-vous continuer ?",
             dialogues::kQuestion, reponse, "Suppression des titres personnels");
     };
     dialogues.attendMsgBox("Aucun titre personnel !", dialogues::kExclamation);
