@@ -12,7 +12,7 @@ namespace ui {
 PanneauRecherche::PanneauRecherche(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
     nomme(this, "frameRecherche");
     auto& recherche = atelier.etats().recherche;
-    auto* texte = nomme(new QLineEdit, "Text2");
+    auto* texte = m_texte = nomme(new QLineEdit, "Text2");
     texte->setClearButtonEnabled(true);
     texte->setToolTip(tr("Le texte à trouver ; majuscules et minuscules sont confondues"));
     auto* lancer = bouton<BoutonAccent>("cmdRecherche", tr("&Lancer la recherche"),
@@ -33,6 +33,12 @@ PanneauRecherche::PanneauRecherche(const Atelier& atelier, QWidget* parent) : QW
     boite->addWidget(defilant(contenu));
     setLayout(boite);
     atelier.liaison.lie(atelier.etats().panneaux.frameRecherche, this);
+}
+
+// What is typed replaces the last search.
+void PanneauRecherche::showEvent(QShowEvent* evenement) {
+    QWidget::showEvent(evenement);
+    m_texte->selectAll();
 }
 
 QLayout* PanneauRecherche::champs(const Atelier& atelier) {

@@ -12,9 +12,14 @@ class PanneauRecherche final : public QWidget {
   public:
     explicit PanneauRecherche(const Atelier& atelier, QWidget* parent = nullptr);
 
+  protected:
+    void showEvent(QShowEvent* evenement) override;
+
   private:
     [[nodiscard]] QLayout* champs(const Atelier& atelier);
     [[nodiscard]] QLayout* portee(const Atelier& atelier);
+
+    QLineEdit* m_texte;
 };
 
 }  // namespace ui

@@ -66,8 +66,12 @@ struct UneSeance : testing::Test {
                        {"Playtime", "Jacques Tati", "Humour", ""},
                        {"Vertigo", "Alfred Hitchcock", "Drame", ""}});
         EXPECT_EQ(changements().size(), 6u);
-        touche(Qt::Key_F, Qt::ControlModifier);
-        QTest::keyClicks(essai.fenetre().focusWidget(), "play");
+        for (const char* texte : {"rien", "play"}) {
+            touche(Qt::Key_Escape);
+            EXPECT_TRUE(essai.trouve("framePresentation").isVisible());
+            touche(Qt::Key_F, Qt::ControlModifier);
+            QTest::keyClicks(essai.fenetre().focusWidget(), texte);
+        }
         touche(Qt::Key_Return);
         EXPECT_EQ(essai.texte("Label9_0"), "3 titres");
         essai.cliqueTitre("Playtime");
