@@ -127,7 +127,7 @@ QLayout* PanneauFiche::colonneAffiche() {
 
     auto* boite = colonne(kMoyen);
     boite->addWidget(m_affiche);
-    auto* ligne = rangee({note});
+    auto* ligne = rangee({note}, kSerre);
     ligne->addStretch();
     ligne->addWidget(noter);
     boite->addLayout(ligne);
