@@ -3,8 +3,9 @@
 #include "db/RapportConversion.h"
 #include "platform/dao/Database.h"
 
+#include <cstdint>
 #include <map>
-#include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
@@ -48,10 +49,16 @@ class VersLaBase final : public SensConversion {
         long films = 0;
         std::set<std::string> chemins;
     };
+    struct Fichier {
+        std::string chemin;
+        Identite identite;
+    };
     void releveUsages(dao::Database& base);
-    [[nodiscard]] std::string chemin(const std::string& affiche) const;
+    void releve(const std::string& affiche);
+    [[nodiscard]] std::optional<Fichier> cherche(const std::string& affiche) const;
 
     std::string m_dossier;
+    std::map<std::string, Fichier> m_fichiers;  // that stand there, by the films' values
     std::map<Identite, Usage> m_usages;
     std::vector<Identite> m_inclus;  // of the lot
 };
