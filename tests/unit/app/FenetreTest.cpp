@@ -24,6 +24,7 @@ TEST(ChoixFonction, OnePanelAtATimeUnderItsBoldButton) {
     const Installation installation;
     Execution execution(installation.chemin());
     app::Session& session = execution.session;
+    session.Form_Load();
     session.cmdAfficherFonctions_Click();
     EXPECT_EQ(panneaux(session.etats), "Doc-");
     EXPECT_TRUE(session.etats.ajout.frameAjoutAuto.Visible && session.etats.ajout.Command13[0].FontBold);
