@@ -42,7 +42,7 @@ QScrollArea* defilante(QWidget* page) {
 PanneauFiche::PanneauFiche(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameFiche");
     auto* generalites = page({faits(), resume()});
-    auto* contenu = page({new PanneauPossession(m_atelier), new PanneauActions(m_atelier)});
+    auto* contenu = page({new PanneauPossession(m_atelier)});
     static_cast<QVBoxLayout*>(generalites->layout())->setStretch(1, 1);
     static_cast<QVBoxLayout*>(contenu->layout())->addStretch(1);
     auto* autres = defilante(contenu);
@@ -58,6 +58,7 @@ PanneauFiche::PanneauFiche(const Atelier& atelier, QWidget* parent) : QWidget(pa
     boite->setSpacing(kMoyen);
     boite->addLayout(entete());
     boite->addLayout(pages, 1);
+    boite->addWidget(new PanneauActions(m_atelier));
     m_atelier.liaison.lie(m_atelier.etats().panneaux.frameFiche, this);
 
     // A page takes its room as long as one of its frames is shown.
@@ -96,8 +97,7 @@ QLayout* PanneauFiche::entete() {
 QLayout* PanneauFiche::onglets() {
     auto& fiche = m_atelier.etats().fiche;
     auto* generalites = bouton<BoutonOnglet>("cmdGeneralites", tr("&Généralités"), tr("Le film"));
-    auto* autres = bouton<BoutonOnglet>("cmdAutresInfos", tr("A&utres informations"),
-                                        tr("Votre exemplaire et ce que vous pouvez faire de la fiche"));
+    auto* autres = bouton<BoutonOnglet>("cmdAutresInfos", tr("A&utres informations"), tr("Votre exemplaire"));
     m_atelier.liaison.lie(fiche.cmdGeneralites, generalites);
     m_atelier.liaison.lie(fiche.cmdAutresInfos, autres);
     m_atelier.auClic(generalites, &app::Session::cmdGeneralites_Click);
@@ -194,7 +194,7 @@ QWidget* PanneauFiche::resume() {
 }
 
 void PanneauFiche::resizeEvent(QResizeEvent* evenement) {
-    constexpr int kAutourDeLAffiche = 190;  // header, rating, margins
+    constexpr int kAutourDeLAffiche = 240;  // header, rating, actions, margins
     const QSize taille = evenement->size();
     m_affiche->tiensDans({taille.width() * 32 / 100, taille.height() - kAutourDeLAffiche});
 }

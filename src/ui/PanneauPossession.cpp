@@ -13,9 +13,14 @@ PanneauPossession::PanneauPossession(const Atelier& atelier, QWidget* parent) : 
     auto* boite = colonne(kPetit);
     boite->addWidget((new Etiquette(tr("Mon exemplaire")))->avecPolice(1.08, QFont::DemiBold));
     boite->addLayout(choix());
-    boite->addWidget(exemplaire());
+    auto* suite = nomme(new QWidget, "frameAutresInfos", 1);
+    auto* dessous = colonne(0);
+    dessous->addWidget(exemplaire());
+    suite->setLayout(dessous);
+    boite->addWidget(suite);
     setLayout(boite);
     m_atelier.liaison.lie(m_atelier.etats().fiche.frameAutresInfos[0], this);
+    m_atelier.liaison.lie(m_atelier.etats().fiche.frameAutresInfos[1], suite);
 }
 
 QLayout* PanneauPossession::choix() {
@@ -109,7 +114,6 @@ QLayout* PanneauPossession::fichier(std::size_t indice) {
 }
 
 PanneauActions::PanneauActions(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
-    nomme(this, "frameAutresInfos", 1);
     auto& fiche = atelier.etats().fiche;
     auto* modifier = bouton("cmdModifierTitre", tr("Mo&difier…"), tr("Corriger la fiche du film (F2)"));
     auto* supprimer = bouton("cmdSupprimerTitre", tr("Suppr&imer…"), tr("Supprimer le film de la base (Suppr)"));
@@ -125,7 +129,6 @@ PanneauActions::PanneauActions(const Atelier& atelier, QWidget* parent) : QWidge
     boutons->addStretch();
     boite->addLayout(boutons);
     setLayout(boite);
-    atelier.liaison.lie(fiche.frameAutresInfos[1], this);
 }
 
 }  // namespace ui

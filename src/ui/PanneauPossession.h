@@ -24,7 +24,7 @@ class PanneauPossession final : public QWidget {
     const Atelier m_atelier;
 };
 
-// What can be done with the sheet.
+// What can be done with the sheet, whichever of its pages is shown.
 class PanneauActions final : public QWidget {
     Q_OBJECT
   public:
