@@ -48,11 +48,11 @@ inline void laisseFinir() {
         QApplication::processEvents();
 }
 
-inline void declareClics(std::vector<double> durees) {
+inline void declareSerie(const std::string& nom, std::vector<double> durees) {
     if (durees.empty()) return;
     std::sort(durees.begin(), durees.end());
-    declare("clic_median", durees[durees.size() / 2]);
-    declare("clic_pire", durees.back());
+    declare(nom + "_median", durees[durees.size() / 2]);
+    declare(nom + "_pire", durees.back());
 }
 
 // The sorts and zones that are measured, one after the other: each sort that groups, then each zone.

@@ -24,6 +24,19 @@ inline double depuisLeDepart() {
     return depart ? maintenant() - std::strtod(depart, nullptr) : 0;
 }
 
+// How long one of several runs of the same work lasts, at best.
+template <typename Travail>
+double meilleureDuree(int passages, Travail travail) {
+    double meilleure = 0;
+    for (int i = 0; i < passages; ++i) {
+        const double depart = maintenant();
+        travail();
+        const double duree = maintenant() - depart;
+        if (i == 0 || duree < meilleure) meilleure = duree;
+    }
+    return meilleure;
+}
+
 inline void declare(std::string_view nom, double valeur) {
     std::cout << nom << ' ' << valeur << std::endl;
 }

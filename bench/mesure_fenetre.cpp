@@ -7,8 +7,11 @@
 
 #include <QAbstractItemModel>
 #include <QComboBox>
+#include <QFile>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPixmap>
 #include <QTreeView>
 #include <stdexcept>
 
@@ -19,6 +22,8 @@ Type& controle(const QWidget& fenetre, const char* nom) {
     if (auto* trouve = fenetre.findChild<Type*>(nom)) return *trouve;
     throw std::runtime_error(std::string("no control named ") + nom);
 }
+
+constexpr qsizetype kAfficheLourde = 50000;  // bytes
 
 // What a choice in a drop-down list does: the entry becomes the current one, then the list tells of the gesture.
 double choisit(QComboBox& liste, int indice, bench::Guetteur& arbre) {
@@ -38,13 +43,11 @@ std::vector<QModelIndex> films(const QAbstractItemModel& modele) {
     return resultat;
 }
 
-void clique(QTreeView& arbre, const QModelIndex& film) {
-    const QPointF place = arbre.visualRect(film).center();
+void clique(QWidget& cible, const QPointF& place) {
     for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
         const Qt::MouseButtons boutons = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-        QMouseEvent evenement(type, place, arbre.viewport()->mapToGlobal(place), Qt::LeftButton, boutons,
-                              Qt::NoModifier);
-        QApplication::sendEvent(arbre.viewport(), &evenement);
+        QMouseEvent evenement(type, place, cible.mapToGlobal(place), Qt::LeftButton, boutons, Qt::NoModifier);
+        QApplication::sendEvent(&cible, &evenement);
     }
 }
 
@@ -58,11 +61,49 @@ void mesureClics(const QWidget& fenetre, QTreeView& arbre, std::size_t nombre) {
         const QModelIndex film = tous[i * tous.size() / nombre];
         arbre.scrollTo(film, QAbstractItemView::PositionAtCenter);
         bench::laisseFinir();
-        durees.push_back(affiche.dureeDe([&] { clique(arbre, film); }));
+        durees.push_back(affiche.dureeDe([&] { clique(*arbre.viewport(), arbre.visualRect(film).center()); }));
         if (titre.text() != film.data().toString() || chargement.isVisible())
             throw std::runtime_error("the sheet of another film is shown, or no poster");
     }
-    bench::declareClics(std::move(durees));
+    bench::declareSerie("clic", std::move(durees));
+}
+
+// One decoding of the poster shown, at its own size: what no viewer does without.
+double decode(const QByteArray& octets) {
+    return bench::meilleureDuree(3, [&] {
+        if (QPixmap image; !image.loadFromData(octets)) throw std::runtime_error("the poster does not decode");
+    });
+}
+
+QByteArray afficheCourante(const std::string& dossier) {
+    QFile fichier(QString::fromStdString(dossier + "Tmp/ImageTMP.jpg"));
+    return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
+}
+
+// From film to film with Page Down; only the heavy posters count.
+void mesureVisionneuse(const QWidget& fenetre, QTreeView& arbre, const std::string& dossier, std::size_t nombre) {
+    const QModelIndex premier = arbre.model()->index(0, 0, arbre.model()->index(0, 0));
+    arbre.scrollTo(premier);
+    bench::laisseFinir();
+    clique(*arbre.viewport(), arbre.visualRect(premier).center());
+    clique(controle<QWidget>(fenetre, "Image1"), {5, 5});
+    auto& barre = controle<QWidget>(fenetre, "HScroll1");
+    bench::Guetteur affiche(controle<QWidget>(fenetre, "Picture1"));
+    std::vector<double> pages, decodages;
+    for (std::size_t i = 0; i < nombre; ++i) {
+        bench::laisseFinir();
+        const double duree = affiche.dureeDe([&] {
+            QKeyEvent touche(QEvent::KeyPress, Qt::Key_PageDown, Qt::NoModifier);
+            QApplication::sendEvent(&barre, &touche);
+        });
+        const QByteArray octets = afficheCourante(dossier);
+        if (octets.size() < kAfficheLourde) continue;
+        pages.push_back(duree);
+        decodages.push_back(decode(octets));
+    }
+    if (pages.empty()) throw std::runtime_error("no heavy poster was met");
+    bench::declareSerie("page", std::move(pages));
+    bench::declareSerie("decodage", std::move(decodages));
 }
 
 void mesureChoix(const QWidget& fenetre, bench::Guetteur& arbre) {
@@ -87,6 +128,7 @@ void mesure(const std::string& dossier, std::size_t clics) {
     bench::laisseFinir();
     mesureChoix(fenetre, guetteur);
     if (clics > 0) mesureClics(fenetre, arbre, clics);
+    if (clics > 0) mesureVisionneuse(fenetre, arbre, dossier, clics);
     bench::declare("memoire", bench::memoireDePointe());
 }
 

@@ -2,52 +2,11 @@
 // The program without its window, in a program folder: what its listings read of the file, how long an import lasts.
 
 #include "Mesure.h"
-#include "app/Session.h"
-#include "doubles/DocumentsEnregistres.h"
-#include "doubles/EcranMuet.h"
-#include "doubles/ImagesSimulees.h"
+#include "SansFenetre.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace {
-
-// The user who accepts everything: owned, on DVD, every resembling film all the same. Errors end the measurement.
-class DialoguesDociles final : public dialogues::Dialogues {
-  public:
-    explicit DialoguesDociles(bool ressemblance) : m_ressemblance(ressemblance) {}
-
-    int MsgBox(const std::string& texte, int style, const std::string&) override {
-        if (style == dialogues::kInformation) {
-            m_rapport = texte;
-            return dialogues::kOk;
-        }
-        if (style != dialogues::kQuestion) throw std::runtime_error(texte);
-        const bool surLaRessemblance = texte.find("le logiciel vérifie") != std::string::npos;
-        return surLaRessemblance && !m_ressemblance ? dialogues::kNon : dialogues::kOui;
-    }
-    std::string InputBox(const std::string&, const std::string&, const std::string&) override { return "DVD"; }
-    std::string choisitFichier(const dialogues::DemandeFichier&) override { return ""; }
-    std::string choisitDossier(const std::string&, const std::string&) override { return ""; }
-
-    [[nodiscard]] const std::string& rapport() const { return m_rapport; }
-
-  private:
-    bool m_ressemblance;
-    std::string m_rapport;
-};
-
-struct Machine {
-    explicit Machine(bool ressemblance) : dialogues(ressemblance) {}
-    [[nodiscard]] app::Machine pour(const std::string& dossier) {
-        return {dialogues, ecran, images, horloge, documents, dossier};
-    }
-    DialoguesDociles dialogues;
-    doubles::EcranMuet ecran;
-    doubles::ImagesSimulees images;
-    systeme::HorlogeSysteme horloge;
-    doubles::DocumentsEnregistres documents;
-};
 
 // The most that one listing reads of the file: the first one, at the start, then every zone and sort.
 void mesureListes(app::Session& session, double luAuDepart) {
@@ -68,13 +27,13 @@ void mesureListes(app::Session& session, double luAuDepart) {
     bench::declare("lu_au_plus", luAuPlus / 1e6);
 }
 
-void mesureImport(app::Session& session, const Machine& machine, const std::string& fiches) {
+void mesureImport(app::Session& session, const bench::Machine& machine, const std::string& fiches) {
     session.Command13_Click(0);
     session.etats.ajout.txtCheminAjoutAuto.Text = fiches;
     const double depart = bench::maintenant();
     session.cmdAjoutAuto_Click();
     bench::declare("import", bench::maintenant() - depart);
-    if (machine.dialogues.rapport() != "1000 films ajoutés.") throw std::runtime_error(machine.dialogues.rapport());
+    machine.attend("1000 films ajoutés.");
 }
 
 }  // namespace
@@ -83,7 +42,7 @@ int main(int nombre, char** mots) try {
     const std::string genre = nombre > 2 ? mots[1] : "";
     if (genre.empty() || (genre != "listes" && nombre < 4))
         throw std::invalid_argument("usage: mesure_session listes|import|ressemblance DOSSIER [FICHES]");
-    Machine machine(genre == "ressemblance");
+    bench::Machine machine(genre == "ressemblance");
     app::Session session(machine.pour(mots[2]));
     const double avant = bench::octetsLus();
     session.Form_Load();

@@ -1,4 +1,4 @@
-// mesures PROGRAMME DOSSIER [--vite] [--garde]: makes collections in DOSSIER, each beside a copy of the program folder
+// mesures PROGRAMME DOSSIER [--vite] [--garde] [--commandes]: makes collections in DOSSIER, each beside a copy of the program folder
 // PROGRAMME, runs every measured program and its floor on them in turn, and prints the table.
 
 #include "Programmes.h"
@@ -18,7 +18,7 @@ using bench::Figures;
 
 struct Options {
     fs::path programme, dossier;
-    bool vite = false, garde = false;
+    bool vite = false, garde = false, commandes = false;
     // Enough for the shortest times to be the program's own on a machine that does other things.
     [[nodiscard]] int passages(int films) const { return vite ? 5 : films > 10000 ? 9 : 15; }
 };
@@ -55,6 +55,12 @@ void installe(const Options& options, const Collection& c) {
     std::vector<std::string> mots{"base", std::to_string(c.films), (dossierDe(options, c) / "Films.mdb").string()};
     if (c.affiches) mots.emplace_back("--affiches");
     static_cast<void>(bench::lance("generateur", mots));
+}
+
+// Its folder, made where it is missing.
+fs::path collection(const Options& options, const Collection& c) {
+    if (!fs::exists(dossierDe(options, c))) installe(options, c);
+    return dossierDe(options, c);
 }
 
 std::pair<Figures, Figures> enAlternance(int passages, const auto& plancher, const auto& programme) {
@@ -109,6 +115,10 @@ void mesureFenetre(bench::Tableau& tableau, const Options& options, const Collec
             {"click to sheet shown, median", "ms", programme.at("clic_median"), plancher.at("clic_median"), 16.0});
         tableau.ajoute(
             {"click to sheet shown, worst of 200", "ms", programme.at("clic_pire"), plancher.at("clic_pire"), {}});
+        tableau.ajoute({"Page Down to poster painted, median; one decode", "ms", programme.at("page_median"),
+                        programme.at("decodage_median"), 50.0});
+        tableau.ajoute(
+            {"Page Down to poster painted, worst", "ms", programme.at("page_pire"), programme.at("decodage_pire"), {}});
         const Figures listes = bench::lance("mesure_session", {"listes", dossier.string()});
         const fs::path sansAffiches = dossierDe(options, {c.films, false}) / "Films.mdb";
         tableau.ajoute({"read by the costliest listing", "MB", listes.at("lu_au_plus"), {}, megaoctets(sansAffiches)});
@@ -117,12 +127,17 @@ void mesureFenetre(bench::Tableau& tableau, const Options& options, const Collec
     tableau.ajoute({"size of the base", "MB", megaoctets(base), {}, {}});
 }
 
-// Each pass starts again from a copy of the same base.
-Figures importe(const Options& options, const std::string& programme, const fs::path& modele) {
-    const fs::path copie = options.dossier / "import";
+// What changes its base starts again from a copy of it at each pass.
+fs::path copieDe(const Options& options, const fs::path& modele) {
+    const fs::path copie = options.dossier / "copie";
     installe(options, copie);
     fs::copy_file(modele / "Films.mdb", copie / "Films.mdb");
-    sync();  // what was just copied is no part of what the import must write
+    sync();  // what was just copied is no part of what is measured
+    return copie;
+}
+
+Figures importe(const Options& options, const std::string& programme, const fs::path& modele) {
+    const fs::path copie = copieDe(options, modele);
     const std::string fiches = (options.dossier / "fiches").string();
     if (programme == "plancher_import") return bench::lance(programme, {(copie / "Films.mdb").string(), fiches});
     return bench::lance("mesure_session", {programme, copie.string(), fiches});
@@ -135,8 +150,7 @@ void mesureImport(bench::Tableau& tableau, const Options& options, const std::ve
     tableau.titre("import of " + std::to_string(kFiches) + " sheets with their posters, into the base");
     std::map<int, double> durees;
     for (int films : tailles) {
-        const fs::path modele = dossierDe(options, {films, false});
-        if (!fs::exists(modele)) installe(options, Collection{films, false});
+        const fs::path modele = collection(options, {films, false});
         const auto [plancher, programme] = enAlternance(
             options.vite ? 3 : 5, [&] { return importe(options, "plancher_import", modele); },
             [&] { return importe(options, "import", modele); });
@@ -153,29 +167,83 @@ void mesureImport(bench::Tableau& tableau, const Options& options, const std::ve
                     durees[petite], 1.3, true});
 }
 
+void mesureRecherche(bench::Tableau& tableau, const Options& options, const std::string& dossier,
+                     const std::string& texte) {
+    const auto [plancher, programme] = enAlternance(
+        options.vite ? 3 : 5,
+        [&] {
+            return bench::lance("plancher_commandes", {"recherche", dossier, texte});
+        },
+        [&] {
+            return bench::lance("mesure_commandes", {"recherche", dossier, texte});
+        });
+    const auto trouves = static_cast<long>(programme.at("trouves"));
+    tableau.ajoute({"search in four fields, " + std::to_string(trouves) + " found", "ms", programme.at("recherche"),
+                    plancher.at("recherche"), 1.5, true});
+}
+
+void mesureCommandes(bench::Tableau& tableau, const Options& options, int films) {
+    const fs::path dossier = collection(options, {films, false});
+    tableau.titre("commands among " + std::to_string(films) + " films");
+    for (const char* texte : {"introuvable", "Zoé Lamlet"})
+        mesureRecherche(tableau, options, dossier.string(), texte);
+    std::vector<Figures> ajouts;
+    for (int i = 0; i < 3; ++i)
+        ajouts.push_back(bench::lance("mesure_commandes", {"ajout", copieDe(options, dossier).string()}));
+    const Figures ajout = bench::retenues(ajouts);
+    tableau.ajoute({"adding a film; listing the day's films", "ms", ajout.at("ajout"), ajout.at("listage"), 2.0, true});
+}
+
+void mesureConversion(bench::Tableau& tableau, const Options& options, int films) {
+    const fs::path modele = collection(options, {films, true});
+    const std::string nombre = std::to_string(films);
+    const auto [plancher, programme] = enAlternance(
+        2,
+        [&] {
+            return bench::lance("plancher_commandes", {"conversion", copieDe(options, modele).string()});
+        },
+        [&] {
+            return bench::lance("mesure_commandes", {"conversion", copieDe(options, modele).string(), nombre});
+        });
+    tableau.titre(nombre + " posters converted");
+    const auto compare = [&, &p = plancher, &q = programme](const char* texte, const char* nom) {
+        tableau.ajoute({texte, "ms", q.at(nom), p.at(nom), 2.0, true});
+    };
+    compare("from the base to a folder", "vers_dossier");
+    compare("from the folder to the base", "vers_base");
+    compare("compaction with the posters", "compactage");
+}
+
 Options litOptions(int nombre, char** mots) {
-    if (nombre < 3) throw std::invalid_argument("usage: mesures PROGRAMME DOSSIER [--vite] [--garde]");
+    if (nombre < 3) throw std::invalid_argument("usage: mesures PROGRAMME DOSSIER [--vite] [--garde] [--commandes]");
     Options options{mots[1], mots[2]};
     for (int i = 3; i < nombre; ++i) {
         options.vite |= std::strcmp(mots[i], "--vite") == 0;
         options.garde |= std::strcmp(mots[i], "--garde") == 0;
+        options.commandes |= std::strcmp(mots[i], "--commandes") == 0;
     }
     return options;
+}
+
+void mesureFenetresEtImports(bench::Tableau& tableau, const Options& options) {
+    std::vector<Collection> collections{{1000, false}, {1000, true}, {10000, false, 1.7, 60}};
+    if (!options.vite) {
+        collections.push_back({10000, true, 1.7, 60});
+        collections.push_back({100000, false, 1.5, 110});
+    }
+    for (const Collection& c : collections)
+        mesureFenetre(tableau, options, c);
+    mesureImport(tableau, options, {0, 1000, options.vite ? 10000 : 100000});
 }
 
 }  // namespace
 
 int main(int nombre, char** mots) try {
     const Options options = litOptions(nombre, mots);
-    std::vector<Collection> collections{{1000, false}, {1000, true}, {10000, false, 1.7, 60}};
-    if (!options.vite) {
-        collections.push_back({10000, true, 1.7, 60});
-        collections.push_back({100000, false, 1.5, 110});
-    }
     bench::Tableau tableau;
-    for (const Collection& c : collections)
-        mesureFenetre(tableau, options, c);
-    mesureImport(tableau, options, {0, 1000, options.vite ? 10000 : 100000});
+    if (!options.commandes) mesureFenetresEtImports(tableau, options);
+    mesureCommandes(tableau, options, options.vite ? 10000 : 100000);
+    mesureConversion(tableau, options, options.vite ? 2000 : 10000);
     if (!options.garde) fs::remove_all(options.dossier);
     std::cout << '\n'
               << (tableau.depassements() == 0 ? "every target is held"

@@ -114,7 +114,7 @@ void mesureClics(const bench::Sqlite& base, const Modele& modele, QLabel& image,
         const long long film = modele.film(i * modele.nombreDeFilms() / nombre);
         durees.push_back(guetteur.dureeDe([&] { montreFiche(base, film, image); }));
     }
-    bench::declareClics(std::move(durees));
+    bench::declareSerie("clic", std::move(durees));
 }
 
 }  // namespace
