@@ -1,5 +1,8 @@
 #include "parcours/Gestes.h"
 
+#include <array>
+#include <functional>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -34,9 +37,11 @@ TEST_F(RaccourcisClavier, LeavingAPanelGoesBackToTheSheetElseToThePresentation) 
 
     parcours::clique(execution, "Le Samouraï");
     session.cmdAutresInfos_Click();
-    for (const auto ouvre : {&app::Session::cmdFonctionRecherche_Click, &app::Session::cmdMultiSuppress_Click,
-                             &app::Session::cmdModifierTitre_Click}) {
-        (session.*ouvre)();
+    static constexpr std::array<void (app::Session::*)(), 3> kOuvertures{&app::Session::cmdFonctionRecherche_Click,
+                                                                         &app::Session::cmdMultiSuppress_Click,
+                                                                         &app::Session::cmdModifierTitre_Click};
+    for (const auto ouvre : kOuvertures) {
+        std::invoke(ouvre, session);
         session.QuittePanneau();
         EXPECT_TRUE(etats.panneaux.frameFiche.Visible && etats.fiche.frameAutresInfos[0].Visible);
         EXPECT_FALSE(etats.panneaux.frameListeFonctions.Visible || etats.panneaux.frameRecherche.Visible);
