@@ -3,6 +3,7 @@
 #include "platform/dao/Utf8.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include <unicode/uchar.h>
 
@@ -18,6 +19,32 @@ bool estAscii(char octet) {
 }
 char32_t plieCaractere(char32_t caractere) {
     return static_cast<char32_t>(u_foldCase(static_cast<UChar32>(caractere), U_FOLD_CASE_DEFAULT));
+}
+
+constexpr std::uint8_t kAvantLatin = 0xc3;  // the lead byte of À to ÿ
+
+// Whether the text holds nothing but ASCII and the letters of Latin-1, as nearly every French one does.
+bool estLatin(const std::uint8_t* octets, std::size_t taille) {
+    std::uint8_t autres = octets[0] >= 0x80 && octets[0] != kAvantLatin ? 1 : 0;
+    for (std::size_t i = 1; i < taille; ++i) {
+        const std::uint8_t suite = (octets[i - 1] == kAvantLatin) & (octets[i] < 0xc0);
+        autres |= static_cast<std::uint8_t>((octets[i] >= 0x80) & (octets[i] != kAvantLatin) & (suite ^ 1));
+    }
+    return autres == 0;
+}
+
+// Such a text keeps its length: plain loops over bytes, which the compiler widens.
+void plieLatin(const std::uint8_t* octets, std::size_t taille, std::uint8_t* __restrict plis) {
+    const auto ajout = [](std::uint8_t avant, std::uint8_t octet) {
+        const std::uint8_t ascii = static_cast<std::uint8_t>(octet - 'A') < 26;
+        const std::uint8_t latine = static_cast<std::uint8_t>(octet - 0x80) < 0x1f;
+        const std::uint8_t croix = octet == 0x97;  // the sign ×, between the letters
+        const std::uint8_t suite = avant == kAvantLatin;
+        return static_cast<std::uint8_t>((ascii | (latine & suite & (croix ^ 1))) << 5);
+    };
+    plis[0] = static_cast<std::uint8_t>(octets[0] + ajout(0, octets[0]));
+    for (std::size_t i = 1; i < taille; ++i)
+        plis[i] = static_cast<std::uint8_t>(octets[i] + ajout(octets[i - 1], octets[i]));
 }
 
 std::u32string caracteresPlies(std::string_view texte) {
@@ -51,8 +78,14 @@ void plie(std::string_view texte, std::string& resultat) {
 
 std::size_t instr(std::string_view texte, std::string_view aiguillePliee) {
     thread_local std::string plis;
-    plis.clear();
-    plie(texte, plis);
+    const auto* octets = reinterpret_cast<const std::uint8_t*>(texte.data());
+    if (!texte.empty() && estLatin(octets, texte.size())) {
+        plis.resize(texte.size());
+        plieLatin(octets, texte.size(), reinterpret_cast<std::uint8_t*>(plis.data()));
+    } else {
+        plis.clear();
+        plie(texte, plis);
+    }
     const auto octet = plis.find(aiguillePliee);
     if (octet == std::string::npos) return 0;
     const auto debutDeCaractere = [](char c) { return (static_cast<unsigned char>(c) & 0xc0) != 0x80; };

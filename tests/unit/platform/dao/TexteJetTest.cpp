@@ -1,4 +1,5 @@
 #include "platform/dao/TexteJet.h"
+#include "platform/dao/Utf8.h"
 
 #include <gtest/gtest.h>
 
@@ -19,6 +20,18 @@ TEST(Instr, IgnoresCaseAndKeepsAccents) {
         EXPECT_EQ(instr(cas.texte, plis), cas.position) << cas.texte << " / " << cas.cherche;
     }
     EXPECT_EQ(instr("\xe9t\xe9 x", "x"), 5U);  // bytes of another encoding are carried
+}
+
+// Latin letters are folded many at a time, the others one by one: both ways give the same.
+TEST(Instr, FoldsEveryLetterAlike) {
+    for (char32_t point = 1; point < 0x250; ++point) {
+        std::string texte = "L'Œ";
+        dao::interne::ecritCaractere(point, texte);
+        std::string plis;
+        dao::interne::plie(texte, plis);
+        EXPECT_EQ(instr(texte, plis), 1U) << texte;
+        EXPECT_EQ(instr(texte.substr(4), plis.substr(4)), 1U) << texte;  // without the letter of another alphabet
+    }
 }
 
 TEST(Motif, KnowsJetsWildcards) {
