@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Mesure.h"
 #include "app/Session.h"
 #include "doubles/DocumentsEnregistres.h"
 #include "doubles/EcranMuet.h"
@@ -19,6 +20,7 @@ class DialoguesDociles final : public dialogues::Dialogues {
     int MsgBox(const std::string& texte, int style, const std::string&) override {
         if (style == dialogues::kInformation) {
             m_rapport = texte;
+            m_heureDuRapport = maintenant();
             return dialogues::kOk;
         }
         if (style != dialogues::kQuestion) throw std::runtime_error(texte);
@@ -30,10 +32,12 @@ class DialoguesDociles final : public dialogues::Dialogues {
     std::string choisitDossier(const std::string&, const std::string&) override { return ""; }
 
     [[nodiscard]] const std::string& rapport() const { return m_rapport; }
+    [[nodiscard]] double heureDuRapport() const { return m_heureDuRapport; }
 
   private:
     bool m_ressemblance;
     std::string m_rapport;  // the last message that only informed
+    double m_heureDuRapport = 0;
 };
 
 // What a session needs around it when there is no window.
