@@ -5,6 +5,7 @@
 #include "ui/Composition.h"
 #include "ui/EcranQt.h"
 #include "ui/FenetreAffiche.h"
+#include "ui/FenetreFichiers.h"
 #include "ui/Icones.h"
 #include "ui/Infobulles.h"
 #include "ui/PanneauAccueil.h"
@@ -103,10 +104,7 @@ void FenetrePrincipale::completePanneaux() {
     setWindowIcon(icone(Pictogramme::Clap));
     // The windows that follow the film. The viewer is composed when it first opens; nothing opens the other yet.
     new FenetreAffiche(m_atelier, this);
-    auto* fichiers = nomme(new QWidget(this, Qt::Window), "frmFichiersFilm");
-    m_atelier.liaison.apresEcriture([=, fiche = &m_atelier.etats().fiche] {
-        fichiers->setWindowTitle(QString::fromStdString(fiche->captionFichiers));
-    });
+    new FenetreFichiers(m_atelier, this);
 }
 
 void FenetrePrincipale::suitLesCommandes() {

@@ -105,7 +105,8 @@ const std::vector<std::pair<const char*, int>> kControles = {{"lblNom1", 0},
                                                              {"MenuClicDroitSupport", 0},
                                                              {"MenuClicDroitGenre", 0},
                                                              {"frmAffiche", 0},
-                                                             {"frmFichiersFilm", 0}};
+                                                             {"frmFichiersFilm", 0},
+                                                             {"Command1", 4}};
 
 TEST(Noms, EveryControlIsFoundOnceByItsPublishedName) {
     ProgrammeDEssai essai;
