@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QLabel>
@@ -47,6 +48,15 @@ void faitDefiler(QMessageBox& boite) {
     zone->setFrameShape(QFrame::NoFrame);
     zone->setMinimumSize(520, 340);
 }
+
+// Qt's French catalogue lacks the names of the kinds of files that its box shows.
+class NaturesEnFrancais final : public QFileIconProvider {
+  public:
+    [[nodiscard]] QString type(const QFileInfo& fichier) const override {
+        if (fichier.isDir()) return QObject::tr("Dossier");
+        return fichier.suffix().isEmpty() ? QObject::tr("Fichier") : QObject::tr("Fichier %1").arg(fichier.suffix());
+    }
+};
 
 std::string choisit(QFileDialog& boite, const std::string& dossier) {
     boite.setOption(QFileDialog::DontUseNativeDialog);  // a desktop's own would speak the desktop's language
@@ -97,7 +107,9 @@ std::string DialoguesQt::InputBox(const std::string& invite, const std::string& 
 
 std::string DialoguesQt::choisitFichier(const dialogues::DemandeFichier& demande) {
     m_liaison.ecrit();
+    NaturesEnFrancais natures;  // outlives the box that asks it
     QFileDialog boite(parent(), qt(demande.titre));
+    boite.setIconProvider(&natures);
     boite.setNameFilter(filtreQt(demande.filtre));
     boite.setFileMode(demande.peutCreer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     return choisit(boite, demande.dossier);
@@ -105,7 +117,9 @@ std::string DialoguesQt::choisitFichier(const dialogues::DemandeFichier& demande
 
 std::string DialoguesQt::choisitDossier(const std::string& titre, const std::string& dossierInitial) {
     m_liaison.ecrit();
+    NaturesEnFrancais natures;
     QFileDialog boite(parent(), qt(titre));
+    boite.setIconProvider(&natures);
     boite.setFileMode(QFileDialog::Directory);
     boite.setOption(QFileDialog::ShowDirsOnly);
     return choisit(boite, dossierInitial);
