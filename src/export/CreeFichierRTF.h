@@ -1,0 +1,41 @@
+#pragma once
+
+#include "db/Base.h"
+#include "db/Chemins.h"
+#include "export/EtatNom.h"
+#include "platform/dialogues/Dialogues.h"
+#include "platform/ecran/Ecran.h"
+
+#include <string>
+
+namespace view {
+class LanceFichier;
+}
+
+namespace exportation {
+
+// The list of the owned titles as an RTF document, then opened.
+//
+// The file is asked for first, and what stood there is replaced by the whole list or not at all: a list that cannot be
+// written ends quietly, and so does one that the user stops. Meanwhile the two halves of the program's name show how far
+// it is; they are the name again however it ends.
+class CreeFichierRTF {
+  public:
+    CreeFichierRTF(db::Base& base, const db::Chemins& chemins, EtatNom& nom, ecran::Ecran& ecran,
+                   dialogues::Dialogues& dialogues, view::LanceFichier& lanceFichier)
+        : m_base(base), m_chemins(chemins), m_nom(nom), m_ecran(ecran), m_dialogues(dialogues), m_lance(lanceFichier) {}
+
+    // `reponseTri`: kOui when the list is sorted by genre, whose headings it then has. Throws db::RequeteEchouee when
+    // the listing cannot be opened.
+    void operator()(const std::string& clauseOrderBy, int reponseTri);
+
+  private:
+    db::Base& m_base;
+    const db::Chemins& m_chemins;
+    EtatNom& m_nom;
+    ecran::Ecran& m_ecran;
+    dialogues::Dialogues& m_dialogues;
+    view::LanceFichier& m_lance;
+};
+
+}  // namespace exportation
