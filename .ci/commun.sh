@@ -1,7 +1,8 @@
 # What ./run and ./check share. Sourced with $racine set to the checkout; nothing here needs a terminal.
 
 # What builds and runs the program; ./check adds what tests need.
-paquets_programme=(g++ cmake ninja-build qt6-base-dev qt6-translations-l10n libsqlite3-dev libicu-dev xdg-utils)
+paquets_programme=(g++ cmake ninja-build qt6-base-dev qt6-translations-l10n libsqlite3-dev libicu-dev
+                    pkg-config libglib2.0-dev mdbtools-dev xdg-utils)
 paquets_essais=(libgtest-dev libgmock-dev)
 
 dit() { printf '%s\n' "$*"; }
@@ -27,7 +28,7 @@ absents() {
 installe() {
   if ! command -v dpkg-query apt-get >/dev/null; then
     command -v cmake ninja g++ >/dev/null ||
-      echoue "This is no Debian system: install a C++20 compiler, CMake 3.25, Ninja, Qt 6.4, SQLite 3.40 and ICU 72 yourself, then start again."
+      echoue "This is no Debian system: install a C++20 compiler, CMake 3.25, Ninja, Qt 6.4, SQLite 3.40, ICU 72, GLib and libmdb 1.0 yourself, then start again."
     return 0
   fi
   local manque=() admin=() journal debut=$SECONDS

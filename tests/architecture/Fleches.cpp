@@ -18,6 +18,7 @@ const std::map<std::string, int> kNiveaux = {
     {"platform/dialogues", 1},
     {"platform/ecran", 1},
     {"platform/fichiers", 1},
+    {"platform/jet", 1},
     {"platform/systeme", 1},
     {"platform/texteriche", 1},
     {"db", 2},
@@ -38,6 +39,7 @@ struct Reserve {
 const std::vector<Reserve> kEntetesReserves = {
     {std::regex(R"(Q[A-Z].*|Qt.*)"), "ui"},
     {std::regex(R"(sqlite3\.h)"), "platform/dao"},
+    {std::regex(R"(mdbtools\.h|glib\.h)"), "platform/jet"},
     {std::regex(R"(spawn\.h|sys/wait\.h)"), "platform/systeme"},
 };
 const std::vector<Reserve> kAppelsReserves = {

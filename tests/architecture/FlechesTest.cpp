@@ -58,11 +58,12 @@ TEST_F(Fleches, ArrowsUpwardAndSidewaysAreFaults) {
 TEST_F(Fleches, ReservedThingsStayInTheirRoom) {
     EXPECT_THAT(juge("app/A.cpp",
                      "#include <QString>\n#include <QtCore/QFile>\n#include <sqlite3.h>\n"
-                     "#include <sys/wait.h>\nif (::fork() == 0) execlp (a, b);\n"),
+                     "#include <mdbtools.h>\n#include <sys/wait.h>\nif (::fork() == 0) execlp (a, b);\n"),
                 ElementsAre("app/A.cpp:1: QString belongs to ui alone", "app/A.cpp:2: QtCore/QFile belongs to ui alone",
                             "app/A.cpp:3: sqlite3.h belongs to platform/dao alone",
-                            "app/A.cpp:4: sys/wait.h belongs to platform/systeme alone",
-                            "app/A.cpp:5: fork() belongs to platform/systeme alone"));
+                            "app/A.cpp:4: mdbtools.h belongs to platform/jet alone",
+                            "app/A.cpp:5: sys/wait.h belongs to platform/systeme alone",
+                            "app/A.cpp:6: fork() belongs to platform/systeme alone"));
 }
 
 TEST_F(Fleches, OnlyTheLibrarysOwnCallsAreProcessCalls) {

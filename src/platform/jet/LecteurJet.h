@@ -1,0 +1,81 @@
+#pragma once
+
+#include "platform/jet/ErreurJet.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Genuine Jet bases (Access 97, 2000, 2002 and 2003), read exactly as they are and never written to. Whatever the file
+// holds, a call ends in an answer or in an ErreurJet, in memory and time that the size of the file bounds.
+namespace jet {
+
+// The file says of itself that it is a Jet base (its bytes 4 to 18 are "Standard Jet DB"). False when it cannot be read.
+[[nodiscard]] bool estBaseJet(const std::string& chemin);
+
+enum class Nature { Texte, Memo, Nombre, Booleen, Date, Octets };
+
+struct Champ {
+    std::string nom;
+    Nature nature;
+};
+
+struct Table {
+    std::string nom;
+    std::vector<Champ> champs;          // in their order in the rows handed; empty when the definition is damaged
+    std::uint32_t lignesDeclarees = 0;  // how many rows the file says the table has
+    std::uint32_t page = 0;             // where its definition stands
+};
+
+// The fields of a row in the order of Table::champs: nothing for Null, "" for an empty text. Texts are UTF-8. Numbers
+// are written as SQLite reads them ("7", "7.5"), True is "-1" and False "0". A date is "dd/MM/yyyy", followed by
+// " HH:mm:ss" unless it is midnight. Binary fields are their bytes; a replication id is "{xxxxxxxx-xxxx-...}".
+using Ligne = std::span<const std::optional<std::string>>;
+
+// Takes a row, whose texts are good until it returns; false stops the reading.
+using Recepteur = std::function<bool(Ligne)>;
+
+// How a reading ended.
+struct Bilan {
+    std::uint32_t lignesLues = 0;        // rows handed
+    std::uint32_t affichesAlterees = 0;  // posters with characters outside code page 1252, each of them handed as "?"
+    bool interrompu = false;             // the receiver stopped it
+};
+
+struct Avancement {
+    std::uint64_t pagesLues = 0;  // never more than `pages`
+    std::uint64_t pages = 0;      // of the whole file
+};
+
+// A base open for reading. An encoded base is read as any other; one with a password is refused.
+class Lecteur {
+  public:
+    explicit Lecteur(const std::string& chemin);
+    Lecteur(Lecteur&&) noexcept;
+    Lecteur& operator=(Lecteur&&) noexcept;
+    ~Lecteur();
+
+    // The user's tables, in the file's order.
+    [[nodiscard]] const std::vector<Table>& tables() const;
+    // The table of that name, whatever its letters' case; nullptr when there is none.
+    [[nodiscard]] const Table* table(std::string_view nom) const;
+
+    // Hands every row of the table, in the file's order. In the field named `champAffiche` a text that begins with "STO"
+    // is a poster, one character per byte: it is handed as "STO" and the bytes. Nothing is handed of a damaged row; the
+    // error names the table, the row and the field.
+    Bilan parcourt(const Table& table, const Recepteur& recepteur, std::string_view champAffiche = {});
+
+    // How far the readings of this base are, all taken together.
+    [[nodiscard]] Avancement avancement() const;
+
+  private:
+    class Interieur;
+    std::unique_ptr<Interieur> m_interieur;
+};
+
+}  // namespace jet

@@ -1,0 +1,138 @@
+#include "platform/jet/Pages.h"
+
+#include "platform/jet/ErreurJet.h"
+#include "platform/jet/LecteurJet.h"
+#include "platform/jet/Octets.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <string_view>
+
+// glib.h first: the header of libmdb would include it as C.
+#include <glib.h>
+#include <mdbtools.h>
+
+namespace fs = std::filesystem;
+
+namespace jet {
+
+namespace {
+
+constexpr std::string_view kSignature = "Standard Jet DB";
+constexpr std::size_t kPlaceSignature = 4;
+constexpr std::size_t kPlaceVersion = 0x14;
+constexpr std::size_t kTailleEntete = 0x98;  // what of the first page is read here
+
+// The start of the file; nothing when it is no file or is shorter than that.
+std::optional<std::string> entete(const std::string& chemin) {
+    std::error_code erreur;
+    if (!fs::is_regular_file(chemin, erreur)) return std::nullopt;  // a pipe would keep us waiting
+    std::string octets(kTailleEntete, '\0');
+    std::ifstream flux(chemin, std::ios::binary);
+    if (!flux.read(octets.data(), static_cast<std::streamsize>(octets.size()))) return std::nullopt;
+    return octets;
+}
+
+bool aLaSignature(const std::string& octets) {
+    return std::string_view(octets).substr(kPlaceSignature).starts_with(kSignature);
+}
+
+}  // namespace
+
+bool estBaseJet(const std::string& chemin) {
+    const auto octets = entete(chemin);
+    return octets && aLaSignature(*octets);
+}
+
+namespace interne {
+
+namespace {
+
+// libmdb would say on the terminal what it cannot open: it is only given what it can.
+void refuseCeQuiNEstPasJet(const std::string& chemin) {
+    const auto octets = entete(chemin);
+    if (!octets) throw ErreurJet("La base \"" + chemin + "\" ne peut pas être lue.");
+    if (!aLaSignature(*octets)) throw ErreurJet("Le fichier \"" + chemin + "\" n'est pas une base Access.");
+    const auto version = static_cast<unsigned char>((*octets)[kPlaceVersion]);
+    if (version > 1)
+        throw ErreurJet("La base \"" + chemin + "\" est d'une version d'Access inconnue (" + std::to_string(version) +
+                        ").");
+}
+
+// A password is stored as the exclusive or of its characters and, in Jet 4, of the day the base was made.
+bool aUnMotDePasse(Page entete, bool jet4) {
+    constexpr std::size_t place = 0x42, placeDate = 0x72;
+    const std::size_t longueur = jet4 ? 40 : 20;
+    std::array<std::uint8_t, 4> masque{};
+    if (jet4) {
+        const double jour = reel64(entete, placeDate);
+        const auto entier = jour > 0 && jour < 1e9 ? static_cast<std::uint32_t>(jour) : 0;
+        for (std::size_t i = 0; i < masque.size(); ++i)
+            masque[i] = static_cast<std::uint8_t>(entier >> (8 * i));
+    }
+    for (std::size_t i = 0; i < longueur; ++i)
+        if (entete[place + i] != masque[i % masque.size()]) return true;
+    return false;
+}
+
+Format formatDe(const MdbHandle& mdb) {
+    const MdbFormatConstants& c = *mdb.fmt;
+    Format format;
+    format.jet4 = mdb.f->jet_version != MDB_VER_JET3;
+    format.taillePage = static_cast<std::size_t>(c.pg_size);
+    format.nombreDeLignes = c.row_count_offset;
+    format.table = {c.tab_num_rows_offset,  c.tab_num_cols_offset - 2u, c.tab_num_cols_offset, c.tab_num_ridxs_offset,
+                    c.tab_usage_map_offset, c.tab_cols_start_offset,    c.tab_ridx_entry_size, c.tab_col_entry_size};
+    format.colonne = {c.col_flags_offset,   c.col_size_offset,      c.tab_row_col_num_offset,
+                      c.tab_col_offset_var, c.tab_col_offset_fixed, c.col_scale_offset};
+    return format;
+}
+
+}  // namespace
+
+struct Pages::Poignee {
+    explicit Poignee(const std::string& chemin) : mdb(mdb_open(chemin.c_str(), MDB_NOFLAGS)) {}
+    Poignee(const Poignee&) = delete;
+    Poignee& operator=(const Poignee&) = delete;
+    ~Poignee() {
+        if (mdb) mdb_close(mdb);
+    }
+    MdbHandle* mdb;
+};
+
+Pages::Pages(const std::string& chemin) {
+    refuseCeQuiNEstPasJet(chemin);
+    m_poignee = std::make_unique<Poignee>(chemin);
+    const MdbHandle* mdb = m_poignee->mdb;
+    if (!mdb) throw ErreurJet("La base \"" + chemin + "\" ne peut pas être lue.");
+    m_format = formatDe(*mdb);
+    if (aUnMotDePasse(Page(mdb->pg_buf, kTailleEntete), m_format.jet4))
+        throw ErreurJet("La base \"" + chemin + "\" est protégée par un mot de passe : retirez-le avec Access.");
+    std::error_code erreur;
+    const std::uintmax_t taille = fs::file_size(chemin, erreur);
+    if (erreur) throw ErreurJet("La base \"" + chemin + "\" ne peut pas être lue.");
+    // A page number has 24 bits wherever one stands.
+    m_nombre = static_cast<std::uint32_t>(std::min<std::uintmax_t>(taille / m_format.taillePage, 1u << 24));
+}
+
+Pages::~Pages() = default;
+
+Page Pages::lit(std::uint32_t numero) {
+    if (numero == 0 || numero >= m_nombre)
+        throw ErreurJet("la page " + std::to_string(numero) + " n'est pas dans le fichier");
+    MdbHandle* mdb = m_poignee->mdb;
+    if (numero != m_courante) {
+        m_courante = 0;
+        if (mdb_read_pg(mdb, numero) != mdb->fmt->pg_size)
+            throw ErreurJet("la page " + std::to_string(numero) + " ne peut pas être lue");
+        m_courante = numero;
+        ++m_lues;
+    }
+    return {mdb->pg_buf, m_format.taillePage};
+}
+
+}  // namespace interne
+
+}  // namespace jet
