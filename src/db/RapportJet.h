@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace db {
+
+// What a genuine Jet base gave, and what of it has no place in a base of ours.
+struct RapportJet {
+    long films = 0;
+    long possessions = 0;
+    long affiches = 0;                // posters that the base itself held
+    long affichesAlterees = 0;        // those among them with characters that are no byte
+    std::vector<std::string> tables;  // left out, by name
+    std::vector<std::string> champs;  // left out, as "Films.Format"
+
+    // A line for the counts, and one for each kind of loss that there is; no line break at the end.
+    [[nodiscard]] std::string texte() const;
+};
+
+}  // namespace db
