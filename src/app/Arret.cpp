@@ -1,5 +1,6 @@
 #include "app/Arret.h"
 
+#include "app/EnregistreExtensions.h"
 #include "app/Reglages.h"
 #include "platform/fichiers/Fichiers.h"
 
@@ -7,10 +8,9 @@ namespace app {
 
 void Arret::execute(bool ecritReglages) {
     fermeBase();
-    if (ecritReglages) enregistre(m_chemins.reglages, reglages(), "Les réglages n'ont pas pu être enregistrés");
+    if (ecritReglages) enregistreReglages();
     const auto nombre = static_cast<std::size_t>(m_etats.fonctions.Combo6[0].ListCount());
-    enregistre(m_chemins.dansDossier(kFichierExtensions), texteExtensions(m_extensions, nombre),
-               "La liste des logiciels externes n'a pas pu être enregistrée");
+    enregistreExtensions(m_extensions, nombre, m_chemins, m_dialogues);
     fichiers::supprimeSelonMotif(m_chemins.dossierTmp, "*.*");
 }
 
@@ -23,8 +23,10 @@ void Arret::fermeBase() {
     }
 }
 
-void Arret::enregistre(const std::string& chemin, const std::string& texte, const std::string& quoi) {
-    if (!fichiers::remplace(chemin, texte)) m_dialogues.MsgBox(quoi + " (" + chemin + ").", dialogues::kCritique);
+void Arret::enregistreReglages() {
+    if (!fichiers::remplace(m_chemins.reglages, reglages()))
+        m_dialogues.MsgBox("Les réglages n'ont pas pu être enregistrés (" + m_chemins.reglages + ").",
+                           dialogues::kCritique);
 }
 
 std::string Arret::reglages() const {

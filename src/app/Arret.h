@@ -21,7 +21,7 @@ class Arret {
 
   private:
     void fermeBase();
-    void enregistre(const std::string& chemin, const std::string& texte, const std::string& quoi);
+    void enregistreReglages();
     [[nodiscard]] std::string reglages() const;
 
     const Etats& m_etats;

@@ -15,6 +15,7 @@ void ChoixFonction::ChoixFonction2_Outils() {
 void ChoixFonction::ChoixFonction3_Config() {
     montre(m_fonctions.frameConfig);
     metEnGras(1);
+    m_logiciels.montre();
 }
 
 void ChoixFonction::cmdConfig_Click(int indice) {

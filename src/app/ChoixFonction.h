@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/EtatFonctions.h"
+#include "app/LogicielsExternes.h"
 #include "browse/AfficheAccueil.h"
 #include "browse/EtatPanneaux.h"
 #include "edit/Command13_Click.h"
@@ -12,8 +13,12 @@ namespace app {
 class ChoixFonction final : public edit::VoletAjout {
   public:
     ChoixFonction(EtatFonctions& fonctions, browse::EtatPanneaux& panneaux, browse::AfficheAccueil& afficheAccueil,
-                  edit::ModesAjout& modesAjout)
-        : m_fonctions(fonctions), m_panneaux(panneaux), m_afficheAccueil(afficheAccueil), m_modesAjout(modesAjout) {}
+                  edit::ModesAjout& modesAjout, LogicielsExternes& logiciels)
+        : m_fonctions(fonctions),
+          m_panneaux(panneaux),
+          m_afficheAccueil(afficheAccueil),
+          m_modesAjout(modesAjout),
+          m_logiciels(logiciels) {}
 
     void ChoixFonction1_Divers();  // adding films, opened on the automatic page
     void ChoixFonction2_Outils();
@@ -29,6 +34,7 @@ class ChoixFonction final : public edit::VoletAjout {
     browse::EtatPanneaux& m_panneaux;
     browse::AfficheAccueil& m_afficheAccueil;
     edit::ModesAjout& m_modesAjout;
+    LogicielsExternes& m_logiciels;
 };
 
 }  // namespace app

@@ -11,15 +11,6 @@ void grise(Controles&... controles) {
     ((controles.Enabled = false), ...);
 }
 
-template <typename... Tableaux>
-void griseTous(Tableaux&... tableaux) {
-    const auto griseTableau = [](auto& tableau) {
-        for (auto& controle : tableau)
-            controle.Enabled = false;
-    };
-    (griseTableau(tableaux), ...);
-}
-
 void griseFiche(browse::EtatFiche& fiche) {
     grise(fiche.cmdCreeFichierTxt);
     grise(fiche.cmdFichiersFilm);
@@ -27,7 +18,6 @@ void griseFiche(browse::EtatFiche& fiche) {
 
 void griseFonctions(EtatFonctions& fonctions) {
     grise(fonctions.cmdCreerListe);
-    griseTous(fonctions.Combo6);
 }
 
 void griseAjout(edit::EtatAjout& ajout) {

@@ -15,7 +15,6 @@ constexpr const char* kZones[] = {"Mes films",        "Tous les films",     "Mes
 constexpr const char* kTris[] = {"Tri par titre - 1",   "Tri par titre - 2 ", "Tri par année",
                                  "Tri par réalisateur", "Tri par genre",      "Tri par origine",
                                  "Tri par durée",       "Tri par notation",   "Tri par support"};
-constexpr const char* kLogicielParDefaut = " Logiciel par défaut";
 
 template <typename Textes>
 void remplit(ecran::Liste& liste, const Textes& textes) {

@@ -25,6 +25,8 @@ struct EtatFonctions {
     ecran::Progression ProgressBar3;  // work over many films: deletion, renaming, correction; visible while it lasts
     ecran::CaseACocher chkLancerConnexion;
     std::array<ecran::Liste, 2> Combo6;  // extensions, programs
+    ecran::Bouton cmdParcourirLogiciel, cmdSupprExtension, cmdAjoutExtension;
+    ecran::ZoneTexte txtNouvelleExtension;
 
     ecran::Etiquette Label13;  // version
     ecran::Etiquette Label4;   // link to the program's own page

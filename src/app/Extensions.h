@@ -8,6 +8,8 @@
 namespace app {
 
 inline constexpr const char* kFichierExtensions = "Extensions.txt";
+// In the place of a program: the one of the desktop.
+inline constexpr const char* kLogicielParDefaut = " Logiciel par défaut";
 
 // The programs that open attached files: column 0 a list of extensions, column 1 the program.
 // "Extensions.txt" holds them as pairs of lines.

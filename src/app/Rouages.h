@@ -5,6 +5,7 @@
 #include "app/Arret.h"
 #include "app/ChoixFonction.h"
 #include "app/Demarrage.h"
+#include "app/LogicielsExternes.h"
 #include "app/RaccourcisClavier.h"
 #include "app/Session.h"
 #include "browse/AfficheNbTitres.h"
@@ -134,7 +135,8 @@ struct Session::Rouages final : db::Rafraichissement {
     edit::CorrectionTitres correctionTitres{base, etats.panneaux, outilsTravail, suites};
 
     // Life of the window.
-    ChoixFonction choixFonction{etats.fonctions, etats.panneaux, afficheAccueil, modesAjout};
+    LogicielsExternes logiciels{etats.fonctions, extensions, chemins, machine.dialogues, etats.demandes};
+    ChoixFonction choixFonction{etats.fonctions, etats.panneaux, afficheAccueil, modesAjout, logiciels};
     edit::cmdModifierTitre_Click cmdModifierTitre{base,          etats.ajout, film,
                                                   choixFonction, modesAjout,  machine.dialogues};
     RaccourcisClavier raccourcis{

@@ -204,6 +204,22 @@ void Session::Label4_Click() {
     ouvreLien(kPageAmbrelis, m_rouages->machine.documents, m_rouages->machine.dialogues);
 }
 
+void Session::Combo6_Click(int indice) {
+    m_rouages->logiciels.Combo6_Click(indice);
+}
+
+void Session::cmdParcourirLogiciel_Click() {
+    m_rouages->logiciels.cmdParcourirLogiciel_Click();
+}
+
+void Session::cmdAjoutExtension_Click() {
+    m_rouages->logiciels.cmdAjoutExtension_Click();
+}
+
+void Session::cmdSupprExtension_Click() {
+    m_rouages->logiciels.cmdSupprExtension_Click();
+}
+
 void Session::cmdChargeOuvreBase_Click() {
     m_rouages->surLaBase([this] { m_rouages->cmdChargeOuvreBase(); });
 }

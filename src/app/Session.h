@@ -82,6 +82,12 @@ class Session {
     void Image3_Click();
     void Label4_Click();
 
+    // Programs of the attached files, by extension; the indexes are those of Combo6.
+    void Combo6_Click(int indice);
+    void cmdParcourirLogiciel_Click();
+    void cmdAjoutExtension_Click();
+    void cmdSupprExtension_Click();
+
     // Base and posters.
     void cmdChargeOuvreBase_Click();
     void Option3_Click();

@@ -2,12 +2,19 @@
 
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
+#include "ui/Infobulles.h"
 #include "ui/Sections.h"
 
 #include <QProgressBar>
 #include <QRadioButton>
 
 namespace ui {
+
+namespace {
+
+constexpr int kLargeurExtension = 160;
+
+}  // namespace
 
 PanneauConfig::PanneauConfig(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
     nomme(this, "frameConfig");
@@ -55,19 +62,52 @@ QLayout* PanneauConfig::images(const Atelier& atelier) {
 
 QLayout* PanneauConfig::logiciels(const Atelier& atelier) {
     auto& fonctions = atelier.etats().fonctions;
-    auto* extensions = nomme(new ListeDeroulante, "Combo6", 0);
-    auto* programmes = nomme(new ListeDeroulante, "Combo6", 1);
-    for (QComboBox* liste : {extensions, programmes}) {
-        liste->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        liste->setMinimumContentsLength(10);
-    }
-    atelier.liaison.lie(fonctions.Combo6[0], extensions);
-    atelier.liaison.lie(fonctions.Combo6[1], programmes);
+    auto* choisir =
+        bouton("cmdParcourirLogiciel", tr("C&hoisir…"), tr("Choisir le programme qui ouvrira ces fichiers"));
+    auto* supprimer = bouton("cmdSupprExtension", tr("Suppri&mer"), tr("Retirer l'extension de la liste"));
+    atelier.liaison.lie(fonctions.cmdParcourirLogiciel, choisir);
+    atelier.liaison.lie(fonctions.cmdSupprExtension, supprimer);
+    atelier.auClic(choisir, &app::Session::cmdParcourirLogiciel_Click);
+    atelier.auClic(supprimer, &app::Session::cmdSupprExtension_Click);
+    auto* programmes = listeLogiciels(atelier, 1);
+    atelier.liaison.apresEcriture([programmes] { programmes->setToolTip(enInfobulle(programmes->currentText())); });
+
     auto* boite = section(atelier, Aide::Logiciels);
     auto* ligne = rangee({}, kMoyen);
-    ligne->addLayout(champ(tr("E&xtension"), extensions), 1);
-    ligne->addLayout(champ(tr("Log&iciel"), programmes), 2);
+    ligne->addLayout(champ(tr("E&xtension"), listeLogiciels(atelier, 0)), 1);
+    ligne->addLayout(champ(tr("Log&iciel"), programmes), 3);
+    auto* boutons = rangee({choisir, supprimer});
+    boutons->setAlignment(Qt::AlignBottom);
+    ligne->addLayout(boutons);
     boite->addLayout(ligne);
+    boite->addLayout(nouvelleExtension(atelier));
+    return boite;
+}
+
+ListeDeroulante* PanneauConfig::listeLogiciels(const Atelier& atelier, int indice) {
+    auto* liste = nomme(new ListeDeroulante, "Combo6", static_cast<std::size_t>(indice));
+    liste->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    liste->setMinimumContentsLength(8);
+    atelier.liaison.lie(atelier.etats().fonctions.Combo6[static_cast<std::size_t>(indice)], liste);
+    QObject::connect(
+        liste, &QComboBox::activated, &atelier.commande,
+        [s = &atelier.session, c = &atelier.commande, indice] { c->execute([=] { s->Combo6_Click(indice); }); });
+    return liste;
+}
+
+QLayout* PanneauConfig::nouvelleExtension(const Atelier& atelier) {
+    auto& fonctions = atelier.etats().fonctions;
+    auto* texte = nomme(new QLineEdit, "txtNouvelleExtension");
+    texte->setPlaceholderText(tr("par exemple avi"));
+    texte->setFixedWidth(kLargeurExtension);
+    auto* ajouter = bouton("cmdAjoutExtension", tr("A&jouter"), tr("Ajouter cette extension à la liste (Entrée)"));
+    atelier.liaison.lie(fonctions.txtNouvelleExtension, texte);
+    atelier.liaison.lie(fonctions.cmdAjoutExtension, ajouter);
+    atelier.auClic(ajouter, &app::Session::cmdAjoutExtension_Click);
+    QObject::connect(texte, &QLineEdit::returnPressed, ajouter, &QAbstractButton::click);
+    auto* boite = colonne(kSerre);
+    boite->addWidget(legende(tr("&Nouvelle extension"), texte));
+    boite->addLayout(aGauche({texte, ajouter}));
     return boite;
 }
 

@@ -6,6 +6,8 @@
 
 namespace ui {
 
+class ListeDeroulante;
+
 // The settings: where posters are kept, programs, the program itself.
 class PanneauConfig final : public QWidget {
     Q_OBJECT
@@ -15,6 +17,8 @@ class PanneauConfig final : public QWidget {
   private:
     [[nodiscard]] QLayout* images(const Atelier& atelier);
     [[nodiscard]] QLayout* logiciels(const Atelier& atelier);
+    [[nodiscard]] ListeDeroulante* listeLogiciels(const Atelier& atelier, int indice);
+    [[nodiscard]] QLayout* nouvelleExtension(const Atelier& atelier);
     [[nodiscard]] QLayout* programme(const Atelier& atelier);
 };
 

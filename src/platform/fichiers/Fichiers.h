@@ -17,6 +17,7 @@ namespace fichiers {
 [[nodiscard]] std::optional<std::string> trouve(const std::string& chemin);
 
 [[nodiscard]] bool existe(const std::string& chemin);  // a file that trouve finds; a folder is none
+[[nodiscard]] bool executable(const std::string& chemin);  // a file that may be run
 [[nodiscard]] bool dossierExiste(const std::string& chemin);
 [[nodiscard]] bool dossierModifiable(const std::string& chemin);  // files can be made and deleted in it
 // Which file a path leads to, the same for all of its names; empty when there is none.

@@ -93,6 +93,10 @@ std::optional<std::pair<std::uint64_t, std::uint64_t>> identite(const std::strin
     return std::pair<std::uint64_t, std::uint64_t>(infos.st_dev, infos.st_ino);
 }
 
+bool executable(const std::string& chemin) {
+    return longueur(chemin) >= 0 && access(cheminLisible(chemin).c_str(), X_OK) == 0;
+}
+
 std::int64_t longueur(const std::string& chemin) {
     struct stat infos {};
     return stat(cheminLisible(chemin).c_str(), &infos) == 0 && S_ISREG(infos.st_mode) ? infos.st_size : -1;
