@@ -80,6 +80,12 @@ int Jeu::rang(std::string_view nom) const {
     return -1;
 }
 
+int Jeu::rangDeParcours(std::string_view nom) {
+    const int trouve = rang(nom);
+    if (trouve >= 0) vaParcourir(m_champs[static_cast<std::size_t>(trouve)]);
+    return trouve;
+}
+
 Valeur Jeu::litDansLaBase(ChampDeJeu champ, long long ligne) const {
     return litChamp(connexion(), table(champ.table), champ.colonne, ligne);
 }

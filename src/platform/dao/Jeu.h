@@ -30,6 +30,7 @@ class Jeu {
     [[nodiscard]] long compte();
 
     [[nodiscard]] int rang(std::string_view nom) const;  // -1: no such field
+    [[nodiscard]] int rangDeParcours(std::string_view nom);  // the same, for `vue` over many records
     [[nodiscard]] Valeur valeur(int rangDeChamp);
     [[nodiscard]] std::string_view vue(int rangDeChamp);  // until the next call
 
@@ -57,7 +58,8 @@ class Jeu {
     [[nodiscard]] virtual const long long* ligne(int rangDeTable) = 0;
     [[nodiscard]] virtual long combien() = 0;
     [[nodiscard]] virtual Valeur lit(ChampDeJeu champ) = 0;
-    // True with the text when it is at hand without asking the base.
+    virtual void vaParcourir(ChampDeJeu) {}
+    // True with the text when it is at hand without asking the base for this field alone.
     [[nodiscard]] virtual bool litVue(ChampDeJeu champ, std::string_view& texte) = 0;
     [[nodiscard]] virtual bool estModifiable() const { return true; }
     virtual void accueille(const std::vector<long long>& lignes) = 0;  // a new record, added at the end

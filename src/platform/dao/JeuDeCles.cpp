@@ -29,6 +29,7 @@ std::vector<int> rangsPortes(const TableDuPlan& table) {
 JeuDeCles::JeuDeCles(Connexion& connexion, const Plan& plan, Resultat resultat)
     : Jeu(connexion, tablesDe(plan), plan.champs),
       m_resultat(std::move(resultat)),
+      m_avances(plan.tables.size()),
       m_fige(plan.distinct),
       m_version(connexion.version()),
       m_epoque(connexion.epoque()) {
@@ -90,9 +91,37 @@ bool JeuDeCles::litVue(ChampDeJeu champ, std::string_view& texte) {
     exigePresent();
     Magasin::Valeur valeur{};
     if (ligne(champ.table) == nullptr) return true;
-    if (!gardee(champ, valeur)) return false;
+    if (!gardee(champ, valeur)) return litDAvance(champ, texte);
     texte = valeur.texte;
     return true;
+}
+
+void JeuDeCles::vaParcourir(ChampDeJeu champ) {
+    m_avances[static_cast<std::size_t>(champ.table)].demande(champ.colonne);
+}
+
+bool JeuDeCles::litDAvance(ChampDeJeu champ, std::string_view& texte) {
+    LectureDAvance& avance = m_avances[static_cast<std::size_t>(champ.table)];
+    Connexion& base = connexion();
+    const Table& lue = table(champ.table);
+    const long long id = *ligne(champ.table);
+    auto trouve = avance.texte(m_position, id, champ.colonne, base, lue);
+    if (!trouve) {
+        avance.lit(m_position, lignesDepuis(champ.table, avance.combienDepuis(m_position)), base, lue);
+        trouve = avance.texte(m_position, id, champ.colonne, base, lue);
+    }
+    if (trouve) texte = *trouve;
+    return trouve.has_value();
+}
+
+std::vector<std::optional<long long>> JeuDeCles::lignesDepuis(int rangDeTable, std::size_t nombre) const {
+    const auto t = static_cast<std::size_t>(rangDeTable);
+    const std::vector<std::uint32_t>& rangs = m_resultat.lignes[t];
+    const auto debut = static_cast<std::size_t>(m_position);
+    std::vector<std::optional<long long>> lignes;
+    for (std::size_t p = debut; p < std::min(debut + nombre, rangs.size()); ++p)
+        lignes.push_back(rangs[p] == kSansLigne ? std::nullopt : std::optional(m_resultat.magasins[t].id(rangs[p])));
+    return lignes;
 }
 
 void JeuDeCles::accueille(const std::vector<long long>& lignes) {

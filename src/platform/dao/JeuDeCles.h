@@ -1,9 +1,11 @@
 #pragma once
 
 #include "platform/dao/Jeu.h"
+#include "platform/dao/LectureDAvance.h"
 #include "platform/dao/Resultat.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace dao::interne {
@@ -22,6 +24,7 @@ class JeuDeCles : public Jeu {
     [[nodiscard]] const long long* ligne(int rangDeTable) override;
     [[nodiscard]] long combien() override { return taille(); }
     [[nodiscard]] Valeur lit(ChampDeJeu champ) override;
+    void vaParcourir(ChampDeJeu champ) override;
     [[nodiscard]] bool litVue(ChampDeJeu champ, std::string_view& texte) override;
     [[nodiscard]] bool estModifiable() const override { return !m_fige; }
     void accueille(const std::vector<long long>& lignes) override;
@@ -30,11 +33,14 @@ class JeuDeCles : public Jeu {
     [[nodiscard]] long taille() const { return static_cast<long>(m_resultat.lignes[0].size()); }
     [[nodiscard]] std::uint32_t place(int rangDeTable) const;
     [[nodiscard]] bool gardee(ChampDeJeu champ, Magasin::Valeur& valeur);
+    [[nodiscard]] bool litDAvance(ChampDeJeu champ, std::string_view& texte);
+    [[nodiscard]] std::vector<std::optional<long long>> lignesDepuis(int rangDeTable, std::size_t nombre) const;
     void exigePresent();
 
     Resultat m_resultat;
     std::vector<std::vector<int>> m_rangs;  // for each table and column, where it is kept with the rows, or -1
     std::vector<std::size_t> m_lues;        // for each table, the rows that the statement brought; added ones follow
+    std::vector<LectureDAvance> m_avances;  // for each table
     bool m_fige;                            // DISTINCT: values that belong to no row
     std::uint64_t m_version;
     std::uint64_t m_epoque;

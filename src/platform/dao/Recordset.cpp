@@ -51,7 +51,7 @@ Valeur Recordset::valeur(std::string_view nom) const {
 }
 
 Colonne Recordset::colonne(std::string_view nom) const {
-    return {ouvert(m_jeu).rang(nom)};
+    return {ouvert(m_jeu).rangDeParcours(nom)};
 }
 std::string_view Recordset::vue(Colonne colonne) const {
     return ouvert(m_jeu).vue(colonne.rang);

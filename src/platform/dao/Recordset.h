@@ -67,7 +67,8 @@ class Recordset {
     [[nodiscard]] std::string texte(std::string_view nom) const { return valeur(nom).texte(); }
 
     // For one pass over many records: the column once, then its text ("" for Null) at each record.
-    // The view holds until the next call on this recordset.
+    // The view holds until the next call on this recordset. Of a statement's records, fields that it does not carry along
+    // are read for several records at once.
     [[nodiscard]] Colonne colonne(std::string_view nom) const;
     [[nodiscard]] std::string_view vue(Colonne colonne) const;
 

@@ -86,6 +86,43 @@ TEST_F(JeuxTest, KeptValuesFollowEveryonesUpdates) {
     EXPECT_EQ(numeroErreur([&] { (void)liste.texte("Titre"); }), dao::kErreurEnregistrementSupprime);
 }
 
+// Fields that the records do not carry are read ahead, for as many records as the walk is long.
+TEST_F(JeuxTest, AWalkReadsAheadAndFollowsEveryChange) {
+    base.Execute("DELETE FROM Films; DELETE FROM Personnel");
+    {
+        dao::Transaction transaction(base);
+        for (int i = 100; i < 300; ++i) {
+            const std::string n = std::to_string(i);
+            essai.ajoute("Films", {{"Titre", n}, {"Realisateur", "x"}, {"Resume", i % 2 ? dao::Valeur() : "r" + n}});
+            essai.ajoute("Personnel", {{"Titre2", n}, {"Realisateur2", "x"}, {"Divers", "d" + n}});
+        }
+        transaction.confirme();
+    }
+    dao::Recordset jeu = base.OpenRecordset(
+        "SELECT * FROM Films INNER JOIN Personnel ON Films.Titre = Personnel.Titre2 and "
+        "Films.realisateur=Personnel.realisateur2 ORDER BY titre2 asc ;");
+    const dao::Colonne titre = jeu.colonne("Titre"), divers = jeu.colonne("Divers"), resume = jeu.colonne("Resume");
+    for (int i = 100; i < 300; ++i, jeu.MoveNext()) {
+        const std::string n = std::to_string(i);
+        if (i == 252) {  // deleted below
+            EXPECT_EQ(numeroErreur([&] { (void)jeu.vue(resume); }), dao::kErreurEnregistrementSupprime);
+            continue;
+        }
+        EXPECT_EQ(jeu.vue(titre), n);
+        EXPECT_EQ(jeu.vue(divers), i == 251 ? "ici" : "d" + n);
+        EXPECT_EQ(jeu.vue(resume), i == 254 ? "ailleurs" : i % 2 ? "" : "r" + n);
+        if (i != 250) continue;
+        dao::Recordset autre = base.OpenRecordset("SELECT * FROM Personnel WHERE Titre2 = \"251\"");
+        autre.Edit();
+        autre.assigne("Divers", "ici");
+        autre.Update();
+        base.OpenRecordset("SELECT * FROM Films WHERE Titre = \"252\"").Delete();
+        parUnAutreProgramme(essai.chemin, "UPDATE Films SET Resume = 'ailleurs' WHERE Titre = '254'");  // not locked out
+        (void)jeu.RecordCount();  // the time at which other programs' changes are looked for
+    }
+    EXPECT_TRUE(jeu.Eof());
+}
+
 TEST_F(JeuxTest, TheSortedColumnMayBeEditedWhileWalking) {
     dao::Recordset liste = base.OpenRecordset("SELECT titre FROM films ORDER BY titre");
     for (; !liste.Eof(); liste.MoveNext()) {
