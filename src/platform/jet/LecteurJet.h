@@ -44,6 +44,7 @@ using Recepteur = std::function<bool(Ligne)>;
 struct Bilan {
     std::uint32_t lignesLues = 0;        // rows handed
     std::uint32_t affichesAlterees = 0;  // posters with characters outside code page 1252, each of them handed as "?"
+    std::uint32_t pagesEcartees = 0;     // pages listed as the table's own that are not; they are passed over
     bool interrompu = false;             // the receiver stopped it
 };
 

@@ -1,38 +1,45 @@
 #pragma once
 
-#include "platform/jet/ErreurJet.h"
-#include "platform/jet/Pages.h"
+#include "platform/jet/Dommage.h"
 
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
-// For this room only: little-endian values out of a page. Every reading is checked: a place outside is damage.
+// For this room only: little-endian values out of a page or a piece of one. A place outside of it is damage.
 namespace jet::interne {
 
-inline Page morceau(Page octets, std::size_t place, std::size_t longueur) {
-    if (place > octets.size() || longueur > octets.size() - place) throw ErreurJet("un renvoi sort de sa page");
+using Octets = std::span<const std::uint8_t>;
+
+inline Octets morceau(Octets octets, std::size_t place, std::size_t longueur) {
+    if (place > octets.size() || longueur > octets.size() - place) throw Dommage("un renvoi sort de sa page");
     return octets.subspan(place, longueur);
 }
 
-inline std::uint64_t entier(Page octets, std::size_t place, std::size_t longueur) {
-    const Page lus = morceau(octets, place, longueur);
+inline Octets entre(Octets octets, std::size_t debut, std::size_t fin) {
+    if (fin < debut) throw Dommage("un champ finit avant son début");
+    return morceau(octets, debut, fin - debut);
+}
+
+inline std::uint64_t entier(Octets octets, std::size_t place, std::size_t longueur) {
+    const Octets lus = morceau(octets, place, longueur);
     std::uint64_t valeur = 0;
     for (std::size_t i = longueur; i-- > 0;)
         valeur = valeur << 8 | lus[i];
     return valeur;
 }
 
-inline std::uint8_t u8(Page octets, std::size_t place) {
+inline std::uint8_t u8(Octets octets, std::size_t place) {
     return morceau(octets, place, 1)[0];
 }
-inline std::uint16_t u16(Page octets, std::size_t place) {
+inline std::uint16_t u16(Octets octets, std::size_t place) {
     return static_cast<std::uint16_t>(entier(octets, place, 2));
 }
-inline std::uint32_t u32(Page octets, std::size_t place) {
+inline std::uint32_t u32(Octets octets, std::size_t place) {
     return static_cast<std::uint32_t>(entier(octets, place, 4));
 }
-inline double reel64(Page octets, std::size_t place) {
+inline double reel64(Octets octets, std::size_t place) {
     return std::bit_cast<double>(entier(octets, place, 8));
 }
 

@@ -2,9 +2,9 @@
 
 #include "platform/jet/ErreurJet.h"
 #include "platform/jet/LecteurJet.h"
-#include "platform/jet/Octets.h"
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -62,7 +62,7 @@ void refuseCeQuiNEstPasJet(const std::string& chemin) {
 }
 
 // A password is stored as the exclusive or of its characters and, in Jet 4, of the day the base was made.
-bool aUnMotDePasse(Page entete, bool jet4) {
+bool aUnMotDePasse(Octets entete, bool jet4) {
     constexpr std::size_t place = 0x42, placeDate = 0x72;
     const std::size_t longueur = jet4 ? 40 : 20;
     std::array<std::uint8_t, 4> masque{};
@@ -108,7 +108,7 @@ Pages::Pages(const std::string& chemin) {
     const MdbHandle* mdb = m_poignee->mdb;
     if (!mdb) throw ErreurJet("La base \"" + chemin + "\" ne peut pas être lue.");
     m_format = formatDe(*mdb);
-    if (aUnMotDePasse(Page(mdb->pg_buf, kTailleEntete), m_format.jet4))
+    if (aUnMotDePasse(Octets(mdb->pg_buf, kTailleEntete), m_format.jet4))
         throw ErreurJet("La base \"" + chemin + "\" est protégée par un mot de passe : retirez-le avec Access.");
     std::error_code erreur;
     const std::uintmax_t taille = fs::file_size(chemin, erreur);
@@ -119,14 +119,14 @@ Pages::Pages(const std::string& chemin) {
 
 Pages::~Pages() = default;
 
-Page Pages::lit(std::uint32_t numero) {
+Octets Pages::lit(std::uint32_t numero) {
     if (numero == 0 || numero >= m_nombre)
-        throw ErreurJet("la page " + std::to_string(numero) + " n'est pas dans le fichier");
+        throw Dommage("la page " + std::to_string(numero) + " n'est pas dans le fichier");
     MdbHandle* mdb = m_poignee->mdb;
     if (numero != m_courante) {
         m_courante = 0;
         if (mdb_read_pg(mdb, numero) != mdb->fmt->pg_size)
-            throw ErreurJet("la page " + std::to_string(numero) + " ne peut pas être lue");
+            throw Dommage("la page " + std::to_string(numero) + " ne peut pas être lue");
         m_courante = numero;
         ++m_lues;
     }

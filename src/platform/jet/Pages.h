@@ -1,17 +1,15 @@
 #pragma once
 
-#include <array>
+#include "platform/jet/Octets.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <span>
 #include <string>
 
 // For this room only: the file as numbered pages, decoded. Nothing but opening, page reading and the places of the two
 // formats' fields is asked of libmdb, which trusts what it finds on a page; what stands there is judged in this room.
 namespace jet::interne {
-
-using Page = std::span<const std::uint8_t>;
 
 // Where a place of the format stands, in bytes; it differs between Jet 3 and Jet 4.
 struct Format {
@@ -38,8 +36,8 @@ class Pages {
     [[nodiscard]] std::uint64_t taille() const { return std::uint64_t{m_nombre} * m_format.taillePage; }
     [[nodiscard]] std::uint64_t lues() const { return m_lues; }
 
-    // A whole page, good until the next call; throws ErreurJet when the file does not have it.
-    [[nodiscard]] Page lit(std::uint32_t numero);
+    // A whole page, good until the next call; throws Dommage when the file does not have it.
+    [[nodiscard]] Octets lit(std::uint32_t numero);
 
   private:
     struct Poignee;

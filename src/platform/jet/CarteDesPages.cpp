@@ -1,0 +1,45 @@
+#include "platform/jet/CarteDesPages.h"
+
+#include "platform/jet/Lignes.h"
+
+namespace jet::interne {
+
+namespace {
+
+constexpr std::uint8_t kEnLigne = 0, kSurDesPages = 1;
+constexpr std::uint8_t kPageDeCarte = 0x05;
+constexpr std::size_t kDebutBits = 4;  // on a map page
+
+void ajoute(std::vector<std::uint32_t>& liste, std::uint64_t premiere, Octets bits) {
+    for (std::size_t octet = 0; octet < bits.size(); ++octet)
+        for (unsigned bit = 0; bits[octet] >> bit != 0; ++bit)
+            if ((bits[octet] >> bit & 1) != 0) liste.push_back(static_cast<std::uint32_t>(premiere + octet * 8 + bit));
+}
+
+}  // namespace
+
+std::vector<std::uint32_t> pagesDeLaCarte(Pages& pages, std::uint32_t pointeur) {
+    const Octets ligne = tranche(pages.format(), pages.lit(pointeur >> 8), pointeur & 0xFF).octets;
+    const std::vector<std::uint8_t> carte(ligne.begin(), ligne.end());
+    const std::uint8_t forme = u8(carte, 0);
+    std::vector<std::uint32_t> liste;
+    if (forme == kEnLigne) {
+        const std::uint32_t premiere = u32(carte, 1);
+        ajoute(liste, premiere, Octets(carte).subspan(5));
+    } else if (forme == kSurDesPages) {
+        const std::uint64_t parPage = (pages.format().taillePage - kDebutBits) * 8;
+        std::uint64_t premiere = 0;
+        for (std::size_t place = 1; place + 4 <= carte.size(); place += 4, premiere += parPage) {
+            const std::uint32_t page = u32(carte, place);
+            if (page == 0) continue;
+            const Octets lue = pages.lit(page);
+            if (lue[0] != kPageDeCarte) throw Dommage("la carte de ses pages est illisible");
+            ajoute(liste, premiere, lue.subspan(kDebutBits));
+        }
+    } else {
+        throw Dommage("la carte de ses pages est illisible");
+    }
+    return liste;
+}
+
+}  // namespace jet::interne

@@ -1,0 +1,49 @@
+#include "platform/jet/Memos.h"
+
+namespace jet::interne {
+
+namespace {
+
+constexpr std::size_t kTailleTete = 12;
+constexpr std::uint32_t kDansLaLigne = 0x80000000, kSurUnePage = 0x40000000, kLongueur = 0x3FFFFFFF;
+constexpr std::uint32_t kProprietaire = 0x4C41564C;  // "LVAL", in the place of a table
+
+[[noreturn]] void refuse(std::uint64_t annonces, std::uint64_t trouves) {
+    throw Dommage(std::to_string(annonces) + " octets sont annoncés, " + std::to_string(trouves) + " trouvés");
+}
+
+}  // namespace
+
+Octets Memos::lit(Octets champ) {
+    if (champ.empty()) return champ;
+    const std::uint32_t tete = u32(champ, 0);
+    const std::uint32_t longueur = tete & kLongueur;
+    const std::uint32_t pointeur = u32(champ, 4);
+    const Octets suite = morceau(champ, kTailleTete, champ.size() - kTailleTete);
+    if ((tete & kDansLaLigne) != 0) {
+        if (suite.size() != longueur) refuse(longueur, suite.size());
+        return suite;
+    }
+    if (longueur == 0) return {};
+    if (longueur > m_pages.taille()) refuse(longueur, 0);
+    return rassemble(pointeur, longueur, (tete & kSurUnePage) == 0);
+}
+
+Octets Memos::rassemble(std::uint32_t pointeur, std::uint64_t longueur, bool enChaine) {
+    m_octets.clear();
+    do {
+        Octets lue = trancheA(m_pages, pointeur, kProprietaire).octets;
+        m_reserve.prend(lue.size());
+        pointeur = 0;
+        if (enChaine) {  // each row starts with the pointer to the next; 0 in the last
+            pointeur = u32(lue, 0);
+            lue = lue.subspan(4);
+            if (lue.empty()) refuse(longueur, m_octets.size());
+        }
+        m_octets.insert(m_octets.end(), lue.begin(), lue.end());
+    } while (pointeur != 0 && m_octets.size() < longueur);
+    if (pointeur != 0 || m_octets.size() != longueur) refuse(longueur, m_octets.size());
+    return m_octets;
+}
+
+}  // namespace jet::interne

@@ -1,0 +1,113 @@
+#include "platform/jet/Textes.h"
+
+#include "util/Texte.h"
+
+#include <array>
+#include <limits>
+#include <string_view>
+
+#include <unicode/ustring.h>
+
+namespace jet::interne {
+
+namespace {
+
+constexpr std::string_view kDebutAffiche = "STO";
+constexpr char16_t kRemplacement = 0xFFFD;
+
+bool estComprime(Octets texte) {
+    return texte.size() >= 2 && texte[0] == 0xFF && texte[1] == 0xFE;
+}
+
+char16_t unite(Octets texte, std::size_t place) {
+    return static_cast<char16_t>(texte[place] | texte[place + 1] << 8);
+}
+
+std::u16string developpe(Octets texte) {
+    std::u16string unites;
+    unites.reserve(texte.size());
+    bool comprime = true;
+    for (std::size_t i = 2; i < texte.size();) {
+        if (texte[i] == 0) {
+            comprime = !comprime;
+            ++i;
+        } else if (comprime) {
+            unites += texte[i++];
+        } else if (i + 1 < texte.size()) {
+            unites += unite(texte, i);
+            i += 2;
+        } else {
+            throw Dommage("un texte finit au milieu d'un caractère");
+        }
+    }
+    return unites;
+}
+
+std::u16string unites(Octets texte) {
+    if (estComprime(texte)) return developpe(texte);
+    if (texte.size() % 2 != 0) throw Dommage("un texte finit au milieu d'un caractère");
+    std::u16string lues(texte.size() / 2, u'\0');
+    for (std::size_t i = 0; i < lues.size(); ++i)
+        lues[i] = unite(texte, 2 * i);
+    return lues;
+}
+
+std::string_view brut(Octets texte) {
+    return {reinterpret_cast<const char*>(texte.data()), texte.size()};
+}
+
+// The byte of each UTF-16 unit in code page 1252; "?" where there is none.
+using OctetsDesUnites = std::array<std::uint8_t, std::numeric_limits<char16_t>::max() + std::size_t{1}>;
+
+OctetsDesUnites construitOctetsDesUnites() {
+    OctetsDesUnites octets;
+    octets.fill('?');
+    std::string tous(256, '\0');
+    for (std::size_t i = 0; i < tous.size(); ++i)
+        tous[i] = static_cast<char>(i);
+    std::array<UChar, 256> caracteres{};
+    UErrorCode etat = U_ZERO_ERROR;
+    const std::string utf8 = util::depuis1252(tous);
+    u_strFromUTF8(caracteres.data(), 256, nullptr, utf8.data(), static_cast<std::int32_t>(utf8.size()), &etat);
+    for (std::size_t i = 0; i < caracteres.size(); ++i)
+        octets[caracteres[i]] = static_cast<std::uint8_t>(i);
+    return octets;
+}
+
+}  // namespace
+
+std::string enUtf8(Octets texte, bool jet4) {
+    if (!jet4) return util::depuis1252(brut(texte));
+    const std::u16string source = unites(texte);
+    constexpr std::size_t kUtf8ParUnite = 3;
+    if (source.size() > std::numeric_limits<std::int32_t>::max() / kUtf8ParUnite)
+        throw Dommage("un texte a " + std::to_string(source.size()) + " caractères");
+    std::string utf8(source.size() * kUtf8ParUnite, '\0');
+    std::int32_t longueur = 0;
+    UErrorCode etat = U_ZERO_ERROR;
+    u_strToUTF8WithSub(utf8.data(), static_cast<std::int32_t>(utf8.size()), &longueur, source.data(),
+                       static_cast<std::int32_t>(source.size()), kRemplacement, nullptr, &etat);
+    utf8.resize(static_cast<std::size_t>(longueur));
+    return utf8;
+}
+
+bool estUneAffiche(Octets texte, bool jet4) {
+    if (!jet4) return brut(texte).starts_with(kDebutAffiche);
+    if (estComprime(texte)) return brut(texte.subspan(2)).starts_with(kDebutAffiche);
+    return brut(texte).starts_with(std::string_view("S\0T\0O\0", 6));
+}
+
+Affiche enOctets(Octets texte, bool jet4) {
+    if (!jet4) return {std::string(brut(texte)), false};
+    static const OctetsDesUnites octetsDesUnites = construitOctetsDesUnites();
+    const std::u16string source = unites(texte);
+    Affiche affiche{std::string(source.size(), '\0'), false};
+    for (std::size_t i = 0; i < source.size(); ++i) {
+        const std::uint8_t octet = octetsDesUnites[source[i]];
+        affiche.octets[i] = static_cast<char>(octet);
+        affiche.alteree |= octet == '?' && source[i] != u'?';
+    }
+    return affiche;
+}
+
+}  // namespace jet::interne
