@@ -1,0 +1,231 @@
+#include "export/MiseEnForme.h"
+
+#include <algorithm>
+#include <cstring>
+#include <deque>
+#include <string_view>
+
+namespace exportation {
+
+namespace {
+
+constexpr std::size_t kLongueurOuvrante = 3, kLongueurFermante = 4;
+
+// CR LF and CR become LF.
+void unifieFinsDeLigne(std::string& texte) {
+    std::size_t retour = texte.find('\r');
+    if (retour == std::string::npos) return;
+    std::size_t ecrit = retour;
+    while (retour != std::string::npos) {
+        texte[ecrit++] = '\n';
+        const std::size_t debut = retour + (texte.compare(retour + 1, 1, "\n") == 0 ? 2 : 1);
+        retour = texte.find('\r', debut);
+        const std::size_t fin = std::min(retour, texte.size());
+        std::memmove(texte.data() + ecrit, texte.data() + debut, fin - debut);
+        ecrit += fin - debut;
+    }
+    texte.resize(ecrit);
+}
+
+}  // namespace
+
+// One pair over the whole text, in place.
+//
+// The text stands in three pieces of its buffer, with gaps where tags were removed. "Fait", [0, m_fait): what comes before
+// the first opening tag, where no tag is left. "File", [m_file, m_finFile): what begins with that tag and was looked through
+// for the first closing one; its opening tags wait in m_ouvertures. "Reste", [m_reste, m_taille): not looked at yet.
+//
+// A tag is seen when its ">" joins the text before it, whichever removal brought them together. What a selection covered
+// has one style, written when the text passes from File to Fait: the next selection may begin again inside the last one.
+class MiseEnForme::Passe {
+  public:
+    Passe(MiseEnForme& cible, const Balise& balise)
+        : m_cible(cible),
+          m_balise(balise),
+          m_texte(cible.m_texte.data()),
+          m_aspects(cible.m_aspects.data()),
+          m_taille(cible.m_texte.size()) {}
+
+    void execute() {
+        while (!m_arretee && avance()) {
+            if (finitPar(m_ouvrante, debut(), fin()))
+                ouvre();
+            else if (finitPar(m_fermante, debut(), fin()))
+                ferme();
+        }
+        rassemble();
+    }
+
+  private:
+    struct Ouverture {
+        std::size_t position, paragraphe;
+    };
+
+    [[nodiscard]] bool enAttente() const { return !m_ouvertures.empty(); }
+    // The piece that the search is at the end of.
+    [[nodiscard]] std::size_t debut() const { return enAttente() ? m_file : 0; }
+    [[nodiscard]] std::size_t& fin() { return enAttente() ? m_finFile : m_fait; }
+
+    [[nodiscard]] bool finitPar(std::string_view balise, std::size_t debut, std::size_t fin) const {
+        return fin - debut >= balise.size() &&
+               std::memcmp(m_texte + fin - balise.size(), balise.data(), balise.size()) == 0;
+    }
+    void deplace(std::size_t de, std::size_t vers, std::size_t nombre) {
+        if (de == vers) return;
+        std::memmove(m_texte + vers, m_texte + de, nombre);
+        std::memmove(m_aspects + vers, m_aspects + de, nombre);
+    }
+
+    [[nodiscard]] bool avance();
+    void ouvre();
+    void ferme();
+    [[nodiscard]] bool rencontreUneBalise(std::size_t borne, std::size_t paragraphe);
+    void verseDansFait(std::size_t borne);
+    void reprendOuverture(std::size_t paragraphe);
+    void aligne(std::size_t premierParagraphe);
+    void rassemble();
+    [[nodiscard]] std::uint8_t applique(std::uint8_t aspect);
+
+    MiseEnForme& m_cible;
+    const Balise& m_balise;
+    const std::string m_ouvrante{'<', m_balise.lettre, '>'};
+    const std::string m_fermante{'<', '/', m_balise.lettre, '>'};
+
+    char* m_texte;
+    std::uint8_t* m_aspects;
+    std::size_t m_taille;
+    std::size_t m_fait = 0, m_file = 0, m_finFile = 0, m_reste = 0;
+    std::deque<Ouverture> m_ouvertures;
+    bool m_arretee = false;
+
+    std::uint8_t m_aspectSuivant = 0;             // what the next selection gives
+    std::uint8_t m_aspectCouvert = 0;             // what the last one gave
+    std::size_t m_couvertDe = 0, m_couvertA = 0;  // what the last one covers of File
+    std::size_t m_paragraphe = 0;                 // where the search is
+    std::size_t m_alignes = 0;                    // paragraphs before this one need no alignment any more
+};
+
+// Looks at the text up to the next ">". False at its end.
+bool MiseEnForme::Passe::avance() {
+    if (m_reste == m_taille) return false;
+    const char* debutReste = m_texte + m_reste;
+    const void* trouve = std::memchr(debutReste, '>', m_taille - m_reste);
+    if (trouve == nullptr) return false;
+    const auto nombre = static_cast<std::size_t>(static_cast<const char*>(trouve) - debutReste) + 1;
+    if (m_balise.alignement)
+        m_paragraphe += static_cast<std::size_t>(std::count(debutReste, debutReste + nombre, '\n'));
+    deplace(m_reste, fin(), nombre);
+    fin() += nombre;
+    m_reste += nombre;
+    return true;
+}
+
+void MiseEnForme::Passe::ouvre() {
+    if (enAttente()) {
+        m_ouvertures.push_back({m_finFile - kLongueurOuvrante, m_paragraphe});
+        return;
+    }
+    m_file = m_finFile = m_couvertDe = m_couvertA = m_fait;
+    reprendOuverture(m_paragraphe);
+}
+
+// The opening tag that ends Fait becomes the first of File. Its style is that of its own first character.
+void MiseEnForme::Passe::reprendOuverture(std::size_t paragraphe) {
+    m_fait -= kLongueurOuvrante;
+    m_file -= kLongueurOuvrante;
+    deplace(m_fait, m_file, kLongueurOuvrante);
+    m_ouvertures.push_front({m_file, paragraphe});
+    m_aspectSuivant = applique(m_aspects[m_file]);
+}
+
+// The selection from the first opening tag to the closing tag that ends File. The opening tags that it holds come next:
+// all of it now looks as their first characters will.
+void MiseEnForme::Passe::ferme() {
+    if (!enAttente()) {
+        m_arretee = true;
+        return;
+    }
+    const std::size_t paragraphe = m_ouvertures.front().paragraphe;
+    aligne(paragraphe);
+    m_ouvertures.pop_front();
+    m_file += kLongueurOuvrante;
+    m_finFile -= kLongueurFermante;
+    m_couvertA = m_finFile;
+    m_aspectCouvert = m_aspectSuivant;
+    const std::size_t borne = enAttente() ? m_ouvertures.front().position : m_finFile;
+    if (!rencontreUneBalise(borne, paragraphe)) verseDansFait(borne);
+}
+
+// Where the opening tag was, the end of Fait may make a tag with what follows.
+bool MiseEnForme::Passe::rencontreUneBalise(std::size_t borne, std::size_t paragraphe) {
+    const std::size_t limite = std::min(borne, m_file + kLongueurFermante - 1);
+    while (m_file < limite) {
+        verseDansFait(m_file + 1);
+        if (m_texte[m_fait - 1] != '>') continue;
+        m_arretee = finitPar(m_fermante, 0, m_fait);
+        if (m_arretee) return true;
+        if (!finitPar(m_ouvrante, 0, m_fait)) continue;
+        reprendOuverture(paragraphe);
+        return true;
+    }
+    return false;
+}
+
+// What the selection covers of File, up to there.
+void MiseEnForme::Passe::verseDansFait(std::size_t borne) {
+    const std::size_t nombre = borne - m_file;
+    std::memmove(m_texte + m_fait, m_texte + m_file, nombre);
+    std::memset(m_aspects + m_fait, m_aspectCouvert, nombre);
+    m_fait += nombre;
+    m_file = m_couvertDe = borne;
+}
+
+// Selections follow each other, so that each paragraph is reached once.
+void MiseEnForme::Passe::aligne(std::size_t premierParagraphe) {
+    if (!m_balise.alignement) return;
+    for (std::size_t p = std::max(premierParagraphe, m_alignes); p <= m_paragraphe; ++p)
+        m_cible.m_alignements[p] = *m_balise.alignement;
+    m_alignes = m_paragraphe + 1;
+}
+
+void MiseEnForme::Passe::rassemble() {
+    std::memset(m_aspects + m_couvertDe, m_aspectCouvert, m_couvertA - m_couvertDe);
+    const std::size_t enFile = m_finFile - m_file, enReste = m_taille - m_reste;
+    deplace(m_file, m_fait, enFile);
+    deplace(m_reste, m_fait + enFile, enReste);
+    m_cible.m_texte.resize(m_fait + enFile + enReste);
+    m_cible.m_aspects.resize(m_fait + enFile + enReste);
+}
+
+// The place of that style with the pair's added.
+std::uint8_t MiseEnForme::Passe::applique(std::uint8_t aspect) {
+    auto& styles = m_cible.m_styles;
+    const texteriche::Style style = m_balise.appliqueeA(styles[aspect]);
+    const auto trouve = std::find(styles.begin(), styles.end(), style);
+    const auto place = static_cast<std::uint8_t>(trouve - styles.begin());
+    if (trouve == styles.end()) styles.push_back(style);
+    return place;
+}
+
+MiseEnForme::MiseEnForme(std::string texteBalise) : m_texte(std::move(texteBalise)) {
+    unifieFinsDeLigne(m_texte);
+    m_aspects.resize(m_texte.size());
+    m_alignements.resize(static_cast<std::size_t>(std::count(m_texte.begin(), m_texte.end(), '\n')) + 1);
+}
+
+void MiseEnForme::applique(const Balise& balise) {
+    if (!m_texte.empty()) Passe(*this, balise).execute();
+}
+
+texteriche::TexteRiche MiseEnForme::resultat() && {
+    texteriche::TexteRiche riche{std::move(m_texte), std::move(m_styles), {}, std::move(m_alignements)};
+    const auto fin = m_aspects.end();
+    for (auto debut = m_aspects.begin(); debut != fin;) {
+        const std::uint8_t aspect = *debut;
+        debut = std::find_if(debut, fin, [aspect](std::uint8_t autre) { return autre != aspect; });
+        riche.passages.push_back({static_cast<std::size_t>(debut - m_aspects.begin()), aspect});
+    }
+    return riche;
+}
+
+}  // namespace exportation
