@@ -5,7 +5,9 @@
 #include "export/EtatNom.h"
 #include "platform/dialogues/Dialogues.h"
 #include "platform/ecran/Ecran.h"
+#include "platform/texteriche/TexteRiche.h"
 
+#include <optional>
 #include <string>
 
 namespace view {
@@ -25,11 +27,15 @@ class CreeFichierRTF {
                    dialogues::Dialogues& dialogues, view::LanceFichier& lanceFichier)
         : m_base(base), m_chemins(chemins), m_nom(nom), m_ecran(ecran), m_dialogues(dialogues), m_lance(lanceFichier) {}
 
-    // `reponseTri`: kOui when the list is sorted by genre, whose headings it then has. Throws db::RequeteEchouee when
-    // the listing cannot be opened.
-    void operator()(const std::string& clauseOrderBy, int reponseTri);
+    // `reponseTri`: kOui when the list is sorted by genre, whose headings it then has. Answers the file's path, "" when
+    // none was made. Throws db::RequeteEchouee when the listing cannot be opened.
+    std::string operator()(const std::string& clauseOrderBy, int reponseTri);
 
   private:
+    [[nodiscard]] bool ecrit(const std::string& fichier, dao::Recordset& titres, bool parGenre);
+    [[nodiscard]] std::optional<std::string> rassemble(dao::Recordset& titres, bool parGenre);
+    [[nodiscard]] std::optional<texteriche::TexteRiche> metEnForme(std::string texteBalise);
+
     db::Base& m_base;
     const db::Chemins& m_chemins;
     EtatNom& m_nom;

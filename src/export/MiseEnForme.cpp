@@ -76,6 +76,7 @@ class MiseEnForme::Passe {
         std::memmove(m_aspects + vers, m_aspects + de, nombre);
     }
 
+    [[nodiscard]] std::size_t jusquAuProchain() const;
     [[nodiscard]] bool avance();
     void ouvre();
     void ferme();
@@ -105,15 +106,26 @@ class MiseEnForme::Passe {
     std::size_t m_alignes = 0;                    // paragraphs before this one need no alignment any more
 };
 
-// Looks at the text up to the next ">". False at its end.
+// The length of Reste up to the next ">" that may end a tag; 0 when there is none. One that comes first in it may end a
+// tag that began before.
+std::size_t MiseEnForme::Passe::jusquAuProchain() const {
+    const char* const debutReste = m_texte + m_reste;
+    const char* const finReste = m_texte + m_taille;
+    for (const char* p = debutReste; p != finReste; ++p) {
+        p = static_cast<const char*>(std::memchr(p, '>', static_cast<std::size_t>(finReste - p)));
+        if (p == nullptr) return 0;
+        const auto avant = static_cast<std::size_t>(p - debutReste);
+        if (avant < kLongueurOuvrante || p[-1] == m_balise.lettre) return avant + 1;
+    }
+    return 0;
+}
+
+// Looks at the text up to the next tag, or what resembles one. False at its end.
 bool MiseEnForme::Passe::avance() {
-    if (m_reste == m_taille) return false;
-    const char* debutReste = m_texte + m_reste;
-    const void* trouve = std::memchr(debutReste, '>', m_taille - m_reste);
-    if (trouve == nullptr) return false;
-    const auto nombre = static_cast<std::size_t>(static_cast<const char*>(trouve) - debutReste) + 1;
+    const std::size_t nombre = jusquAuProchain();
+    if (nombre == 0) return false;
     if (m_balise.alignement)
-        m_paragraphe += static_cast<std::size_t>(std::count(debutReste, debutReste + nombre, '\n'));
+        m_paragraphe += static_cast<std::size_t>(std::count(m_texte + m_reste, m_texte + m_reste + nombre, '\n'));
     deplace(m_reste, fin(), nombre);
     fin() += nombre;
     m_reste += nombre;
