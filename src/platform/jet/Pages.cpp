@@ -85,8 +85,10 @@ Format formatDe(const MdbHandle& mdb) {
     format.nombreDeLignes = c.row_count_offset;
     format.table = {c.tab_num_rows_offset,  c.tab_num_cols_offset - 2u, c.tab_num_cols_offset, c.tab_num_ridxs_offset,
                     c.tab_usage_map_offset, c.tab_cols_start_offset,    c.tab_ridx_entry_size, c.tab_col_entry_size};
+    // libmdb gives these two the other's name: a decimal's scale stands where it puts the precision.
+    const std::size_t echelle = c.col_prec_offset;
     format.colonne = {c.col_flags_offset,   c.col_size_offset,      c.tab_row_col_num_offset,
-                      c.tab_col_offset_var, c.tab_col_offset_fixed, c.col_scale_offset};
+                      c.tab_col_offset_var, c.tab_col_offset_fixed, echelle};
     return format;
 }
 
