@@ -1,5 +1,6 @@
 #pragma once
 
+#include "db/LotAffiches.h"
 #include "db/RapportConversion.h"
 #include "platform/dao/Database.h"
 
@@ -12,11 +13,6 @@
 #include <vector>
 
 namespace db {
-
-// What a poster file could not be given or taken: told to the user, it ends the conversion.
-struct EchecConversion {
-    std::string texte;
-};
 
 // One way of converting posters, film by film, in lots that are one transaction each. At each moment a film's poster is
 // where its row says: the new copy is on the disk before the lot is stored, and the old one goes after.
@@ -67,23 +63,16 @@ class VersLaBase final : public SensConversion {
 // otherwise it stays, and the film keeps its poster in the base.
 class VersLeDossier final : public SensConversion {
   public:
-    VersLeDossier(dao::Database& base, std::string dossier) : m_base(base), m_dossier(std::move(dossier)) {}
+    VersLeDossier(dao::Database& base, std::string dossier) : m_lot(base, std::move(dossier)) {}
 
     [[nodiscard]] std::string enonce() const override;
     [[nodiscard]] RapportConversion convertit(dao::Recordset& films) override;
-    void avantValidation() override;
-    void apresValidation() override { m_crees.clear(), m_aSynchroniser.clear(); }
-    void apresAnnulation() override;
+    void avantValidation() override { m_lot.avantValidation(); }
+    void apresValidation() override { m_lot.apresValidation(); }
+    void apresAnnulation() override { m_lot.apresAnnulation(); }
 
   private:
-    [[nodiscard]] bool pose(const std::string& nom, std::string_view octets);
-    [[nodiscard]] bool poseSurUnAutre(const std::string& nom, std::string_view octets);
-    [[nodiscard]] bool estNomme(const std::string& nom);
-
-    dao::Database& m_base;
-    std::string m_dossier;
-    std::vector<std::string> m_crees;          // of the lot
-    std::vector<std::string> m_aSynchroniser;  // those, and the files shared
+    LotAffiches m_lot;
 };
 
 }  // namespace db

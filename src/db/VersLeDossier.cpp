@@ -1,17 +1,11 @@
 #include "db/Affiches.h"
 #include "db/SensConversion.h"
-#include "platform/fichiers/Fichiers.h"
-#include "util/Sql.h"
 
 namespace db {
 
 namespace {
 
 constexpr std::size_t kTaillePrefixe = 3;  // "STO"
-
-std::string texteEchecFichier(const std::string& chemin) {
-    return "Le fichier image " + chemin + " n'a pas pu être écrit (Disque plein/Lecture seule ?)";
-}
 
 }  // namespace
 
@@ -23,59 +17,11 @@ RapportConversion VersLeDossier::convertit(dao::Recordset& films) {
     const std::string affiche = films.texte("Affiche");
     if (!estDansLaBase(affiche)) return {};
     const std::string nom = nomFichierAffiche(films.texte("Titre"), films.texte("Realisateur"));
-    if (!pose(nom, std::string_view(affiche).substr(kTaillePrefixe))) return {.gardes = 1};
+    if (!m_lot.pose(nom, std::string_view(affiche).substr(kTaillePrefixe))) return {.gardes = 1};
     films.Edit();
     films.assigne("Affiche", valeurAfficheFichier(nom));
     films.Update();
     return {.crees = 1};
-}
-
-// False when another picture has the name.
-bool VersLeDossier::pose(const std::string& nom, std::string_view octets) {
-    const std::string chemin = m_dossier + nom;
-    switch (fichiers::cree(chemin, octets)) {
-        case fichiers::Creation::Faite:
-            m_crees.push_back(chemin);
-            break;
-        case fichiers::Creation::ExisteDeja:
-            if (!poseSurUnAutre(nom, octets)) return false;
-            break;
-        case fichiers::Creation::Echouee:
-            throw EchecConversion{texteEchecFichier(chemin)};
-    }
-    m_aSynchroniser.push_back(chemin);
-    return true;
-}
-
-// The beginning of these very bytes is what a conversion that was cut off has left, unless a film names it.
-bool VersLeDossier::poseSurUnAutre(const std::string& nom, std::string_view octets) {
-    const std::string chemin = m_dossier + nom;
-    const auto present = fichiers::lit(chemin, static_cast<std::int64_t>(octets.size()));
-    if (!present || !octets.starts_with(*present)) return false;
-    if (present->size() == octets.size()) return true;
-    if (estNomme(nom)) return false;
-    if (!fichiers::remplace(chemin, octets)) throw EchecConversion{texteEchecFichier(chemin)};
-    return true;
-}
-
-void VersLeDossier::avantValidation() {
-    if (!fichiers::synchronise(m_aSynchroniser)) throw EchecConversion{texteEchecFichier(m_dossier)};
-}
-
-bool VersLeDossier::estNomme(const std::string& nom) {
-    const std::string valeur = util::entreGuillemets("JPG" + nom);
-    return !m_base.OpenRecordset("SELECT titre FROM films WHERE Affiche = " + valeur).Eof();
-}
-
-// A disk that fails may do so with the lot already stored, the whole of it: then the files stay.
-void VersLeDossier::apresAnnulation() {
-    try {
-        if (!m_crees.empty() && !estNomme(m_crees.front().substr(m_dossier.size())))
-            for (const std::string& chemin : m_crees)
-                fichiers::supprime(chemin);
-    } catch (const dao::ErreurDao&) {  // a base that cannot be read says nothing of the lot
-    }
-    apresValidation();
 }
 
 }  // namespace db

@@ -75,12 +75,14 @@ class FichierNeuf {
     bool m_aEffacer = false;
 };
 
-bool verse(int source, int cible) {
+bool verse(int source, int cible, const std::function<bool(std::int64_t)>& avance) {
     std::array<char, 1 << 16> tampon;
-    for (;;) {
+    for (std::int64_t verses = 0;;) {
         const ssize_t lus = litBloc(source, tampon.data(), tampon.size());
         if (lus <= 0) return lus == 0;
         if (!ecritTout(cible, {tampon.data(), static_cast<std::size_t>(lus)})) return false;
+        verses += lus;
+        if (avance && !avance(verses)) return false;
     }
 }
 
@@ -155,14 +157,14 @@ bool renomme(const std::string& de, const std::string& vers) {
     return true;
 }
 
-bool copie(const std::string& de, const std::string& vers) {
+bool copie(const std::string& de, const std::string& vers, const std::function<bool(std::int64_t)>& avance) {
     const auto source = trouve(de);
     if (!source) return false;
     const Descripteur lue(*source, O_RDONLY);
     if (!lue.estFichier()) return false;
     if (memeFichier(*source, vers)) return true;
     FichierNeuf neuf(vers);
-    return neuf.estPret() && verse(lue.numero(), neuf.numero()) && neuf.prendLaPlace();
+    return neuf.estPret() && verse(lue.numero(), neuf.numero(), avance) && neuf.prendLaPlace();
 }
 
 }  // namespace fichiers

@@ -45,8 +45,9 @@ enum class Creation { Faite, ExisteDeja, Echouee };
 // Renames over what stands at `vers` (where a link leads), on the same file system, and takes the folder to the disk.
 [[nodiscard]] bool renomme(const std::string& de, const std::string& vers);
 
-// Copies over what stands at `vers`; a copy onto itself is recognised and does nothing, successfully.
-bool copie(const std::string& de, const std::string& vers);
+// Copies over what stands at `vers`; a copy onto itself is recognised and does nothing, successfully. `avance` is told
+// how many bytes are copied, again and again, and stops it by false: what stood at `vers` then stays.
+bool copie(const std::string& de, const std::string& vers, const std::function<bool(std::int64_t)>& avance = {});
 bool supprime(const std::string& chemin);     // true when the file is gone, also when there was none
 bool creeDossier(const std::string& chemin);  // with its parents; true when it stands there in the end
 // Deletes the folder's files (not its folders) that match: "*.*" and "*" mean every file, "*.jpg" an ending in any case.
