@@ -2,7 +2,7 @@
 
 # What builds and runs the program; ./check adds what tests need.
 paquets_programme=(g++ cmake ninja-build qt6-base-dev qt6-translations-l10n libsqlite3-dev libicu-dev
-                    pkg-config libglib2.0-dev mdbtools-dev xdg-utils)
+                    pkg-config libglib2.0-dev mdbtools-dev xdg-utils shared-mime-info)
 paquets_essais=(libgtest-dev libgmock-dev)
 
 dit() { printf '%s\n' "$*"; }
@@ -28,7 +28,7 @@ absents() {
 installe() {
   if ! command -v dpkg-query apt-get >/dev/null; then
     command -v cmake ninja g++ >/dev/null ||
-      echoue "This is no Debian system: install a C++20 compiler, CMake 3.25, Ninja, Qt 6.4, SQLite 3.40, ICU 72, GLib and libmdb 1.0 yourself, then start again."
+      echoue "This is no Debian system: install a C++20 compiler, CMake 3.25, Ninja, Qt 6.4, SQLite 3.40, ICU 72, GLib 2.74 and libmdb 1.0 yourself, then start again."
     return 0
   fi
   local manque=() admin=() journal debut=$SECONDS

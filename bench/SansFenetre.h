@@ -5,6 +5,8 @@
 #include "doubles/DocumentsEnregistres.h"
 #include "doubles/EcranMuet.h"
 #include "doubles/ImagesSimulees.h"
+#include "doubles/ProgrammesSimules.h"
+#include "doubles/VolumesSimules.h"
 
 #include <stdexcept>
 #include <string>
@@ -44,7 +46,7 @@ class DialoguesDociles final : public dialogues::Dialogues {
 struct Machine {
     explicit Machine(bool ressemblance = false) : dialogues(ressemblance) {}
     [[nodiscard]] app::Machine pour(const std::string& dossier) {
-        return {dialogues, ecran, images, horloge, documents, dossier};
+        return {dialogues, ecran, images, horloge, documents, programmes, volumes, dossier};
     }
     void attend(const std::string& debut) const {  // the last report, or what the program did is not what is measured
         if (!dialogues.rapport().starts_with(debut)) throw std::runtime_error("reported: " + dialogues.rapport());
@@ -54,6 +56,8 @@ struct Machine {
     doubles::ImagesSimulees images;
     systeme::HorlogeSysteme horloge;
     doubles::DocumentsEnregistres documents;
+    doubles::ProgrammesSimules programmes;
+    doubles::VolumesSimules volumes;
 };
 
 }  // namespace bench

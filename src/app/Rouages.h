@@ -25,6 +25,7 @@
 #include "edit/cmdSupprTitresSelect_Click.h"
 #include "edit/cmdSupprimerTitre_Click.h"
 #include "edit/cmdValiderInfosPossessions_Click.h"
+#include "view/LanceFichier.h"
 #include "view/TouchesAffiche.h"
 #include "view/cmdRemplacerImage_Click.h"
 
@@ -87,6 +88,9 @@ struct Session::Rouages final : db::Rafraichissement {
     view::TouchesAffiche touchesAffiche{visionneuse, etats.liste, film, afficheFiche, etats.demandes};
     view::cmdRemplacerImage_Click cmdRemplacerImage{base,           etats.stockage, chemins,          film,
                                                     machine.images, chargeAffiche,  machine.dialogues};
+
+    // Attached files, and those the program writes.
+    view::LanceFichier lanceFichier{machine.programmes, machine.documents, machine.dialogues, machine.ecran};
 
     // Search.
     browse::cmdFonctionRecherche_Click cmdFonctionRecherche{etats.panneaux, etats.demandes, afficheAccueil};

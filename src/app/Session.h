@@ -5,6 +5,8 @@
 #include "platform/ecran/Ecran.h"
 #include "platform/systeme/Documents.h"
 #include "platform/systeme/Horloge.h"
+#include "platform/systeme/Programmes.h"
+#include "platform/systeme/Volumes.h"
 
 #include <memory>
 #include <string>
@@ -18,6 +20,8 @@ struct Machine {
     ecran::Images& images;
     systeme::Horloge& horloge;
     systeme::Documents& documents;
+    systeme::Programmes& programmes;
+    systeme::Volumes& volumes;
     std::string dossierProgramme;  // the executable's folder
 };
 

@@ -18,7 +18,9 @@ Programme::Programme(const std::string& dossier, const Services& services)
       m_ecran(m_liaison),
       m_session(app::Machine{choisi<dialogues::Dialogues>(services.dialogues, m_boites), m_ecran, m_images,
                              choisi<systeme::Horloge>(services.horloge, m_horloge),
-                             choisi<systeme::Documents>(services.documents, m_documents), dossier}),
+                             choisi<systeme::Documents>(services.documents, m_documents),
+                             choisi<systeme::Programmes>(services.programmes, m_programmes),
+                             choisi<systeme::Volumes>(services.volumes, m_volumes), dossier}),
       m_commande(m_liaison, choisi<dialogues::Dialogues>(services.dialogues, m_boites)),
       m_fenetre(Atelier{m_session, m_liaison, m_commande, m_images, m_ecran}) {
     m_boites.metParent(&m_fenetre);

@@ -3,6 +3,8 @@
 #include "app/Session.h"
 #include "platform/systeme/Documents.h"
 #include "platform/systeme/Horloge.h"
+#include "platform/systeme/Programmes.h"
+#include "platform/systeme/Volumes.h"
 #include "ui/Commande.h"
 #include "ui/DialoguesQt.h"
 #include "ui/EcranQt.h"
@@ -20,6 +22,8 @@ class Programme {
         dialogues::Dialogues* dialogues = nullptr;
         systeme::Horloge* horloge = nullptr;
         systeme::Documents* documents = nullptr;
+        systeme::Programmes* programmes = nullptr;
+        systeme::Volumes* volumes = nullptr;
     };
 
     explicit Programme(const std::string& dossier) : Programme(dossier, Services{}) {}
@@ -40,6 +44,8 @@ class Programme {
     ImagesQt m_images;
     systeme::HorlogeSysteme m_horloge;
     systeme::DocumentsSysteme m_documents;
+    systeme::ProgrammesSysteme m_programmes;
+    systeme::VolumesSysteme m_volumes;
     app::Session m_session;
     Commande m_commande;
     FenetrePrincipale m_fenetre;

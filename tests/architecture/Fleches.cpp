@@ -40,7 +40,7 @@ const std::vector<Reserve> kEntetesReserves = {
     {std::regex(R"(Q[A-Z].*|Qt.*)"), "ui"},
     {std::regex(R"(sqlite3\.h)"), "platform/dao"},
     {std::regex(R"(mdbtools\.h|glib\.h)"), "platform/jet"},
-    {std::regex(R"(spawn\.h|sys/wait\.h)"), "platform/systeme"},
+    {std::regex(R"(spawn\.h|sys/(wait|pidfd)\.h|gio/.*)"), "platform/systeme"},
 };
 const std::vector<Reserve> kAppelsReserves = {
     {std::regex(R"((?:^|[^\w:.>]|(?:^|\W)::|\bstd::)(v?fork|popen|system|posix_spawnp?|exec[lv]p?e?)\s*\()"),

@@ -7,15 +7,23 @@
 
 namespace doubles {
 
-// Opens nothing; remembers what it was asked to open. `reussit` is its answer.
+// Opens nothing; remembers what it was asked to open. `reussit` and `issue` are its answers.
 class DocumentsEnregistres final : public systeme::Documents {
   public:
     bool reussit = true;
-    std::vector<std::string> ouverts;
+    systeme::Ouverture issue = systeme::Ouverture::Faite;
+    std::vector<std::string> ouverts;   // addresses
+    std::vector<std::string> fichiers;  // files
+    std::vector<std::string> dossiers;  // where the application of each file was to start
 
-    bool ouvre(const std::string& adresseOuChemin) override {
-        ouverts.push_back(adresseOuChemin);
+    bool ouvre(const std::string& adresse) override {
+        ouverts.push_back(adresse);
         return reussit;
+    }
+    systeme::Ouverture ouvreFichier(const std::string& chemin, const std::string& dossier) override {
+        fichiers.push_back(chemin);
+        dossiers.push_back(dossier);
+        return issue;
     }
 };
 

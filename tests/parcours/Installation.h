@@ -8,6 +8,8 @@
 #include "doubles/EcranMuet.h"
 #include "doubles/HorlogeFixe.h"
 #include "doubles/ImagesSimulees.h"
+#include "doubles/ProgrammesSimules.h"
+#include "doubles/VolumesSimules.h"
 #include "platform/dao/DBEngine.h"
 #include "platform/systeme/FinDuProgramme.h"
 
@@ -27,13 +29,16 @@ class Installation : public doubles::DossierTemporaire {
 
 // One run of the program in a folder, with the machine's doubles. Its destruction without Form_Unload is a crash.
 struct Execution {
-    explicit Execution(const std::string& dossier) : session({boites, ecran, images, horloge, documents, dossier}) {}
+    explicit Execution(const std::string& dossier)
+        : session({boites, ecran, images, horloge, documents, programmes, volumes, dossier}) {}
 
     doubles::DialoguesScript boites;
     doubles::EcranMuet ecran;
     doubles::ImagesSimulees images;
     doubles::HorlogeFixe horloge;
     doubles::DocumentsEnregistres documents;
+    doubles::ProgrammesSimules programmes;
+    doubles::VolumesSimules volumes;
     app::Session session;
     app::Etats& etats = session.etats;
 

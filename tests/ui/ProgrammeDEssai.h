@@ -4,6 +4,8 @@
 #include "doubles/DocumentsEnregistres.h"
 #include "doubles/DossierTemporaire.h"
 #include "doubles/HorlogeFixe.h"
+#include "doubles/ProgrammesSimules.h"
+#include "doubles/VolumesSimules.h"
 #include "platform/dao/DBEngine.h"
 #include "ui/Programme.h"
 #include "ui/VueTitres.h"
@@ -58,7 +60,8 @@ class ProgrammeDEssai {
     }
 
     void demarre() {
-        programme.emplace(dossier.chemin(), ui::Programme::Services{&boites, &horloge, &documents});
+        programme.emplace(dossier.chemin(),
+                          ui::Programme::Services{&boites, &horloge, &documents, &programmes, &volumes});
         ASSERT_TRUE(programme->demarre());
         // The panels behind the first page are built after the first painting.
         ASSERT_TRUE(QTest::qWaitFor([&] { return fenetre().findChild<QWidget*>("frameFiche") != nullptr; }));
@@ -118,6 +121,8 @@ class ProgrammeDEssai {
     BoitesAccommodantes boites;
     doubles::HorlogeFixe horloge;
     doubles::DocumentsEnregistres documents;
+    doubles::ProgrammesSimules programmes;
+    doubles::VolumesSimules volumes;
     std::optional<ui::Programme> programme;
 };
 

@@ -1,59 +1,78 @@
 #include "platform/systeme/Documents.h"
 
-#include <array>
-#include <cerrno>
+#include "platform/systeme/Programmes.h"
 
-#include <fcntl.h>
-#include <sys/wait.h>
+#include <memory>
+
+#include <gio/gdesktopappinfo.h>
+#include <gio/gio.h>
 #include <unistd.h>
 
 namespace systeme {
 
 namespace {
 
-// In the started process, between fork and exec: system calls only. What exec could not do goes through `echec`, which
-// closes by itself when it could.
-[[noreturn]] void devient(char* const* arguments, int echec) {
-    if (const int vide = open("/dev/null", O_RDWR); vide >= 0) dup2(vide, STDIN_FILENO);
-    execvp(arguments[0], arguments);
-    const char marque = 1;
-    [[maybe_unused]] const ssize_t ignore = write(echec, &marque, 1);
-    _exit(127);
+struct Libere {
+    void operator()(gpointer objet) const { g_object_unref(objet); }
+    void operator()(GError* erreur) const { g_error_free(erreur); }
+    void operator()(char* texte) const { g_free(texte); }
+};
+template <typename Type>
+using Tenu = std::unique_ptr<Type, Libere>;
+
+// The application for a file's kind; empty when the desktop has none for it. What the file may be used for (its
+// permissions) has no part in it.
+struct Association {
+    bool fichierLu = false;
+    Tenu<GAppInfo> application;
+};
+
+Association cherche(GFile* fichier) {
+    const Tenu<GFileInfo> infos(
+        g_file_query_info(fichier, G_FILE_ATTRIBUTE_STANDARD_CONTENT_TYPE, G_FILE_QUERY_INFO_NONE, nullptr, nullptr));
+    const char* genre = infos ? g_file_info_get_content_type(infos.get()) : nullptr;
+    if (!genre) return {};
+    return {true, Tenu<GAppInfo>(g_app_info_get_default_for_type(genre, FALSE))};
 }
 
-// Starts a program that outlives this one. The process in between ends at once and is waited for here, so that nobody
-// has to wait for the program itself and none stays behind as a zombie.
-bool lanceDetache(char* const* arguments) {
-    std::array<int, 2> tube{};
-    if (pipe2(tube.data(), O_CLOEXEC) != 0) return false;
-    const pid_t relais = fork();
-    if (relais == 0) {
-        setsid();
-        const pid_t programme = fork();
-        if (programme == 0) devient(arguments, tube[1]);
-        _exit(programme < 0 ? 1 : 0);
-    }
-    close(tube[1]);
-    int etat = 0;
-    while (relais > 0 && waitpid(relais, &etat, 0) < 0 && errno == EINTR) {
-    }
-    char marque = 0;
-    ssize_t recus = 0;
-    while ((recus = read(tube[0], &marque, 1)) < 0 && errno == EINTR) {
-    }
-    close(tube[0]);
-    return relais > 0 && recus == 0 && WIFEXITED(etat) && WEXITSTATUS(etat) == 0;
+// In the started process, before it becomes the application.
+void entreDansLeDossier(gpointer dossier) {
+    if (chdir(static_cast<const char*>(dossier)) != 0) return;  // it opens the file from where we stand
+}
+
+bool manqueDeMemoire(const GError* erreur) {
+    return erreur && (g_error_matches(erreur, G_SPAWN_ERROR, G_SPAWN_ERROR_NOMEM) ||
+                      g_error_matches(erreur, G_SPAWN_ERROR, G_SPAWN_ERROR_FORK));
+}
+
+Ouverture demarre(GAppInfo* application, GFile* fichier, const std::string& dossier) {
+    const Tenu<char> adresse(g_file_get_uri(fichier));
+    GList adresses{adresse.get(), nullptr, nullptr};
+    GError* erreur = nullptr;
+    const bool fait = g_desktop_app_info_launch_uris_as_manager(
+        G_DESKTOP_APP_INFO(application), &adresses, nullptr, G_SPAWN_SEARCH_PATH,
+        dossier.empty() ? nullptr : &entreDansLeDossier, const_cast<char*>(dossier.c_str()), nullptr, nullptr, &erreur);
+    const Tenu<GError> tenue(erreur);
+    if (fait) return Ouverture::Faite;
+    return manqueDeMemoire(erreur) ? Ouverture::SansMemoire : Ouverture::Echouee;
 }
 
 }  // namespace
 
-bool DocumentsSysteme::ouvre(const std::string& adresseOuChemin) {
-    if (adresseOuChemin.empty() || adresseOuChemin.find('\0') != std::string::npos) return false;
-    // A file named like an option must not be read as one.
-    std::string argument = adresseOuChemin.starts_with('-') ? "./" + adresseOuChemin : adresseOuChemin;
-    std::string programme = "xdg-open";
-    const std::array<char*, 3> arguments{programme.data(), argument.data(), nullptr};
-    return lanceDetache(arguments.data());
+bool DocumentsSysteme::ouvre(const std::string& adresse) {
+    if (adresse.empty()) return false;
+    // What is named like an option must not be read as one.
+    const std::string argument = adresse.starts_with('-') ? "./" + adresse : adresse;
+    return ProgrammesSysteme().lance({{"xdg-open", argument}, ""}) == Lancement::Fait;
+}
+
+Ouverture DocumentsSysteme::ouvreFichier(const std::string& chemin, const std::string& dossier) {
+    if (chemin.empty() || (chemin + dossier).find('\0') != std::string::npos) return Ouverture::Echouee;
+    const Tenu<GFile> fichier(g_file_new_for_path(chemin.c_str()));
+    const Association association = cherche(fichier.get());
+    if (!association.fichierLu) return Ouverture::Echouee;
+    if (!association.application) return Ouverture::SansAssociation;
+    return demarre(association.application.get(), fichier.get(), dossier);
 }
 
 }  // namespace systeme

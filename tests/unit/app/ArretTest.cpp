@@ -73,8 +73,8 @@ TEST(Arret, AFailedChangeOfBaseEndsTheProgramAndWritesNoSettings) {
     const std::string autre = installation.ecrit("Autre.mdb", installation.lit("Modele.dat"));
     Execution machine(installation.chemin());
     EcranSaboteur ecran;
-    app::Session session(
-        {machine.boites, ecran, machine.images, machine.horloge, machine.documents, installation.chemin()});
+    app::Session session({machine.boites, ecran, machine.images, machine.horloge, machine.documents, machine.programmes,
+                          machine.volumes, installation.chemin()});
     session.Form_Load();
     session.cmdConfigurer_Click();
     ecran.installation = &installation;

@@ -1,4 +1,5 @@
 #include "doubles/DossierTemporaire.h"
+#include "doubles/Temoin.h"
 #include "platform/systeme/Documents.h"
 #include "platform/systeme/Horloge.h"
 #include "platform/systeme/InstanceUnique.h"
@@ -7,8 +8,6 @@
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
-#include <map>
-#include <optional>
 #include <thread>
 
 #include <gtest/gtest.h>
@@ -16,29 +15,9 @@
 #include <unistd.h>
 
 using doubles::DossierTemporaire;
+using doubles::Environnement;
 
 namespace {
-
-// Sets environment variables for one test and puts back what stood there.
-class Environnement {
-  public:
-    explicit Environnement(const std::map<std::string, std::string>& variables) {
-        for (const auto& [nom, valeur] : variables) {
-            const char* ancienne = std::getenv(nom.c_str());
-            m_anciennes[nom] = ancienne ? std::optional<std::string>(ancienne) : std::nullopt;
-            setenv(nom.c_str(), valeur.c_str(), 1);
-        }
-    }
-    Environnement(const Environnement&) = delete;
-    Environnement& operator=(const Environnement&) = delete;
-    ~Environnement() {
-        for (const auto& [nom, valeur] : m_anciennes)
-            valeur ? setenv(nom.c_str(), valeur->c_str(), 1) : unsetenv(nom.c_str());
-    }
-
-  private:
-    std::map<std::string, std::optional<std::string>> m_anciennes;
-};
 
 // What a program that runs by itself has written, once it has.
 std::string attendFichier(const DossierTemporaire& dossier, const std::string& nom) {
