@@ -43,10 +43,15 @@ std::u16string developpe(Octets texte) {
     return unites;
 }
 
+// How many units an uncompressed text has.
+std::size_t nombreUnites(Octets texte) {
+    if (texte.size() % 2 != 0) throw Dommage("un texte finit au milieu d'un caractère");
+    return texte.size() / 2;
+}
+
 std::u16string unites(Octets texte) {
     if (estComprime(texte)) return developpe(texte);
-    if (texte.size() % 2 != 0) throw Dommage("un texte finit au milieu d'un caractère");
-    std::u16string lues(texte.size() / 2, u'\0');
+    std::u16string lues(nombreUnites(texte), u'\0');
     for (std::size_t i = 0; i < lues.size(); ++i)
         lues[i] = unite(texte, 2 * i);
     return lues;
@@ -100,12 +105,24 @@ bool estUneAffiche(Octets texte, bool jet4) {
 Affiche enOctets(Octets texte, bool jet4) {
     if (!jet4) return {std::string(brut(texte)), false};
     static const OctetsDesUnites octetsDesUnites = construitOctetsDesUnites();
-    const std::u16string source = unites(texte);
-    Affiche affiche{std::string(source.size(), '\0'), false};
-    for (std::size_t i = 0; i < source.size(); ++i) {
-        const std::uint8_t octet = octetsDesUnites[source[i]];
-        affiche.octets[i] = static_cast<char>(octet);
-        affiche.alteree |= octet == '?' && source[i] != u'?';
+    Affiche affiche;
+    const auto traduit = [&affiche](std::size_t nombre, auto unite) {
+        affiche.octets.resize(nombre);
+        char* const octets = affiche.octets.data();  // a char may alias anything: its place is kept at hand
+        bool alteree = false;
+        for (std::size_t i = 0; i < nombre; ++i) {
+            const std::uint8_t octet = octetsDesUnites[unite(i)];
+            octets[i] = static_cast<char>(octet);
+            alteree |= octet == '?' && unite(i) != u'?';
+        }
+        affiche.alteree = alteree;
+    };
+    // Posters are long, and seldom compressed: their units are taken where they stand.
+    if (estComprime(texte)) {
+        const std::u16string source = developpe(texte);
+        traduit(source.size(), [&source](std::size_t i) { return source[i]; });
+    } else {
+        traduit(nombreUnites(texte), [texte](std::size_t i) { return unite(texte, 2 * i); });
     }
     return affiche;
 }
