@@ -1,5 +1,6 @@
-// generateur base|fiches N CHEMIN [--affiches] [--depuis NUMERO]
-// Writes N films as a base of the program (the file CHEMIN), or as .FILM sheets in the folder CHEMIN.
+// generateur base|fiches N CHEMIN [--affiches] [--possedes] [--depuis NUMERO]
+// Writes N films as a base of the program (the file CHEMIN), or as .FILM sheets in the folder CHEMIN. --possedes: the
+// base holds N films that are all owned, the others are passed over.
 
 #include "Affiches.h"
 #include "Film.h"
@@ -23,7 +24,7 @@ struct Demande {
     std::string genre;
     std::uint64_t nombre = 0, premier = 0;
     fs::path chemin;
-    bool affiches = false;
+    bool affiches = false, possedes = false;
 };
 
 void ajoute(dao::Recordset& films, const bench::Film& f, const std::optional<std::string>& affiche) {
@@ -65,8 +66,11 @@ void ecritBase(const Demande& d, const std::optional<bench::Affiches>& affiches)
     dao::Database base = dao::DBEngine::OpenDatabase(d.chemin);
     dao::Recordset films = base.OpenRecordset("Films"), personnel = base.OpenRecordset("Personnel");
     dao::Transaction transaction(base);
-    for (std::uint64_t i = d.premier; i < d.premier + d.nombre; ++i) {
+    std::uint64_t reste = d.nombre;
+    for (std::uint64_t i = d.premier; reste > 0; ++i) {
         const bench::Film f = bench::film(i);
+        if (d.possedes && !f.possession) continue;
+        --reste;
         ajoute(films, f, affiches ? std::optional(affiches->affiche(i)) : std::nullopt);
         if (f.possession) ajoute(personnel, f, *f.possession);
     }
@@ -95,13 +99,14 @@ void ecritFiches(const Demande& d, const std::optional<bench::Affiches>& affiche
 
 Demande lisDemande(int nombre, char** mots) {
     if (nombre < 4)
-        throw std::invalid_argument("usage: generateur base|fiches N CHEMIN [--affiches] [--depuis NUMERO]");
+        throw std::invalid_argument("usage: generateur base|fiches N CHEMIN [--affiches] [--possedes] [--depuis NUMERO]");
     Demande d{mots[1], std::stoull(mots[2]), 0, mots[3]};
     for (int i = 4; i < nombre; ++i) {
         if (std::strcmp(mots[i], "--affiches") == 0) d.affiches = true;
+        if (std::strcmp(mots[i], "--possedes") == 0) d.possedes = true;
         if (std::strcmp(mots[i], "--depuis") == 0 && i + 1 < nombre) d.premier = std::stoull(mots[i + 1]);
     }
-    if (d.premier + d.nombre > bench::kNombreMaxFilms)
+    if (d.premier + (d.possedes ? 2 : 1) * d.nombre > bench::kNombreMaxFilms)
         throw std::invalid_argument("films are distinct below " + std::to_string(bench::kNombreMaxFilms) + " only");
     return d;
 }

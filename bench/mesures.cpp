@@ -27,7 +27,10 @@ struct Collection {
     int films = 0;
     bool affiches = false;
     double demarrageMax = 0, memoireMax = 0;  // targets; 0: none
-    [[nodiscard]] std::string nom() const { return std::to_string(films) + (affiches ? "-affiches" : ""); }
+    bool possedes = false;                    // all of them
+    [[nodiscard]] std::string nom() const {
+        return std::to_string(films) + (affiches ? "-affiches" : "") + (possedes ? "-possedes" : "");
+    }
 };
 
 constexpr int kFiches = 1000, kPremiereFiche = 200000;
@@ -54,6 +57,7 @@ void installe(const Options& options, const Collection& c) {
     installe(options, dossierDe(options, c));
     std::vector<std::string> mots{"base", std::to_string(c.films), (dossierDe(options, c) / "Films.mdb").string()};
     if (c.affiches) mots.emplace_back("--affiches");
+    if (c.possedes) mots.emplace_back("--possedes");
     static_cast<void>(bench::lance("generateur", mots));
 }
 
@@ -216,6 +220,30 @@ void mesureConversion(bench::Tableau& tableau, const Options& options, int films
     compare("compaction with the posters", "compactage");
 }
 
+Figures listeDe(const Options& options, const Collection& c) {
+    const std::string dossier = collection(options, c).string();
+    std::vector<Figures> passages;
+    for (int i = 0; i < (options.vite ? 1 : 3); ++i)
+        passages.push_back(bench::lance("mesure_listes", {"rtf", dossier}));
+    return bench::retenues(passages);
+}
+
+void mesureListes(bench::Tableau& tableau, const Options& options) {
+    tableau.titre("lists of the owned titles");
+    std::map<int, double> durees;
+    for (const int films : {1000, 10000}) {
+        const Figures figures = listeDe(options, {films, false, 0, 0, true});
+        durees[films] = figures.at("rtf");
+        tableau.ajoute({"RTF of " + std::to_string(films) + " titles", "ms", durees[films], figures.at("rtf_plancher"),
+                        2.5, true});
+        tableau.ajoute({"  formatting a megabyte", "ms", figures.at("formatage_par_mo"), {}, 10.0});
+    }
+    tableau.ajoute({"RTF of 10000 titles against 1000", "ms", durees[10000], durees[1000], 11.0, true});
+    const Figures figures = listeDe(options, {10000, true, 0, 0, true});
+    tableau.ajoute(
+        {"RTF of 10000 titles, posters in the base", "ms", figures.at("rtf"), figures.at("rtf_plancher"), 2.5, true});
+}
+
 Options litOptions(int nombre, char** mots) {
     if (nombre < 3) throw std::invalid_argument("usage: mesures PROGRAMME DOSSIER [--vite] [--garde] [--commandes]");
     Options options{mots[1], mots[2]};
@@ -245,6 +273,7 @@ int main(int nombre, char** mots) try {
     bench::Tableau tableau;
     if (!options.commandes) mesureFenetresEtImports(tableau, options);
     mesureCommandes(tableau, options, options.vite ? 10000 : 100000);
+    mesureListes(tableau, options);
     mesureConversion(tableau, options, options.vite ? 2000 : 10000);
     if (!options.garde) fs::remove_all(options.dossier);
     std::cout << '\n'
