@@ -32,7 +32,7 @@ void Demarrage::execute() {
     verifieModele();
     litReglages();
     m_etats.fonctions.Label13.Caption = texteVersion();
-    m_suites.ouvertureBase();
+    ouvreLaBase();
     remplit(m_etats.liste.ChoixZone, kZones);
     remplit(m_etats.liste.ChoixTri, kTris);
     choisitTriEtZone();
@@ -84,6 +84,15 @@ void Demarrage::activeStockage() {
     if (!m_etats.stockage.dansLaBase()) return m_suites.option3();
     m_etats.stockage.Text4.Enabled = false;
     m_etats.stockage.cmdParcourir.Enabled = false;
+}
+
+// A Jet base that was not converted fails to open.
+void Demarrage::ouvreLaBase() {
+    m_suites.ouvertureBase.assureLeFichier();
+    std::optional<std::string> conversion;
+    if (db::OuvertureJet::estJet(m_chemins.base)) conversion = m_suites.ouvertureJet(m_chemins.base);
+    m_suites.ouvertureBase();
+    if (conversion) m_dialogues.MsgBox(*conversion, dialogues::kInformation);
 }
 
 // The sort first, then the zone; each selection raises its change event. Without a zone the first one lists nothing.

@@ -8,6 +8,7 @@
 #include "db/Chemins.h"
 #include "db/Option3_Click.h"
 #include "db/OuvertureBase.h"
+#include "db/OuvertureJet.h"
 #include "db/Rafraichissement.h"
 #include "platform/dialogues/Dialogues.h"
 #include "platform/systeme/InstanceUnique.h"
@@ -24,6 +25,7 @@ class Demarrage {
     struct Suites {
         db::Option3_Click& option3;
         db::OuvertureBase& ouvertureBase;
+        db::OuvertureJet& ouvertureJet;
         browse::ChoixTri& choixTri;
         browse::ChoixZone& choixZone;
         db::Rafraichissement& rafraichissement;
@@ -50,6 +52,7 @@ class Demarrage {
     void litReglages();
     void applique(const Reglages& reglages);
     void activeStockage();
+    void ouvreLaBase();
     void choisitTriEtZone();
     void litExtensions();
     // A base that opens and cannot be listed does not end the program: another one can be opened.

@@ -50,7 +50,10 @@ struct Session::Rouages final : db::Rafraichissement {
 
     // Base.
     db::OuvertureBase ouvertureBase{base, chemins, machine.dialogues};
-    db::cmdChargeOuvreBase_Click cmdChargeOuvreBase{base, chemins, ouvertureBase, *this, machine.dialogues};
+    db::OuvertureJet ouvertureJet{
+        {etats.fonctions.ProgressBar3, etats.fonctions.lblTravail, machine.ecran, machine.dialogues}};
+    db::cmdChargeOuvreBase_Click cmdChargeOuvreBase{base,         chemins, ouvertureBase,
+                                                    ouvertureJet, *this,   machine.dialogues};
     db::Option3_Click option3{etats.stockage, chemins};
     db::cmdCompacter_Click cmdCompacter{base, chemins, ouvertureBase, *this, machine.dialogues};
     db::cmdMajBase_Click cmdMajBase{
@@ -147,8 +150,9 @@ struct Session::Rouages final : db::Rafraichissement {
         {etats.fonctions, etats.panneaux, etats.fiche, etats.ajout, film, etats.demandes},
         {choixFonction, modesAjout, cmdModifierTitre, suppressionTitre, afficheVolet, afficheAccueil},
         machine.dialogues};
-    Demarrage demarrage{etats,    chemins,           extensions,
-                        instance, machine.dialogues, {option3, ouvertureBase, choixTri, choixZone, *this}};
+    Demarrage demarrage{
+        etats,    chemins,           extensions,
+        instance, machine.dialogues, {option3, ouvertureBase, ouvertureJet, choixTri, choixZone, *this}};
     Arret arret{etats, chemins, extensions, base, machine.dialogues};
 
     // What a change of base asks for.

@@ -15,15 +15,16 @@ class OuvertureBase {
     OuvertureBase(Base& base, Chemins& chemins, dialogues::Dialogues& dialogues)
         : m_base(base), m_chemins(chemins), m_dialogues(dialogues) {}
 
-    // May change chemins.base to the program folder's own "films.mdb", and make that file from the template.
+    // Begins with assureLeFichier.
     void operator()();
+    // May change chemins.base to the program folder's own "films.mdb", and make that file from the template.
+    void assureLeFichier();
 
     // Whether that existing file opens as a base. Shows the message of the failed opening when it does not; the open
     // base and the file stay as they are.
     [[nodiscard]] bool sOuvre(const std::string& chemin);
 
   private:
-    void assureLeFichier();
     bool ouvre(const std::string& chemin, Base& base);
 
     Base& m_base;

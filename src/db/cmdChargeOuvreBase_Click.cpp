@@ -8,6 +8,7 @@ namespace db {
 void cmdChargeOuvreBase_Click::operator()() {
     const std::string nom = choisit();
     if (nom.empty() || util::egalSansCasse(nom, m_chemins.base)) return;
+    if (OuvertureJet::estJet(nom)) return convertitEtOuvre(nom);
     if (fichiers::existe(nom) ? m_ouvertureBase.sOuvre(nom) : cree(nom)) remplaceLaBase(nom);
 }
 
@@ -35,6 +36,13 @@ bool cmdChargeOuvreBase_Click::cree(const std::string& nom) {
     if (m_ouvertureBase.sOuvre(nom)) return true;
     fichiers::supprime(nom);  // a copy of a template that is no base
     return false;
+}
+
+void cmdChargeOuvreBase_Click::convertitEtOuvre(const std::string& nom) {
+    const auto rapport = m_ouvertureJet(nom);
+    if (!rapport) return;
+    if (m_ouvertureBase.sOuvre(nom)) remplaceLaBase(nom);
+    m_dialogues.MsgBox(*rapport, dialogues::kInformation);
 }
 
 void cmdChargeOuvreBase_Click::remplaceLaBase(const std::string& nom) {

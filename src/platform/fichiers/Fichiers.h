@@ -45,6 +45,10 @@ enum class Creation { Faite, ExisteDeja, Echouee };
 // Renames over what stands at `vers` (where a link leads), on the same file system, and takes the folder to the disk.
 [[nodiscard]] bool renomme(const std::string& de, const std::string& vers);
 
+// Gives a file another name, which nothing bears yet, in the same folder. It keeps the one it has; where the file system
+// knows no file of two names the other one is given to a copy, as old as the file. The name is on the disk then.
+[[nodiscard]] Creation donneAutreNom(const std::string& chemin, const std::string& autre);
+
 // Copies over what stands at `vers`; a copy onto itself is recognised and does nothing, successfully. `avance` is told
 // how many bytes are copied, again and again, and stops it by false: what stood at `vers` then stays.
 bool copie(const std::string& de, const std::string& vers, const std::function<bool(std::int64_t)>& avance = {});

@@ -18,9 +18,10 @@
 // Every box is as good as any other: for programs that are killed before they show it.
 struct DialoguesMuets final : dialogues::Dialogues {
     std::vector<std::string> textes;
+    int reponse = dialogues::kOk;
     int MsgBox(const std::string& texte, int, const std::string&) override {
         textes.push_back(texte);
-        return dialogues::kOk;
+        return reponse;
     }
     std::string InputBox(const std::string&, const std::string&, const std::string&) override { return {}; }
     std::string choisitFichier(const dialogues::DemandeFichier&) override { return {}; }

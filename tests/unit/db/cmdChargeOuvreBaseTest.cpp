@@ -1,7 +1,9 @@
 #include "Installation.h"
 #include "RafraichissementNote.h"
 #include "db/cmdChargeOuvreBase_Click.h"
+#include "doubles/CollectionJet.h"
 #include "doubles/DialoguesScript.h"
+#include "doubles/EcranMuet.h"
 
 #include <filesystem>
 
@@ -16,7 +18,12 @@ class cmdChargeOuvreBaseTest : public ::testing::Test {
     doubles::DialoguesScript dialogues;
     RafraichissementNote rafraichissement;
     db::OuvertureBase ouvertureBase{base, installation.chemins, dialogues};
-    db::cmdChargeOuvreBase_Click commande{base, installation.chemins, ouvertureBase, rafraichissement, dialogues};
+    doubles::EcranMuet ecran;
+    ecran::Progression progression;
+    ecran::Etiquette lblTravail;
+    db::OuvertureJet ouvertureJet{{progression, lblTravail, ecran, dialogues}};
+    db::cmdChargeOuvreBase_Click commande{base,         installation.chemins, ouvertureBase,
+                                          ouvertureJet, rafraichissement,     dialogues};
 
     void SetUp() override {
         installation.creeBase("Films.mdb");
@@ -101,6 +108,28 @@ TEST_F(cmdChargeOuvreBaseTest, AnEndingInCapitalsIsKept) {
     choisit(chemin("Voisin.MDB"));
     aChangePour(chemin("Voisin.MDB"));
     EXPECT_EQ(Installation::premierTitre(base), "Le film du voisin");
+}
+
+// It is converted while the open base still is: whatever prevents it leaves that one.
+TEST_F(cmdChargeOuvreBaseTest, AJetBaseIsConvertedAndOpened) {
+    const std::string nom = installation.dossier.ecrit("Ancienne.mdb", doubles::collectionJet(2).octets());
+    const std::string question = "Le fichier " + nom +
+                                 " est une base Jet (Access). Voulez-vous la convertir pour l'ouvrir ?\nL'original "
+                                 "sera conservé sous le nom « Ancienne (Jet).mdb ».";
+    choisit(nom);
+    dialogues.attendMsgBox(question, 36, dialogues::kOui);
+    dialogues.attendMsgBox("La conversion a été arrêtée. Le fichier " + nom + " n'a pas été modifié.", 64);
+    ecran.arretApres = 1;
+    rienNAChange();
+    choisit(nom);
+    dialogues.attendMsgBox(question, 36, dialogues::kOui);
+    dialogues.attendMsgBox(
+        "La base a été convertie.\n2 films, 2 possessions, 2 affiches dans la base.\nTable non reprise : Notes "
+        "diverses.\nChamp non repris : Films.Format.\nL'original est conservé sous le nom « Ancienne (Jet).mdb ».",
+        64);
+    ecran.arretApres = 0;
+    aChangePour(nom);
+    EXPECT_EQ(Installation::premierTitre(base), "Été 0");
 }
 
 }  // namespace

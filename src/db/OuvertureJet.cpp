@@ -1,0 +1,196 @@
+#include "db/OuvertureJet.h"
+
+#include "db/ConversionJet.h"
+#include "platform/dao/DBEngine.h"
+#include "platform/fichiers/Fichiers.h"
+#include "platform/fichiers/Verrou.h"
+#include "platform/jet/LecteurJet.h"
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <string_view>
+#include <system_error>
+
+namespace db {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kNomsEssayes = 1000;
+
+struct Echec {
+    std::string texte;
+};
+struct Arret {};
+
+// The file itself, wherever links to it lie.
+std::string fichierReel(const std::string& chemin) {
+    std::error_code erreur;
+    const fs::path reel = fs::canonical(fichiers::trouve(chemin).value_or(chemin), erreur);
+    return erreur ? chemin : reel.string();
+}
+
+std::string entreChevrons(const std::string& nom) {
+    return "« " + nom + " »";
+}
+std::string nomSeul(const std::string& chemin) {
+    return fs::path(chemin).filename().string();
+}
+
+// "Films (Jet).mdb", "Films (Jet 2).mdb"...
+std::string nomConserve(const std::string& original, int rang) {
+    const fs::path chemin(original);
+    const std::string marque = rang == 1 ? " (Jet)" : " (Jet " + std::to_string(rang) + ")";
+    return (chemin.parent_path() / (chemin.stem().string() + marque + chemin.extension().string())).string();
+}
+
+// A conversion that was killed may have given the original its other name already. A link to it is none: it would lead
+// to the new base.
+bool estSonAutreNom(const std::string& nom, const std::string& original) {
+    std::error_code ignoree;
+    return !fs::is_symlink(fs::symlink_status(nom, ignoree)) && fs::equivalent(nom, original, ignoree);
+}
+
+bool estLibreOuSien(const std::string& nom, const std::string& original) {
+    return estSonAutreNom(nom, original) || (!fichiers::existe(nom) && !fichiers::dossierExiste(nom));
+}
+
+int premierRang(const std::string& original, int depuis = 1) {
+    int rang = depuis;
+    while (rang < kNomsEssayes && !estLibreOuSien(nomConserve(original, rang), original))
+        ++rang;
+    return rang;
+}
+
+std::string fichierDuVerrou(const std::string& original) {
+    return fs::path(original).replace_extension(".ldb").string();
+}
+
+// What the work on such a file begins with: nothing yet, or the header of a base of ours. After a power cut, zeros.
+bool estInacheve(const std::string& travail) {
+    static constexpr std::string_view kSignature("SQLite format 3\0", 16);
+    static constexpr std::size_t kPlaceIdentifiant = 68;
+    std::array<char, 72> entete{};
+    std::ifstream fichier(travail, std::ios::binary);
+    if (!fichier || !fs::is_regular_file(travail)) return false;
+    fichier.read(entete.data(), entete.size());
+    const std::string_view lu(entete.data(), entete.size());
+    std::uint32_t identifiant = 0;
+    for (const char c : lu.substr(kPlaceIdentifiant))
+        identifiant = identifiant << 8 | static_cast<unsigned char>(c);
+    return lu.find_first_not_of('\0') == std::string_view::npos ||
+           (lu.starts_with(kSignature) && identifiant == dao::DBEngine::kIdentifiantApplication);
+}
+
+// What a conversion that was killed has left.
+void nettoie(const std::string& travail) {
+    std::error_code ignoree;
+    if (!fs::exists(fs::symlink_status(travail, ignoree))) return;
+    if (!estInacheve(travail) || !fichiers::supprime(travail))
+        throw Echec{"Le fichier " + entreChevrons(travail) + " gêne la conversion. Déplacez-le, puis recommencez."};
+    fichiers::supprime(travail + "-journal");
+}
+
+// SQLite would take another base's log, left beside a file of the same name, for the new base's.
+void exigeNomLibre(const std::string& original) {
+    for (const char* suite : {"-journal", "-wal"})
+        if (fichiers::existe(original + suite))
+            throw Echec{"Le fichier " + entreChevrons(original + suite) +
+                        " appartient à une autre base. Déplacez-le, puis recommencez."};
+}
+
+// Those of the original, which may be a copy of a disc that could not be written.
+void donneLesDroits(const std::string& travail, const std::string& original) {
+    std::error_code ignoree;
+    const fs::perms droits = fs::status(original, ignoree).permissions();
+    fs::permissions(travail, droits | fs::perms::owner_read | fs::perms::owner_write, ignoree);
+}
+
+std::string conserve(const std::string& original) {
+    for (int rang = premierRang(original); rang < kNomsEssayes; rang = premierRang(original, rang + 1)) {
+        const std::string nom = nomConserve(original, rang);
+        if (estSonAutreNom(nom, original)) return nom;
+        const fichiers::Creation issue = fichiers::donneAutreNom(original, nom);
+        if (issue == fichiers::Creation::Faite) return nom;
+        if (issue == fichiers::Creation::Echouee) break;
+    }
+    throw Echec{"L'original n'a pas pu être conservé sous le nom " + entreChevrons(nomSeul(nomConserve(original, 1))) +
+                " (Disque plein/Lecture seule ?)"};
+}
+
+// Puts the new base in the original's place. Answers the original's other name.
+std::string echange(const std::string& travail, const std::string& original) {
+    donneLesDroits(travail, original);
+    const std::string conservee = conserve(original);
+    if (fichiers::renomme(travail, original)) return conservee;
+    fichiers::supprime(conservee);
+    throw Echec{"Le fichier n'a pas pu être remplacé."};
+}
+
+}  // namespace
+
+bool OuvertureJet::estJet(const std::string& chemin) {
+    return jet::estBaseJet(fichierReel(chemin));
+}
+
+std::optional<std::string> OuvertureJet::operator()(const std::string& chemin) {
+    const std::string original = fichierReel(chemin);
+    if (!accepte(original)) return std::nullopt;
+    const std::string travail = original + "-conversion.tmp";
+    try {
+        const fichiers::Verrou verrou(original);
+        if (!verrou.estPris()) throw Echec{"Le fichier ne peut pas être lu, ou un autre programme le convertit déjà."};
+        exigeNomLibre(original);
+        nettoie(travail);
+        return convertit(original, travail);
+    } catch (const Arret&) {
+        m_outils.dialogues.MsgBox("La conversion a été arrêtée. Le fichier " + original + " n'a pas été modifié.",
+                                  dialogues::kInformation);
+    } catch (const Echec& echec) {
+        m_outils.dialogues.MsgBox(
+            "La base n'a pas pu être convertie.\n" + echec.texte + "\nLe fichier " + original + " n'a pas été modifié.",
+            dialogues::kCritique);
+    }
+    return std::nullopt;
+}
+
+bool OuvertureJet::accepte(const std::string& original) const {
+    std::string question = "Le fichier " + original +
+                           " est une base Jet (Access). Voulez-vous la convertir pour l'ouvrir ?\n" +
+                           "L'original sera conservé sous le nom " +
+                           entreChevrons(nomSeul(nomConserve(original, premierRang(original)))) + ".";
+    const std::string verrou = fichierDuVerrou(original);
+    if (fichiers::existe(verrou))
+        question += "\nLe fichier " + entreChevrons(nomSeul(verrou)) +
+                    " indique qu'un autre programme l'utilise peut-être : fermez-le d'abord.";
+    return m_outils.dialogues.MsgBox(question, dialogues::kQuestion) == dialogues::kOui;
+}
+
+std::string OuvertureJet::convertit(const std::string& original, const std::string& travail) {
+    const RapportJet rapport = lit(original, travail);
+    try {
+        const std::string conservee = echange(travail, original);
+        return "La base a été convertie.\n" + rapport.texte() + "\nL'original est conservé sous le nom " +
+               entreChevrons(nomSeul(conservee)) + ".";
+    } catch (const Echec&) {
+        fichiers::supprime(travail);
+        throw;
+    }
+}
+
+RapportJet OuvertureJet::lit(const std::string& original, const std::string& travail) {
+    if (!fichiers::dossierModifiable(fs::path(original).parent_path().string()))
+        throw Echec{"Son dossier n'est pas accessible en écriture."};
+    m_outils.lblTravail.Caption = "Conversion de la base " + nomSeul(original) + "...";
+    m_outils.progression.Visible = true;
+    const IssueJet issue = ConversionJet(m_outils.progression, m_outils.ecran)(original, travail);
+    m_outils.progression.Visible = false;
+    m_outils.lblTravail.Caption.clear();
+    if (issue.interrompu) throw Arret{};
+    if (issue.echec) throw Echec{*issue.echec};
+    return issue.rapport;
+}
+
+}  // namespace db

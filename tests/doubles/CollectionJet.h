@@ -1,0 +1,62 @@
+#pragma once
+
+#include "doubles/BaseJet.h"
+#include "util/Texte.h"
+
+#include <string>
+
+namespace doubles {
+
+// A film's picture in a collection: bytes of every value, each film's its own.
+inline std::string imageJet(int film, std::size_t taille = 6000) {
+    std::string octets = "\xFF\xD8";
+    for (std::size_t i = 2; i < taille; ++i)
+        octets += static_cast<char>(i * static_cast<std::size_t>(film + 1) + i / 256);
+    return octets;
+}
+
+// A small collection as a genuine Jet base: films 0 to `films` - 1 ("Été 0", "Été 1"...), each with a summary over two
+// pages and its picture in the base; the first two are owned. A third table and a field more have no place in ours.
+inline BaseJet collectionJet(int films, std::size_t tailleImage = 6000) {
+    using Champ = BaseJet::Champ;
+    BaseJet base;
+    base.comprime = true;
+    const std::size_t catalogue = base.table("films", {Champ{"Titre"},
+                                                       {"Realisateur"},
+                                                       {"Annee"},
+                                                       {"Origine"},
+                                                       {"Genre"},
+                                                       {"Duree"},
+                                                       {"Acteurs"},
+                                                       {"Resume", BaseJet::Memo},
+                                                       {"Production"},
+                                                       {"Affiche", BaseJet::Memo},
+                                                       {"NOTE", BaseJet::Entier16},
+                                                       {"DateAjout"},
+                                                       {"Format"}});
+    for (int film = 0; film < films; ++film) {
+        const std::string titre = "Été " + std::to_string(film);
+        const std::string resume = std::string(5000, 'r') + " L'œuvre \"" + titre + "\"\r\nfin";
+        base.ligne(catalogue,
+                   {titre, "Agnès Varda", "1962", "France", "Drame", "1H30", "", resume, std::nullopt,
+                    "STO" + util::depuis1252(imageJet(film, tailleImage)), BaseJet::petit(7, 2), "12/03/2004", "16/9"});
+    }
+    const std::size_t possessions = base.table("Personnel", {Champ{"Titre2"},
+                                                             {"Realisateur2"},
+                                                             {"Rangement"},
+                                                             {"Fichier1"},
+                                                             {"Fichier2"},
+                                                             {"Fichier3"},
+                                                             {"Pret"},
+                                                             {"Reserve"},
+                                                             {"Date"},
+                                                             {"Divers", BaseJet::Memo},
+                                                             {"Support"}});
+    for (int film = 0; film < films && film < 2; ++film)
+        base.ligne(possessions, {"Été " + std::to_string(film), "Agnès Varda", "Salon", "D:\\Films\\été.avi",
+                                 std::nullopt, "", "", std::nullopt, "13/03/2004", "prêté", "DVD"});
+    base.table("Notes diverses", {Champ{"Texte"}});
+    return base;
+}
+
+}  // namespace doubles

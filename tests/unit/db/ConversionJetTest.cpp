@@ -1,0 +1,113 @@
+#include "BasesJet.h"
+#include "db/ConversionJet.h"
+#include "doubles/CollectionJet.h"
+#include "doubles/DossierTemporaire.h"
+#include "doubles/EcranMuet.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ContainerEq;
+
+class ConversionJetTest : public ::testing::Test {
+  protected:
+    doubles::DossierTemporaire dossier;
+    doubles::EcranMuet ecran;
+    ecran::Progression progression;
+    db::ConversionJet convertit{progression, ecran};
+
+    // A base made of these bytes.
+    db::IssueJet convertitOctets(const std::string& octets) {
+        return convertit(dossier.ecrit("jet.mdb", octets), dossier.chemin("neuve.mdb"));
+    }
+};
+
+TEST_F(ConversionJetTest, EveryFieldOfEveryRealBaseIsCarriedExactly) {
+    if (!fs::exists(dossierBasesJet())) GTEST_SKIP() << "no real data: " << dossierBasesJet();
+    int bases = 0;
+    for (const auto& entree : fs::directory_iterator(dossierBasesJet())) {
+        if (entree.path().extension() != ".mdb") continue;
+        SCOPED_TRACE(entree.path().filename().string());
+        ++bases;
+        const db::IssueJet issue = convertit(entree.path(), dossier.chemin("neuve.mdb"));
+        ASSERT_TRUE(issue.estFaite()) << issue.echec.value_or("");
+        dao::Database base = dao::DBEngine::OpenDatabase(dossier.chemin("neuve.mdb"));
+        for (const char* table : {"Films", "Personnel"}) {
+            const auto attendues = doubles::litCollection(fs::path(entree.path()).replace_extension("json"), table);
+            const auto lues = litTable(base, table);
+            ASSERT_EQ(lues.size(), attendues.size()) << table;
+            for (std::size_t i = 0; i < lues.size(); ++i)
+                EXPECT_THAT(lues[i], ContainerEq(attendues[i])) << table << " " << i;
+        }
+        for (dao::Recordset films = base.OpenRecordset("Films"); !films.Eof(); films.MoveNext())
+            EXPECT_TRUE(films.valeur("Note").estNull() || films.valeur("Note").estNombre()) << films.texte("Titre");
+        base.Close();
+        fs::remove(dossier.chemin("neuve.mdb"));
+    }
+    EXPECT_EQ(bases, 8);
+    EXPECT_EQ(progression.Value, progression.Max);
+    EXPECT_EQ(ecran.soufflesHorsTravail, 0);
+}
+
+TEST_F(ConversionJetTest, NullsNumbersPostersAndPathsAreWhatTheyWere) {
+    const db::IssueJet issue = convertitOctets(doubles::collectionJet(3, 230001).octets());
+    EXPECT_EQ(issue.rapport.texte(),
+              "3 films, 2 possessions, 3 affiches dans la base.\nTable non reprise : Notes diverses.\n"
+              "Champ non repris : Films.Format.");
+    dao::Database base = dao::DBEngine::OpenDatabase(dossier.chemin("neuve.mdb"));
+    dao::Recordset films = base.OpenRecordset("Films");
+    films.Move(2);
+    EXPECT_EQ(films.valeur("Affiche"), dao::Valeur::octets("STO" + doubles::imageJet(2, 230001)));
+    EXPECT_EQ(films.texte("Resume"), std::string(5000, 'r') + " L'œuvre \"Été 2\"\r\nfin");
+    EXPECT_EQ(films.valeur("Note"), dao::Valeur(7));
+    EXPECT_EQ(films.valeur("Acteurs"), dao::Valeur(""));
+    EXPECT_TRUE(films.valeur("Production").estNull());
+    EXPECT_EQ(base.OpenRecordset("Personnel").texte("Fichier1"), "D:\\Films\\été.avi");
+}
+
+TEST_F(ConversionJetTest, WhatIsMissingIsNamedAndNothingIsLeft) {
+    doubles::BaseJet sansTable;
+    sansTable.table("Films", {{"Titre"}});
+    doubles::BaseJet sansLignes = doubles::collectionJet(3);
+    sansLignes.lignesDeclarees = 4;
+    doubles::BaseJet sansChamp = sansTable;
+    sansChamp.table("Personnel", {{"Titre2"}});
+    const std::vector<std::pair<doubles::BaseJet, std::string>> cas{
+        {sansLignes, "La table « Films » est incomplète : 3 lignes lues sur 4 annoncées."},
+        {sansChamp, "Le champ « Realisateur » manque dans la table « Films »."},
+        {doubles::BaseJet(), "La table « Films » manque."}};
+    for (const auto& [base, raison] : cas) {
+        EXPECT_EQ(convertitOctets(base.octets()).echec, raison);
+        EXPECT_FALSE(dossier.existe("neuve.mdb")) << raison;
+    }
+}
+
+// One breath in the middle of the copying, one in the middle of the reading back.
+TEST_F(ConversionJetTest, StoppedAnywhereItLeavesNothing) {
+    for (const int souffle : {20, 50}) {
+        ecran.souffles = 0;
+        ecran.arretApres = souffle;
+        const db::IssueJet issue = convertitOctets(doubles::collectionJet(30).octets());
+        EXPECT_TRUE(issue.interrompu);
+        EXPECT_EQ(ecran.souffles, souffle);
+        EXPECT_FALSE(dossier.existe("neuve.mdb"));
+    }
+}
+
+TEST_F(ConversionJetTest, ABaseThatChangesMeanwhileIsNotWhatWasRead) {
+    ecran.pendantSouffle = [this] { fs::last_write_time(dossier.chemin("jet.mdb"), fs::file_time_type::clock::now()); };
+    EXPECT_EQ(convertitOctets(doubles::collectionJet(3).octets()).echec,
+              "Un autre programme a modifié la base pendant sa lecture.");
+    EXPECT_FALSE(dossier.existe("neuve.mdb"));
+}
+
+TEST_F(ConversionJetTest, WhatStandsAtTheDestinationStays) {
+    dossier.ecrit("neuve.mdb", "une lettre");
+    EXPECT_EQ(convertitOctets(doubles::BaseJet().octets()).echec,
+              "Le fichier « " + dossier.chemin("neuve.mdb") + " » existe déjà.");
+    EXPECT_EQ(dossier.lit("neuve.mdb"), "une lettre");
+}
+
+}  // namespace
