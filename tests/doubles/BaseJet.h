@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <numeric>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,7 +31,7 @@ class BaseJet {
         Ole,
         Memo,
         Identifiant = 15,
-        Decimal,
+        Decimal
     };
     struct Champ {
         std::string nom;
@@ -50,11 +51,9 @@ class BaseJet {
 
     // An integer's bytes.
     static std::string petit(std::uint64_t valeur, std::size_t octets) {
-        std::string texte(octets, '\0');
-        for (char& octet : texte) {
-            octet = static_cast<char>(valeur & 0xFF);
-            valeur >>= 8;
-        }
+        std::string texte;
+        for (; texte.size() < octets; valeur >>= 8)
+            texte += static_cast<char>(valeur & 0xFF);
         return texte;
     }
 
@@ -64,13 +63,10 @@ class BaseJet {
         return m_tables.size() - 1;
     }
     void ligne(std::size_t table, const Valeurs& valeurs, Place place = Place::Normale) {
-        const std::string octets = assemble(m_tables[table].champs, valeurs);
-        if (place == Place::Normale) ++m_tables[table].lignes, range(m_tables[table], octets, 0);
-        if (place == Place::Supprimee) range(m_tables[table], octets, 0x8000);
-        if (place == Place::Deplacee) {
-            const std::uint32_t ailleurs = range(m_tables[table], octets, 0x8000);
-            ++m_tables[table].lignes, range(m_tables[table], petit(ailleurs, 4), 0x4000);
-        }
+        Table& rangee = m_tables[table];
+        const std::uint32_t ou = range(rangee, assemble(rangee.champs, valeurs), place == Place::Normale ? 0 : 0x8000);
+        if (place == Place::Deplacee) range(rangee, petit(ou, 4), 0x4000);
+        if (place != Place::Supprimee) ++rangee.lignes;
     }
 
     // The whole file.
@@ -81,7 +77,6 @@ class BaseJet {
 
   private:
     static constexpr std::size_t kPage = 4096;
-    static constexpr std::uint32_t kProprietaireMemo = 0x4C41564C;
     struct Table {
         std::string nom;
         std::uint32_t drapeaux, page;
@@ -119,25 +114,23 @@ class BaseJet {
     }
     std::uint32_t nouvellePageDonnees(std::uint32_t proprietaire) {
         const std::uint32_t page = nouvellePage();
-        pose(m_pages[page], 0, 0x0101, 2);
-        pose(m_pages[page], 4, proprietaire, 4);
+        m_pages[page].replace(0, 8, petit(0x0101, 4) + petit(proprietaire, 4));
         return page;
     }
     std::uint32_t range(Table& table, std::string_view octets, unsigned drapeaux) {
-        std::uint32_t pointeur = table.donnees.empty() ? 0 : ajoute(table.donnees.back(), octets, drapeaux);
-        if (pointeur == 0) {
-            table.donnees.push_back(nouvellePageDonnees(table.page));
-            pointeur = ajoute(table.donnees.back(), octets, drapeaux);
-        }
-        return pointeur;
+        const std::uint32_t pointeur = table.donnees.empty() ? 0 : ajoute(table.donnees.back(), octets, drapeaux);
+        if (pointeur != 0) return pointeur;
+        table.donnees.push_back(nouvellePageDonnees(table.page));
+        return ajoute(table.donnees.back(), octets, drapeaux);
     }
 
-    [[nodiscard]] std::string texte(const std::string& utf8) const {
+    static std::string texte(const std::string& utf8, bool comprime) {
         const std::u16string unites = std::filesystem::path(std::u8string(utf8.begin(), utf8.end())).u16string();
-        const bool latin = std::ranges::all_of(unites, [](char16_t unite) { return unite > 0 && unite < 256; });
-        std::string octets = comprime && latin ? "\xFF\xFE" : "";
+        const auto estLatine = [](char16_t unite) { return unite > 0 && unite < 256; };
+        const bool court = comprime && std::ranges::all_of(unites, estLatine);
+        std::string octets = court ? "\xFF\xFE" : "";
         for (const char16_t unite : unites)
-            octets += petit(unite, comprime && latin ? 1 : 2);
+            octets += petit(unite, court ? 1 : 2);
         return octets;
     }
     std::string longue(const std::string& octets) {
@@ -147,7 +140,7 @@ class BaseJet {
         // A chain is laid from its end: each piece names the next.
         for (std::size_t place = (octets.size() - 1) / kParPage * kParPage;; place -= kParPage) {
             const std::string suite = forme != 0 ? "" : petit(pointeur, 4);
-            pointeur = ajoute(nouvellePageDonnees(kProprietaireMemo), suite + octets.substr(place, kParPage), 0);
+            pointeur = ajoute(nouvellePageDonnees(0x4C41564C), suite + octets.substr(place, kParPage), 0);
             if (place == 0) return petit(forme | octets.size(), 4) + petit(pointeur, 4) + petit(0, 4);
         }
     }
@@ -157,15 +150,16 @@ class BaseJet {
         std::vector<std::size_t> places;
         for (std::size_t i = 0; i < champs.size(); ++i) {
             const Type type = champs[i].type;
-            const std::string valeur = valeurs[i].value_or("");
+            std::string valeur = valeurs[i].value_or("");
             if (valeurs[i]) masque[i / 8] = static_cast<char>(masque[i / 8] | 1 << i % 8);
-            if (!estFixe(type)) places.push_back(variables.size());
             if (estFixe(type)) {
-                std::string octets = type == Booleen ? "" : valeur;
-                octets.resize(tailleFixe(type));
-                fixes += octets;
-            } else if (valeurs[i]) {
-                const std::string octets = type == Texte || type == Memo ? texte(valeur) : valeur;
+                valeur.resize(tailleFixe(type));
+                fixes += valeur;
+                continue;
+            }
+            places.push_back(variables.size());
+            if (valeurs[i]) {
+                const std::string octets = type == Texte || type == Memo ? texte(valeur, comprime) : valeur;
                 variables += type == Memo || type == Ole ? longue(octets) : octets;
             }
         }
@@ -182,21 +176,12 @@ class BaseJet {
         std::size_t fixe = 0, variable = 0;
         for (std::size_t i = 0; i < table.champs.size(); ++i) {
             const Type type = table.champs[i].type;
-            std::string colonne(25, '\0');
-            pose(colonne, 0, type, 1);
-            pose(colonne, 5, i, 2);
-            pose(colonne, 7, variable, 2);
-            pose(colonne, 9, i, 2);
-            pose(colonne, 12, type == Decimal ? 3 : 0, 1);
-            pose(colonne, 15, estFixe(type) ? 3 : 2, 1);
-            pose(colonne, 21, fixe, 2);
-            pose(colonne, 23, estFixe(type) ? tailleFixe(type) : 510, 2);
+            colonnes += petit(type, 5) + petit(i, 2) + petit(variable, 2) + petit(i, 2) + petit(0, 1) +
+                        petit(type == Decimal ? 3 : 0, 3) + petit(estFixe(type) ? 3 : 2, 6) + petit(fixe, 2) +
+                        petit(estFixe(type) ? tailleFixe(type) : 510, 2);
             estFixe(type) ? fixe += tailleFixe(type) : ++variable;
-            colonnes += colonne;
-            const std::u16string nom = std::filesystem::path(table.champs[i].nom).u16string();
-            noms += petit(2 * nom.size(), 2);
-            for (const char16_t unite : nom)
-                noms += petit(unite, 2);
+            const std::string nom = texte(table.champs[i].nom, false);
+            noms += petit(nom.size(), 2) + nom;
         }
         std::string tete(63, '\0');
         pose(tete, 0, 0x0102, 2);
@@ -208,21 +193,19 @@ class BaseJet {
         for (std::uint32_t page = table.page;;) {
             m_pages[page].replace(0, std::min(reste.size(), kPage), reste, 0, kPage);
             if (reste.size() <= kPage) return;
-            const std::uint32_t suite = nouvellePage();
-            pose(m_pages[page], 4, suite, 4);
             reste = petit(0x0102, 8) + reste.substr(kPage);
-            page = suite;
+            const std::uint32_t avant = std::exchange(page, nouvellePage());
+            pose(m_pages[avant], 4, page, 4);
         }
     }
     // The map of a table's data pages; the pointer to it.
     std::uint32_t carte(const Table& table) {
         constexpr std::size_t kEnLigne = 64 * 8, kParPage = (kPage - 4) * 8;
         const std::size_t premiere = table.donnees.empty() ? 0 : table.donnees.front();
-        const std::size_t fin = table.donnees.empty() ? 0 : table.donnees.back() + 1;
-        if (!cartesSurDesPages && fin <= premiere + kEnLigne)
+        if (!cartesSurDesPages && (table.donnees.empty() || table.donnees.back() < premiere + kEnLigne))
             return ajoute(1, petit(0, 1) + petit(premiere, 4) + bits(table, premiere, 64), 0);
         std::string pages;
-        for (std::size_t debut = 0; debut < fin; debut += kParPage) {
+        for (std::size_t debut = 0; !table.donnees.empty() && debut <= table.donnees.back(); debut += kParPage) {
             pages += petit(nouvellePage(), 4);
             m_pages.back() = petit(0x0105, 4) + bits(table, debut, kPage - 4);
         }
@@ -240,8 +223,7 @@ class BaseJet {
     // The cipher of encoded bases, its own inverse.
     static void chiffre(std::string& octets, std::size_t place, std::size_t longueur, std::uint32_t cle) {
         std::array<std::uint8_t, 256> boite{};
-        for (std::size_t i = 0; i < boite.size(); ++i)
-            boite[i] = static_cast<std::uint8_t>(i);
+        std::iota(boite.begin(), boite.end(), std::uint8_t{0});
         for (std::size_t i = 0, j = 0; i < boite.size(); ++i) {
             j = (j + boite[i] + (cle >> 8 * (i % 4) & 0xFF)) % 256;
             std::swap(boite[i], boite[j]);
@@ -255,19 +237,16 @@ class BaseJet {
 
     std::string acheve() {
         pose(m_pages[1], 0, 0x0101, 2);
-        Table catalogue{
-            "MSysObjects", 0, 2, {{"Id", Entier32}, {"Name"}, {"Type", Entier16}, {"Flags", Entier32}}, {}, 0};
+        const std::vector<Champ> champs{{"Id", Entier32}, {"Name"}, {"Type", Entier16}, {"Flags", Entier32}};
+        Table catalogue{"MSysObjects", 0, 2, champs, {}, 0};
         for (const Table& table : m_tables) {
-            range(catalogue,
-                  assemble(catalogue.champs,
-                           Valeurs{petit(table.page, 4), table.nom, petit(1, 2), petit(table.drapeaux, 4)}),
-                  0);
+            const Valeurs objet{petit(table.page, 4), table.nom, petit(1, 2), petit(table.drapeaux, 4)};
+            range(catalogue, assemble(champs, objet), 0);
             definit(table);
         }
         definit(catalogue);
         std::string& tete = m_pages[0];
-        tete.replace(0, 4, petit(0x0100, 4));
-        tete.replace(4, 15, "Standard Jet DB");
+        tete.replace(0, 19, petit(0x0100, 4) + "Standard Jet DB");
         pose(tete, 0x14, 1, 4);
         pose(tete, 0x3C, 1252, 2);
         pose(tete, 0x3E, cle, 4);

@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <memory>
 
 #include <glib.h>
 #include <gmock/gmock.h>
@@ -18,10 +19,9 @@ std::string dossier() {
 
 std::string sha256(const std::string& octets) {
     const auto* debut = reinterpret_cast<const guchar*>(octets.data());
-    char* somme = g_compute_checksum_for_data(G_CHECKSUM_SHA256, debut, octets.size());
-    std::string texte = somme;
-    g_free(somme);
-    return texte;
+    const std::unique_ptr<char, decltype(&g_free)> somme(
+        g_compute_checksum_for_data(G_CHECKSUM_SHA256, debut, octets.size()), g_free);
+    return somme.get();
 }
 
 std::vector<LigneJson> lit(jet::Lecteur& lecteur, const std::string& nom) {

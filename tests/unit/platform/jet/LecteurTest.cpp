@@ -10,8 +10,8 @@
 
 namespace {
 
+using namespace std::string_literals;
 using doubles::BaseJet;
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Optional;
@@ -43,8 +43,9 @@ class Lecteur : public testing::Test {
     jet::Bilan m_bilan;
 };
 
+constexpr auto petit = BaseJet::petit;
 std::string reel(double valeur) {
-    return BaseJet::petit(std::bit_cast<std::uint64_t>(valeur), 8);
+    return petit(std::bit_cast<std::uint64_t>(valeur), 8);
 }
 
 TEST_F(Lecteur, nullEmptyAndEveryCharacterComeThrough) {
@@ -52,10 +53,10 @@ TEST_F(Lecteur, nullEmptyAndEveryCharacterComeThrough) {
         BaseJet base;
         base.comprime = comprime;
         const std::size_t films = base.table("Films", {{"Titre"}, {"Résumé", BaseJet::Memo}, {"Note", BaseJet::Octet}});
-        const Lignes lignes{{"L'Été meurtrier", "Une \"belle\" histoire\r\n", BaseJet::petit(8, 1)},
+        const Lignes lignes{{"L'Été meurtrier", "Une \"belle\" histoire\r\n", petit(8, 1)},
                             {"", "", std::nullopt},
                             {std::nullopt, std::nullopt, std::nullopt},
-                            {"L'Œuvre 日本 🎬", std::string("a\0b", 3), std::nullopt}};
+                            {"L'Œuvre 日本 🎬", "a\0b"s, std::nullopt}};
         for (const auto& ligne : lignes)
             base.ligne(films, ligne);
         Lignes attendues = lignes;
@@ -66,18 +67,13 @@ TEST_F(Lecteur, nullEmptyAndEveryCharacterComeThrough) {
 
 TEST_F(Lecteur, aCompressedTextGoesOverToTwoBytesAndBack) {
     BaseJet base;
-    const std::size_t films = base.table("Films", {{"Titre", BaseJet::Binaire}});
-    base.ligne(films, {std::string("\xFF\xFE"
-                                   "L'\0\x53\x01\0uvre \0\x3D\xD8",
-                                   16)});
+    base.ligne(base.table("Films", {{"Titre", BaseJet::Binaire}}), {"\xFF\xFEL'\0\x53\x01\0uvre \0\x3D\xD8"s});
     std::string octets = base.octets();
     // A field of binary type takes any bytes: called a text afterwards, it is one.
-    const std::size_t type = octets.find(std::string("\x09\0\0\0\0\0\0", 7), 4096);
-    ASSERT_NE(type, std::string::npos);
-    octets[type] = BaseJet::Texte;
+    octets.at(octets.find("\x09\0\0\0\0\0\0"s, 4096)) = BaseJet::Texte;
     jet::Lecteur lecteur = ouvre(octets);
     lecteur.parcourt(lecteur.tables()[0], [](jet::Ligne ligne) {
-        EXPECT_THAT(ligne[0], Optional(std::string("L'œuvre \xEF\xBF\xBD")));  // half a pair stands for no character
+        EXPECT_THAT(ligne[0], Optional("L'œuvre \xEF\xBF\xBD"s));  // half a pair stands for no character
         return true;
     });
 }
@@ -87,26 +83,23 @@ TEST_F(Lecteur, everyTypeBecomesText) {
         BaseJet::Type type;
         std::optional<std::string> octets, attendu;
     };
-    const std::string un = BaseJet::petit(1, 1), quatre = BaseJet::petit(0, 12) + BaseJet::petit(12345, 4);
     const std::vector<Cas> cas{
-        {BaseJet::Booleen, un, "-1"},
+        {BaseJet::Booleen, "", "-1"},
         {BaseJet::Booleen, std::nullopt, "0"},
-        {BaseJet::Octet, BaseJet::petit(200, 1), "200"},
-        {BaseJet::Entier16, BaseJet::petit(-12, 2), "-12"},
-        {BaseJet::Entier32, BaseJet::petit(-100000, 4), "-100000"},
-        {BaseJet::Monetaire, BaseJet::petit(-75000, 8), "-7.5"},
-        {BaseJet::Monetaire, BaseJet::petit(80000, 8), "8"},
-        {BaseJet::Reel32, BaseJet::petit(std::bit_cast<std::uint32_t>(7.3F), 4), "7.3"},
+        {BaseJet::Octet, petit(200, 1), "200"},
+        {BaseJet::Entier16, petit(-12, 2), "-12"},
+        {BaseJet::Entier32, petit(-100000, 4), "-100000"},
+        {BaseJet::Monetaire, petit(-75000, 8), "-7.5"},
+        {BaseJet::Monetaire, petit(80000, 8), "8"},
+        {BaseJet::Reel32, petit(std::bit_cast<std::uint32_t>(7.3F), 4), "7.3"},
         {BaseJet::Reel64, reel(9), "9"},
         {BaseJet::Reel64, reel(0.1), "0.1"},
         {BaseJet::Date, reel(38058), "12/03/2004"},
         {BaseJet::Date, reel(38058.75), "12/03/2004 18:00:00"},
         {BaseJet::Date, reel(-1.25), "29/12/1899 06:00:00"},
         {BaseJet::Date, reel(1e300), "1e+300"},
-        {BaseJet::Decimal, BaseJet::petit(0x80, 1) + quatre, "-12.345"},
-        {BaseJet::Decimal, BaseJet::petit(0, 1) + BaseJet::petit(1, 4) + BaseJet::petit(0, 12),
-         "79228162514264337593543950.336"},
-        {BaseJet::Decimal, BaseJet::petit(0, 17), "0"},
+        {BaseJet::Decimal, petit(0x80, 13) + petit(12345, 4), "-12.345"},
+        {BaseJet::Decimal, petit(0, 1) + petit(1, 16), "79228162514264337593543950.336"},
         {BaseJet::Identifiant, "0123456789abcdef", "{33323130-3534-3736-3839-616263646566}"},
         {BaseJet::Binaire, "a\xFF", "a\xFF"},
         {BaseJet::Ole, std::string(5000, '\xFF'), std::string(5000, '\xFF')},
@@ -114,10 +107,10 @@ TEST_F(Lecteur, everyTypeBecomesText) {
     BaseJet base;
     std::vector<BaseJet::Champ> champs;
     BaseJet::Valeurs valeurs, attendues;
-    for (const Cas& un_cas : cas) {
-        champs.push_back({"C" + std::to_string(champs.size()), un_cas.type});
-        valeurs.push_back(un_cas.octets);
-        attendues.push_back(un_cas.attendu);
+    for (const auto& [type, octets, attendu] : cas) {
+        champs.push_back({"C", type});
+        valeurs.push_back(octets);
+        attendues.push_back(attendu);
     }
     base.ligne(base.table("Films", champs), valeurs);
     EXPECT_EQ(lit(base), Lignes{attendues});
@@ -162,27 +155,22 @@ TEST_F(Lecteur, tablesAreTheUsersOwn) {
         champs.push_back({"Un champ de nom plutôt long " + std::to_string(i)});
     base.table("Notes diverses", champs);
     base.table("MSysACEs", {{"Id", BaseJet::Entier32}}, 0x80000000);
-    base.ligne(base.table("Films", {{"Titre"}, {"Note", BaseJet::Entier16}}), {"Z", std::nullopt});
-    const jet::Lecteur lecteur = ouvre(base.octets());
+    const std::size_t films = base.table("Films", {{"Titre"}, {"Note", BaseJet::Entier16}});
+    for (int i = 0; i < 3; ++i)
+        base.ligne(films, {"Z", std::nullopt});
+    jet::Lecteur lecteur = ouvre(base.octets());
     ASSERT_EQ(lecteur.tables().size(), 2u);
     ASSERT_EQ(lecteur.tables()[0].champs.size(), 200u);
     EXPECT_EQ(lecteur.tables()[0].champs[199].nom, "Un champ de nom plutôt long 199");
-    const jet::Table* films = lecteur.table("FILMS");
-    ASSERT_NE(films, nullptr);
-    EXPECT_EQ(films->lignesDeclarees, 1u);
-    EXPECT_EQ(films->champs[0].nature, jet::Nature::Texte);
-    EXPECT_EQ(films->champs[1].nature, jet::Nature::Nombre);
     EXPECT_EQ(lecteur.table("MSysACEs"), nullptr);
-}
-
-TEST_F(Lecteur, theReceiverStopsTheReading) {
-    BaseJet base;
-    const std::size_t films = base.table("Films", {{"Titre"}});
-    for (int i = 0; i < 3; ++i)
-        base.ligne(films, {"Z"});
-    jet::Lecteur lecteur = ouvre(base.octets());
+    const jet::Table& table = lecteur.tables()[1];
+    EXPECT_EQ(lecteur.table("FILMS"), &table);
+    EXPECT_EQ(table.lignesDeclarees, 3u);
+    EXPECT_EQ(table.champs[0].nature, jet::Nature::Texte);
+    EXPECT_EQ(table.champs[1].nature, jet::Nature::Nombre);
+    // The receiver stops the reading.
     int recues = 0;
-    const jet::Bilan bilan = lecteur.parcourt(lecteur.tables()[0], [&](jet::Ligne) { return ++recues < 2; });
+    const jet::Bilan bilan = lecteur.parcourt(table, [&](jet::Ligne) { return ++recues < 2; });
     EXPECT_EQ(bilan.lignesLues, 2u);
     EXPECT_TRUE(bilan.interrompu);
 }
@@ -191,7 +179,7 @@ TEST_F(Lecteur, anEncodedBaseIsReadAndOneWithAPasswordRefused) {
     BaseJet base;
     base.ligne(base.table("Films", {{"Titre"}}), {"L'Été"});
     base.cle = 0x12345678;
-    EXPECT_EQ(base.octets().find(std::string("T\0i\0t", 5)), std::string::npos);
+    EXPECT_EQ(base.octets().find("T\0i\0t"s), std::string::npos);
     EXPECT_EQ(lit(base), (Lignes{{"L'Été"}}));
     base.motDePasse = "s";
     EXPECT_EQ(refus(base.octets()), "La base \"" + m_dossier.chemin("Été.mdb") +
@@ -216,35 +204,33 @@ TEST_F(Lecteur, whatIsNoJetBaseIsRefused) {
 TEST_F(Lecteur, damageIsToldWithItsPlace) {
     BaseJet base;
     const std::size_t films = base.table("Films", {{"Titre"}, {"Resume", BaseJet::Memo}});
-    base.ligne(films, {"Un", "court"});
-    base.ligne(films, {"Deux", std::string(9000, 'r')});
+    base.ligne(films, {"Un", std::string(9000, 'r')});
+    for (int i = 0; i < 10; ++i)
+        base.ligne(films, {"Deux", std::string(100, 's')});
     base.ligne(films, {"Trois", ""}, BaseJet::Place::Deplacee);
     const std::string saine = base.octets();
     EXPECT_EQ(refus(saine), "");
-
     const auto change = [&saine](const std::string& cherche, std::size_t decalage, const std::string& par) {
         std::string octets = saine;
-        const std::size_t place = octets.find(cherche);
-        EXPECT_NE(place, std::string::npos);
-        return octets.replace(place + decalage, par.size(), par);
+        for (std::size_t i = octets.find(cherche); i != std::string::npos; i = octets.find(cherche, i + 1))
+            octets.replace(i + decalage, par.size(), par);
+        EXPECT_NE(octets, saine);
+        return octets;
     };
-    const std::string tete = BaseJet::petit(18000, 4), debut = "La base est endommagée : table \"Films\", ligne ";
-    const std::string resume = debut + "2, champ \"Resume\" : ";
-    EXPECT_EQ(refus(change(tete, 0, BaseJet::petit(18001, 4))), resume + "18001 octets sont annoncés, 18000 trouvés.");
-    EXPECT_EQ(refus(change(tete, 0, BaseJet::petit(17999, 4))), resume + "17999 octets sont annoncés, 18000 trouvés.");
-    EXPECT_EQ(refus(change(tete, 4, BaseJet::petit(0x200, 4))), resume + "un renvoi mène à une page étrangère.");
-    EXPECT_THAT(refus(change(tete, 4, BaseJet::petit(0xFFFF00, 4))), HasSubstr("n'est pas dans le fichier."));
+    const std::string tete = petit(18000, 4), debut = "La base est endommagée : table \"Films\", ligne ";
+    const std::string resume = debut + "1, champ \"Resume\" : ";
+    EXPECT_EQ(refus(change(tete, 0, petit(18001, 4))), resume + "18001 octets sont annoncés, 18000 trouvés.");
+    EXPECT_EQ(refus(change(tete, 0, petit(17999, 4))), resume + "17999 octets sont annoncés, 18000 trouvés.");
+    EXPECT_EQ(refus(change(tete, 4, petit(0x200, 4))), resume + "un renvoi mène à une page étrangère.");
+    EXPECT_THAT(refus(change(tete, 4, petit(0xFFFF00, 4))), HasSubstr("n'est pas dans le fichier."));
     EXPECT_THAT(refus(saine.substr(0, saine.size() - 1)), HasSubstr("n'est pas dans le fichier."));
-
-    // The moved row's pointer made to lead to itself.
-    const std::size_t donnees = saine.find(BaseJet::petit(0x0101, 2), 3 * 4096);
-    const std::size_t page = donnees / 4096, rang = 3;
-    std::string boucle = saine;
-    const auto octet = [&boucle](std::size_t place) { return static_cast<unsigned char>(boucle[place]); };
-    const std::size_t entree = page * 4096 + 14 + 2 * rang;
-    const std::size_t place = page * 4096 + ((octet(entree) | octet(entree + 1) << 8) & 0x1FFF);
-    boucle.replace(place, 4, BaseJet::petit(page << 8 | rang, 4));
-    EXPECT_EQ(refus(boucle), debut + "3 : des renvois tournent en rond.");
+    // Every short summary made to lead to the long one.
+    EXPECT_THAT(refus(change(petit(0x40000000 | 200, 4), 0, saine.substr(saine.find(tete), 8))),
+                HasSubstr(", champ \"Resume\" : des renvois mènent plusieurs fois au même endroit."));
+    // The moved row's pointer, from the first page of rows, made to lead to itself.
+    const std::size_t page = saine.find(petit(0x0101, 4) + petit(3, 4)) / 4096;
+    EXPECT_EQ(refus(change(petit(page << 8 | 11, 4), 0, petit(page << 8 | 12, 4))),
+              debut + "12 : des renvois tournent en rond.");
 }
 
 TEST_F(Lecteur, aTableWhoseDefinitionIsLostHidesNoOther) {
