@@ -1,9 +1,11 @@
 #include "export/MiseEnForme.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <deque>
 #include <string_view>
+#include <utility>
 
 namespace exportation {
 
@@ -43,8 +45,8 @@ class MiseEnForme::Passe {
         : m_cible(cible),
           m_balise(balise),
           m_texte(cible.m_texte.data()),
-          m_aspects(cible.m_aspects.data()),
-          m_taille(cible.m_texte.size()) {}
+          m_taille(cible.m_texte.size()),
+          m_anciens(std::move(cible.m_passages)) {}
 
     void execute() {
         while (!m_arretee && avance()) {
@@ -71,9 +73,7 @@ class MiseEnForme::Passe {
                std::memcmp(m_texte + fin - balise.size(), balise.data(), balise.size()) == 0;
     }
     void deplace(std::size_t de, std::size_t vers, std::size_t nombre) {
-        if (de == vers) return;
-        std::memmove(m_texte + vers, m_texte + de, nombre);
-        std::memmove(m_aspects + vers, m_aspects + de, nombre);
+        if (de != vers) std::memmove(m_texte + vers, m_texte + de, nombre);
     }
 
     [[nodiscard]] std::size_t jusquAuProchain() const;
@@ -85,7 +85,11 @@ class MiseEnForme::Passe {
     void reprendOuverture(std::size_t paragraphe);
     void aligne(std::size_t premierParagraphe);
     void rassemble();
-    [[nodiscard]] std::uint8_t applique(std::uint8_t aspect);
+    void ajouteStyle(std::size_t nombre, std::size_t style);
+    std::size_t retireStyle();
+    void gardeStyles(std::size_t borne);
+    void oublieStyles();
+    [[nodiscard]] std::size_t applique(std::size_t style);
 
     MiseEnForme& m_cible;
     const Balise& m_balise;
@@ -93,17 +97,22 @@ class MiseEnForme::Passe {
     const std::string m_fermante{'<', '/', m_balise.lettre, '>'};
 
     char* m_texte;
-    std::uint8_t* m_aspects;
     std::size_t m_taille;
     std::size_t m_fait = 0, m_file = 0, m_finFile = 0, m_reste = 0;
     std::deque<Ouverture> m_ouvertures;
     bool m_arretee = false;
 
-    std::uint8_t m_aspectSuivant = 0;             // what the next selection gives
-    std::uint8_t m_aspectCouvert = 0;             // what the last one gave
-    std::size_t m_couvertDe = 0, m_couvertA = 0;  // what the last one covers of File
-    std::size_t m_paragraphe = 0;                 // where the search is
-    std::size_t m_alignes = 0;                    // paragraphs before this one need no alignment any more
+    // Of Fait's bytes; of the text's as it was, from m_lu on, which is where the last selection ended or Fait was left.
+    std::vector<texteriche::Passage> m_nouveaux, m_anciens;
+    std::size_t m_ancien = 0, m_lu = 0;
+    // Of File's: one each for an opening tag taken back from Fait, that of the last selection as far as it goes, then
+    // those that the bytes had.
+    std::array<std::size_t, kLongueurOuvrante> m_stylesRepris{};
+    std::size_t m_couvertDe = 0, m_couvertA = 0;
+    std::size_t m_styleCouvert = 0, m_styleSuivant = 0;  // the last selection's, the next one's
+
+    std::size_t m_paragraphe = 0;  // where the search is
+    std::size_t m_alignes = 0;     // paragraphs before this one need no alignment any more
 };
 
 // The length of Reste up to the next ">" that may end a tag; 0 when there is none. One that comes first in it may end a
@@ -129,6 +138,7 @@ bool MiseEnForme::Passe::avance() {
     deplace(m_reste, fin(), nombre);
     fin() += nombre;
     m_reste += nombre;
+    if (!enAttente()) gardeStyles(m_reste);
     return true;
 }
 
@@ -147,7 +157,9 @@ void MiseEnForme::Passe::reprendOuverture(std::size_t paragraphe) {
     m_file -= kLongueurOuvrante;
     deplace(m_fait, m_file, kLongueurOuvrante);
     m_ouvertures.push_front({m_file, paragraphe});
-    m_aspectSuivant = applique(m_aspects[m_file]);
+    for (auto style = m_stylesRepris.rbegin(); style != m_stylesRepris.rend(); ++style)
+        *style = retireStyle();
+    m_styleSuivant = applique(m_stylesRepris.front());
 }
 
 // The selection from the first opening tag to the closing tag that ends File. The opening tags that it holds come next:
@@ -163,7 +175,8 @@ void MiseEnForme::Passe::ferme() {
     m_file += kLongueurOuvrante;
     m_finFile -= kLongueurFermante;
     m_couvertA = m_finFile;
-    m_aspectCouvert = m_aspectSuivant;
+    m_styleCouvert = m_styleSuivant;
+    oublieStyles();
     const std::size_t borne = enAttente() ? m_ouvertures.front().position : m_finFile;
     if (!rencontreUneBalise(borne, paragraphe)) verseDansFait(borne);
 }
@@ -187,7 +200,7 @@ bool MiseEnForme::Passe::rencontreUneBalise(std::size_t borne, std::size_t parag
 void MiseEnForme::Passe::verseDansFait(std::size_t borne) {
     const std::size_t nombre = borne - m_file;
     std::memmove(m_texte + m_fait, m_texte + m_file, nombre);
-    std::memset(m_aspects + m_fait, m_aspectCouvert, nombre);
+    ajouteStyle(nombre, m_styleCouvert);
     m_fait += nombre;
     m_file = m_couvertDe = borne;
 }
@@ -201,43 +214,73 @@ void MiseEnForme::Passe::aligne(std::size_t premierParagraphe) {
 }
 
 void MiseEnForme::Passe::rassemble() {
-    std::memset(m_aspects + m_couvertDe, m_aspectCouvert, m_couvertA - m_couvertDe);
+    for (std::size_t i = m_file; i < m_couvertDe; ++i)
+        ajouteStyle(1, m_stylesRepris[i - m_file]);
+    ajouteStyle(m_couvertA - m_couvertDe, m_styleCouvert);
+    gardeStyles(m_taille);
+    m_cible.m_passages = std::move(m_nouveaux);
     const std::size_t enFile = m_finFile - m_file, enReste = m_taille - m_reste;
     deplace(m_file, m_fait, enFile);
     deplace(m_reste, m_fait + enFile, enReste);
     m_cible.m_texte.resize(m_fait + enFile + enReste);
-    m_cible.m_aspects.resize(m_fait + enFile + enReste);
+}
+
+// Of so many bytes that join Fait.
+void MiseEnForme::Passe::ajouteStyle(std::size_t nombre, std::size_t style) {
+    if (nombre == 0) return;
+    const std::size_t debut = m_nouveaux.empty() ? 0 : m_nouveaux.back().fin;
+    if (m_nouveaux.empty() || m_nouveaux.back().style != style) m_nouveaux.push_back({debut, style});
+    m_nouveaux.back().fin = debut + nombre;
+}
+
+// Of the byte that leaves the end of Fait.
+std::size_t MiseEnForme::Passe::retireStyle() {
+    const std::size_t style = m_nouveaux.back().style, fin = --m_nouveaux.back().fin;
+    const std::size_t debut = m_nouveaux.size() < 2 ? 0 : m_nouveaux[m_nouveaux.size() - 2].fin;
+    if (fin == debut) m_nouveaux.pop_back();
+    return style;
+}
+
+// The bytes up to there join Fait as they were.
+void MiseEnForme::Passe::gardeStyles(std::size_t borne) {
+    while (m_lu < borne) {
+        const texteriche::Passage& ancien = m_anciens[m_ancien];
+        const std::size_t fin = std::min(ancien.fin, borne);
+        ajouteStyle(fin - m_lu, ancien.style);
+        m_lu = fin;
+        if (fin == ancien.fin) ++m_ancien;
+    }
+}
+
+// All that was looked at was selected.
+void MiseEnForme::Passe::oublieStyles() {
+    m_lu = m_reste;
+    while (m_ancien < m_anciens.size() && m_anciens[m_ancien].fin <= m_lu)
+        ++m_ancien;
 }
 
 // The place of that style with the pair's added.
-std::uint8_t MiseEnForme::Passe::applique(std::uint8_t aspect) {
+std::size_t MiseEnForme::Passe::applique(std::size_t style) {
     auto& styles = m_cible.m_styles;
-    const texteriche::Style style = m_balise.appliqueeA(styles[aspect]);
-    const auto trouve = std::find(styles.begin(), styles.end(), style);
-    const auto place = static_cast<std::uint8_t>(trouve - styles.begin());
-    if (trouve == styles.end()) styles.push_back(style);
+    const texteriche::Style voulu = m_balise.appliqueeA(styles[style]);
+    const auto trouve = std::find(styles.begin(), styles.end(), voulu);
+    const auto place = static_cast<std::size_t>(trouve - styles.begin());
+    if (trouve == styles.end()) styles.push_back(voulu);
     return place;
 }
 
 MiseEnForme::MiseEnForme(std::string texteBalise) : m_texte(std::move(texteBalise)) {
     unifieFinsDeLigne(m_texte);
-    m_aspects.resize(m_texte.size());
+    m_passages.push_back({m_texte.size(), 0});
     m_alignements.resize(static_cast<std::size_t>(std::count(m_texte.begin(), m_texte.end(), '\n')) + 1);
 }
 
 void MiseEnForme::applique(const Balise& balise) {
-    if (!m_texte.empty()) Passe(*this, balise).execute();
+    Passe(*this, balise).execute();
 }
 
 texteriche::TexteRiche MiseEnForme::resultat() && {
-    texteriche::TexteRiche riche{std::move(m_texte), std::move(m_styles), {}, std::move(m_alignements)};
-    const auto fin = m_aspects.end();
-    for (auto debut = m_aspects.begin(); debut != fin;) {
-        const std::uint8_t aspect = *debut;
-        debut = std::find_if(debut, fin, [aspect](std::uint8_t autre) { return autre != aspect; });
-        riche.passages.push_back({static_cast<std::size_t>(debut - m_aspects.begin()), aspect});
-    }
-    return riche;
+    return {std::move(m_texte), std::move(m_styles), std::move(m_passages), std::move(m_alignements)};
 }
 
 }  // namespace exportation

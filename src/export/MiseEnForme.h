@@ -3,7 +3,6 @@
 #include "export/Balises.h"
 #include "platform/texteriche/TexteRiche.h"
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -31,8 +30,8 @@ class MiseEnForme {
     class Passe;
 
     std::string m_texte;
-    std::vector<std::uint8_t> m_aspects;  // of each byte, its place in m_styles; six pairs make fewer than a hundred
     std::vector<texteriche::Style> m_styles{texteriche::Style{}};
+    std::vector<texteriche::Passage> m_passages;
     std::vector<texteriche::Alignement> m_alignements;
 };
 
