@@ -1,5 +1,6 @@
 #include "acquire/PassageImport.h"
 
+#include "acquire/ProgressionVisible.h"
 #include "db/Requete.h"
 #include "edit/AjoutePossession.h"
 #include "platform/fichiers/Fichiers.h"
@@ -13,27 +14,6 @@ namespace {
 
 // Often enough for the eye and for "Annuler", seldom enough to cost nothing.
 constexpr std::chrono::milliseconds kEntreDeuxSouffles{50};
-
-// The progress controls, on the screen for as long as the work lasts.
-class ProgressionVisible {
-  public:
-    ProgressionVisible(edit::EtatAjout& ajout, long maximum) : m_ajout(ajout) {
-        m_ajout.lblProgression.Caption.clear();
-        m_ajout.ProgressBar1.Max = maximum;
-        m_ajout.ProgressBar1.Value = 0;
-        montre(true);
-    }
-    ProgressionVisible(const ProgressionVisible&) = delete;
-    ProgressionVisible& operator=(const ProgressionVisible&) = delete;
-    ~ProgressionVisible() { montre(false); }
-
-  private:
-    void montre(bool visible) {
-        m_ajout.lblProgression.Visible = visible;
-        m_ajout.ProgressBar1.Visible = visible;
-    }
-    edit::EtatAjout& m_ajout;
-};
 
 }  // namespace
 

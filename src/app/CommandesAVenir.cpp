@@ -21,7 +21,6 @@ void griseFonctions(EtatFonctions& fonctions) {
 }
 
 void griseAjout(edit::EtatAjout& ajout) {
-    grise(ajout.Command13[2]);
     grise(ajout.cmdTelecharge);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "acquire/ImporterAncienneBase.h"
 #include "acquire/cmdAjoutAuto_Click.h"
 #include "acquire/cmdParcourir2_Click.h"
 #include "app/Arret.h"
@@ -112,6 +113,8 @@ struct Session::Rouages final : db::Rafraichissement {
         {base, etats.ajout, etats.stockage, enregistrement, doublons, ressemblances, machine.dialogues, machine.ecran},
         {etats.liste, creeEtAfficheRecherche, afficheNbTitres, boitesDeroulantes},
         machine.horloge};
+    acquire::ImportAncienneBase importAncienneBase{
+        {base, chemins, etats.ajout, etats.stockage, machine.dialogues, machine.ecran}, *this};
     acquire::ChoixDossierFiches choixDossierFiches{etats.ajout, machine.dialogues};
     edit::cmdAjoutFilm_Click cmdAjoutFilm{{base, etats.ajout, etats.fiche, etats.stockage, chemins, film,
                                            enregistrement, doublons, machine.dialogues, machine.horloge},

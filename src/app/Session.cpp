@@ -255,6 +255,7 @@ void Session::cmdSupprInfosPerso_Click() {
 void Session::Command13_Click(int indice) {
     m_rouages->modesAjout.Command13_Click(indice);
     m_rouages->raccourcis.retientSaisie();
+    if (indice == 2) m_rouages->importAncienneBase.Command13_Click();
 }
 
 void Session::cmdParcourir2_Click() {

@@ -19,12 +19,16 @@ std::string enumere(std::string_view singulier, std::string_view pluriel, const 
 }  // namespace
 
 std::string RapportJet::texte() const {
-    std::string texte = util::phraseCompte(films, "# film", "# films") + ", " +
-                        util::phraseCompte(possessions, "# possession", "# possessions") + ", " +
-                        util::phraseCompte(affiches, "# affiche dans la base.", "# affiches dans la base.");
+    return util::phraseCompte(films, "# film", "# films") + ", " +
+           util::phraseCompte(possessions, "# possession", "# possessions") + ", " +
+           util::phraseCompte(affiches, "# affiche dans la base.", "# affiches dans la base.") + pertes();
+}
+
+std::string RapportJet::pertes() const {
+    std::string texte;
     if (affichesAlterees > 0)
-        texte += "\n" + util::phraseCompte(affichesAlterees, "# affiche était abîmée : elle est reprise telle quelle.",
-                                           "# affiches étaient abîmées : elles sont reprises telles quelles.");
+        texte = "\n" + util::phraseCompte(affichesAlterees, "# affiche était abîmée : elle est reprise telle quelle.",
+                                          "# affiches étaient abîmées : elles sont reprises telles quelles.");
     return texte + enumere("Table non reprise", "Tables non reprises", tables) +
            enumere("Champ non repris", "Champs non repris", champs);
 }

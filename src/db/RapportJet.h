@@ -16,6 +16,8 @@ struct RapportJet {
 
     // A line for the counts, and one for each kind of loss that there is; no line break at the end.
     [[nodiscard]] std::string texte() const;
+    // The lines of the losses alone, each after a line break.
+    [[nodiscard]] std::string pertes() const;
 };
 
 }  // namespace db

@@ -1,0 +1,94 @@
+#include "acquire/ImporterAncienneBase.h"
+
+#include "acquire/CopieAncienneBase.h"
+#include "acquire/ProgressionVisible.h"
+#include "platform/fichiers/Fichiers.h"
+
+namespace acquire {
+
+namespace {
+
+// What a reading and the passage after it leave to tell, once no work is under way.
+struct Bilan {
+    std::optional<PassageAncienne::Echec> echec;
+    std::optional<RapportAncienne> rapport;  // nothing when the base could not be read
+};
+
+Bilan reprend(const OutilsAncienne& outils, const AncienneInstallation& ancienne) {
+    const ecran::Travail travail(outils.ecran);
+    const ProgressionVisible progression(outils.ajout, 1);
+    outils.ajout.lblProgression.Caption = "Lecture de " + fichiers::nomDeFichier(ancienne.base);
+    CopieAncienneBase copie(outils.chemins.dossierTmp + "/Ancienne.mdb", outils.ajout.ProgressBar1, outils.ecran);
+    const auto illisible = [&](const std::string& raison) {
+        return PassageAncienne::Echec{"La base " + ancienne.base + " n'a pas pu être lue.\n" + raison,
+                                      dialogues::kCritique};
+    };
+    switch (copie.ouvre(ancienne.base)) {
+        case CopieAncienneBase::Issue::Echouee:
+            return {illisible(copie.echec()), std::nullopt};
+        case CopieAncienneBase::Issue::Interrompue:
+            return {std::nullopt, RapportAncienne{.interrompu = true}};
+        case CopieAncienneBase::Issue::Ouverte:
+            break;
+    }
+    try {
+        PassageAncienne passage(outils, copie.base(), ancienne.dossierImages);
+        passage.execute();
+        Bilan bilan{passage.echec(), passage.rapport()};
+        bilan.rapport->pertes = copie.pertes().pertes();
+        return bilan;
+    } catch (const dao::ErreurDao& erreur) {  // it lacks a table
+        return {illisible(erreur.description), std::nullopt};
+    }
+}
+
+}  // namespace
+
+void ImportAncienneBase::Command13_Click() {
+    if (m_outils.dialogues.MsgBox(
+            "Cette fonction permet de récupérer la base de données et les images d'une précédente "
+            "version.\nSouhaitez-vous continuer ?",
+            dialogues::kQuestion) == dialogues::kOui)
+        ImporterAncienneBase();
+}
+
+void ImportAncienneBase::ImporterAncienneBase() {
+    if (const auto ancienne = choisit()) importe(*ancienne);
+}
+
+std::optional<AncienneInstallation> ImportAncienneBase::choisit() {
+    const std::string dossier = m_outils.dialogues.choisitDossier("Dossier de la précédente version", m_dernierDossier);
+    if (dossier.empty()) return std::nullopt;
+    m_dernierDossier = dossier;
+    const AncienneInstallation ancienne = AncienneInstallation::dans(dossier);
+    const auto memes = [](const std::string& a, const std::string& b) {
+        const auto identite = fichiers::identite(a);
+        return identite && identite == fichiers::identite(b);
+    };
+    if (memes(dossier, m_outils.chemins.dossier))
+        refuse("Le dossier " + dossier + " est celui d'Ambrelis : choisissez celui de la version précédente.");
+    else if (ancienne.base.empty())
+        refuse("Aucune base de données n'a été trouvée dans le dossier " + dossier + ".");
+    else if (memes(ancienne.base, m_outils.chemins.base))
+        refuse("La base " + ancienne.base + " est celle qui est ouverte : il n'y a rien à importer.");
+    else
+        return ancienne;
+    return std::nullopt;
+}
+
+void ImportAncienneBase::refuse(const std::string& message) {
+    m_outils.dialogues.MsgBox(message, dialogues::kExclamation);
+}
+
+void ImportAncienneBase::importe(const AncienneInstallation& ancienne) {
+    const Bilan bilan = reprend(m_outils, ancienne);
+    if (bilan.echec) m_outils.dialogues.MsgBox(bilan.echec->texte, bilan.echec->style);
+    if (!bilan.rapport) return;
+    m_outils.dialogues.MsgBox(bilan.rapport->texte(), dialogues::kInformation);
+    if (!bilan.rapport->aChangeLaBase()) return;
+    m_rafraichissement.AffichageApresModification();
+    m_rafraichissement.RaffraichitBoitesDeroulantes();
+    m_rafraichissement.AfficheNbTitres();
+}
+
+}  // namespace acquire

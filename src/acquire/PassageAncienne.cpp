@@ -1,0 +1,217 @@
+#include "acquire/PassageAncienne.h"
+
+#include "db/Affiches.h"
+#include "platform/dao/Comparaison.h"
+#include "platform/fichiers/Fichiers.h"
+
+#include <algorithm>
+#include <span>
+#include <string_view>
+
+namespace acquire {
+
+namespace {
+
+constexpr const char* kChampsFilms[] = {"Titre",   "Realisateur", "Annee",      "Origine", "Genre",    "Duree",
+                                        "Acteurs", "Resume",      "Production", "Note",    "DateAjout"};
+constexpr const char* kChampsPersonnel[] = {"Titre2", "Realisateur2", "Rangement", "Fichier1", "Fichier2", "Fichier3",
+                                            "Pret",   "Reserve",      "Date",      "Divers",   "Support"};
+constexpr const char* kAffiche = "Affiche";
+constexpr std::string_view kFichier = "JPG";
+constexpr std::size_t kTaillePrefixe = 3;             // "JPG" or "STO"
+constexpr std::int64_t kTailleMaxImage = 64LL << 20;  // bytes; a file that is larger is no poster
+
+std::string cleDuFilm(std::string_view titre, std::string_view realisateur) {
+    return dao::cleDeComparaison(titre) + '\0' + dao::cleDeComparaison(realisateur);
+}
+
+// Hands the film of each row.
+template <typename Recoit>
+void parcourt(dao::Recordset& lignes, const char* titre, const char* realisateur, Recoit recoit) {
+    const dao::Colonne titres = lignes.colonne(titre), realisateurs = lignes.colonne(realisateur);
+    for (; !lignes.Eof(); lignes.MoveNext()) {
+        const std::string lu(lignes.vue(titres));
+        recoit(cleDuFilm(lu, lignes.vue(realisateurs)));
+    }
+}
+
+void exigeChamps(const dao::Recordset& lignes, std::span<const char* const> champs) {
+    for (const char* champ : champs)
+        if (lignes.colonne(champ).rang < 0)
+            throw dao::ErreurDao(dao::kErreurChampIntrouvable,
+                                 "Le champ « " + std::string(champ) + " » manque dans la base à importer.");
+}
+
+void copieChamps(dao::Recordset& de, dao::Recordset& vers, std::span<const char* const> champs) {
+    for (const char* champ : champs)
+        vers.assigne(champ, de.valeur(champ));
+}
+
+}  // namespace
+
+PassageAncienne::PassageAncienne(const OutilsAncienne& outils, dao::Database& ancienne, std::string dossierImages)
+    : m_outils(outils),
+      m_films(ancienne.OpenRecordset("SELECT * FROM Films ;")),
+      m_possessions(ancienne.OpenRecordset("SELECT * FROM Personnel ;")),
+      m_dossierImages(std::move(dossierImages)),
+      m_lot(outils.base.base),
+      m_affiches(outils.base.base,
+                 outils.stockage.dansLaBase() ? "" : db::dossierImages(outils.stockage, outils.chemins)) {}
+
+void PassageAncienne::execute() {
+    try {
+        reprendTout();
+        return;
+    } catch (const dao::ErreurDao& erreur) {
+        m_echec = {"Erreur " + std::to_string(erreur.numero) + " : " + erreur.description, dialogues::kSimple};
+    } catch (const db::EchecConversion& echec) {
+        m_echec = {echec.texte, dialogues::kCritique};
+    }
+    m_lot.abandonne();
+    m_affiches.apresAnnulation();
+}
+
+void PassageAncienne::reprendTout() {
+    exigeChamps(m_films, kChampsFilms);
+    exigeChamps(m_films, {&kAffiche, 1});
+    exigeChamps(m_possessions, kChampsPersonnel);
+    prepareDossier();
+    releve();
+    m_outils.ajout.ProgressBar1.Max = std::max(1L, m_films.RecordCount() + static_cast<long>(m_aReprendre.size()));
+    m_outils.ajout.ProgressBar1.Value = 0;
+    reprendFilms();
+    if (!m_rapport.interrompu) reprendOrphelines();
+    confirmeLot();
+}
+
+void PassageAncienne::prepareDossier() const {
+    if (m_outils.stockage.dansLaBase()) return;
+    const std::string dossier = db::dossierImages(m_outils.stockage, m_outils.chemins);
+    fichiers::creeDossier(dossier);
+    if (!fichiers::dossierModifiable(dossier))
+        throw db::EchecConversion{"Le dossier des images " + dossier + " n'est pas accessible en écriture !"};
+}
+
+void PassageAncienne::releve() {
+    dao::Recordset films = m_outils.base.base.OpenRecordset("SELECT Titre, Realisateur FROM Films ;");
+    parcourt(films, "Titre", "Realisateur", [this](std::string cle) { m_connus.insert(std::move(cle)); });
+    dao::Recordset possessions = m_outils.base.base.OpenRecordset("SELECT Titre2, Realisateur2 FROM Personnel ;");
+    parcourt(possessions, "Titre2", "Realisateur2", [this](std::string cle) { m_possedes.insert(std::move(cle)); });
+    long rang = 0;
+    parcourt(m_possessions, "Titre2", "Realisateur2",
+             [&](std::string cle) { m_aReprendre.try_emplace(std::move(cle), rang++); });
+}
+
+void PassageAncienne::reprendFilms() {
+    for (; !m_films.Eof(); m_films.MoveNext()) {
+        reprendFilm();
+        if (!poursuit()) return;
+    }
+}
+
+// Of a film that was there, and is not possessed, the holding is taken too.
+void PassageAncienne::reprendFilm() {
+    const std::string titre = m_films.texte("Titre");
+    const std::string cle = cleDuFilm(titre, m_films.texte("Realisateur"));
+    m_outils.ajout.lblProgression.Caption = titre;
+    if (m_connus.insert(cle).second) {
+        ajouteFilm();
+        static_cast<void>(reprendPossession(cle));
+        if (m_possedes.contains(cle)) ++m_rapport.possedes;
+    } else {
+        ++m_rapport.dejaPresents;
+        if (reprendPossession(cle)) ++m_rapport.possessions;
+    }
+}
+
+void PassageAncienne::ajouteFilm() {
+    m_lot.commence();
+    const Affiche reprise = affiche();
+    dao::Recordset& films = m_outils.base.films;
+    films.AddNew();
+    copieChamps(m_films, films, kChampsFilms);
+    films.assigne(kAffiche, reprise.valeur);
+    films.Update();
+    ++m_rapport.ajoutes;
+    m_lot.compteFiche(reprise.octets);
+}
+
+// False when there is none to add.
+bool PassageAncienne::reprendPossession(const std::string& cle) {
+    const auto ancienne = m_aReprendre.find(cle);
+    if (ancienne == m_aReprendre.end()) return false;
+    const long rang = ancienne->second;
+    m_aReprendre.erase(ancienne);
+    if (!m_possedes.insert(cle).second) return false;
+    m_lot.commence();
+    m_possessions.MoveFirst();
+    m_possessions.Move(rang);
+    dao::Recordset& personnel = m_outils.base.personnel;
+    personnel.AddNew();
+    copieChamps(m_possessions, personnel, kChampsPersonnel);
+    personnel.Update();
+    return true;
+}
+
+// The holdings of no film of their base, in its order. Some film here may be theirs.
+void PassageAncienne::reprendOrphelines() {
+    std::vector<std::pair<long, std::string>> orphelines;
+    for (const auto& [cle, rang] : m_aReprendre)
+        orphelines.emplace_back(rang, cle);
+    std::ranges::sort(orphelines);
+    for (const auto& [rang, cle] : orphelines) {
+        if (reprendPossession(cle)) {
+            ++(m_connus.contains(cle) ? m_rapport.possessions : m_rapport.orphelines);
+            m_lot.compteFiche(0);
+        }
+        if (!poursuit()) return;
+    }
+}
+
+PassageAncienne::Affiche PassageAncienne::affiche() {
+    const dao::Valeur ancienne = m_films.valeur(kAffiche);
+    const std::string texte = ancienne.texte();
+    if (db::estDansLaBase(texte)) {
+        if (m_outils.stockage.dansLaBase()) return {ancienne, texte.size()};
+        return place(std::string_view(texte).substr(kTaillePrefixe), true);
+    }
+    if (!texte.starts_with(kFichier)) return {ancienne, texte.size()};
+    const auto octets = litImage(texte.substr(kTaillePrefixe));
+    if (!octets) return {"", 0};
+    return place(*octets, static_cast<std::int64_t>(octets->size()) <= db::kTailleMaxAffiche);
+}
+
+std::optional<std::string> PassageAncienne::litImage(const std::string& nom) {
+    const std::string chemin = m_dossierImages + nom;
+    const std::int64_t limite = m_outils.stockage.dansLaBase() ? db::kTailleMaxAffiche : kTailleMaxImage;
+    auto octets = m_dossierImages.empty() || nom.empty() ? std::nullopt : fichiers::lit(chemin, limite);
+    if (!octets) ++(fichiers::longueur(chemin) > limite ? m_rapport.tropGrandes : m_rapport.nonTrouvees);
+    return octets;
+}
+
+// Where new posters go; in the base also when another picture bears the name of its file.
+PassageAncienne::Affiche PassageAncienne::place(std::string_view octets, bool tientDansLaBase) {
+    if (!m_outils.stockage.dansLaBase()) {
+        const std::string nom = db::nomFichierAffiche(m_films.texte("Titre"), m_films.texte("Realisateur"));
+        if (m_affiches.pose(nom, octets)) return {db::valeurAfficheFichier(nom), 0};
+    }
+    if (tientDansLaBase) return {db::valeurAfficheDansLaBase(octets), octets.size()};
+    ++m_rapport.tropGrandes;
+    return {"", 0};
+}
+
+bool PassageAncienne::poursuit() {
+    ++m_outils.ajout.ProgressBar1.Value;
+    if (m_lot.estPlein()) confirmeLot();
+    m_rapport.interrompu = !m_outils.ecran.respire();
+    return !m_rapport.interrompu;
+}
+
+void PassageAncienne::confirmeLot() {
+    m_affiches.avantValidation();
+    m_lot.confirme();
+    m_affiches.apresValidation();
+    m_acquis = m_rapport;
+}
+
+}  // namespace acquire

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "acquire/LotImport.h"
+#include "acquire/RapportAncienne.h"
+#include "db/Base.h"
+#include "db/Chemins.h"
+#include "db/EtatStockage.h"
+#include "db/LotAffiches.h"
+#include "edit/EtatAjout.h"
+#include "platform/dialogues/Dialogues.h"
+#include "platform/ecran/Ecran.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace acquire {
+
+// What the import of a previous installation works on. All of it outlives the import.
+struct OutilsAncienne {
+    db::Base& base;
+    const db::Chemins& chemins;
+    edit::EtatAjout& ajout;
+    db::EtatStockage& stockage;
+    dialogues::Dialogues& dialogues;
+    ecran::Ecran& ecran;
+};
+
+// One passage over the base of a previous installation: adds the films and holdings that the open base does not have,
+// every field as it is, each film with its holding and with its poster where new posters go. Films are stored in lots,
+// their poster files before them; between two films the screen breathes, and a stop leaves what was added. Of a lot that
+// fails nothing stays, in the base, in the images folder nor in the report. Shows no box.
+//
+// A film or a holding is there already when its title and director equal another's for the base; Null is "" here. Of
+// those that come twice the first is taken.
+class PassageAncienne {
+  public:
+    struct Echec {
+        std::string texte;
+        int style;
+    };
+
+    PassageAncienne(const OutilsAncienne& outils, dao::Database& ancienne, std::string dossierImages);
+
+    void execute();
+    [[nodiscard]] const RapportAncienne& rapport() const { return m_acquis; }
+    [[nodiscard]] const std::optional<Echec>& echec() const { return m_echec; }
+
+  private:
+    using Cles = std::unordered_set<std::string>;
+    // What a poster becomes here, and the bytes that it takes in the base.
+    struct Affiche {
+        dao::Valeur valeur;
+        std::size_t octets = 0;
+    };
+
+    void reprendTout();
+    void prepareDossier() const;
+    void releve();
+    void reprendFilms();
+    void reprendOrphelines();
+    void reprendFilm();
+    void ajouteFilm();
+    [[nodiscard]] bool reprendPossession(const std::string& cle);
+    [[nodiscard]] Affiche affiche();
+    [[nodiscard]] std::optional<std::string> litImage(const std::string& nom);
+    [[nodiscard]] Affiche place(std::string_view octets, bool tientDansLaBase);
+    // Between two films: false when the user stops.
+    [[nodiscard]] bool poursuit();
+    void confirmeLot();
+
+    OutilsAncienne m_outils;
+    dao::Recordset m_films;        // of the previous installation
+    dao::Recordset m_possessions;  // likewise
+    std::string m_dossierImages;   // likewise
+    LotImport m_lot;
+    db::LotAffiches m_affiches;
+    Cles m_connus;                                       // films of the open base
+    Cles m_possedes;                                     // its holdings
+    std::unordered_map<std::string, long> m_aReprendre;  // rows of m_possessions, by film
+    RapportAncienne m_rapport;
+    RapportAncienne m_acquis;  // the report as it was when the last lot was stored
+    std::optional<Echec> m_echec;
+};
+
+}  // namespace acquire

@@ -1,0 +1,356 @@
+#include "acquire/ImporterAncienneBase.h"
+#include "db/ConversionJet.h"
+#include "doubles/BaseJet.h"
+#include "doubles/DialoguesScript.h"
+#include "doubles/EcranMuet.h"
+#include "parcours/Photo.h"
+#include "unit/db/RafraichissementNote.h"
+#include "unit/edit/BaseDEssai.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+#include <gmock/gmock.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using doubles::BaseDEssai;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* kQuestion =
+    "Cette fonction permet de récupérer la base de données et les images d'une précédente version.\nSouhaitez-vous "
+    "continuer ?";
+constexpr const char* kDossier = "Dossier de la précédente version";
+constexpr const char* kImages = "Mes affiches/";
+
+// An open base, and a previous installation with a base of ours and two pictures.
+struct AncienneBaseTest : testing::Test {
+    BaseDEssai essai;
+    doubles::DossierTemporaire ancienne;
+    doubles::DialoguesScript dialogues;
+    doubles::EcranMuet ecran;
+    RafraichissementNote rafraichissement;
+    edit::EtatAjout ajout;
+    db::EtatStockage stockage;
+    db::Chemins chemins = db::Chemins::depuis(essai.dossier.chemin());
+    acquire::ImportAncienneBase import{{essai.base, chemins, ajout, stockage, dialogues, ecran}, rafraichissement};
+    std::string initial;  // folder that the box opens in
+
+    AncienneBaseTest() {
+        std::filesystem::create_directory(chemins.dossierTmp);
+        ancienne.ecrit("AMBRELIS.INI",
+                       "1\r\nC:\\Vid\xE9o\\Mes Affiches\\\r\n 9000\r\n 6000\r\n 2\r\nC:\\Vid\xE9o\\FILMS.MDB\r\n");
+        ancienne.ecrit(kImages + std::string("Été - R.jpg"), "image d'été");
+        ancienne.ecrit(kImages + std::string("grande.JPG"), std::string(230001, 'x'));
+    }
+
+    void anciens(const std::vector<BaseDEssai::Champs>& films, const std::vector<BaseDEssai::Champs>& possessions) {
+        const std::string chemin = ancienne.chemin("Films.mdb");
+        std::filesystem::remove(chemin);
+        dao::DBEngine::CreateDatabase(chemin, db::schema());
+        dao::Database base = dao::DBEngine::OpenDatabase(chemin);
+        remplit(base, films, possessions);
+    }
+    static void remplit(dao::Database& base, const std::vector<BaseDEssai::Champs>& films,
+                        const std::vector<BaseDEssai::Champs>& possessions) {
+        dao::Transaction ensemble(base);
+        dao::Recordset lesFilms = base.OpenRecordset("Films"), lesPossessions = base.OpenRecordset("Personnel");
+        for (const auto& film : films)
+            BaseDEssai::ajoute(lesFilms, film);
+        for (const auto& possession : possessions)
+            BaseDEssai::ajoute(lesPossessions, possession);
+        ensemble.confirme();
+    }
+    static BaseDEssai::Champs film(const std::string& titre, const dao::Valeur& affiche = {}) {
+        return {{"Titre", titre}, {"Realisateur", "R"}, {"Affiche", affiche}};
+    }
+    static BaseDEssai::Champs possession(const std::string& titre, const std::string& support = "") {
+        return {{"Titre2", titre}, {"Realisateur2", "R"}, {"Support", support}};
+    }
+    // So many films, each owned and with its own poster in the old base.
+    void nombreuxFilms(int nombre) {
+        std::vector<BaseDEssai::Champs> films, possessions;
+        for (int i = 0; i < nombre; ++i) {
+            films.push_back(film("Film " + std::to_string(i), dao::Valeur::octets("STO" + std::to_string(i))));
+            possessions.push_back(possession("Film " + std::to_string(i)));
+        }
+        anciens(films, possessions);
+    }
+
+    void attendChoix(const std::string& dossier) {
+        dialogues.attendMsgBox(kQuestion, dialogues::kQuestion, dialogues::kOui);
+        dialogues.attendDossier(kDossier, std::exchange(initial, dossier), dossier);
+    }
+    // Imports, and checks that the previous installation is as it was.
+    void importe(const std::string& rapport) {
+        const auto avant = contenu();
+        attendChoix(ancienne.chemin());
+        dialogues.attendMsgBox(rapport, dialogues::kInformation);
+        import.Command13_Click();
+        dialogues.verifie();
+        EXPECT_EQ(contenu(), avant);
+        EXPECT_TRUE(std::filesystem::is_empty(chemins.dossierTmp));
+        EXPECT_EQ(ecran.soufflesHorsTravail, 0);
+        EXPECT_FALSE(ajout.ProgressBar1.Visible || essai.base.base.enTransaction());
+    }
+    [[nodiscard]] std::vector<std::pair<std::string, std::string>> contenu() const {
+        std::vector<std::pair<std::string, std::string>> fichiers;
+        for (const auto& entree : std::filesystem::recursive_directory_iterator(ancienne.chemin()))
+            if (entree.is_regular_file())
+                fichiers.emplace_back(entree.path(),
+                                      ancienne.lit(std::filesystem::relative(entree, ancienne.chemin()).string()));
+        std::ranges::sort(fichiers);
+        return fichiers;
+    }
+    [[nodiscard]] parcours::Photo photo() const { return parcours::Photo(essai.dossier.chemin("Films.mdb")); }
+    [[nodiscard]] std::string image(const std::string& nom) { return essai.dossier.lit("Images/" + nom); }
+};
+
+TEST_F(AncienneBaseTest, FindsTheBaseAndThePosters) {
+    const doubles::DossierTemporaire ailleurs;
+    const std::string autre = ailleurs.ecrit("Séries.mdb", "x");
+    ancienne.ecrit("films.MDB", "x");
+    ancienne.ecrit("Bases/Séries.mdb", "x");
+    std::filesystem::create_directory(ancienne.chemin("IMAGES"));
+    const struct {
+        std::string images, base, imagesVues, baseVue;
+    } cas[] = {
+        {"", "", "IMAGES/", "films.MDB"},
+        {"D:\\Ambrelis\\Mes Affiches", "D:\\Ambrelis\\Bases\\s\xC9ries.mdb", kImages, "Bases/Séries.mdb"},
+        {"\\\\serveur\\partage\\mes affiches\\\\", "bases/Séries.mdb", kImages, "Bases/Séries.mdb"},
+        {"C:\\", "C:\\Ambrelis\\Partie.mdb", "IMAGES/", "films.MDB"},
+        {"/nulle/part/Mes affiches/", "/ailleurs/Films.mdb", kImages, "films.MDB"},
+        {ancienne.chemin("Bases"), autre, "Bases/", autre},
+        {"Films.mdb", "Images", "IMAGES/", "films.MDB"},  // a file for a folder, and a folder for a file
+    };
+    for (const auto& un : cas) {
+        ancienne.ecrit("AMBRELIS.INI", "0\r\n" + un.images + "\r\n0\r\n0\r\n0\r\n" + un.base + "\r\n");
+        std::string dossier = ancienne.chemin();
+        dossier.pop_back();
+        const auto trouvee = acquire::AncienneInstallation::dans(dossier);
+        EXPECT_EQ(trouvee.dossierImages, ancienne.chemin(un.imagesVues)) << un.images;
+        EXPECT_EQ(trouvee.base, un.baseVue.starts_with('/') ? un.baseVue : ancienne.chemin(un.baseVue)) << un.base;
+    }
+    EXPECT_EQ(acquire::AncienneInstallation::dans(ailleurs.chemin()).base, "");
+}
+
+TEST_F(AncienneBaseTest, CarriesEveryFieldAsItIs) {
+    const std::string longTitre = "L'œuvre \"10\" " + std::string(200, 'o');
+    const BaseDEssai::Champs complet{{"Titre", longTitre},
+                                     {"Realisateur", "Agnès Varda"},
+                                     {"Annee", "vers 1983"},
+                                     {"Origine", dao::Valeur()},
+                                     {"Genre", ""},
+                                     {"Duree", "2H13 environ"},
+                                     {"Acteurs", std::string(300, 'a')},
+                                     {"Resume", "Un été.\r\nUn hiver."},
+                                     {"Note", 85},
+                                     {"DateAjout", "12/03/2004"},
+                                     {"Affiche", dao::Valeur::octets("STO" + std::string(300000, '\0'))}};
+    const BaseDEssai::Champs possede{
+        {"Titre2", longTitre}, {"Realisateur2", "Agnès Varda"}, {"Fichier2", "D:\\Films\\x.avi"}, {"Pret", "Zoé"},
+        {"Date", "hier"},      {"Divers", std::string(80, 'd')}};
+    anciens({complet, film("Été", "JPGÉTÉ - R.jpg"), film("Grande", "JPGgrande.jpg"), film("Sans", "JPGsans.jpg"),
+             film("Autre", "autre chose")},
+            {possede});
+    importe("5 films ajoutés, dont 1 possédé.\n1 image non trouvée.\n1 image trop grande pour la base.");
+    EXPECT_THAT(photo().depuis(parcours::Photo(ancienne.chemin("Films.mdb"))),
+                ElementsAre("*Films : Été de R", "*Films : Grande de R", "*Films : Sans de R"));
+    const auto affiches = essai.colonne("Films", "Affiche");
+    EXPECT_THAT(std::vector(affiches.begin() + 1, affiches.end()),
+                ElementsAre("STOimage d'été", "", "", "autre chose"));
+    EXPECT_THAT(rafraichissement.appels,
+                ElementsAre("AffichageApresModification", "RaffraichitBoitesDeroulantes", "AfficheNbTitres"));
+}
+
+TEST_F(AncienneBaseTest, AddsOnlyWhatIsNotThere) {
+    remplit(essai.base.base, {film("ALIEN "), film("Solaris"), film("Cœur")}, {possession("Solaris", "VHS")});
+    anciens({film("Alien"),
+             film("Solaris"),
+             film("Été"),
+             film("été"),
+             film("Seul"),
+             {{"Titre", "Seul"}, {"Realisateur", dao::Valeur()}},
+             {{"Titre", "Seul"}, {"Realisateur", ""}}},
+            {possession("Solaris", "DVD"), possession("alien", "DVD"), possession("été", "K7"),
+             possession("Été", "DVD"), possession("Coeur", "CD"), possession("Perdu", "CD")});
+    importe(
+        "3 films ajoutés, dont 1 possédé.\n4 films déjà présents.\n2 films déjà présents sont maintenant "
+        "possédés.\n1 possession reprise sans fiche de film.");
+    EXPECT_THAT(essai.colonne("Films", "Titre"), ElementsAre("ALIEN ", "Solaris", "Cœur", "Été", "Seul", "Seul"));
+    EXPECT_THAT(essai.colonne("Personnel", "Titre2"), ElementsAre("Solaris", "alien", "été", "Coeur", "Perdu"));
+    EXPECT_THAT(essai.colonne("Personnel", "Support"), ElementsAre("VHS", "DVD", "K7", "CD", "CD"));
+
+    const parcours::Photo avant = photo();
+    importe("0 film ajouté.\n7 films déjà présents.");
+    EXPECT_THAT(photo().depuis(avant), IsEmpty());
+    EXPECT_EQ(rafraichissement.appels.size(), 3u);
+}
+
+TEST_F(AncienneBaseTest, PutsThePostersInTheFolderOfNewOnes) {
+    ecran::choisit(stockage.Option3, 1);
+    essai.dossier.ecrit("Images/Prise - R.jpg", "une autre image");
+    essai.dossier.ecrit("Images/Entame - R.jpg", "ent");  // what an import that was killed has left
+    std::filesystem::create_directories(essai.dossier.chemin("Images/Bloquée - R.jpg"));
+    anciens(
+        {film("Été", "JPGété - r.JPG"), film("Grande", "JPGgrande.JPG"), film("Dedans", dao::Valeur::octets("STOd")),
+         film("Ded:ans", dao::Valeur::octets("STOd")), film("Prise", dao::Valeur::octets("STOp")),
+         film("Entame", dao::Valeur::octets("STOentame")), film("Bloquée", "JPGgrande.JPG"), film("Sans", "JPG")},
+        {});
+    importe("8 films ajoutés.\n1 image non trouvée.\n1 image trop grande pour la base.");
+    EXPECT_THAT(essai.colonne("Films", "Affiche"),
+                ElementsAre("JPGÉté - R.jpg", "JPGGrande - R.jpg", "JPGDedans - R.jpg", "JPGDedans - R.jpg", "STOp",
+                            "JPGEntame - R.jpg", "", ""));
+    EXPECT_EQ(image("Été - R.jpg") + image("Dedans - R.jpg") + image("Prise - R.jpg") + image("Entame - R.jpg"),
+              "image d'étédune autre imageentame");
+    EXPECT_EQ(image("Grande - R.jpg").size(), 230001u);
+}
+
+TEST_F(AncienneBaseTest, RefusesWhatCannotBeImported) {
+    const auto refuse = [&](const std::string& dossier, const std::string& message, int style) {
+        attendChoix(dossier);
+        dialogues.attendMsgBox(message, style);
+        import.Command13_Click();
+        dialogues.verifie();
+    };
+    const auto illisible = [&](const std::string& raison) {
+        refuse(ancienne.chemin(), "La base " + ancienne.chemin("Films.mdb") + " n'a pas pu être lue.\n" + raison,
+               dialogues::kCritique);
+    };
+    dialogues.attendMsgBox(kQuestion, dialogues::kQuestion, dialogues::kNon);
+    import.Command13_Click();
+    attendChoix("");
+    import.Command13_Click();
+    refuse(ancienne.chemin(), "Aucune base de données n'a été trouvée dans le dossier " + ancienne.chemin() + ".",
+           dialogues::kExclamation);
+    refuse(essai.dossier.chemin("Tmp/.."),
+           "Le dossier " + essai.dossier.chemin("Tmp/..") +
+               " est celui d'Ambrelis : choisissez celui de la version précédente.",
+           dialogues::kExclamation);
+    std::filesystem::create_symlink(chemins.base, ancienne.chemin("Films.mdb"));
+    refuse(ancienne.chemin(),
+           "La base " + ancienne.chemin("Films.mdb") + " est celle qui est ouverte : il n'y a rien à importer.",
+           dialogues::kExclamation);
+    std::filesystem::remove(ancienne.chemin("Films.mdb"));
+    ancienne.ecrit("Films.mdb", "ni l'une ni l'autre");
+    illisible("Ce fichier n'est pas une base, ou il est endommagé.");
+    std::filesystem::remove(ancienne.chemin("Films.mdb"));
+    dao::DBEngine::CreateDatabase(ancienne.chemin("Films.mdb"), "CREATE TABLE Films (Titre TEXT)");
+    illisible("La table « Personnel » n'existe pas dans la base.");
+    doubles::BaseJet jet;
+    jet.table("Films", {{"Titre"}});
+    ancienne.ecrit("Films.mdb", jet.octets());
+    illisible("Le champ « Realisateur » manque dans la table « Films ».");
+    EXPECT_THAT(essai.colonne("Films", "Titre"), IsEmpty());
+    EXPECT_THAT(rafraichissement.appels, IsEmpty());
+    EXPECT_TRUE(std::filesystem::is_empty(chemins.dossierTmp));
+}
+
+TEST_F(AncienneBaseTest, StoppedKeepsWhatWasAddedAndGoesOnNextTime) {
+    nombreuxFilms(40);
+    const std::string suite = "\nL'import a été interrompu : relancez-le pour ajouter le reste.";
+    ecran.arretApres = 1;
+    importe("0 film ajouté." + suite);  // while the base is being read
+    EXPECT_THAT(rafraichissement.appels, IsEmpty());
+    ecran.souffles = 0;
+    ecran.arretApres = 1000;
+    ecran.pendantSouffle = [&] {
+        EXPECT_TRUE(ajout.ProgressBar1.Visible);
+        if (ajout.lblProgression.Caption == "Film 9") ecran.arretApres = ecran.souffles;
+    };
+    importe("10 films ajoutés, dont 10 possédés." + suite);
+    ecran.arretApres = 0;
+    ecran.pendantSouffle = nullptr;
+    importe("30 films ajoutés, dont 30 possédés.\n10 films déjà présents.");
+    EXPECT_THAT(photo().depuis(parcours::Photo(ancienne.chemin("Films.mdb"))), IsEmpty());
+}
+
+TEST_F(AncienneBaseTest, AFailureLeavesWholeLotsAndNoFileOfTheLotThatFailed) {
+    const int lot = acquire::LotImport::kFiches;
+    nombreuxFilms(lot + 20);
+    ecran::choisit(stockage.Option3, 1);
+    ecran.pendantSouffle = [&] {  // the second lot meets a folder that is gone
+        if (ajout.ProgressBar1.Value == lot + 10) std::filesystem::remove_all(essai.dossier.chemin("Images"));
+    };
+    attendChoix(ancienne.chemin());
+    const std::string chemin = essai.dossier.chemin("Images/Film " + std::to_string(lot + 10) + " - R.jpg");
+    dialogues.attendMsgBox("Le fichier image " + chemin + " n'a pas pu être écrit (Disque plein/Lecture seule ?)",
+                           dialogues::kCritique);
+    dialogues.attendMsgBox(std::to_string(lot) + " films ajoutés, dont " + std::to_string(lot) + " possédés.",
+                           dialogues::kInformation);
+    import.Command13_Click();
+    EXPECT_EQ(essai.base.films.RecordCount(), lot);
+    EXPECT_EQ(essai.base.personnel.RecordCount(), lot);
+    EXPECT_FALSE(essai.dossier.existe("Images"));
+}
+
+// Each film that was stored has its holding and its poster; the next import adds the others.
+TEST_F(AncienneBaseTest, KilledAnywhereItLosesNothing) {
+    const int lot = acquire::LotImport::kFiches;
+    nombreuxFilms(lot + 30);
+    ecran::choisit(stockage.Option3, 1);
+    for (const int mort : {20, lot + 10}) {
+        essai.base.ferme();
+        const pid_t enfant = fork();
+        ASSERT_GE(enfant, 0);
+        if (enfant == 0) {
+            essai.ouvre();
+            ecran.pendantSouffle = [&] {
+                if (ajout.ProgressBar1.Value == mort) kill(getpid(), SIGKILL);
+            };
+            attendChoix(ancienne.chemin());
+            import.Command13_Click();
+            _exit(1);
+        }
+        int etat = 0;
+        ASSERT_EQ(waitpid(enfant, &etat, 0), enfant);
+        EXPECT_TRUE(WIFSIGNALED(etat) && WTERMSIG(etat) == SIGKILL) << etat;
+        essai.ouvre();
+        EXPECT_EQ(essai.base.films.RecordCount(), mort > lot ? lot : 0);
+        EXPECT_EQ(essai.base.personnel.RecordCount(), essai.base.films.RecordCount());
+    }
+    importe("30 films ajoutés, dont 30 possédés.\n" + std::to_string(lot) + " films déjà présents.");
+    for (const std::string& affiche : essai.colonne("Films", "Affiche")) {
+        const std::string nom = affiche.substr(3);
+        EXPECT_EQ("Film " + image(nom) + " - R.jpg", nom);
+    }
+}
+
+// With the rows that a conversion of the same file gives; the posters that files hold are then here.
+TEST_F(AncienneBaseTest, TakesInRealJetInstallations) {
+    const char* choisi = std::getenv("AMBRELIS_DONNEES");
+    const std::filesystem::path donnees =
+        std::filesystem::path(choisi ? choisi : AMBRELIS_DONNEES_DEFAUT) / "bases-jet";
+    if (!std::filesystem::is_directory(donnees)) GTEST_SKIP() << "no real bases at " << donnees;
+    std::filesystem::copy(donnees / "Images", ancienne.chemin(kImages), std::filesystem::copy_options::recursive);
+    for (const char* nom : {"Films-97", "Films-2000", "Films-2003-index", "Films-2003-remaniee"}) {
+        std::filesystem::copy_file(donnees / (nom + std::string(".mdb")), ancienne.chemin("Films.mdb"),
+                                   std::filesystem::copy_options::overwrite_existing);
+        const std::string temoin = essai.dossier.chemin("temoin.mdb");
+        ecran::Progression progression;
+        const db::IssueJet issue = db::ConversionJet(progression, ecran)(ancienne.chemin("Films.mdb"), temoin);
+        ASSERT_TRUE(issue.estFaite()) << nom;
+        const parcours::Photo attendue(temoin);
+        std::filesystem::remove(temoin);
+        for (const std::size_t option : {0, 1}) {
+            essai.base.ferme();
+            std::filesystem::remove(chemins.base);
+            dao::DBEngine::CreateDatabase(chemins.base, db::schema());
+            essai.ouvre();
+            ecran::choisit(stockage.Option3, option);
+            importe(
+                "42 films ajoutés, dont 20 possédés.\n1 possession reprise sans fiche de film.\n1 image non trouvée." +
+                std::string(option == 0 ? "\n1 image trop grande pour la base." : "") + issue.rapport.pertes());
+            for (const std::string& changement : photo().depuis(attendue))
+                EXPECT_TRUE(changement.starts_with("*Films")) << changement;
+            importe("0 film ajouté.\n42 films déjà présents." + issue.rapport.pertes());
+        }
+    }
+    EXPECT_EQ(image("Le Pianiste - Roman Polanski.jpg").size(), 230001u);
+}
+
+}  // namespace
