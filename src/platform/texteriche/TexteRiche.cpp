@@ -1,5 +1,7 @@
 #include "platform/texteriche/TexteRiche.h"
 
+#include "util/Texte.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -50,7 +52,8 @@ class Redacteur {
     void ecritPassage(std::size_t fin, std::size_t style);
     void ecritTexte(std::string_view texte);
     std::size_t ecritSpecial(std::string_view texte);
-    void ecritCaractere(UChar32 point);
+    void ecritCaractere(UChar32 point, std::string_view octets);
+    void ecritOctet(unsigned char octet);
     void finitParagraphe();
     void prendAspect(const Aspect& aspect);
     void ecritAlignement();
@@ -173,11 +176,14 @@ std::size_t Redacteur::ecritSpecial(std::string_view texte) {
     UChar32 point = -1;
     std::size_t taille = 0;
     U8_NEXT(reinterpret_cast<const unsigned char*>(texte.data()), taille, texte.size(), point);
-    ecritCaractere(point < 0 ? kCaractereDeRemplacement : point);
+    if (point < 0)
+        ecritCaractere(kCaractereDeRemplacement, "?");
+    else
+        ecritCaractere(point, texte.substr(0, taille));
     return taille;
 }
 
-void Redacteur::ecritCaractere(UChar32 point) {
+void Redacteur::ecritCaractere(UChar32 point, std::string_view octets) {
     if (point == '\t') {
         mot("\\tab");
     } else if (point == '\\' || point == '{' || point == '}') {
@@ -186,13 +192,20 @@ void Redacteur::ecritCaractere(UChar32 point) {
     } else if (point >= kFinDesCommandesC1) {
         std::array<UChar, U16_MAX_LENGTH> unites;
         int nombre = 0;
+        const auto repli = static_cast<unsigned char>(point <= 0xFF ? point : util::vers1252(octets).front());
         U16_APPEND_UNSAFE(unites, nombre, point);
         for (int i = 0; i < nombre; ++i) {
             mot("\\u", static_cast<std::int16_t>(unites[static_cast<std::size_t>(i)]));
-            m_rtf += '?';  // for readers that know no Unicode
+            ecritOctet(repli);
         }
         m_apresMot = false;
     }
+}
+
+// What readers that know no Unicode show, as code page 1252 has it. Some take what follows a bare "?" for a part of it.
+void Redacteur::ecritOctet(unsigned char octet) {
+    constexpr std::string_view kChiffres = "0123456789abcdef";
+    m_rtf += {'\\', '\'', kChiffres[octet >> 4], kChiffres[octet & 0xF]};
 }
 
 // The paragraph that begins has the last one's alignment unless told otherwise.

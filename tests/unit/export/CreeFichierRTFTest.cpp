@@ -67,10 +67,10 @@ TEST_F(CreeFichierRTFTest, TheOwnedTitlesAreWrittenAndOpened) {
     EXPECT_EQ(creeFichierRTF(kParGenre, dialogues::kOui), dossier.chemin("Été.rtf"));
     EXPECT_THAT(documents.fichiers, ElementsAre(dossier.chemin("Été.rtf")));
     EXPECT_THAT(fichiersFaits(), ElementsAre("Été.rtf"));
-    EXPECT_THAT(liste(), HasSubstr("\\pard\\qc\\f0\\b\\cf2\\fs22 - Genre : Com\\u233?die -\\b0\\cf1\\fs16\\par\r\n"));
-    EXPECT_THAT(liste(), HasSubstr("\\cf3\\fs36 L'\\u339?uvre\\cf1\\fs16\\par\r\n"
-                                   "\\pard\\qr\\fs24 de Ada Verri\\u232?res\\fs16\\par\r\n"));
-    EXPECT_THAT(liste(), HasSubstr("Un r\\u233?sum\\u233?\\par\r\nsur deux lignes \"et\" \\{plus\\}"));
+    EXPECT_THAT(liste(), HasSubstr("\\pard\\qc\\f0\\b\\cf2\\fs22 - Genre : Com\\u233\\'e9die -\\b0\\cf1\\fs16\\par\r\n"));
+    EXPECT_THAT(liste(), HasSubstr("\\cf3\\fs36 L'\\u339\\'9cuvre\\cf1\\fs16\\par\r\n"
+                                   "\\pard\\qr\\fs24 de Ada Verri\\u232\\'e8res\\fs16\\par\r\n"));
+    EXPECT_THAT(liste(), HasSubstr("Un r\\u233\\'e9sum\\u233\\'e9\\par\r\nsur deux lignes \"et\" \\{plus\\}"));
     EXPECT_THAT(liste(), testing::Not(HasSubstr("Pas ")));
     EXPECT_EQ(noms(), "Ambrelis");
 }
