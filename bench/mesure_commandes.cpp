@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+#include <unistd.h>
+
 namespace {
 
 constexpr int kPassages = 5;
@@ -41,6 +43,7 @@ void mesureAjout(app::Session& session) {
 double convertit(app::Session& session, std::size_t stockage) {
     ecran::choisit(session.etats.stockage.Option3, stockage);
     session.Option3_Click();
+    sync();  // what was written before is not part of it
     return bench::meilleureDuree(1, [&] { session.cmdMajBase_Click(); });
 }
 
@@ -50,6 +53,7 @@ void mesureConversion(app::Session& session, const bench::Machine& machine, cons
     machine.attend(films + " fichiers créés.");
     bench::declare("vers_base", convertit(session, 0));
     machine.attend(films + " fichiers inclus.");
+    sync();
     bench::declare("compactage", bench::meilleureDuree(1, [&] { session.cmdCompacter_Click(); }));
     machine.attend("Compactage effectué.");
 }

@@ -1,6 +1,7 @@
 // plancher_commandes recherche DOSSIER TEXTE | conversion DOSSIER
-// The floors of mesure_commandes: bare SQLite's own instr over the same columns, plain files and bare updates of the same
-// bytes, SQLite's own copy of the base. Files are not flushed to the disk; the base's transactions are.
+// The floors of mesure_commandes: bare SQLite's own instr over the same columns, a plain copy of each poster's file and
+// bare updates of the same bytes, SQLite's own copy of the base. Files are not flushed to the disk; the base's one
+// transaction is.
 
 #include "Mesure.h"
 #include "Sqlite.h"
@@ -8,6 +9,8 @@
 #include <filesystem>
 #include <fstream>
 #include <vector>
+
+#include <unistd.h>
 
 namespace {
 
@@ -37,18 +40,24 @@ std::vector<long long> identifiants(const bench::Sqlite& base) {
     return resultat;
 }
 
-// The bytes of each film's poster, taken by `travail` and replaced by what it gives, in one transaction.
+std::string nomDuFichier(long long film) {
+    return "film" + std::to_string(film) + ".jpg";
+}
+
+std::string lit(const fs::path& fichier) {
+    std::string octets(fs::file_size(fichier), '\0');
+    std::ifstream(fichier, std::ios::binary).read(octets.data(), static_cast<std::streamsize>(octets.size()));
+    return octets;
+}
+
+// Each film's poster becomes what `travail` gives, in one transaction.
 template <typename Travail>
 void remplace(bench::Sqlite& base, Travail travail) {
-    bench::Enonce lecture(base, "SELECT Affiche FROM Films WHERE id = ?");
     bench::Enonce ecriture(base, "UPDATE Films SET Affiche = ? WHERE id = ?");
     const auto films = identifiants(base);
     base.execute("BEGIN");
     for (const long long film : films) {
-        lecture.lie(1, film);
-        lecture.ligne();
-        const std::string affiche = travail(film, lecture.colonne(0));
-        lecture.recommence();
+        const std::string affiche = travail(nomDuFichier(film));
         ecriture.lieOctets(1, affiche);
         ecriture.lie(2, film);
         ecriture.ligne();
@@ -57,40 +66,67 @@ void remplace(bench::Sqlite& base, Travail travail) {
     base.execute("COMMIT");
 }
 
-void versDossier(const std::string& chemin, const fs::path& images) {
+// A plain copy of each poster's file, and the film's row brought to the other storage: the bytes of the file pass once.
+template <typename Valeur>
+void copieEtRemplace(bench::Sqlite& base, const fs::path& de, const fs::path& vers, Valeur valeur) {
+    fs::create_directories(vers);
+    remplace(base, [&](const std::string& nom) {
+        const std::string octets = lit(de / nom);
+        std::ofstream(vers / nom, std::ios::binary) << octets;
+        return valeur(nom, octets);
+    });
+}
+
+// The posters of the base as files: what the copies begin with, and not measured.
+void extrait(const bench::Sqlite& base, const fs::path& images) {
+    fs::create_directories(images);
+    bench::Enonce films(base, "SELECT id, Affiche FROM Films WHERE Affiche IS NOT NULL");
+    while (films.ligne())
+        std::ofstream(images / nomDuFichier(films.entier(0)), std::ios::binary) << films.colonne(1).substr(3);
+}
+
+void versDossier(const std::string& chemin, const fs::path& originaux, const fs::path& images) {
     bench::Sqlite base(chemin);
     base.execute("PRAGMA synchronous = FULL");
-    fs::create_directories(images);
-    remplace(base, [&](long long film, std::string_view affiche) {
-        const std::string nom = "film" + std::to_string(film) + ".jpg";
-        std::ofstream(images / nom, std::ios::binary) << affiche.substr(3);
-        return "JPG" + nom;
-    });
+    copieEtRemplace(base, originaux, images, [](const std::string& nom, const std::string&) { return "JPG" + nom; });
     base.execute(("VACUUM INTO '" + chemin + "-copie'").c_str());
 }
 
-void versBase(const std::string& chemin, const fs::path& images) {
+void versBase(const std::string& chemin, const fs::path& images, const fs::path& copies) {
     bench::Sqlite base(chemin);
     base.execute("PRAGMA synchronous = FULL");
-    remplace(base, [&](long long, std::string_view affiche) {
-        const fs::path fichier = images / affiche.substr(3);
-        std::string octets(3 + fs::file_size(fichier), '\0');
-        octets.replace(0, 3, "STO");
-        std::ifstream(fichier, std::ios::binary)
-            .read(octets.data() + 3, static_cast<std::streamsize>(octets.size()) - 3);
-        return octets;
-    });
+    copieEtRemplace(base, images, copies,
+                    [](const std::string&, const std::string& octets) { return "STO" + octets; });
+}
+
+// Nothing but the files read, the rows written, the files removed.
+void versBaseSansCopie(const std::string& chemin, const fs::path& images) {
+    bench::Sqlite base(chemin);
+    base.execute("PRAGMA synchronous = FULL");
+    remplace(base, [&](const std::string& nom) { return "STO" + lit(images / nom); });
     fs::remove_all(images);
 }
 
+// What was written before is not part of it.
+template <typename Travail>
+double dureeSeule(Travail travail) {
+    sync();
+    return bench::meilleureDuree(1, travail);
+}
+
+// The base without its posters is kept aside for the second of the two ways back.
 void mesureConversion(const fs::path& dossier) {
-    const std::string chemin = dossier / "Films.mdb";
-    bench::declare("vers_dossier", bench::meilleureDuree(1, [&] { versDossier(chemin, dossier / "Images"); }));
-    fs::rename(chemin + "-copie", chemin);
-    bench::declare("vers_base", bench::meilleureDuree(1, [&] { versBase(chemin, dossier / "Images"); }));
+    const std::string chemin = dossier / "Films.mdb", sansAffiches = chemin + "-copie";
+    const fs::path originaux = dossier / "Originaux", images = dossier / "Images", copies = dossier / "Copies";
+    extrait(bench::Sqlite(chemin), originaux);
+    bench::declare("vers_dossier", dureeSeule([&] { versDossier(chemin, originaux, images); }));
+    fs::copy_file(sansAffiches, chemin, fs::copy_options::overwrite_existing);
+    bench::declare("vers_base", dureeSeule([&] { versBase(chemin, images, copies); }));
+    fs::rename(sansAffiches, chemin);
+    bench::declare("vers_base_sans_copie", dureeSeule([&] { versBaseSansCopie(chemin, images); }));
     bench::Sqlite base(chemin);
     bench::declare("compactage",
-                   bench::meilleureDuree(1, [&] { base.execute(("VACUUM INTO '" + chemin + "-copie'").c_str()); }));
+                   dureeSeule([&] { base.execute(("VACUUM INTO '" + sansAffiches + "'").c_str()); }));
 }
 
 }  // namespace
