@@ -3,8 +3,8 @@
 #include "db/LotAffiches.h"
 #include "db/RapportConversion.h"
 #include "platform/dao/Database.h"
+#include "platform/fichiers/Fichiers.h"
 
-#include <cstdint>
 #include <map>
 #include <optional>
 #include <set>
@@ -19,6 +19,8 @@ namespace db {
 class SensConversion {
   public:
     virtual ~SensConversion() = default;
+    // Ends what an earlier conversion, killed, has left undone.
+    virtual void reprend() = 0;
     // The films that may have something to convert.
     [[nodiscard]] virtual std::string enonce() const = 0;
     // The current film of the recordset. Throws EchecConversion or dao::ErreurDao, with its row as it was.
@@ -28,11 +30,13 @@ class SensConversion {
     virtual void apresAnnulation() = 0;  // of the lot: nothing of it is left in the folder
 };
 
-// Files of the images folder into the base. A file goes once no film names it any more.
+// Files of the images folder into the base. A file goes once no film names it any more; one that a killed conversion has
+// left goes when it bears the name of a film whose stored poster it is, byte for byte.
 class VersLaBase final : public SensConversion {
   public:
     VersLaBase(dao::Database& base, std::string dossier);
 
+    void reprend() override;
     [[nodiscard]] std::string enonce() const override;
     [[nodiscard]] RapportConversion convertit(dao::Recordset& films) override;
     void avantValidation() override {}
@@ -40,21 +44,19 @@ class VersLaBase final : public SensConversion {
     void apresAnnulation() override { m_inclus.clear(); }
 
   private:
-    using Identite = std::pair<std::uint64_t, std::uint64_t>;
+    using Identite = decltype(fichiers::Place::identite);
     struct Usage {
         long films = 0;
         std::set<std::string> chemins;
     };
-    struct Fichier {
-        std::string chemin;
-        Identite identite;
-    };
-    void releveUsages(dao::Database& base);
+    void releveUsages();
     void releve(const std::string& affiche);
-    [[nodiscard]] std::optional<Fichier> cherche(const std::string& affiche) const;
+    [[nodiscard]] std::optional<fichiers::Place> cherche(const std::string& affiche) const;
+    [[nodiscard]] bool estNomme(const std::string& nom) const;
 
+    dao::Database& m_base;
     std::string m_dossier;
-    std::map<std::string, Fichier> m_fichiers;  // that stand there, by the films' values
+    std::map<std::string, fichiers::Place> m_fichiers;  // that stand there, by the films' values
     std::map<Identite, Usage> m_usages;
     std::vector<Identite> m_inclus;  // of the lot
 };
@@ -65,6 +67,7 @@ class VersLeDossier final : public SensConversion {
   public:
     VersLeDossier(dao::Database& base, std::string dossier) : m_lot(base, std::move(dossier)) {}
 
+    void reprend() override {}  // what is left is shared, or written again
     [[nodiscard]] std::string enonce() const override;
     [[nodiscard]] RapportConversion convertit(dao::Recordset& films) override;
     void avantValidation() override { m_lot.avantValidation(); }

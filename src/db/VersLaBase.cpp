@@ -7,6 +7,7 @@ namespace db {
 namespace {
 
 constexpr std::string_view kFichier = "JPG";
+const std::string kBase = "STO";
 
 // A file that went meanwhile is passed over as those that were not there.
 RapportConversion echecDeLecture(const std::string& chemin) {
@@ -16,8 +17,8 @@ RapportConversion echecDeLecture(const std::string& chemin) {
 
 }  // namespace
 
-VersLaBase::VersLaBase(dao::Database& base, std::string dossier) : m_dossier(std::move(dossier)) {
-    releveUsages(base);
+VersLaBase::VersLaBase(dao::Database& base, std::string dossier) : m_base(base), m_dossier(std::move(dossier)) {
+    releveUsages();
 }
 
 std::string VersLaBase::enonce() const {
@@ -25,9 +26,9 @@ std::string VersLaBase::enonce() const {
 }
 
 // The transaction changes nothing: the base is locked once, not for each film.
-void VersLaBase::releveUsages(dao::Database& base) {
-    const dao::Transaction lecture(base);
-    dao::Recordset films = base.OpenRecordset(enonce());
+void VersLaBase::releveUsages() {
+    const dao::Transaction lecture(m_base);
+    dao::Recordset films = m_base.OpenRecordset(enonce());
     for (; !films.Eof(); films.MoveNext())
         releve(films.texte("Affiche"));
 }
@@ -45,12 +46,31 @@ void VersLaBase::releve(const std::string& affiche) {
 }
 
 // The poster's file, if it stands there.
-std::optional<VersLaBase::Fichier> VersLaBase::cherche(const std::string& affiche) const {
+std::optional<fichiers::Place> VersLaBase::cherche(const std::string& affiche) const {
     if (!affiche.starts_with(kFichier) || affiche.size() == kFichier.size()) return std::nullopt;
-    const auto trouve = fichiers::trouve(m_dossier + affiche.substr(kFichier.size()));
-    if (!trouve || fichiers::dossierExiste(*trouve)) return std::nullopt;
-    const auto identite = fichiers::identite(*trouve);
-    return identite ? std::optional(Fichier{*trouve, *identite}) : std::nullopt;
+    return fichiers::situe(m_dossier + affiche.substr(kFichier.size()));
+}
+
+bool VersLaBase::estNomme(const std::string& nom) const {
+    if (m_fichiers.contains(std::string(kFichier) + nom)) return true;
+    const auto place = fichiers::situe(m_dossier + nom);  // under a name in other letters, or by a link
+    return place && m_usages.contains(place->identite);
+}
+
+// What the films do not name, and is in the base.
+void VersLaBase::reprend() {
+    std::set<std::string> restes;
+    for (std::string& nom : fichiers::listeFichiers(m_dossier))
+        if (!estNomme(nom)) restes.insert(std::move(nom));
+    if (restes.empty()) return;
+    const dao::Transaction lecture(m_base);
+    dao::Recordset films = m_base.OpenRecordset("SELECT * FROM films WHERE Affiche LIKE 'STO*'");
+    for (; !films.Eof() && !restes.empty(); films.MoveNext()) {
+        const std::string titre = films.texte("Titre"), realisateur = films.texte("Realisateur");
+        for (const std::string& nom : {nomFichierAffiche(titre, realisateur), nomFichierAffiche(realisateur, titre)})
+            if (restes.contains(nom) && films.texte("Affiche") == kBase + fichiers::lit(m_dossier + nom).value_or(""))
+                fichiers::supprime(m_dossier + nom), restes.erase(nom);
+    }
 }
 
 RapportConversion VersLaBase::convertit(dao::Recordset& films) {

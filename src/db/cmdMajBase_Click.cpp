@@ -38,6 +38,7 @@ cmdMajBase_Click::Echec cmdMajBase_Click::convertit(RapportConversion& rapport) 
     const std::string dossier = dossierImages(m_outils.stockage, m_outils.chemins);
     fichiers::creeDossier(dossier);
     const auto sensVoulu = sens(dossier);
+    sensVoulu->reprend();
     dao::Recordset films = m_outils.base.base.OpenRecordset(sensVoulu->enonce());
     m_outils.progression.Max = std::max(1L, m_outils.base.films.RecordCount());  // of 0 the bar would never end
     m_outils.progression.Value = m_outils.progression.Max - films.RecordCount();

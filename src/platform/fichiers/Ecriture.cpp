@@ -1,8 +1,10 @@
 #include "platform/fichiers/Descripteur.h"
 #include "platform/fichiers/Fichiers.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <map>
 #include <memory>
 #include <set>
 
@@ -14,6 +16,7 @@ namespace fichiers {
 namespace {
 
 constexpr mode_t kDroitsOrdinaires = 0666;  // before the user's umask
+constexpr std::size_t kPeuDeFichiers = 16;
 
 // The file that a link leads to, so that the link itself stays.
 std::string ciblePhysique(const std::string& chemin) {
@@ -25,6 +28,27 @@ std::string ciblePhysique(const std::string& chemin) {
 void synchroniseDossier(const std::string& dossier) {
     const Descripteur ouvert(dossier.empty() ? "." : dossier, O_RDONLY | O_DIRECTORY);
     if (ouvert.estOuvert()) fsync(ouvert.numero());
+}
+
+bool synchroniseFichier(const std::string& chemin) {
+    const Descripteur fichier(chemin, O_RDONLY);
+    return fichier.estOuvert() && fsync(fichier.numero()) == 0;
+}
+
+// The file systems of files that all stand there, each of them taken to the disk whole.
+bool synchroniseEnsemble(const std::vector<std::string>& chemins, const std::set<std::string>& dossiers) {
+    std::map<dev_t, Descripteur> systemes;
+    const auto releve = [&](const std::string& chemin) {
+        struct stat infos {};
+        if (stat(chemin.c_str(), &infos) != 0) return false;
+        return systemes.try_emplace(infos.st_dev, chemin, O_RDONLY).first->second.estOuvert();
+    };
+    if (!std::all_of(chemins.begin(), chemins.end(), releve)) return false;
+    for (const std::string& dossier : dossiers)  // where a link stands for the file
+        static_cast<void>(releve(dossier.empty() ? "." : dossier));
+    return std::all_of(systemes.begin(), systemes.end(), [](const auto& systeme) {
+        return !systeme.second.estOuvert() || syncfs(systeme.second.numero()) == 0;
+    });
 }
 
 // A new file beside `cible`, gone again unless it takes the target's place. A target that is no ordinary file, or that
@@ -132,19 +156,13 @@ Creation cree(const std::string& chemin, std::string_view octets) {
     return Creation::Echouee;
 }
 
-// The writing of all of them is begun before the first is waited for.
+// Waited for one by one, many files would have the disk empty its cache as many times.
 bool synchronise(const std::vector<std::string>& chemins) {
     std::set<std::string> dossiers;
-    for (const std::string& chemin : chemins) {
-        const Descripteur fichier(chemin, O_RDONLY);
-        if (fichier.estOuvert()) sync_file_range(fichier.numero(), 0, 0, SYNC_FILE_RANGE_WRITE);
+    for (const std::string& chemin : chemins)
         dossiers.insert(dossierDe(chemin));
-    }
-    bool tous = true;
-    for (const std::string& chemin : chemins) {
-        const Descripteur fichier(chemin, O_RDONLY);
-        tous = fichier.estOuvert() && fsync(fichier.numero()) == 0 && tous;
-    }
+    if (chemins.size() > kPeuDeFichiers) return synchroniseEnsemble(chemins, dossiers);
+    const bool tous = std::all_of(chemins.begin(), chemins.end(), synchroniseFichier);
     for (const std::string& dossier : dossiers)
         synchroniseDossier(dossier);
     return tous;

@@ -20,8 +20,13 @@ namespace fichiers {
 [[nodiscard]] bool executable(const std::string& chemin);  // a file that may be run
 [[nodiscard]] bool dossierExiste(const std::string& chemin);
 [[nodiscard]] bool dossierModifiable(const std::string& chemin);  // files can be made and deleted in it
-// Which file a path leads to, the same for all of its names; empty when there is none.
-[[nodiscard]] std::optional<std::pair<std::uint64_t, std::uint64_t>> identite(const std::string& chemin);
+// Where a file that trouve finds lies, and which one it is: the same for all of its names. Empty when there is none; a
+// folder is none.
+struct Place {
+    std::string chemin;
+    std::pair<std::uint64_t, std::uint64_t> identite;
+};
+[[nodiscard]] std::optional<Place> situe(const std::string& chemin);
 [[nodiscard]] std::int64_t longueur(const std::string& chemin);  // in bytes, -1 when there is no such file
 
 // A whole file; empty when it cannot be read (a folder included) or is longer than `limite` bytes.
@@ -39,7 +44,7 @@ bool remplace(const std::string& chemin, std::string_view octets);
 enum class Creation { Faite, ExisteDeja, Echouee };
 [[nodiscard]] Creation cree(const std::string& chemin, std::string_view octets);
 
-// Takes the files and their folders to the disk, together: what they hold survives a power cut from then on. False when
+// Takes the files and their folders to the disk, many of them with all that waits for the same disk: what they hold survives a power cut from then on. False when
 // one of the files could not be.
 [[nodiscard]] bool synchronise(const std::vector<std::string>& chemins);
 // Renames over what stands at `vers` (where a link leads), on the same file system, and takes the folder to the disk.

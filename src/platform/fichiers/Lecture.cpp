@@ -18,7 +18,7 @@ std::string cheminLisible(const std::string& chemin) {
 
 std::optional<std::string> litDescripteur(const Descripteur& fichier, std::uint64_t limite) {
     struct stat infos {};
-    if (!fichier.estFichier() || fstat(fichier.numero(), &infos) != 0) return std::nullopt;
+    if (fstat(fichier.numero(), &infos) != 0 || !S_ISREG(infos.st_mode)) return std::nullopt;
     const auto annonce = static_cast<std::uint64_t>(infos.st_size);
     if (annonce > limite) return std::nullopt;
 
@@ -65,8 +65,9 @@ ssize_t litBloc(int descripteur, char* tampon, std::size_t taille) {
 
 std::optional<std::string> lit(const std::string& chemin, std::int64_t limite) {
     try {
-        const Descripteur fichier(cheminLisible(chemin), O_RDONLY);
-        return litDescripteur(fichier, static_cast<std::uint64_t>(std::max<std::int64_t>(limite, 0)));
+        const auto octetsMax = static_cast<std::uint64_t>(std::max<std::int64_t>(limite, 0));
+        if (const Descripteur fichier(chemin, O_RDONLY); fichier.estOuvert()) return litDescripteur(fichier, octetsMax);
+        return litDescripteur(Descripteur(cheminLisible(chemin), O_RDONLY), octetsMax);
     } catch (const std::bad_alloc&) {  // larger than the memory
         return std::nullopt;
     } catch (const std::length_error&) {
@@ -87,10 +88,15 @@ std::optional<std::vector<std::string>> litLignes(const std::string& chemin, std
     return lignes;
 }
 
-std::optional<std::pair<std::uint64_t, std::uint64_t>> identite(const std::string& chemin) {
+std::optional<Place> situe(const std::string& chemin) {
     struct stat infos {};
-    if (stat(cheminLisible(chemin).c_str(), &infos) != 0) return std::nullopt;
-    return std::pair<std::uint64_t, std::uint64_t>(infos.st_dev, infos.st_ino);
+    std::string reel = chemin;
+    if (stat(reel.c_str(), &infos) != 0) {
+        reel = trouve(chemin).value_or("");
+        if (stat(reel.c_str(), &infos) != 0) return std::nullopt;
+    }
+    if (S_ISDIR(infos.st_mode)) return std::nullopt;
+    return Place{std::move(reel), {infos.st_dev, infos.st_ino}};
 }
 
 bool executable(const std::string& chemin) {

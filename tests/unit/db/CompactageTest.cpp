@@ -1,7 +1,6 @@
 #include "Entretien.h"
 #include "db/cmdInfosBase_Click.h"
 #include "db/cmdSupprInfosPerso_Click.h"
-#include "doubles/DialoguesScript.h"
 
 #include <random>
 
@@ -9,16 +8,8 @@
 
 namespace {
 
-class EntretienTest : public ::testing::Test {
+class EntretienTest : public AvecEntretien {
   protected:
-    Installation installation;
-    doubles::DialoguesScript dialogues;
-    std::optional<Entretien> entretien;
-
-    void SetUp() override {
-        installation.creeBase("Films.mdb");
-        entretien.emplace(installation, dialogues);
-    }
     [[nodiscard]] std::string chemin() const { return installation.chemins.base; }
     // A base that compaction makes smaller, with one holding of each kind.
     void remplit() {

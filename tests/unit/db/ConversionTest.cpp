@@ -1,5 +1,4 @@
 #include "Entretien.h"
-#include "doubles/DialoguesScript.h"
 
 #include <random>
 
@@ -15,16 +14,8 @@ std::string image(int rang, std::size_t taille = 3000) {
     return octets;
 }
 
-class ConversionTest : public ::testing::Test {
+class ConversionTest : public AvecEntretien {
   protected:
-    Installation installation;
-    doubles::DialoguesScript dialogues;
-    std::optional<Entretien> entretien;
-
-    void SetUp() override {
-        installation.creeBase("Films.mdb");
-        entretien.emplace(installation, dialogues);
-    }
     void fichier(const std::string& nom, const std::string& octets) {
         installation.dossier.ecrit("Images/" + nom, octets);
     }
@@ -82,6 +73,27 @@ TEST_F(ConversionTest, AFileThatSeveralFilmsNameGoesWithTheLast) {
     convertit(0, "1 fichier inclu.");
     EXPECT_FALSE(existe("commun.jpg"));
     EXPECT_EQ(entretien->affiches().at(2), "STO" + image(1));
+}
+
+// Killed after a lot was stored, a conversion leaves files; nobody else's goes with them.
+TEST_F(ConversionTest, FilesLeftByAKilledConversionGoWithTheNext) {
+    for (const char* titre : {"Laissé", "Remplacé", "L'été", "Nommé", "Autre"})
+        entretien->ajoute(titre, "R", db::valeurAfficheDansLaBase(image(1)));
+    entretien->ajoute("Qui nomme", "R", "JPGnommé - r.JPG");
+    for (const char* nom : {"Laissé - R.jpg", "R - Remplacé.jpg", "Nommé - R.jpg", "Inconnu - R.jpg"})
+        fichier(nom, image(1));
+    fichier("Autre - R.jpg", image(2));
+    fichier("L'été - R.jpg", image(1).substr(0, 100));
+    entretien->ecranMuet.arretApres = 1;
+    entretien->ecranMuet.pendantSouffle = [&] {
+        EXPECT_FALSE(existe("Laissé - R.jpg") || existe("R - Remplacé.jpg"));
+        EXPECT_TRUE(existe("Nommé - R.jpg") && existe("Inconnu - R.jpg") && existe("Autre - R.jpg"));
+        EXPECT_EQ(litFichier("L'été - R.jpg"), image(1).substr(0, 100));
+    };
+    convertit(0, "1 fichier inclu.");
+    EXPECT_EQ(entretien->ecranMuet.souffles, 1);
+    EXPECT_FALSE(existe("Nommé - R.jpg"));
+    EXPECT_EQ(entretien->affiches().at(1), "STO" + image(1));
 }
 
 TEST_F(ConversionTest, PostersGoIntoFilesThatNoOtherPictureHas) {
@@ -197,6 +209,8 @@ TEST_P(ConversionTueeTest, NoPosterIsEverLost) {
     EXPECT_GT(interrompues, 3);
     EXPECT_TRUE(convertitAilleurs(std::nullopt));
     EXPECT_EQ(verifieAffiches(versLaBase), kFilms);
+    const std::filesystem::directory_iterator fichiers(installation.dossier.chemin("Images"));
+    EXPECT_EQ(std::distance(begin(fichiers), end(fichiers)), versLaBase ? 0 : kFilms);
 }
 
 INSTANTIATE_TEST_SUITE_P(BothWays, ConversionTueeTest, ::testing::Values(0, 1));

@@ -4,6 +4,7 @@
 #include "RafraichissementNote.h"
 #include "db/Affiches.h"
 #include "db/cmdMajBase_Click.h"
+#include "doubles/DialoguesScript.h"
 #include "doubles/EcranMuet.h"
 
 #include <csignal>
@@ -11,6 +12,7 @@
 #include <functional>
 #include <optional>
 
+#include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -72,6 +74,19 @@ struct Entretien {
     [[nodiscard]] bool possedeEncore() const { return base.personnel.RecordCount() > 0; }
     [[nodiscard]] std::vector<std::string> affiches() {
         return valeurs("SELECT * FROM films ORDER BY titre", "Affiche");
+    }
+};
+
+// An installation with its commands open over an empty base.
+class AvecEntretien : public ::testing::Test {
+  protected:
+    Installation installation;
+    doubles::DialoguesScript dialogues;
+    std::optional<Entretien> entretien;
+
+    void SetUp() override {
+        installation.creeBase("Films.mdb");
+        entretien.emplace(installation, dialogues);
     }
 };
 

@@ -38,6 +38,10 @@ TEST(FichiersTest, ANewFileTakesNobodysPlace) {
     EXPECT_EQ(dossier.lit("a"), "premier");
     EXPECT_TRUE(fichiers::synchronise({dossier.chemin("a")}));
     EXPECT_FALSE(fichiers::synchronise({dossier.chemin("a"), dossier.chemin("b")}));
+    std::vector<std::string> nombreux(100, dossier.chemin("a"));
+    EXPECT_TRUE(fichiers::synchronise(nombreux));
+    nombreux.push_back(dossier.chemin("b"));
+    EXPECT_FALSE(fichiers::synchronise(nombreux));
 }
 
 TEST(FichiersTest, ARenamedFileTakesThePlaceThatALinkLeadsTo) {
@@ -45,12 +49,13 @@ TEST(FichiersTest, ARenamedFileTakesThePlaceThatALinkLeadsTo) {
     dossier.ecrit("neuf", "neuf");
     dossier.ecrit("vrai", "vieux");
     std::filesystem::create_symlink("vrai", dossier.chemin("lien"));
-    EXPECT_EQ(fichiers::identite(dossier.chemin("LIEN")), fichiers::identite(dossier.chemin("vrai")));
-    EXPECT_NE(fichiers::identite(dossier.chemin("neuf")), fichiers::identite(dossier.chemin("vrai")));
+    EXPECT_EQ(fichiers::situe(dossier.chemin("LIEN"))->chemin, dossier.chemin("lien"));
+    EXPECT_EQ(fichiers::situe(dossier.chemin("LIEN"))->identite, fichiers::situe(dossier.chemin("vrai"))->identite);
+    EXPECT_NE(fichiers::situe(dossier.chemin("neuf"))->identite, fichiers::situe(dossier.chemin("vrai"))->identite);
+    EXPECT_FALSE(fichiers::situe(dossier.chemin("absent")) || fichiers::situe(dossier.chemin()));
     EXPECT_TRUE(fichiers::renomme(dossier.chemin("neuf"), dossier.chemin("lien")));
     EXPECT_EQ(dossier.lit("vrai"), "neuf");
     EXPECT_FALSE(fichiers::renomme(dossier.chemin("neuf"), dossier.chemin("lien")));
-    EXPECT_EQ(fichiers::identite(dossier.chemin("neuf")), std::nullopt);
 }
 
 }  // namespace
