@@ -71,8 +71,11 @@ void essaieDEcrire(Poignee& base, bool exclusif) {
     if (code != SQLITE_OK) jetteSqlite(base.brute(), code);
 }
 
+// The room of a poster that leaves the base is not overwritten with zeros, which Debian's library would do: that writes
+// it twice, once to the journal.
 void ouvre(Poignee& base, bool exclusif) {
     protege(base);
+    base.execute("PRAGMA secure_delete=FAST");
     base.execute("PRAGMA synchronous=FULL; PRAGMA cache_size=-8000; PRAGMA temp_store=MEMORY");
     if (exclusif) base.execute("PRAGMA locking_mode=EXCLUSIVE");
     verifieLeContenu(base);
