@@ -19,7 +19,7 @@ void ModesAjout::ouvreAjoutAutomatique() {
     m_ajout.frameAjoutAuto.Visible = true;
     m_ajout.Label5.Caption = "Ajout automatique de fiches de films";
     m_demandes.focus = "txtRechInternet";
-    prepareLesVerifications();
+    m_doublons.prepare();  // better while the page opens than after "Ajouter"
 }
 
 void ModesAjout::ouvreSaisie() {
@@ -30,12 +30,7 @@ void ModesAjout::ouvreSaisie() {
     m_ajout.lblImage.Caption.clear();
     m_demandes.focus = "Text3_0";
     m_listes.remplit();
-    prepareLesVerifications();
-}
-
-// The first look-up in a base reads the whole catalogue: better while the page opens than after "Ajouter".
-void ModesAjout::prepareLesVerifications() {
-    static_cast<void>(m_doublons.TitreDejaExistant("", ""));
+    m_doublons.prepare();  // better while the page opens than after "Ajouter"
 }
 
 }  // namespace edit

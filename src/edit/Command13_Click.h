@@ -20,7 +20,6 @@ class ModesAjout {
   private:
     void ouvreAjoutAutomatique();
     void ouvreSaisie();
-    void prepareLesVerifications();
 
     EtatAjout& m_ajout;
     ecran::Demandes& m_demandes;

@@ -10,6 +10,14 @@ std::string requeteTitreDejaExistant(const std::string& titre, const std::string
            " AND Realisateur =  " + util::entreGuillemets(realisateur) + "ORDER BY Titre ASC ;";
 }
 
+// A base that cannot be read is told of when the question is asked.
+void Doublons::prepare() const {
+    try {
+        m_base.base.prepareLesRecherches("Films");
+    } catch (const dao::ErreurDao&) {
+    }
+}
+
 bool Doublons::TitreDejaExistant(const std::string& titre, const std::string& realisateur) const {
     return db::ouvreRequete(m_base.base, requeteTitreDejaExistant(titre, realisateur),
                             db::NumeroErreur::TitreDejaExistant, m_dialogues)

@@ -12,6 +12,8 @@ class Doublons {
   public:
     Doublons(db::Base& base, dialogues::Dialogues& dialogues) : m_base(base), m_dialogues(dialogues) {}
 
+    // Makes the next question quick: the first one about a base reads the whole catalogue.
+    void prepare() const;
     [[nodiscard]] bool TitreDejaExistant(const std::string& titre, const std::string& realisateur) const;
 
   private:

@@ -1,6 +1,7 @@
 #include "platform/dao/Database.h"
 
 #include "platform/dao/Connexion.h"
+#include "platform/dao/Ecriture.h"
 #include "platform/dao/Enonce.h"
 #include "platform/dao/Erreurs.h"
 #include "platform/dao/JeuDeCles.h"
@@ -38,6 +39,12 @@ Recordset Database::OpenRecordset(std::string_view source) {
     if (estUnNom(source)) return Recordset(std::make_unique<interne::JeuVivant>(connexion, connexion.table(source)));
     const interne::Plan plan = interne::planifie(connexion, interne::analyseEnonce(source));
     return Recordset(std::make_unique<interne::JeuDeCles>(connexion, plan, interne::execute(connexion, plan)));
+}
+
+void Database::prepareLesRecherches(std::string_view table) {
+    interne::Connexion& connexion = ouverte(m_connexion);
+    connexion.veille();
+    interne::prepareIndex(connexion, connexion.table(table));
 }
 
 void Database::Execute(std::string_view sql) {

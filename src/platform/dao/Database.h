@@ -26,6 +26,10 @@ class Database {
     // Jet's text comparison. Throws ErreurDao 3075 (syntax), 3061 (unknown column), 3078 (unknown table), or a disk error.
     [[nodiscard]] Recordset OpenRecordset(std::string_view source);
 
+    // Reads now what finding a film of this table by its title and director takes, which the first look-up would
+    // otherwise do. Throws ErreurDao 3078, or a disk error.
+    void prepareLesRecherches(std::string_view table);
+
     // Runs a statement of SQLite's own as it is: for the schema and for tools, not for the program's statements.
     void Execute(std::string_view sql);
 

@@ -145,9 +145,13 @@ Valeur litChamp(Connexion& connexion, const Table& table, int colonne, long long
     return lecture.valeur(0);
 }
 
+void prepareIndex(Connexion& connexion, Table& table) {
+    if (table.aUneCle() && !table.suivi.index.estConstruit()) construitIndex(connexion, table);
+}
+
 std::vector<long long> candidats(Connexion& connexion, Table& table, std::string_view titre,
                                  std::string_view realisateur) {
-    if (!table.suivi.index.estConstruit()) construitIndex(connexion, table);
+    prepareIndex(connexion, table);
     return table.suivi.index.candidats(hacheFilm(titre, realisateur));
 }
 

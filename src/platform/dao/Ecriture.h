@@ -19,6 +19,8 @@ void supprimeLigne(Connexion& connexion, Table& table, long long ligne);        
 [[nodiscard]] Valeur litChamp(Connexion& connexion, const Table& table, int colonne, long long ligne);
 [[noreturn]] void jetteSupprime();
 
+// Builds the index of the films unless it stands; nothing for a table without a key.
+void prepareIndex(Connexion& connexion, Table& table);
 // The rows whose title and director may be these, in row id order; the table must have a key.
 [[nodiscard]] std::vector<long long> candidats(Connexion& connexion, Table& table, std::string_view titre,
                                                std::string_view realisateur);

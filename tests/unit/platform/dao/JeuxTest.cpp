@@ -210,6 +210,9 @@ TEST_F(JeuxTest, LookUpsFollowEveryChange) {
                            "\" and Realisateur =\"x\" ORDER BY Titre ASC ;")
             .RecordCount();
     };
+    for (const char* table : {"Films", "Films", "Personnel"})
+        base.prepareLesRecherches(table);
+    EXPECT_EQ(numeroErreur([&] { base.prepareLesRecherches("Absente"); }), dao::kErreurTableIntrouvable);
     EXPECT_EQ(trouve("dune"), 1);
     essai.film("Eden", "X");
     EXPECT_EQ(trouve("EDEN"), 1);
