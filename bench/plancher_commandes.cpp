@@ -95,8 +95,7 @@ void versDossier(const std::string& chemin, const fs::path& originaux, const fs:
 void versBase(const std::string& chemin, const fs::path& images, const fs::path& copies) {
     bench::Sqlite base(chemin);
     base.execute("PRAGMA synchronous = FULL");
-    copieEtRemplace(base, images, copies,
-                    [](const std::string&, const std::string& octets) { return "STO" + octets; });
+    copieEtRemplace(base, images, copies, [](const std::string&, const std::string& octets) { return "STO" + octets; });
 }
 
 // Nothing but the files read, the rows written, the files removed.
@@ -125,8 +124,7 @@ void mesureConversion(const fs::path& dossier) {
     fs::rename(sansAffiches, chemin);
     bench::declare("vers_base_sans_copie", dureeSeule([&] { versBaseSansCopie(chemin, images); }));
     bench::Sqlite base(chemin);
-    bench::declare("compactage",
-                   dureeSeule([&] { base.execute(("VACUUM INTO '" + sansAffiches + "'").c_str()); }));
+    bench::declare("compactage", dureeSeule([&] { base.execute(("VACUUM INTO '" + sansAffiches + "'").c_str()); }));
 }
 
 }  // namespace
