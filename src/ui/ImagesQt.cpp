@@ -1,5 +1,7 @@
 #include "ui/ImagesQt.h"
 
+#include "ui/BalayagesJpeg.h"
+
 #include <QBuffer>
 #include <QFile>
 #include <QImageReader>
@@ -13,6 +15,7 @@ namespace {
 
 constexpr qint64 kOctetsMax = 64 << 20;    // of a picture file
 constexpr qint64 kPixelsMax = 64'000'000;  // beyond, a picture is not decoded
+constexpr qint64 kPixelsParcourus = 1'000'000'000;  // all scans together: a few seconds of decoding
 constexpr double kPixelsEntiere = 16e6;    // decoded for the viewer
 constexpr int kMemoireMax = 256;           // megabytes for one decoding
 
@@ -76,7 +79,8 @@ QPixmap ImagesQt::decodee(const QSize& pixels) {
     lecteur.setAutoTransform(true);
     const QSize brute = lecteur.size();
     if (!estUnFormatDePhoto(lecteur.format()) || brute.isEmpty()) return {};
-    if (qint64{brute.width()} * brute.height() > kPixelsMax) return {};
+    const qint64 surface = qint64{brute.width()} * brute.height();
+    if (surface > kPixelsMax || surface * compteBalayages(m_octets) > kPixelsParcourus) return {};
 
     const bool couchee = estCouchee(lecteur);
     m_taille = couchee ? brute.transposed() : brute;

@@ -3,6 +3,7 @@
 
 #include <QBuffer>
 #include <QImage>
+#include <QImageWriter>
 
 #include <gtest/gtest.h>
 
@@ -59,6 +60,32 @@ std::string bombe() {
     std::string resultat = octets({8, 8}, "JPG");
     const std::size_t entete = resultat.find("\xff\xc0");
     return resultat.replace(entete + 5, 4, "\xff\xdc\xff\xdc");
+}
+
+// A progressive JPEG whose last scan comes so many times more.
+std::string progressive(const QSize& taille, int fois) {
+    QImage image(taille, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QByteArray resultat;
+    QBuffer tampon(&resultat);
+    QImageWriter auteur(&tampon, "JPG");
+    auteur.setProgressiveScanWrite(true);
+    auteur.write(image);
+    const qsizetype dernier = resultat.lastIndexOf("\xff\xda");
+    return resultat.insert(dernier, resultat.mid(dernier, resultat.size() - 2 - dernier).repeated(fois)).toStdString();
+}
+
+TEST(ImagesQt, APictureOfHundredsOfScansIsNotWaitedFor) {
+    doubles::DossierTemporaire dossier;
+    ui::ImagesQt images;
+    EXPECT_TRUE(images.charge(dossier.ecrit("affiche.jpg", progressive({3000, 4000}, 0))));
+    EXPECT_TRUE(images.charge(dossier.ecrit("affiche.jpg", progressive({30, 40}, 500)))) << "small: done at once";
+    EXPECT_FALSE(images.charge(dossier.ecrit("affiche.jpg", progressive({3000, 4000}, 500))));
+    const std::string apercu = progressive({30, 40}, 500);
+    const std::string segment = std::string("\xff\xe1") + static_cast<char>((apercu.size() + 2) >> 8) +
+                                static_cast<char>(apercu.size() + 2) + apercu;
+    EXPECT_TRUE(images.charge(dossier.ecrit("affiche.jpg", octets({3000, 4000}, "JPG").insert(2, segment))))
+        << "the scans of a preview are no scans of the picture";
 }
 
 TEST(ImagesQt, TheWholePictureComesUprightInBoundedMemory) {
