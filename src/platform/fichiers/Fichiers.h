@@ -44,8 +44,8 @@ bool remplace(const std::string& chemin, std::string_view octets);
 enum class Creation { Faite, ExisteDeja, Echouee };
 [[nodiscard]] Creation cree(const std::string& chemin, std::string_view octets);
 
-// Takes the files and their folders to the disk, many of them with all that waits for the same disk: what they hold survives a power cut from then on. False when
-// one of the files could not be.
+// Takes the files and their folders to the disk, many of them with all that waits for the same disk: what they hold
+// survives a power cut from then on. False when one of the files could not be.
 [[nodiscard]] bool synchronise(const std::vector<std::string>& chemins);
 // Renames over what stands at `vers` (where a link leads), on the same file system, and takes the folder to the disk.
 [[nodiscard]] bool renomme(const std::string& de, const std::string& vers);
