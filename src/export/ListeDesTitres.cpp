@@ -12,8 +12,12 @@ std::string requeteListe(std::string_view clauseOrderBy) {
 }
 
 std::string demandeFichierListe(dialogues::Dialogues& dialogues, std::string_view extension) {
-    std::string fichier = dialogues.InputBox(
-        "Entrez le chemin et le nom du fichier à créer (sans l'extension)..\nExemple : C:\\FILMS", kTitreListe);
+    std::string fichier = dialogues.demandeChemin(
+        {.invite = "Entrez le chemin et le nom du fichier à créer (sans l'extension)..\nExemple : C:\\FILMS",
+         .titre = kTitreListe,
+         .defaut = "",
+         .extension = std::string(extension),
+         .extensionAjoutee = true});
     return fichier.empty() ? fichier : fichier.append(extension);
 }
 

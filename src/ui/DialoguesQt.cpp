@@ -1,5 +1,6 @@
 #include "ui/DialoguesQt.h"
 
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileIconProvider>
@@ -7,6 +8,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScrollArea>
 
 namespace ui {
@@ -58,6 +60,21 @@ class NaturesEnFrancais final : public QFileIconProvider {
     }
 };
 
+void compose(QInputDialog& boite, const std::string& invite, const std::string& titre, const std::string& defaut) {
+    boite.setWindowTitle(qt(titre));
+    boite.setLabelText(qt(invite));
+    boite.setTextValue(qt(defaut));
+    if (auto* texte = boite.findChild<QLabel*>()) {
+        texte->setTextFormat(Qt::PlainText);
+        texte->setWordWrap(true);
+    }
+    boite.resize(460, boite.sizeHint().height());
+}
+
+std::string saisie(QInputDialog& boite) {
+    return boite.exec() == QDialog::Accepted ? boite.textValue().toStdString() : std::string();
+}
+
 std::string choisit(QFileDialog& boite, const std::string& dossier) {
     boite.setOption(QFileDialog::DontUseNativeDialog);  // a desktop's own would speak the desktop's language
     boite.resize(780, 500);
@@ -65,6 +82,24 @@ std::string choisit(QFileDialog& boite, const std::string& dossier) {
     boite.setDirectory(QDir(ouverture).exists() && !ouverture.isEmpty() ? ouverture : QDir::homePath());
     if (boite.exec() != QDialog::Accepted || boite.selectedFiles().isEmpty()) return {};
     return boite.selectedFiles().first().toStdString();
+}
+
+// A path for the text typed so far, which names the file and the folder where the choice begins.
+QString cheminAEcrire(QInputDialog& saisie, const dialogues::DemandeChemin& demande) {
+    const QFileInfo tape(saisie.textValue());
+    const QString extension = qt(demande.extension).remove(0, 1);
+    NaturesEnFrancais natures;
+    QFileDialog boite(&saisie, saisie.windowTitle());
+    boite.setIconProvider(&natures);
+    boite.setAcceptMode(QFileDialog::AcceptSave);
+    boite.setFileMode(QFileDialog::AnyFile);
+    boite.setNameFilter(QObject::tr("Fichiers %1 (*.%2)").arg(extension.toUpper(), extension));
+    boite.setDefaultSuffix(extension);
+    boite.selectFile(tape.fileName());
+    std::string choisi = choisit(boite, tape.isAbsolute() ? tape.path().toStdString() : std::string());
+    if (demande.extensionAjoutee && choisi.ends_with(demande.extension))
+        choisi.resize(choisi.size() - demande.extension.size());
+    return qt(choisi);
 }
 
 }  // namespace
@@ -94,15 +129,23 @@ int DialoguesQt::MsgBox(const std::string& texte, int style, const std::string& 
 std::string DialoguesQt::InputBox(const std::string& invite, const std::string& titre, const std::string& defaut) {
     m_liaison.ecrit();
     QInputDialog boite(parent());
-    boite.setWindowTitle(qt(titre));
-    boite.setLabelText(qt(invite));
-    boite.setTextValue(qt(defaut));
-    if (auto* texte = boite.findChild<QLabel*>()) {
-        texte->setTextFormat(Qt::PlainText);
-        texte->setWordWrap(true);
-    }
-    boite.resize(460, boite.sizeHint().height());
-    return boite.exec() == QDialog::Accepted ? boite.textValue().toStdString() : std::string();
+    compose(boite, invite, titre, defaut);
+    return saisie(boite);
+}
+
+std::string DialoguesQt::demandeChemin(const dialogues::DemandeChemin& demande) {
+    m_liaison.ecrit();
+    QInputDialog boite(parent());
+    compose(boite, demande.invite, demande.titre, demande.defaut);
+    auto* boutons = boite.findChild<QDialogButtonBox*>();
+    auto* parcourir = boutons->addButton(QObject::tr("Parcourir…"), QDialogButtonBox::ActionRole);
+    parcourir->setObjectName(QStringLiteral("cmdParcourirChemin"));
+    parcourir->setAutoDefault(false);  // Enter accepts what was typed
+    QObject::connect(parcourir, &QPushButton::clicked, &boite, [&] {
+        const QString choisi = cheminAEcrire(boite, demande);
+        if (!choisi.isEmpty()) boite.setTextValue(choisi);
+    });
+    return saisie(boite);
 }
 
 std::string DialoguesQt::choisitFichier(const dialogues::DemandeFichier& demande) {

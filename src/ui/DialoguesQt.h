@@ -16,6 +16,7 @@ class DialoguesQt final : public dialogues::Dialogues {
 
     int MsgBox(const std::string& texte, int style, const std::string& titre) override;
     std::string InputBox(const std::string& invite, const std::string& titre, const std::string& defaut) override;
+    std::string demandeChemin(const dialogues::DemandeChemin& demande) override;
     std::string choisitFichier(const dialogues::DemandeFichier& demande) override;
     std::string choisitDossier(const std::string& titre, const std::string& dossierInitial) override;
 

@@ -1,3 +1,4 @@
+#include "doubles/DossierTemporaire.h"
 #include "ui/DialoguesQt.h"
 
 #include <QApplication>
@@ -5,6 +6,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -73,6 +75,29 @@ TEST(DialoguesQt, AnInputAnswersItsTextOrNothing) {
     EXPECT_EQ(boites.InputBox("Quel <i>genre</i> ?", "Modifier le genre", "Comédie"), "Œuvre");
     surLaBoite<QInputDialog>([](QInputDialog& boite) { boite.reject(); });
     EXPECT_EQ(boites.InputBox("Quel genre ?", "Modifier le genre", "Comédie"), "");
+}
+
+// The path browsed for stands in the box without the extension that will be appended to it.
+TEST(DialoguesQt, APathIsTypedOrBrowsedFor) {
+    const doubles::DossierTemporaire dossier;
+    ui::Liaison liaison;
+    ui::DialoguesQt boites(liaison);
+    for (const bool ajoutee : {false, true}) {
+        const std::string tape = dossier.chemin("Été") + (ajoutee ? "" : ".txt");
+        surLaBoite<QInputDialog>([&](QInputDialog& boite) {
+            EXPECT_EQ(boite.textValue().toStdString(), tape);
+            surLaBoite<QFileDialog>([&](QFileDialog& choix) {
+                EXPECT_EQ(choix.acceptMode(), QFileDialog::AcceptSave);
+                EXPECT_EQ(choix.directory().absolutePath().toStdString() + "/", dossier.chemin());
+                choix.findChild<QLineEdit*>("fileNameEdit")->setText("L'œuvre");
+                choix.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+            });
+            boite.findChild<QPushButton*>("cmdParcourirChemin")->click();
+            boite.accept();
+        });
+        EXPECT_EQ(boites.demandeChemin({"Où ?", "Créer", tape, ".txt", ajoutee}),
+                  dossier.chemin("L'œuvre") + (ajoutee ? "" : ".txt"));
+    }
 }
 
 TEST(DialoguesQt, TheFileBoxTakesANewNameOnlyWhereItMay) {

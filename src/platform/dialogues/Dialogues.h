@@ -17,6 +17,12 @@ struct DemandeFichier {
     bool peutCreer = false;  // accepts the name of a file that does not exist yet
 };
 
+struct DemandeChemin {
+    std::string invite, titre, defaut;
+    std::string extension;          // of the file to write: ".txt"
+    bool extensionAjoutee = false;  // who asks appends it to the answer
+};
+
 // Every box the program shows. The window opens Qt's own; tests answer from a script.
 // A box is never shown inside a transaction; the panels' state is on the screen before it opens.
 class Dialogues {
@@ -28,6 +34,10 @@ class Dialogues {
     // The text typed; empty also when cancelled.
     virtual std::string InputBox(const std::string& invite, const std::string& titre = kTitre,
                                  const std::string& defaut = "") = 0;
+    // InputBox for the path of a file to write; the window's also lets the user browse for it.
+    virtual std::string demandeChemin(const DemandeChemin& demande) {
+        return InputBox(demande.invite, demande.titre, demande.defaut);
+    }
     // The path chosen, empty when cancelled.
     virtual std::string choisitFichier(const DemandeFichier& demande) = 0;
     virtual std::string choisitDossier(const std::string& titre, const std::string& dossierInitial) = 0;
