@@ -51,6 +51,9 @@ struct Machine {
     doubles::ProgrammesSimules programmes;
     doubles::DocumentsEnregistres documents;
     view::LanceFichier lance{programmes, documents, boites, ecran};
+    ecran::Progression progression;
+    exportation::EtatExport etatExport;
+    exportation::DernierExport dernier{etatExport, lance, documents, boites};
 };
 
 std::string texteDeLaListe(Machine& machine) {
@@ -90,8 +93,8 @@ void mesureFormatage(const std::string& texteBalise) {
 
 void mesureRtf(Machine& machine) {
     exportation::EtatNom nom;
-    exportation::CreeFichierRTF creeFichierRTF(machine.base, machine.chemins, nom, machine.ecran, machine.boites,
-                                               machine.lance);
+    exportation::CreeFichierRTF creeFichierRTF(machine.base, machine.chemins, nom, machine.progression, machine.ecran,
+                                               machine.boites, machine.dernier, machine.lance);
     const std::string fichier = creeFichierRTF(kClause, dialogues::kOui);
     const std::string octets = fichiers::lit(fichier).value();
     const std::string texteBalise = texteDeLaListe(machine);

@@ -12,12 +12,7 @@ void grise(Controles&... controles) {
 }
 
 void griseFiche(browse::EtatFiche& fiche) {
-    grise(fiche.cmdCreeFichierTxt);
     grise(fiche.cmdFichiersFilm);
-}
-
-void griseFonctions(EtatFonctions& fonctions) {
-    grise(fonctions.cmdCreerListe);
 }
 
 void griseAjout(edit::EtatAjout& ajout) {
@@ -28,7 +23,6 @@ void griseAjout(edit::EtatAjout& ajout) {
 
 void griseCommandesAVenir(Etats& etats) {
     griseFiche(etats.fiche);
-    griseFonctions(etats.fonctions);
     griseAjout(etats.ajout);
 }
 

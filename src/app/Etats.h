@@ -7,6 +7,8 @@
 #include "browse/EtatRecherche.h"
 #include "db/EtatStockage.h"
 #include "edit/EtatAjout.h"
+#include "export/EtatExport.h"
+#include "export/EtatNom.h"
 #include "platform/ecran/Ecran.h"
 #include "view/EtatAffiche.h"
 
@@ -26,6 +28,8 @@ struct Etats {
     edit::EtatAjout ajout;
     EtatFonctions fonctions;
     view::EtatAffiche affiche;
+    exportation::EtatNom nom;
+    exportation::EtatExport dernierExport;
     ecran::Demandes demandes;
     MenuContextuel menu = MenuContextuel::Aucun;
 };

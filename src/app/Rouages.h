@@ -26,6 +26,8 @@
 #include "edit/cmdSupprTitresSelect_Click.h"
 #include "edit/cmdSupprimerTitre_Click.h"
 #include "edit/cmdValiderInfosPossessions_Click.h"
+#include "export/cmdCreeFichierTxt_Click.h"
+#include "export/cmdCreerListe_Click.h"
 #include "view/LanceFichier.h"
 #include "view/TouchesAffiche.h"
 #include "view/cmdRemplacerImage_Click.h"
@@ -143,6 +145,23 @@ struct Session::Rouages final : db::Rafraichissement {
     edit::Notation notation{etats.liste, film, modifieNoteFilm, suites, machine.dialogues};
     edit::RenommageGroupe renommageGroupe{base, etats.liste, film, outilsTravail, suites};
     edit::CorrectionTitres correctionTitres{base, etats.panneaux, outilsTravail, suites};
+
+    // Export.
+    exportation::DernierExport dernierExport{etats.dernierExport, lanceFichier, machine.documents, machine.dialogues};
+    exportation::cmdCreeFichierTxt_Click cmdCreeFichierTxt{film, etats.fiche, dernierExport, machine.dialogues};
+    exportation::CreeFichierRTF creeFichierRTF{base,
+                                               chemins,
+                                               etats.nom,
+                                               etats.fonctions.ProgressBar3,
+                                               machine.ecran,
+                                               machine.dialogues,
+                                               dernierExport,
+                                               lanceFichier};
+    exportation::cmdCreerListe_Click cmdCreerListe{
+        {base, machine.dialogues, machine.ecran, etats.fonctions.ProgressBar3},
+        creeFichierRTF,
+        dernierExport,
+        lanceFichier};
 
     // Life of the window.
     LogicielsExternes logiciels{etats.fonctions, extensions, chemins, machine.dialogues, etats.demandes};

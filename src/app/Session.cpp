@@ -341,6 +341,30 @@ void Session::cmdPonctuation_Click() {
     m_rouages->correctionTitres.cmdPonctuation_Click();
 }
 
+void Session::cmdCreeFichierTxt_Click() {
+    m_rouages->cmdCreeFichierTxt();
+}
+
+void Session::GenereFichierTxt_Click() {
+    cmdCreeFichierTxt_Click();
+}
+
+void Session::cmdCreerListe_Click() {
+    m_rouages->cmdCreerListe();
+}
+
+void Session::cmdOuvrirExport_Click() {
+    m_rouages->dernierExport.cmdOuvrirExport_Click();
+}
+
+void Session::cmdDossierExport_Click() {
+    m_rouages->dernierExport.cmdDossierExport_Click();
+}
+
+void Session::cmdFermerExport_Click() {
+    m_rouages->dernierExport.cmdFermerExport_Click();
+}
+
 void Session::QuittePanneau() {
     m_rouages->raccourcis.QuittePanneau();
 }

@@ -51,14 +51,16 @@ std::string CreeFichierRTF::operator()(const std::string& clauseOrderBy, int rep
 // The text stays in memory: what an older version left of it goes.
 bool CreeFichierRTF::ecrit(const std::string& fichier, dao::Recordset& titres, bool parGenre) {
     const ecran::Travail travail(m_ecran);
+    Avancement avancement(m_progression, titres.RecordCount());
     fichiers::supprime(m_chemins.dansDossier("tmp.rtf"));
-    auto texteBalise = rassemble(titres, parGenre);
+    auto texteBalise = rassemble(titres, parGenre, avancement);
     if (!texteBalise) return false;
     const auto texte = metEnForme(std::move(*texteBalise));
-    return texte && fichiers::remplace(fichier, texteriche::enRtf(*texte));
+    return texte && m_dernierExport.ecrit(fichier, texteriche::enRtf(*texte));
 }
 
-std::optional<std::string> CreeFichierRTF::rassemble(dao::Recordset& titres, bool parGenre) {
+std::optional<std::string> CreeFichierRTF::rassemble(dao::Recordset& titres, bool parGenre,
+                                                     Avancement& avancement) {
     const long total = titres.RecordCount();
     TexteBalise texte(parGenre);
     LecteurDeFilms lecteur(titres);
@@ -68,6 +70,7 @@ std::optional<std::string> CreeFichierRTF::rassemble(dao::Recordset& titres, boo
         const long pourcentage = faits * 100 / total;
         if (pourcentage != montre) m_nom.lblNom1.Caption = std::to_string(pourcentage);
         montre = pourcentage;
+        avancement.avance();
         if (!m_ecran.respire()) return std::nullopt;
     }
     return std::move(texte).texte();

@@ -4,7 +4,7 @@
 
 namespace exportation {
 
-// What the RTF list says of an owned film; a field that is Null is "".
+// What the lists say of an owned film; a field that is Null is "".
 struct FilmDeLaListe {
     std::string titre, realisateur, duree, genre, annee, origine, acteurs, resume;
     std::string rangement, divers, support;

@@ -11,22 +11,22 @@ constexpr char kTabulation = '\t';
 
 }  // namespace
 
-void TexteListe::ajoute(const TitrePossede& titre) {
-    if (m_parGenre && titre.Genre != m_genre) {
-        m_genre = titre.Genre;
+void TexteListe::ajoute(const FilmDeLaListe& film) {
+    if (m_parGenre && film.genre != m_genre) {
+        m_genre = film.genre;
         m_numero = 0;
         m_lignes.append(kFin).append(" Genre : ").append(m_genre).append(kFin);
     }
     ++m_nombre;
     m_lignes.append(" ").append(std::to_string(++m_numero)).append(". ") += kTabulation;
     const auto colonne = [this](const std::string& texte) { m_lignes.append(texte) += kTabulation; };
-    colonne(titre.Titre);
-    colonne(titre.Realisateur);
-    if (!m_parGenre) colonne(titre.Genre);
-    colonne(titre.Annee);
-    colonne(titre.Rangement);
-    colonne(titre.Divers);
-    m_lignes.append(titre.Support).append(kFin);
+    colonne(film.titre);
+    colonne(film.realisateur);
+    if (!m_parGenre) colonne(film.genre);
+    colonne(film.annee);
+    colonne(film.rangement);
+    colonne(film.divers);
+    m_lignes.append(film.support).append(kFin);
 }
 
 std::string TexteListe::texte() const {

@@ -1,13 +1,10 @@
 #pragma once
 
+#include "export/TexteBalise.h"
+
 #include <string>
 
 namespace exportation {
-
-// An owned title as the list shows it.
-struct TitrePossede {
-    std::string Titre, Realisateur, Genre, Annee, Rangement, Divers, Support;
-};
 
 // The list of the owned titles as tab-separated text: their count, then a numbered line each, ended by CR LF. By genre,
 // each genre has its heading and its own numbers; otherwise it is a column.
@@ -15,7 +12,7 @@ class TexteListe {
   public:
     explicit TexteListe(bool parGenre) : m_parGenre(parGenre) {}
 
-    void ajoute(const TitrePossede& titre);  // in the list's order
+    void ajoute(const FilmDeLaListe& film);  // in the list's order
     [[nodiscard]] std::string texte() const;
 
   private:

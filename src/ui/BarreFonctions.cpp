@@ -19,10 +19,12 @@ QPushButton* fonction(const char* nom, const QString& texte, Pictogramme pictogr
 }  // namespace
 
 BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
-    auto* nom1 = nomme((new Etiquette(tr("Ambr")))->avecPolice(1.7, QFont::DemiBold), "lblNom1");
-    auto* nom2 = nomme((new Etiquette(tr("elis")))->avecPolice(1.7, QFont::DemiBold)->avecTon(Ton::Accent), "lblNom2");
+    auto* nom1 = nomme((new Etiquette)->avecPolice(1.7, QFont::DemiBold), "lblNom1");
+    auto* nom2 = nomme((new Etiquette)->avecPolice(1.7, QFont::DemiBold)->avecTon(Ton::Accent), "lblNom2");
     auto* version = nomme((new Etiquette)->avecPolice(0.85)->avecTon(Ton::Discret), "Label13");
     version->setContentsMargins(0, 0, 0, kSerre);
+    atelier.liaison.lie(atelier.etats().nom.lblNom1, nom1);
+    atelier.liaison.lie(atelier.etats().nom.lblNom2, nom2);
     atelier.liaison.lie(atelier.etats().fonctions.Label13, version);
 
     auto* recherche = fonction("cmdFonctionRecherche", tr("&Rechercher"), Pictogramme::Loupe,

@@ -29,6 +29,7 @@ PanneauOutils::PanneauOutils(const Atelier& atelier, QWidget* parent) : QWidget(
     atelier.auClic(compacter, &app::Session::cmdCompacter_Click);
     atelier.auClic(effacer, &app::Session::cmdSupprInfosPerso_Click);
     atelier.auClic(ponctuation, &app::Session::cmdPonctuation_Click);
+    atelier.auClic(liste, &app::Session::cmdCreerListe_Click);
     atelier.auClic(plusieurs, &app::Session::cmdMultiSuppress_Click);
 
     auto* base =

@@ -123,6 +123,7 @@ PanneauActions::PanneauActions(const Atelier& atelier, QWidget* parent) : QWidge
     atelier.liaison.lie(fiche.cmdCreeFichierTxt, texte);
     atelier.auClic(modifier, &app::Session::cmdModifierTitre_Click);
     atelier.auClic(supprimer, &app::Session::cmdSupprimerTitre_Click);
+    atelier.auClic(texte, &app::Session::cmdCreeFichierTxt_Click);
     auto* boite = colonne(kPetit);
     boite->addWidget(filetHorizontal());
     auto* boutons = rangee({modifier, supprimer, texte});

@@ -1,5 +1,7 @@
 #include "platform/fichiers/Fichiers.h"
 
+#include <filesystem>
+
 namespace fichiers {
 
 namespace {
@@ -16,6 +18,12 @@ std::size_t pointDeLExtension(std::string_view chemin) {
 }
 
 }  // namespace
+
+std::string absolu(const std::string& chemin) {
+    std::error_code ignoree;
+    const std::string complet = std::filesystem::absolute(chemin, ignoree).string();
+    return complet.empty() ? chemin : complet;
+}
 
 std::string nomDeFichier(std::string_view chemin) {
     return std::string(chemin.substr(debutDuNom(chemin)));

@@ -66,6 +66,8 @@ int supprimeSelonMotif(const std::string& dossier, std::string_view motif);
 // The names of the folder's files, in name order, folders left out. Empty when it cannot be read.
 [[nodiscard]] std::vector<std::string> listeFichiers(const std::string& dossier);
 
+// The whole path, from the root, of a name that the current folder may complete.
+[[nodiscard]] std::string absolu(const std::string& chemin);
 // Pieces of a path, both separators understood.
 [[nodiscard]] std::string nomDeFichier(std::string_view chemin);   // "a/b.txt" -> "b.txt"
 [[nodiscard]] std::string dossierDe(std::string_view chemin);      // "a/b.txt" -> "a/"; "" without a folder

@@ -30,7 +30,11 @@ class CreeFichierRTFTest : public testing::Test, public doubles::BaseDEssai {
     view::LanceFichier lanceFichier{programmes, documents, boites, ecran};
     db::Chemins chemins = db::Chemins::depuis(dossier.chemin(""));
     exportation::EtatNom nom;
-    exportation::CreeFichierRTF creeFichierRTF{base, chemins, nom, ecran, boites, lanceFichier};
+    ecran::Progression progression;
+    exportation::EtatExport etatExport;
+    exportation::DernierExport dernier{etatExport, lanceFichier, documents, boites};
+    exportation::CreeFichierRTF creeFichierRTF{base,  chemins, nom,     progression,
+                                               ecran, boites,  dernier, lanceFichier};
 
     void possede(const std::string& titre, const Champs& film, const Champs& possession = {}) {
         Champs champs{{"Titre", titre}, {"Realisateur", "Ada Verrières"}};

@@ -6,19 +6,33 @@
 
 namespace {
 
+using exportation::FilmDeLaListe;
 using exportation::TexteListe;
-using exportation::TitrePossede;
 
-std::string liste(bool parGenre, const std::vector<TitrePossede>& titres) {
+std::string liste(bool parGenre, const std::vector<FilmDeLaListe>& films) {
     TexteListe texte(parGenre);
-    for (const TitrePossede& titre : titres)
-        texte.ajoute(titre);
+    for (const FilmDeLaListe& film : films)
+        texte.ajoute(film);
     return texte.texte();
 }
 
-const TitrePossede kEte{"L'Été \"violent\"", "Valerio Zurlini", "Drame", "1959", "Étagère", "a\tb", "DVD"};
-const TitrePossede kVide{};
-const TitrePossede kOeuvre{"L'Œuvre", "Ève", "Comédie", "2001", "", "", "K7"};
+FilmDeLaListe film(const char* titre, const char* realisateur, const char* genre, const char* annee,
+                   const char* rangement, const char* divers, const char* support) {
+    FilmDeLaListe resultat{};
+    resultat.titre = titre;
+    resultat.realisateur = realisateur;
+    resultat.genre = genre;
+    resultat.annee = annee;
+    resultat.rangement = rangement;
+    resultat.divers = divers;
+    resultat.support = support;
+    return resultat;
+}
+
+const FilmDeLaListe kEte =
+    film("L'Été \"violent\"", "Valerio Zurlini", "Drame", "1959", "Étagère", "a\tb", "DVD");
+const FilmDeLaListe kVide{};
+const FilmDeLaListe kOeuvre = film("L'Œuvre", "Ève", "Comédie", "2001", "", "", "K7");
 
 TEST(TexteListe, NumbersTheWholeListAndShowsTheGenres) {
     EXPECT_EQ(liste(false, {kEte, kVide, kOeuvre}),

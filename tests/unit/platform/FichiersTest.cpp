@@ -253,3 +253,9 @@ TEST(FichiersChemins, PiecesOfAPath) {
         EXPECT_EQ(fichiers::sansExtension(c.chemin), c.sansExtension);
     }
 }
+
+TEST(FichiersChemins, AWholePathFromTheCurrentFolder) {
+    EXPECT_EQ(fichiers::absolu("/été/b"), "/été/b");
+    EXPECT_EQ(fichiers::absolu("b.txt"), std::filesystem::current_path().string() + "/b.txt");
+    EXPECT_EQ(fichiers::absolu(""), "");
+}

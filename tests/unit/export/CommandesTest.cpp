@@ -1,0 +1,165 @@
+#include "doubles/DialoguesScript.h"
+#include "doubles/DocumentsEnregistres.h"
+#include "doubles/EcranMuet.h"
+#include "doubles/ProgrammesSimules.h"
+#include "export/ListeDesTitres.h"
+#include "export/TexteFiche.h"
+#include "export/cmdCreeFichierTxt_Click.h"
+#include "export/cmdCreerListe_Click.h"
+#include "unit/edit/BaseDEssai.h"
+
+#include <filesystem>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using dialogues::kNon, dialogues::kOui;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* kFilms = R"(
+INSERT INTO Films (Titre, Realisateur, Annee, Genre, Affiche) VALUES
+  ('Œdipe roi', 'Pier Paolo Pasolini', '1967', 'Drame', x'53544FFFD8'), ('Été violent', 'Valerio Zurlini', '1959', 'drame', NULL),
+  ('Dites "33"', 'Léonce Perret', '1933', NULL, NULL), ('Non possédé', 'Personne', '1999', 'Drame', NULL);
+INSERT INTO Personnel (Titre2, Realisateur2, Rangement, Divers, Support) VALUES
+  ('œdipe ROI', 'pier paolo pasolini', 'Étagère', 'prêté', 'DVD'), ('Été violent', 'Valerio Zurlini', NULL, NULL, NULL),
+  ('Dites "33"', 'Léonce Perret', '', 'a', 'K7');
+)";
+
+struct Commandes : testing::Test {
+    Commandes() {
+        film.cle = "K1";
+        film.titre = "Alien : \"le\" 8e/passager";
+    }
+    void attendQuestions(int enRTF, int parGenre) {
+        boites.attendMsgBox(
+            "Souhaitez-vous créer un fichier RTF (texte riche) ?\n\nDans le cas contraire, un simple fichier texte sera "
+            "créé.",
+            dialogues::kQuestion, enRTF);
+        boites.attendMsgBox(
+            "Souhaitez-vous trier les titres par genre ?\n\nDans le cas contraire, un simple tri alphanumérique sera "
+            "appliqué.",
+            dialogues::kQuestion, parGenre);
+    }
+    void attendNom(const std::string& reponse) {
+        boites.attendInputBox("Entrez le chemin et le nom du fichier à créer (sans l'extension)..\nExemple : C:\\FILMS",
+                              reponse, exportation::kTitreListe);
+    }
+    void attendCree(const std::string& fichier) {
+        boites.attendMsgBox(
+            "Le fichier texte " + dossier.chemin(fichier) +
+                " a été créé.\nLes séparateurs de champs étant des tabulations, réglez-les avec votre traitement de texte.",
+            dialogues::kInformation, dialogues::kOk, exportation::kTitreListe);
+    }
+    void attendFiche(const std::string& defaut, const std::string& reponse) {
+        boites.attendInputBox("Entrez le chemin de destination du fichier texte.", reponse, "Créer un fichier texte",
+                              defaut);
+    }
+
+    doubles::BaseDEssai essai;
+    const doubles::DossierTemporaire& dossier = essai.dossier;
+    db::Chemins chemins = db::Chemins::depuis(dossier.chemin());
+    doubles::DialoguesScript boites;
+    doubles::EcranMuet ecran;
+    doubles::DocumentsEnregistres documents;
+    doubles::ProgrammesSimules programmes;
+    exportation::EtatNom nom;
+    exportation::EtatExport etat;
+    ecran::Progression progression;
+    browse::EtatFiche fiche;
+    browse::FilmCourant film;
+    view::LanceFichier lanceFichier{programmes, documents, boites, ecran};
+    exportation::DernierExport dernier{etat, lanceFichier, documents, boites};
+    exportation::CreeFichierRTF rtf{essai.base, chemins, nom, progression, ecran, boites, dernier, lanceFichier};
+    exportation::cmdCreeFichierTxt_Click cmdCreeFichierTxt{film, fiche, dernier, boites};
+    exportation::cmdCreerListe_Click cmdCreerListe{{essai.base, boites, ecran, progression}, rtf, dernier, lanceFichier};
+};
+
+TEST_F(Commandes, TheSheetGoesExactlyWhereTheUserSays) {
+    fiche.Text1.Text = "Été";
+    attendFiche("Alien : \"le\" 8e/passager.txt", dossier.chemin("Été.fiche"));
+    boites.attendMsgBox("Fichier créé !", dialogues::kInformation, dialogues::kOk, "Créer un fichier texte");
+    cmdCreeFichierTxt();
+    EXPECT_EQ(dossier.lit("Été.fiche"), exportation::texteFiche(film.titre, fiche));
+    EXPECT_EQ(etat.lblExport.Caption, "Fichier créé : " + dossier.chemin("Été.fiche"));
+    dernier.cmdOuvrirExport_Click();
+    dernier.cmdDossierExport_Click();
+    EXPECT_THAT(documents.fichiers, ElementsAre(dossier.chemin("Été.fiche"), dossier.chemin()));
+    dernier.cmdFermerExport_Click();
+    EXPECT_FALSE(etat.frameExport.Visible);
+    documents.issue = systeme::Ouverture::SansAssociation;
+    boites.attendMsgBox("Le dossier " + dossier.chemin() + " n'a pas pu être ouvert.", dialogues::kExclamation);
+    dernier.cmdDossierExport_Click();
+}
+
+TEST_F(Commandes, ASheetWithoutANameOrAPlaceBringsNoMoreBox) {
+    attendFiche("Alien : \"le\" 8e/passager.txt", "");
+    cmdCreeFichierTxt();
+    EXPECT_FALSE(etat.frameExport.Visible);
+    dossier.ecrit("x/y.txt", "avant");
+    attendFiche("Alien : \"le\" 8e/passager.txt", dossier.chemin("x"));
+    cmdCreeFichierTxt();
+    EXPECT_EQ(etat.lblExport.Caption, "Le fichier " + dossier.chemin("x") + " n'a pas pu être écrit.");
+    EXPECT_FALSE(etat.cmdOuvrirExport.Visible || etat.cmdDossierExport.Visible);
+    EXPECT_EQ(dossier.lit("x/y.txt"), "avant");
+    film = {};
+    cmdCreeFichierTxt();  // no film is shown: nothing to write
+}
+
+TEST_F(Commandes, TheListHoldsTheOwnedTitlesInTheirOrder) {
+    essai.base.base.Execute(kFilms);
+    const std::string perret = "\tDites \"33\"\tLéonce Perret\t", ete = "\tÉté violent\tValerio Zurlini\t",
+                      oedipe = "\tŒdipe roi\tPier Paolo Pasolini\t";
+    attendQuestions(kNon, kNon);
+    attendNom(dossier.chemin("Films.2026"));
+    attendCree("Films.2026.txt");
+    ecran.pendantSouffle = [this] { EXPECT_TRUE(progression.Visible && progression.Max == 3); };
+    cmdCreerListe();
+    EXPECT_EQ(dossier.lit("Films.2026.txt"), "Il y a 3 titres personnels\r\n\r\n 1. " + perret +
+                                                 "\t1933\t\ta\tK7\r\n 2. " + ete + "drame\t1959\t\t\t\r\n 3. " +
+                                                 oedipe + "Drame\t1967\tÉtagère\tprêté\tDVD\r\n");
+    EXPECT_THAT(documents.fichiers, ElementsAre(dossier.chemin("Films.2026.txt")));
+    EXPECT_EQ(ecran.souffles, 3);
+    EXPECT_EQ(ecran.soufflesHorsTravail, 0);
+    EXPECT_FALSE(progression.Visible);
+
+    attendQuestions(kNon, kOui);
+    attendNom(dossier.chemin("Films.2026"));
+    attendCree("Films.2026.txt");
+    cmdCreerListe();
+    EXPECT_EQ(dossier.lit("Films.2026.txt"),
+              "Il y a 3 titres personnels\r\n\r\n 1. " + perret + "1933\t\ta\tK7\r\n\r\n Genre : drame\r\n 1. " + ete +
+                  "1959\t\t\t\r\n\r\n Genre : Drame\r\n 1. " + oedipe + "1967\tÉtagère\tprêté\tDVD\r\n");
+}
+
+TEST_F(Commandes, TheListRefusesInItsOrderAndReplacesNothingByHalf) {
+    attendQuestions(kNon, kNon);
+    boites.attendMsgBox("Aucun titre personnel !", dialogues::kExclamation);
+    cmdCreerListe();  // the file is not asked for
+    attendQuestions(kOui, kOui);
+    attendNom(dossier.chemin("liste"));
+    boites.attendMsgBox("Aucun titre personnel !", dialogues::kExclamation);
+    cmdCreerListe();
+
+    essai.base.base.Execute(kFilms);
+    dossier.ecrit("liste.txt", "avant");
+    attendQuestions(kNon, kNon);
+    attendNom("");
+    cmdCreerListe();
+    attendQuestions(kNon, kNon);
+    attendNom(dossier.chemin("liste"));
+    ecran.arretApres = ecran.souffles + 2;
+    cmdCreerListe();  // stopped
+    ecran.arretApres = 0;
+    EXPECT_EQ(dossier.lit("liste.txt"), "avant");
+    EXPECT_FALSE(etat.frameExport.Visible || progression.Visible);
+    std::filesystem::create_directory(dossier.chemin("dossier.txt"));
+    attendQuestions(kNon, kNon);
+    attendNom(dossier.chemin("dossier"));
+    cmdCreerListe();
+    EXPECT_THAT(documents.fichiers, IsEmpty());
+    EXPECT_EQ(ecran.debuts, ecran.fins);
+}
+
+}  // namespace
