@@ -44,7 +44,7 @@ class VersLaBase final : public SensConversion {
     void apresAnnulation() override { m_inclus.clear(); }
 
   private:
-    using Identite = decltype(fichiers::Place::identite);
+    using Identite = fichiers::Identite;
     struct Usage {
         long films = 0;
         std::set<std::string> chemins;

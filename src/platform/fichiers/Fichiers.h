@@ -20,11 +20,13 @@ namespace fichiers {
 [[nodiscard]] bool executable(const std::string& chemin);  // a file that may be run
 [[nodiscard]] bool dossierExiste(const std::string& chemin);
 [[nodiscard]] bool dossierModifiable(const std::string& chemin);  // files can be made and deleted in it
-// Where a file that trouve finds lies, and which one it is: the same for all of its names. Empty when there is none; a
-// folder is none.
+// Which file or folder a path leads to, the same for all of its names; empty when there is none.
+using Identite = std::pair<std::uint64_t, std::uint64_t>;
+[[nodiscard]] std::optional<Identite> identite(const std::string& chemin);
+// Where a file that trouve finds lies, and which one it is. Empty when there is none; a folder is none.
 struct Place {
     std::string chemin;
-    std::pair<std::uint64_t, std::uint64_t> identite;
+    Identite identite;
 };
 [[nodiscard]] std::optional<Place> situe(const std::string& chemin);
 [[nodiscard]] std::int64_t longueur(const std::string& chemin);  // in bytes, -1 when there is no such file

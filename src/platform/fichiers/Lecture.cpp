@@ -88,6 +88,12 @@ std::optional<std::vector<std::string>> litLignes(const std::string& chemin, std
     return lignes;
 }
 
+std::optional<Identite> identite(const std::string& chemin) {
+    struct stat infos {};
+    if (stat(cheminLisible(chemin).c_str(), &infos) != 0) return std::nullopt;
+    return Identite(infos.st_dev, infos.st_ino);
+}
+
 std::optional<Place> situe(const std::string& chemin) {
     struct stat infos {};
     std::string reel = chemin;
