@@ -203,6 +203,27 @@ TEST_F(Fenetre, AbandonedImportKeepsWhatWasAdded) {
     EXPECT_FALSE(essai.trouve("cmdAnnuler").isVisible());
 }
 
+TEST_F(Fenetre, BringsAPreviousVersionAlongByItsButton) {
+    essai.dossier.ecrit("Avant/Ambrelis.ini", "1\r\nC:\\Avant\\Affiches\r\n");
+    essai.dossier.ecrit("Avant/affiches/rouge.jpg", octetsDImage(Qt::red));
+    dao::DBEngine::CreateDatabase(essai.dossier.chemin("Avant/films.mdb"), db::schema());
+    {
+        dao::Database base = dao::DBEngine::OpenDatabase(essai.dossier.chemin("Avant/films.mdb"));
+        base.Execute(
+            "INSERT INTO Films(Titre, Realisateur, Affiche) VALUES ('Été', 'R', 'JPGrouge.jpg');"
+            "INSERT INTO Personnel(Titre2, Realisateur2) VALUES ('Été', 'R')");
+    }
+    essai.boites.dossier = essai.dossier.chemin("Avant");
+    essai.clique("cmdAfficherFonctions");
+    EXPECT_TRUE(essai.trouve("Command13_2").isEnabled());
+    essai.clique("Command13_2");
+    EXPECT_EQ(essai.boites.messages.back(), "1 film ajouté, dont 1 possédé.");
+    EXPECT_FALSE(essai.trouve("frameAjoutAuto").isVisible());
+    essai.cliqueTitre("Été");
+    attendsLaFiche("Été", "R");
+    EXPECT_GT(couleurAffiche().red(), 200);
+}
+
 TEST_F(Fenetre, ClosingDuringWorkStopsItAndThenSavesTheSettings) {
     std::vector<Film> films(60, {"", "Quelqu'un", "Drame", ""});
     for (std::size_t i = 0; i < films.size(); ++i)
