@@ -9,6 +9,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <map>
 
 #include <gmock/gmock.h>
 #include <signal.h>
@@ -18,6 +19,7 @@
 namespace {
 
 using doubles::BaseDEssai;
+using Lignes = std::vector<BaseDEssai::Champs>;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -48,15 +50,14 @@ struct AncienneBaseTest : testing::Test {
         ancienne.ecrit(kImages + std::string("grande.JPG"), std::string(230001, 'x'));
     }
 
-    void anciens(const std::vector<BaseDEssai::Champs>& films, const std::vector<BaseDEssai::Champs>& possessions) {
+    void anciens(const Lignes& films, const Lignes& possessions) {
         const std::string chemin = ancienne.chemin("Films.mdb");
         std::filesystem::remove(chemin);
         dao::DBEngine::CreateDatabase(chemin, db::schema());
         dao::Database base = dao::DBEngine::OpenDatabase(chemin);
         remplit(base, films, possessions);
     }
-    static void remplit(dao::Database& base, const std::vector<BaseDEssai::Champs>& films,
-                        const std::vector<BaseDEssai::Champs>& possessions) {
+    static void remplit(dao::Database& base, const Lignes& films, const Lignes& possessions) {
         dao::Transaction ensemble(base);
         dao::Recordset lesFilms = base.OpenRecordset("Films"), lesPossessions = base.OpenRecordset("Personnel");
         for (const auto& film : films)
@@ -73,7 +74,7 @@ struct AncienneBaseTest : testing::Test {
     }
     // So many films, each owned and with its own poster in the old base.
     void nombreuxFilms(int nombre) {
-        std::vector<BaseDEssai::Champs> films, possessions;
+        Lignes films, possessions;
         for (int i = 0; i < nombre; ++i) {
             films.push_back(film("Film " + std::to_string(i), dao::Valeur::octets("STO" + std::to_string(i))));
             possessions.push_back(possession("Film " + std::to_string(i)));
@@ -97,13 +98,11 @@ struct AncienneBaseTest : testing::Test {
         EXPECT_EQ(ecran.soufflesHorsTravail, 0);
         EXPECT_FALSE(ajout.ProgressBar1.Visible || essai.base.base.enTransaction());
     }
-    [[nodiscard]] std::vector<std::pair<std::string, std::string>> contenu() const {
-        std::vector<std::pair<std::string, std::string>> fichiers;
+    [[nodiscard]] std::map<std::string, std::string> contenu() const {
+        std::map<std::string, std::string> fichiers;
         for (const auto& entree : std::filesystem::recursive_directory_iterator(ancienne.chemin()))
-            if (entree.is_regular_file())
-                fichiers.emplace_back(entree.path(),
-                                      ancienne.lit(std::filesystem::relative(entree, ancienne.chemin()).string()));
-        std::ranges::sort(fichiers);
+            if (const std::string nom = entree.path().lexically_relative(ancienne.chemin()); entree.is_regular_file())
+                fichiers[nom] = ancienne.lit(nom);
         return fichiers;
     }
     [[nodiscard]] parcours::Photo photo() const { return parcours::Photo(essai.dossier.chemin("Films.mdb")); }

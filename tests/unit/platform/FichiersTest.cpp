@@ -175,20 +175,6 @@ TEST(FichiersEcriture, WhatCannotBeReplacedStillStands) {
     }
 }
 
-TEST(FichiersEcriture, ACopyTellsHowFarItIsAndStops) {
-    const DossierTemporaire d;
-    d.ecrit("source", std::string(200'000, 's'));
-    d.ecrit("cible", "ancienne");
-    std::vector<std::int64_t> copies;
-    EXPECT_FALSE(fichiers::copie(d.chemin("source"), d.chemin("cible"), [&](std::int64_t octets) {
-        copies.push_back(octets);
-        return copies.size() < 2;
-    }));
-    EXPECT_THAT(copies, ElementsAre(65'536, 131'072));
-    EXPECT_EQ(d.lit("cible"), "ancienne");
-    EXPECT_THAT(entrees(d), ElementsAre("cible", "source"));
-}
-
 TEST(FichiersEcriture, CopiesOverWhatStandsButNotOntoItself) {
     const DossierTemporaire d;
     d.ecrit("Source.JPG", std::string(200'000, 's'));
