@@ -4,6 +4,9 @@
 #include "acquire/ProgressionVisible.h"
 #include "platform/fichiers/Fichiers.h"
 
+#include <filesystem>
+#include <system_error>
+
 namespace acquire {
 
 namespace {
@@ -62,14 +65,14 @@ std::optional<AncienneInstallation> ImportAncienneBase::choisit() {
     m_dernierDossier = dossier;
     const AncienneInstallation ancienne = AncienneInstallation::dans(dossier);
     const auto memes = [](const std::string& a, const std::string& b) {
-        const auto identite = fichiers::identite(a);
-        return identite && identite == fichiers::identite(b);
+        std::error_code ignoree;
+        return std::filesystem::equivalent(a, b, ignoree);
     };
     if (memes(dossier, m_outils.chemins.dossier))
         refuse("Le dossier " + dossier + " est celui d'Ambrelis : choisissez celui de la version précédente.");
     else if (ancienne.base.empty())
         refuse("Aucune base de données n'a été trouvée dans le dossier " + dossier + ".");
-    else if (memes(ancienne.base, m_outils.chemins.base))
+    else if (memes(ancienne.base, m_outils.base.base.nom()))
         refuse("La base " + ancienne.base + " est celle qui est ouverte : il n'y a rien à importer.");
     else
         return ancienne;
