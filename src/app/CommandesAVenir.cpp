@@ -11,19 +11,10 @@ void grise(Controles&... controles) {
     ((controles.Enabled = false), ...);
 }
 
-void griseFiche(browse::EtatFiche& fiche) {
-    grise(fiche.cmdFichiersFilm);
-}
-
-void griseAjout(edit::EtatAjout& ajout) {
-    grise(ajout.cmdTelecharge);
-}
-
 }  // namespace
 
 void griseCommandesAVenir(Etats& etats) {
-    griseFiche(etats.fiche);
-    griseAjout(etats.ajout);
+    grise(etats.fiche.cmdFichiersFilm);
 }
 
 }  // namespace app

@@ -22,7 +22,7 @@ struct EtatFonctions {
     // Configuration.
     ecran::Bouton cmdMajBase;
     ecran::Progression ProgressBar2;  // conversion of the posters
-    ecran::Progression ProgressBar3;  // work over many films: deletion, renaming, correction; visible while it lasts
+    ecran::Progression ProgressBar3;  // work over many films, or of another program; visible while it lasts
     ecran::Etiquette lblTravail;      // what that work is, where it says so
     ecran::CaseACocher chkLancerConnexion;
     std::array<ecran::Liste, 2> Combo6;  // extensions, programs

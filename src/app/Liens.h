@@ -1,5 +1,6 @@
 #pragma once
 
+#include "acquire/SiteMovieCovers.h"
 #include "platform/dialogues/Dialogues.h"
 #include "platform/systeme/Documents.h"
 
@@ -7,8 +8,7 @@
 
 namespace app {
 
-// What Image3 opens: the site of the sheets.
-inline constexpr const char* kSiteMovieCovers = "https://www.moviecovers.com/";
+using acquire::kSiteMovieCovers;  // opened by Image3
 // The program's own page, opened by Label4.
 inline constexpr const char* kPageAmbrelis = "https://ambrelis.example/";
 

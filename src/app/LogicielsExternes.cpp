@@ -42,8 +42,8 @@ void LogicielsExternes::montre() {
     }
     programmes.AddItem(kLogicielParDefaut);
     const auto* ligne = ligneChoisie();
-    const auto choisi = ligne ? std::find(programmes.Items.begin(), programmes.Items.end(), (*ligne)[1])
-                              : programmes.Items.end();
+    const auto choisi =
+        ligne ? std::find(programmes.Items.begin(), programmes.Items.end(), (*ligne)[1]) : programmes.Items.end();
     programmes.selectionne(choisi == programmes.Items.end() ? programmes.ListCount() - 1
                                                             : static_cast<int>(choisi - programmes.Items.begin()));
     extensions.Enabled = nombre() > 0;
@@ -62,8 +62,8 @@ void LogicielsExternes::cmdParcourirLogiciel_Click() {
     if (!ligne) return;
     const std::string& actuel = (*ligne)[1];
     const std::string dossier = fichiers::existe(actuel) ? fichiers::dossierDe(actuel) : kDossierLogiciels;
-    const std::string choisi = m_dialogues.choisitFichier(
-        {"Logiciel des fichiers " + (*ligne)[0], "Tous les fichiers|*.*", dossier, false});
+    const std::string choisi =
+        m_dialogues.choisitFichier({"Logiciel des fichiers " + (*ligne)[0], "Tous les fichiers|*.*", dossier, false});
     if (choisi.empty()) return;
     if (!fichiers::executable(choisi) || !tientSurUneLigne(choisi))
         m_dialogues.MsgBox("Ce fichier n'est pas un logiciel qui peut être lancé :\n" + choisi,

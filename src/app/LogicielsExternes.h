@@ -20,7 +20,7 @@ class LogicielsExternes {
                       dialogues::Dialogues& dialogues, ecran::Demandes& demandes)
         : m_etat(etat), m_table(table), m_chemins(chemins), m_dialogues(dialogues), m_demandes(demandes) {}
 
-    void montre();  // the program of the chosen extension, among those that the table names
+    void montre();                  // the program of the chosen extension, among those that the table names
     void Combo6_Click(int indice);  // 0: another extension is chosen; 1: another program is given to it
     void cmdParcourirLogiciel_Click();
     void cmdAjoutExtension_Click();  // with the default program; a refusal leaves what was typed

@@ -3,6 +3,7 @@
 #include "acquire/ImporterAncienneBase.h"
 #include "acquire/cmdAjoutAuto_Click.h"
 #include "acquire/cmdParcourir2_Click.h"
+#include "acquire/cmdTelecharge_Click.h"
 #include "app/Arret.h"
 #include "app/ChoixFonction.h"
 #include "app/Demarrage.h"
@@ -118,6 +119,15 @@ struct Session::Rouages final : db::Rafraichissement {
     acquire::ImportAncienneBase importAncienneBase{
         {base, chemins, etats.ajout, etats.stockage, machine.dialogues, machine.ecran}, *this};
     acquire::ChoixDossierFiches choixDossierFiches{etats.ajout, machine.dialogues};
+    acquire::Telechargement telechargement{{etats.ajout,
+                                            etats.fonctions.chkLancerConnexion,
+                                            {etats.fonctions.lblTravail, etats.fonctions.ProgressBar3},
+                                            chemins,
+                                            lanceFichier,
+                                            importFiches,
+                                            machine.dialogues,
+                                            machine.ecran,
+                                            etats.demandes}};
     edit::cmdAjoutFilm_Click cmdAjoutFilm{{base, etats.ajout, etats.fiche, etats.stockage, chemins, film,
                                            enregistrement, doublons, machine.dialogues, machine.horloge},
                                           {etats.liste, affichageApresModification, selectionneTitre,

@@ -266,6 +266,14 @@ void Session::cmdAjoutAuto_Click() {
     m_rouages->importFiches.cmdAjoutAuto_Click();
 }
 
+void Session::cmdTelecharge_Click() {
+    m_rouages->telechargement.cmdTelecharge_Click();
+}
+
+void Session::txtRechInternet_KeyDown(int code, int majuscule) {
+    m_rouages->telechargement.txtRechInternet_KeyDown(code, majuscule);
+}
+
 void Session::cmdAjoutFilm_Click() {
     const long avant = m_rouages->base.films.RecordCount();
     m_rouages->cmdAjoutFilm();

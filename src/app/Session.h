@@ -106,6 +106,8 @@ class Session {
     void Command13_Click(int indice);
     void cmdParcourir2_Click();
     void cmdAjoutAuto_Click();
+    void cmdTelecharge_Click();
+    void txtRechInternet_KeyDown(int code, int majuscule);
     void cmdAjoutFilm_Click();
 
     // Correcting the film of the sheet, from its button and from the tree's menu.

@@ -110,6 +110,7 @@ void FenetrePrincipale::completePanneaux() {
 }
 
 void FenetrePrincipale::suitLesCommandes() {
+    m_atelier.liaison.apresEcriture([this] { vientDevant(); });
     connect(&m_atelier.commande, &Commande::vaCommencer, this, [this] {
         if (isVisible()) completePanneaux();
     });
@@ -130,6 +131,14 @@ void FenetrePrincipale::executeDemandes() {
     if (m_menus) m_menus->montre(menu, m_endroitMenu);
     if (m_fermetureDemandee) QTimer::singleShot(0, this, &QWidget::close);
     if (m_deuxPages != (width() >= kLargeurDeuxPages)) QTimer::singleShot(0, this, [this] { suisLargeur(); });
+}
+
+// Before a box that the command shows, or after it.
+void FenetrePrincipale::vientDevant() {
+    if (!isVisible() || !std::exchange(m_atelier.etats().demandes.premierPlan, false)) return;
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
 }
 
 void FenetrePrincipale::choisitParDefaut(const std::string& nom) {

@@ -36,6 +36,7 @@ class FenetrePrincipale final : public QWidget {
     void completePanneaux();
     void suitLesCommandes();
     void executeDemandes();
+    void vientDevant();
     void choisitParDefaut(const std::string& nom);
     void suisLargeur();
     [[nodiscard]] QSize tailleVoulue() const;

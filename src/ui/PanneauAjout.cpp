@@ -5,12 +5,19 @@
 #include "ui/PanneauSaisie.h"
 #include "ui/Sections.h"
 
+#include <QKeyEvent>
 #include <QProgressBar>
 #include <QRadioButton>
 
 namespace ui {
 
-PanneauAjout::PanneauAjout(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
+namespace {
+
+constexpr int kToucheEntree = 13;  // as in Windows
+
+}  // namespace
+
+PanneauAjout::PanneauAjout(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameDivers");
     auto* intitule = nomme(new TitreDeSection(1.5), "Label5");
     atelier.liaison.lie(atelier.etats().ajout.Label5, intitule);
@@ -24,6 +31,13 @@ PanneauAjout::PanneauAjout(const Atelier& atelier, QWidget* parent) : QWidget(pa
     boite->addWidget(new PanneauSaisie(atelier));
     setLayout(boite);
     atelier.liaison.lie(atelier.etats().fonctions.frameDivers, this);
+}
+
+// What the text boxes leave: Enter in the search box.
+void PanneauAjout::keyPressEvent(QKeyEvent* evenement) {
+    const bool valide = evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter;
+    if (!valide || !m_rechercheInternet->hasFocus()) return QWidget::keyPressEvent(evenement);
+    m_atelier.commande.execute([this] { m_atelier.session.txtRechInternet_KeyDown(kToucheEntree, 0); });
 }
 
 QLayout* PanneauAjout::manieres(const Atelier& atelier) {
@@ -93,11 +107,12 @@ QLayout* PanneauAjout::fiches(const Atelier& atelier) {
 QLayout* PanneauAjout::internet(const Atelier& atelier) {
     auto& ajout = atelier.etats().ajout;
     const QString textes[] = {tr("Titre"), tr("Réalisateur"), tr("Acteur"), tr("Année")};
-    auto* texte = nomme(new QLineEdit, "txtRechInternet");
+    auto* texte = m_rechercheInternet = nomme(new QLineEdit, "txtRechInternet");
     auto* telecharger =
-        bouton("cmdTelecharge", tr("Téléc&harger…"), tr("Chercher ces films sur le site de MovieCovers"));
+        bouton("cmdTelecharge", tr("Téléc&harger…"), tr("Chercher ces films sur le site de MovieCovers (Entrée)"));
     atelier.liaison.lie(ajout.txtRechInternet, texte);
     atelier.liaison.lie(ajout.cmdTelecharge, telecharger);
+    atelier.auClic(telecharger, &app::Session::cmdTelecharge_Click);
     auto* groupe = new QWidget;
     auto* options = rangee({}, kLarge);
     for (std::size_t i = 0; i < 4; ++i) {

@@ -12,11 +12,17 @@ class PanneauAjout final : public QWidget {
   public:
     explicit PanneauAjout(const Atelier& atelier, QWidget* parent = nullptr);
 
+  protected:
+    void keyPressEvent(QKeyEvent* evenement) override;
+
   private:
     [[nodiscard]] QLayout* manieres(const Atelier& atelier);
     [[nodiscard]] QWidget* pageAutomatique(const Atelier& atelier);
     [[nodiscard]] QLayout* fiches(const Atelier& atelier);
     [[nodiscard]] QLayout* internet(const Atelier& atelier);
+
+    const Atelier m_atelier;
+    QLineEdit* m_rechercheInternet = nullptr;
 };
 
 }  // namespace ui

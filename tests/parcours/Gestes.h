@@ -12,6 +12,10 @@
 // What a user does with the window, and sees in it.
 namespace parcours {
 
+inline constexpr const char* kQuestionRessemblance =
+    "Souhaitez-vous que le logiciel vérifie si les nouveaux titres ajoutés ressemblent à d'autres titres déjà présents "
+    "en base ?";
+
 inline std::string fiche(const char* titre, const char* realisateur, const char* annee, const char* origine,
                          const char* genre) {
     return std::string(titre) + "\r\n" + realisateur + "\r\n" + annee + "\r\n" + origine + "\r\n" + genre +
@@ -42,10 +46,7 @@ inline void importe(Execution& execution, const Installation& installation) {
     boites.attendInputBox(
         "Vous pouvez indiquer le nom du support qui sera attribué à tous les films ajoutés (DVD, K7...)", "DVD",
         "Nom du support");
-    boites.attendMsgBox(
-        "Souhaitez-vous que le logiciel vérifie si les nouveaux titres ajoutés ressemblent à d'autres titres déjà "
-        "présents en base ?",
-        dialogues::kQuestion, dialogues::kOui);
+    boites.attendMsgBox(kQuestionRessemblance, dialogues::kQuestion, dialogues::kOui);
     boites.attendMsgBox(
         "4 films ajoutés.\n- Image manquante :\n" + dossier + "/2.jpg, " + dossier + "/3.jpg, " + dossier + "/4.jpg",
         dialogues::kInformation);

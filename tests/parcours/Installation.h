@@ -29,8 +29,9 @@ class Installation : public doubles::DossierTemporaire {
 
 // One run of the program in a folder, with the machine's doubles. Its destruction without Form_Unload is a crash.
 struct Execution {
-    explicit Execution(const std::string& dossier)
-        : session({boites, ecran, images, horloge, documents, programmes, volumes, dossier}) {}
+    // `vrais` really start programs.
+    explicit Execution(const std::string& dossier, systeme::Programmes* vrais = nullptr)
+        : session({boites, ecran, images, horloge, documents, vrais ? *vrais : programmes, volumes, dossier}) {}
 
     doubles::DialoguesScript boites;
     doubles::EcranMuet ecran;

@@ -61,7 +61,7 @@ class ProgrammeDEssai {
 
     void demarre() {
         programme.emplace(dossier.chemin(),
-                          ui::Programme::Services{&boites, &horloge, &documents, &programmes, &volumes});
+                          ui::Programme::Services{&boites, &horloge, &documents, vrais ? vrais : &programmes, &volumes});
         ASSERT_TRUE(programme->demarre());
         // The panels behind the first page are built after the first painting.
         ASSERT_TRUE(QTest::qWaitFor([&] { return fenetre().findChild<QWidget*>("frameFiche") != nullptr; }));
@@ -122,6 +122,7 @@ class ProgrammeDEssai {
     doubles::HorlogeFixe horloge;
     doubles::DocumentsEnregistres documents;
     doubles::ProgrammesSimules programmes;
+    systeme::Programmes* vrais = nullptr;  // really start programs, in the place of those
     doubles::VolumesSimules volumes;
     std::optional<ui::Programme> programme;
 };

@@ -46,10 +46,12 @@ class Images {
     virtual void vide() = 0;
 };
 
-// Asked for once by a command; the window carries it out after the command and clears it.
+// Asked for once by a command; the window carries it out after the command and clears it. It comes to the front already
+// before the command's next box.
 struct Demandes {
     std::string focus;           // name of the control to give the focus to
     std::string boutonParDefaut; // name of the button that Enter presses while it is visible and enabled
+    bool premierPlan = false;    // the window comes before those of other programs
 };
 
 }  // namespace ecran

@@ -1,9 +1,5 @@
 #include "acquire/CompteFilmsRepertoire.h"
-#include "acquire/cmdAjoutAuto_Click.h"
-#include "doubles/DialoguesScript.h"
-#include "doubles/EcranMuet.h"
-#include "doubles/HorlogeFixe.h"
-#include "unit/edit/BaseDEssai.h"
+#include "unit/acquire/ImportDEssai.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -24,44 +20,12 @@ using dialogues::kOui;
 using dialogues::kQuestion;
 using testing::ElementsAre;
 
-constexpr const char* kQuestionRessemblance =
-    "Souhaitez-vous que le logiciel vérifie si les nouveaux titres ajoutés ressemblent à d'autres titres déjà présents "
-    "en base ?";
+using doubles::kQuestionRessemblance;
 
-// The import with everything under it, on a real base; the boxes are scripted.
-struct ImportTest : testing::Test {
-    doubles::BaseDEssai essai;
+struct ImportTest : doubles::ImportDEssai {
     doubles::DossierTemporaire fiches;
-    doubles::DialoguesScript dialogues;
-    doubles::EcranMuet ecran;
-    doubles::HorlogeFixe horloge;
-    edit::EtatAjout ajout;
-    db::EtatStockage stockage;
-    db::Chemins chemins = db::Chemins::depuis(essai.dossier.chemin());
-    browse::EtatListe liste;
-    browse::EtatFiche fiche;
-    browse::FilmCourant courant;
-    browse::AfficheTitres afficheTitres{liste, essai.base};
-    browse::CreeRequeteAffichage creeRequeteAffichage{essai.base, liste, courant, afficheTitres, dialogues};
-    browse::CreeEtAfficheRecherche creeEtAfficheRecherche{liste, creeRequeteAffichage};
-    browse::AfficheNbTitres afficheNbTitres{liste, essai.base};
-    edit::EnregistrementFilm enregistrement{essai.base, ajout, stockage, chemins, courant, dialogues};
-    edit::Doublons doublons{essai.base, dialogues};
-    edit::Ressemblances ressemblances{essai.base, dialogues};
-    edit::BoitesDeroulantes boites{essai.base, fiche, dialogues};
-    acquire::ImportFiches import{
-        {essai.base, ajout, stockage, enregistrement, doublons, ressemblances, dialogues, ecran},
-        {liste, creeEtAfficheRecherche, afficheNbTitres, boites},
-        horloge};
 
-    ImportTest() {
-        for (const char* zone : {"Mes films", "Tous", "2", "3", "4", "5"})
-            liste.ChoixZone.AddItem(zone);
-        for (int tri = 0; tri < 9; ++tri)
-            liste.ChoixTri.AddItem(std::to_string(tri));
-        ajout.txtCheminAjoutAuto.Text = fiches.chemin();
-        ajout.cmdAjoutFilm.Caption = "Modifier";  // what was being modified is no concern of an import
-    }
+    ImportTest() { ajout.txtCheminAjoutAuto.Text = fiches.chemin(); }
 
     void ecritFiches(int nombre) {
         for (int i = 0; i < nombre; ++i) {
@@ -70,14 +34,6 @@ struct ImportTest : testing::Test {
             fiches.ecrit(nom + ".FILM"s, "Film "s + nom + "\r\nR\r\n");
             fiches.ecrit(nom + ".jpg"s, nom);
         }
-    }
-    void attendQuestions(long nombre, bool possede, bool ressemblance, const std::string& support = "") {
-        dialogues.attendMsgBox(acquire::questionPossession(nombre), kQuestion, possede ? kOui : kNon);
-        if (possede)
-            dialogues.attendInputBox(
-                "Vous pouvez indiquer le nom du support qui sera attribué à tous les films ajoutés (DVD, K7...)",
-                support, "Nom du support");
-        dialogues.attendMsgBox(kQuestionRessemblance, kQuestion, ressemblance ? kOui : kNon);
     }
     void importe(long nombre, const std::string& rapport, bool possede = false, bool ressemblance = false) {
         attendQuestions(nombre, possede, ressemblance, "DVD");

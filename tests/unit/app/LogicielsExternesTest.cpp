@@ -150,9 +150,9 @@ TEST_F(LogicielsExternesTest, AFileThatCannotBeReplacedIsToldAndTheTableKeepsThe
     ouvre();
     std::filesystem::remove(installation.chemin("Extensions.txt"));
     std::filesystem::create_directory(installation.chemin("Extensions.txt"));
-    execution->boites.attendMsgBox("La liste des logiciels externes n'a pas pu être enregistrée (" +
-                                       installation.chemin("Extensions.txt") + ").",
-                                   dialogues::kCritique);
+    execution->boites.attendMsgBox(
+        "La liste des logiciels externes n'a pas pu être enregistrée (" + installation.chemin("Extensions.txt") + ").",
+        dialogues::kCritique);
     choisit(1, 1);
     std::filesystem::remove(installation.chemin("Extensions.txt"));
     execution->session.Form_Unload();

@@ -1,0 +1,92 @@
+#include "ProgrammeDEssai.h"
+#include "doubles/Rapatrix.h"
+
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTimer>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::ElementsAre;
+
+// The whole program, with the stand-in of the downloader started for good.
+struct Telechargement : testing::Test {
+    systeme::ProgrammesSysteme programmes;
+    essais::ProgrammeDEssai essai;
+    const doubles::Rapatrix rapatrix{essai.dossier};
+
+    void SetUp() override {
+        essai.vrais = &programmes;
+        essai.demarre();
+        essai.clique("cmdAfficherFonctions");
+    }
+    void chercheParEntree(const char* texte) {
+        auto& zone = essai.trouve<QLineEdit>("txtRechInternet");
+        zone.setFocus();
+        zone.clear();
+        QTest::keyClicks(&zone, texte);
+        QTest::keyClick(&zone, Qt::Key_Return);
+    }
+    std::vector<std::string> titres() {
+        std::vector<std::string> textes;
+        const browse::Arbre& noeuds = essai.etats().liste.TreeView1.Nodes;
+        for (int i = 1; i <= noeuds.Count(); ++i)
+            if (!noeuds.estGroupe(i)) textes.emplace_back(noeuds.Text(i));
+        return textes;
+    }
+};
+
+TEST_F(Telechargement, EnterInTheBoxSearchesAndTheWindowComesForward) {
+    essai.fenetre().showMinimized();
+    chercheParEntree("cercle");
+    EXPECT_THAT(titres(), ElementsAre("Le Cercle Rouge", "L'Été"));
+    EXPECT_EQ(essai.boites.messages.size(), 3u) << "the import ran once: " << essai.boites.messages.back();
+    EXPECT_FALSE(essai.fenetre().isMinimized());
+    EXPECT_FALSE(essai.etats().demandes.premierPlan);
+}
+
+TEST_F(Telechargement, AnnulerEndsADownloaderThatHangs) {
+    bool offert = false;
+    QTimer regard;
+    QObject::connect(&regard, &QTimer::timeout, &regard, [&] {
+        auto& annuler = essai.trouve<QPushButton>("cmdAnnuler");
+        if (!rapatrix.aRecu() || !annuler.isVisible()) return;
+        offert = true;
+        EXPECT_EQ(essai.trouve<QProgressBar>("ProgressBar3").maximum(), 0);
+        QTest::mouseClick(&annuler, Qt::LeftButton);
+    });
+    regard.start(20);
+    chercheParEntree("attente");
+    EXPECT_TRUE(offert);
+    EXPECT_THAT(titres(), ElementsAre("Le Cercle Rouge"));  // the sheet that was there is wanted
+    EXPECT_FALSE(essai.trouve("cmdAnnuler").isVisible());
+    EXPECT_FALSE(essai.dossier.existe("Tmp/RechFilms.tmp"));
+}
+
+TEST(LogicielsExternes, AreAddedChangedAndRemovedOnTheirPage) {
+    essais::ProgrammeDEssai essai;
+    essai.demarre();
+    essai.clique("cmdConfigurer");
+    essai.clique("cmdConfig_1");
+    auto& extensions = essai.trouve<QComboBox>("Combo6_0");
+    auto& logiciels = essai.trouve<QComboBox>("Combo6_1");
+    EXPECT_EQ(logiciels.currentText(), "/usr/bin/mpv");
+    auto& zone = essai.trouve<QLineEdit>("txtNouvelleExtension");
+    zone.setFocus();
+    QTest::keyClicks(&zone, ".ogm");
+    QTest::keyClick(&zone, Qt::Key_Return);
+    EXPECT_EQ(extensions.currentText(), "ogm");
+    EXPECT_EQ(logiciels.currentText(), " Logiciel par défaut");
+    EXPECT_EQ(zone.text(), "");
+    essai.choisit("Combo6_1", 0);
+    EXPECT_EQ(essai.dossier.lit("Extensions.txt"), "avi\n/usr/bin/mpv\nogm\n/usr/bin/mpv\n");
+    essai.choisit("Combo6_0", 0);
+    essai.clique("cmdSupprExtension");
+    EXPECT_EQ(extensions.currentText(), "ogm");
+    EXPECT_EQ(essai.dossier.lit("Extensions.txt"), "ogm\n/usr/bin/mpv\n");
+}
+
+}  // namespace
