@@ -7,7 +7,6 @@
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 // A session with the stand-in of the downloader, started for good, beside it.
 struct UnTelechargement : parcours::Collectionneur {
@@ -19,26 +18,18 @@ struct UnTelechargement : parcours::Collectionneur {
         ASSERT_TRUE(execution->demarre());
         session().cmdAfficherFonctions_Click();
     }
-    void cherche(const std::string& texte, std::size_t critere) {
-        etats().ajout.txtRechInternet.Text = texte;
-        ecran::choisit(etats().ajout.OptionTelecharge, critere);
-        session().txtRechInternet_KeyDown(13, 0);
-        execution->boites.verifie();
-    }
 };
 
 TEST_F(UnTelechargement, FillsTheBaseAndShowsTheFilmsOfTheDay) {
     EXPECT_TRUE(etats().ajout.cmdTelecharge.Enabled);
-    static_cast<void>(changements());
-    cherche("rien", 0);
-    EXPECT_THAT(changements(), IsEmpty());
-
     demande(acquire::questionPossession(2), dialogues::kNon);
     demande(parcours::kQuestionRessemblance, dialogues::kNon);
     execution->boites.attendMsgBox("2 films ajoutés.\n- Image manquante :\n" + installation.chemin("Tmp/2.jpg"),
                                    dialogues::kInformation);
     etats().fonctions.chkLancerConnexion.Value = 1;
-    cherche("1983", 3);
+    etats().ajout.txtRechInternet.Text = "1983";
+    ecran::choisit(etats().ajout.OptionTelecharge, 3);
+    session().txtRechInternet_KeyDown(13, 0);
     EXPECT_THAT(rapatrix.recu(), testing::AllOf(testing::HasSubstr("?anneemin=1983&anneemax=1983\r\n"),
                                                 testing::HasSubstr("\r\nLANCER_TELECHARGEMENT_DEMARRAGE=O\r\n")));
     EXPECT_EQ(comptes(), "2 titres, 0 personnel");

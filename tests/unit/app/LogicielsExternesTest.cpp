@@ -146,17 +146,4 @@ TEST_F(LogicielsExternesTest, AnEmptyTableOffersOnlyToAdd) {
     execution->session.cmdParcourirLogiciel_Click();
 }
 
-TEST_F(LogicielsExternesTest, AFileThatCannotBeReplacedIsToldAndTheTableKeepsTheChange) {
-    ouvre();
-    std::filesystem::remove(installation.chemin("Extensions.txt"));
-    std::filesystem::create_directory(installation.chemin("Extensions.txt"));
-    execution->boites.attendMsgBox(
-        "La liste des logiciels externes n'a pas pu être enregistrée (" + installation.chemin("Extensions.txt") + ").",
-        dialogues::kCritique);
-    choisit(1, 1);
-    std::filesystem::remove(installation.chemin("Extensions.txt"));
-    execution->session.Form_Unload();
-    EXPECT_EQ(fichier(), "avi\n/usr/bin/vidéo\nmkv\n/usr/bin/vidéo\n");
-}
-
 }  // namespace
