@@ -1,5 +1,6 @@
 #include "ui/DialoguesQt.h"
 
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
@@ -104,7 +105,11 @@ QString cheminAEcrire(QInputDialog& saisie, const dialogues::DemandeChemin& dema
 
 }  // namespace
 
-QWidget* DialoguesQt::parent() const {
+// A box over another window than the one in use would leave that one behind when it closes. When a box follows another,
+// the desktop may not have given the window its place back yet.
+QWidget* DialoguesQt::parent() {
+    if (QWidget* active = QApplication::activeWindow()) m_enUsage = active;
+    if (m_enUsage && m_enUsage->isVisible()) return m_enUsage.data();
     return m_fenetre && m_fenetre->isVisible() ? m_fenetre.data() : nullptr;
 }
 

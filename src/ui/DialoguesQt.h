@@ -21,10 +21,11 @@ class DialoguesQt final : public dialogues::Dialogues {
     std::string choisitDossier(const std::string& titre, const std::string& dossierInitial) override;
 
   private:
-    QWidget* parent() const;  // none as long as the window is not shown
+    QWidget* parent();  // the window in use, else the main one; none as long as that is not shown
 
     Liaison& m_liaison;
     QPointer<QWidget> m_fenetre;
+    QPointer<QWidget> m_enUsage;
 };
 
 // "Fichiers JPEG|*.jpg" as Qt writes it, with the endings in both cases; "*.*" means every file.

@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
+#include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -44,6 +45,24 @@ TEST(DialoguesQt, AQuestionSpeaksFrenchAndIsShownPlainly) {
     surLaBoite<QMessageBox>([](QMessageBox& boite) { boite.reject(); });
     EXPECT_EQ(boites.MsgBox("Continuer ?", dialogues::kQuestion, dialogues::kTitre), dialogues::kNon)
         << "closing answers No";
+}
+
+TEST(DialoguesQt, ABoxBelongsToTheWindowInUse) {
+    ui::Liaison liaison;
+    ui::DialoguesQt boites(liaison);
+    QWidget principale, visionneuse;
+    principale.show();
+    boites.metParent(&principale);
+    visionneuse.show();
+    for (QWidget* enUsage : {&visionneuse, &principale}) {
+        enUsage->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(enUsage));
+        surLaBoite<QMessageBox>([=](QMessageBox& boite) {
+            EXPECT_EQ(boite.parentWidget(), enUsage);
+            boite.accept();
+        });
+        boites.MsgBox("Fichier sauvegardé.", dialogues::kInformation, dialogues::kTitre);
+    }
 }
 
 TEST(DialoguesQt, ALongReportKeepsItsButtonsOnTheScreen) {
