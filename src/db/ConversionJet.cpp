@@ -113,7 +113,8 @@ class Passage {
     RapportJet m_rapport;
 };
 
-// Until it is whole, the new file is not worth waiting for the disk: it is taken there at once at the end.
+// The new file is taken to the disk lot by lot, so that the last wait for it is short. It needs no journal there: what
+// is not whole is thrown away.
 RapportJet Passage::convertit() {
     reconnait(m_films);
     reconnait(m_personnel);
@@ -121,7 +122,7 @@ RapportJet Passage::convertit() {
     {
         dao::DBEngine::CreateDatabase(m_destination, schema());
         dao::Database base = dao::DBEngine::OpenDatabase(m_destination, true);
-        base.Execute("PRAGMA journal_mode=MEMORY; PRAGMA synchronous=OFF");
+        base.Execute("PRAGMA journal_mode=MEMORY; PRAGMA synchronous=NORMAL");
         copie(m_films, base);
         copie(m_personnel, base);
     }

@@ -32,14 +32,16 @@ BandeTravail::BandeTravail(const Atelier& atelier, QWidget* parent)
     EcranQt* ecran = &atelier.ecran;
     ecran->laissePasser(m_annuler);
     connect(m_annuler, &QPushButton::clicked, ecran, &EcranQt::demandeArret);
-    connect(ecran, &EcranQt::travailCommence, this, [this] {
-        m_annuler->setEnabled(true);
-        show();
-        m_annuler->setFocus();
-    });
+    connect(ecran, &EcranQt::travailCommence, this, &BandeTravail::montre);
     connect(ecran, &EcranQt::travailFini, this, &QWidget::hide);
     connect(m_annuler, &QPushButton::clicked, m_annuler, [this] { m_annuler->setEnabled(false); });
     atelier.liaison.apresEcriture([this, etats = &atelier.etats()] { suis(*etats); });
+}
+
+void BandeTravail::montre() {
+    m_annuler->setEnabled(true);
+    show();
+    m_annuler->setFocus();
 }
 
 void BandeTravail::suis(const app::Etats& etats) {

@@ -16,7 +16,7 @@ class BandeTravail final : public QWidget {
   public:
     explicit BandeTravail(const Atelier& atelier, QWidget* parent = nullptr);
 
-    [[nodiscard]] QPushButton* annuler() const { return m_annuler; }
+    void montre();  // work has begun
 
   private:
     void suis(const app::Etats& etats);

@@ -64,7 +64,7 @@ void EcranQt::finTravail() {
 
 bool EcranQt::eventFilter(QObject* objet, QEvent* evenement) {
     if (!objet->isWidgetType() || !estUneSaisie(evenement->type())) return false;
-    if (objet == m_admis) return false;
+    if (m_admis.contains(objet)) return false;
     const bool touche = evenement->type() == QEvent::KeyPress;
     if (touche && m_travaux > 0 && static_cast<QKeyEvent*>(evenement)->key() == Qt::Key_Escape) demandeArret();
     return true;

@@ -4,6 +4,7 @@
 #include "ui/Liaison.h"
 
 #include <QElapsedTimer>
+#include <QList>
 #include <QObject>
 
 namespace ui {
@@ -22,7 +23,7 @@ class EcranQt final : public QObject, public ecran::Ecran {
 
     // The user wants the work to stop. Forgotten when the work ends.
     void demandeArret() { m_arretDemande = true; }
-    void laissePasser(QObject* widget) { m_admis = widget; }  // the one widget that takes input during work
+    void laissePasser(QObject* widget) { m_admis.append(widget); }  // it takes input during work, as few others do
 
     bool eventFilter(QObject* objet, QEvent* evenement) override;
 
@@ -32,7 +33,7 @@ class EcranQt final : public QObject, public ecran::Ecran {
 
   private:
     Liaison& m_liaison;
-    QObject* m_admis = nullptr;
+    QList<QObject*> m_admis;
     QElapsedTimer m_depuisSouffle;
     int m_travaux = 0;  // works may lie within one another
     bool m_arretDemande = false;

@@ -28,6 +28,15 @@ Programme::Programme(const std::string& dossier, const Services& services)
         m_fenetre.hide();
         QCoreApplication::quit();
     });
+    QObject::connect(&m_ecran, &EcranQt::travailCommence, &m_fenetre, [this] { montreTravail(); });
+}
+
+void Programme::montreTravail() {
+    if (m_fenetre.isVisible()) return;
+    if (!m_fenetreTravail)
+        m_fenetreTravail =
+            std::make_unique<FenetreTravail>(Atelier{m_session, m_liaison, m_commande, m_images, m_ecran});
+    m_fenetreTravail->montre();
 }
 
 bool Programme::demarre() {

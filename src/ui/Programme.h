@@ -9,8 +9,11 @@
 #include "ui/DialoguesQt.h"
 #include "ui/EcranQt.h"
 #include "ui/FenetrePrincipale.h"
+#include "ui/FenetreTravail.h"
 #include "ui/ImagesQt.h"
 #include "ui/Liaison.h"
+
+#include <memory>
 
 namespace ui {
 
@@ -38,6 +41,8 @@ class Programme {
     [[nodiscard]] EcranQt& ecran() { return m_ecran; }
 
   private:
+    void montreTravail();
+
     Liaison m_liaison;
     DialoguesQt m_boites;
     EcranQt m_ecran;
@@ -49,6 +54,7 @@ class Programme {
     app::Session m_session;
     Commande m_commande;
     FenetrePrincipale m_fenetre;
+    std::unique_ptr<FenetreTravail> m_fenetreTravail;  // when work was under way before the window was shown
 };
 
 }  // namespace ui

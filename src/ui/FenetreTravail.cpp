@@ -1,0 +1,32 @@
+#include "ui/FenetreTravail.h"
+
+#include "ui/BandeTravail.h"
+#include "ui/Composition.h"
+#include "ui/EcranQt.h"
+
+#include <QCloseEvent>
+
+namespace ui {
+
+FenetreTravail::FenetreTravail(const Atelier& atelier) : m_ecran(atelier.ecran), m_bande(new BandeTravail(atelier)) {
+    setObjectName(QStringLiteral("frmTravail"));
+    setWindowTitle(QStringLiteral("Ambrelis"));
+    auto* boite = colonne(0);
+    boite->setContentsMargins(0, 0, 0, 0);
+    boite->addWidget(m_bande);
+    setLayout(boite);
+    setMinimumWidth(620);
+    connect(&m_ecran, &EcranQt::travailFini, this, &QWidget::hide);
+}
+
+void FenetreTravail::montre() {
+    m_bande->montre();
+    show();
+}
+
+void FenetreTravail::closeEvent(QCloseEvent* evenement) {
+    evenement->ignore();
+    m_ecran.demandeArret();
+}
+
+}  // namespace ui
