@@ -246,6 +246,26 @@ void mesureListes(bench::Tableau& tableau, const Options& options) {
         {"RTF of 10000 titles, posters in the base", "ms", figures.at("rtf"), figures.at("rtf_plancher"), 2.5, true});
 }
 
+void mesureBaseJet(bench::Tableau& tableau, const Options& options) {
+    const int films = options.vite ? 100 : 300;
+    fs::create_directories(options.dossier);
+    const std::string base = (options.dossier / "jet.mdb").string();
+    static_cast<void>(bench::lance("mesure_jet", {"genere", base, std::to_string(films)}));
+    const auto [plancher, programme] = enAlternance(
+        2,
+        [&] {
+            return bench::lance("mesure_jet", {"lit", base});
+        },
+        [&] {
+            return bench::lance("mesure_jet", {"convertit", base});
+        });
+    tableau.titre("a Jet base of " + std::to_string(films) + " posters of 230 KB");
+    tableau.ajoute({"converted and checked", "ms", programme.at("conversion"), plancher.at("lecture"), {}, true});
+    tableau.ajoute({"  converted a second", "MB", megaoctets(base) / programme.at("conversion") * 1000, {}, {}});
+    tableau.ajoute({"  peak memory", "MB", programme.at("memoire"), {}, 60.0});
+    fs::remove(base);
+}
+
 Options litOptions(int nombre, char** mots) {
     if (nombre < 3) throw std::invalid_argument("usage: mesures PROGRAMME DOSSIER [--vite] [--garde] [--commandes]");
     Options options{mots[1], mots[2]};
@@ -277,6 +297,7 @@ int main(int nombre, char** mots) try {
     mesureCommandes(tableau, options, options.vite ? 10000 : 100000);
     mesureListes(tableau, options);
     mesureConversion(tableau, options, options.vite ? 2000 : 10000);
+    mesureBaseJet(tableau, options);
     if (!options.garde) fs::remove_all(options.dossier);
     std::cout << '\n'
               << (tableau.depassements() == 0 ? "every target is held"

@@ -5,6 +5,7 @@
 #include "ui/EcranQt.h"
 
 #include <QCloseEvent>
+#include <QScreen>
 
 namespace ui {
 
@@ -21,6 +22,8 @@ FenetreTravail::FenetreTravail(const Atelier& atelier) : m_ecran(atelier.ecran),
 
 void FenetreTravail::montre() {
     m_bande->montre();
+    adjustSize();
+    move(screen()->availableGeometry().center() - rect().center());
     show();
 }
 
