@@ -11,6 +11,7 @@
 #include "export/EtatNom.h"
 #include "platform/ecran/Ecran.h"
 #include "view/EtatAffiche.h"
+#include "view/EtatFichiers.h"
 
 namespace app {
 
@@ -28,6 +29,7 @@ struct Etats {
     edit::EtatAjout ajout;
     EtatFonctions fonctions;
     view::EtatAffiche affiche;
+    view::EtatFichiers fichiers;
     exportation::EtatNom nom;
     exportation::EtatExport dernierExport;
     ecran::Demandes demandes;

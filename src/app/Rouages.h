@@ -29,6 +29,7 @@
 #include "edit/cmdValiderInfosPossessions_Click.h"
 #include "export/cmdCreeFichierTxt_Click.h"
 #include "export/cmdCreerListe_Click.h"
+#include "view/Command1_Click.h"
 #include "view/LanceFichier.h"
 #include "view/TouchesAffiche.h"
 #include "view/cmdRemplacerImage_Click.h"
@@ -98,6 +99,8 @@ struct Session::Rouages final : db::Rafraichissement {
 
     // Attached files, and those the program writes.
     view::LanceFichier lanceFichier{machine.programmes, machine.documents, machine.dialogues, machine.ecran};
+    view::Command1_Click command1{etats.fichiers,     film,         extensions,       machine.volumes,
+                                  machine.programmes, lanceFichier, machine.dialogues};
 
     // Search.
     browse::cmdFonctionRecherche_Click cmdFonctionRecherche{etats.panneaux, etats.demandes, afficheAccueil};

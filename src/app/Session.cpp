@@ -1,7 +1,6 @@
 #include "app/Session.h"
 
 #include "app/APropos.h"
-#include "app/CommandesAVenir.h"
 #include "app/Liens.h"
 #include "app/Rouages.h"
 #include "app/cmdParcourir_Click.h"
@@ -48,9 +47,7 @@ void Session::Rouages::AffichageApresModification() {
     etats.panneaux = panneaux;
 }
 
-Session::Session(const Machine& machine) : m_rouages(std::make_unique<Rouages>(machine, etats)) {
-    griseCommandesAVenir(etats);
-}
+Session::Session(const Machine& machine) : m_rouages(std::make_unique<Rouages>(machine, etats)) {}
 
 Session::~Session() = default;
 
@@ -118,6 +115,15 @@ void Session::cmdAutresInfos_Click() {
 
 void Session::lblRealisateur_Click() {
     m_rouages->lblRealisateur();
+}
+
+void Session::cmdFichiersFilm_Click() {
+    etats.fichiers.Visible = true;
+    ++etats.fichiers.presentations;
+}
+
+void Session::Command1_Click(int indice) {
+    m_rouages->command1(indice);
 }
 
 void Session::Image1_Click() {

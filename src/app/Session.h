@@ -61,6 +61,10 @@ class Session {
     void cmdAutresInfos_Click();
     void lblRealisateur_Click();
 
+    // The window of the attached files; the indexes are those of Command1.
+    void cmdFichiersFilm_Click();
+    void Command1_Click(int indice);  // closing the window does what 3 does
+
     // Poster viewer. Key codes as in Windows; sizes and distances in twips.
     void Image1_Click();    // the sheet's poster
     void Picture1_Click();  // closing the window does the same

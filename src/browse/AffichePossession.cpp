@@ -2,6 +2,7 @@
 
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
+#include "platform/fichiers/Fichiers.h"
 
 namespace browse {
 
@@ -36,6 +37,7 @@ void AffichePossession::operator()() {
         remplit(possession);
     montrePossession(m_fiche);
     m_fiche.cmdFichiersFilm.Visible = m_film.fichiersPresents;
+    nommeLesFichiers();
 }
 
 void AffichePossession::remplit(const dao::Recordset& possession) {
@@ -54,6 +56,15 @@ void AffichePossession::remplit(const dao::Recordset& possession) {
     m_film.fichiersPresents = true;
     m_film.fichiers = fichiers;
     m_fiche.captionFichiers = m_film.titre;
+}
+
+void AffichePossession::nommeLesFichiers() {
+    m_fiche.cheminsFichiers = m_film.fichiers;
+    for (std::size_t i = 0; i < m_film.fichiers.size(); ++i) {
+        const std::string nom = fichiers::nomDeFichier(m_film.fichiers[i]);
+        m_fiche.Command1[i].Enabled = !m_film.fichiers[i].empty();
+        m_fiche.Command1[i].Caption = nom.empty() ? "Fichier " + std::to_string(i + 1) : nom;
+    }
 }
 
 void AffichePossession::videLesChamps() {

@@ -22,6 +22,7 @@ class AffichePossession {
 
   private:
     void remplit(const dao::Recordset& possession);
+    void nommeLesFichiers();
     void videLesChamps();
 
     db::Base& m_base;

@@ -30,13 +30,19 @@ struct EtatFiche {
     std::array<ecran::Bouton, 3> Command2;       // choose a file
     ecran::Bouton cmdValiderInfosPossessions, cmdRaffraichirListe;
 
-    std::string captionAffiche;   // of frmAffiche
-    std::string captionFichiers;  // of frmFichiersFilm
+    std::string captionAffiche;  // of frmAffiche
+
+    // frmFichiersFilm.
+    std::string captionFichiers;
+    std::array<ecran::Bouton, 3> Command1;       // the attached files, by their names; the fourth only closes
+    std::array<std::string, 3> cheminsFichiers;  // their whole paths
 
     EtatFiche() {
         ecran::choisit(Option1, 0);
         cmdValiderInfosPossessions.Visible = false;
         cmdFichiersFilm.Visible = false;
+        for (ecran::Bouton& fichier : Command1)
+            fichier.Enabled = false;
         Image1.Visible = false;
     }
 };

@@ -2,6 +2,8 @@
 
 #include "ui/Composition.h"
 
+#include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -9,11 +11,20 @@ namespace ui {
 
 namespace {
 
-constexpr std::size_t kFermer = 3;  // after the three files
+constexpr int kFermer = 3;  // after the three files
+constexpr int kLargeur = 380;
+
+// The button keeps its width: a long name loses its middle there, and is whole in the tip.
+QString abrege(QString nom, const QWidget& bouton) {
+    constexpr int kPlace = kLargeur - 2 * kGrand - 2 * kMoyen;
+    return bouton.fontMetrics().elidedText(nom.replace(QLatin1String("&"), QLatin1String("&&")), Qt::ElideMiddle,
+                                           kPlace);
+}
 
 }  // namespace
 
-FenetreFichiers::FenetreFichiers(const Atelier& atelier, QWidget* parent) : QWidget(parent, Qt::Window) {
+FenetreFichiers::FenetreFichiers(const Atelier& atelier, QWidget* parent)
+    : QWidget(parent, Qt::Window), m_atelier(atelier) {
     nomme(this, "frmFichiersFilm");
     auto* texte = new QLabel(
         tr("  Cette fonction permet de lancer un des fichiers associés à un titre. Elle le recherchera sur tous les "
@@ -23,16 +34,56 @@ FenetreFichiers::FenetreFichiers(const Atelier& atelier, QWidget* parent) : QWid
     boite->setContentsMargins(kGrand, kGrand, kGrand, kGrand);
     boite->setSpacing(kPetit);
     boite->addWidget(texte);
-    for (std::size_t i = 0; i < kFermer; ++i) {
-        auto* fichier = nomme(new QPushButton(tr("Fichier %1").arg(i + 1)), "Command1", i);
-        fichier->setEnabled(false);
-        boite->addWidget(fichier);
-    }
+    for (std::size_t i = 0; i < m_fichiers.size(); ++i)
+        boite->addWidget(m_fichiers[i] = boutonFichier(i));
+    boite->addSpacing(kMoyen);
     auto* fermer = nomme(new QPushButton(tr("Fermer")), "Command1", kFermer);
-    connect(fermer, &QPushButton::clicked, this, &QWidget::hide);
-    boite->addWidget(fermer);
-    atelier.liaison.apresEcriture(
-        [this, fiche = &atelier.etats().fiche] { setWindowTitle(QString::fromStdString(fiche->captionFichiers)); });
+    m_atelier.auClic(fermer, &app::Session::Command1_Click, kFermer);
+    boite->addWidget(fermer, 0, Qt::AlignRight);
+    setFixedWidth(kLargeur);
+    m_atelier.liaison.apresEcriture([this] { suisLeFilm(); });
+}
+
+QPushButton* FenetreFichiers::boutonFichier(std::size_t indice) {
+    auto* bouton = nomme(new QPushButton(tr("Fichier %1").arg(indice + 1)), "Command1", indice);
+    bouton->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    bouton->setEnabled(false);
+    m_atelier.liaison.lie(m_atelier.etats().fiche.Command1[indice], bouton);
+    m_atelier.auClic(bouton, &app::Session::Command1_Click, static_cast<int>(indice));
+    return bouton;
+}
+
+void FenetreFichiers::suisLeFilm() {
+    const browse::EtatFiche& fiche = m_atelier.etats().fiche;
+    setWindowTitle(QString::fromStdString(fiche.captionFichiers));
+    for (std::size_t i = 0; i < m_fichiers.size(); ++i) {
+        m_fichiers[i]->setToolTip(QString::fromStdString(fiche.cheminsFichiers[i]).toHtmlEscaped());
+        m_fichiers[i]->setText(abrege(QString::fromStdString(fiche.Command1[i].Caption), *m_fichiers[i]));
+    }
+    if (m_presentation != m_atelier.etats().fichiers.presentations) presente();
+    if (!m_atelier.etats().fichiers.Visible && isVisible()) hide();
+}
+
+void FenetreFichiers::presente() {
+    m_presentation = m_atelier.etats().fichiers.presentations;
+    show();
+    raise();
+    activateWindow();
+    m_fichiers[0]->setFocus(Qt::OtherFocusReason);
+}
+
+// Closed, it is only hidden; the program ends with its main window.
+void FenetreFichiers::closeEvent(QCloseEvent* evenement) {
+    if (m_atelier.commande.enCours()) return evenement->ignore();
+    m_atelier.commande.execute([this] { m_atelier.session.Command1_Click(kFermer); });
+    evenement->accept();
+}
+
+void FenetreFichiers::keyPressEvent(QKeyEvent* evenement) {
+    if (evenement->key() == Qt::Key_Escape)
+        close();
+    else
+        QWidget::keyPressEvent(evenement);
 }
 
 }  // namespace ui

@@ -124,6 +124,7 @@ QLayout* PanneauFiche::colonneAffiche() {
     connect(m_affiche, &CadreAffiche::statutClique, &m_atelier.commande,
             [a = m_atelier] { a.commande.execute([s = &a.session] { s->Label12_Click(); }); });
     m_atelier.auClic(noter, &app::Session::cmdModifieNote_Click);
+    m_atelier.auClic(fichiers, &app::Session::cmdFichiersFilm_Click);
 
     auto* boite = colonne(kMoyen);
     boite->addWidget(m_affiche);

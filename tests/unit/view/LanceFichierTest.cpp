@@ -1,0 +1,213 @@
+#include "doubles/DialoguesScript.h"
+#include "doubles/DocumentsEnregistres.h"
+#include "doubles/EcranMuet.h"
+#include "doubles/ProgrammesSimules.h"
+#include "doubles/Temoin.h"
+#include "doubles/VolumesSimules.h"
+#include "view/ChercheFichier.h"
+#include "view/Command1_Click.h"
+
+#include <gtest/gtest.h>
+
+using doubles::Temoin;
+using systeme::Lancement;
+using systeme::Ouverture;
+using Mots = std::vector<std::string>;
+
+TEST(TableExtensions, TheFirstRowThatYieldsTheExtensionGivesTheProgram) {
+    const std::string defaut = view::kLogicielParDefaut;
+    view::TableExtensions table;
+    table.lignes[0] = {"avi", "premier"};
+    table.lignes[1] = {"AVI", "second"};
+    table.lignes[2] = {"mpg/mpeg/vob", "collés"};
+    table.lignes[3] = {"mkv/ mp4/ œuf", "espacés"};
+    table.lignes[4] = {"été/ ogv", "accents"};
+    table.lignes[5] = {"ts", ""};
+    table.lignes[6] = {"iso/", "fini"};
+    const std::pair<const char*, std::string> cas[] = {
+        {"avi", "premier"}, {"AVI", "premier"}, {"mpg", defaut},    {"mpeg", defaut},   {"vob", defaut},
+        {"mkv", defaut},    {"mp4", defaut},    {"ŒUF", "espacés"}, {"OGV", "accents"}, {"ogm", defaut},
+        {"ts", defaut},     {"iso", defaut},    {"mpg/", "collés"}, {"", "fini"}};
+    for (const auto& [extension, programme] : cas)
+        EXPECT_EQ(table.logiciel(extension), programme) << extension;
+    EXPECT_EQ(view::TableExtensions().logiciel(""), defaut) << "an empty table";
+}
+
+TEST(ChercheFichier, TriesWhatFollowsTheVolumeOnEveryOther) {
+    const std::vector<systeme::Volume> volumes{
+        {"/media/eve/DISQUE A"}, {"/media/fd0", false}, {"/mnt/nas", false}, {"/srv/films"}, {"/"}};
+    const std::pair<const char*, Mots> cas[] = {
+        {R"(D:\Films\L'été.avi)",
+         {R"(/media/eve/DISQUE A/Films\L'été.avi)", R"(/srv/films/Films\L'été.avi)", R"(/Films\L'été.avi)"}},
+        {"d:a.avi", {"/media/eve/DISQUE A/a.avi", "/srv/films/a.avi", "/a.avi"}},
+        {R"(\\nas\films\a.avi)", {"/media/eve/DISQUE A/a.avi", "/srv/films/a.avi", "/a.avi"}},
+        {"/srv/films/a.avi", {"/srv/films/a.avi", "/media/eve/DISQUE A/a.avi", "/a.avi"}},
+        {"/srv/films2/a.avi",
+         {"/srv/films2/a.avi", "/media/eve/DISQUE A/srv/films2/a.avi", "/srv/films/srv/films2/a.avi"}},
+        {"/mnt/nas/a.avi", {"/media/eve/DISQUE A/a.avi", "/srv/films/a.avi", "/a.avi"}},
+        {"E:/mnt/nas/a.avi", {"/media/eve/DISQUE A/mnt/nas/a.avi", "/srv/films/mnt/nas/a.avi"}},
+        {"/run/media/eve/USB/b/a.avi",
+         {"/run/media/eve/USB/b/a.avi", "/media/eve/DISQUE A/run/media/eve/USB/b/a.avi",
+          "/srv/films/run/media/eve/USB/b/a.avi", "/b/a.avi", "/media/eve/DISQUE A/b/a.avi", "/srv/films/b/a.avi"}},
+        {"D:\\", {}},
+        {"", {}}};
+    for (const auto& [chemin, places] : cas)
+        EXPECT_EQ(view::placesPossibles(chemin, volumes), places) << chemin;
+    const Mots anciens = view::placesPossibles("/media/cdrom/b/a.avi", {{"/mnt/x"}});
+    EXPECT_EQ(anciens, (Mots{"/mnt/x/media/cdrom/b/a.avi", "/mnt/x/b/a.avi", "/mnt/x/a.avi"}));
+}
+
+namespace {
+
+class Lanceur : public testing::Test {
+  protected:
+    doubles::DialoguesScript boites;
+    doubles::DocumentsEnregistres documents;
+    doubles::EcranMuet ecran;
+    doubles::ProgrammesSimules programmes;
+    doubles::DossierTemporaire dossier;
+    view::LanceFichier lance{programmes, documents, boites, ecran};
+
+    bool document(const std::string& chemin) { return lance(chemin, false, "open", "", "", "2", false); }
+    static void attendCommande(const std::vector<systeme::Commande>& lances, const Mots& arguments,
+                               const std::string& lieu) {
+        ASSERT_EQ(lances.size(), 1u);
+        EXPECT_EQ(lances[0].arguments, arguments);
+        EXPECT_EQ(lances[0].dossier, lieu);
+    }
+};
+
+class FichiersDuFilm : public Lanceur {
+  protected:
+    view::EtatFichiers etat{true, 1};
+    browse::FilmCourant film;
+    view::TableExtensions extensions;
+    doubles::VolumesSimules volumes;
+    systeme::ProgrammesSysteme vraisProgrammes;
+    view::Command1_Click clique{etat, film, extensions, volumes, programmes, lance, boites};
+
+    void SetUp() override { volumes.volumes = {{dossier.chemin("usb")}, {dossier.chemin("disque")}}; }
+};
+
+}  // namespace
+
+TEST_F(Lanceur, OpensADocumentThroughTheDesktopAndNeverAsAProgram) {
+    const std::string script = dossier.ecrit("L'été \"52\".sh", "#!/bin/sh\n");
+    std::filesystem::permissions(script, std::filesystem::perms::owner_all);
+    EXPECT_TRUE(document("\"" + script + "\""));
+    EXPECT_TRUE(lance(script, true, "", "", "/ailleurs", "3", false));
+    EXPECT_EQ(documents.fichiers, (Mots{script, script}));
+    EXPECT_EQ(documents.dossiers, (Mots{dossier.chemin(), "/ailleurs"}));
+    EXPECT_TRUE(programmes.lances.empty() && programmes.attendus.empty());
+}
+
+TEST_F(Lanceur, TellsWhyADocumentWasNotOpened) {
+    boites.attendMsgBox("L'attente de la fin d'exécution d'un document n'est pas gérée !", dialogues::kExclamation);
+    EXPECT_FALSE(lance("/a/b.avi", false, "open", "", "", "2", true));
+    boites.attendMsgBox("Fichier /a/absent.avi inexistant !", dialogues::kCritique);
+    EXPECT_FALSE(lance("/a/absent.avi", true, "open", "", "", "2", false));
+    EXPECT_TRUE(documents.fichiers.empty());
+    const std::pair<Ouverture, std::pair<const char*, int>> cas[] = {
+        {Ouverture::SansMemoire, {"Le système manque de mémoire pour exécuter le fichier.", 16}},
+        {Ouverture::SansAssociation,
+         {"Le fichier à lancer est de type AVI mais aucune application n'est associée.", 48}},
+        {Ouverture::Echouee, {"Le fichier /a/b.avi n'a pas pu être ouvert.", 16}}};
+    for (const auto& [issue, boite] : cas) {
+        documents.issue = issue;
+        boites.attendMsgBox(boite.first, boite.second);
+        EXPECT_FALSE(document("\"/a/b.avi\""));
+    }
+}
+
+TEST_F(Lanceur, RunsAProgramWithItsParametersInItsFolder) {
+    const std::string chemin = dossier.ecrit("Le Rapatrix/Rapatrix.exe", "MZ");
+    EXPECT_TRUE(lance(dossier.chemin("le rapatrix\\rapatrix.EXE"), true, "open", "-x \"L'été $HOME\"", "", "1", false));
+    attendCommande(programmes.lances, {chemin, "-x", "L'été $HOME"}, dossier.chemin("Le Rapatrix/"));
+    EXPECT_TRUE(lance("\"" + chemin + "\" -y", false, "", "", "/tmp", "2", true));
+    attendCommande(programmes.attendus, {chemin, "-y"}, "/tmp");
+    EXPECT_TRUE(documents.fichiers.empty());
+    boites.attendMsgBox("Un guillemet n'est pas fermé dans les paramètres de " + chemin + ".", dialogues::kCritique);
+    EXPECT_FALSE(lance(chemin, false, "open", "\"oubli", "", "2", false));
+    for (const auto& [issue, fin] :
+         {std::pair(Lancement::Introuvable, " : il est introuvable."),
+          std::pair(Lancement::Interdit, " : son exécution n'est pas permise."),
+          std::pair(Lancement::PasUnProgramme, " : ce n'est pas un programme que cette machine sait exécuter."),
+          std::pair(Lancement::Echoue, ".")}) {
+        programmes.issue = issue;
+        for (const bool attente : {false, true}) {
+            boites.attendMsgBox("Le programme " + chemin + " n'a pas pu être lancé" + fin, dialogues::kCritique);
+            EXPECT_FALSE(lance(chemin, false, "open", "", "", "2", attente));
+        }
+    }
+}
+
+TEST_F(Lanceur, BreathesWhileItWaitsAndTheUserMayEndIt) {
+    const std::string chemin = dossier.chemin("dormeur.exe");
+    std::filesystem::copy_file(Temoin::programme(), chemin);
+    systeme::ProgrammesSysteme vrais;
+    view::LanceFichier reel{vrais, documents, boites, ecran};
+    const Temoin temoin;
+    EXPECT_TRUE(reel(chemin, true, "open", "finit", "", "2", true));
+    EXPECT_EQ(temoin.recu(), dossier.chemin().substr(0, dossier.chemin().size() - 1) + "\n[finit]\n");
+    ecran.souffles = 0;
+    ecran.arretApres = 3;
+    EXPECT_FALSE(reel(chemin, true, "open", "dort", "", "2", true)) << "it would never end by itself";
+    EXPECT_EQ(ecran.souffles, 3);
+    EXPECT_EQ(ecran.soufflesHorsTravail, 0);
+    EXPECT_EQ(ecran.debuts, ecran.fins);
+}
+
+TEST_F(FichiersDuFilm, AreFoundOnTheVolumeWhereTheyNowAre) {
+    film.fichiers = {R"(D:\Films\L'Été.AVI)", "/media/eve/PERDU/b/c.mkv", ""};
+    const std::string ete = dossier.ecrit("disque/films/L'été.avi", "film");
+    const std::string autre = dossier.ecrit("usb/b/c.mkv", "film");
+    for (const int indice : {0, 1, 2})
+        clique(indice);
+    EXPECT_EQ(documents.fichiers, (Mots{ete, autre})) << "the third is empty";
+    const std::string premier = dossier.ecrit("usb/Films/L'Été.AVI", "film");
+    clique(0);
+    EXPECT_EQ(documents.fichiers.back(), premier) << "the first volume wins";
+    EXPECT_TRUE(etat.Visible);
+    clique(3);
+    EXPECT_FALSE(etat.Visible);
+}
+
+TEST_F(FichiersDuFilm, WhatIsNowhereOrOnASilentVolumeOrAFolderIsNotFound) {
+    dossier.ecrit("disquette/a.avi", "film");
+    dossier.ecrit("usb/dossier.avi/x", "film");
+    volumes.volumes.push_back({dossier.chemin("disquette"), false});
+    film.fichiers = {"A:\\a.avi", dossier.chemin("usb/absent.avi"), "dossier.avi"};
+    for (const int indice : {0, 1, 2}) {
+        boites.attendMsgBox("Le fichier " + film.fichiers[static_cast<std::size_t>(indice)] + " n'a pas été trouvé !",
+                            dialogues::kCritique);
+        clique(indice);
+    }
+    EXPECT_TRUE(documents.fichiers.empty() && programmes.lances.empty());
+}
+
+TEST_F(FichiersDuFilm, OpenWithTheProgramOfTheirExtension) {
+    const std::string nom = "L'œuvre \"$(id)\" --x.avi", film1 = dossier.ecrit("usb/" + nom, "film");
+    const std::string mkv = dossier.ecrit("usb/-x.mkv", "film"), vob = dossier.ecrit("usb/a.vob", "film");
+    const std::string logiciel = dossier.ecrit("Lecteur vidéo (2)/lis moi", "programme");
+    extensions.lignes[0] = {"avi", "/usr/bin/lecteur --plein-écran '--titre=Un été'"};
+    extensions.lignes[1] = {"MKV", logiciel};
+    extensions.lignes[2] = {"vob", view::kLogicielParDefaut};
+    film.fichiers = {nom, "-x.mkv", "a.vob"};
+    for (const int indice : {0, 1, 2})
+        clique(indice);
+    ASSERT_EQ(programmes.lances.size(), 2u);
+    EXPECT_EQ(programmes.lances[0].arguments, (Mots{"/usr/bin/lecteur", "--plein-écran", "--titre=Un été", film1}));
+    EXPECT_EQ(programmes.lances[1].arguments, (Mots{logiciel, mkv})) << "a whole path, blanks included";
+    EXPECT_EQ(documents.fichiers, Mots{vob});
+
+    const Temoin temoin;
+    view::Command1_Click reel{etat, film, extensions, volumes, vraisProgrammes, lance, boites};
+    extensions.lignes[0][1] = Temoin::programme() + " -f";
+    reel(0);
+    EXPECT_TRUE(temoin.recu().ends_with("\n[-f]\n[" + film1 + "]\n"));
+    extensions.lignes[0][1] = R"(C:\Program Files\Lecteur\lecteur.exe)";
+    boites.attendMsgBox(
+        R"(Le programme C:\Program Files\Lecteur\lecteur.exe n'a pas pu être lancé : il est introuvable.)",
+        dialogues::kCritique);
+    reel(0);
+}
