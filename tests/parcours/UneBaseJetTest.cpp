@@ -51,22 +51,4 @@ TEST(UneBaseJet, NamedByTheSettingsItIsConvertedOnceAndBrowsed) {
     EXPECT_EQ(suivante.etats.liste.Label9[0].Caption, "3 titres");
 }
 
-// The base of the program folder, in whatever letters the other system named it.
-TEST(UneBaseJet, InTheProgramFolderItTakesThePlaceOfAFirstBase) {
-    const Installation installation;
-    installation.ecrit("FILMS.MDB", doubles::collectionJet(1).octets());
-    Execution execution(installation.chemin());
-    execution.boites.attendMsgBox("Le fichier " + installation.chemin("FILMS.MDB") +
-                                      " est une base Jet (Access). Voulez-vous la convertir pour l'ouvrir ?\n"
-                                      "L'original sera conservé sous le nom « FILMS (Jet).MDB ».",
-                                  dialogues::kQuestion, dialogues::kOui);
-    execution.boites.attendMsgBox(
-        "La base a été convertie.\n1 film, 1 possession, 1 affiche dans la base.\nTable non reprise : Notes "
-        "diverses.\nChamp non repris : Films.Format.\nL'original est conservé sous le nom « FILMS (Jet).MDB ».",
-        dialogues::kInformation);
-    ASSERT_TRUE(execution.demarre());
-    EXPECT_EQ(execution.etats.liste.Label9[0].Caption, "1 titre");
-    EXPECT_FALSE(installation.existe("films.mdb"));
-}
-
 }  // namespace

@@ -117,17 +117,6 @@ TEST_F(OuvertureJetTest, WhatAKilledConversionLeftServesOrGoes) {
     }
 }
 
-TEST_F(OuvertureJetTest, AnsweredNoOrStoppedItLeavesAllAsItWas) {
-    const auto avant = contenu();
-    demande(dialogues::kNon);
-    EXPECT_EQ(ouvertureJet(base), std::nullopt);
-    ecran.arretApres = 30;
-    demande(dialogues::kOui);
-    dialogues.attendMsgBox("La conversion a été arrêtée. Le fichier " + base + " n'a pas été modifié.", 64);
-    EXPECT_EQ(ouvertureJet(base), std::nullopt);
-    EXPECT_TRUE(contenu() == avant);
-}
-
 TEST_F(OuvertureJetTest, WhatStandsInTheWayIsNamed) {
     dossier.ecrit("Films.mdb-journal", "");
     refuse("Le fichier « " + base + "-journal » appartient à une autre base. Déplacez-le, puis recommencez.");
