@@ -1,8 +1,10 @@
-// mesure_listes rtf DOSSIER
+// mesure_listes rtf|texte DOSSIER
 // The lists of the owned titles of a program folder's base, made on the disk, against a floor taken in turn in the same run:
-// the text of the list built from its rows, and the finished bytes written as safely.
+// the text of the list built from its rows, and the finished bytes written as safely. The text list has a second one, whose
+// rows bare SQLite reads and orders.
 
 #include "Mesure.h"
+#include "Sqlite.h"
 #include "doubles/DocumentsEnregistres.h"
 #include "doubles/EcranMuet.h"
 #include "doubles/ProgrammesSimules.h"
@@ -10,6 +12,8 @@
 #include "export/LecteurDeFilms.h"
 #include "export/ListeDesTitres.h"
 #include "export/MiseEnForme.h"
+#include "export/TexteListe.h"
+#include "export/cmdCreerListe_Click.h"
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
 #include "view/LanceFichier.h"
@@ -29,6 +33,7 @@ class DialoguesDeListe final : public dialogues::Dialogues {
     explicit DialoguesDeListe(std::string chemin) : m_chemin(std::move(chemin)) {}
 
     int MsgBox(const std::string& texte, int style, const std::string&) override {
+        if (style == dialogues::kQuestion) return dialogues::kNon;  // a text in the order of the titles
         if (style != dialogues::kInformation) throw std::runtime_error(texte);
         return dialogues::kOk;
     }
@@ -54,11 +59,16 @@ struct Machine {
     ecran::Progression progression;
     exportation::EtatExport etatExport;
     exportation::DernierExport dernier{etatExport, lance, documents, boites};
+    exportation::EtatNom nom;
+    exportation::CreeFichierRTF creeFichierRTF{base, chemins, nom, progression, ecran, boites, dernier, lance};
+    exportation::cmdCreerListe_Click cmdCreerListe{{base, boites, ecran, progression}, creeFichierRTF, dernier, lance};
 };
 
-std::string texteDeLaListe(Machine& machine) {
-    exportation::TexteBalise texte(true);
-    dao::Recordset titres = machine.base.base.OpenRecordset(exportation::requeteListe(kClause));
+template <typename Texte>
+std::string texteDeLaListe(Machine& machine, bool parGenre) {
+    Texte texte(parGenre);
+    dao::Recordset titres =
+        machine.base.base.OpenRecordset(exportation::requeteListe(parGenre ? kClause : "titre2 asc"));
     exportation::LecteurDeFilms lecteur(titres);
     for (; !titres.Eof(); titres.MoveNext())
         texte.ajoute(*lecteur.lit());
@@ -92,32 +102,69 @@ void mesureFormatage(const std::string& texteBalise) {
 }
 
 void mesureRtf(Machine& machine) {
-    exportation::EtatNom nom;
-    exportation::CreeFichierRTF creeFichierRTF(machine.base, machine.chemins, nom, machine.progression, machine.ecran,
-                                               machine.boites, machine.dernier, machine.lance);
-    const std::string fichier = creeFichierRTF(kClause, dialogues::kOui);
+    const std::string fichier = machine.creeFichierRTF(kClause, dialogues::kOui);
     const std::string octets = fichiers::lit(fichier).value();
-    const std::string texteBalise = texteDeLaListe(machine);
+    const std::string texteBalise = texteDeLaListe<exportation::TexteBalise>(machine, true);
     bench::declare("mo", static_cast<double>(texteBalise.size()) / 1e6);
     mesureFormatage(texteBalise);
     compare(
         "rtf",
         [&] {
-            if (texteDeLaListe(machine).size() != texteBalise.size() || !fichiers::remplace(fichier, octets))
+            if (texteDeLaListe<exportation::TexteBalise>(machine, true).size() != texteBalise.size() || !fichiers::remplace(fichier, octets))
                 throw std::runtime_error("the floor failed");
         },
         [&] {
-            if (creeFichierRTF(kClause, dialogues::kOui) != fichier) throw std::runtime_error("no list was made");
+            if (machine.creeFichierRTF(kClause, dialogues::kOui) != fichier) throw std::runtime_error("no list was made");
         });
+    if (fichiers::lit(fichier).value() != octets) throw std::runtime_error("another list was made");
+}
+
+std::string texteParSqlite(const bench::Sqlite& base) {
+    bench::Enonce titres(base,
+                         "SELECT Titre, Realisateur, Genre, Annee, Rangement, Divers, Support FROM Films JOIN Personnel ON "
+                         "Titre2 = Titre AND Realisateur2 = Realisateur ORDER BY Titre2");
+    std::string texte;
+    for (long numero = 1; titres.ligne(); ++numero) {
+        texte.append(" ").append(std::to_string(numero)).append(". ");
+        for (int i = 0; i < 7; ++i)
+            (texte += '\t').append(titres.colonne(i));
+        texte += "\r\n";
+    }
+    return "Il y a des titres personnels\r\n\r\n" + texte;
+}
+
+void mesureTexte(Machine& machine, const std::string& dossier) {
+    machine.cmdCreerListe();
+    const std::string fichier = dossier + "/Liste.txt", octets = fichiers::lit(fichier).value();
+    compare(
+        "texte",
+        [&] {
+            if (texteDeLaListe<exportation::TexteListe>(machine, false) != octets || !fichiers::remplace(fichier, octets))
+                throw std::runtime_error("the floor failed");
+        },
+        [&] { machine.cmdCreerListe(); });
+    const bench::Sqlite base(dossier + "/Films.mdb");
+    compare(
+        "texte_sqlite",
+        [&] {
+            const std::size_t taille = texteParSqlite(base).size();
+            if (taille + 100 < octets.size() || taille > octets.size() + 100 || !fichiers::remplace(fichier, octets))
+                throw std::runtime_error("the floor failed");
+        },
+        [&] { machine.cmdCreerListe(); });
     if (fichiers::lit(fichier).value() != octets) throw std::runtime_error("another list was made");
 }
 
 }  // namespace
 
 int main(int nombre, char** mots) try {
-    if (nombre != 3 || std::string(mots[1]) != "rtf") throw std::invalid_argument("usage: mesure_listes rtf DOSSIER");
+    const std::string genre = nombre == 3 ? mots[1] : "";
+    if (genre != "rtf" && genre != "texte") throw std::invalid_argument("usage: mesure_listes rtf|texte DOSSIER");
     Machine machine(mots[2]);
-    mesureRtf(machine);
+    if (genre == "rtf")
+        mesureRtf(machine);
+    else
+        mesureTexte(machine, mots[2]);
     return 0;
 } catch (const std::exception& e) {
     std::cerr << "mesure_listes: " << e.what() << '\n';

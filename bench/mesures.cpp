@@ -222,26 +222,39 @@ void mesureConversion(bench::Tableau& tableau, const Options& options, int films
     compare("compaction with the posters", "compactage");
 }
 
-Figures listeDe(const Options& options, const Collection& c) {
+Figures listeDe(const Options& options, const char* genre, const Collection& c) {
     const std::string dossier = collection(options, c).string();
     std::vector<Figures> passages;
     for (int i = 0; i < (options.vite ? 1 : 3); ++i)
-        passages.push_back(bench::lance("mesure_listes", {"rtf", dossier}));
+        passages.push_back(bench::lance("mesure_listes", {genre, dossier}));
     return bench::retenues(passages);
+}
+
+void mesureListesTexte(bench::Tableau& tableau, const Options& options) {
+    std::map<int, double> durees;
+    for (const int films : {1000, 10000}) {
+        const Figures figures = listeDe(options, "texte", {films, false, 0, 0, true});
+        durees[films] = figures.at("texte");
+        tableau.ajoute({"text of " + std::to_string(films) + " titles", "ms", durees[films],
+                        figures.at("texte_plancher"), 2.5, true});
+        tableau.ajoute({"  against bare SQLite", "ms", figures.at("texte_sqlite"), figures.at("texte_sqlite_plancher"), {}});
+    }
+    tableau.ajoute({"text of 10000 titles against 1000", "ms", durees[10000], durees[1000], 11.0, true});
 }
 
 void mesureListes(bench::Tableau& tableau, const Options& options) {
     tableau.titre("lists of the owned titles");
+    mesureListesTexte(tableau, options);
     std::map<int, double> durees;
     for (const int films : {1000, 10000}) {
-        const Figures figures = listeDe(options, {films, false, 0, 0, true});
+        const Figures figures = listeDe(options, "rtf", {films, false, 0, 0, true});
         durees[films] = figures.at("rtf");
         tableau.ajoute({"RTF of " + std::to_string(films) + " titles", "ms", durees[films], figures.at("rtf_plancher"),
                         2.5, true});
         tableau.ajoute({"  formatting a megabyte", "ms", figures.at("formatage_par_mo"), {}, 10.0});
     }
     tableau.ajoute({"RTF of 10000 titles against 1000", "ms", durees[10000], durees[1000], 11.0, true});
-    const Figures figures = listeDe(options, {10000, true, 0, 0, true});
+    const Figures figures = listeDe(options, "rtf", {10000, true, 0, 0, true});
     tableau.ajoute(
         {"RTF of 10000 titles, posters in the base", "ms", figures.at("rtf"), figures.at("rtf_plancher"), 2.5, true});
 }
