@@ -1,5 +1,6 @@
 #include "platform/dao/LectureDAvance.h"
 
+#include "platform/dao/AccesValeur.h"
 #include "platform/dao/ErreurDao.h"
 
 #include <algorithm>
@@ -40,6 +41,15 @@ std::string enonce(const Table& table, const std::vector<int>& colonnes) {
     return sql.append("FROM ").append(table.nomSql()).append(" WHERE ").append(table.ligneSql).append("=?1");
 }
 
+// Into a text that has held another: most fields need no memory of their own.
+void litColonne(const Requete& lecture, int colonne, std::string& texte) {
+    const ValeurVue valeur = vueDeColonne(lecture.brute(), colonne);
+    if (valeur.genre == ValeurVue::Genre::Nombre)
+        texte = lecture.valeur(colonne).texte();
+    else
+        texte.assign(valeur.texte);
+}
+
 }  // namespace
 
 void LectureDAvance::demande(int colonne) {
@@ -78,7 +88,7 @@ void LectureDAvance::lit(long debut, const std::vector<std::optional<long long>>
         Requete lecture = connexion.prepare(sql);
         lue.presente = lignes[i] && lecture.lie(1, *lignes[i]).avance();
         for (std::size_t c = 0; lue.presente && c < m_colonnes.size(); ++c)
-            lue.textes[c] = lecture.valeur(static_cast<int>(c)).texte();
+            litColonne(lecture, static_cast<int>(c), lue.textes[c]);
     }
     m_nombre = lignes.size();
     m_debut = debut;
