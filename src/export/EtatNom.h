@@ -10,9 +10,14 @@ struct EtatNom {
 
     EtatNom() { montreLeNom(); }
     void montreLeNom() {
-        lblNom1.Caption = "Ambr";
-        lblNom2.Caption = "elis";
+        lblNom1.Caption = kDebut;
+        lblNom2.Caption = kFin;
     }
+    // The two halves are one word.
+    [[nodiscard]] bool estLeNom() const { return lblNom1.Caption == kDebut && lblNom2.Caption == kFin; }
+
+  private:
+    static constexpr const char *kDebut = "Ambr", *kFin = "elis";
 };
 
 }  // namespace exportation

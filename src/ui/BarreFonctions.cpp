@@ -43,7 +43,19 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     atelier.auClic(aide, &app::Session::cmdAide_Click);
     atelier.auClic(sortie, &app::Session::cmdStop_Click);
 
-    auto* boite = rangee({nom1, nom2}, 0);
+    // Progress shown in its place is two words, and short ones do not move what follows.
+    auto* nom = new QWidget;
+    auto* moities = rangee({nom1, nom2}, 0);
+    moities->setContentsMargins(0, 0, 0, 0);
+    moities->addStretch();
+    nom->setLayout(moities);
+    nom->setMinimumWidth(nom->sizeHint().width());
+    nom->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    atelier.liaison.apresEcriture([moities, etat = &atelier.etats().nom] {
+        moities->setSpacing(etat->estLeNom() ? 0 : kSerre);
+    });
+
+    auto* boite = rangee({nom}, 0);
     boite->setContentsMargins(kGrand, kPetit, kPetit, kPetit);
     boite->addSpacing(kPetit);
     boite->addWidget(version, 0, Qt::AlignBottom);
