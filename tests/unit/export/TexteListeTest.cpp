@@ -16,23 +16,10 @@ std::string liste(bool parGenre, const std::vector<FilmDeLaListe>& films) {
     return texte.texte();
 }
 
-FilmDeLaListe film(const char* titre, const char* realisateur, const char* genre, const char* annee,
-                   const char* rangement, const char* divers, const char* support) {
-    FilmDeLaListe resultat{};
-    resultat.titre = titre;
-    resultat.realisateur = realisateur;
-    resultat.genre = genre;
-    resultat.annee = annee;
-    resultat.rangement = rangement;
-    resultat.divers = divers;
-    resultat.support = support;
-    return resultat;
-}
-
-const FilmDeLaListe kEte =
-    film("L'Été \"violent\"", "Valerio Zurlini", "Drame", "1959", "Étagère", "a\tb", "DVD");
+const FilmDeLaListe kEte{"L'Été \"violent\"", "Valerio Zurlini", "1H40", "Drame", "1959", "Italie", "Luc", "Un été.",
+                         "Étagère", "a\tb", "DVD"};
 const FilmDeLaListe kVide{};
-const FilmDeLaListe kOeuvre = film("L'Œuvre", "Ève", "Comédie", "2001", "", "", "K7");
+const FilmDeLaListe kOeuvre{"L'Œuvre", "Ève", "", "Comédie", "2001", "", "", "", "", "", "K7"};
 
 TEST(TexteListe, NumbersTheWholeListAndShowsTheGenres) {
     EXPECT_EQ(liste(false, {kEte, kVide, kOeuvre}),
