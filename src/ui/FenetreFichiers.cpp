@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <utility>
 
 namespace ui {
 
@@ -66,6 +67,10 @@ void FenetreFichiers::suisLeFilm() {
 
 void FenetreFichiers::presente() {
     m_presentation = m_atelier.etats().fichiers.presentations;
+    if (!std::exchange(m_placee, true)) {
+        adjustSize();
+        move(parentWidget()->window()->frameGeometry().center() - rect().center());
+    }
     show();
     raise();
     activateWindow();

@@ -28,6 +28,7 @@ class FenetreFichiers final : public QWidget {
     const Atelier m_atelier;
     std::array<QPushButton*, 3> m_fichiers{};
     int m_presentation = 0;  // the last one carried out
+    bool m_placee = false;   // it has had its first place on the screen
 };
 
 }  // namespace ui

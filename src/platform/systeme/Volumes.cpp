@@ -21,15 +21,21 @@ namespace {
 
 using Temps = std::chrono::steady_clock;
 
-// In the process that asks: reads the folder itself, since a mere look at it may be answered from memory.
+constexpr unsigned kViePlusLongue = 60;  // seconds
+
+// In the process that asks: reads the folder itself, since a mere look at it may be answered from memory. As it may stay
+// behind, it keeps nothing of ours, the lock of the program folder least of all.
 [[noreturn]] void sonde(const char* racine, int reponse) {
+    alarm(kViePlusLongue);
+    dup2(reponse, STDIN_FILENO);
+    close_range(STDIN_FILENO + 1, ~0U, 0);
     std::array<char, 4096> entrees{};
     struct statfs infos {};
     const int dossier = open(racine, O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK);
     const bool vivant = dossier >= 0 && fstatfs(dossier, &infos) == 0 &&
                         syscall(SYS_getdents64, dossier, entrees.data(), entrees.size()) >= 0;
     const char signe = 1;
-    if (vivant && write(reponse, &signe, 1) != 1) _exit(1);
+    if (vivant && write(STDIN_FILENO, &signe, 1) != 1) _exit(1);
     _exit(0);
 }
 
@@ -42,6 +48,7 @@ class Question {
         m_lecture = tube[0];
         const pid_t relais = fork();
         if (relais == 0) {
+            setsid();
             const pid_t sondeur = fork();
             if (sondeur == 0) sonde(racine.c_str(), tube[1]);
             _exit(0);
