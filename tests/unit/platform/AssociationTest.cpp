@@ -33,11 +33,6 @@ class Bureau final : public testing::Environment {
     DossierTemporaire m_dossier;
 };
 
-std::string octets(const std::string& chemin) {
-    std::ifstream fichier(chemin, std::ios::binary);
-    return {std::istreambuf_iterator<char>(fichier), {}};
-}
-
 [[maybe_unused]] const testing::Environment* const kBureau = testing::AddGlobalTestEnvironment(new Bureau);
 
 }  // namespace
@@ -64,8 +59,9 @@ TEST(Association, ItsAbsenceIsToldFromAFailureAndNothingIsEverExecuted) {
     const std::pair<const char*, std::string> sansApplication[] = {
         {"a.seul", "film"},
         {"script.sh", "#!" + lance + "\n"},
-        {"programme", octets(lance)},
         {"piege.desktop", "[Desktop Entry]\nType=Application\nName=Piège\nExec=\"" + lance + "\"\n"}};
+    std::filesystem::copy_file(lance, dossier.chemin("programme"));
+    EXPECT_EQ(documents.ouvreFichier(dossier.chemin("programme"), ""), Ouverture::SansAssociation);
     for (const auto& [nom, contenu] : sansApplication) {
         const std::string chemin = dossier.ecrit(nom, contenu);
         chmod(chemin.c_str(), 0755);
