@@ -25,7 +25,7 @@ QString abrege(QString nom, const QWidget& bouton) {
 }  // namespace
 
 FenetreFichiers::FenetreFichiers(const Atelier& atelier, QWidget* parent)
-    : QWidget(parent, Qt::Window), m_atelier(atelier) {
+    : QWidget(parent, Qt::Dialog), m_atelier(atelier) {  // what window managers place over its owner
     nomme(this, "frmFichiersFilm");
     auto* texte = new QLabel(
         tr("  Cette fonction permet de lancer un des fichiers associés à un titre. Elle le recherchera sur tous les "
