@@ -38,8 +38,11 @@ void Demarrage::execute() {
     choisitTriEtZone();
     litExtensions();
     metTextesAide(m_etats.fonctions);
-    poursuit([this] { m_suites.rafraichissement.RaffraichitBoitesDeroulantes(); });
     poursuit([this] { m_suites.rafraichissement.AfficheNbTitres(); });
+}
+
+void Demarrage::acheve() {
+    poursuit([this] { m_suites.rafraichissement.RaffraichitBoitesDeroulantes(); });
 }
 
 void Demarrage::prendsInstance() {

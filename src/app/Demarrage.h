@@ -42,6 +42,8 @@ class Demarrage {
 
     // Throws systeme::FinDuProgramme at the first check that fails, after its message if it has one.
     void execute();
+    // What no page shows before the window is there, and takes its time: the drop-down lists of the holdings.
+    void acheve();
     // False when the settings file stands there and could not be read.
     [[nodiscard]] bool reglagesLus() const { return m_reglagesLus; }
 

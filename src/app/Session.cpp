@@ -56,6 +56,10 @@ void Session::Form_Load() {
     m_rouages->enMarche = true;
 }
 
+void Session::Form_Activate() {
+    m_rouages->demarrage.acheve();
+}
+
 void Session::Form_Unload() {
     if (!std::exchange(m_rouages->enMarche, false)) return;
     m_rouages->arret.execute(m_rouages->demarrage.reglagesLus());

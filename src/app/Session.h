@@ -39,8 +39,10 @@ class Session {
 
     Etats etats;
 
-    // Life of the window. Form_Load runs before it is shown. Form_Unload is the shut-down; it runs once, later calls do nothing.
+    // Life of the window. Form_Load runs before it is shown, Form_Activate once it is painted. Form_Unload is the
+    // shut-down; it runs once, later calls do nothing.
     void Form_Load();
+    void Form_Activate();
     void Form_Unload();
     void cmdStop_Click();  // shuts down, then throws FinDuProgramme
     // The layout has room for both pages of the sheet, or no longer has.

@@ -104,9 +104,10 @@ void FenetrePrincipale::completePanneaux() {
     for (QLineEdit* zone : m_droite->parentWidget()->findChildren<QLineEdit*>())
         new InfobulleEntiere(zone);
     setWindowIcon(icone(Pictogramme::Clap));
-    // The windows that follow the film. The viewer is composed when it first opens; nothing opens the other yet.
+    // The windows that follow the film. The viewer is composed when it first opens.
     new FenetreAffiche(m_atelier, this);
     new FenetreFichiers(m_atelier, this);
+    m_atelier.commande.execute([this] { m_atelier.session.Form_Activate(); });
 }
 
 void FenetrePrincipale::suitLesCommandes() {

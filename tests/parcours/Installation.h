@@ -47,6 +47,7 @@ struct Execution {
     [[nodiscard]] bool demarre() {
         try {
             session.Form_Load();
+            session.Form_Activate();
             return true;
         } catch (const systeme::FinDuProgramme&) {
             session.Form_Unload();  // what a window closed on its way out would ask for
