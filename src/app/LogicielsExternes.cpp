@@ -2,7 +2,6 @@
 
 #include "app/EnregistreExtensions.h"
 #include "platform/fichiers/Fichiers.h"
-#include "util/Texte.h"
 
 #include <algorithm>
 
@@ -119,9 +118,8 @@ std::array<std::string, 2>* LogicielsExternes::ligneChoisie() {
 }
 
 std::optional<int> LogicielsExternes::placeDe(const std::string& extension) const {
-    for (std::size_t i = 0; i < nombre(); ++i)
-        if (util::egalSansCasse(m_table.lignes[i][0], extension)) return static_cast<int>(i);
-    return std::nullopt;
+    const std::size_t ligne = m_table.ligneDe(extension);
+    return ligne < nombre() ? std::optional(static_cast<int>(ligne)) : std::nullopt;
 }
 
 std::string LogicielsExternes::refus(const std::string& extension) const {

@@ -14,7 +14,7 @@ BandeTravail::BandeTravail(const Atelier& atelier, QWidget* parent)
       m_texte(new Etiquette),
       m_progression(nomme(new QProgressBar, "ProgressBar3")),
       m_annuler(bouton("cmdAnnuler", tr("Annuler"))) {
-    m_annuler->setToolTip(tr("Arrêter après l'élément en cours ; ce qui est fait reste fait"));
+    m_annuler->setToolTip(tr("Arrêter après l'élément en cours"));
     m_progression->setAccessibleName(tr("Avancement"));
     m_progression->setTextVisible(false);
     m_progression->setFixedSize(220, 8);

@@ -33,10 +33,15 @@ bool donne(std::string_view liste, std::string_view extension) {
 
 }  // namespace
 
-std::string TableExtensions::logiciel(std::string_view extension) const {
+std::size_t TableExtensions::ligneDe(std::string_view extension) const {
     const auto ligne =
         std::find_if(lignes.begin(), lignes.end(), [&](const auto& colonnes) { return donne(colonnes[0], extension); });
-    return ligne == lignes.end() || (*ligne)[1].empty() ? kLogicielParDefaut : (*ligne)[1];
+    return static_cast<std::size_t>(ligne - lignes.begin());
+}
+
+std::string TableExtensions::logiciel(std::string_view extension) const {
+    const std::size_t ligne = ligneDe(extension);
+    return ligne == kLignes || lignes[ligne][1].empty() ? kLogicielParDefaut : lignes[ligne][1];
 }
 
 }  // namespace view

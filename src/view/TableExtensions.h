@@ -18,8 +18,9 @@ struct TableExtensions {
 
     std::array<std::array<std::string, 2>, kLignes> lignes;
 
-    // The program of the first row whose list yields that extension, in any letter case; kLogicielParDefaut where there is
-    // none, or where the row names no program.
+    // The first row whose list yields that extension, in any letter case; kLignes when there is none.
+    [[nodiscard]] std::size_t ligneDe(std::string_view extension) const;
+    // Its program; kLogicielParDefaut where there is no such row, or where it names none.
     [[nodiscard]] std::string logiciel(std::string_view extension) const;
 };
 

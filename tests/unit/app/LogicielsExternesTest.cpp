@@ -122,6 +122,8 @@ TEST_F(LogicielsExternesTest, RowsOfAnOlderFileAreKeptAsTheyStand) {
     EXPECT_EQ(liste(1).Text, kParDefaut);  // no program
     choisit(0, 1);
     EXPECT_EQ(liste(1).Text, "vlc \"a b\"");
+    refuse("MPG", "L'extension \"MPG\" est déjà dans la liste.");  // the row that serves it, whatever else it holds
+    EXPECT_EQ(liste(0).Text, "avi/ mpg");
     ajoute("avi");
     EXPECT_EQ(fichier(), "avi/ mpg\n\n. MKV \nvlc \"a b\"\n\nx\navi\n Logiciel par défaut\n");
     choisit(0, 2);
