@@ -83,10 +83,6 @@ dao::Valeur valeurDe(std::string_view champ, jet::Nature nature, const std::opti
     return nature == jet::Nature::Octets ? dao::Valeur::octets(*lue) : dao::Valeur(*lue);
 }
 
-std::string entreChevrons(std::string_view nom) {
-    return "« " + std::string(nom) + " »";
-}
-
 // One conversion under way. Throws Echec, Arret, and what the bases throw.
 class Passage {
   public:

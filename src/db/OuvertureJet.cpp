@@ -32,9 +32,6 @@ std::string fichierReel(const std::string& chemin) {
     return erreur ? chemin : reel.string();
 }
 
-std::string entreChevrons(const std::string& nom) {
-    return "« " + nom + " »";
-}
 std::string nomSeul(const std::string& chemin) {
     return fs::path(chemin).filename().string();
 }

@@ -3,6 +3,7 @@
 #include "doubles/BaseJet.h"
 #include "doubles/DialoguesScript.h"
 #include "doubles/EcranMuet.h"
+#include "doubles/Mort.h"
 #include "parcours/Photo.h"
 #include "unit/db/RafraichissementNote.h"
 #include "unit/edit/BaseDEssai.h"
@@ -12,9 +13,6 @@
 #include <map>
 
 #include <gmock/gmock.h>
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
@@ -294,20 +292,14 @@ TEST_F(AncienneBaseTest, KilledAnywhereItLosesNothing) {
     ecran::choisit(stockage.Option3, 1);
     for (const int mort : {20, lot + 10}) {
         essai.base.ferme();
-        const pid_t enfant = fork();
-        ASSERT_GE(enfant, 0);
-        if (enfant == 0) {
+        EXPECT_TRUE(doubles::meurtEnRoute([&] {
             essai.ouvre();
             ecran.pendantSouffle = [&] {
-                if (ajout.ProgressBar1.Value == mort) kill(getpid(), SIGKILL);
+                if (ajout.ProgressBar1.Value == mort) doubles::meurs();
             };
             attendChoix(ancienne.chemin());
             import.Command13_Click();
-            _exit(1);
-        }
-        int etat = 0;
-        ASSERT_EQ(waitpid(enfant, &etat, 0), enfant);
-        EXPECT_TRUE(WIFSIGNALED(etat) && WTERMSIG(etat) == SIGKILL) << etat;
+        }));
         essai.ouvre();
         EXPECT_EQ(essai.base.films.RecordCount(), mort > lot ? lot : 0);
         EXPECT_EQ(essai.base.personnel.RecordCount(), essai.base.films.RecordCount());

@@ -1,4 +1,5 @@
 #include "acquire/CompteFilmsRepertoire.h"
+#include "doubles/Mort.h"
 #include "unit/acquire/ImportDEssai.h"
 
 #include <cstdio>
@@ -6,9 +7,6 @@
 #include <filesystem>
 
 #include <gmock/gmock.h>
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
@@ -222,20 +220,14 @@ TEST_F(ImportTest, killedMidwayKeepsWholeFilmsWithTheirHoldings) {
     };
     for (const Cas& cas : {Cas{1, 0}, Cas{acquire::LotImport::kFiches, acquire::LotImport::kFiches}}) {
         essai.base.ferme();
-        const pid_t enfant = fork();
-        ASSERT_GE(enfant, 0);
-        if (enfant == 0) {
+        EXPECT_TRUE(doubles::meurtEnRoute([&] {
             essai.ouvre();
             ecran.pendantSouffle = [&] {
-                if (ajout.ProgressBar1.Value >= cas.fiche) kill(getpid(), SIGKILL);
+                if (ajout.ProgressBar1.Value >= cas.fiche) doubles::meurs();
             };
             attendQuestions(600, true, false, "DVD");
             import.cmdAjoutAuto_Click();
-            _exit(1);
-        }
-        int etat = 0;
-        ASSERT_EQ(waitpid(enfant, &etat, 0), enfant);
-        EXPECT_TRUE(WIFSIGNALED(etat) && WTERMSIG(etat) == SIGKILL) << etat;
+        }));
         essai.ouvre();
         EXPECT_EQ(nombre("Films"), cas.restent);
         EXPECT_EQ(nombre("Personnel"), cas.restent);
