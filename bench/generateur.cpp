@@ -99,7 +99,8 @@ void ecritFiches(const Demande& d, const std::optional<bench::Affiches>& affiche
 
 Demande lisDemande(int nombre, char** mots) {
     if (nombre < 4)
-        throw std::invalid_argument("usage: generateur base|fiches N CHEMIN [--affiches] [--possedes] [--depuis NUMERO]");
+        throw std::invalid_argument(
+            "usage: generateur base|fiches N CHEMIN [--affiches] [--possedes] [--depuis NUMERO]");
     Demande d{mots[1], std::stoull(mots[2]), 0, mots[3]};
     for (int i = 4; i < nombre; ++i) {
         if (std::strcmp(mots[i], "--affiches") == 0) d.affiches = true;

@@ -110,19 +110,22 @@ void mesureRtf(Machine& machine) {
     compare(
         "rtf",
         [&] {
-            if (texteDeLaListe<exportation::TexteBalise>(machine, true).size() != texteBalise.size() || !fichiers::remplace(fichier, octets))
+            if (texteDeLaListe<exportation::TexteBalise>(machine, true).size() != texteBalise.size() ||
+                !fichiers::remplace(fichier, octets))
                 throw std::runtime_error("the floor failed");
         },
         [&] {
-            if (machine.creeFichierRTF(kClause, dialogues::kOui) != fichier) throw std::runtime_error("no list was made");
+            if (machine.creeFichierRTF(kClause, dialogues::kOui) != fichier)
+                throw std::runtime_error("no list was made");
         });
     if (fichiers::lit(fichier).value() != octets) throw std::runtime_error("another list was made");
 }
 
 std::string texteParSqlite(const bench::Sqlite& base) {
-    bench::Enonce titres(base,
-                         "SELECT Titre, Realisateur, Genre, Annee, Rangement, Divers, Support FROM Films JOIN Personnel ON "
-                         "Titre2 = Titre AND Realisateur2 = Realisateur ORDER BY Titre2");
+    bench::Enonce titres(
+        base,
+        "SELECT Titre, Realisateur, Genre, Annee, Rangement, Divers, Support FROM Films JOIN Personnel ON "
+        "Titre2 = Titre AND Realisateur2 = Realisateur ORDER BY Titre2");
     std::string texte;
     for (long numero = 1; titres.ligne(); ++numero) {
         texte.append(" ").append(std::to_string(numero)).append(". ");
@@ -139,7 +142,8 @@ void mesureTexte(Machine& machine, const std::string& dossier) {
     compare(
         "texte",
         [&] {
-            if (texteDeLaListe<exportation::TexteListe>(machine, false) != octets || !fichiers::remplace(fichier, octets))
+            if (texteDeLaListe<exportation::TexteListe>(machine, false) != octets ||
+                !fichiers::remplace(fichier, octets))
                 throw std::runtime_error("the floor failed");
         },
         [&] { machine.cmdCreerListe(); });

@@ -217,8 +217,11 @@ void mesureConversion(bench::Tableau& tableau, const Options& options, int films
     };
     compare("from the base to a folder", "vers_dossier");
     compare("from the folder to the base", "vers_base");
-    tableau.ajoute({"  against no copy: files read, rows written, files removed", "ms", programme.at("vers_base"),
-                    plancher.at("vers_base_sans_copie"), {}});
+    tableau.ajoute({"  against no copy: files read, rows written, files removed",
+                    "ms",
+                    programme.at("vers_base"),
+                    plancher.at("vers_base_sans_copie"),
+                    {}});
     compare("compaction with the posters", "compactage");
 }
 
@@ -237,7 +240,8 @@ void mesureListesTexte(bench::Tableau& tableau, const Options& options) {
         durees[films] = figures.at("texte");
         tableau.ajoute({"text of " + std::to_string(films) + " titles", "ms", durees[films],
                         figures.at("texte_plancher"), 2.5, true});
-        tableau.ajoute({"  against bare SQLite", "ms", figures.at("texte_sqlite"), figures.at("texte_sqlite_plancher"), {}});
+        tableau.ajoute(
+            {"  against bare SQLite", "ms", figures.at("texte_sqlite"), figures.at("texte_sqlite_plancher"), {}});
     }
     tableau.ajoute({"text of 10000 titles against 1000", "ms", durees[10000], durees[1000], 11.0, true});
 }

@@ -59,8 +59,7 @@ bool CreeFichierRTF::ecrit(const std::string& fichier, dao::Recordset& titres, b
     return texte && m_dernierExport.ecrit(fichier, texteriche::enRtf(*texte));
 }
 
-std::optional<std::string> CreeFichierRTF::rassemble(dao::Recordset& titres, bool parGenre,
-                                                     Avancement& avancement) {
+std::optional<std::string> CreeFichierRTF::rassemble(dao::Recordset& titres, bool parGenre, Avancement& avancement) {
     const long total = titres.RecordCount();
     TexteBalise texte(parGenre);
     LecteurDeFilms lecteur(titres);

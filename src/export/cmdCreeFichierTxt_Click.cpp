@@ -7,10 +7,11 @@ namespace exportation {
 void cmdCreeFichierTxt_Click::operator()() {
     static constexpr const char* kTitre = "Créer un fichier texte";
     if (!m_film.estUnFilm()) return;
-    const std::string fichier = m_dialogues.demandeChemin({.invite = "Entrez le chemin de destination du fichier texte.",
-                                                           .titre = kTitre,
-                                                           .defaut = m_film.titre + ".txt",
-                                                           .extension = ".txt"});
+    const std::string fichier =
+        m_dialogues.demandeChemin({.invite = "Entrez le chemin de destination du fichier texte.",
+                                   .titre = kTitre,
+                                   .defaut = m_film.titre + ".txt",
+                                   .extension = ".txt"});
     if (fichier.empty() || !m_dernierExport.ecrit(fichier, texteFiche(m_film.titre, m_fiche))) return;
     m_dialogues.MsgBox("Fichier créé !", dialogues::kInformation, kTitre);
 }

@@ -10,7 +10,8 @@ BandeExport::BandeExport(const Atelier& atelier, QWidget* parent) : QWidget(pare
     auto& etat = atelier.etats().dernierExport;
     auto* texte = nomme(new Etiquette, "lblExport");
     auto* ouvrir = bouton<BoutonLien>("cmdOuvrirExport", tr("Ouvrir"), tr("Ouvrir le fichier créé"));
-    auto* dossier = bouton<BoutonLien>("cmdDossierExport", tr("Afficher le dossier"), tr("Ouvrir le dossier du fichier"));
+    auto* dossier =
+        bouton<BoutonLien>("cmdDossierExport", tr("Afficher le dossier"), tr("Ouvrir le dossier du fichier"));
     auto* fermer = bouton<BoutonLien>("cmdFermerExport", tr("Fermer"), tr("Retirer cette ligne"));
     atelier.liaison.lie(etat.lblExport, texte);
     atelier.liaison.lie(etat.cmdOuvrirExport, ouvrir);

@@ -50,8 +50,8 @@ void BandeTravail::suis(const app::Etats& etats) {
     const ecran::Progression& progression = ajout                                  ? etats.ajout.ProgressBar1
                                             : etats.fonctions.ProgressBar3.Visible ? etats.fonctions.ProgressBar3
                                                                                    : etats.fonctions.ProgressBar2;
-    m_texte->setText(QString::fromStdString(ajout ? etats.ajout.lblProgression.Caption
-                                                  : etats.fonctions.lblTravail.Caption));
+    m_texte->setText(
+        QString::fromStdString(ajout ? etats.ajout.lblProgression.Caption : etats.fonctions.lblTravail.Caption));
     m_progression->setRange(0, static_cast<int>(progression.Max));
     m_progression->setValue(static_cast<int>(progression.Value));
 }

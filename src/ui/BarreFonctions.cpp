@@ -51,9 +51,8 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     nom->setLayout(moities);
     nom->setMinimumWidth(nom->sizeHint().width());
     nom->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
-    atelier.liaison.apresEcriture([moities, etat = &atelier.etats().nom] {
-        moities->setSpacing(etat->estLeNom() ? 0 : kSerre);
-    });
+    atelier.liaison.apresEcriture(
+        [moities, etat = &atelier.etats().nom] { moities->setSpacing(etat->estLeNom() ? 0 : kSerre); });
 
     auto* boite = rangee({nom}, 0);
     boite->setContentsMargins(kGrand, kPetit, kPetit, kPetit);

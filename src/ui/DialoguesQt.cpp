@@ -143,7 +143,8 @@ std::string DialoguesQt::demandeChemin(const dialogues::DemandeChemin& demande) 
     QInputDialog boite(parent());
     compose(boite, demande.invite, demande.titre, demande.defaut);
     auto* boutons = boite.findChild<QDialogButtonBox*>();
-    auto* parcourir = boutons->addButton(QObject::tr("Parcourir…"), QDialogButtonBox::ResetRole);  // set apart from the answers
+    auto* parcourir =
+        boutons->addButton(QObject::tr("Parcourir…"), QDialogButtonBox::ResetRole);  // set apart from the answers
     parcourir->setObjectName(QStringLiteral("cmdParcourirChemin"));
     parcourir->setAutoDefault(false);  // Enter accepts what was typed
     QObject::connect(parcourir, &QPushButton::clicked, &boite, [&] {

@@ -13,11 +13,11 @@ namespace ui {
 
 namespace {
 
-constexpr qint64 kOctetsMax = 64 << 20;    // of a picture file
-constexpr qint64 kPixelsMax = 64'000'000;  // beyond, a picture is not decoded
+constexpr qint64 kOctetsMax = 64 << 20;             // of a picture file
+constexpr qint64 kPixelsMax = 64'000'000;           // beyond, a picture is not decoded
 constexpr qint64 kPixelsParcourus = 1'000'000'000;  // all scans together: a few seconds of decoding
-constexpr double kPixelsEntiere = 16e6;    // decoded for the viewer
-constexpr int kMemoireMax = 256;           // megabytes for one decoding
+constexpr double kPixelsEntiere = 16e6;             // decoded for the viewer
+constexpr int kMemoireMax = 256;                    // megabytes for one decoding
 
 bool estUnFormatDePhoto(const QByteArray& format) {
     return format == "jpeg" || format == "jpg" || format == "png" || format == "bmp" || format == "gif" ||

@@ -30,10 +30,11 @@ QMenu* menu(const Atelier& atelier, QWidget* fenetre, const char* nom, std::init
 }  // namespace
 
 MenusArbre::MenusArbre(const Atelier& atelier, QWidget* fenetre)
-    : m_film(menu(atelier, fenetre, "MenuClicDroitFilm",
-                  {{"ModifieFilm", QWidget::tr("&Modifier le film…\tF2"), &app::Session::ModifieFilm_Click},
-                   {"SupprFilm", QWidget::tr("&Supprimer le film…\tSuppr"), &app::Session::SupprFilm_Click},
-                   {"GenereFichierTxt", QWidget::tr("&Générer un fichier texte…"), &app::Session::GenereFichierTxt_Click}})),
+    : m_film(menu(
+          atelier, fenetre, "MenuClicDroitFilm",
+          {{"ModifieFilm", QWidget::tr("&Modifier le film…\tF2"), &app::Session::ModifieFilm_Click},
+           {"SupprFilm", QWidget::tr("&Supprimer le film…\tSuppr"), &app::Session::SupprFilm_Click},
+           {"GenereFichierTxt", QWidget::tr("&Générer un fichier texte…"), &app::Session::GenereFichierTxt_Click}})),
       m_support(menu(
           atelier, fenetre, "MenuClicDroitSupport",
           {{"RenommeSupportFilms", QWidget::tr("&Renommer le support…"), &app::Session::RenommeSupportFilms_Click}})),

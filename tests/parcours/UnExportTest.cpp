@@ -11,12 +11,15 @@ using testing::StartsWith;
 class UnExport : public Collectionneur {
   protected:
     void attendQuestions(int enRTF, int parGenre) {
-        demande("Souhaitez-vous créer un fichier RTF (texte riche) ?\n\nDans le cas contraire, un simple fichier texte sera "
-                "créé.",
-                enRTF);
-        demande("Souhaitez-vous trier les titres par genre ?\n\nDans le cas contraire, un simple tri alphanumérique sera "
-                "appliqué.",
-                parGenre);
+        demande(
+            "Souhaitez-vous créer un fichier RTF (texte riche) ?\n\nDans le cas contraire, un simple fichier texte "
+            "sera "
+            "créé.",
+            enRTF);
+        demande(
+            "Souhaitez-vous trier les titres par genre ?\n\nDans le cas contraire, un simple tri alphanumérique sera "
+            "appliqué.",
+            parGenre);
         execution->boites.attendInputBox(
             "Entrez le chemin et le nom du fichier à créer (sans l'extension)..\nExemple : C:\\FILMS",
             installation.chemin("Mes films"), "Créer la liste des titres");
@@ -39,9 +42,10 @@ TEST_F(UnExport, WritesTheSheetAndBothListsAndKeepsTheLastAtHand) {
                           "Été Violent.txt");
     boites.attendMsgBox("Fichier créé !", dialogues::kInformation, dialogues::kOk, "Créer un fichier texte");
     session().GenereFichierTxt_Click();
-    EXPECT_THAT(installation.lit("Été.txt"),
-                StartsWith("Été Violent\r\nde Valerio Zurlini\r\nDurée : 100\r\nProduction (1959) - Italie\r\nDrame\r\n\r\n"
-                           "\r\n\r\nAvec Acteur,Actrice\r\n-------------------\r\nRésumé :\r\n\r\nUn résumé.\r\n"));
+    EXPECT_THAT(
+        installation.lit("Été.txt"),
+        StartsWith("Été Violent\r\nde Valerio Zurlini\r\nDurée : 100\r\nProduction (1959) - Italie\r\nDrame\r\n\r\n"
+                   "\r\n\r\nAvec Acteur,Actrice\r\n-------------------\r\nRésumé :\r\n\r\nUn résumé.\r\n"));
 
     attendQuestions(dialogues::kNon, dialogues::kOui);
     boites.attendMsgBox("Le fichier texte " + installation.chemin("Mes films.txt") +
@@ -49,10 +53,12 @@ TEST_F(UnExport, WritesTheSheetAndBothListsAndKeepsTheLastAtHand) {
                             "traitement de texte.",
                         dialogues::kInformation, dialogues::kOk, "Créer la liste des titres");
     session().cmdCreerListe_Click();
-    EXPECT_EQ(installation.lit("Mes films.txt"),
-              "Il y a 4 titres personnels\r\n\r\n 1. \tSans Rien\tNon défini\t\t\t\tDVD\r\n\r\n Genre : Drame\r\n 1. \tÉté Violent\t"
-              "Valerio Zurlini\t1959\t\t\tDVD\r\n\r\n Genre : Policier\r\n 1. \tLe Cercle Rouge\tJean-Pierre Melville\t1970"
-              "\t\t\tDVD\r\n 2. \tLe Samouraï\tJean-Pierre Melville\t1967\t\t\tDVD\r\n");
+    EXPECT_EQ(
+        installation.lit("Mes films.txt"),
+        "Il y a 4 titres personnels\r\n\r\n 1. \tSans Rien\tNon défini\t\t\t\tDVD\r\n\r\n Genre : Drame\r\n 1. \tÉté "
+        "Violent\t"
+        "Valerio Zurlini\t1959\t\t\tDVD\r\n\r\n Genre : Policier\r\n 1. \tLe Cercle Rouge\tJean-Pierre Melville\t1970"
+        "\t\t\tDVD\r\n 2. \tLe Samouraï\tJean-Pierre Melville\t1967\t\t\tDVD\r\n");
 
     attendQuestions(dialogues::kOui, dialogues::kNon);
     boites.attendMsgBox("Le fichier RTF a été créé.", dialogues::kInformation);

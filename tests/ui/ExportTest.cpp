@@ -23,8 +23,7 @@ TEST(Export, TheLastFileIsOpenedFromItsLine) {
     }
     essai.clique("cmdOuvrirExport");
     essai.clique("cmdDossierExport");
-    EXPECT_EQ(essai.documents.fichiers,
-              (std::vector{essai.dossier.chemin("menu.txt"), essai.dossier.chemin()}));
+    EXPECT_EQ(essai.documents.fichiers, (std::vector{essai.dossier.chemin("menu.txt"), essai.dossier.chemin()}));
     essai.clique("cmdFermerExport");
     EXPECT_FALSE(essai.trouve("frameExport").isVisible());
 

@@ -60,8 +60,8 @@ class ProgrammeDEssai {
     }
 
     void demarre() {
-        programme.emplace(dossier.chemin(),
-                          ui::Programme::Services{&boites, &horloge, &documents, vrais ? vrais : &programmes, &volumes});
+        programme.emplace(dossier.chemin(), ui::Programme::Services{&boites, &horloge, &documents,
+                                                                    vrais ? vrais : &programmes, &volumes});
         ASSERT_TRUE(programme->demarre());
         // The panels behind the first page are built after the first painting.
         ASSERT_TRUE(QTest::qWaitFor([&] { return fenetre().findChild<QWidget*>("frameFiche") != nullptr; }));

@@ -29,7 +29,7 @@ class Jeu {
     [[nodiscard]] bool fini() const;
     [[nodiscard]] long compte();
 
-    [[nodiscard]] int rang(std::string_view nom) const;  // -1: no such field
+    [[nodiscard]] int rang(std::string_view nom) const;      // -1: no such field
     [[nodiscard]] int rangDeParcours(std::string_view nom);  // the same, for `vue` over many records
     [[nodiscard]] Valeur valeur(int rangDeChamp);
     [[nodiscard]] std::string_view vue(int rangDeChamp);  // until the next call

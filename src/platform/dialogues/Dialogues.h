@@ -12,8 +12,8 @@ inline constexpr const char* kTitre = "Ambrelis";
 
 struct DemandeFichier {
     std::string titre;
-    std::string filtre;   // "Fichiers JPEG|*.jpg"
-    std::string dossier;  // where the box opens
+    std::string filtre;      // "Fichiers JPEG|*.jpg"
+    std::string dossier;     // where the box opens
     bool peutCreer = false;  // accepts the name of a file that does not exist yet
 };
 

@@ -47,7 +47,8 @@ struct BoutonOption : Controle {
 
 template <typename Tableau>
 void choisit(Tableau& options, std::size_t indice) {
-    for (std::size_t i = 0; i < options.size(); ++i) options[i].Value = i == indice;
+    for (std::size_t i = 0; i < options.size(); ++i)
+        options[i].Value = i == indice;
 }
 
 // A drop-down list. Text and ListIndex are apart: writing Text selects nothing, and `selectionne` sets both.
@@ -78,9 +79,9 @@ struct Progression : Controle {
 
 // Where a picture stands in its frame; the picture itself is the window's (ecran::Images).
 struct Image : Controle {
-    bool vide = true;  // no picture is loaded
+    bool vide = true;                              // no picture is loaded
     int Left = 0, Top = 0, Width = 0, Height = 0;  // twips (15 are one logical pixel)
-    int numero = 0;    // rises at each load, so that the window knows a new picture from the old one
+    int numero = 0;  // rises at each load, so that the window knows a new picture from the old one
     friend bool operator==(const Image&, const Image&) = default;
 };
 

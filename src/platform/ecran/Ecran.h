@@ -49,9 +49,9 @@ class Images {
 // Asked for once by a command; the window carries it out after the command and clears it. It comes to the front already
 // before the command's next box.
 struct Demandes {
-    std::string focus;           // name of the control to give the focus to
-    std::string boutonParDefaut; // name of the button that Enter presses while it is visible and enabled
-    bool premierPlan = false;    // the window comes before those of other programs
+    std::string focus;            // name of the control to give the focus to
+    std::string boutonParDefaut;  // name of the button that Enter presses while it is visible and enabled
+    bool premierPlan = false;     // the window comes before those of other programs
 };
 
 }  // namespace ecran

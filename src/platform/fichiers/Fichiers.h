@@ -16,7 +16,7 @@ namespace fichiers {
 // of its parts (names copied from Windows). Empty when there is none.
 [[nodiscard]] std::optional<std::string> trouve(const std::string& chemin);
 
-[[nodiscard]] bool existe(const std::string& chemin);  // a file that trouve finds; a folder is none
+[[nodiscard]] bool existe(const std::string& chemin);      // a file that trouve finds; a folder is none
 [[nodiscard]] bool executable(const std::string& chemin);  // a file that may be run
 [[nodiscard]] bool dossierExiste(const std::string& chemin);
 [[nodiscard]] bool dossierModifiable(const std::string& chemin);  // files can be made and deleted in it

@@ -34,7 +34,8 @@ struct Commandes : testing::Test {
     }
     void attendQuestions(int enRTF, int parGenre) {
         boites.attendMsgBox(
-            "Souhaitez-vous créer un fichier RTF (texte riche) ?\n\nDans le cas contraire, un simple fichier texte sera "
+            "Souhaitez-vous créer un fichier RTF (texte riche) ?\n\nDans le cas contraire, un simple fichier texte "
+            "sera "
             "créé.",
             dialogues::kQuestion, enRTF);
         boites.attendMsgBox(
@@ -67,7 +68,8 @@ struct Commandes : testing::Test {
     exportation::DernierExport dernier{etat, lanceFichier, documents, boites};
     exportation::CreeFichierRTF rtf{essai.base, chemins, nom, progression, ecran, boites, dernier, lanceFichier};
     exportation::cmdCreeFichierTxt_Click cmdCreeFichierTxt{film, fiche, dernier, boites};
-    exportation::cmdCreerListe_Click cmdCreerListe{{essai.base, boites, ecran, progression}, rtf, dernier, lanceFichier};
+    exportation::cmdCreerListe_Click cmdCreerListe{
+        {essai.base, boites, ecran, progression}, rtf, dernier, lanceFichier};
 };
 
 TEST_F(Commandes, TheSheetGoesExactlyWhereTheUserSays) {

@@ -33,8 +33,7 @@ class CreeFichierRTFTest : public testing::Test, public doubles::BaseDEssai {
     ecran::Progression progression;
     exportation::EtatExport etatExport;
     exportation::DernierExport dernier{etatExport, lanceFichier, documents, boites};
-    exportation::CreeFichierRTF creeFichierRTF{base,  chemins, nom,     progression,
-                                               ecran, boites,  dernier, lanceFichier};
+    exportation::CreeFichierRTF creeFichierRTF{base, chemins, nom, progression, ecran, boites, dernier, lanceFichier};
 
     void possede(const std::string& titre, const Champs& film, const Champs& possession = {}) {
         Champs champs{{"Titre", titre}, {"Realisateur", "Ada Verrières"}};
@@ -71,7 +70,8 @@ TEST_F(CreeFichierRTFTest, TheOwnedTitlesAreWrittenAndOpened) {
     EXPECT_EQ(creeFichierRTF(kParGenre, dialogues::kOui), dossier.chemin("Été.rtf"));
     EXPECT_THAT(documents.fichiers, ElementsAre(dossier.chemin("Été.rtf")));
     EXPECT_THAT(fichiersFaits(), ElementsAre("Été.rtf"));
-    EXPECT_THAT(liste(), HasSubstr("\\pard\\qc\\f0\\b\\cf2\\fs22 - Genre : Com\\u233\\'e9die -\\b0\\cf1\\fs16\\par\r\n"));
+    EXPECT_THAT(liste(),
+                HasSubstr("\\pard\\qc\\f0\\b\\cf2\\fs22 - Genre : Com\\u233\\'e9die -\\b0\\cf1\\fs16\\par\r\n"));
     EXPECT_THAT(liste(), HasSubstr("\\cf3\\fs36 L'\\u339\\'9cuvre\\cf1\\fs16\\par\r\n"
                                    "\\pard\\qr\\fs24 de Ada Verri\\u232\\'e8res\\fs16\\par\r\n"));
     EXPECT_THAT(liste(), HasSubstr("Un r\\u233\\'e9sum\\u233\\'e9\\par\r\nsur deux lignes \"et\" \\{plus\\}"));

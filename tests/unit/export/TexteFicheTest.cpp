@@ -18,9 +18,9 @@ browse::EtatFiche fiche(const std::string& acteurs) {
 
 std::string attendu(const std::string& ligneActeurs, std::size_t filet) {
     const std::string tirets(filet, '-');
-    return "L'Été \"violent\"\r\nde Valerio Zurlini\r\nDurée : 1H40\r\n Titanus (1959) - Italie\r\nDrame\r\n\r\n\r\n\r\n" +
-           ligneActeurs + tirets +
-           "\r\nRésumé :\r\n\r\nÉté 1943.\r\nL'œuvre\r\nd'un \"maître\".\r\n\r\n\r\n" + tirets +
+    return "L'Été \"violent\"\r\nde Valerio Zurlini\r\nDurée : 1H40\r\n Titanus (1959) - "
+           "Italie\r\nDrame\r\n\r\n\r\n\r\n" +
+           ligneActeurs + tirets + "\r\nRésumé :\r\n\r\nÉté 1943.\r\nL'œuvre\r\nd'un \"maître\".\r\n\r\n\r\n" + tirets +
            "\r\nSpécifications techniques :\r\n\r\nFormat : ---x---\r\nVidéo Codec : \r\nAudio Codec : \r\n";
 }
 

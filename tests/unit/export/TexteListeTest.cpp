@@ -16,8 +16,8 @@ std::string liste(bool parGenre, const std::vector<FilmDeLaListe>& films) {
     return texte.texte();
 }
 
-const FilmDeLaListe kEte{"L'Été \"violent\"", "Valerio Zurlini", "1H40", "Drame", "1959", "Italie", "Luc", "Un été.",
-                         "Étagère", "a\tb", "DVD"};
+const FilmDeLaListe kEte{"L'Été \"violent\"", "Valerio Zurlini", "1H40", "Drame", "1959", "Italie", "Luc",
+                         "Un été.",           "Étagère",         "a\tb", "DVD"};
 const FilmDeLaListe kVide{};
 const FilmDeLaListe kOeuvre{"L'Œuvre", "Ève", "", "Comédie", "2001", "", "", "", "", "", "K7"};
 
@@ -27,8 +27,7 @@ TEST(TexteListe, NumbersTheWholeListAndShowsTheGenres) {
               " 1. \tL'Été \"violent\"\tValerio Zurlini\tDrame\t1959\tÉtagère\ta\tb\tDVD\r\n"
               " 2. \t\t\t\t\t\t\t\r\n"
               " 3. \tL'Œuvre\tÈve\tComédie\t2001\t\t\tK7\r\n");
-    EXPECT_EQ(liste(false, {kOeuvre}),
-              "Il y a 1 titre personnel\r\n\r\n 1. \tL'Œuvre\tÈve\tComédie\t2001\t\t\tK7\r\n");
+    EXPECT_EQ(liste(false, {kOeuvre}), "Il y a 1 titre personnel\r\n\r\n 1. \tL'Œuvre\tÈve\tComédie\t2001\t\t\tK7\r\n");
 }
 
 // An empty first genre has no heading, an empty one later has: it is a change like any other.

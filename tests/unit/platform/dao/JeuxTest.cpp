@@ -117,7 +117,8 @@ TEST_F(JeuxTest, AWalkReadsAheadAndFollowsEveryChange) {
         autre.assigne("Divers", "ici");
         autre.Update();
         base.OpenRecordset("SELECT * FROM Films WHERE Titre = \"252\"").Delete();
-        parUnAutreProgramme(essai.chemin, "UPDATE Films SET Resume = 'ailleurs' WHERE Titre = '254'");  // not locked out
+        parUnAutreProgramme(essai.chemin,
+                            "UPDATE Films SET Resume = 'ailleurs' WHERE Titre = '254'");  // not locked out
         (void)jeu.RecordCount();  // the time at which other programs' changes are looked for
     }
     EXPECT_TRUE(jeu.Eof());
