@@ -57,8 +57,9 @@ struct Machine {
     doubles::DocumentsEnregistres documents;
     view::LanceFichier lance{programmes, documents, boites, ecran};
     ecran::Progression progression;
-    exportation::EtatExport etatExport;
-    exportation::DernierExport dernier{etatExport, lance, documents, boites};
+    ecran::EtatAvis etatAvis;
+    ecran::Avis avis{etatAvis};
+    exportation::DernierExport dernier{avis, lance, documents, boites};
     exportation::EtatNom nom;
     exportation::CreeFichierRTF creeFichierRTF{base, chemins, nom, progression, ecran, boites, dernier, lance};
     exportation::cmdCreerListe_Click cmdCreerListe{{base, boites, ecran, progression}, creeFichierRTF, dernier, lance};

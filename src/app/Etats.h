@@ -7,8 +7,8 @@
 #include "browse/EtatRecherche.h"
 #include "db/EtatStockage.h"
 #include "edit/EtatAjout.h"
-#include "export/EtatExport.h"
 #include "export/EtatNom.h"
+#include "platform/ecran/Avis.h"
 #include "platform/ecran/Ecran.h"
 #include "view/EtatAffiche.h"
 #include "view/EtatFichiers.h"
@@ -31,7 +31,7 @@ struct Etats {
     view::EtatAffiche affiche;
     view::EtatFichiers fichiers;
     exportation::EtatNom nom;
-    exportation::EtatExport dernierExport;
+    ecran::EtatAvis avis;
     ecran::Demandes demandes;
     MenuContextuel menu = MenuContextuel::Aucun;
 };

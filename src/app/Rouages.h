@@ -52,6 +52,7 @@ struct Session::Rouages final : db::Rafraichissement {
     db::Base base;
     browse::FilmCourant film;
     TableExtensions extensions;
+    ecran::Avis avis{etats.avis};
 
     // Base.
     db::OuvertureBase ouvertureBase{base, chemins, machine.dialogues};
@@ -160,7 +161,7 @@ struct Session::Rouages final : db::Rafraichissement {
     edit::CorrectionTitres correctionTitres{base, etats.panneaux, outilsTravail, suites};
 
     // Export.
-    exportation::DernierExport dernierExport{etats.dernierExport, lanceFichier, machine.documents, machine.dialogues};
+    exportation::DernierExport dernierExport{avis, lanceFichier, machine.documents, machine.dialogues};
     exportation::cmdCreeFichierTxt_Click cmdCreeFichierTxt{film, etats.fiche, dernierExport, machine.dialogues};
     exportation::CreeFichierRTF creeFichierRTF{
         base,          chemins,           etats.nom,     etats.fonctions.ProgressBar3,

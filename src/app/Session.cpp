@@ -371,16 +371,12 @@ void Session::cmdCreerListe_Click() {
     m_rouages->cmdCreerListe();
 }
 
-void Session::cmdOuvrirExport_Click() {
-    m_rouages->dernierExport.cmdOuvrirExport_Click();
+void Session::cmdAvis_Click(int indice) {
+    m_rouages->avis.cmdAvis_Click(static_cast<std::size_t>(indice));
 }
 
-void Session::cmdDossierExport_Click() {
-    m_rouages->dernierExport.cmdDossierExport_Click();
-}
-
-void Session::cmdFermerExport_Click() {
-    m_rouages->dernierExport.cmdFermerExport_Click();
+void Session::cmdFermerAvis_Click() {
+    m_rouages->avis.retire();
 }
 
 void Session::QuittePanneau() {

@@ -128,14 +128,14 @@ class Session {
     void Command2_Click(int indice);
     void cmdRaffraichirListe_Click();
 
-    // Export: the sheet, from its button and from the tree's menu, and the list of the owned titles; then the line of the
-    // last file.
+    // Export: the sheet, from its button and from the tree's menu, and the list of the owned titles.
     void cmdCreeFichierTxt_Click();
     void GenereFichierTxt_Click();
     void cmdCreerListe_Click();
-    void cmdOuvrirExport_Click();
-    void cmdDossierExport_Click();
-    void cmdFermerExport_Click();
+
+    // The notice line: what it offers to do, and its end.
+    void cmdAvis_Click(int indice);
+    void cmdFermerAvis_Click();
 
     // Deletion: of the current film, by the sheet's button or the tree's menu, and of the ticked ones.
     void cmdSupprimerTitre_Click();

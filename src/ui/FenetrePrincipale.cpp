@@ -1,6 +1,6 @@
 #include "ui/FenetrePrincipale.h"
 
-#include "ui/BandeExport.h"
+#include "ui/BandeAvis.h"
 #include "ui/BandeTravail.h"
 #include "ui/BarreFonctions.h"
 #include "ui/Composition.h"
@@ -87,7 +87,7 @@ void FenetrePrincipale::compose() {
     boite->addWidget(new BarreFonctions(m_atelier));
     boite->addWidget(filetHorizontal());
     boite->addWidget(partage, 1);
-    boite->addWidget(new BandeExport(m_atelier));
+    boite->addWidget(new BandeAvis(m_atelier));
     boite->addWidget(new BandeTravail(m_atelier));
     connect(m_liste->titres(), &VueTitres::peinte, this,
             [this] { QTimer::singleShot(0, this, [this] { completePanneaux(); }); });

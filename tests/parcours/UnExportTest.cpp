@@ -24,7 +24,7 @@ class UnExport : public Collectionneur {
             "Entrez le chemin et le nom du fichier à créer (sans l'extension)..\nExemple : C:\\FILMS",
             installation.chemin("Mes films"), "Créer la liste des titres");
     }
-    [[nodiscard]] std::string ligne() { return etats().dernierExport.lblExport.Caption; }
+    [[nodiscard]] std::string ligne() { return etats().avis.lblAvis.Caption; }
 };
 
 // The sheet, both lists, and the line that leads back to the last of them.
@@ -33,7 +33,7 @@ TEST_F(UnExport, WritesTheSheetAndBothListsAndKeepsTheLastAtHand) {
     doubles::DialoguesScript& boites = execution->boites;
     importe(*execution, installation);
     static_cast<void>(changements());
-    EXPECT_FALSE(etats().dernierExport.frameExport.Visible);
+    EXPECT_FALSE(etats().avis.frameAvis.Visible);
 
     zone(0);
     clique(*execution, "Été Violent");
@@ -67,8 +67,8 @@ TEST_F(UnExport, WritesTheSheetAndBothListsAndKeepsTheLastAtHand) {
     EXPECT_FALSE(installation.existe("tmp.rtf"));
     EXPECT_EQ(ligne(), "Fichier créé : " + installation.chemin("Mes films.rtf"));
     EXPECT_EQ(etats().nom.lblNom1.Caption + etats().nom.lblNom2.Caption, "Ambrelis");
-    session().cmdOuvrirExport_Click();
-    session().cmdDossierExport_Click();
+    session().cmdAvis_Click(0);
+    session().cmdAvis_Click(1);
     EXPECT_THAT(execution->documents.fichiers,
                 ElementsAre(installation.chemin("Mes films.txt"), installation.chemin("Mes films.rtf"),
                             installation.chemin("Mes films.rtf"), installation.chemin()));

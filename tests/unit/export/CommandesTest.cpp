@@ -60,12 +60,13 @@ struct Commandes : testing::Test {
     doubles::DocumentsEnregistres documents;
     doubles::ProgrammesSimules programmes;
     exportation::EtatNom nom;
-    exportation::EtatExport etat;
+    ecran::EtatAvis etat;
+    ecran::Avis avis{etat};
     ecran::Progression progression;
     browse::EtatFiche fiche;
     browse::FilmCourant film;
     view::LanceFichier lanceFichier{programmes, documents, boites, ecran};
-    exportation::DernierExport dernier{etat, lanceFichier, documents, boites};
+    exportation::DernierExport dernier{avis, lanceFichier, documents, boites};
     exportation::CreeFichierRTF rtf{essai.base, chemins, nom, progression, ecran, boites, dernier, lanceFichier};
     exportation::cmdCreeFichierTxt_Click cmdCreeFichierTxt{film, fiche, dernier, boites};
     exportation::cmdCreerListe_Click cmdCreerListe{
@@ -78,26 +79,25 @@ TEST_F(Commandes, TheSheetGoesExactlyWhereTheUserSays) {
     boites.attendMsgBox("Fichier créé !", dialogues::kInformation, dialogues::kOk, "Créer un fichier texte");
     cmdCreeFichierTxt();
     EXPECT_EQ(dossier.lit("Été.fiche"), exportation::texteFiche(film.titre, fiche));
-    EXPECT_EQ(etat.lblExport.Caption, "Fichier créé : " + dossier.chemin("Été.fiche"));
-    dernier.cmdOuvrirExport_Click();
-    dernier.cmdDossierExport_Click();
+    EXPECT_EQ(etat.lblAvis.Caption, "Fichier créé : " + dossier.chemin("Été.fiche"));
+    avis.cmdAvis_Click(0);
+    avis.cmdAvis_Click(1);
     EXPECT_THAT(documents.fichiers, ElementsAre(dossier.chemin("Été.fiche"), dossier.chemin()));
-    dernier.cmdFermerExport_Click();
-    EXPECT_FALSE(etat.frameExport.Visible);
     documents.issue = systeme::Ouverture::SansAssociation;
     boites.attendMsgBox("Le dossier " + dossier.chemin() + " n'a pas pu être ouvert.", dialogues::kExclamation);
-    dernier.cmdDossierExport_Click();
+    avis.cmdAvis_Click(1);
+    EXPECT_TRUE(etat.frameAvis.Visible);
 }
 
 TEST_F(Commandes, ASheetWithoutANameOrAPlaceBringsNoMoreBox) {
     attendFiche("");
     cmdCreeFichierTxt();
-    EXPECT_FALSE(etat.frameExport.Visible);
+    EXPECT_FALSE(etat.frameAvis.Visible);
     dossier.ecrit("x/y.txt", "avant");
     attendFiche(dossier.chemin("x"));
     cmdCreeFichierTxt();
-    EXPECT_EQ(etat.lblExport.Caption, "Le fichier " + dossier.chemin("x") + " n'a pas pu être écrit.");
-    EXPECT_FALSE(etat.cmdOuvrirExport.Visible || etat.cmdDossierExport.Visible);
+    EXPECT_EQ(etat.lblAvis.Caption, "Le fichier " + dossier.chemin("x") + " n'a pas pu être écrit.");
+    EXPECT_FALSE(etat.cmdAvis[0].Visible || etat.cmdAvis[1].Visible);
     EXPECT_EQ(dossier.lit("x/y.txt"), "avant");
     film = {};
     cmdCreeFichierTxt();  // no film is shown: nothing to write
@@ -144,7 +144,7 @@ TEST_F(Commandes, TheListRefusesInItsOrderAndReplacesNothingByHalf) {
     cmdCreerListe();  // stopped
     ecran.arretApres = 0;
     EXPECT_EQ(dossier.lit("liste.txt"), "avant");
-    EXPECT_FALSE(etat.frameExport.Visible || progression.Visible);
+    EXPECT_FALSE(etat.frameAvis.Visible || progression.Visible);
     std::filesystem::create_directory(dossier.chemin("dossier.txt"));
     attendQuestions(kNon, kNon);
     attendNom(dossier.chemin("dossier"));

@@ -31,8 +31,9 @@ class CreeFichierRTFTest : public testing::Test, public doubles::BaseDEssai {
     db::Chemins chemins = db::Chemins::depuis(dossier.chemin(""));
     exportation::EtatNom nom;
     ecran::Progression progression;
-    exportation::EtatExport etatExport;
-    exportation::DernierExport dernier{etatExport, lanceFichier, documents, boites};
+    ecran::EtatAvis etatAvis;
+    ecran::Avis avis{etatAvis};
+    exportation::DernierExport dernier{avis, lanceFichier, documents, boites};
     exportation::CreeFichierRTF creeFichierRTF{base, chemins, nom, progression, ecran, boites, dernier, lanceFichier};
 
     void possede(const std::string& titre, const Champs& film, const Champs& possession = {}) {

@@ -1,0 +1,42 @@
+#include "ui/BandeAvis.h"
+
+#include "ui/Boutons.h"
+#include "ui/Composition.h"
+
+#include <QAccessible>
+
+namespace ui {
+
+BandeAvis::BandeAvis(const Atelier& atelier, QWidget* parent)
+    : QWidget(parent), m_etat(atelier.etats().avis), m_texte(nomme(new Etiquette, "lblAvis")) {
+    nomme(this, "frameAvis");
+    auto& etat = atelier.etats().avis;
+    atelier.liaison.lie(etat.lblAvis, static_cast<Etiquette*>(m_texte));
+    auto* ligne = rangee({m_texte}, kGrand);
+    for (std::size_t i = 0; i < etat.cmdAvis.size(); ++i) {
+        auto* action = nomme(new BoutonLien, "cmdAvis", i);
+        atelier.liaison.lie(etat.cmdAvis[i], action);
+        atelier.auClic(action, &app::Session::cmdAvis_Click, static_cast<int>(i));
+        ligne->addWidget(action);
+    }
+    auto* fermer = bouton<BoutonLien>("cmdFermerAvis", tr("Fermer"), tr("Retirer cette ligne"));
+    atelier.auClic(fermer, &app::Session::cmdFermerAvis_Click);
+    ligne->addWidget(fermer);
+    ligne->setContentsMargins(kGrand, kPetit, kGrand, kPetit);
+    ligne->setStretch(0, 1);
+    auto* boite = colonne(0);
+    boite->addWidget(filetHorizontal());
+    boite->addLayout(ligne);
+    setLayout(boite);
+    atelier.liaison.lie(etat.frameAvis, this);
+    atelier.liaison.apresEcriture([this] { annonce(); });
+}
+
+void BandeAvis::annonce() {
+    if (m_annonce == m_etat.numero) return;
+    m_annonce = m_etat.numero;
+    QAccessibleEvent evenement(m_texte, QAccessible::Alert);
+    QAccessible::updateAccessibility(&evenement);
+}
+
+}  // namespace ui
