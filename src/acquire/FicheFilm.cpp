@@ -23,14 +23,42 @@ std::string_view ligneSuivante(std::string_view texte, std::size_t& position) {
     return texte.substr(debut, fin - debut);
 }
 
-// The lines that count, decoded together: what follows them says nothing of their encoding.
-std::string texteUtile(std::string_view octets) {
+std::string_view lignesUtiles(std::string_view texte) {
     std::size_t fin = 0;
     for (std::size_t i = 0; i < kNombreLignes; ++i)
-        (void)ligneSuivante(octets, fin);
-    std::string texte(octets.substr(0, fin));
+        (void)ligneSuivante(texte, fin);
+    return texte.substr(0, fin);
+}
+
+// A sign of control that neither ends nor indents a line: a text holds one by accident only.
+bool estDuBruit(char octet) {
+    static constexpr std::string_view kAdmis("\0\t\n\r\f\v\x1A", 7);
+    return static_cast<unsigned char>(octet) < 0x20 && kAdmis.find(octet) == std::string_view::npos;
+}
+
+std::size_t compte(std::string_view texte, std::string_view cherche) {
+    std::size_t nombre = 0;
+    for (std::size_t i = texte.find(cherche); i != std::string_view::npos; i = texte.find(cherche, i + cherche.size()))
+        ++nombre;
+    return nombre;
+}
+
+// A few strange signs do not make a text another thing. `octets` are UTF-8 where they come from wider characters; then
+// what no character is, and the signs of private use (U+E000 to U+EFFF, that EE begins), are strange too.
+bool estUnTexte(std::string_view octets, bool larges) {
+    const auto nuls = static_cast<std::size_t>(std::count(octets.begin(), octets.end(), '\0'));
+    auto bruits = static_cast<std::size_t>(std::count_if(octets.begin(), octets.end(), estDuBruit));
+    if (larges) bruits += compte(octets, "\uFFFD") + compte(octets, "\xEE");
+    return nuls * 3 <= octets.size() && (bruits <= 2 || bruits * 50 <= octets.size());
+}
+
+// The lines that count, decoded together: what follows them says nothing of their encoding.
+std::optional<std::string> texteUtile(std::string_view octets) {
+    const auto large = util::decodeTexteLarge(octets);
+    std::string texte(lignesUtiles(large ? std::string_view(*large) : octets));
+    if (!estUnTexte(texte, large.has_value())) return std::nullopt;
     std::erase(texte, '\0');
-    return util::decodeTexteExterne(texte);
+    return large ? texte : util::decodeTexteExterne(texte);
 }
 
 std::string ouNonDefini(std::string texte) {
@@ -39,12 +67,13 @@ std::string ouNonDefini(std::string texte) {
 
 }  // namespace
 
-FicheFilm analyseFiche(std::string_view octets) {
-    const std::string texte = texteUtile(octets);
+std::optional<FicheFilm> analyseFiche(std::string_view octets) {
+    const auto texte = texteUtile(octets);
+    if (!texte) return std::nullopt;
     std::size_t position = 0;
     std::array<std::string_view, kNombreLignes> lignes;
     for (std::string_view& ligne : lignes)
-        ligne = ligneSuivante(texte, position);
+        ligne = ligneSuivante(*texte, position);
     FicheFilm fiche;
     fiche.premiereLigne = util::coupe(lignes[0], edit::kLongueurTitre);
     fiche.titre = ouNonDefini(util::metEnCapitales(fiche.premiereLigne));

@@ -17,11 +17,11 @@ struct FicheFilm {
     std::string annee, origine, genre, duree, acteurs, resume, production;
 };
 
-// Reads the text of a sheet: UTF-8 or Windows-1252, lines ended by CR LF, LF or CR. Missing lines are empty, later ones
-// ignored; NULs, which no column can hold, are dropped.
-[[nodiscard]] FicheFilm analyseFiche(std::string_view octets);
+// Reads the text of a sheet: UTF-8, UTF-16, UTF-32 or Windows-1252, lines ended by CR LF, LF or CR. Missing lines are
+// empty, later ones ignored; NULs, which no column can hold, are dropped. Nothing when the bytes are no text.
+[[nodiscard]] std::optional<FicheFilm> analyseFiche(std::string_view octets);
 
-// Nothing when the file cannot be read, or is too large to be a sheet.
+// Nothing when the file cannot be read, is no text, or is too large to be a sheet.
 [[nodiscard]] std::optional<FicheFilm> litFiche(const std::string& chemin);
 
 }  // namespace acquire

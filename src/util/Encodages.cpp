@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 #include <unicode/normalizer2.h>
 #include <unicode/unistr.h>
@@ -15,6 +16,9 @@ namespace {
 constexpr std::string_view kMarqueUtf8 = "\xEF\xBB\xBF";
 constexpr std::string_view kMarqueUtf16Petit = "\xFF\xFE";
 constexpr std::string_view kMarqueUtf16Grand = "\xFE\xFF";
+constexpr std::string_view kMarqueUtf32Petit("\xFF\xFE\0\0", 4);
+constexpr std::string_view kMarqueUtf32Grand("\0\0\xFE\xFF", 4);
+constexpr UChar32 kRemplacement = 0xFFFD;  // where the bytes say no character
 
 // Windows-1252 from 80 to 9F; the five bytes it leaves unused stand for themselves.
 constexpr std::array<char16_t, 32> k1252 = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
@@ -62,10 +66,42 @@ std::string depuisUtf16(std::string_view octets, bool petitDabord) {
             ajoutePoint(texte, U16_GET_SUPPLEMENTARY(premiere, unite(i + 2)));
             i += 2;
         } else {
-            ajoutePoint(texte, 0xFFFD);
+            ajoutePoint(texte, kRemplacement);
         }
     }
     return texte + depuis1252(octets.substr(i));  // an odd last byte is not lost
+}
+
+std::string depuisUtf32(std::string_view octets, bool petitDabord) {
+    std::string texte;
+    for (std::size_t i = 0; i + 3 < octets.size(); i += 4) {
+        std::uint32_t point = 0;
+        for (std::size_t rang = 0; rang < 4; ++rang)
+            point = point << 8 | static_cast<unsigned char>(octets[i + (petitDabord ? 3 - rang : rang)]);
+        const bool existe = point <= 0x10FFFF && !U_IS_SURROGATE(point);
+        ajoutePoint(texte, existe ? static_cast<UChar32>(point) : kRemplacement);
+    }
+    return texte;
+}
+
+std::optional<std::string> decodeSelonLaMarque(std::string_view octets) {
+    if (octets.starts_with(kMarqueUtf32Petit)) return depuisUtf32(octets.substr(4), true);
+    if (octets.starts_with(kMarqueUtf32Grand)) return depuisUtf32(octets.substr(4), false);
+    if (octets.starts_with(kMarqueUtf16Petit)) return depuisUtf16(octets.substr(2), true);
+    if (octets.starts_with(kMarqueUtf16Grand)) return depuisUtf16(octets.substr(2), false);
+    return std::nullopt;
+}
+
+// Of a text without a mark: the alphabets of Europe leave one byte of nearly every pair at zero.
+std::optional<bool> petitDabordSansMarque(std::string_view octets) {
+    const std::string_view debut = octets.substr(0, std::min<std::size_t>(octets.size() & ~std::size_t{1}, 4096));
+    std::array<std::size_t, 2> nuls{};
+    for (std::size_t i = 0; i < debut.size(); ++i)
+        nuls[i % 2] += debut[i] == 0 ? 1 : 0;
+    const auto [premiers, seconds] = nuls;
+    if (seconds * 4 > debut.size() && premiers * 20 < debut.size()) return true;
+    if (premiers * 4 > debut.size() && seconds * 20 < debut.size()) return false;
+    return std::nullopt;
 }
 
 }  // namespace
@@ -103,9 +139,14 @@ std::string vers1252(std::string_view texte) {
 
 std::string decodeTexteExterne(std::string_view octets) {
     if (octets.starts_with(kMarqueUtf8)) return std::string(octets.substr(kMarqueUtf8.size()));
-    if (octets.starts_with(kMarqueUtf16Petit)) return depuisUtf16(octets.substr(2), true);
-    if (octets.starts_with(kMarqueUtf16Grand)) return depuisUtf16(octets.substr(2), false);
+    if (const auto large = decodeSelonLaMarque(octets)) return *large;
     return estUtf8(octets) ? std::string(octets) : depuis1252(octets);
+}
+
+std::optional<std::string> decodeTexteLarge(std::string_view octets) {
+    if (auto marque = decodeSelonLaMarque(octets)) return marque;
+    if (const auto petitDabord = petitDabordSansMarque(octets)) return depuisUtf16(octets, *petitDabord);
+    return std::nullopt;
 }
 
 }  // namespace util

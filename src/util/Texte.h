@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,7 +34,10 @@ namespace util {
 [[nodiscard]] std::string depuis1252(std::string_view octets);
 [[nodiscard]] std::string vers1252(std::string_view texte);
 // A text of the outside world: UTF-8 when it starts with a byte order mark (which is dropped) or is valid UTF-8 with
-// characters beyond ASCII; otherwise Windows-1252.
+// characters beyond ASCII; UTF-16 or UTF-32 with their mark; otherwise Windows-1252.
 [[nodiscard]] std::string decodeTexteExterne(std::string_view octets);
+// A text of two or four bytes to the character: UTF-16 or UTF-32 with their mark, or UTF-16 that shows by its zero
+// bytes. U+FFFD stands where the bytes say no character. Nothing for a text of any other kind.
+[[nodiscard]] std::optional<std::string> decodeTexteLarge(std::string_view octets);
 
 }  // namespace util

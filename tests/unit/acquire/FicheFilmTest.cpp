@@ -12,7 +12,7 @@ namespace {
 using namespace std::string_literals;
 
 TEST(FicheFilm, readsNineLinesByPosition) {
-    const acquire::FicheFilm fiche = acquire::analyseFiche(
+    const acquire::FicheFilm fiche = *acquire::analyseFiche(
         "le PARRAIN II\r\nFrancis Ford Coppola\r\n1974\r\nUSA\r\nDrame\r\n3H20\r\nAl "
         "Pacino\r\nSuite.\r\nParamount\r\nx\r\n");
     EXPECT_EQ(fiche.premiereLigne, "le PARRAIN II");
@@ -55,12 +55,44 @@ TEST(FicheFilm, carriesHostileTextsThrough) {
              Cas{"lines of 5 MB", std::string(5 << 20, 'a') + "\n" + std::string(5 << 20, 'b') + "\n19999",
                  "A" + std::string(99, 'a'), std::string(100, 'b'), "1999"},
          }) {
-        const acquire::FicheFilm fiche = acquire::analyseFiche(cas.octets);
+        const acquire::FicheFilm fiche = acquire::analyseFiche(cas.octets).value_or(acquire::FicheFilm());
         EXPECT_EQ(fiche.titre, cas.titre) << cas.nom;
         EXPECT_EQ(fiche.realisateur, cas.realisateur) << cas.nom;
         EXPECT_EQ(fiche.annee, cas.annee) << cas.nom;
     }
-    EXPECT_EQ(acquire::analyseFiche("\n\n\n\n\n\n\n" + std::string(5 << 20, 'r')).resume.size(), 5u << 20);
+    EXPECT_EQ(acquire::analyseFiche("\n\n\n\n\n\n\n" + std::string(5 << 20, 'r'))->resume.size(), 5u << 20);
+}
+
+// The same nine lines whatever the width of their characters; a mark says it, or the zero bytes.
+TEST(FicheFilm, readsCharactersOfTwoAndFourBytes) {
+    const std::u32string lignes = U"l'ÉTÉ\r\nAndré œuvre\r\n1983\r\nFrance\r\nDrame\r\n1H30\r\nA\r\nUn été.\r\nUGC\r\n";
+    const auto ecrit = [&](const std::string& marque, int octets, bool petitDabord) {
+        std::string texte = marque;
+        for (const char32_t point : lignes)
+            for (int rang = 0; rang < octets; ++rang)
+                texte += static_cast<char>(point >> (petitDabord ? rang : octets - 1 - rang) * 8);
+        return texte;
+    };
+    for (const std::string& octets :
+         {ecrit("\xFF\xFE", 2, true), ecrit("\xFE\xFF", 2, false), ecrit("", 2, true), ecrit("", 2, false),
+          ecrit("\xFF\xFE\0\0"s, 4, true), ecrit("\0\0\xFE\xFF"s, 4, false)}) {
+        const acquire::FicheFilm fiche = acquire::analyseFiche(octets).value_or(acquire::FicheFilm());
+        EXPECT_EQ(fiche.titre + "|" + fiche.realisateur + "|" + fiche.resume + "|" + fiche.production,
+                  "L'Été|André œuvre|Un été.|UGC");
+    }
+}
+
+TEST(FicheFilm, takesNoNoiseForASheet) {
+    std::string tousLesOctets;
+    for (int i = 0; i < 2048; ++i)
+        tousLesOctets += static_cast<char>(i * 7);
+    for (const std::string& bruit :
+         {"\x7F"
+          "ELF\2\1\1\0\0\0\0\0\0\0\0\0"s,
+          "\xFF\xD8\xFF\xE0\0\x10JFIF\0\1\1\1\0H\0H"s, "PK\3\4\x14\0\0\0\x08\0"s, std::string(240, '\0'), tousLesOctets,
+          "\xFF\xFE" + tousLesOctets, "\xFF\xFE\0\0"s + tousLesOctets})
+        EXPECT_FALSE(acquire::analyseFiche(bruit)) << bruit.substr(0, 8);
+    EXPECT_TRUE(acquire::analyseFiche("Alien\nR\n\n\n\n\n\nUn\x1Fr\xE9sum\xE9\x1E venu d'ailleurs.\n"));
 }
 
 TEST(RapportImport, tellsOnlyWhatThereIs) {

@@ -129,7 +129,12 @@ TEST(Encodages, OutsideTextIsReadAsWhatItIs) {
                {"\xFE\xFF\0\xC9\xD8\x3D\0t"s, "É\uFFFDt"},
                {"\xFF\xFE"
                 "a\0\xE9"s,
-                "aé"}};
+                "aé"},
+               {"\xFF\xFE\0\0\xC9\0\0\0\0\xF6\1\0\0\0\x11\0"s, "É😀\uFFFD"},
+               {"\0\0\xFE\xFF\0\0\0\xC9\0\0\xD8\0"s, "É\uFFFD"}};
     for (const auto& c : cas)
         EXPECT_EQ(util::decodeTexteExterne(c.octets), c.texte);
+    EXPECT_EQ(util::decodeTexteLarge("\xC9\0t\0\xE9\0\x53\x01"s), "Étéœ");
+    EXPECT_EQ(util::decodeTexteLarge("\0\xC9\0t\0\xE9"s), "Été");
+    EXPECT_EQ(util::decodeTexteLarge("a\0bc"s), std::nullopt);
 }
