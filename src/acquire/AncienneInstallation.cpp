@@ -1,9 +1,11 @@
 #include "acquire/AncienneInstallation.h"
 
+#include "platform/fichiers/CheminTape.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/NomsFichiers.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -15,6 +17,7 @@ namespace {
 constexpr const char* kReglages = "Ambrelis.ini";
 constexpr std::size_t kLigneImages = 2;
 constexpr std::size_t kLigneBase = 6;
+constexpr std::int64_t kTailleMaxReglages = 1 << 20;  // bytes
 constexpr std::string_view kSeparateurs = "/\\";
 
 std::string ligne(const std::vector<std::string>& lignes, std::size_t numero) {
@@ -45,18 +48,36 @@ std::optional<std::string> nomme(const std::string& dossier, std::string_view ch
     return std::nullopt;
 }
 
-std::string cherche(const std::string& dossier, const std::string& nommee, const char* habituelle, Examen examen) {
-    if (const auto trouve = nomme(dossier, nommee, examen)) return *trouve;
-    return siCEstLui(dossier + habituelle, examen).value_or("");
+// An ordinary file: a pipe would never end.
+bool estUnFichier(const std::string& chemin) {
+    return fichiers::longueur(chemin) >= 0;
+}
+
+struct Recherche {
+    std::string trouve;
+    std::string absent;  // what was named, and is not there
+};
+
+Recherche cherche(const std::string& dossier, const std::string& nommee, const char* habituelle, Examen examen) {
+    if (nommee.empty()) return {siCEstLui(dossier + habituelle, examen).value_or(""), ""};
+    if (const auto trouve = nomme(dossier, fichiers::cheminTape(nommee, ""), examen)) return {*trouve, ""};
+    return {"", nommee};
+}
+
+// None where there is no such file, or a file that no program has written.
+std::vector<std::string> reglages(const std::string& chemin) {
+    if (fichiers::longueur(chemin) > kTailleMaxReglages) return {};
+    return fichiers::litLignes(chemin, kLigneBase).value_or(std::vector<std::string>());
 }
 
 }  // namespace
 
 AncienneInstallation AncienneInstallation::dans(const std::string& dossier) {
     const std::string racine = util::avecSeparateur(dossier);
-    const auto reglages = fichiers::litLignes(racine + kReglages, kLigneBase).value_or(std::vector<std::string>());
-    return {cherche(racine, ligne(reglages, kLigneBase), "Films.mdb", fichiers::existe),
-            util::avecSeparateur(cherche(racine, ligne(reglages, kLigneImages), "Images", fichiers::dossierExiste))};
+    const std::vector<std::string> lignes = reglages(racine + kReglages);
+    const Recherche base = cherche(racine, ligne(lignes, kLigneBase), "Films.mdb", estUnFichier);
+    const Recherche images = cherche(racine, ligne(lignes, kLigneImages), "Images", fichiers::dossierExiste);
+    return {base.trouve, util::avecSeparateur(images.trouve), base.absent, images.absent};
 }
 
 }  // namespace acquire

@@ -3,6 +3,7 @@
 #include "acquire/CopieAncienneBase.h"
 #include "acquire/ProgressionVisible.h"
 #include "platform/fichiers/Fichiers.h"
+#include "util/NomsFichiers.h"
 
 #include <filesystem>
 #include <system_error>
@@ -45,6 +46,18 @@ Bilan reprend(const OutilsAncienne& outils, const AncienneInstallation& ancienne
     }
 }
 
+// The same folder, or the same file, by whatever names.
+bool memes(const std::string& a, const std::string& b) {
+    std::error_code ignoree;
+    return std::filesystem::equivalent(a, b, ignoree);
+}
+
+// What is imported, in two lines.
+std::string origine(const AncienneInstallation& ancienne) {
+    const std::string images = ancienne.dossierImages.empty() ? "aucun dossier" : ancienne.dossierImages;
+    return "Base importée : " + ancienne.base + "\nImages importées : " + images;
+}
+
 }  // namespace
 
 void ImportAncienneBase::Command13_Click() {
@@ -63,20 +76,59 @@ std::optional<AncienneInstallation> ImportAncienneBase::choisit() {
     const std::string dossier = m_outils.dialogues.choisitDossier("Dossier de la précédente version", m_dernierDossier);
     if (dossier.empty()) return std::nullopt;
     m_dernierDossier = dossier;
-    const AncienneInstallation ancienne = AncienneInstallation::dans(dossier);
-    const auto memes = [](const std::string& a, const std::string& b) {
-        std::error_code ignoree;
-        return std::filesystem::equivalent(a, b, ignoree);
-    };
-    if (memes(dossier, m_outils.chemins.dossier))
+    if (memes(dossier, m_outils.chemins.dossier)) {
         refuse("Le dossier " + dossier + " est celui d'Ambrelis : choisissez celui de la version précédente.");
-    else if (ancienne.base.empty())
-        refuse("Aucune base de données n'a été trouvée dans le dossier " + dossier + ".");
-    else if (memes(ancienne.base, m_outils.base.base.nom()))
-        refuse("La base " + ancienne.base + " est celle qui est ouverte : il n'y a rien à importer.");
-    else
-        return ancienne;
-    return std::nullopt;
+        return std::nullopt;
+    }
+    AncienneInstallation ancienne = AncienneInstallation::dans(dossier);
+    if (!indiqueBase(ancienne)) return std::nullopt;
+    if (const std::string refusee = refus(ancienne); !refusee.empty()) {
+        refuse(refusee);
+        return std::nullopt;
+    }
+    indiqueImages(ancienne);
+    return confirme(ancienne) ? std::optional(ancienne) : std::nullopt;
+}
+
+// False when the user leaves it there.
+bool ImportAncienneBase::indiqueBase(AncienneInstallation& ancienne) {
+    if (ancienne.baseAbsente.empty()) return true;
+    if (m_outils.dialogues.MsgBox(
+            "La base " + ancienne.baseAbsente +
+                ", que nomment les réglages de cette version, n'a pas été trouvée.\nSouhaitez-vous "
+                "indiquer où elle se trouve ?",
+            dialogues::kQuestion) != dialogues::kOui)
+        return false;
+    ancienne.base = m_outils.dialogues.choisitFichier(
+        {"Base de la précédente version", "Fichiers de base de données|*.mdb", m_dernierDossier, false});
+    return !ancienne.base.empty();
+}
+
+// Without it the posters stay named as they are: a second import finds them.
+void ImportAncienneBase::indiqueImages(AncienneInstallation& ancienne) {
+    if (ancienne.imagesAbsentes.empty()) return;
+    if (m_outils.dialogues.MsgBox(
+            "Le dossier des images " + ancienne.imagesAbsentes +
+                ", que nomment les réglages de cette version, n'a pas été trouvé.\nSouhaitez-vous "
+                "indiquer où il se trouve ?",
+            dialogues::kQuestion) == dialogues::kOui)
+        ancienne.dossierImages = util::avecSeparateur(
+            m_outils.dialogues.choisitDossier("Dossier des images de la précédente version", m_dernierDossier));
+}
+
+// Why it cannot be imported; empty when it can.
+std::string ImportAncienneBase::refus(const AncienneInstallation& ancienne) const {
+    if (ancienne.base.empty())
+        return "Aucune base de données n'a été trouvée dans le dossier " + m_dernierDossier + ".";
+    if (fichiers::longueur(ancienne.base) < 0) return "Le fichier indiqué est inexistant !";
+    if (memes(ancienne.base, m_outils.base.base.nom()))
+        return "La base " + ancienne.base + " est celle qui est ouverte : il n'y a rien à importer.";
+    return "";
+}
+
+bool ImportAncienneBase::confirme(const AncienneInstallation& ancienne) {
+    return m_outils.dialogues.MsgBox(origine(ancienne) + "\n\nSouhaitez-vous importer cette base ?",
+                                     dialogues::kQuestion) == dialogues::kOui;
 }
 
 void ImportAncienneBase::refuse(const std::string& message) {
@@ -87,7 +139,7 @@ void ImportAncienneBase::importe(const AncienneInstallation& ancienne) {
     const Bilan bilan = reprend(m_outils, ancienne);
     if (bilan.echec) m_outils.dialogues.MsgBox(bilan.echec->texte, bilan.echec->style);
     if (!bilan.rapport) return;
-    m_outils.dialogues.MsgBox(bilan.rapport->texte(), dialogues::kInformation);
+    m_outils.dialogues.MsgBox(bilan.rapport->texte() + "\n" + origine(ancienne), dialogues::kInformation);
     if (!bilan.rapport->aChangeLaBase()) return;
     m_rafraichissement.AffichageApresModification();
     m_rafraichissement.RaffraichitBoitesDeroulantes();

@@ -18,12 +18,17 @@ class ImportAncienneBase {
 
     // The third button of the add panel: what the import does, and whether to go on.
     void Command13_Click();
-    // Asks for the folder, imports, reports, and shows the base as it is then.
+    // Asks for the folder, and for what its settings name and is not there; says which base and which images these are,
+    // imports, reports, and shows the base as it is then.
     void ImporterAncienneBase();
 
   private:
     // What is to be imported; nothing when the choice was cancelled, or cannot be and was told.
     [[nodiscard]] std::optional<AncienneInstallation> choisit();
+    [[nodiscard]] bool indiqueBase(AncienneInstallation& ancienne);
+    void indiqueImages(AncienneInstallation& ancienne);
+    [[nodiscard]] std::string refus(const AncienneInstallation& ancienne) const;
+    [[nodiscard]] bool confirme(const AncienneInstallation& ancienne);
     void refuse(const std::string& message);
     void importe(const AncienneInstallation& ancienne);
 

@@ -1,6 +1,7 @@
 #include "acquire/PassageAncienne.h"
 
 #include "db/Affiches.h"
+#include "db/EnonceFilm.h"
 #include "platform/dao/Comparaison.h"
 #include "platform/fichiers/Fichiers.h"
 
@@ -18,8 +19,7 @@ constexpr const char* kChampsPersonnel[] = {"Titre2", "Realisateur2", "Rangement
                                             "Pret",   "Reserve",      "Date",      "Divers",   "Support"};
 constexpr const char* kAffiche = "Affiche";
 constexpr std::string_view kFichier = "JPG";
-constexpr std::size_t kTaillePrefixe = 3;             // "JPG" or "STO"
-constexpr std::int64_t kTailleMaxImage = 64LL << 20;  // bytes; a file that is larger is no poster
+constexpr std::size_t kTaillePrefixe = 3;  // "JPG" or "STO"
 
 std::string cleDuFilm(std::string_view titre, std::string_view realisateur) {
     return dao::cleDeComparaison(titre) + '\0' + dao::cleDeComparaison(realisateur);
@@ -55,8 +55,11 @@ PassageAncienne::PassageAncienne(const OutilsAncienne& outils, dao::Database& an
       m_possessions(ancienne.OpenRecordset("SELECT * FROM Personnel ;")),
       m_dossierImages(std::move(dossierImages)),
       m_lot(outils.base.base),
-      m_affiches(outils.base.base,
-                 outils.stockage.dansLaBase() ? "" : db::dossierImages(outils.stockage, outils.chemins)) {}
+      m_affiches(outils.base.base, outils.stockage, outils.chemins) {
+    exigeChamps(m_films, kChampsFilms);
+    exigeChamps(m_films, {&kAffiche, 1});
+    exigeChamps(m_possessions, kChampsPersonnel);
+}
 
 void PassageAncienne::execute() {
     try {
@@ -69,27 +72,17 @@ void PassageAncienne::execute() {
     }
     m_lot.abandonne();
     m_affiches.apresAnnulation();
+    m_acquis.interrompu = true;
 }
 
 void PassageAncienne::reprendTout() {
-    exigeChamps(m_films, kChampsFilms);
-    exigeChamps(m_films, {&kAffiche, 1});
-    exigeChamps(m_possessions, kChampsPersonnel);
-    prepareDossier();
+    m_affiches.prepareDossier();
     releve();
     m_outils.ajout.ProgressBar1.Max = std::max(1L, m_films.RecordCount() + static_cast<long>(m_aReprendre.size()));
     m_outils.ajout.ProgressBar1.Value = 0;
     reprendFilms();
     if (!m_rapport.interrompu) reprendOrphelines();
     confirmeLot();
-}
-
-void PassageAncienne::prepareDossier() const {
-    if (m_outils.stockage.dansLaBase()) return;
-    const std::string dossier = db::dossierImages(m_outils.stockage, m_outils.chemins);
-    fichiers::creeDossier(dossier);
-    if (!fichiers::dossierModifiable(dossier))
-        throw db::EchecConversion{"Le dossier des images " + dossier + " n'est pas accessible en écriture !"};
 }
 
 void PassageAncienne::releve() {
@@ -109,10 +102,10 @@ void PassageAncienne::reprendFilms() {
     }
 }
 
-// Of a film that was there, and is not possessed, the holding is taken too.
+// Of a film that was there, and is not possessed or has no poster, the holding or the poster is taken too.
 void PassageAncienne::reprendFilm() {
-    const std::string titre = m_films.texte("Titre");
-    const std::string cle = cleDuFilm(titre, m_films.texte("Realisateur"));
+    const std::string titre = m_films.texte("Titre"), realisateur = m_films.texte("Realisateur");
+    const std::string cle = cleDuFilm(titre, realisateur);
     m_outils.ajout.lblProgression.Caption = titre;
     if (m_connus.insert(cle).second) {
         ajouteFilm();
@@ -121,19 +114,40 @@ void PassageAncienne::reprendFilm() {
     } else {
         ++m_rapport.dejaPresents;
         if (reprendPossession(cle)) ++m_rapport.possessions;
+        completeAffiche(titre, realisateur);
     }
 }
 
 void PassageAncienne::ajouteFilm() {
     m_lot.commence();
-    const Affiche reprise = affiche();
+    const dao::Valeur ancienne = m_films.valeur(kAffiche);
+    const std::string texte = ancienne.texte();
+    const auto reprise = reprendAffiche(texte);
     dao::Recordset& films = m_outils.base.films;
     films.AddNew();
     copieChamps(m_films, films, kChampsFilms);
-    films.assigne(kAffiche, reprise.valeur);
+    films.assigne(kAffiche, reprise ? reprise->valeur : ancienne);
     films.Update();
     ++m_rapport.ajoutes;
-    m_lot.compteFiche(reprise.octets);
+    m_lot.compteFiche(reprise ? reprise->octets : texte.size());
+}
+
+// A film without its poster names none, or names the one of the previous installation, which is not here.
+void PassageAncienne::completeAffiche(const std::string& titre, const std::string& realisateur) {
+    dao::Recordset film = m_outils.base.base.OpenRecordset(db::enonceFilm(titre, realisateur));
+    if (film.Eof()) return;
+    const std::string presente = film.texte(kAffiche);
+    if (!presente.empty() && (!presente.starts_with(kFichier) || m_affiches.aSonFichier(presente))) return;
+    const std::string ancienne = m_films.texte(kAffiche);
+    if (ancienne.empty() || (!presente.empty() && presente != ancienne)) return;
+    m_lot.commence();
+    const auto reprise = reprendAffiche(ancienne);
+    if (!reprise) return;
+    film.Edit();
+    film.assigne(kAffiche, reprise->valeur);
+    film.Update();
+    ++m_rapport.affiches;
+    m_lot.compteFiche(reprise->octets);
 }
 
 // False when there is none to add.
@@ -168,36 +182,31 @@ void PassageAncienne::reprendOrphelines() {
     }
 }
 
-PassageAncienne::Affiche PassageAncienne::affiche() {
-    const dao::Valeur ancienne = m_films.valeur(kAffiche);
-    const std::string texte = ancienne.texte();
-    if (db::estDansLaBase(texte)) {
-        if (m_outils.stockage.dansLaBase()) return {ancienne, texte.size()};
-        return place(std::string_view(texte).substr(kTaillePrefixe), true);
+std::optional<AfficheImportee> PassageAncienne::reprendAffiche(const std::string& ancienne) {
+    const std::string_view contenu = std::string_view(ancienne).substr(std::min(ancienne.size(), kTaillePrefixe));
+    if (db::estDansLaBase(ancienne)) {
+        if (m_affiches.dansLaBase()) return AfficheImportee{dao::Valeur::octets(ancienne), ancienne.size()};
+        return place(contenu, true);
     }
-    if (!texte.starts_with(kFichier)) return {ancienne, texte.size()};
-    const auto octets = litImage(texte.substr(kTaillePrefixe));
-    if (!octets) return {"", 0};
+    if (!ancienne.starts_with(kFichier)) return std::nullopt;
+    const auto octets = litImage(std::string(contenu));
+    if (!octets) return std::nullopt;
     return place(*octets, static_cast<std::int64_t>(octets->size()) <= db::kTailleMaxAffiche);
 }
 
+// A name that leads out of the images folder is looked for in it by its end.
 std::optional<std::string> PassageAncienne::litImage(const std::string& nom) {
-    const std::string chemin = m_dossierImages + nom;
-    const std::int64_t limite = m_outils.stockage.dansLaBase() ? db::kTailleMaxAffiche : kTailleMaxImage;
-    auto octets = m_dossierImages.empty() || nom.empty() ? std::nullopt : fichiers::lit(chemin, limite);
-    if (!octets) ++(fichiers::longueur(chemin) > limite ? m_rapport.tropGrandes : m_rapport.nonTrouvees);
+    const auto image = fichiers::situeDans(m_dossierImages, fichiers::nomDeFichier(nom));
+    auto octets = image ? fichiers::lit(image->chemin, m_affiches.limite()) : std::nullopt;
+    const bool tropGrande = image && fichiers::longueur(image->chemin) > m_affiches.limite();
+    if (!octets) ++(tropGrande ? m_rapport.tropGrandes : m_rapport.nonTrouvees);
     return octets;
 }
 
-// Where new posters go; in the base also when another picture bears the name of its file.
-PassageAncienne::Affiche PassageAncienne::place(std::string_view octets, bool tientDansLaBase) {
-    if (!m_outils.stockage.dansLaBase()) {
-        const std::string nom = db::nomFichierAffiche(m_films.texte("Titre"), m_films.texte("Realisateur"));
-        if (m_affiches.pose(nom, octets)) return {db::valeurAfficheFichier(nom), 0};
-    }
-    if (tientDansLaBase) return {db::valeurAfficheDansLaBase(octets), octets.size()};
-    ++m_rapport.tropGrandes;
-    return {"", 0};
+std::optional<AfficheImportee> PassageAncienne::place(std::string_view octets, bool tientDansLaBase) {
+    auto placee = m_affiches.place(m_films.texte("Titre"), m_films.texte("Realisateur"), octets, tientDansLaBase);
+    if (!placee) ++m_rapport.tropGrandes;
+    return placee;
 }
 
 bool PassageAncienne::poursuit() {

@@ -1,17 +1,15 @@
 #pragma once
 
+#include "acquire/AffichesImportees.h"
 #include "acquire/LotImport.h"
 #include "acquire/RapportAncienne.h"
 #include "db/Base.h"
 #include "db/Chemins.h"
 #include "db/EtatStockage.h"
-#include "db/LotAffiches.h"
 #include "edit/EtatAjout.h"
 #include "platform/dialogues/Dialogues.h"
 #include "platform/ecran/Ecran.h"
 
-#include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -30,7 +28,8 @@ struct OutilsAncienne {
 };
 
 // One passage over the base of a previous installation: adds the films and holdings that the open base does not have,
-// every field as it is, each film with its holding and with its poster where new posters go. Films are stored in lots,
+// every field as it is, each film with its holding and with its poster where new posters go. A poster that is not found
+// stays named as it was, and a film that is there without its poster is given it. Films are stored in lots,
 // their poster files before them; between two films the screen breathes, and a stop leaves what was added. Of a lot that
 // fails nothing stays, in the base, in the images folder nor in the report. Shows no box.
 //
@@ -43,6 +42,7 @@ class PassageAncienne {
         int style;
     };
 
+    // Throws dao::ErreurDao where the previous base lacks a table or a field.
     PassageAncienne(const OutilsAncienne& outils, dao::Database& ancienne, std::string dossierImages);
 
     void execute();
@@ -51,23 +51,18 @@ class PassageAncienne {
 
   private:
     using Cles = std::unordered_set<std::string>;
-    // What a poster becomes here, and the bytes that it takes in the base.
-    struct Affiche {
-        dao::Valeur valeur;
-        std::size_t octets = 0;
-    };
-
     void reprendTout();
-    void prepareDossier() const;
     void releve();
     void reprendFilms();
     void reprendOrphelines();
     void reprendFilm();
     void ajouteFilm();
     [[nodiscard]] bool reprendPossession(const std::string& cle);
-    [[nodiscard]] Affiche affiche();
+    void completeAffiche(const std::string& titre, const std::string& realisateur);
+    // The current film's poster in its new place; nothing when it stays where it was.
+    [[nodiscard]] std::optional<AfficheImportee> reprendAffiche(const std::string& ancienne);
     [[nodiscard]] std::optional<std::string> litImage(const std::string& nom);
-    [[nodiscard]] Affiche place(std::string_view octets, bool tientDansLaBase);
+    [[nodiscard]] std::optional<AfficheImportee> place(std::string_view octets, bool tientDansLaBase);
     // Between two films: false when the user stops.
     [[nodiscard]] bool poursuit();
     void confirmeLot();
@@ -77,7 +72,7 @@ class PassageAncienne {
     dao::Recordset m_possessions;  // likewise
     std::string m_dossierImages;   // likewise
     LotImport m_lot;
-    db::LotAffiches m_affiches;
+    AffichesImportees m_affiches;
     Cles m_connus;                                       // films of the open base
     Cles m_possedes;                                     // its holdings
     std::unordered_map<std::string, long> m_aReprendre;  // rows of m_possessions, by film

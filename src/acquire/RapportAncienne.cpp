@@ -23,6 +23,7 @@ std::string RapportAncienne::texte() const {
         ligne(possessions, "# film déjà présent est maintenant possédé.",
               "# films déjà présents sont maintenant possédés.") +
         ligne(orphelines, "# possession reprise sans fiche de film.", "# possessions reprises sans fiche de film.") +
+        ligne(affiches, "# image ajoutée à un film déjà présent.", "# images ajoutées à des films déjà présents.") +
         ligne(nonTrouvees, "# image non trouvée.", "# images non trouvées.") +
         ligne(tropGrandes, "# image trop grande pour la base.", "# images trop grandes pour la base.") + pertes;
     if (interrompu) texte += "\nL'import a été interrompu : relancez-le pour ajouter le reste.";

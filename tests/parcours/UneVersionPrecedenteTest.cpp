@@ -5,6 +5,7 @@
 namespace {
 
 using namespace parcours;
+using namespace std::string_literals;
 using testing::ElementsAre;
 
 using UneVersionPrecedente = Collectionneur;
@@ -30,7 +31,10 @@ TEST_F(UneVersionPrecedente, BringsAPreviousVersionAlong) {
             "Souhaitez-vous continuer ?",
             dialogues::kOui);
         execution->boites.attendDossier("Dossier de la précédente version", "", ancienne.chemin());
-        execution->boites.attendMsgBox(rapport, dialogues::kInformation);
+        const std::string origine =
+            "Base importée : " + ancienne.chemin("Films.mdb") + "\nImages importées : " + ancienne.chemin("Images/");
+        demande(origine + "\n\nSouhaitez-vous importer cette base ?", dialogues::kOui);
+        execution->boites.attendMsgBox(rapport + "\n"s + origine, dialogues::kInformation);
         session().Command13_Click(2);
         EXPECT_TRUE(etats().ajout.Command13[2].FontBold && etats().panneaux.frameListeFonctions.Visible);
         EXPECT_EQ(comptes(), "4 titres, 4 personnels");

@@ -31,6 +31,11 @@ struct Place {
 [[nodiscard]] std::optional<Place> situe(const std::string& chemin);
 [[nodiscard]] std::int64_t longueur(const std::string& chemin);  // in bytes, -1 when there is no such file
 
+// Names that come from outside the program lead nowhere but into one folder: the ordinary file that stands there itself
+// under this name, or under it in other letters. Links, pipes, devices and folders are none; neither is what a separator,
+// "." or ".." would lead to. An empty folder has no files.
+[[nodiscard]] std::optional<Place> situeDans(const std::string& dossier, const std::string& nom);
+
 // A whole file; empty when it cannot be read (a folder included) or is longer than `limite` bytes.
 [[nodiscard]] std::optional<std::string> lit(const std::string& chemin, std::int64_t limite = INT64_MAX);
 // The lines of a text of the outside world, decoded to UTF-8, ended by CR LF, LF or CR; at most `maximum` of them.

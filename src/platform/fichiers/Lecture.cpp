@@ -1,5 +1,6 @@
 #include "platform/fichiers/Descripteur.h"
 #include "platform/fichiers/Fichiers.h"
+#include "util/NomsFichiers.h"
 #include "util/Texte.h"
 
 #include <cerrno>
@@ -102,6 +103,17 @@ std::optional<Place> situe(const std::string& chemin) {
         if (stat(reel.c_str(), &infos) != 0) return std::nullopt;
     }
     if (S_ISDIR(infos.st_mode)) return std::nullopt;
+    return Place{std::move(reel), {infos.st_dev, infos.st_ino}};
+}
+
+std::optional<Place> situeDans(const std::string& dossier, const std::string& nom) {
+    if (dossier.empty() || nom.empty() || nom == "." || nom == ".." || nom.find_first_of("/\\") != std::string::npos)
+        return std::nullopt;
+    const std::string chemin = util::avecSeparateur(dossier) + nom;
+    struct stat infos {};
+    std::string reel = chemin;
+    if (lstat(reel.c_str(), &infos) != 0) reel = trouve(chemin).value_or("");
+    if (lstat(reel.c_str(), &infos) != 0 || !S_ISREG(infos.st_mode)) return std::nullopt;
     return Place{std::move(reel), {infos.st_dev, infos.st_ino}};
 }
 

@@ -13,9 +13,11 @@
 #include <map>
 
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 namespace {
 
+using namespace std::string_literals;
 using doubles::BaseDEssai;
 using Lignes = std::vector<BaseDEssai::Champs>;
 using testing::ElementsAre;
@@ -39,6 +41,7 @@ struct AncienneBaseTest : testing::Test {
     db::Chemins chemins = db::Chemins::depuis(essai.dossier.chemin());
     acquire::ImportAncienneBase import{{essai.base, chemins, ajout, stockage, dialogues, ecran}, rafraichissement};
     std::string initial;  // folder that the box opens in
+    std::string images = ancienne.chemin(kImages);
 
     AncienneBaseTest() {
         std::filesystem::create_directory(chemins.dossierTmp);
@@ -84,11 +87,19 @@ struct AncienneBaseTest : testing::Test {
         dialogues.attendMsgBox(kQuestion, dialogues::kQuestion, dialogues::kOui);
         dialogues.attendDossier(kDossier, std::exchange(initial, dossier), dossier);
     }
+    void attendAccord(int reponse = dialogues::kOui) {
+        dialogues.attendMsgBox(origine() + "\n\nSouhaitez-vous importer cette base ?", dialogues::kQuestion, reponse);
+    }
+    [[nodiscard]] std::string origine() const {
+        return "Base importée : " + ancienne.chemin("Films.mdb") +
+               "\nImages importées : " + (images.empty() ? "aucun dossier" : images);
+    }
     // Imports, and checks that the previous installation is as it was.
     void importe(const std::string& rapport) {
         const auto avant = contenu();
         attendChoix(ancienne.chemin());
-        dialogues.attendMsgBox(rapport, dialogues::kInformation);
+        attendAccord();
+        dialogues.attendMsgBox(rapport + "\n" + origine(), dialogues::kInformation);
         import.Command13_Click();
         dialogues.verifie();
         EXPECT_EQ(contenu(), avant);
@@ -119,10 +130,8 @@ TEST_F(AncienneBaseTest, FindsTheBaseAndThePosters) {
         {"", "", "IMAGES/", "films.MDB"},
         {"D:\\Ambrelis\\Mes Affiches", "D:\\Ambrelis\\Bases\\s\xC9ries.mdb", kImages, "Bases/Séries.mdb"},
         {"\\\\serveur\\partage\\mes affiches\\\\", "bases/Séries.mdb", kImages, "Bases/Séries.mdb"},
-        {"C:\\", "C:\\Ambrelis\\Partie.mdb", "IMAGES/", "films.MDB"},
         {"/nulle/part/Mes affiches/", "/ailleurs/Films.mdb", kImages, "films.MDB"},
         {ancienne.chemin("Bases"), autre, "Bases/", autre},
-        {"Films.mdb", "Images", "IMAGES/", "films.MDB"},  // a file for a folder, and a folder for a file
     };
     for (const auto& un : cas) {
         ancienne.ecrit("AMBRELIS.INI", "0\r\n" + un.images + "\r\n0\r\n0\r\n0\r\n" + un.base + "\r\n");
@@ -133,6 +142,17 @@ TEST_F(AncienneBaseTest, FindsTheBaseAndThePosters) {
         EXPECT_EQ(trouvee.base, un.baseVue.starts_with('/') ? un.baseVue : ancienne.chemin(un.baseVue)) << un.base;
     }
     EXPECT_EQ(acquire::AncienneInstallation::dans(ailleurs.chemin()).base, "");
+
+    // What is named and is not there; a file is no folder, nor a folder or a pipe a file.
+    ASSERT_EQ(mkfifo(ancienne.chemin("tube.mdb").c_str(), 0600), 0);
+    for (const auto& [lesImages, base] :
+         {std::pair("C:\\", "C:\\Ambrelis\\Partie.mdb"), {"Films.mdb", "Images"}, {"/nulle/part", "tube.mdb"}}) {
+        ancienne.ecrit("AMBRELIS.INI", "0\r\n"s + lesImages + "\r\n0\r\n0\r\n0\r\n" + base + "\r\n");
+        const auto trouvee = acquire::AncienneInstallation::dans(ancienne.chemin());
+        EXPECT_EQ(trouvee.base + trouvee.dossierImages, "");
+        EXPECT_EQ(trouvee.baseAbsente, base);
+        EXPECT_EQ(trouvee.imagesAbsentes, lesImages);
+    }
 }
 
 TEST_F(AncienneBaseTest, CarriesEveryFieldAsItIs) {
@@ -155,11 +175,10 @@ TEST_F(AncienneBaseTest, CarriesEveryFieldAsItIs) {
              film("Autre", "autre chose")},
             {possede});
     importe("5 films ajoutés, dont 1 possédé.\n1 image non trouvée.\n1 image trop grande pour la base.");
-    EXPECT_THAT(photo().depuis(parcours::Photo(ancienne.chemin("Films.mdb"))),
-                ElementsAre("*Films : Été de R", "*Films : Grande de R", "*Films : Sans de R"));
+    EXPECT_THAT(photo().depuis(parcours::Photo(ancienne.chemin("Films.mdb"))), ElementsAre("*Films : Été de R"));
     const auto affiches = essai.colonne("Films", "Affiche");
     EXPECT_THAT(std::vector(affiches.begin() + 1, affiches.end()),
-                ElementsAre("STOimage d'été", "", "", "autre chose"));
+                ElementsAre("STOimage d'été", "JPGgrande.jpg", "JPGsans.jpg", "autre chose"));
     EXPECT_THAT(rafraichissement.appels,
                 ElementsAre("AffichageApresModification", "RaffraichitBoitesDeroulantes", "AfficheNbTitres"));
 }
@@ -201,7 +220,7 @@ TEST_F(AncienneBaseTest, PutsThePostersInTheFolderOfNewOnes) {
     importe("8 films ajoutés.\n1 image non trouvée.\n1 image trop grande pour la base.");
     EXPECT_THAT(essai.colonne("Films", "Affiche"),
                 ElementsAre("JPGÉté - R.jpg", "JPGGrande - R.jpg", "JPGDedans - R.jpg", "JPGDedans - R.jpg", "STOp",
-                            "JPGEntame - R.jpg", "", ""));
+                            "JPGEntame - R.jpg", "JPGgrande.JPG", "JPG"));
     EXPECT_EQ(image("Été - R.jpg") + image("Dedans - R.jpg") + image("Prise - R.jpg") + image("Entame - R.jpg"),
               "image d'étédune autre imageentame");
     EXPECT_EQ(image("Grande - R.jpg").size(), 230001u);
@@ -215,13 +234,18 @@ TEST_F(AncienneBaseTest, RefusesWhatCannotBeImported) {
         dialogues.verifie();
     };
     const auto illisible = [&](const std::string& raison) {
-        refuse(ancienne.chemin(), "La base " + ancienne.chemin("Films.mdb") + " n'a pas pu être lue.\n" + raison,
-               dialogues::kCritique);
+        attendChoix(ancienne.chemin());
+        attendAccord();
+        dialogues.attendMsgBox("La base " + ancienne.chemin("Films.mdb") + " n'a pas pu être lue.\n" + raison,
+                               dialogues::kCritique);
+        import.Command13_Click();
+        dialogues.verifie();
     };
     dialogues.attendMsgBox(kQuestion, dialogues::kQuestion, dialogues::kNon);
     import.Command13_Click();
     attendChoix("");
     import.Command13_Click();
+    ancienne.ecrit("AMBRELIS.INI", "");
     refuse(ancienne.chemin(), "Aucune base de données n'a été trouvée dans le dossier " + ancienne.chemin() + ".",
            dialogues::kExclamation);
     refuse(essai.dossier.chemin("Tmp/.."),
@@ -233,6 +257,7 @@ TEST_F(AncienneBaseTest, RefusesWhatCannotBeImported) {
            "La base " + ancienne.chemin("Films.mdb") + " est celle qui est ouverte : il n'y a rien à importer.",
            dialogues::kExclamation);
     std::filesystem::remove(ancienne.chemin("Films.mdb"));
+    images = "";
     ancienne.ecrit("Films.mdb", "ni l'une ni l'autre");
     illisible("Ce fichier n'est pas une base, ou il est endommagé.");
     std::filesystem::remove(ancienne.chemin("Films.mdb"));
@@ -245,6 +270,106 @@ TEST_F(AncienneBaseTest, RefusesWhatCannotBeImported) {
     EXPECT_THAT(essai.colonne("Films", "Titre"), IsEmpty());
     EXPECT_THAT(rafraichissement.appels, IsEmpty());
     EXPECT_TRUE(std::filesystem::is_empty(chemins.dossierTmp));
+}
+
+// What the settings name and is not there is asked for; nothing else is taken for it.
+TEST_F(AncienneBaseTest, AsksForWhatIsNotWhereTheSettingsSay) {
+    anciens({film("Été", "JPGÉté - R.jpg")}, {});
+    const auto reglages = [&](const std::string& lesImages, const std::string& base) {
+        ancienne.ecrit("AMBRELIS.INI", "1\n" + lesImages + "\n\n\n\n" + base + "\n");
+    };
+    const auto demandeBase = [&](int reponse) {
+        attendChoix(ancienne.chemin());
+        dialogues.attendMsgBox(
+            "La base D:\\Séries.mdb, que nomment les réglages de cette version, n'a pas été trouvée."
+            "\nSouhaitez-vous indiquer où elle se trouve ?",
+            dialogues::kQuestion, reponse);
+    };
+    const auto choisitBase = [&](const std::string& base) {
+        demandeBase(dialogues::kOui);
+        dialogues.attendFichier(
+            {"Base de la précédente version", "Fichiers de base de données|*.mdb", ancienne.chemin(), false}, base);
+    };
+    const auto demandeImages = [&](int reponse) {
+        dialogues.attendMsgBox(
+            "Le dossier des images E:\\Affiches, que nomment les réglages de cette version, n'a pas été "
+            "trouvé.\nSouhaitez-vous indiquer où il se trouve ?",
+            dialogues::kQuestion, reponse);
+    };
+    reglages("E:\\Affiches", "D:\\Séries.mdb");
+    demandeBase(dialogues::kNon);
+    import.Command13_Click();
+    choisitBase("");
+    import.Command13_Click();
+    choisitBase(ancienne.chemin("absente.mdb"));
+    dialogues.attendMsgBox("Le fichier indiqué est inexistant !", dialogues::kExclamation);
+    import.Command13_Click();
+    choisitBase(ancienne.chemin("Films.mdb"));
+    demandeImages(dialogues::kNon);
+    images = "";
+    attendAccord(dialogues::kNon);
+    import.Command13_Click();
+    EXPECT_EQ(essai.base.films.RecordCount(), 0);
+
+    reglages("E:\\Affiches", "");
+    attendChoix(ancienne.chemin());
+    demandeImages(dialogues::kOui);
+    images = ancienne.chemin(kImages);
+    dialogues.attendDossier("Dossier des images de la précédente version", ancienne.chemin(), images);
+    attendAccord();
+    dialogues.attendMsgBox("1 film ajouté.\n" + origine(), dialogues::kInformation);
+    import.Command13_Click();
+    EXPECT_THAT(essai.colonne("Films", "Affiche"), ElementsAre("STOimage d'été"));
+}
+
+// A picture that was not there at first is given to its film by a later import, which changes no other poster.
+TEST_F(AncienneBaseTest, ASecondPassFillsThePostersThatAreMissing) {
+    for (const std::size_t option : {0, 1}) {
+        ecran::choisit(stockage.Option3, option);
+        const std::string p = std::to_string(option);
+        remplit(essai.base.base, {film("Nu" + p), film("Autre" + p, "JPGà moi.jpg"), film("Vu" + p, "JPGvu.jpg")}, {});
+        essai.dossier.ecrit("Images/vu.jpg", "la mienne");
+        anciens({film("Nu" + p, "JPGété - r.jpg"), film("Autre" + p, "JPGété - r.jpg"), film("Vu" + p, "JPGvu.jpg"),
+                 film("Absent" + p, "JPGabsent" + p + ".jpg")},
+                {});
+        importe(
+            "1 film ajouté.\n3 films déjà présents.\n1 image ajoutée à un film déjà présent.\n1 image non trouvée.");
+        ancienne.ecrit(kImages + "ABSENT"s + p + ".jpg", "retrouvée");
+        importe("0 film ajouté.\n4 films déjà présents.\n1 image ajoutée à un film déjà présent.");
+        importe("0 film ajouté.\n4 films déjà présents.");
+    }
+    EXPECT_THAT(essai.colonne("Films", "Affiche"),
+                ElementsAre("STOimage d'été", "JPGà moi.jpg", "JPGvu.jpg", "STOretrouvée", "JPGNu1 - R.jpg",
+                            "JPGà moi.jpg", "JPGvu.jpg", "JPGAbsent1 - R.jpg"));
+    EXPECT_EQ(image("Nu1 - R.jpg") + image("Absent1 - R.jpg") + image("vu.jpg"), "image d'étéretrouvéela mienne");
+}
+
+// The names of its posters may say anything: nothing outside its images folder is read.
+TEST_F(AncienneBaseTest, ReadsNoPictureOutsideItsFolder) {
+    ancienne.ecrit("secret.jpg", "secret");
+    std::filesystem::create_symlink(ancienne.chemin("secret.jpg"), ancienne.chemin(kImages + "lien.jpg"s));
+    ASSERT_EQ(mkfifo(ancienne.chemin(kImages + "tube.jpg"s).c_str(), 0600), 0);
+    const std::vector<std::string> noms = {"../secret.jpg",
+                                           "..\\secret.jpg",
+                                           ancienne.chemin("secret.jpg"),
+                                           "..",
+                                           ".",
+                                           "lien.jpg",
+                                           "tube.jpg",
+                                           "../" + std::string(kImages),
+                                           "été - r.jpg/",
+                                           std::string(5 << 20, 'a') + "/../secret.jpg"};
+    Lignes films;
+    std::vector<std::string> attendues;
+    for (const std::string& nom : noms) {
+        films.push_back(film("Film " + std::to_string(films.size()), "JPG" + nom));
+        attendues.push_back("JPG" + nom);
+    }
+    films.push_back(film("Bon", "JPG..\\ailleurs\\été - r.jpg"));
+    attendues.push_back("STOimage d'été");
+    anciens(films, {});
+    importe("11 films ajoutés.\n10 images non trouvées.");
+    EXPECT_EQ(essai.colonne("Films", "Affiche"), attendues);
 }
 
 TEST_F(AncienneBaseTest, StoppedKeepsWhatWasAddedAndGoesOnNextTime) {
@@ -274,10 +399,13 @@ TEST_F(AncienneBaseTest, AFailureLeavesWholeLotsAndNoFileOfTheLotThatFailed) {
         if (ajout.ProgressBar1.Value == lot + 10) std::filesystem::remove_all(essai.dossier.chemin("Images"));
     };
     attendChoix(ancienne.chemin());
+    attendAccord();
     const std::string chemin = essai.dossier.chemin("Images/Film " + std::to_string(lot + 10) + " - R.jpg");
     dialogues.attendMsgBox("Le fichier image " + chemin + " n'a pas pu être écrit (Disque plein/Lecture seule ?)",
                            dialogues::kCritique);
-    dialogues.attendMsgBox(std::to_string(lot) + " films ajoutés, dont " + std::to_string(lot) + " possédés.",
+    dialogues.attendMsgBox(std::to_string(lot) + " films ajoutés, dont " + std::to_string(lot) +
+                               " possédés.\nL'import a été interrompu : relancez-le pour ajouter le reste.\n" +
+                               origine(),
                            dialogues::kInformation);
     import.Command13_Click();
     EXPECT_EQ(essai.base.films.RecordCount(), lot);
@@ -298,6 +426,7 @@ TEST_F(AncienneBaseTest, KilledAnywhereItLosesNothing) {
                 if (ajout.ProgressBar1.Value == mort) doubles::meurs();
             };
             attendChoix(ancienne.chemin());
+            attendAccord();
             import.Command13_Click();
         }));
         essai.ouvre();
@@ -330,6 +459,7 @@ TEST_F(AncienneBaseTest, TakesInRealJetInstallations) {
         for (const std::size_t option : {0, 1}) {
             essai.base.ferme();
             std::filesystem::remove(chemins.base);
+            std::filesystem::remove_all(essai.dossier.chemin("Images"));
             dao::DBEngine::CreateDatabase(chemins.base, db::schema());
             essai.ouvre();
             ecran::choisit(stockage.Option3, option);
@@ -338,7 +468,8 @@ TEST_F(AncienneBaseTest, TakesInRealJetInstallations) {
                 std::string(option == 0 ? "\n1 image trop grande pour la base." : "") + issue.rapport.pertes());
             for (const std::string& changement : photo().depuis(attendue))
                 EXPECT_TRUE(changement.starts_with("*Films")) << changement;
-            importe("0 film ajouté.\n42 films déjà présents." + issue.rapport.pertes());
+            importe("0 film ajouté.\n42 films déjà présents.\n1 image non trouvée." +
+                    std::string(option == 0 ? "\n1 image trop grande pour la base." : "") + issue.rapport.pertes());
         }
     }
     EXPECT_EQ(image("Le Pianiste - Roman Polanski.jpg").size(), 230001u);

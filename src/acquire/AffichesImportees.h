@@ -1,0 +1,52 @@
+#pragma once
+
+#include "db/Affiches.h"
+#include "db/LotAffiches.h"
+#include "platform/dao/Database.h"
+#include "platform/dao/Valeur.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace acquire {
+
+inline constexpr std::int64_t kTailleMaxImage = 64LL << 20;  // bytes; a file that is larger is no poster
+
+// What a poster becomes here, and the bytes that it takes in the base.
+struct AfficheImportee {
+    dao::Valeur valeur = "";
+    std::size_t octets = 0;
+};
+
+// Where the posters of an import go: in the base, or as files of a lot in the images folder.
+class AffichesImportees {
+  public:
+    AffichesImportees(dao::Database& base, db::EtatStockage& stockage, const db::Chemins& chemins);
+
+    [[nodiscard]] bool dansLaBase() const { return m_stockage.dansLaBase(); }
+    // The bytes of a picture's file that are read at most.
+    [[nodiscard]] std::int64_t limite() const { return dansLaBase() ? db::kTailleMaxAffiche : kTailleMaxImage; }
+    // Where posters are files, makes their folder. Throws db::EchecConversion.
+    void prepareDossier();
+    // Stores the picture of a film, in a folder that is prepared; in the base also where another picture bears the name of its file, if it is small
+    // enough for that. Nothing when it has no place. Throws db::EchecConversion.
+    [[nodiscard]] std::optional<AfficheImportee> place(const std::string& titre, const std::string& realisateur,
+                                                       std::string_view octets, bool tientDansLaBase);
+    // Whether that value of `Affiche` names a file of the images folder that is there.
+    [[nodiscard]] bool aSonFichier(const std::string& affiche) const;
+
+    void avantValidation() { m_lot.avantValidation(); }  // throws db::EchecConversion
+    void apresValidation() { m_lot.apresValidation(); }
+    void apresAnnulation() { m_lot.apresAnnulation(); }
+
+  private:
+    db::EtatStockage& m_stockage;
+    const db::Chemins& m_chemins;
+    db::LotAffiches m_lot;
+    bool m_dossierPret = false;
+};
+
+}  // namespace acquire
