@@ -16,6 +16,12 @@ long CompteFilmsRepertoire(const std::string& dossier) {
     return static_cast<long>(std::count_if(noms.begin(), noms.end(), estFiche));
 }
 
+std::string texteNombreDeFiches(long nombre) {
+    if (nombre == 0) return "Aucun fichier .FILM trouvé.";
+    if (nombre == 1) return "Un fichier .FILM trouvé.";
+    return std::to_string(nombre) + " fichiers .FILM trouvés.";
+}
+
 std::vector<std::string> fichiersDuDossier(const std::string& dossier) {
     if (dossier.empty()) return {};
     return fichiers::listeFichiers(dossier);

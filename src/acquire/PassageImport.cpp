@@ -1,6 +1,7 @@
 #include "acquire/PassageImport.h"
 
 #include "acquire/ProgressionVisible.h"
+#include "db/EnonceFilm.h"
 #include "db/Requete.h"
 #include "edit/AjoutePossession.h"
 #include "platform/fichiers/Fichiers.h"
@@ -18,19 +19,45 @@ constexpr std::chrono::milliseconds kEntreDeuxSouffles{50};
 }  // namespace
 
 PassageImport::PassageImport(const OutilsImport& outils, const ChoixImport& choix, const std::string& dossier)
-    : m_outils(outils), m_choix(choix), m_dossier(dossier), m_lot(outils.base.base) {}
+    : m_outils(outils),
+      m_choix(choix),
+      m_dossier(dossier),
+      m_lot(outils.base.base),
+      m_affiches(outils.base.base, outils.stockage, outils.chemins) {}
 
 RapportImport PassageImport::execute() {
-    std::string erreur;
+    std::string echec;
+    int style = dialogues::kSimple;
     try {
         importeTout();
-    } catch (const dao::ErreurDao& echec) {
-        erreur = "Erreur " + std::to_string(echec.numero) + " : " + echec.description;
+    } catch (const db::EchecConversion& affiche) {
+        echec = affiche.texte;
+        style = dialogues::kCritique;
+        gardeLeLotEntier();
+    } catch (const dao::ErreurDao& erreur) {
+        echec = "Erreur " + std::to_string(erreur.numero) + " : " + erreur.description;
     } catch (const db::RequeteEchouee&) {  // already shown
     }
     m_lot.abandonne();
-    if (!erreur.empty()) m_outils.dialogues.MsgBox(erreur);
+    m_affiches.apresAnnulation();
+    noteCeQuiReste();
+    if (!echec.empty()) m_outils.dialogues.MsgBox(echec, style);
     return m_acquis;
+}
+
+// A poster is written before the row that names it: the films before it are whole.
+void PassageImport::gardeLeLotEntier() {
+    try {
+        confirmeLot();
+    } catch (const db::EchecConversion&) {
+    } catch (const dao::ErreurDao&) {
+    }
+}
+
+void PassageImport::noteCeQuiReste() {
+    const std::vector<std::string>& fiches = m_dossier.fiches();
+    for (std::size_t i = m_acquises; i < fiches.size(); ++i)
+        m_acquis.fichesRestantes.push_back(m_dossier.chemin(fiches[i]));
 }
 
 void PassageImport::importeTout() {
@@ -40,6 +67,7 @@ void PassageImport::importeTout() {
     if (m_choix.testeRessemblance) m_lettres = edit::LettresDuCatalogue::de(m_outils.base, m_outils.dialogues);
     for (const std::string& nom : m_dossier.fiches()) {
         importe(nom);
+        ++m_lues;
         ++m_outils.ajout.ProgressBar1.Value;
         const bool plein = m_lot.estPlein();
         if (plein) confirmeLot();
@@ -56,26 +84,43 @@ void PassageImport::importe(const std::string& nom) {
     }
     m_outils.ajout.lblProgression.Caption = fiche->premiereLigne;
     m_lot.commence();  // the checks of one lot share what they read
-    if (estRefuse(*fiche))
+    if (m_outils.doublons.TitreDejaExistant(fiche->titre, fiche->realisateur)) {
+        completeAffiche(*fiche, nom);
         m_rapport.titresRefuses.push_back(fiche->titre);
-    else
+    } else if (estTropProche(*fiche)) {
+        m_rapport.titresRefuses.push_back(fiche->titre);
+    } else {
         enregistre(*fiche, nom);
+    }
 }
 
-bool PassageImport::estRefuse(const FicheFilm& fiche) {
-    if (m_outils.doublons.TitreDejaExistant(fiche.titre, fiche.realisateur)) return true;
+bool PassageImport::estTropProche(const FicheFilm& fiche) {
     return m_lettres && m_lettres->aUnProche(fiche.titre, fiche.realisateur) &&
            m_outils.ressemblances.TitreDejaExistant_TestRessemblance(fiche.titre, fiche.realisateur,
                                                                      [this] { confirmeLot(); });
 }
 
+void PassageImport::completeAffiche(const FicheFilm& fiche, const std::string& nom) {
+    if (!m_dossier.trouveAffiche(nom)) return;
+    dao::Recordset film = m_outils.base.base.OpenRecordset(db::enonceFilm(fiche.titre, fiche.realisateur));
+    if (film.Eof() || !film.texte("Affiche").empty()) return;
+    const Examen examen = placeAffiche(fiche, nom);
+    if (!examen.affiche) return;
+    film.Edit();
+    film.assigne("Affiche", examen.affiche->valeur);
+    film.Update();
+    ++m_rapport.affichesAjoutees;
+    m_lot.compteFiche(examen.affiche->octets);
+}
+
 void PassageImport::enregistre(const FicheFilm& fiche, const std::string& nom) {
     m_lot.commence();  // a question may have ended it
+    const Examen examen = placeAffiche(fiche, nom);
+    if (!examen.manque.empty()) m_rapport.affichesManquantes.push_back(examen.manque);
     remplitSaisie(fiche);
-    const Affiche affiche = choisitAffiche(nom);
-    const edit::SortAffiche sort =
-        m_outils.enregistrement.EnregistreNouveauFilm(affiche.chemin, fiche.resume, m_choix.date);
-    if (sort == edit::SortAffiche::Illisible) m_rapport.affichesManquantes.push_back(affiche.chemin);
+    const AfficheImportee affiche = examen.affiche.value_or(AfficheImportee());
+    edit::FilmPret film{.affiche = affiche.valeur, .sort = edit::SortAffiche::Aucune, .ancien = {}};
+    m_outils.enregistrement.ecrit(film, fiche.resume, m_choix.date);
     if (m_choix.possedes)
         edit::ajoutePossession(m_outils.base.personnel, fiche.titre, fiche.realisateur, m_choix.support);
     if (m_lettres) m_lettres->ajoute(fiche.titre, fiche.realisateur);
@@ -95,24 +140,27 @@ void PassageImport::remplitSaisie(const FicheFilm& fiche) {
     saisie.Combo4.Text = fiche.production;
 }
 
-PassageImport::Affiche PassageImport::choisitAffiche(const std::string& nom) {
+// In the base a picture of the very limit goes without a word, as one that is entered by hand does.
+PassageImport::Examen PassageImport::placeAffiche(const FicheFilm& fiche, const std::string& nom) {
     const std::optional<std::string> chemin = m_dossier.trouveAffiche(nom);
-    if (!chemin) {
-        m_rapport.affichesManquantes.push_back(m_dossier.cheminAffiche(nom));
-        return {};
-    }
-    if (!m_outils.stockage.dansLaBase()) return {*chemin, 0};
-    const std::int64_t longueur = fichiers::longueur(*chemin);
-    if (longueur > db::kTailleMaxAffiche) {
-        m_rapport.affichesManquantes.push_back(*chemin + " (trop grande pour la base) ");
-        return {};
-    }
-    return {*chemin, static_cast<std::size_t>(std::max<std::int64_t>(longueur, 0))};
+    if (!chemin) return {std::nullopt, m_dossier.cheminAffiche(nom)};
+    const std::string tropGrande =
+        *chemin + (m_affiches.dansLaBase() ? " (trop grande pour la base) " : " (trop grande) ");
+    if (fichiers::longueur(*chemin) > m_affiches.limite()) return {std::nullopt, tropGrande};
+    const auto octets = fichiers::lit(*chemin, m_affiches.limite());
+    if (!octets) return {std::nullopt, *chemin + " (illisible) "};
+    const bool tientDansLaBase = static_cast<std::int64_t>(octets->size()) < db::kTailleMaxAffiche;
+    if (m_affiches.dansLaBase() && !tientDansLaBase) return {};
+    const auto affiche = m_affiches.place(fiche.titre, fiche.realisateur, *octets, tientDansLaBase);
+    return {affiche, affiche ? "" : tropGrande};
 }
 
 void PassageImport::confirmeLot() {
+    m_affiches.avantValidation();
     m_lot.confirme();
+    m_affiches.apresValidation();
     m_acquis = m_rapport;
+    m_acquises = m_lues;
 }
 
 bool PassageImport::doitRespirer() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "acquire/AffichesImportees.h"
 #include "acquire/DossierFiches.h"
 #include "acquire/FicheFilm.h"
 #include "acquire/LotImport.h"
@@ -24,8 +25,9 @@ namespace acquire {
 // What an import stores films with. All of it outlives the import.
 struct OutilsImport {
     db::Base& base;
+    const db::Chemins& chemins;
     edit::EtatAjout& ajout;
-    const db::EtatStockage& stockage;
+    db::EtatStockage& stockage;
     edit::EnregistrementFilm& enregistrement;
     edit::Doublons& doublons;
     edit::Ressemblances& ressemblances;
@@ -41,8 +43,10 @@ struct ChoixImport {
     std::string date;  // of the day, for the whole batch
 };
 
-// One passage over a folder. Films are stored in lots, each with its holding; between two sheets the screen breathes, and
-// a stop leaves what was added. Of a lot that fails nothing stays, in the base nor in the report.
+// One passage over a folder. Films are stored in lots, each with its holding and its poster, whose file is on the disk
+// before; between two sheets the screen breathes, and a stop leaves what was added. A poster that cannot be written ends
+// the import, and what came before it is stored. Of a lot that fails nothing stays, in the base, in the images folder nor
+// in the report. A film that is there already without a poster is given the one beside its sheet.
 class PassageImport {
   public:
     PassageImport(const OutilsImport& outils, const ChoixImport& choix, const std::string& dossier);
@@ -53,15 +57,18 @@ class PassageImport {
   private:
     void importeTout();
     void importe(const std::string& nom);
-    [[nodiscard]] bool estRefuse(const FicheFilm& fiche);
+    [[nodiscard]] bool estTropProche(const FicheFilm& fiche);
     void enregistre(const FicheFilm& fiche, const std::string& nom);
     void remplitSaisie(const FicheFilm& fiche);
-    // The poster to store, empty for none; what is missing or too large goes to the report.
-    struct Affiche {
-        std::string chemin;
-        std::size_t octets = 0;  // that it will take in the base
+    // What the poster beside a sheet becomes; what keeps it out, for the report, or nothing where it goes without a word.
+    struct Examen {
+        std::optional<AfficheImportee> affiche;
+        std::string manque{};
     };
-    [[nodiscard]] Affiche choisitAffiche(const std::string& nom);
+    [[nodiscard]] Examen placeAffiche(const FicheFilm& fiche, const std::string& nom);  // throws db::EchecConversion
+    void completeAffiche(const FicheFilm& fiche, const std::string& nom);
+    void gardeLeLotEntier();
+    void noteCeQuiReste();
     void confirmeLot();
     [[nodiscard]] bool doitRespirer() const;
     [[nodiscard]] bool respire();  // false when the user stops
@@ -70,9 +77,12 @@ class PassageImport {
     ChoixImport m_choix;
     DossierFiches m_dossier;
     LotImport m_lot;
+    AffichesImportees m_affiches;
     std::optional<edit::LettresDuCatalogue> m_lettres;  // where resemblances are tested
     RapportImport m_rapport;
     RapportImport m_acquis;  // the report as it was when the last lot was stored
+    std::size_t m_lues = 0;
+    std::size_t m_acquises = 0;  // sheets read until then
     std::chrono::steady_clock::time_point m_dernierSouffle;
 };
 

@@ -7,23 +7,56 @@
 namespace acquire {
 namespace {
 
-// Nothing for an empty list.
-std::string paragraphe(std::string_view titre, const std::vector<std::string>& elements) {
-    std::string texte;
-    for (const std::string& element : elements)
-        texte += (texte.empty() ? "" : ", ") + element;
-    return texte.empty() ? "" : "\n" + std::string(titre) + "\n" + texte;
+class Redaction {
+  public:
+    void ligne(const std::string& texte) {
+        m_rapport.texte += (m_rapport.texte.empty() ? "" : "\n") + texte;
+        m_rapport.lignes.push_back(texte);
+    }
+    // Nothing for 0.
+    void compte(long nombre, std::string_view singulier, std::string_view pluriel) {
+        if (nombre > 0) ligne(util::phraseCompte(nombre, singulier, pluriel));
+    }
+    // Nothing for an empty list.
+    void liste(const std::string& titre, const std::vector<std::string>& elements) {
+        if (elements.empty()) return;
+        ligne(titre);
+        const char* separateur = "\n";
+        for (const std::string& element : elements) {
+            m_rapport.texte += separateur + element;
+            m_rapport.lignes.push_back(element);
+            separateur = ", ";
+        }
+    }
+    [[nodiscard]] dialogues::Rapport rapport() && { return std::move(m_rapport); }
+
+  private:
+    dialogues::Rapport m_rapport;
+};
+
+template <typename Element>
+long nombre(const std::vector<Element>& elements) {
+    return static_cast<long>(elements.size());
 }
 
 }  // namespace
 
-std::string RapportImport::texte() const {
-    std::string texte = util::phraseCompte(ajoutes, "# film ajouté.", "# films ajoutés.");
-    if (const long refuses = static_cast<long>(titresRefuses.size()); refuses > 0)
-        texte +=
-            "\n" + util::phraseCompte(refuses, "# film non ajouté", "# films non ajoutés") + " car déjà dans la base.";
-    return texte + paragraphe("- Image manquante :", affichesManquantes) +
-           paragraphe("- Déjà existant : ", titresRefuses) + paragraphe("- Fiche illisible :", fichesIllisibles);
+dialogues::Rapport RapportImport::texte() const {
+    Redaction redaction;
+    redaction.ligne(util::phraseCompte(ajoutes, "# film ajouté.", "# films ajoutés."));
+    redaction.compte(nombre(titresRefuses), "# film non ajouté car déjà dans la base.",
+                     "# films non ajoutés car déjà dans la base.");
+    redaction.liste("- Image manquante :", affichesManquantes);
+    redaction.liste("- Déjà existant : ", titresRefuses);
+    redaction.liste("- Fiche illisible :", fichesIllisibles);
+    redaction.compte(affichesAjoutees, "# image ajoutée à un film déjà présent.",
+                     "# images ajoutées à des films déjà présents.");
+    redaction.compte(nombre(fichesRestantes),
+                     "L'import a été interrompu : relancez-le pour ajouter la fiche qui reste.",
+                     "L'import a été interrompu : relancez-le pour ajouter les # fiches qui restent.");
+    for (const std::string& ligne : rangement)
+        redaction.ligne(ligne);
+    return std::move(redaction).rapport();
 }
 
 }  // namespace acquire

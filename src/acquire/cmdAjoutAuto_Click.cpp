@@ -1,19 +1,27 @@
 #include "acquire/cmdAjoutAuto_Click.h"
 
 #include "acquire/CompteFilmsRepertoire.h"
+#include "acquire/cmdParcourir2_Click.h"
 
 namespace acquire {
 
 void ImportFiches::cmdAjoutAuto_Click() {
-    const std::string dossier = m_outils.ajout.txtCheminAjoutAuto.Text;
+    importe([](RapportImport&) {});
+}
+
+void ImportFiches::importe(const Rangement& range) {
+    const std::string dossier = dossierDesFiches(m_outils.ajout, m_outils.chemins);
     const long nombre = CompteFilmsRepertoire(dossier);
+    montreNombreDeFiches(m_outils.ajout, m_outils.chemins);
     if (nombre == 0) {
         m_outils.dialogues.MsgBox("Aucun fichier .film trouvé !", dialogues::kExclamation);
         return;
     }
     const ChoixImport choix = demandeChoix(nombre);
-    const RapportImport rapport = PassageImport(m_outils, choix, dossier).execute();
-    m_outils.dialogues.MsgBox(rapport.texte(), dialogues::kInformation);
+    RapportImport rapport = PassageImport(m_outils, choix, dossier).execute();
+    range(rapport);
+    montreNombreDeFiches(m_outils.ajout, m_outils.chemins);
+    m_outils.dialogues.montre(rapport.texte());
     montreAjoutsDuJour(choix.date);
 }
 

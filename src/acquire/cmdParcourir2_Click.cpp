@@ -1,21 +1,33 @@
 #include "acquire/cmdParcourir2_Click.h"
 
 #include "acquire/CompteFilmsRepertoire.h"
+#include "platform/fichiers/CheminTape.h"
+#include "platform/fichiers/Fichiers.h"
 
 namespace acquire {
 
 void ChoixDossierFiches::cmdParcourir2_Click() {
     const std::string dossier =
-        m_dialogues.choisitDossier("Dossier des fiches de films", m_ajout.txtCheminAjoutAuto.Text);
+        m_dialogues.choisitDossier("Dossier des fiches de films", dossierDesFiches(m_ajout, m_chemins));
     if (dossier.empty()) return;
     m_ajout.txtCheminAjoutAuto.Text = dossier;
-    m_ajout.lblNbFilms.Caption = texteNombreDeFiches(CompteFilmsRepertoire(dossier));
+    montreNombreDeFiches(m_ajout, m_chemins);
 }
 
-std::string texteNombreDeFiches(long nombre) {
-    if (nombre == 0) return "Aucun fichier .FILM trouvé.";
-    if (nombre == 1) return "Un fichier .FILM trouvé.";
-    return std::to_string(nombre) + " fichiers .FILM trouvés.";
+void ChoixDossierFiches::txtCheminAjoutAuto_Change() {
+    montreNombreDeFiches(m_ajout, m_chemins);
+}
+
+std::string dossierDesFiches(const edit::EtatAjout& ajout, const db::Chemins& chemins) {
+    return fichiers::cheminTape(ajout.txtCheminAjoutAuto.Text, chemins.dossier);
+}
+
+void montreNombreDeFiches(edit::EtatAjout& ajout, const db::Chemins& chemins) {
+    const std::string dossier = dossierDesFiches(ajout, chemins);
+    ajout.lblNbFilms.Caption = dossier.empty() ? ""
+                               : !fichiers::dossierExiste(dossier)
+                                   ? "Ce dossier n'existe pas."
+                                   : texteNombreDeFiches(CompteFilmsRepertoire(dossier));
 }
 
 }  // namespace acquire

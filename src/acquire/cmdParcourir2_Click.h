@@ -1,5 +1,6 @@
 #pragma once
 
+#include "db/Chemins.h"
 #include "edit/EtatAjout.h"
 #include "platform/dialogues/Dialogues.h"
 
@@ -7,19 +8,24 @@
 
 namespace acquire {
 
-// Chooses the folder to import from, and says how many sheets it holds.
+// The folder to import from, chosen or typed, and how many sheets it holds.
 class ChoixDossierFiches {
   public:
-    ChoixDossierFiches(edit::EtatAjout& ajout, dialogues::Dialogues& dialogues)
-        : m_ajout(ajout), m_dialogues(dialogues) {}
+    ChoixDossierFiches(edit::EtatAjout& ajout, const db::Chemins& chemins, dialogues::Dialogues& dialogues)
+        : m_ajout(ajout), m_chemins(chemins), m_dialogues(dialogues) {}
 
     void cmdParcourir2_Click();  // a cancelled choice changes nothing
+    void txtCheminAjoutAuto_Change();
 
   private:
     edit::EtatAjout& m_ajout;
+    const db::Chemins& m_chemins;
     dialogues::Dialogues& m_dialogues;
 };
 
-[[nodiscard]] std::string texteNombreDeFiches(long nombre);
+// The folder that txtCheminAjoutAuto names, from the root; empty for none.
+[[nodiscard]] std::string dossierDesFiches(const edit::EtatAjout& ajout, const db::Chemins& chemins);
+// Says how many sheets that folder holds; nothing where none is named.
+void montreNombreDeFiches(edit::EtatAjout& ajout, const db::Chemins& chemins);
 
 }  // namespace acquire

@@ -1,8 +1,9 @@
 #include "acquire/cmdTelecharge_Click.h"
 
 #include "acquire/AdresseRecherche.h"
-#include "acquire/CompteFilmsRepertoire.h"
 #include "acquire/ConfigurationRapatrix.h"
+#include "acquire/FichesRecues.h"
+#include "acquire/cmdParcourir2_Click.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/Nombres.h"
 #include "util/Texte.h"
@@ -12,22 +13,6 @@ namespace acquire {
 namespace {
 
 constexpr int kToucheEntree = 13;
-
-// Out of "Tmp" go the sheets and the posters of an earlier search, and afterwards those of this one.
-class DossierNettoye {
-  public:
-    explicit DossierNettoye(const std::string& dossier) : m_dossier(dossier) { nettoie(); }
-    DossierNettoye(const DossierNettoye&) = delete;
-    DossierNettoye& operator=(const DossierNettoye&) = delete;
-    ~DossierNettoye() { nettoie(); }
-
-  private:
-    void nettoie() const {
-        for (const char* motif : {"*.FILM", "*.JPG"})
-            fichiers::supprimeSelonMotif(m_dossier, motif);
-    }
-    const std::string& m_dossier;
-};
 
 // How long the downloader works is not known: a progress without an end, on the screen as long as it does.
 class AttenteVisible {
@@ -63,23 +48,46 @@ Critere critereChoisi(const edit::EtatAjout& ajout) {
 
 void Telechargement::cmdTelecharge_Click() {
     if (m_outils.ajout.txtRechInternet.Text.find_first_not_of(' ') == std::string::npos) return;
+    ouvrePage();  // it may have come, or gone
     const auto programme = prepare();
     if (!programme) return;
-    const std::string& tmp = m_outils.chemins.dossierTmp;
-    const DossierNettoye nettoyage(tmp);
+    const std::string attente = cherche(*programme);
+    m_outils.ajout.lblNbFilms.Caption.clear();  // it told of another folder
+    if (attente.empty()) return;
+    m_outils.ajout.txtCheminAjoutAuto.Text = attente;  // one click goes on with them
+    montreNombreDeFiches(m_outils.ajout, m_outils.chemins);
+}
+
+// Where sheets wait afterwards, empty when none does.
+std::string Telechargement::cherche(const std::string& programme) {
+    FichesRecues fiches(m_outils.chemins);
     m_outils.ecran.rafraichit();
-    const bool fini = attends(*programme);
+    const bool fini = attends(programme);
     fichiers::supprime(m_configuration);
     m_outils.demandes.premierPlan = true;
     m_outils.demandes.focus = "txtRechInternet";  // for the next search
-    m_outils.ajout.txtCheminAjoutAuto.Text = tmp;
-    m_outils.ajout.lblNbFilms.Caption.clear();  // it told of another folder
-    const long fiches = CompteFilmsRepertoire(tmp);
-    if (fiches > 0 && (fini || importeQuandMeme(fiches))) m_outils.import.cmdAjoutAuto_Click();
+    m_outils.ajout.txtCheminAjoutAuto.Text = m_outils.chemins.dossierTmp;
+    const long nombre = fiches.nombre();
+    if (nombre == 0 || (!fini && !importeQuandMeme(nombre)))
+        fiches.refusees();
+    else
+        m_outils.import.importe([&](RapportImport& rapport) { fiches.range(rapport); });
+    return fiches.attente();
 }
 
 void Telechargement::txtRechInternet_KeyDown(int code, int /*majuscule*/) {
     if (code == kToucheEntree) cmdTelecharge_Click();
+}
+
+void Telechargement::ouvrePage() {
+    const bool present = fichiers::existe(m_outils.chemins.dansDossier(kProgrammeRapatrix));
+    m_outils.ajout.lblRapatrix.Visible = !present;
+    m_outils.ajout.lblRapatrix.Caption =
+        present
+            ? ""
+            : "Cette recherche se fait avec le logiciel 'Le Rapatrix', qui n'est pas là : placez Rapatrix.exe dans le "
+              "dossier " +
+                  m_outils.chemins.dansDossier(fichiers::dossierDe(kProgrammeRapatrix));
 }
 
 // The downloader's path, its configuration written; nothing, and nothing left, after a refusal.

@@ -35,17 +35,20 @@ struct OutilsTelechargement {
 };
 
 // Hands a web search to the downloader, waits for its end, and imports the sheets that it left in "Tmp". However this
-// ends, neither its configuration nor a sheet stays there.
+// ends, neither its configuration nor a sheet stays there; what was neither added nor refused waits in FichesRecues'
+// folder, which the next import is then proposed for.
 class Telechargement {
   public:
     explicit Telechargement(const OutilsTelechargement& outils) : m_outils(outils) {}
 
+    void ouvrePage();            // says where to put the downloader when it is not there
     void cmdTelecharge_Click();  // nothing without a text to look for
     void txtRechInternet_KeyDown(int code, int majuscule);
 
   private:
     [[nodiscard]] std::optional<std::string> prepare();
     [[nodiscard]] std::string ecritConfiguration();
+    [[nodiscard]] std::string cherche(const std::string& programme);
     [[nodiscard]] bool attends(const std::string& programme);
     [[nodiscard]] bool importeQuandMeme(long fiches);
 

@@ -116,13 +116,13 @@ struct Session::Rouages final : db::Rafraichissement {
     edit::BoitesDeroulantes boitesDeroulantes{base, etats.fiche, machine.dialogues};
     edit::Ressemblances ressemblances{base, machine.dialogues};
     edit::EnregistrementFilm enregistrement{base, etats.ajout, etats.stockage, chemins, film, machine.dialogues};
-    acquire::ImportFiches importFiches{
-        {base, etats.ajout, etats.stockage, enregistrement, doublons, ressemblances, machine.dialogues, machine.ecran},
-        {etats.liste, creeEtAfficheRecherche, afficheNbTitres, boitesDeroulantes},
-        machine.horloge};
+    acquire::ImportFiches importFiches{{base, chemins, etats.ajout, etats.stockage, enregistrement, doublons,
+                                        ressemblances, machine.dialogues, machine.ecran},
+                                       {etats.liste, creeEtAfficheRecherche, afficheNbTitres, boitesDeroulantes},
+                                       machine.horloge};
     acquire::ImportAncienneBase importAncienneBase{
         {base, chemins, etats.ajout, etats.stockage, machine.dialogues, machine.ecran}, *this};
-    acquire::ChoixDossierFiches choixDossierFiches{etats.ajout, machine.dialogues};
+    acquire::ChoixDossierFiches choixDossierFiches{etats.ajout, chemins, machine.dialogues};
     acquire::Telechargement telechargement{{etats.ajout,
                                             etats.fonctions.chkLancerConnexion,
                                             {etats.fonctions.lblTravail, etats.fonctions.ProgressBar3},

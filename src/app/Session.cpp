@@ -172,6 +172,7 @@ void Session::cmdRemplacerImage_Click() {
 
 void Session::ChoixFonction1_Divers() {
     m_rouages->choixFonction.ChoixFonction1_Divers();
+    m_rouages->telechargement.ouvrePage();
 }
 
 void Session::ChoixFonction2_Outils() {
@@ -264,12 +265,21 @@ void Session::cmdSupprInfosPerso_Click() {
 
 void Session::Command13_Click(int indice) {
     m_rouages->modesAjout.Command13_Click(indice);
+    m_rouages->telechargement.ouvrePage();
     m_rouages->raccourcis.retientSaisie();
     if (indice == 2) m_rouages->importAncienneBase.Command13_Click();
 }
 
 void Session::cmdParcourir2_Click() {
     m_rouages->choixDossierFiches.cmdParcourir2_Click();
+}
+
+void Session::txtCheminAjoutAuto_Change() {
+    m_rouages->choixDossierFiches.txtCheminAjoutAuto_Change();
+}
+
+void Session::cmdImporterBase_Click() {
+    m_rouages->importAncienneBase.ImporterAncienneBase();
 }
 
 void Session::cmdAjoutAuto_Click() {

@@ -111,7 +111,9 @@ class Session {
     // Adding.
     void Command13_Click(int indice);
     void cmdParcourir2_Click();
+    void txtCheminAjoutAuto_Change();
     void cmdAjoutAuto_Click();
+    void cmdImporterBase_Click();  // the button of its page: without the question that opening the page asks
     void cmdTelecharge_Click();
     void txtRechInternet_KeyDown(int code, int majuscule);
     void cmdAjoutFilm_Click();

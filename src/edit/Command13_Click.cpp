@@ -11,6 +11,7 @@ void ModesAjout::Command13_Click(int indice) {
     m_ajout.Label5.Caption = "-";
     m_ajout.frameAjoutAuto.Visible = false;
     m_ajout.Frame13.Visible = false;
+    m_ajout.frameImportBase.Visible = indice == 2;
     if (indice == 0) ouvreAjoutAutomatique();
     if (indice == 1) ouvreSaisie();
 }

@@ -22,6 +22,11 @@ struct EtatAjout {
     ecran::ZoneTexte txtRechInternet;
     std::array<ecran::BoutonOption, 4> OptionTelecharge;  // by title, director, actor, year
     ecran::Bouton cmdTelecharge;
+    ecran::Etiquette lblRapatrix;  // where to put the downloader; shown while it is not there
+
+    // Page of the import of a previous installation.
+    ecran::Cadre frameImportBase;
+    ecran::Bouton cmdImporterBase;
 
     // Manual page. Text3: 0 title, 1 director, 2 year, 3 duration, 4 actors.
     std::array<ecran::ZoneTexte, 5> Text3;
@@ -37,6 +42,8 @@ struct EtatAjout {
         ecran::choisit(OptionTelecharge, 0);
         frameAjoutAuto.Visible = false;
         Frame13.Visible = false;
+        frameImportBase.Visible = false;
+        lblRapatrix.Visible = false;
         lblProgression.Visible = false;
         ProgressBar1.Visible = false;
     }

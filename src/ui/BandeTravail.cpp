@@ -46,14 +46,22 @@ void BandeTravail::montre() {
 
 void BandeTravail::suis(const app::Etats& etats) {
     if (!isVisible()) return;
-    const bool ajout = etats.ajout.ProgressBar1.Visible;
-    const ecran::Progression& progression = ajout                                  ? etats.ajout.ProgressBar1
-                                            : etats.fonctions.ProgressBar3.Visible ? etats.fonctions.ProgressBar3
-                                                                                   : etats.fonctions.ProgressBar2;
-    m_texte->setText(
-        QString::fromStdString(ajout ? etats.ajout.lblProgression.Caption : etats.fonctions.lblTravail.Caption));
+    const bool ajout = etats.ajout.ProgressBar1.Visible, autre = etats.fonctions.ProgressBar3.Visible;
+    const ecran::Progression& progression = ajout   ? etats.ajout.ProgressBar1
+                                            : autre ? etats.fonctions.ProgressBar3
+                                                    : etats.fonctions.ProgressBar2;
+    const std::string& texte = ajout ? etats.ajout.lblProgression.Caption : etats.fonctions.lblTravail.Caption;
+    const bool ailleurs = ajout ? seVoitDansSonPanneau("ProgressBar1") : !autre && seVoitDansSonPanneau("ProgressBar2");
+    m_texte->setText(ailleurs ? tr("Travail en cours…") : QString::fromStdString(texte));
+    m_progression->setVisible(!ailleurs);
     m_progression->setRange(0, static_cast<int>(progression.Max));
     m_progression->setValue(static_cast<int>(progression.Value));
+}
+
+// A panel may be scrolled away from its bar.
+bool BandeTravail::seVoitDansSonPanneau(const char* barre) const {
+    const auto* widget = window()->findChild<QProgressBar*>(QLatin1String(barre));
+    return widget && widget->isVisible() && !widget->visibleRegion().isEmpty();
 }
 
 }  // namespace ui

@@ -10,7 +10,8 @@ class QPushButton;
 
 namespace ui {
 
-// The strip at the bottom while long work runs: what is being done, how far it is, and "Annuler".
+// The strip at the bottom while long work runs: what is being done, how far it is, and "Annuler". How far it is stands in
+// one place: in the panel where that shows it, else here.
 class BandeTravail final : public QWidget {
     Q_OBJECT
   public:
@@ -20,6 +21,7 @@ class BandeTravail final : public QWidget {
 
   private:
     void suis(const app::Etats& etats);
+    [[nodiscard]] bool seVoitDansSonPanneau(const char* barre) const;
 
     QLabel* m_texte;
     QProgressBar* m_progression;

@@ -8,12 +8,14 @@
 #include <QKeyEvent>
 #include <QProgressBar>
 #include <QRadioButton>
+#include <QTimer>
 
 namespace ui {
 
 namespace {
 
-constexpr int kToucheEntree = 13;  // as in Windows
+constexpr int kToucheEntree = 13;      // as in Windows
+constexpr int kReposDeLaFrappe = 250;  // milliseconds
 
 }  // namespace
 
@@ -29,6 +31,7 @@ PanneauAjout::PanneauAjout(const Atelier& atelier, QWidget* parent) : QWidget(pa
     boite->addWidget(intitule);
     boite->addWidget(pageAutomatique(atelier));
     boite->addWidget(new PanneauSaisie(atelier));
+    boite->addWidget(pageAncienneVersion(atelier));
     setLayout(boite);
     atelier.liaison.lie(atelier.etats().fonctions.frameDivers, this);
 }
@@ -71,8 +74,6 @@ QWidget* PanneauAjout::pageAutomatique(const Atelier& atelier) {
 
 QLayout* PanneauAjout::fiches(const Atelier& atelier) {
     auto& ajout = atelier.etats().ajout;
-    auto* chemin = nomme(new QLineEdit, "txtCheminAjoutAuto");
-    auto* parcourir = bouton("cmdParcourir2", tr("Parco&urir…"), tr("Choisir le dossier des fiches"));
     auto* nombre = nomme((new Etiquette)->avecTon(Ton::Discret), "lblNbFilms");
     auto* lancer = bouton<BoutonAccent>("cmdAjoutAuto", tr("Ajouter les &fiches"),
                                         tr("Ajouter à la base toutes les fiches du dossier"));
@@ -80,27 +81,41 @@ QLayout* PanneauAjout::fiches(const Atelier& atelier) {
     auto* progression = nomme(new QProgressBar, "ProgressBar1", tr("Avancement de l'ajout"));
     progression->setTextVisible(false);
     progression->setFixedHeight(8);
-    atelier.liaison.lie(ajout.txtCheminAjoutAuto, chemin);
-    atelier.liaison.lie(ajout.cmdParcourir2, parcourir);
     atelier.liaison.lie(ajout.lblNbFilms, nombre);
     atelier.liaison.lie(ajout.cmdAjoutAuto, lancer);
     atelier.liaison.lie(ajout.lblProgression, titre);
     atelier.liaison.lie(ajout.ProgressBar1, progression);
-    atelier.auClic(parcourir, &app::Session::cmdParcourir2_Click);
     atelier.auClic(lancer, &app::Session::cmdAjoutAuto_Click);
 
     auto* boite = section(atelier, Aide::Fiches);
-    auto* ligne = rangee({chemin});
-    ligne->addWidget(parcourir);
-    auto* dossier = colonne(kSerre);
-    dossier->addWidget(legende(tr("&Dossier des fiches"), chemin));
-    dossier->addLayout(ligne);
     boite->addSpacing(kSerre);
-    boite->addLayout(dossier);
+    boite->addLayout(dossierDesFiches(atelier));
     boite->addWidget(nombre);
     boite->addLayout(aGauche({lancer}));
     boite->addWidget(titre);
     boite->addWidget(progression);
+    return boite;
+}
+
+// What is typed is counted once the typing rests: a folder of many files, or of the network, takes its time.
+QLayout* PanneauAjout::dossierDesFiches(const Atelier& atelier) {
+    auto& ajout = atelier.etats().ajout;
+    auto* chemin = nomme(new QLineEdit, "txtCheminAjoutAuto");
+    auto* parcourir = bouton("cmdParcourir2", tr("Parco&urir…"), tr("Choisir le dossier des fiches"));
+    atelier.liaison.lie(ajout.txtCheminAjoutAuto, chemin);
+    atelier.liaison.lie(ajout.cmdParcourir2, parcourir);
+    atelier.auClic(parcourir, &app::Session::cmdParcourir2_Click);
+    auto* repos = new QTimer(this);
+    repos->setSingleShot(true);
+    repos->setInterval(kReposDeLaFrappe);
+    connect(chemin, &QLineEdit::textEdited, repos, qOverload<>(&QTimer::start));
+    connect(repos, &QTimer::timeout, &atelier.commande,
+            [s = &atelier.session, c = &atelier.commande] { c->execute([=] { s->txtCheminAjoutAuto_Change(); }); });
+    auto* ligne = rangee({chemin});
+    ligne->addWidget(parcourir);
+    auto* boite = colonne(kSerre);
+    boite->addWidget(legende(tr("&Dossier des fiches"), chemin));
+    boite->addLayout(ligne);
     return boite;
 }
 
@@ -129,7 +144,30 @@ QLayout* PanneauAjout::internet(const Atelier& atelier) {
     boite->addLayout(champ(tr("Te&xte à chercher sur MovieCovers"), texte));
     boite->addWidget(groupe);
     boite->addLayout(aGauche({telecharger}));
+    auto* absent = nomme((new Etiquette)->avecLignes(4), "lblRapatrix");
+    atelier.liaison.lie(ajout.lblRapatrix, absent);
+    boite->addWidget(absent);
     return boite;
+}
+
+QWidget* PanneauAjout::pageAncienneVersion(const Atelier& atelier) {
+    auto& ajout = atelier.etats().ajout;
+    auto* importer = bouton<BoutonAccent>("cmdImporterBase", tr("Choisir le dossier de cette &version…"),
+                                          tr("Le dossier où se trouvent sa base et ses images"));
+    atelier.liaison.lie(ajout.cmdImporterBase, importer);
+    atelier.auClic(importer, &app::Session::cmdImporterBase_Click);
+    auto* boite =
+        section(tr("Reprendre les films d'une installation précédente"),
+                tr("Ses films, ce que vous en possédez et leurs images sont ajoutés à la base ouverte. L'installation "
+                   "précédente n'est que lue ; les films qui sont déjà là restent comme ils sont, et l'import peut "
+                   "être refait."));
+    boite->addSpacing(kSerre);
+    boite->addLayout(aGauche({importer}));
+    auto* cadre = nomme(new QWidget, "frameImportBase");
+    boite->setContentsMargins(0, 0, 0, 0);
+    cadre->setLayout(boite);
+    atelier.liaison.lie(ajout.frameImportBase, cadre);
+    return cadre;
 }
 
 }  // namespace ui

@@ -6,7 +6,7 @@
 
 namespace ui {
 
-// Adding films: the three ways, and the pages of the automatic and the manual one.
+// Adding films: the three ways, each with its page.
 class PanneauAjout final : public QWidget {
     Q_OBJECT
   public:
@@ -19,7 +19,9 @@ class PanneauAjout final : public QWidget {
     [[nodiscard]] QLayout* manieres(const Atelier& atelier);
     [[nodiscard]] QWidget* pageAutomatique(const Atelier& atelier);
     [[nodiscard]] QLayout* fiches(const Atelier& atelier);
+    [[nodiscard]] QLayout* dossierDesFiches(const Atelier& atelier);
     [[nodiscard]] QLayout* internet(const Atelier& atelier);
+    [[nodiscard]] QWidget* pageAncienneVersion(const Atelier& atelier);
 
     const Atelier m_atelier;
     QLineEdit* m_rechercheInternet = nullptr;

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QTextEdit>
+#include <QTimer>
 
 namespace {
 
@@ -203,6 +204,32 @@ TEST_F(Fenetre, AbandonedImportKeepsWhatWasAdded) {
     EXPECT_FALSE(essai.trouve("cmdAnnuler").isVisible());
 }
 
+TEST_F(Fenetre, AJobHasOneBar) {
+    std::vector<Film> films(200, {"", "Quelqu'un", "Drame", ""});
+    for (std::size_t i = 0; i < films.size(); ++i)
+        films[i].titre = "Film " + std::to_string(i);
+    int regards = 0;
+    QTimer regard;
+    QObject::connect(&regard, &QTimer::timeout, &regard, [&] {
+        if (!essai.trouve("cmdAnnuler").isVisible()) return;
+        ++regards;
+        EXPECT_NE(essai.trouve("ProgressBar1").isVisible(), essai.trouve("ProgressBar3").isVisible());
+    });
+    regard.start(0);
+    essai.importe(films);
+    EXPECT_GT(regards, 0);
+}
+
+TEST_F(Fenetre, AFolderThatIsTypedIsCounted) {
+    essai.dossier.ecrit("Fiches/a.FILM", "Alien");
+    essai.clique("cmdAfficherFonctions");
+    EXPECT_EQ(essai.trouve("lblRapatrix").isVisible(), true);
+    auto& zone = essai.trouve<QLineEdit>("txtCheminAjoutAuto");
+    zone.setFocus();
+    QTest::keyClicks(&zone, "Fiches");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return essai.texte("lblNbFilms") == "Un fichier .FILM trouvé."; }));
+}
+
 TEST_F(Fenetre, BringsAPreviousVersionAlongByItsButton) {
     essai.dossier.ecrit("Avant/Ambrelis.ini", "1\r\nC:\\Avant\\Affiches\r\n");
     essai.dossier.ecrit("Avant/affiches/rouge.jpg", octetsDImage(Qt::red));
@@ -217,8 +244,11 @@ TEST_F(Fenetre, BringsAPreviousVersionAlongByItsButton) {
     essai.clique("cmdAfficherFonctions");
     EXPECT_TRUE(essai.trouve("Command13_2").isEnabled());
     essai.clique("Command13_2");
-    EXPECT_EQ(essai.boites.messages.back(), "1 film ajouté, dont 1 possédé.");
+    EXPECT_TRUE(essai.boites.messages.back().starts_with("1 film ajouté, dont 1 possédé.\n"));
     EXPECT_FALSE(essai.trouve("frameAjoutAuto").isVisible());
+    EXPECT_TRUE(essai.trouve("frameImportBase").isVisible());
+    essai.clique("cmdImporterBase");
+    EXPECT_TRUE(essai.boites.messages.back().starts_with("0 film ajouté.\n1 film déjà présent.\n"));
     essai.cliqueTitre("Été");
     attendsLaFiche("Été", "R");
     EXPECT_GT(couleurAffiche().red(), 200);

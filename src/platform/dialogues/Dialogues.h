@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace dialogues {
 
@@ -23,6 +24,12 @@ struct DemandeChemin {
     bool extensionAjoutee = false;  // who asks appends it to the answer
 };
 
+// A report, its lists in two forms: within the text, and one line for each of their elements.
+struct Rapport {
+    std::string texte;
+    std::vector<std::string> lignes;
+};
+
 // Every box the program shows. The window opens Qt's own; tests answer from a script.
 // A box is never shown inside a transaction; the panels' state is on the screen before it opens.
 class Dialogues {
@@ -31,6 +38,8 @@ class Dialogues {
 
     // kOk for a box with one button, kOui or kNon for style 36 (closing it answers No).
     virtual int MsgBox(const std::string& texte, int style = kSimple, const std::string& titre = kTitre) = 0;
+    // A message with the report's text, style 64; the window's lists the lines, to scroll through, select and copy.
+    virtual void montre(const Rapport& rapport) { MsgBox(rapport.texte, kInformation); }
     // The text typed; empty also when cancelled.
     virtual std::string InputBox(const std::string& invite, const std::string& titre = kTitre,
                                  const std::string& defaut = "") = 0;

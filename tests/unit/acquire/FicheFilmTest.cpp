@@ -4,6 +4,7 @@
 #include "doubles/DialoguesScript.h"
 #include "doubles/DossierTemporaire.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -97,24 +98,43 @@ TEST(FicheFilm, takesNoNoiseForASheet) {
 
 TEST(RapportImport, tellsOnlyWhatThereIs) {
     acquire::RapportImport rapport;
-    EXPECT_EQ(rapport.texte(), "0 film ajouté.");
+    EXPECT_EQ(rapport.texte().texte, "0 film ajouté.");
     rapport.ajoutes = 1;
     rapport.titresRefuses = {"Alien"};
-    EXPECT_EQ(rapport.texte(), "1 film ajouté.\n1 film non ajouté car déjà dans la base.\n- Déjà existant : \nAlien");
+    EXPECT_EQ(rapport.texte().texte,
+              "1 film ajouté.\n1 film non ajouté car déjà dans la base.\n- Déjà existant : \nAlien");
     rapport.ajoutes = 2;
-    rapport.titresRefuses = {"Alien", "Z"};
+    rapport.titresRefuses = {"Alien", "Le Bon, La Brute"};
     rapport.affichesManquantes = {"/f/a.jpg", "/f/b.jpg (trop grande pour la base) "};
     rapport.fichesIllisibles = {"/f/c.film"};
-    EXPECT_EQ(rapport.texte(),
-              "2 films ajoutés.\n2 films non ajoutés car déjà dans la base.\n- Image manquante :\n/f/a.jpg, /f/b.jpg "
-              "(trop grande pour la base) \n- Déjà existant : \nAlien, Z\n- Fiche illisible :\n/f/c.film");
+    rapport.fichesRestantes = {"/f/d.film"};
+    rapport.affichesAjoutees = 1;
+    rapport.rangement = {"Ailleurs."};
+    const std::string fin =
+        "\n1 image ajoutée à un film déjà présent.\nL'import a été interrompu : relancez-le pour ajouter la fiche qui "
+        "reste.\nAilleurs.";
+    const dialogues::Rapport montre = rapport.texte();
+    EXPECT_EQ(
+        montre.texte,
+        "2 films ajoutés.\n2 films non ajoutés car déjà dans la base.\n- Image manquante :\n/f/a.jpg, /f/b.jpg "
+        "(trop grande pour la base) \n- Déjà existant : \nAlien, Le Bon, La Brute\n- Fiche illisible :\n/f/c.film" +
+            fin);
+    std::string lignes;
+    for (const std::string& ligne : montre.lignes)
+        lignes += (lignes.empty() ? "" : "\n") + ligne;
+    EXPECT_EQ(
+        lignes,
+        "2 films ajoutés.\n2 films non ajoutés car déjà dans la base.\n- Image manquante :\n/f/a.jpg\n/f/b.jpg "
+        "(trop grande pour la base) \n- Déjà existant : \nAlien\nLe Bon, La Brute\n- Fiche illisible :\n/f/c.film" +
+            fin);
 }
 
-TEST(ChoixDossierFiches, countsTheSheetsOfTheChosenFolder) {
-    doubles::DossierTemporaire dossier;
+TEST(ChoixDossierFiches, countsTheSheetsOfTheFolderChosenOrTyped) {
+    const doubles::DossierTemporaire dossier, personnel;
     doubles::DialoguesScript dialogues;
     edit::EtatAjout ajout;
-    acquire::ChoixDossierFiches choix(ajout, dialogues);
+    const db::Chemins chemins = db::Chemins::depuis(dossier.chemin());
+    acquire::ChoixDossierFiches choix(ajout, chemins, dialogues);
     const auto choisit = [&](const std::string& reponse) {
         dialogues.attendDossier("Dossier des fiches de films", ajout.txtCheminAjoutAuto.Text, reponse);
         choix.cmdParcourir2_Click();
@@ -130,6 +150,22 @@ TEST(ChoixDossierFiches, countsTheSheetsOfTheChosenFolder) {
     EXPECT_EQ(choisit(dossier.chemin()), "2 fichiers .FILM trouvés.");
     EXPECT_EQ(choisit(""), "2 fichiers .FILM trouvés.");  // cancelled
     EXPECT_EQ(ajout.txtCheminAjoutAuto.Text, dossier.chemin());
+
+    const auto tape = [&](const std::string& texte) {
+        ajout.txtCheminAjoutAuto.Text = texte;
+        choix.txtCheminAjoutAuto_Change();
+        return ajout.lblNbFilms.Caption;
+    };
+    const char* avant = std::getenv("HOME");
+    const std::string rendu = avant ? avant : "";
+    setenv("HOME", personnel.chemin("").c_str(), 1);
+    personnel.ecrit("été/a.film", "");
+    dossier.ecrit("Fiches/a.film", "");
+    EXPECT_EQ(tape("~/été"), "Un fichier .FILM trouvé.");
+    EXPECT_EQ(tape("Fiches"), "Un fichier .FILM trouvé.");
+    EXPECT_EQ(tape("Fiches/a.film"), "Ce dossier n'existe pas.");
+    EXPECT_EQ(tape(""), "");
+    setenv("HOME", rendu.c_str(), 1);
 }
 
 }  // namespace

@@ -37,7 +37,7 @@ struct ImportDEssai : testing::Test {
     edit::Ressemblances ressemblances{essai.base, dialogues};
     edit::BoitesDeroulantes boites{essai.base, fiche, dialogues};
     acquire::ImportFiches import{
-        {essai.base, ajout, stockage, enregistrement, doublons, ressemblances, dialogues, ecran},
+        {essai.base, chemins, ajout, stockage, enregistrement, doublons, ressemblances, dialogues, ecran},
         {liste, creeEtAfficheRecherche, afficheNbTitres, boites},
         horloge};
 

@@ -7,6 +7,9 @@
 #include <filesystem>
 
 #include <gmock/gmock.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -91,6 +94,7 @@ TEST_F(ImportTest, storesASheetWithItsPosterAndItsHolding) {
         EXPECT_EQ(possession.valeur(vide), dao::Valeur("")) << vide;
 
     EXPECT_FALSE(ajout.modeModifier());
+    EXPECT_EQ(ajout.lblNbFilms.Caption, "Un fichier .FILM trouvé.");
     EXPECT_FALSE(ajout.lblProgression.Visible || ajout.ProgressBar1.Visible);
     EXPECT_EQ(liste.critereRecherche, "DateAjout = \"21/11/2026\"");
     EXPECT_EQ(liste.ChoixZone.Text, "Recherche");
@@ -121,15 +125,18 @@ TEST_F(ImportTest, reportsMissingAndTooLargePostersAndKeepsSilentAtTheLimit) {
         tailles.push_back(affiche.size());
     EXPECT_THAT(tailles, ElementsAre(3 + 229999u, 0u, 0u, 0u));
 
-    // As files, any size goes; what cannot be copied is told.
+    // As files, any size goes; what cannot be read is told.
     ecran::choisit(stockage.Option3, 1);
     fiches.ecrit("230001.FILM", "autre\r\nR");
     fiches.ecrit("sans.FILM", "encore\r\nR");
-    fiches.ecrit("sans.jpg", "x");
-    std::filesystem::create_directories(essai.dossier.chemin("Images/Encore - R.jpg"));  // a folder stands in its place
+    fiches.ecrit("sans.jpg", "");
+    std::filesystem::resize_file(fiches.chemin("sans.jpg"), (64 << 20) + 1);
     importe(4, "2 films ajoutés.\n2 films non ajoutés car déjà dans la base.\n- Image manquante :\n" +
-                   fiches.chemin("sans.jpg") + "\n- Déjà existant : \n229999, 230000");
+                   fiches.chemin("sans.jpg") +
+                   " (trop grande) \n- Déjà existant : \n229999, 230000\n1 image ajoutée à un "
+                   "film déjà présent.");
     EXPECT_EQ(std::filesystem::file_size(essai.dossier.chemin("Images/Autre - R.jpg")), 230001u);
+    EXPECT_EQ(std::filesystem::file_size(essai.dossier.chemin("Images/230000 - R.jpg")), 230000u);
     EXPECT_THAT(essai.colonne("SELECT * FROM films WHERE titre =\"encore\"", "Affiche"), ElementsAre(""));
 }
 
@@ -160,13 +167,95 @@ TEST_F(ImportTest, refusesWhatIsAlreadyThereAndWhatTheUserFindsTooClose) {
     EXPECT_EQ(nombre("Personnel"), 3u);
 }
 
-TEST_F(ImportTest, passesOverASheetThatCannotBeRead) {
+TEST_F(ImportTest, passesOverWhatIsNoSheet) {
     fiches.ecrit("b.film", "Alien\r\nScott");
     fiches.ecrit("b.jpg", "x");
     fiches.ecrit("a.film", "");
-    std::filesystem::resize_file(fiches.chemin("a.film"), (64 << 20) + 1);  // no sheet is that large
+    std::filesystem::resize_file(fiches.chemin("a.film"), 600 << 20);  // no sheet is that large
+    fiches.ecrit("bruit.film",
+                 "\x7F"
+                 "ELF\2\1\1\0\0\0\0\0\0\0\0\0"s);
     std::filesystem::create_directory(fiches.chemin("c.film"));
-    importe(2, "1 film ajouté.\n- Fiche illisible :\n" + fiches.chemin("a.film"));
+    std::filesystem::create_symlink("d.film", fiches.chemin("d.film"));  // a link to itself
+    std::filesystem::create_symlink("/dev/zero", fiches.chemin("e.film"));
+    ASSERT_EQ(mkfifo(fiches.chemin("f.film").c_str(), 0600), 0);
+    ASSERT_EQ(mkfifo(fiches.chemin("g.jpg").c_str(), 0600), 0);
+    fiches.ecrit("g.film", "Solaris\r\nT");
+    importe(4, "2 films ajoutés.\n- Image manquante :\n" + fiches.chemin("g.jpg") + "\n- Fiche illisible :\n" +
+                   fiches.chemin("a.film") + ", " + fiches.chemin("bruit.film"));
+}
+
+// No file may grow beyond that while this stands: what a full disk answers, for one large picture.
+class DisquePlein {
+  public:
+    explicit DisquePlein(rlim_t octets) {
+        signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_avant);
+        rlimit limite = m_avant;
+        limite.rlim_cur = octets;
+        setrlimit(RLIMIT_FSIZE, &limite);
+    }
+    DisquePlein(const DisquePlein&) = delete;
+    DisquePlein& operator=(const DisquePlein&) = delete;
+    ~DisquePlein() { setrlimit(RLIMIT_FSIZE, &m_avant); }
+
+  private:
+    rlimit m_avant{};
+};
+
+// The user is told what could not be written, not that his pictures are missing; the films before it are stored.
+TEST_F(ImportTest, aPosterThatCannotBeWrittenEndsIt) {
+    ecritFiches(20);
+    fiches.ecrit("f0010.jpg", std::string(2 << 20, 'x'));
+    ecran::choisit(stockage.Option3, 1);
+    const std::string images = essai.dossier.ecrit("Images", "");  // a file stands where the folder should be
+    const auto importeEtEchoue = [&](const std::string& echec, const std::string& rapport) {
+        attendQuestions(20, true, false, "DVD");
+        dialogues.attendMsgBox(echec, dialogues::kCritique);
+        dialogues.attendMsgBox(rapport, kInformation);
+        import.cmdAjoutAuto_Click();
+        dialogues.verifie();
+    };
+    importeEtEchoue("Le dossier des images " + images + "/ n'est pas accessible en écriture !",
+                    "0 film ajouté.\nL'import a été interrompu : relancez-le pour ajouter les 20 fiches qui restent.");
+    std::filesystem::remove(images);
+    {
+        const DisquePlein disque(1 << 20);
+        importeEtEchoue(
+            "Le fichier image " + images + "/Film F0010 - R.jpg n'a pas pu être écrit (Disque plein/Lecture seule ?)",
+            "10 films ajoutés.\nL'import a été interrompu : relancez-le pour ajouter les 10 fiches qui restent.");
+    }
+    EXPECT_FALSE(std::filesystem::exists(images + "/Film F0010 - R.jpg"));
+    EXPECT_EQ(nombre("Personnel"), 10u);
+    attendQuestions(20, false, false);
+    dialogues.attendMsgBox(
+        "10 films ajoutés.\n10 films non ajoutés car déjà dans la base.\n- Déjà existant : \nFilm F0000, Film F0001, "
+        "Film "
+        "F0002, Film F0003, Film F0004, Film F0005, Film F0006, Film F0007, Film F0008, Film F0009",
+        kInformation);
+    import.cmdAjoutAuto_Click();
+    for (const std::string& affiche : essai.colonne("Films", "Affiche"))
+        EXPECT_TRUE(std::filesystem::exists(images + "/" + affiche.substr(3))) << affiche;
+}
+
+TEST_F(ImportTest, aFilmThatIsThereWithoutAPosterIsGivenIt) {
+    for (const std::size_t option : {0, 1}) {
+        ecran::choisit(stockage.Option3, option);
+        const std::string sans = "Sans " + std::to_string(option), avec = "Avec " + std::to_string(option);
+        doubles::BaseDEssai::ajoute(essai.base.films, {{"Titre", sans}, {"Realisateur", "R"}, {"Resume", "Ancien"}});
+        doubles::BaseDEssai::ajoute(essai.base.films,
+                                    {{"Titre", avec}, {"Realisateur", "R"}, {"Affiche", "JPGautre.jpg"}});
+        fiches.ecrit("1.film", sans + "\nR");
+        fiches.ecrit("1.jpg", "image");
+        fiches.ecrit("2.film", avec + "\nR");
+        fiches.ecrit("2.jpg", "image");
+        importe(2, "0 film ajouté.\n2 films non ajoutés car déjà dans la base.\n- Déjà existant : \n" + sans + ", " +
+                       avec + "\n1 image ajoutée à un film déjà présent.");
+    }
+    EXPECT_THAT(essai.colonne("Films", "Affiche"),
+                ElementsAre("STOimage", "JPGautre.jpg", "JPGSans 1 - R.jpg", "JPGautre.jpg"));
+    EXPECT_EQ(essai.dossier.lit("Images/Sans 1 - R.jpg"), "image");
+    EXPECT_EQ(essai.colonne("Films", "Resume")[0], "Ancien");
 }
 
 TEST_F(ImportTest, showsItsProgressAndLeavesWhatWasAddedWhenStopped) {
@@ -178,7 +267,8 @@ TEST_F(ImportTest, showsItsProgressAndLeavesWhatWasAddedWhenStopped) {
         EXPECT_TRUE(ajout.lblProgression.Visible && ajout.ProgressBar1.Visible);
     };
     ecran.arretApres = 1;
-    importe(300, "1 film ajouté.", true);
+    importe(300, "1 film ajouté.\nL'import a été interrompu : relancez-le pour ajouter les 299 fiches qui restent.",
+            true);
     EXPECT_THAT(legendes, ElementsAre("Film f0000 1/300"));
     EXPECT_THAT(essai.colonne("Personnel", "Titre2"), ElementsAre("Film F0000"));
     EXPECT_EQ(ecran.soufflesHorsTravail, 0);
@@ -202,7 +292,10 @@ TEST_F(ImportTest, toldOfTheBasesFailureReportsWhatIsStored) {
     };
     attendQuestions(acquire::LotImport::kFiches + 20, true, false, "DVD");
     dialogues.attendMsgBox("Erreur 3260 : Mise à jour impossible : la base est verrouillée par un autre programme.");
-    dialogues.attendMsgBox(std::to_string(acquire::LotImport::kFiches) + " films ajoutés.", kInformation);
+    dialogues.attendMsgBox(
+        std::to_string(acquire::LotImport::kFiches) +
+            " films ajoutés.\nL'import a été interrompu : relancez-le pour ajouter les 20 fiches qui restent.",
+        kInformation);
     import.cmdAjoutAuto_Click();
     autre.Rollback();
     EXPECT_EQ(nombre("Films"), std::size_t{acquire::LotImport::kFiches});

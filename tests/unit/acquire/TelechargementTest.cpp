@@ -1,5 +1,6 @@
 #include "acquire/AdresseRecherche.h"
 #include "acquire/ConfigurationRapatrix.h"
+#include "acquire/FichesRecues.h"
 #include "acquire/cmdTelecharge_Click.h"
 #include "doubles/DocumentsEnregistres.h"
 #include "doubles/Rapatrix.h"
@@ -102,7 +103,8 @@ TEST_F(TelechargementTest, ImportsWhatTheDownloaderLeftEvenIfItFailsAndCleansBeh
     EXPECT_THAT(essai.colonne("Films", "Titre"), ElementsAre("Le Cercle Rouge", "L'Été"));
     EXPECT_THAT(essai.colonne("Films", "Affiche"), ElementsAre("STO\xFF\xD8 une affiche", ""));
     EXPECT_THAT(essai.colonne("Personnel", "Support"), ElementsAre("DVD", "DVD"));
-    EXPECT_THAT(restes(), ElementsAre("autre.txt"));
+    EXPECT_THAT(restes(), ElementsAre("autre.txt", "ImageTMP.jpg"));  // the film on the sheet keeps its poster
+    EXPECT_FALSE(dossier().existe(acquire::kDossierAImporter));
     EXPECT_EQ(ajout.txtCheminAjoutAuto.Text, chemins.dossierTmp);
     EXPECT_TRUE(demandes.premierPlan);
     EXPECT_EQ(demandes.focus, "txtRechInternet");
@@ -130,6 +132,9 @@ TEST_F(TelechargementTest, TheFolderMayBearAnySign) {
 
 TEST_F(TelechargementTest, OneThatIsNotThereOrCannotBeRunIsToldAndLeavesNothing) {
     dossier().ecrit("Tmp/ancienne.film", "Ancienne");
+    telechargement.ouvrePage();
+    EXPECT_TRUE(ajout.lblRapatrix.Visible);
+    EXPECT_THAT(ajout.lblRapatrix.Caption, testing::HasSubstr(dossier().chemin("Le Rapatrix/")));
     dialogues.attendMsgBox("Le logiciel 'Le Rapatrix' n'a pas été trouvé !", kExclamation);
     cherche("Alien");
     EXPECT_THAT(restes(), ElementsAre("ancienne.film"));
@@ -139,6 +144,54 @@ TEST_F(TelechargementTest, OneThatIsNotThereOrCannotBeRunIsToldAndLeavesNothing)
     dialogues.attendMsgBox(view::texteEchecLancement(systeme::Lancement::Interdit, programme), dialogues::kCritique);
     cherche("Alien");
     EXPECT_THAT(restes(), IsEmpty());
+    EXPECT_FALSE(ajout.lblRapatrix.Visible);
+}
+
+// A sheet that was neither added nor refused waits outside "Tmp" with its poster, and the next click goes on with it.
+TEST_F(TelechargementTest, WhatWasNeitherAddedNorRefusedIsKept) {
+    const doubles::Rapatrix rapatrix(dossier());
+    const std::string attente = dossier().chemin(acquire::kDossierAImporter);
+    const auto rapport = [&](const std::string& debut, int fiches) {
+        const std::string nombre = std::to_string(fiches);
+        return debut +
+               (fiches == 1
+                    ? "\nL'import a été interrompu : relancez-le pour ajouter la fiche qui reste.\n1 fiche est gardée"
+                    : "\nL'import a été interrompu : relancez-le pour ajouter les " + nombre +
+                          " fiches qui restent.\n" + nombre + " fiches sont gardées") +
+               " dans " + attente + ".";
+    };
+    {  // another program holds the base
+        dao::Database autre = dao::DBEngine::OpenDatabase(dossier().chemin("Films.mdb"));
+        const dao::Transaction verrou(autre);
+        dao::Recordset films = autre.OpenRecordset("Films");
+        doubles::BaseDEssai::ajoute(films, {{"Titre", "Autre"}});
+        attendQuestions(2, false, false);
+        dialogues.attendMsgBox(
+            "Erreur 3260 : Mise à jour impossible : la base est verrouillée par un autre programme.");
+        dialogues.attendMsgBox(rapport("0 film ajouté.", 2), kInformation);
+        cherche("deux");
+    }
+    EXPECT_THAT(restes(), IsEmpty());
+    EXPECT_EQ(ajout.txtCheminAjoutAuto.Text, attente);
+    EXPECT_EQ(ajout.lblNbFilms.Caption, "2 fichiers .FILM trouvés.");
+
+    ecran.pendantSouffle = [&] {
+        if (ajout.ProgressBar1.Visible) ecran.arretApres = 1;
+    };
+    attendQuestions(2, false, false);
+    dialogues.attendMsgBox(rapport("1 film ajouté.", 1), kInformation);
+    cherche("deux");
+    EXPECT_THAT(fichiers::listeFichiers(attente), ElementsAre("1.FILM", "1.JPG", "2 (2).film", "2.film"));
+    EXPECT_EQ(dossier().lit("À importer/1.JPG"), "\xFF\xD8 une affiche");
+    EXPECT_THAT(restes(), IsEmpty());
+
+    ecran.pendantSouffle = nullptr;
+    ecran.arretApres = 0;
+    attendQuestions(3, false, false);
+    dialogues.attendMsgBox("1 film ajouté.\n2 films non ajoutés car déjà dans la base.\n- Image manquante :\n" +
+                               attente + "/2 (2).jpg\n- Déjà existant : \nLe Cercle Rouge, L'Été",
+                           kInformation);
+    import.cmdAjoutAuto_Click();
 }
 
 TEST_F(TelechargementTest, WhatTheUserStopsIsImportedOnlyIfHeWants) {
