@@ -1,6 +1,9 @@
 #include "ui/DialoguesQt.h"
 
+#include "ui/Composition.h"
+
 #include <QApplication>
+#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
@@ -9,8 +12,9 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScrollArea>
+#include <QShortcut>
 
 namespace ui {
 
@@ -37,19 +41,42 @@ QMessageBox::Icon icone(int style) {
     }
 }
 
-// A report may list hundreds of titles: its text scrolls, so that the buttons stay on the screen.
-void faitDefiler(QMessageBox& boite) {
-    auto* texte = boite.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+QString joint(const std::vector<std::string>& lignes) {
+    QString texte;
+    for (const std::string& ligne : lignes)
+        texte += qt(ligne) + QLatin1Char('\n');
+    texte.chop(1);
+    return texte;
+}
+
+QLabel* texteDe(const QMessageBox& boite) {
+    return boite.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+}
+
+// A report may list thousands of titles: it scrolls, so that the buttons stay on the screen. The box keeps its text.
+QPlainTextEdit* faitDefiler(QMessageBox& boite, const QString& liste) {
+    auto* texte = texteDe(boite);
     auto* grille = qobject_cast<QGridLayout*>(boite.layout());
-    if (!texte || !grille) return;
-    auto* zone = new QScrollArea(&boite);
-    delete grille->replaceWidget(texte, zone);
-    texte->setWordWrap(true);
-    texte->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    zone->setWidget(texte);
-    zone->setWidgetResizable(true);
-    zone->setFrameShape(QFrame::NoFrame);
-    zone->setMinimumSize(520, 340);
+    if (!texte || !grille) return nullptr;
+    auto* vue = nomme(new QPlainTextEdit(&boite), "lstRapport", QObject::tr("Rapport"));
+    delete grille->replaceWidget(texte, vue);
+    texte->hide();
+    vue->setReadOnly(true);
+    vue->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    vue->setFrameShape(QFrame::NoFrame);
+    vue->setTabChangesFocus(true);
+    vue->setPlainText(liste);
+    vue->setMinimumSize(520, 340);
+    return vue;
+}
+
+// Where neither the text nor a part of it has the keyboard.
+void copieParCtrlC(QDialog& boite, const QString& texte, QLabel* etiquette) {
+    auto* copier = new QShortcut(QKeySequence::Copy, &boite);
+    QObject::connect(copier, &QShortcut::activated, &boite, [texte, etiquette] {
+        const bool choisi = etiquette && etiquette->hasSelectedText();
+        QGuiApplication::clipboard()->setText(choisi ? etiquette->selectedText() : texte);
+    });
 }
 
 // Qt's French catalogue lacks the names of the kinds of files that its box shows.
@@ -68,6 +95,7 @@ void compose(QInputDialog& boite, const std::string& invite, const std::string& 
     if (auto* texte = boite.findChild<QLabel*>()) {
         texte->setTextFormat(Qt::PlainText);
         texte->setWordWrap(true);
+        texte->setTextInteractionFlags(Qt::TextSelectableByMouse);
     }
     boite.resize(460, boite.sizeHint().height());
 }
@@ -114,13 +142,30 @@ QWidget* DialoguesQt::parent() {
 }
 
 int DialoguesQt::MsgBox(const std::string& texte, int style, const std::string& titre) {
+    return montre(texte, {}, style, titre);
+}
+
+void DialoguesQt::montre(const dialogues::Rapport& rapport) {
+    static constexpr std::size_t kPeuDeLignes = 12;
+    const bool liste = rapport.lignes.size() > kPeuDeLignes;
+    montre(rapport.texte, liste ? rapport.lignes : std::vector<std::string>(), dialogues::kInformation,
+           dialogues::kTitre);
+}
+
+int DialoguesQt::montre(const std::string& texte, const std::vector<std::string>& lignes, int style,
+                        const std::string& titre) {
     m_liaison.ecrit();
     QMessageBox boite(icone(style), qt(titre), {}, QMessageBox::NoButton, parent());
     boite.setTextFormat(Qt::PlainText);
     boite.setText(qt(texte));
     boite.setStandardButtons(style == dialogues::kQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     if (style == dialogues::kQuestion) boite.setEscapeButton(QMessageBox::No);
-    if (texte.size() > kLongTexte) faitDefiler(boite);
+    const QString liste = lignes.empty() ? qt(texte) : joint(lignes);
+    if (!lignes.empty() || texte.size() > kLongTexte)
+        faitDefiler(boite, liste);
+    else
+        boite.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    copieParCtrlC(boite, liste, texteDe(boite));
     switch (boite.exec()) {
         case QMessageBox::Yes:
             return dialogues::kOui;

@@ -8,19 +8,23 @@
 
 namespace ui {
 
-// The boxes of the program as Qt's own, in French. Texts are shown plainly, never as rich text.
+// The boxes of the program as Qt's own, in French. Texts are shown plainly, never as rich text; they can be selected, and
+// Ctrl+C copies what is selected or, when nothing is, the whole.
 class DialoguesQt final : public dialogues::Dialogues {
   public:
     explicit DialoguesQt(Liaison& liaison) : m_liaison(liaison) {}
     void metParent(QWidget* fenetre) { m_fenetre = fenetre; }
 
     int MsgBox(const std::string& texte, int style, const std::string& titre) override;
+    void montre(const dialogues::Rapport& rapport) override;
     std::string InputBox(const std::string& invite, const std::string& titre, const std::string& defaut) override;
     std::string demandeChemin(const dialogues::DemandeChemin& demande) override;
     std::string choisitFichier(const dialogues::DemandeFichier& demande) override;
     std::string choisitDossier(const std::string& titre, const std::string& dossierInitial) override;
 
   private:
+    // Long texts, and those that come by `lignes`, in a list that scrolls.
+    int montre(const std::string& texte, const std::vector<std::string>& lignes, int style, const std::string& titre);
     QWidget* parent();  // the window in use, else the main one; none as long as that is not shown
 
     Liaison& m_liaison;

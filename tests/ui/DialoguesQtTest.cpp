@@ -2,14 +2,17 @@
 #include "ui/DialoguesQt.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
@@ -65,19 +68,50 @@ TEST(DialoguesQt, ABoxBelongsToTheWindowInUse) {
     }
 }
 
-TEST(DialoguesQt, ALongReportKeepsItsButtonsOnTheScreen) {
+// A report of a whole life's import: the box comes at once, keeps its text, and lists it line by line.
+TEST(DialoguesQt, ALongReportIsAListThatIsScrolledSelectedAndCopied) {
     ui::Liaison liaison;
     ui::DialoguesQt boites(liaison);
-    std::string rapport = "900 films ajoutés.\n- Déjà existant : \n";
-    for (int i = 0; i < 900; ++i)
-        rapport += "Un titre déjà présent dans la base, ";
+    dialogues::Rapport rapport{"100000 films ajoutés.\n- Déjà existant : \n",
+                               {"100000 films ajoutés.", "- Déjà existant : "}};
+    std::string parLignes = rapport.lignes[0] + "\n" + rapport.lignes[1];
+    for (int i = 0; i < 100000; ++i) {
+        rapport.lignes.push_back("Un titre, déjà présent dans la base " + std::to_string(i));
+        rapport.texte += rapport.lignes.back() + ", ";
+        parLignes += "\n" + rapport.lignes.back();
+    }
     surLaBoite<QMessageBox>([&](QMessageBox& boite) {
-        EXPECT_EQ(boite.text().toStdString(), rapport);
+        EXPECT_EQ(boite.text().toStdString(), rapport.texte);
         EXPECT_LE(boite.height(), boite.screen()->availableSize().height());
         EXPECT_TRUE(boite.button(QMessageBox::Ok)->isVisible());
+        auto* liste = boite.findChild<QPlainTextEdit*>("lstRapport");
+        ASSERT_TRUE(liste && liste->isVisible() && liste->isReadOnly());
+        EXPECT_EQ(liste->toPlainText().toStdString(), parLignes);
+        EXPECT_GT(liste->verticalScrollBar()->maximum(), 0);
+        QTest::keyClick(liste, Qt::Key_End, Qt::ShiftModifier);
+        QTest::keyClick(liste, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), "100000 films ajoutés.");
         boite.accept();
     });
-    EXPECT_EQ(boites.MsgBox(rapport, dialogues::kInformation, dialogues::kTitre), dialogues::kOk);
+    boites.montre(rapport);
+}
+
+TEST(DialoguesQt, TheTextOfABoxIsSelectedAndCopied) {
+    ui::Liaison liaison;
+    ui::DialoguesQt boites(liaison);
+    surLaBoite<QMessageBox>([](QMessageBox& boite) {
+        auto* texte = boite.findChild<QLabel*>("qt_msgbox_label");
+        EXPECT_TRUE(texte->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
+        QTest::keyClick(&boite, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), "Le fichier indiqué est inexistant !");
+        texte->setFocus();
+        texte->setSelection(3, 7);
+        QTest::keyClick(texte, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), "fichier");
+        QTest::keyClick(texte, Qt::Key_Return);
+    });
+    EXPECT_EQ(boites.MsgBox("Le fichier indiqué est inexistant !", dialogues::kExclamation, dialogues::kTitre),
+              dialogues::kOk);
 }
 
 TEST(DialoguesQt, AnInputAnswersItsTextOrNothing) {
