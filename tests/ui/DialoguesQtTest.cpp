@@ -100,6 +100,7 @@ TEST(DialoguesQt, TheTextOfABoxIsSelectedAndCopied) {
     ui::Liaison liaison;
     ui::DialoguesQt boites(liaison);
     surLaBoite<QMessageBox>([](QMessageBox& boite) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&boite));
         auto* texte = boite.findChild<QLabel*>("qt_msgbox_label");
         EXPECT_TRUE(texte->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
         QTest::keyClick(&boite, Qt::Key_C, Qt::ControlModifier);
