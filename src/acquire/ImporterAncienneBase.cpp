@@ -55,7 +55,7 @@ bool memes(const std::string& a, const std::string& b) {
 // What is imported, in two lines.
 std::string origine(const AncienneInstallation& ancienne) {
     const std::string images = ancienne.dossierImages.empty() ? "aucun dossier" : ancienne.dossierImages;
-    return "Base importée : " + ancienne.base + "\nImages importées : " + images;
+    return "Base : " + ancienne.base + "\nImages : " + images;
 }
 
 }  // namespace

@@ -7,11 +7,12 @@
 namespace acquire {
 namespace {
 
+// The text in the order of what is written; of the lines the lists come last, lest they hide the others.
 class Redaction {
   public:
     void ligne(const std::string& texte) {
-        m_rapport.texte += (m_rapport.texte.empty() ? "" : "\n") + texte;
-        m_rapport.lignes.push_back(texte);
+        m_texte += (m_texte.empty() ? "" : "\n") + texte;
+        m_lignes.push_back(texte);
     }
     // Nothing for 0.
     void compte(long nombre, std::string_view singulier, std::string_view pluriel) {
@@ -20,18 +21,23 @@ class Redaction {
     // Nothing for an empty list.
     void liste(const std::string& titre, const std::vector<std::string>& elements) {
         if (elements.empty()) return;
-        ligne(titre);
+        m_texte += "\n" + titre;
+        m_listes.push_back(titre);
         const char* separateur = "\n";
         for (const std::string& element : elements) {
-            m_rapport.texte += separateur + element;
-            m_rapport.lignes.push_back(element);
+            m_texte += separateur + element;
             separateur = ", ";
         }
+        m_listes.insert(m_listes.end(), elements.begin(), elements.end());
     }
-    [[nodiscard]] dialogues::Rapport rapport() && { return std::move(m_rapport); }
+    [[nodiscard]] dialogues::Rapport rapport() && {
+        m_lignes.insert(m_lignes.end(), m_listes.begin(), m_listes.end());
+        return {std::move(m_texte), std::move(m_lignes)};
+    }
 
   private:
-    dialogues::Rapport m_rapport;
+    std::string m_texte;
+    std::vector<std::string> m_lignes, m_listes;
 };
 
 template <typename Element>

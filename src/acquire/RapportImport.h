@@ -17,7 +17,6 @@ struct RapportImport {
     std::vector<std::string> fichesRestantes;     // paths of those that an import cut short did not come to
     std::vector<std::string> rangement{};         // where these two went, in lines of their own; none where they stay
 
-    // What the report says and, line by line, its lists.
     [[nodiscard]] dialogues::Rapport texte() const;
 };
 

@@ -156,11 +156,10 @@ QWidget* PanneauAjout::pageAncienneVersion(const Atelier& atelier) {
                                           tr("Le dossier où se trouvent sa base et ses images"));
     atelier.liaison.lie(ajout.cmdImporterBase, importer);
     atelier.auClic(importer, &app::Session::cmdImporterBase_Click);
-    auto* boite =
-        section(tr("Reprendre les films d'une installation précédente"),
-                tr("Ses films, ce que vous en possédez et leurs images sont ajoutés à la base ouverte. L'installation "
-                   "précédente n'est que lue ; les films qui sont déjà là restent comme ils sont, et l'import peut "
-                   "être refait."));
+    auto* boite = section(
+        tr("Reprendre les films d'une installation précédente"),
+        tr("Ses films, ce que vous en possédez et leurs images sont ajoutés à la base ouverte. L'installation "
+           "précédente n'est que lue. Les films déjà présents gardent leur fiche ; l'import peut être refait."));
     boite->addSpacing(kSerre);
     boite->addLayout(aGauche({importer}));
     auto* cadre = nomme(new QWidget, "frameImportBase");

@@ -32,7 +32,7 @@ TEST_F(UneVersionPrecedente, BringsAPreviousVersionAlong) {
             dialogues::kOui);
         execution->boites.attendDossier("Dossier de la précédente version", "", ancienne.chemin());
         const std::string origine =
-            "Base importée : " + ancienne.chemin("Films.mdb") + "\nImages importées : " + ancienne.chemin("Images/");
+            "Base : " + ancienne.chemin("Films.mdb") + "\nImages : " + ancienne.chemin("Images/");
         demande(origine + "\n\nSouhaitez-vous importer cette base ?", dialogues::kOui);
         execution->boites.attendMsgBox(rapport + "\n"s + origine, dialogues::kInformation);
         session().Command13_Click(2);

@@ -91,8 +91,7 @@ struct AncienneBaseTest : testing::Test {
         dialogues.attendMsgBox(origine() + "\n\nSouhaitez-vous importer cette base ?", dialogues::kQuestion, reponse);
     }
     [[nodiscard]] std::string origine() const {
-        return "Base importée : " + ancienne.chemin("Films.mdb") +
-               "\nImages importées : " + (images.empty() ? "aucun dossier" : images);
+        return "Base : " + ancienne.chemin("Films.mdb") + "\nImages : " + (images.empty() ? "aucun dossier" : images);
     }
     // Imports, and checks that the previous installation is as it was.
     void importe(const std::string& rapport) {

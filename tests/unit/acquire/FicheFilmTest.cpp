@@ -122,11 +122,9 @@ TEST(RapportImport, tellsOnlyWhatThereIs) {
     std::string lignes;
     for (const std::string& ligne : montre.lignes)
         lignes += (lignes.empty() ? "" : "\n") + ligne;
-    EXPECT_EQ(
-        lignes,
-        "2 films ajoutés.\n2 films non ajoutés car déjà dans la base.\n- Image manquante :\n/f/a.jpg\n/f/b.jpg "
-        "(trop grande pour la base) \n- Déjà existant : \nAlien\nLe Bon, La Brute\n- Fiche illisible :\n/f/c.film" +
-            fin);
+    EXPECT_EQ(lignes, "2 films ajoutés.\n2 films non ajoutés car déjà dans la base." + fin +
+                          "\n- Image manquante :\n/f/a.jpg\n/f/b.jpg (trop grande pour la base) \n- Déjà existant : "
+                          "\nAlien\nLe Bon, La Brute\n- Fiche illisible :\n/f/c.film");
 }
 
 TEST(ChoixDossierFiches, countsTheSheetsOfTheFolderChosenOrTyped) {
