@@ -15,6 +15,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QShortcut>
+#include <algorithm>
 
 namespace ui {
 
@@ -66,7 +67,8 @@ QPlainTextEdit* faitDefiler(QMessageBox& boite, const QString& liste) {
     vue->setFrameShape(QFrame::NoFrame);
     vue->setTabChangesFocus(true);
     vue->setPlainText(liste);
-    vue->setMinimumSize(520, 340);
+    const int hauteur = QFontMetrics(vue->font()).lineSpacing() * (vue->blockCount() + 2);
+    vue->setMinimumSize(520, std::min(340, hauteur));
     return vue;
 }
 
@@ -146,8 +148,7 @@ int DialoguesQt::MsgBox(const std::string& texte, int style, const std::string& 
 }
 
 void DialoguesQt::montre(const dialogues::Rapport& rapport) {
-    static constexpr std::size_t kPeuDeLignes = 12;
-    const bool liste = rapport.lignes.size() > kPeuDeLignes;
+    const bool liste = joint(rapport.lignes) != qt(rapport.texte);
     montre(rapport.texte, liste ? rapport.lignes : std::vector<std::string>(), dialogues::kInformation,
            dialogues::kTitre);
 }
