@@ -1,7 +1,10 @@
 #pragma once
 
+#include "util/Texte.h"
+
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <filesystem>
 #include <numeric>
@@ -44,7 +47,9 @@ class BaseJet {
     bool comprime = false;                         // texts of Latin letters take a byte a character
     bool cartesSurDesPages = false;                // maps as large bases have them
     std::uint32_t cle = 0;                         // encodes the pages
-    std::string motDePasse;                        // its bytes in the file
+    std::string motDePasse;                        // UTF-8; as Access stores it, hidden by the day
+    double jourDeCreation = 0;                     // since 30 December 1899
+    bool jet3 = false;                             // of the head alone: its version, and its password
     std::optional<std::uint32_t> lignesDeclarees;  // what every table says in place of its number of rows
 
     BaseJet() : m_pages(3, std::string(kPage, '\0')) {}  // head, maps, definition of the catalogue
@@ -186,6 +191,7 @@ class BaseJet {
         std::string tete(63, '\0');
         pose(tete, 0, 0x0102, 2);
         pose(tete, 16, lignesDeclarees.value_or(table.lignes), 4);
+        pose(tete, 41, table.champs.size(), 2);
         pose(tete, 43, variable, 2);
         pose(tete, 45, table.champs.size(), 2);
         pose(tete, 55, carte(table), 4);
@@ -247,11 +253,16 @@ class BaseJet {
         definit(catalogue);
         std::string& tete = m_pages[0];
         tete.replace(0, 19, petit(0x0100, 4) + "Standard Jet DB");
-        pose(tete, 0x14, 1, 4);
+        pose(tete, 0x14, jet3 ? 0 : 1, 4);
         pose(tete, 0x3C, 1252, 2);
         pose(tete, 0x3E, cle, 4);
-        tete.replace(0x42, motDePasse.size(), motDePasse);
-        chiffre(tete, 0x18, 128, 0x6B39DAC7);
+        const std::string cache = petit(static_cast<std::uint32_t>(jourDeCreation), 4);
+        tete.replace(0x72, 8, petit(std::bit_cast<std::uint64_t>(jourDeCreation), 8));
+        std::string secret = jet3 ? util::vers1252(motDePasse) : texte(motDePasse, false);
+        secret.resize(jet3 ? 20 : 40);
+        for (std::size_t i = 0; i < secret.size(); ++i)
+            tete[0x42 + i] = static_cast<char>(secret[i] ^ (jet3 ? 0 : cache[i % 4]));
+        chiffre(tete, 0x18, jet3 ? 126 : 128, 0x6B39DAC7);
         std::string fichier;
         for (std::size_t i = 0; i < m_pages.size(); ++i) {
             if (i > 0 && cle != 0) chiffre(m_pages[i], 0, kPage, cle ^ static_cast<std::uint32_t>(i));

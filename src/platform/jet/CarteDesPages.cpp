@@ -2,6 +2,8 @@
 
 #include "platform/jet/Lignes.h"
 
+#include <algorithm>
+
 namespace jet::interne {
 
 namespace {
@@ -10,10 +12,16 @@ constexpr std::uint8_t kEnLigne = 0, kSurDesPages = 1;
 constexpr std::uint8_t kPageDeCarte = 0x05;
 constexpr std::size_t kDebutBits = 4;  // on a map page
 
-void ajoute(std::vector<std::uint32_t>& liste, std::uint64_t premiere, Octets bits) {
+// Up to the first page that is not in the file: a crafted map could list a thousand times more of them than there are.
+bool ajoute(std::vector<std::uint32_t>& liste, std::uint64_t premiere, Octets bits, std::uint32_t nombre) {
     for (std::size_t octet = 0; octet < bits.size(); ++octet)
-        for (unsigned bit = 0; bits[octet] >> bit != 0; ++bit)
-            if ((bits[octet] >> bit & 1) != 0) liste.push_back(static_cast<std::uint32_t>(premiere + octet * 8 + bit));
+        for (unsigned bit = 0; bits[octet] >> bit != 0; ++bit) {
+            if ((bits[octet] >> bit & 1) == 0) continue;
+            const std::uint64_t page = premiere + octet * 8 + bit;
+            liste.push_back(static_cast<std::uint32_t>(std::min<std::uint64_t>(page, UINT32_MAX)));
+            if (page >= nombre) return false;
+        }
+    return true;
 }
 
 }  // namespace
@@ -25,7 +33,7 @@ std::vector<std::uint32_t> pagesDeLaCarte(Pages& pages, std::uint32_t pointeur) 
     std::vector<std::uint32_t> liste;
     if (forme == kEnLigne) {
         const std::uint32_t premiere = u32(carte, 1);
-        ajoute(liste, premiere, Octets(carte).subspan(5));
+        ajoute(liste, premiere, Octets(carte).subspan(5), pages.nombre());
     } else if (forme == kSurDesPages) {
         const std::uint64_t parPage = (pages.format().taillePage - kDebutBits) * 8;
         std::uint64_t premiere = 0;
@@ -34,7 +42,7 @@ std::vector<std::uint32_t> pagesDeLaCarte(Pages& pages, std::uint32_t pointeur) 
             if (page == 0) continue;
             const Octets lue = pages.lit(page);
             if (lue[0] != kPageDeCarte) throw Dommage("la carte de ses pages est illisible");
-            ajoute(liste, premiere, lue.subspan(kDebutBits));
+            if (!ajoute(liste, premiere, lue.subspan(kDebutBits), pages.nombre())) break;
         }
     } else {
         throw Dommage("la carte de ses pages est illisible");

@@ -4,8 +4,11 @@
 #include "platform/jet/Textes.h"
 
 #include <algorithm>
+#include <optional>
 #include <set>
+#include <string>
 #include <string_view>
+#include <utility>
 
 namespace jet::interne {
 
@@ -15,6 +18,7 @@ constexpr std::uint32_t kPageDuCatalogue = 2;
 constexpr std::uint16_t kObjetTable = 1;
 constexpr std::uint32_t kDuSysteme = 0x80000002;
 constexpr std::uint32_t kNumeroDePage = 0x00FFFFFF;
+constexpr std::uint32_t kAnonymesMax = 1000;
 
 const Colonne& colonne(const Definition& definition, std::string_view nom) {
     const auto trouvee = std::ranges::find(definition.colonnes, nom, &Colonne::nom);
@@ -61,25 +65,80 @@ Table decrit(Pages& pages, std::string nom, std::uint32_t page) {
     return table;
 }
 
+// The table that a row of the list describes; none when it is another object, or the system's.
+class Objets {
+  public:
+    explicit Objets(Pages& pages) : m_pages(pages), m_definition(litDefinition(pages, kPageDuCatalogue)) {}
+    Objets(const Objets&) = delete;
+    Objets& operator=(const Objets&) = delete;
+    ~Objets() = default;
+
+    [[nodiscard]] const Definition& definition() const { return m_definition; }
+    [[nodiscard]] std::optional<std::pair<std::string, std::uint32_t>> table(Octets ligne) const {
+        const Decoupe decoupe(m_pages.format(), m_definition, ligne);
+        const auto id = decoupe.champ(m_id), nom = decoupe.champ(m_nom), type = decoupe.champ(m_type);
+        const auto drapeaux = decoupe.champ(m_drapeaux);
+        if (!id || !nom || !type || u16(*type, 0) != kObjetTable) return std::nullopt;
+        if (drapeaux && (u32(*drapeaux, 0) & kDuSysteme) != 0) return std::nullopt;
+        return std::pair(enUtf8(*nom, m_pages.format().jet4), u32(*id, 0) & kNumeroDePage);
+    }
+
+  private:
+    Pages& m_pages;
+    Definition m_definition;
+    const Colonne &m_id = colonne(m_definition, "Id"), &m_nom = colonne(m_definition, "Name");
+    const Colonne &m_type = colonne(m_definition, "Type"), &m_drapeaux = colonne(m_definition, "Flags");
+};
+
+// Adds the tables of the list up to its end. Damage that `tolere` does not pass over ends it.
+void ajouteLesNommees(Pages& pages, std::vector<Table>& tables, bool tolere) {
+    const Objets objets(pages);
+    Reserve reserve(pages);
+    Lignes lignes(pages, objets.definition(), reserve, tolere);
+    lignes.suitLaCarte();
+    std::set<std::uint32_t> connues;
+    for (;;) {
+        try {
+            const auto ligne = lignes.suivante();
+            if (!ligne) return;
+            auto table = objets.table(*ligne);
+            if (table && connues.insert(table->second).second)
+                tables.push_back(decrit(pages, std::move(table->first), table->second));
+        } catch (const Dommage&) {
+            if (!tolere) throw;
+        }
+    }
+}
+
+void ajouteLesAnonymes(Pages& pages, std::vector<Table>& tables) {
+    std::set<std::uint32_t> connues;
+    for (const Table& table : tables)
+        connues.insert(table.page);
+    const std::size_t limite = tables.size() + kAnonymesMax;
+    for (std::uint32_t page = 1; page < pages.nombre() && tables.size() < limite; ++page) {
+        try {
+            if (connues.contains(page) || !estUneDefinition(pages.lit(page))) continue;
+            if (Table table = decrit(pages, {}, page); !table.champs.empty()) tables.push_back(std::move(table));
+        } catch (const Dommage&) {  // the page cannot be read
+        }
+    }
+}
+
 }  // namespace
 
 std::vector<Table> litCatalogue(Pages& pages) {
-    const Definition definition = litDefinition(pages, kPageDuCatalogue);
-    const Colonne &id = colonne(definition, "Id"), &nom = colonne(definition, "Name");
-    const Colonne &type = colonne(definition, "Type"), &drapeaux = colonne(definition, "Flags");
-    Reserve reserve(pages.taille());
-    Lignes lignes(pages, definition, reserve);
     std::vector<Table> tables;
-    std::set<std::uint32_t> connues;
-    while (const auto ligne = lignes.suivante()) {
-        const Decoupe decoupe(pages.format(), definition, *ligne);
-        const auto champId = decoupe.champ(id), champNom = decoupe.champ(nom), champType = decoupe.champ(type);
-        const auto champDrapeaux = decoupe.champ(drapeaux);
-        if (!champId || !champNom || !champType || u16(*champType, 0) != kObjetTable) continue;
-        if (champDrapeaux && (u32(*champDrapeaux, 0) & kDuSysteme) != 0) continue;
-        const std::uint32_t page = u32(*champId, 0) & kNumeroDePage;
-        if (connues.insert(page).second) tables.push_back(decrit(pages, enUtf8(*champNom, pages.format().jet4), page));
+    ajouteLesNommees(pages, tables, false);
+    return tables;
+}
+
+std::vector<Table> chercheLesTables(Pages& pages) {
+    std::vector<Table> tables;
+    try {
+        ajouteLesNommees(pages, tables, true);
+    } catch (const Dommage&) {  // those without a name are all there is
     }
+    ajouteLesAnonymes(pages, tables);
     return tables;
 }
 

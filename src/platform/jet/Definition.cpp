@@ -17,7 +17,7 @@ std::vector<std::uint8_t> rassemble(Pages& pages, std::uint32_t page) {
     std::vector<std::uint8_t> octets;
     for (std::size_t nombre = 0; page != 0; ++nombre) {
         const Octets lue = pages.lit(page);
-        if (lue[0] != kPageDefinition || nombre == kPagesMax) throw Dommage("sa définition est illisible");
+        if (!estUneDefinition(lue) || nombre == kPagesMax) throw Dommage("sa définition est illisible");
         const Octets utile = lue.subspan(nombre == 0 ? 0 : kDebutSuite);
         octets.insert(octets.end(), utile.begin(), utile.end());
         page = u32(lue, kPlaceSuite);
@@ -40,6 +40,10 @@ Colonne litColonne(const Format& format, Octets octets) {
 
 }  // namespace
 
+bool estUneDefinition(Octets page) {
+    return page[0] == kPageDefinition;
+}
+
 Definition litDefinition(Pages& pages, std::uint32_t page) {
     const Format& format = pages.format();
     const auto& places = format.table;
@@ -48,6 +52,7 @@ Definition litDefinition(Pages& pages, std::uint32_t page) {
     definition.page = page;
     definition.lignes = u32(octets, places.lignes);
     definition.carte = u32(octets, places.carte);
+    definition.colonnesMax = u16(octets, places.variables - 2);
     definition.aDesVariables = u16(octets, places.variables) > 0;
 
     const std::size_t nombre = u16(octets, places.colonnes);

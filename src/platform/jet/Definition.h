@@ -40,11 +40,13 @@ struct Colonne {
 struct Definition {
     std::uint32_t page = 0;  // its first page, which every data page of the table names
     std::uint32_t lignes = 0;
-    std::uint32_t carte = 0;  // where the map of its data pages stands
+    std::uint32_t carte = 0;        // where the map of its data pages stands
+    std::uint16_t colonnesMax = 0;  // of a row: with the fields that the table had once
     bool aDesVariables = false;
     std::vector<Colonne> colonnes;
 };
 
+[[nodiscard]] bool estUneDefinition(Octets page);
 // The definition that starts on that page.
 [[nodiscard]] Definition litDefinition(Pages& pages, std::uint32_t page);
 

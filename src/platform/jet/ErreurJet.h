@@ -11,4 +11,16 @@ class ErreurJet : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+// The base has a password, and it is not the one given.
+class MotDePasseRefuse : public ErreurJet {
+  public:
+    using ErreurJet::ErreurJet;
+};
+
+// The base can be opened; some place of it is not what it should be. Something of it may be readable.
+class BaseEndommagee : public ErreurJet {
+  public:
+    using ErreurJet::ErreurJet;
+};
+
 }  // namespace jet

@@ -61,23 +61,133 @@ class Traduction {
     std::uint32_t m_alterees = 0;
 };
 
+// One reading of a table, sound or not.
+class Lecture {
+  public:
+    Lecture(Pages& pages, const Table& table, const RecepteurPartiel& recepteur, std::string_view champAffiche,
+            bool acharnee)
+        : m_pages(pages),
+          m_table(table),
+          m_recepteur(recepteur),
+          m_definition(litDefinition(pages, table.page)),
+          m_reserve(pages),
+          m_lignes(pages, m_definition, m_reserve, acharnee),
+          m_traduction(pages, m_reserve, champAffiche),
+          m_valeurs(m_definition.colonnes.size()),
+          m_acharnee(acharnee) {}
+
+    Bilan execute() {
+        try {
+            m_lignes.suitLaCarte();
+        } catch (const Dommage& dommage) {
+            perd({Perte::Quoi::LaTable, 0, 0, dommage.what()});
+        }
+        litJusquAuBout();
+        const std::uint32_t connues = m_bilan.lignesLues;
+        if (m_acharnee && !m_bilan.interrompu && (m_carteManque || connues < m_table.lignesDeclarees)) {
+            m_lignes.chercheAilleurs();
+            litJusquAuBout();
+        }
+        m_bilan.lignesRetrouvees = m_bilan.lignesLues - connues;
+        m_bilan.affichesAlterees = m_traduction.affichesAlterees();
+        m_bilan.pagesEcartees = m_lignes.pagesEcartees();
+        return m_bilan;
+    }
+
+  private:
+    void litJusquAuBout() {
+        while (!m_bilan.interrompu && litUne()) {
+        }
+    }
+
+    // False after the last row.
+    bool litUne() {
+        const std::uint32_t numero = m_ligne + 1;
+        try {
+            const auto octets = m_lignes.suivante();
+            if (!octets) return false;
+            m_ligne = numero;
+            rend(Decoupe(m_pages.format(), m_definition, *octets));
+        } catch (const DommagePage& dommage) {
+            perd({Perte::Quoi::UnePage, 0, 0, dommage.what()});
+        } catch (const Dommage& dommage) {
+            m_ligne = numero;
+            perd({Perte::Quoi::UneLigne, m_ligne, 0, dommage.what()});
+        }
+        return true;
+    }
+
+    void rend(const Decoupe& ligne) {
+        m_pertes.clear();
+        for (std::size_t i = 0; i < m_valeurs.size(); ++i) {
+            m_valeurs[i].reset();
+            try {
+                m_valeurs[i] = m_traduction.valeur(ligne, m_definition.colonnes[i]);
+            } catch (const Dommage& dommage) {
+                m_pertes.push_back({Perte::Quoi::UnChamp, m_ligne, i, dommage.what()});
+            }
+        }
+        m_bilan.interrompu = !m_recepteur(m_valeurs, m_pertes);
+        ++m_bilan.lignesLues;
+    }
+
+    void perd(const Perte& perte) {
+        m_carteManque |= perte.quoi == Perte::Quoi::LaTable;
+        m_bilan.interrompu = !m_recepteur({}, {&perte, 1});
+    }
+
+    Pages& m_pages;
+    const Table& m_table;
+    const RecepteurPartiel& m_recepteur;
+    Definition m_definition;
+    Reserve m_reserve;
+    Lignes m_lignes;
+    Traduction m_traduction;
+    std::vector<std::optional<std::string>> m_valeurs;
+    std::vector<Perte> m_pertes;
+    Bilan m_bilan;
+    std::uint32_t m_ligne = 0;
+    bool m_acharnee, m_carteManque = false;
+};
+
+// Where that is, for the message.
+std::string endroit(const Table& table, const Perte& perte) {
+    std::string texte = "table \"" + table.nom + "\"";
+    if (perte.ligne > 0) texte += ", ligne " + std::to_string(perte.ligne);
+    if (perte.quoi == Perte::Quoi::UnChamp) texte += ", champ \"" + table.champs[perte.champ].nom + "\"";
+    return texte;
+}
+
 }  // namespace
 
 class Lecteur::Interieur {
   public:
-    explicit Interieur(const std::string& chemin) : pages(chemin) {
+    Interieur(const std::string& chemin, const Ouverture& ouverture) : pages(chemin, ouverture.motDePasse) {
         try {
-            tables = litCatalogue(pages);
+            tables = ouverture.abimee ? chercheLesTables(pages) : litCatalogue(pages);
+            luesAvant = pages.lues();
         } catch (const Dommage& dommage) {
-            throw ErreurJet(std::string(kEndommagee) + dommage.what() + ".");
+            throw BaseEndommagee(std::string(kEndommagee) + dommage.what() + ".");
         }
     }
 
     interne::Pages pages;
     std::vector<Table> tables;
+    std::uint64_t luesAvant = 0;
 };
 
-Lecteur::Lecteur(const std::string& chemin) : m_interieur(std::make_unique<Interieur>(chemin)) {}
+bool accepteMotDePasse(const std::string& chemin, std::string_view motDePasse) {
+    try {
+        const interne::Pages pages(chemin, motDePasse);
+    } catch (const MotDePasseRefuse&) {
+        return false;
+    } catch (const ErreurJet&) {
+    }
+    return true;
+}
+
+Lecteur::Lecteur(const std::string& chemin, const Ouverture& ouverture)
+    : m_interieur(std::make_unique<Interieur>(chemin, ouverture)) {}
 Lecteur::Lecteur(Lecteur&&) noexcept = default;
 Lecteur& Lecteur::operator=(Lecteur&&) noexcept = default;
 Lecteur::~Lecteur() = default;
@@ -93,46 +203,34 @@ const Table* Lecteur::table(std::string_view nom) const {
 }
 
 Bilan Lecteur::parcourt(const Table& table, const Recepteur& recepteur, std::string_view champAffiche) {
-    Bilan bilan;
-    std::string endroit = "table \"" + table.nom + "\"";  // what is being read, for the message
+    const auto refuse = [&table](const Perte& perte) {
+        throw BaseEndommagee(std::string(kEndommagee) + endroit(table, perte) + " : " + perte.raison + ".");
+    };
+    const RecepteurPartiel entier = [&](Ligne ligne, std::span<const Perte> pertes) {
+        if (!pertes.empty()) refuse(pertes.front());
+        return recepteur(ligne);
+    };
     try {
-        Pages& pages = m_interieur->pages;
-        const Definition definition = litDefinition(pages, table.page);
-        Reserve reserve(pages.taille());
-        Lignes lignes(pages, definition, reserve);
-        Traduction traduction(pages, reserve, champAffiche);
-        std::vector<std::optional<std::string>> valeurs(definition.colonnes.size());
-        const std::string debut = endroit + ", ligne ";
-        for (;; ++bilan.lignesLues) {
-            endroit = debut + std::to_string(bilan.lignesLues + 1);
-            const auto octets = lignes.suivante();
-            if (!octets) break;
-            const Decoupe ligne(pages.format(), definition, *octets);
-            for (std::size_t i = 0; i < valeurs.size(); ++i) {
-                try {
-                    valeurs[i] = traduction.valeur(ligne, definition.colonnes[i]);
-                } catch (const Dommage&) {
-                    endroit += ", champ \"" + definition.colonnes[i].nom + "\"";
-                    throw;
-                }
-            }
-            if (!recepteur(valeurs)) {
-                ++bilan.lignesLues;
-                bilan.interrompu = true;
-                break;
-            }
-        }
-        bilan.affichesAlterees = traduction.affichesAlterees();
-        bilan.pagesEcartees = lignes.pagesEcartees();
+        return Lecture(m_interieur->pages, table, entier, champAffiche, false).execute();
     } catch (const Dommage& dommage) {
-        throw ErreurJet(std::string(kEndommagee) + endroit + " : " + dommage.what() + ".");
+        refuse({Perte::Quoi::LaTable, 0, 0, dommage.what()});
+        throw;
     }
-    return bilan;
+}
+
+Bilan Lecteur::parcourtCeQuiEstLisible(const Table& table, const RecepteurPartiel& recepteur,
+                                       std::string_view champAffiche) {
+    try {
+        return Lecture(m_interieur->pages, table, recepteur, champAffiche, true).execute();
+    } catch (const Dommage& dommage) {
+        const Perte perte{Perte::Quoi::LaTable, 0, 0, dommage.what()};
+        return {.interrompu = !recepteur({}, {&perte, 1})};
+    }
 }
 
 Avancement Lecteur::avancement() const {
     const interne::Pages& pages = m_interieur->pages;
-    return {std::min<std::uint64_t>(pages.lues(), pages.nombre()), pages.nombre()};
+    return {std::min<std::uint64_t>(pages.lues() - m_interieur->luesAvant, pages.nombre()), pages.nombre()};
 }
 
 }  // namespace jet

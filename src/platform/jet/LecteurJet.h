@@ -43,6 +43,7 @@ using Recepteur = std::function<bool(Ligne)>;
 // How a reading ended.
 struct Bilan {
     std::uint32_t lignesLues = 0;        // rows handed
+    std::uint32_t lignesRetrouvees = 0;  // those among them that the table's map does not lead to
     std::uint32_t affichesAlterees = 0;  // posters with characters outside code page 1252, each of them handed as "?"
     std::uint32_t pagesEcartees = 0;     // pages listed as the table's own that are not; they are passed over
     bool interrompu = false;             // the receiver stopped it
@@ -53,10 +54,32 @@ struct Avancement {
     std::uint64_t pages = 0;      // of the whole file
 };
 
-// A base open for reading. An encoded base is read as any other; one with a password is refused.
+// Something of a damaged table that cannot be read: a field, whose row is handed without it, a row, a page with all of
+// its rows, or what cannot be told by pages.
+struct Perte {
+    enum class Quoi { UnChamp, UneLigne, UnePage, LaTable };
+    Quoi quoi;
+    std::uint32_t ligne = 0;  // of a field or a row: which of the table's, from 1
+    std::size_t champ = 0;    // its index in Table::champs
+    std::string raison;       // the end of a French sentence
+};
+
+// Takes a row and the fields that are lost in it, handed as Null; or an empty row, and a loss that is no field's.
+using RecepteurPartiel = std::function<bool(Ligne, std::span<const Perte>)>;
+
+// False when the base has a password, and another one. True also for a file that cannot be opened: who reads it is told.
+[[nodiscard]] bool accepteMotDePasse(const std::string& chemin, std::string_view motDePasse);
+
+struct Ouverture {
+    std::string motDePasse = {};
+    // Opens a base whose list of tables is damaged too: tables that it does not name are among `tables`, without a name.
+    bool abimee = false;
+};
+
+// A base open for reading. An encoded base is read as any other; one with a password asks for it (MotDePasseRefuse).
 class Lecteur {
   public:
-    explicit Lecteur(const std::string& chemin);
+    explicit Lecteur(const std::string& chemin, const Ouverture& ouverture = {});
     Lecteur(Lecteur&&) noexcept;
     Lecteur& operator=(Lecteur&&) noexcept;
     ~Lecteur();
@@ -68,8 +91,12 @@ class Lecteur {
 
     // Hands every row of the table, in the file's order. In the field named `champAffiche` a text that begins with "STO"
     // is a poster, one character per byte: it is handed as "STO" and the bytes. Nothing is handed of a damaged row; the
-    // error names the table, the row and the field.
+    // error (BaseEndommagee) names the table, the row and the field.
     Bilan parcourt(const Table& table, const Recepteur& recepteur, std::string_view champAffiche = {});
+
+    // The same of a damaged table, from its first damage on to its end; rows that its map has lost come last.
+    Bilan parcourtCeQuiEstLisible(const Table& table, const RecepteurPartiel& recepteur,
+                                  std::string_view champAffiche = {});
 
     // How far the readings of this base are, all taken together.
     [[nodiscard]] Avancement avancement() const;

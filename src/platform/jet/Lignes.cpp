@@ -9,7 +9,8 @@ namespace {
 constexpr std::uint8_t kPageDonnees = 0x01;
 constexpr std::size_t kPlaceProprietaire = 4;
 constexpr std::uint16_t kPlace = 0x1FFF, kSupprimee = 0x8000, kRenvoi = 0x4000;
-constexpr int kRenvoisMax = 16;  // Jet makes one, and mends it when the row moves again
+constexpr std::size_t kLignesMax = 256;  // a pointer's rank is a byte
+constexpr int kRenvoisMax = 16;          // Jet makes one, and mends it when the row moves again
 
 bool estAuProprietaire(Octets page, std::uint32_t proprietaire) {
     return page[0] == kPageDonnees && u32(page, kPlaceProprietaire) == proprietaire;
@@ -22,13 +23,20 @@ void Reserve::prend(std::uint64_t octets) {
     m_reste -= octets;
 }
 
+void Reserve::marque(std::uint32_t pointeur) {
+    if (m_atteints.at(pointeur)) throw Dommage("des renvois mènent plusieurs fois au même endroit");
+    m_atteints[pointeur] = true;
+}
+
 Tranche tranche(const Format& format, Octets page, std::size_t rang) {
     if (rang >= u16(page, format.nombreDeLignes)) throw Dommage("un renvoi mène à une ligne qui n'existe pas");
     const std::size_t entree = format.nombreDeLignes + 2 + 2 * rang;
     const std::uint16_t place = u16(page, entree);
     // Rows fill a page from its end: each one ends where the one before starts.
     const std::size_t fin = rang == 0 ? page.size() : u16(page, entree - 2) & kPlace;
-    return {entre(page, place & kPlace, fin), (place & kSupprimee) != 0, (place & kRenvoi) != 0};
+    const Tranche lue{entre(page, place & kPlace, fin), (place & kSupprimee) != 0, (place & kRenvoi) != 0};
+    if (!lue.supprimee && (place & kPlace) < entree + 2) throw Dommage("une ligne commence dans la tête de sa page");
+    return lue;
 }
 
 Tranche trancheA(Pages& pages, std::uint32_t pointeur, std::uint32_t proprietaire) {
@@ -37,22 +45,45 @@ Tranche trancheA(Pages& pages, std::uint32_t pointeur, std::uint32_t proprietair
     return tranche(pages.format(), page, pointeur & 0xFF);
 }
 
-Lignes::Lignes(Pages& pages, const Definition& definition, Reserve& reserve)
-    : m_pages(pages), m_definition(definition), m_reserve(reserve), m_liste(pagesDeLaCarte(pages, definition.carte)) {}
+void Lignes::suitLaCarte() {
+    m_liste = pagesDeLaCarte(m_pages, m_definition.carte);
+}
+
+void Lignes::chercheAilleurs() {
+    std::vector<bool> vues(m_pages.nombre());
+    for (const std::uint32_t page : m_liste)
+        if (page < vues.size()) vues[page] = true;
+    m_liste.clear();
+    for (std::uint32_t page = 1; page < vues.size(); ++page)
+        if (!vues[page]) m_liste.push_back(page);
+    m_prochainePage = 0;
+    m_ailleurs = true;
+}
 
 bool Lignes::changeDePage() {
-    while (m_prochainePage < m_liste.size()) {
-        const Octets page = m_pages.lit(m_liste[m_prochainePage++]);
+    while (m_prochainePage < m_liste.size())
+        if (entreDans(m_liste[m_prochainePage++])) return true;
+    return false;
+}
+
+bool Lignes::entreDans(std::uint32_t numero) {
+    try {
+        const Octets page = m_pages.lit(numero);
         if (!estAuProprietaire(page, m_definition.page)) {
+            if (m_ailleurs) return false;
             ++m_ecartees;
-            continue;
+            if (!m_acharne) return false;
+            throw Dommage("la page " + std::to_string(numero) + " n'est pas une page de cette table");
         }
         m_page.assign(page.begin(), page.end());
-        m_rang = 0;
-        m_nombre = u16(m_page, m_pages.format().nombreDeLignes);
-        return true;
+    } catch (const Dommage& dommage) {
+        throw DommagePage(dommage.what());
     }
-    return false;
+    m_rang = 0;
+    m_nombre = u16(m_page, m_pages.format().nombreDeLignes);
+    if (m_nombre <= kLignesMax) return true;
+    m_nombre = kLignesMax;
+    throw DommagePage("la page " + std::to_string(numero) + " annonce plus de lignes qu'elle n'en contient");
 }
 
 Octets Lignes::suitLesRenvois(Octets renvoi) {
@@ -61,8 +92,9 @@ Octets Lignes::suitLesRenvois(Octets renvoi) {
         const Tranche ailleurs = trancheA(m_pages, pointeur, m_definition.page);
         m_reserve.prend(ailleurs.octets.size());
         if (!ailleurs.renvoi) {  // it may be marked deleted: so that only its pointer leads to it
-            m_ailleurs.assign(ailleurs.octets.begin(), ailleurs.octets.end());
-            return m_ailleurs;
+            m_reserve.marque(pointeur);
+            m_deplacee.assign(ailleurs.octets.begin(), ailleurs.octets.end());
+            return m_deplacee;
         }
         pointeur = u32(ailleurs.octets, 0);
     }
@@ -84,6 +116,8 @@ std::optional<Octets> Lignes::suivante() {
 Decoupe::Decoupe(const Format& format, const Definition& definition, Octets ligne) : m_ligne(ligne) {
     m_debutFixes = format.jet4 ? 2 : 1;
     m_colonnes = entier(ligne, 0, m_debutFixes);
+    if (m_colonnes > definition.colonnesMax)
+        throw Dommage("la ligne annonce " + std::to_string(m_colonnes) + " champs");
     const std::size_t tailleMasque = (m_colonnes + 7) / 8;
     if (tailleMasque > ligne.size()) throw Dommage("la ligne est trop courte pour ses champs");
     const std::size_t fin = ligne.size() - tailleMasque;
@@ -109,7 +143,11 @@ void Decoupe::placeLesVariables(bool jet4, std::size_t fin) {
         while (faits < sauts && u8(m_ligne, fin - 1 - faits) == i)
             ++faits;
         m_places[i] = static_cast<std::uint16_t>(entier(m_ligne, places - (i + 1) * taille, taille) + 256 * faits);
+        if (i > 0 && m_places[i] < m_places[i - 1]) throw Dommage("un champ finit avant son début");
     }
+    // A row that was rewritten shorter may have room left there; it never has too little.
+    if (m_places[m_variables] > places - (m_variables + 1) * taille)
+        throw Dommage("la ligne est trop courte pour ses champs");
 }
 
 bool Decoupe::bit(const Colonne& colonne) const {

@@ -10,15 +10,24 @@
 // The rows of a table, as bytes, and their fields within them.
 namespace jet::interne {
 
-// How many bytes may still be reached through pointers from row to row. Each byte of a sound file is reached once, so a
-// file whose pointers run in circles, or all lead to one place, is found out before it costs more than its size.
+// What may still be reached through pointers. In a sound file one pointer leads to each place: a second one is found out,
+// and pointers that run in circles cost no more than the file's size, however many of them lead nowhere.
 class Reserve {
   public:
-    explicit Reserve(std::uint64_t octets) : m_reste(octets) {}
-    void prend(std::uint64_t octets);  // throws Dommage when there is no more
+    explicit Reserve(const Pages& pages) : m_reste(2 * pages.taille()), m_atteints(std::size_t{pages.nombre()} << 8) {}
+    void prend(std::uint64_t octets);     // throws Dommage when there is no more
+    void marque(std::uint32_t pointeur);  // of a slot that exists; throws Dommage when it is marked already
+    void libere(std::uint32_t pointeur) { m_atteints[pointeur] = false; }
 
   private:
     std::uint64_t m_reste;
+    std::vector<bool> m_atteints;  // by page and rank, as pointers are written
+};
+
+// Something is wrong with a whole page. The next call goes on after it.
+class DommagePage : public Dommage {
+  public:
+    using Dommage::Dommage;
 };
 
 // A slot of a data page, and what its place says of it.
@@ -31,10 +40,16 @@ struct Tranche {
 // The row that a pointer (page, then rank in the lowest byte) leads to, on a page whose owner is as given.
 [[nodiscard]] Tranche trancheA(Pages& pages, std::uint32_t pointeur, std::uint32_t proprietaire);
 
-// The rows in the order of the pages, then of their slots.
+// The rows in the order of the pages, then of their slots. A call that throws has passed over what it could not read.
 class Lignes {
   public:
-    Lignes(Pages& pages, const Definition& definition, Reserve& reserve);
+    // `acharne`: a page that is none of the table's is damage too, instead of being passed over.
+    Lignes(Pages& pages, const Definition& definition, Reserve& reserve, bool acharne)
+        : m_pages(pages), m_definition(definition), m_reserve(reserve), m_acharne(acharne) {}
+
+    void suitLaCarte();  // the pages are those of the table's map; throws Dommage
+    // The pages are those of the file that say they are the table's, and were not among the map's.
+    void chercheAilleurs();
 
     // The next row, good until the next call; nothing after the last.
     [[nodiscard]] std::optional<Octets> suivante();
@@ -43,15 +58,18 @@ class Lignes {
 
   private:
     bool changeDePage();
+    bool entreDans(std::uint32_t numero);
     Octets suitLesRenvois(Octets renvoi);
 
     Pages& m_pages;
     const Definition& m_definition;
     Reserve& m_reserve;
+    bool m_acharne;
+    bool m_ailleurs = false;
     std::vector<std::uint32_t> m_liste;
     std::size_t m_prochainePage = 0;
     std::vector<std::uint8_t> m_page;  // copies: other pages are read while a row is in use
-    std::vector<std::uint8_t> m_ailleurs;
+    std::vector<std::uint8_t> m_deplacee;
     std::size_t m_rang = 0, m_nombre = 0;
     std::uint32_t m_ecartees = 0;
 };

@@ -26,14 +26,29 @@ Octets Memos::lit(Octets champ) {
     }
     if (longueur == 0) return {};
     if (longueur > m_pages.taille()) refuse(longueur, 0);
-    return rassemble(pointeur, longueur, (tete & kSurUnePage) == 0);
+    return suit(pointeur, longueur, (tete & kSurUnePage) == 0);
 }
 
-Octets Memos::rassemble(std::uint32_t pointeur, std::uint64_t longueur, bool enChaine) {
+// The pieces of a value that is lost may be another's.
+Octets Memos::suit(std::uint32_t pointeur, std::uint64_t longueur, bool enChaine) {
     m_octets.clear();
+    m_pieces.clear();
+    try {
+        rassemble(pointeur, longueur, enChaine);
+    } catch (const Dommage&) {
+        for (const std::uint32_t piece : m_pieces)
+            m_reserve.libere(piece);
+        throw;
+    }
+    return m_octets;
+}
+
+void Memos::rassemble(std::uint32_t pointeur, std::uint64_t longueur, bool enChaine) {
     do {
         Octets lue = trancheA(m_pages, pointeur, kProprietaire).octets;
         m_reserve.prend(lue.size());
+        m_reserve.marque(pointeur);
+        m_pieces.push_back(pointeur);
         pointeur = 0;
         if (enChaine) {  // each row starts with the pointer to the next; 0 in the last
             pointeur = u32(lue, 0);
@@ -43,7 +58,6 @@ Octets Memos::rassemble(std::uint32_t pointeur, std::uint64_t longueur, bool enC
         m_octets.insert(m_octets.end(), lue.begin(), lue.end());
     } while (pointeur != 0 && m_octets.size() < longueur);
     if (pointeur != 0 || m_octets.size() != longueur) refuse(longueur, m_octets.size());
-    return m_octets;
 }
 
 }  // namespace jet::interne

@@ -2,9 +2,9 @@
 
 #include "platform/jet/ErreurJet.h"
 #include "platform/jet/LecteurJet.h"
+#include "platform/jet/MotDePasse.h"
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -61,22 +61,6 @@ void refuseCeQuiNEstPasJet(const std::string& chemin) {
                         ").");
 }
 
-// A password is stored as the exclusive or of its characters and, in Jet 4, of the day the base was made.
-bool aUnMotDePasse(Octets entete, bool jet4) {
-    constexpr std::size_t place = 0x42, placeDate = 0x72;
-    const std::size_t longueur = jet4 ? 40 : 20;
-    std::array<std::uint8_t, 4> masque{};
-    if (jet4) {
-        const double jour = reel64(entete, placeDate);
-        const auto entier = jour > 0 && jour < 1e9 ? static_cast<std::uint32_t>(jour) : 0;
-        for (std::size_t i = 0; i < masque.size(); ++i)
-            masque[i] = static_cast<std::uint8_t>(entier >> (8 * i));
-    }
-    for (std::size_t i = 0; i < longueur; ++i)
-        if (entete[place + i] != masque[i % masque.size()]) return true;
-    return false;
-}
-
 Format formatDe(const MdbHandle& mdb) {
     const MdbFormatConstants& c = *mdb.fmt;
     Format format;
@@ -104,14 +88,15 @@ struct Pages::Poignee {
     MdbHandle* mdb;
 };
 
-Pages::Pages(const std::string& chemin) {
+Pages::Pages(const std::string& chemin, std::string_view motDePasseDonne) {
     refuseCeQuiNEstPasJet(chemin);
     m_poignee = std::make_unique<Poignee>(chemin);
     const MdbHandle* mdb = m_poignee->mdb;
     if (!mdb) throw ErreurJet("La base \"" + chemin + "\" ne peut pas être lue.");
     m_format = formatDe(*mdb);
-    if (aUnMotDePasse(Octets(mdb->pg_buf, kTailleEntete), m_format.jet4))
-        throw ErreurJet("La base \"" + chemin + "\" est protégée par un mot de passe : retirez-le avec Access.");
+    const std::string attendu = motDePasse(Octets(mdb->pg_buf, kTailleEntete), m_format.jet4);
+    if (!attendu.empty() && attendu != motDePasseDonne)
+        throw MotDePasseRefuse("La base \"" + chemin + "\" est protégée par un mot de passe.");
     std::error_code erreur;
     const std::uintmax_t taille = fs::file_size(chemin, erreur);
     if (erreur) throw ErreurJet("La base \"" + chemin + "\" ne peut pas être lue.");

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 // For this room only: the file as numbered pages, decoded. Nothing but opening, page reading and the places of the two
 // formats' fields is asked of libmdb, which trusts what it finds on a page; what stands there is judged in this room.
@@ -26,7 +27,8 @@ struct Format {
 
 class Pages {
   public:
-    explicit Pages(const std::string& chemin);  // throws ErreurJet
+    // Throws ErreurJet; MotDePasseRefuse when the base has another password than the one given.
+    explicit Pages(const std::string& chemin, std::string_view motDePasseDonne = {});
     Pages(const Pages&) = delete;
     Pages& operator=(const Pages&) = delete;
     ~Pages();

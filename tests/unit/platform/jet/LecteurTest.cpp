@@ -175,15 +175,43 @@ TEST_F(Lecteur, tablesAreTheUsersOwn) {
     EXPECT_TRUE(bilan.interrompu);
 }
 
-TEST_F(Lecteur, anEncodedBaseIsReadAndOneWithAPasswordRefused) {
+TEST_F(Lecteur, anEncodedBaseIsReadAsAnyOther) {
     BaseJet base;
     base.ligne(base.table("Films", {{"Titre"}}), {"L'Été"});
     base.cle = 0x12345678;
     EXPECT_EQ(base.octets().find("T\0i\0t"s), std::string::npos);
     EXPECT_EQ(lit(base), (Lignes{{"L'Été"}}));
-    base.motDePasse = "s";
-    EXPECT_EQ(refus(base.octets()), "La base \"" + m_dossier.chemin("Été.mdb") +
-                                        "\" est protégée par un mot de passe : retirez-le avec Access.");
+}
+
+TEST_F(Lecteur, aBaseWithAPasswordAsksForIt) {
+    for (const std::uint32_t cle : {0u, 0x12345678u})
+        for (const double jour : {0.0, 38000.75}) {
+            BaseJet base;
+            base.ligne(base.table("Films", {{"Titre"}}), {"Z"});
+            base.cle = cle;
+            base.jourDeCreation = jour;
+            EXPECT_EQ(lit(base), (Lignes{{"Z"}}));
+            for (const std::string secret : {"s", "L'Été à 20 caractère"}) {
+                base.motDePasse = secret;
+                const std::string chemin = m_dossier.ecrit("Été.mdb", base.octets());
+                EXPECT_EQ(refus(base.octets()), "La base \"" + chemin + "\" est protégée par un mot de passe.");
+                for (const std::string& faux : {""s, "S"s, secret + "s", secret + "\0"s, secret.substr(1)})
+                    EXPECT_FALSE(jet::accepteMotDePasse(chemin, faux)) << faux;
+                EXPECT_TRUE(jet::accepteMotDePasse(chemin, secret));
+                EXPECT_EQ(jet::Lecteur(chemin, {.motDePasse = secret}).tables().size(), 1u);
+            }
+        }
+    EXPECT_TRUE(jet::accepteMotDePasse(m_dossier.chemin("rien.mdb"), ""));
+}
+
+// A Jet 3 head holds the characters themselves, in code page 1252, under the cipher that every head has.
+TEST_F(Lecteur, aPasswordOfJet3IsComparedToo) {
+    BaseJet base;
+    base.jet3 = true;
+    base.motDePasse = "L'œuvre";
+    const std::string chemin = m_dossier.ecrit("97.mdb", base.octets());
+    EXPECT_FALSE(jet::accepteMotDePasse(chemin, "L'oeuvre"));
+    EXPECT_TRUE(jet::accepteMotDePasse(chemin, "L'œuvre"));
 }
 
 TEST_F(Lecteur, whatIsNoJetBaseIsRefused) {
