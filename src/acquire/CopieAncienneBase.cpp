@@ -3,7 +3,6 @@
 #include "db/ConversionJet.h"
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
-#include "platform/jet/LecteurJet.h"
 
 #include <array>
 #include <filesystem>
@@ -42,8 +41,8 @@ void CopieAncienneBase::efface() {
         fichiers::supprime(m_copie + suite);
 }
 
-CopieAncienneBase::Issue CopieAncienneBase::ouvre(const std::string& original) {
-    const Issue issue = jet::estBaseJet(original) ? convertit(original) : copie(original);
+CopieAncienneBase::Issue CopieAncienneBase::ouvre(const std::string& original, const jet::Ouverture& ouverture) {
+    const Issue issue = jet::estBaseJet(original) ? convertit(original, ouverture) : copie(original);
     if (issue != Issue::Ouverte) return issue;
     try {
         m_base = dao::DBEngine::OpenDatabase(m_copie, true);
@@ -54,8 +53,9 @@ CopieAncienneBase::Issue CopieAncienneBase::ouvre(const std::string& original) {
     }
 }
 
-CopieAncienneBase::Issue CopieAncienneBase::convertit(const std::string& original) {
-    const db::IssueJet issue = db::ConversionJet(m_progression, m_ecran)(original, m_copie);
+CopieAncienneBase::Issue CopieAncienneBase::convertit(const std::string& original, const jet::Ouverture& ouverture) {
+    const db::IssueJet issue = db::ConversionJet(m_progression, m_ecran)(original, m_copie, ouverture);
+    m_abimee = issue.abimee;
     m_rapport = issue.rapport;
     if (issue.echec) return echoue(*issue.echec);
     return issue.interrompu ? Issue::Interrompue : Issue::Ouverte;

@@ -4,6 +4,7 @@
 #include "platform/dao/Database.h"
 #include "platform/ecran/Controles.h"
 #include "platform/ecran/Ecran.h"
+#include "platform/jet/LecteurJet.h"
 
 #include <optional>
 #include <string>
@@ -21,14 +22,16 @@ class CopieAncienneBase {
     ~CopieAncienneBase();
 
     enum class Issue { Ouverte, Interrompue, Echouee };
-    [[nodiscard]] Issue ouvre(const std::string& original);
+    // `ouverture` is for a genuine Jet base.
+    [[nodiscard]] Issue ouvre(const std::string& original, const jet::Ouverture& ouverture);
 
     [[nodiscard]] dao::Database& base() { return m_base; }
     [[nodiscard]] const std::string& echec() const { return m_echec; }  // why it failed, for the user
-    [[nodiscard]] const db::RapportJet& pertes() const { return m_rapport; }
+    [[nodiscard]] bool abimee() const { return m_abimee; }              // something of it may be readable all the same
+    [[nodiscard]] const db::RapportJet& rapport() const { return m_rapport; }  // of a genuine Jet base
 
   private:
-    [[nodiscard]] Issue convertit(const std::string& original);
+    [[nodiscard]] Issue convertit(const std::string& original, const jet::Ouverture& ouverture);
     [[nodiscard]] Issue copie(const std::string& original);
     [[nodiscard]] bool copieFichier(const std::string& de, const std::string& vers);
     [[nodiscard]] Issue echoue(std::string raison);
@@ -40,7 +43,7 @@ class CopieAncienneBase {
     dao::Database m_base;
     std::string m_echec;
     db::RapportJet m_rapport;
-    bool m_interrompue = false;
+    bool m_interrompue = false, m_abimee = false;
 };
 
 }  // namespace acquire

@@ -2,6 +2,7 @@
 
 #include "acquire/CopieAncienneBase.h"
 #include "acquire/ProgressionVisible.h"
+#include "db/MotDePasseJet.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/NomsFichiers.h"
 
@@ -12,38 +13,68 @@ namespace acquire {
 
 namespace {
 
-// What a reading and the passage after it leave to tell, once no work is under way.
+using Issue = CopieAncienneBase::Issue;
+
+// What a passage leaves to tell, once no work is under way.
 struct Bilan {
     std::optional<PassageAncienne::Echec> echec;
     std::optional<RapportAncienne> rapport;  // nothing when the base could not be read
 };
 
-Bilan reprend(const OutilsAncienne& outils, const AncienneInstallation& ancienne) {
+PassageAncienne::Echec illisible(const AncienneInstallation& ancienne, const std::string& raison) {
+    return {"La base " + ancienne.base + " n'a pas pu être lue.\n" + raison, dialogues::kCritique};
+}
+
+Issue ouvre(const OutilsAncienne& outils, CopieAncienneBase& copie, const AncienneInstallation& ancienne,
+            const jet::Ouverture& ouverture) {
     const ecran::Travail travail(outils.ecran);
     const ProgressionVisible progression(outils.ajout, 1);
     outils.ajout.lblProgression.Caption = "Lecture de " + fichiers::nomDeFichier(ancienne.base);
-    CopieAncienneBase copie(outils.chemins.dossierTmp + "/Ancienne.mdb", outils.ajout.ProgressBar1, outils.ecran);
-    const auto illisible = [&](const std::string& raison) {
-        return PassageAncienne::Echec{"La base " + ancienne.base + " n'a pas pu être lue.\n" + raison,
-                                      dialogues::kCritique};
-    };
-    switch (copie.ouvre(ancienne.base)) {
-        case CopieAncienneBase::Issue::Echouee:
-            return {illisible(copie.echec()), std::nullopt};
-        case CopieAncienneBase::Issue::Interrompue:
-            return {std::nullopt, RapportAncienne{.interrompu = true}};
-        case CopieAncienneBase::Issue::Ouverte:
-            break;
-    }
+    return copie.ouvre(ancienne.base, ouverture);
+}
+
+// Of a damaged base, what can be read of it, when the user agrees to the losses; nothing when he does not.
+std::optional<Issue> ouvreCeQuiEstLisible(const OutilsAncienne& outils, CopieAncienneBase& copie,
+                                          const AncienneInstallation& ancienne, const std::string& motDePasse) {
+    const std::string raison = copie.echec();
+    const Issue issue = ouvre(outils, copie, ancienne, {motDePasse, true});
+    if (issue != Issue::Ouverte) return issue;
+    const std::string question = illisible(ancienne, raison).texte + "\n\n" + copie.rapport().texteDommages() +
+                                 "\nImporter ce qui est lisible ?\nLa liste des pertes sera gardée dans " +
+                                 db::nomDesPertes(outils.base.base.nom()) + ".";
+    if (outils.dialogues.MsgBox(question, dialogues::kQuestion) != dialogues::kOui) return std::nullopt;
+    if (db::gardeLesPertes(outils.base.base.nom(), ancienne.base, copie.rapport().dommages)) return issue;
+    outils.dialogues.MsgBox("La liste des pertes n'a pas pu être enregistrée (Disque plein/Lecture seule ?)",
+                            dialogues::kCritique);
+    return std::nullopt;
+}
+
+Bilan reprend(const OutilsAncienne& outils, CopieAncienneBase& copie, const AncienneInstallation& ancienne) {
+    const ecran::Travail travail(outils.ecran);
+    const ProgressionVisible progression(outils.ajout, 1);
     try {
         PassageAncienne passage(outils, copie.base(), ancienne.dossierImages);
         passage.execute();
         Bilan bilan{passage.echec(), passage.rapport()};
-        bilan.rapport->pertes = copie.pertes().pertes();
+        bilan.rapport->pertes = copie.rapport().pertes();
         return bilan;
     } catch (const dao::ErreurDao& erreur) {  // it lacks a table
-        return {illisible(erreur.description), std::nullopt};
+        return {illisible(ancienne, erreur.description), std::nullopt};
     }
+}
+
+// Nothing when the user does not want it.
+std::optional<Bilan> litEtReprend(const OutilsAncienne& outils, const AncienneInstallation& ancienne) {
+    const auto motDePasse = db::demandeMotDePasse(ancienne.base, outils.dialogues);
+    if (!motDePasse) return std::nullopt;
+    CopieAncienneBase copie(outils.chemins.dossierTmp + "/Ancienne.mdb", outils.ajout.ProgressBar1, outils.ecran);
+    std::optional<Issue> issue = ouvre(outils, copie, ancienne, {.motDePasse = *motDePasse});
+    const std::string raison = copie.echec();
+    if (copie.abimee()) issue = ouvreCeQuiEstLisible(outils, copie, ancienne, *motDePasse);
+    if (!issue) return std::nullopt;
+    if (*issue == Issue::Ouverte) return reprend(outils, copie, ancienne);
+    if (*issue == Issue::Interrompue) return Bilan{std::nullopt, RapportAncienne{.interrompu = true}};
+    return Bilan{illisible(ancienne, copie.abimee() ? raison : copie.echec()), std::nullopt};
 }
 
 // The same folder, or the same file, by whatever names.
@@ -136,11 +167,12 @@ void ImportAncienneBase::refuse(const std::string& message) {
 }
 
 void ImportAncienneBase::importe(const AncienneInstallation& ancienne) {
-    const Bilan bilan = reprend(m_outils, ancienne);
-    if (bilan.echec) m_outils.dialogues.MsgBox(bilan.echec->texte, bilan.echec->style);
-    if (!bilan.rapport) return;
-    m_outils.dialogues.MsgBox(bilan.rapport->texte() + "\n" + origine(ancienne), dialogues::kInformation);
-    if (!bilan.rapport->aChangeLaBase()) return;
+    const auto bilan = litEtReprend(m_outils, ancienne);
+    if (!bilan) return;
+    if (bilan->echec) m_outils.dialogues.MsgBox(bilan->echec->texte, bilan->echec->style);
+    if (!bilan->rapport) return;
+    m_outils.dialogues.MsgBox(bilan->rapport->texte() + "\n" + origine(ancienne), dialogues::kInformation);
+    if (!bilan->rapport->aChangeLaBase()) return;
     m_rafraichissement.AffichageApresModification();
     m_rafraichissement.RaffraichitBoitesDeroulantes();
     m_rafraichissement.AfficheNbTitres();

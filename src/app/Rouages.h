@@ -56,8 +56,8 @@ struct Session::Rouages final : db::Rafraichissement {
 
     // Base.
     db::OuvertureBase ouvertureBase{base, chemins, machine.dialogues};
-    db::OuvertureJet ouvertureJet{
-        {etats.fonctions.ProgressBar3, etats.fonctions.lblTravail, machine.ecran, machine.dialogues}};
+    db::OuvertureJet ouvertureJet{{etats.fonctions.ProgressBar3, etats.fonctions.lblTravail, machine.ecran,
+                                   machine.dialogues, etats.stockage, chemins}};
     db::cmdChargeOuvreBase_Click cmdChargeOuvreBase{base,         chemins, ouvertureBase,
                                                     ouvertureJet, *this,   machine.dialogues};
     db::Option3_Click option3{etats.stockage, chemins};

@@ -1,5 +1,6 @@
 #include "browse/AfficheTemporaire.h"
 
+#include "db/AfficheVoisine.h"
 #include "db/Affiches.h"
 #include "platform/fichiers/Fichiers.h"
 
@@ -29,6 +30,8 @@ void AfficheTemporaire::depuisFichier(const std::string& nom) {
     const std::string chemin = db::dossierImages(m_stockage, m_chemins) + nom;
     if (fichiers::existe(chemin))
         fichiers::copie(chemin, m_chemins.afficheTmp);
+    else if (const auto voisine = db::afficheVoisine(m_chemins.base, nom))
+        fichiers::copie(*voisine, m_chemins.afficheTmp);
     else
         m_dialogues.MsgBox("Le fichier image n'existe plus (" + chemin + ") !", dialogues::kExclamation);
 }

@@ -1,10 +1,10 @@
 #include "db/ConversionJet.h"
 
 #include "db/Affiches.h"
+#include "db/DommagesJet.h"
 #include "db/Schema.h"
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
-#include "platform/jet/LecteurJet.h"
 #include "util/Texte.h"
 
 #include <algorithm>
@@ -32,6 +32,8 @@ constexpr std::array<std::string_view, 11> kChampsPersonnel{"Titre2",   "Realisa
                                                             "Date",     "Divers",       "Support"};
 constexpr std::string_view kAffiche = "Affiche";
 constexpr std::string_view kNote = "Note";
+constexpr std::string_view kFichier = "JPG";
+constexpr std::size_t kChampsCle = 2;  // title and director come first in both tables: without them a row is lost
 
 // Of one transaction.
 constexpr long kLignesParLot = 2000;
@@ -43,6 +45,7 @@ constexpr long kAvancementLecture = 700;
 
 struct Echec {
     std::string texte;
+    bool abimee = false;
 };
 struct Arret {};
 
@@ -50,10 +53,12 @@ struct Arret {};
 struct Reprise {
     std::string_view nom;
     std::span<const std::string_view> champs;
-    const jet::Table* source = nullptr;
-    std::vector<std::size_t> rangs{};  // of each field in the source's rows
+    const jet::Table* source = nullptr;  // none when a damaged base has lost it
+    std::vector<std::size_t> rangs{};    // of each field in the source's rows
     long lignes = 0;
     std::uint64_t empreinte = 0;  // of every value, in order
+    DommagesJet dommages{.table = std::string(nom)};
+    std::string dernierTitre{};  // of the last row that could be read
 };
 
 void melange(std::uint64_t& empreinte, const dao::Valeur& valeur) {
@@ -86,21 +91,31 @@ dao::Valeur valeurDe(std::string_view champ, jet::Nature nature, const std::opti
 // One conversion under way. Throws Echec, Arret, and what the bases throw.
 class Passage {
   public:
-    Passage(const std::string& source, const std::string& destination, ecran::Progression& progression,
-            ecran::Ecran& ecran)
-        : m_destination(destination), m_lecteur(source), m_progression(progression), m_ecran(ecran) {}
+    Passage(const std::string& source, const std::string& destination, const jet::Ouverture& ouverture,
+            ecran::Progression& progression, ecran::Ecran& ecran)
+        : m_destination(destination),
+          m_abimee(ouverture.abimee),
+          m_lecteur(source, ouverture),
+          m_progression(progression),
+          m_ecran(ecran) {}
 
     RapportJet convertit();
 
   private:
     void reconnait(Reprise& reprise);
+    const jet::Table* retrouve(Reprise& reprise);
+    void notePertes(Reprise& reprise, std::span<const jet::Perte> pertes, jet::Ligne ligne);
+    jet::Bilan parcourt(Reprise& reprise, const std::function<void(jet::Ligne)>& reprend);
     void copie(Reprise& reprise, dao::Database& base);
     std::size_t ajoute(Reprise& reprise, dao::Recordset& cible, jet::Ligne ligne);
+    void compteAffiche(const dao::Valeur& affiche);
     void relit(const Reprise& reprise, dao::Database& base, long faites, long lignes);
     void releveLeReste();
+    void releveLesDommages();
     void avance(long valeur);
 
     const std::string& m_destination;
+    bool m_abimee;
     jet::Lecteur m_lecteur;
     ecran::Progression& m_progression;
     ecran::Ecran& m_ecran;
@@ -122,6 +137,7 @@ RapportJet Passage::convertit() {
         copie(m_films, base);
         copie(m_personnel, base);
     }
+    if (m_abimee) releveLesDommages();
     if (!fichiers::synchronise({m_destination}))
         throw Echec{"Le fichier " + entreChevrons(m_destination) + " n'a pas pu être enregistré."};
     dao::Database base = dao::DBEngine::OpenDatabase(m_destination, true);
@@ -132,28 +148,114 @@ RapportJet Passage::convertit() {
     return m_rapport;
 }
 
+std::size_t rang(const jet::Table& table, std::string_view nom) {
+    const auto champ =
+        std::ranges::find_if(table.champs, [nom](const auto& c) { return util::egalSansCasse(c.nom, nom); });
+    return static_cast<std::size_t>(champ - table.champs.begin());
+}
+
+bool aTousLesChamps(const jet::Table& table, const Reprise& reprise) {
+    return std::ranges::all_of(reprise.champs, [&](auto nom) { return rang(table, nom) < table.champs.size(); });
+}
+
 void Passage::reconnait(Reprise& reprise) {
-    reprise.source = m_lecteur.table(reprise.nom);
-    if (reprise.source == nullptr) throw Echec{"La table " + entreChevrons(reprise.nom) + " manque."};
-    const auto& champs = reprise.source->champs;
-    for (const std::string_view nom : reprise.champs) {
-        const auto champ = std::ranges::find_if(champs, [&](const auto& c) { return util::egalSansCasse(c.nom, nom); });
-        if (champ == champs.end())
-            throw Echec{"Le champ " + entreChevrons(nom) + " manque dans la table " + entreChevrons(reprise.nom) + "."};
-        reprise.rangs.push_back(static_cast<std::size_t>(champ - champs.begin()));
+    reprise.source = m_abimee ? retrouve(reprise) : m_lecteur.table(reprise.nom);
+    if (reprise.source == nullptr) {
+        if (!m_abimee) throw Echec{"La table " + entreChevrons(reprise.nom) + " manque.", true};
+        return reprise.dommages.note("La table est illisible");
     }
+    for (const std::string_view nom : reprise.champs) {
+        reprise.rangs.push_back(rang(*reprise.source, nom));
+        if (reprise.rangs.back() == reprise.source->champs.size() && !reprise.source->champs.empty())
+            throw Echec{"Le champ " + entreChevrons(nom) + " manque dans la table " + entreChevrons(reprise.nom) + "."};
+    }
+    reprise.dommages.annoncees = reprise.source->lignesDeclarees;
+}
+
+// By its fields when its name is lost: among several, which once were tables too, the one with the most rows.
+const jet::Table* Passage::retrouve(Reprise& reprise) {
+    const jet::Table* const nommee = m_lecteur.table(reprise.nom);
+    if (nommee != nullptr && !nommee->champs.empty()) return nommee;
+    const jet::Table* trouvee = nullptr;
+    for (const jet::Table& table : m_lecteur.tables())
+        if (aTousLesChamps(table, reprise) && (!trouvee || table.lignesDeclarees > trouvee->lignesDeclarees))
+            trouvee = &table;
+    if (trouvee) reprise.dommages.note("La table a perdu son nom : elle a été reconnue à ses champs");
+    return trouvee;
 }
 
 void Passage::releveLeReste() {
     for (const jet::Table& table : m_lecteur.tables())
-        if (&table != m_films.source && &table != m_personnel.source) m_rapport.tables.push_back(table.nom);
+        if (&table != m_films.source && &table != m_personnel.source && !table.nom.empty())
+            m_rapport.tables.push_back(table.nom);
+    for (const Reprise* reprise : {&m_films, &m_personnel}) {
+        if (reprise->source == nullptr) continue;
+        for (std::size_t i = 0; i < reprise->source->champs.size(); ++i)
+            if (std::ranges::find(reprise->rangs, i) == reprise->rangs.end())
+                m_rapport.champs.push_back(std::string(reprise->nom) + "." + reprise->source->champs[i].nom);
+    }
+}
+
+void Passage::releveLesDommages() {
+    if (m_films.lignes + m_personnel.lignes == 0) throw Echec{"Rien n'y est lisible.", true};
     for (const Reprise* reprise : {&m_films, &m_personnel})
-        for (std::size_t rang = 0; rang < reprise->source->champs.size(); ++rang)
-            if (std::ranges::find(reprise->rangs, rang) == reprise->rangs.end())
-                m_rapport.champs.push_back(std::string(reprise->nom) + "." + reprise->source->champs[rang].nom);
+        if (!reprise->dommages.estEntiere()) m_rapport.dommages.push_back(reprise->dommages);
+}
+
+// Which row that is, as far as it can be told.
+std::string designe(const Reprise& reprise, std::uint32_t numero, jet::Ligne ligne) {
+    std::string texte = "Ligne " + std::to_string(numero);
+    if (ligne.empty())
+        return reprise.dernierTitre.empty() ? texte : texte + " (après " + entreChevrons(reprise.dernierTitre) + ")";
+    const auto &titre = ligne[reprise.rangs[0]], &realisateur = ligne[reprise.rangs[1]];
+    texte += " (" + entreChevrons(titre.value_or(""));
+    return texte + (realisateur && !realisateur->empty() ? " de " + *realisateur + ")" : ")");
+}
+
+void Passage::notePertes(Reprise& reprise, std::span<const jet::Perte> pertes, jet::Ligne ligne) {
+    DommagesJet& dommages = reprise.dommages;
+    for (const jet::Perte& perte : pertes) {
+        if (perte.quoi == jet::Perte::Quoi::UneLigne) {
+            ++dommages.lignes;
+            dommages.note(designe(reprise, perte.ligne, {}) + " : " + perte.raison);
+        } else if (perte.quoi == jet::Perte::Quoi::UnChamp) {
+            const auto champ = std::ranges::find(reprise.rangs, perte.champ);
+            if (champ == reprise.rangs.end()) continue;  // it has no place in a base of ours
+            const std::string_view nom = reprise.champs[static_cast<std::size_t>(champ - reprise.rangs.begin())];
+            ++(nom == kAffiche ? dommages.affiches : dommages.champs);
+            dommages.note(designe(reprise, perte.ligne, ligne) + ", champ " + entreChevrons(nom) + " : " +
+                          perte.raison);
+        } else {
+            dommages.note((perte.quoi == jet::Perte::Quoi::UnePage ? "Lignes d'une page : " : "") + perte.raison);
+        }
+    }
+}
+
+jet::Bilan Passage::parcourt(Reprise& reprise, const std::function<void(jet::Ligne)>& reprend) {
+    const auto sansCle = [&](const jet::Perte& perte) {
+        const auto cles = std::span(reprise.rangs).first(kChampsCle);
+        return perte.quoi == jet::Perte::Quoi::UnChamp && std::ranges::find(cles, perte.champ) != cles.end();
+    };
+    const auto partiel = [&](jet::Ligne ligne, std::span<const jet::Perte> pertes) {
+        const auto cle = std::ranges::find_if(pertes, sansCle);
+        if (cle == pertes.end()) {
+            notePertes(reprise, pertes, ligne);
+        } else {
+            const jet::Perte perdue{jet::Perte::Quoi::UneLigne, cle->ligne, 0, cle->raison};
+            notePertes(reprise, {&perdue, 1}, ligne);
+        }
+        if (ligne.empty() || cle != pertes.end()) return avance(m_progression.Value), true;
+        reprend(ligne);
+        reprise.dernierTitre = ligne[reprise.rangs[0]].value_or("");
+        return true;
+    };
+    const auto entier = [&](jet::Ligne ligne) { return reprend(ligne), true; };
+    return m_abimee ? m_lecteur.parcourtCeQuiEstLisible(*reprise.source, partiel, kAffiche)
+                    : m_lecteur.parcourt(*reprise.source, entier, kAffiche);
 }
 
 void Passage::copie(Reprise& reprise, dao::Database& base) {
+    if (reprise.source == nullptr) return;
     dao::Recordset cible = base.OpenRecordset(reprise.nom);
     std::optional<dao::Transaction> lot;
     long lignes = 0;
@@ -163,23 +265,22 @@ void Passage::copie(Reprise& reprise, dao::Database& base) {
         lot.reset();
         lignes = 0, octets = 0;
     };
-    const jet::Bilan bilan = m_lecteur.parcourt(
-        *reprise.source,
-        [&](jet::Ligne ligne) {
-            if (!lot) lot.emplace(base);
-            octets += ajoute(reprise, cible, ligne);
-            if (++lignes >= kLignesParLot || octets >= kOctetsParLot) termine();
-            const jet::Avancement lu = m_lecteur.avancement();
-            const std::uint64_t pages = std::max<std::uint64_t>(lu.pages, 1);
-            avance(static_cast<long>(lu.pagesLues * kAvancementLecture / pages));
-            return true;
-        },
-        kAffiche);
+    const jet::Bilan bilan = parcourt(reprise, [&](jet::Ligne ligne) {
+        if (!lot) lot.emplace(base);
+        octets += ajoute(reprise, cible, ligne);
+        if (++lignes >= kLignesParLot || octets >= kOctetsParLot) termine();
+        const jet::Avancement lu = m_lecteur.avancement();
+        const std::uint64_t pages = std::max<std::uint64_t>(lu.pages, 1);
+        avance(static_cast<long>(lu.pagesLues * kAvancementLecture / pages));
+    });
     termine();
     m_rapport.affichesAlterees += bilan.affichesAlterees;
-    if (static_cast<std::uint64_t>(reprise.lignes) != reprise.source->lignesDeclarees)
+    reprise.dommages.lues = reprise.lignes;
+    reprise.dommages.retrouvees = bilan.lignesRetrouvees;
+    if (!m_abimee && static_cast<std::uint64_t>(reprise.lignes) != reprise.source->lignesDeclarees)
         throw Echec{"La table " + entreChevrons(reprise.nom) + " est incomplète : " + std::to_string(reprise.lignes) +
-                    " lignes lues sur " + std::to_string(reprise.source->lignesDeclarees) + " annoncées."};
+                        " lignes lues sur " + std::to_string(reprise.source->lignesDeclarees) + " annoncées.",
+                    true};
 }
 
 // Answers about how many bytes the row takes.
@@ -187,16 +288,23 @@ std::size_t Passage::ajoute(Reprise& reprise, dao::Recordset& cible, jet::Ligne 
     std::size_t octets = 0;
     cible.AddNew();
     for (std::size_t i = 0; i < reprise.champs.size(); ++i) {
-        const std::size_t rang = reprise.rangs[i];
-        const dao::Valeur valeur = valeurDe(reprise.champs[i], reprise.source->champs[rang].nature, ligne[rang]);
-        if (reprise.champs[i] == kAffiche && valeur.estOctets()) ++m_rapport.affiches;
+        const std::size_t place = reprise.rangs[i];
+        const dao::Valeur valeur = valeurDe(reprise.champs[i], reprise.source->champs[place].nature, ligne[place]);
+        if (reprise.champs[i] == kAffiche) compteAffiche(valeur);
         melange(reprise.empreinte, valeur);
         cible.assigne(reprise.champs[i], valeur);
-        octets += ligne[rang] ? ligne[rang]->size() : 0;
+        octets += ligne[place] ? ligne[place]->size() : 0;
     }
     cible.Update();
     ++reprise.lignes;
     return octets;
+}
+
+void Passage::compteAffiche(const dao::Valeur& affiche) {
+    if (affiche.estOctets())
+        ++m_rapport.affiches;
+    else if (const std::string nom = affiche.texte(); nom.starts_with(kFichier) && nom.size() > kFichier.size())
+        m_rapport.fichiers.push_back(nom.substr(kFichier.size()));
 }
 
 // What the new file holds is what was read, value by value.
@@ -241,7 +349,8 @@ class Temoin {
 
 }  // namespace
 
-IssueJet ConversionJet::operator()(const std::string& source, const std::string& destination) {
+IssueJet ConversionJet::operator()(const std::string& source, const std::string& destination,
+                                   const jet::Ouverture& ouverture) {
     std::error_code ignoree;
     if (fs::exists(fs::symlink_status(destination, ignoree)))
         return {.rapport = {}, .echec = "Le fichier " + entreChevrons(destination) + " existe déjà."};
@@ -251,13 +360,17 @@ IssueJet ConversionJet::operator()(const std::string& source, const std::string&
     const Temoin temoin(source);
     IssueJet issue;
     try {
-        issue.rapport = Passage(source, destination, m_progression, m_ecran).convertit();
+        issue.rapport = Passage(source, destination, ouverture, m_progression, m_ecran).convertit();
         m_progression.Value = kAvancementMax;
         if (temoin.aChange()) issue.echec = "Un autre programme a modifié la base pendant sa lecture.";
     } catch (const Arret&) {
         issue.interrompu = true;
     } catch (const Echec& echec) {
         issue.echec = echec.texte;
+        issue.abimee = echec.abimee;
+    } catch (const jet::BaseEndommagee& erreur) {
+        issue.echec = erreur.what();
+        issue.abimee = true;
     } catch (const jet::ErreurJet& erreur) {
         issue.echec = erreur.what();
     } catch (const dao::ErreurDao& erreur) {

@@ -3,6 +3,7 @@
 #include "db/RapportJet.h"
 #include "platform/ecran/Controles.h"
 #include "platform/ecran/Ecran.h"
+#include "platform/jet/LecteurJet.h"
 
 #include <optional>
 #include <string>
@@ -14,6 +15,7 @@ struct IssueJet {
     RapportJet rapport;                // of a whole conversion
     std::optional<std::string> echec;  // why it failed: French sentences for the user
     bool interrompu = false;
+    bool abimee = false;  // it failed for what the file holds: something of it may be readable
 
     [[nodiscard]] bool estFaite() const { return !echec && !interrompu; }
 };
@@ -28,7 +30,9 @@ class ConversionJet {
     ConversionJet(ecran::Progression& progression, ecran::Ecran& ecran) : m_progression(progression), m_ecran(ecran) {}
 
     // No file may stand at `destination`; one that does is left as it is, and the conversion fails. Throws nothing.
-    [[nodiscard]] IssueJet operator()(const std::string& source, const std::string& destination);
+    // A base opened as damaged is converted as far as it can be read, and the report says what is lost.
+    [[nodiscard]] IssueJet operator()(const std::string& source, const std::string& destination,
+                                      const jet::Ouverture& ouverture = {});
 
   private:
     ecran::Progression& m_progression;

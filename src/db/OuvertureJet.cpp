@@ -1,11 +1,14 @@
 #include "db/OuvertureJet.h"
 
-#include "db/ConversionJet.h"
+#include "db/AfficheVoisine.h"
+#include "db/MotDePasseJet.h"
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
 #include "platform/fichiers/Verrou.h"
 #include "platform/jet/LecteurJet.h"
+#include "util/NomsFichiers.h"
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <fstream>
@@ -24,6 +27,7 @@ struct Echec {
     std::string texte;
 };
 struct Arret {};
+struct Refus {};  // of the user, who knows it
 
 // The file itself, wherever links to it lie.
 std::string fichierReel(const std::string& chemin) {
@@ -117,6 +121,13 @@ std::string conserve(const std::string& original) {
                 " (Disque plein/Lecture seule ?)"};
 }
 
+// The text that tells the losses; none when there are none.
+std::string garde(const std::string& original, const RapportJet& rapport) {
+    if (rapport.dommages.empty()) return {};
+    if (const auto nom = gardeLesPertes(original, original, rapport.dommages)) return *nom;
+    throw Echec{"La liste des pertes n'a pas pu être enregistrée (Disque plein/Lecture seule ?)"};
+}
+
 // Puts the new base in the original's place. Answers the original's other name.
 std::string echange(const std::string& travail, const std::string& original) {
     donneLesDroits(travail, original);
@@ -145,6 +156,7 @@ std::optional<std::string> OuvertureJet::operator()(const std::string& chemin) {
     } catch (const Arret&) {
         m_outils.dialogues.MsgBox("La conversion a été arrêtée. Le fichier " + original + " n'a pas été modifié.",
                                   dialogues::kInformation);
+    } catch (const Refus&) {
     } catch (const Echec& echec) {
         m_outils.dialogues.MsgBox(
             "La base n'a pas pu être convertie.\n" + echec.texte + "\nLe fichier " + original + " n'a pas été modifié.",
@@ -166,13 +178,19 @@ bool OuvertureJet::accepte(const std::string& original) const {
 }
 
 std::string OuvertureJet::convertit(const std::string& original, const std::string& travail) {
-    const RapportJet rapport = lit(original, travail);
+    RapportJet rapport = lit(original, travail);
+    compteAffichesNonTrouvees(original, rapport);
+    std::string pertes;
     try {
+        pertes = garde(original, rapport);
         const std::string conservee = echange(travail, original);
-        return "La base a été convertie.\n" + rapport.texte() + "\nL'original est conservé sous le nom " +
-               entreChevrons(nomSeul(conservee)) + ".";
+        std::string texte = "La base a été convertie.\n" + rapport.texte() + "\nL'original est conservé sous le nom " +
+                            entreChevrons(nomSeul(conservee)) + ".";
+        if (!pertes.empty()) texte += "\nCe qui est perdu est dit dans " + entreChevrons(nomSeul(pertes)) + ".";
+        return texte;
     } catch (const Echec&) {
         fichiers::supprime(travail);
+        if (!pertes.empty()) fichiers::supprime(pertes);
         throw;
     }
 }
@@ -180,14 +198,50 @@ std::string OuvertureJet::convertit(const std::string& original, const std::stri
 RapportJet OuvertureJet::lit(const std::string& original, const std::string& travail) {
     if (!fichiers::dossierModifiable(fs::path(original).parent_path().string()))
         throw Echec{"Son dossier n'est pas accessible en écriture."};
-    m_outils.lblTravail.Caption = "Conversion de la base " + nomSeul(original) + "...";
-    m_outils.progression.Visible = true;
-    const IssueJet issue = ConversionJet(m_outils.progression, m_outils.ecran)(original, travail);
-    m_outils.progression.Visible = false;
-    m_outils.lblTravail.Caption.clear();
+    const auto motDePasse = demandeMotDePasse(original, m_outils.dialogues);
+    if (!motDePasse) throw Arret{};
+    IssueJet issue = passe(original, travail, {.motDePasse = *motDePasse});
+    if (issue.abimee) issue = litCeQuiEstLisible(original, travail, {*motDePasse, true}, *issue.echec);
     if (issue.interrompu) throw Arret{};
     if (issue.echec) throw Echec{*issue.echec};
     return issue.rapport;
+}
+
+IssueJet OuvertureJet::passe(const std::string& original, const std::string& travail, const jet::Ouverture& ouverture) {
+    m_outils.lblTravail.Caption = "Conversion de la base " + nomSeul(original) + "...";
+    m_outils.progression.Visible = true;
+    IssueJet issue = ConversionJet(m_outils.progression, m_outils.ecran)(original, travail, ouverture);
+    m_outils.progression.Visible = false;
+    m_outils.lblTravail.Caption.clear();
+    return issue;
+}
+
+// It is converted first, so that the question tells what the answer leads to.
+IssueJet OuvertureJet::litCeQuiEstLisible(const std::string& original, const std::string& travail,
+                                          const jet::Ouverture& ouverture, const std::string& raison) {
+    IssueJet issue = passe(original, travail, ouverture);
+    if (issue.abimee) issue.echec = raison;  // nothing is readable
+    if (!issue.estFaite() || accepteLesPertes(original, raison, issue.rapport)) return issue;
+    fichiers::supprime(travail);
+    throw Refus{};
+}
+
+bool OuvertureJet::accepteLesPertes(const std::string& original, const std::string& raison,
+                                    const RapportJet& rapport) const {
+    const std::string question = "La base n'a pas pu être convertie en entier.\n" + raison + "\n\n" +
+                                 rapport.texteDommages() +
+                                 "\nConvertir ce qui est lisible ?\nL'original sera conservé, et la liste des pertes "
+                                 "gardée dans " +
+                                 entreChevrons(nomSeul(nomDesPertes(original))) + ".";
+    return m_outils.dialogues.MsgBox(question, dialogues::kQuestion) == dialogues::kOui;
+}
+
+void OuvertureJet::compteAffichesNonTrouvees(const std::string& original, RapportJet& rapport) const {
+    const std::string& choisi = m_outils.stockage.Text4.Text;
+    const std::string dossier = util::avecSeparateur(choisi.empty() ? m_outils.chemins.dansDossier("Images") : choisi);
+    rapport.affichesNonTrouvees = std::ranges::count_if(rapport.fichiers, [&](const std::string& nom) {
+        return !fichiers::existe(dossier + nom) && !afficheVoisine(original, nom);
+    });
 }
 
 }  // namespace db

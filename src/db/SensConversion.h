@@ -30,7 +30,7 @@ class SensConversion {
     virtual void apresAnnulation() = 0;  // of the lot: nothing of it is left in the folder
 };
 
-// Files of the images folder into the base. A file goes once no film names it any more; one that a killed conversion has
+// Files of the images folder into the base, and those that lie beside the base, which stay there. A file of the folder goes once no film names it any more; one that a killed conversion has
 // left goes when it bears the name of a film whose stored poster it is, byte for byte.
 class VersLaBase final : public SensConversion {
   public:
@@ -51,6 +51,7 @@ class VersLaBase final : public SensConversion {
     };
     void releveUsages();
     void releve(const std::string& affiche);
+    void releveVoisine(const std::string& affiche);
     [[nodiscard]] std::optional<fichiers::Place> cherche(const std::string& affiche) const;
     [[nodiscard]] bool estNomme(const std::string& nom) const;
 

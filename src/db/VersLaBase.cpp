@@ -1,3 +1,4 @@
+#include "db/AfficheVoisine.h"
 #include "db/Affiches.h"
 #include "db/SensConversion.h"
 #include "platform/fichiers/Fichiers.h"
@@ -37,12 +38,20 @@ void VersLaBase::releve(const std::string& affiche) {
     auto connu = m_fichiers.find(affiche);
     if (connu == m_fichiers.end()) {
         const auto fichier = cherche(affiche);
-        if (!fichier) return;
+        if (!fichier) return releveVoisine(affiche);
         connu = m_fichiers.emplace(affiche, *fichier).first;
     }
     Usage& usage = m_usages[connu->second.identite];
     ++usage.films;
     usage.chemins.insert(connu->second.chemin);
+}
+
+// A file that came with the base is taken in, and stays.
+void VersLaBase::releveVoisine(const std::string& affiche) {
+    if (!affiche.starts_with(kFichier)) return;
+    const auto chemin = afficheVoisine(m_base.nom(), affiche.substr(kFichier.size()));
+    const auto place = chemin ? fichiers::situe(*chemin) : std::nullopt;
+    if (place) m_fichiers.emplace(affiche, *place);
 }
 
 // The poster's file, if it stands there.

@@ -11,6 +11,7 @@
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -182,6 +183,15 @@ std::string DialoguesQt::InputBox(const std::string& invite, const std::string& 
     QInputDialog boite(parent());
     compose(boite, invite, titre, defaut);
     return saisie(boite);
+}
+
+std::optional<std::string> DialoguesQt::demandeMotDePasse(const std::string& invite) {
+    m_liaison.ecrit();
+    QInputDialog boite(parent());
+    boite.setTextEchoMode(QLineEdit::Password);
+    compose(boite, invite, dialogues::kTitre, {});
+    if (boite.exec() != QDialog::Accepted) return std::nullopt;
+    return boite.textValue().toStdString();
 }
 
 std::string DialoguesQt::demandeChemin(const dialogues::DemandeChemin& demande) {

@@ -18,6 +18,7 @@ class DialoguesQt final : public dialogues::Dialogues {
     int MsgBox(const std::string& texte, int style, const std::string& titre) override;
     void montre(const dialogues::Rapport& rapport) override;
     std::string InputBox(const std::string& invite, const std::string& titre, const std::string& defaut) override;
+    std::optional<std::string> demandeMotDePasse(const std::string& invite) override;
     std::string demandeChemin(const dialogues::DemandeChemin& demande) override;
     std::string choisitFichier(const dialogues::DemandeFichier& demande) override;
     std::string choisitDossier(const std::string& titre, const std::string& dossierInitial) override;

@@ -15,32 +15,34 @@ inline std::string imageJet(int film, std::size_t taille = 6000) {
     return octets;
 }
 
+// A row of a collection's films.
+inline void filmJet(BaseJet& base, const std::string& titre, const std::string& affiche) {
+    const std::string resume = std::string(5000, 'r') + " L'œuvre \"" + titre + "\"\r\nfin";
+    base.ligne(0, {titre, "Agnès Varda", "1962", "France", "Drame", "1H30", "", resume, std::nullopt, affiche,
+                   BaseJet::petit(7, 2), "12/03/2004", "16/9"});
+}
+
 // A small collection as a genuine Jet base: films 0 to `films` - 1 ("Été 0", "Été 1"...), each with a summary over two
 // pages and its picture in the base; the first two are owned. A third table and a field more have no place in ours.
 inline BaseJet collectionJet(int films, std::size_t tailleImage = 6000) {
     using Champ = BaseJet::Champ;
     BaseJet base;
     base.comprime = true;
-    const std::size_t catalogue = base.table("films", {Champ{"Titre"},
-                                                       {"Realisateur"},
-                                                       {"Annee"},
-                                                       {"Origine"},
-                                                       {"Genre"},
-                                                       {"Duree"},
-                                                       {"Acteurs"},
-                                                       {"Resume", BaseJet::Memo},
-                                                       {"Production"},
-                                                       {"Affiche", BaseJet::Memo},
-                                                       {"NOTE", BaseJet::Entier16},
-                                                       {"DateAjout"},
-                                                       {"Format"}});
-    for (int film = 0; film < films; ++film) {
-        const std::string titre = "Été " + std::to_string(film);
-        const std::string resume = std::string(5000, 'r') + " L'œuvre \"" + titre + "\"\r\nfin";
-        base.ligne(catalogue,
-                   {titre, "Agnès Varda", "1962", "France", "Drame", "1H30", "", resume, std::nullopt,
-                    "STO" + util::depuis1252(imageJet(film, tailleImage)), BaseJet::petit(7, 2), "12/03/2004", "16/9"});
-    }
+    base.table("films", {Champ{"Titre"},
+                         {"Realisateur"},
+                         {"Annee"},
+                         {"Origine"},
+                         {"Genre"},
+                         {"Duree"},
+                         {"Acteurs"},
+                         {"Resume", BaseJet::Memo},
+                         {"Production"},
+                         {"Affiche", BaseJet::Memo},
+                         {"NOTE", BaseJet::Entier16},
+                         {"DateAjout"},
+                         {"Format"}});
+    for (int film = 0; film < films; ++film)
+        filmJet(base, "Été " + std::to_string(film), "STO" + util::depuis1252(imageJet(film, tailleImage)));
     const std::size_t possessions = base.table("Personnel", {Champ{"Titre2"},
                                                              {"Realisateur2"},
                                                              {"Rangement"},

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace dialogues {
@@ -46,6 +48,11 @@ class Dialogues {
     // InputBox for the path of a file to write; the window's also lets the user browse for it.
     virtual std::string demandeChemin(const DemandeChemin& demande) {
         return InputBox(demande.invite, demande.titre, demande.defaut);
+    }
+    // A password, whose characters the window does not show; nothing when cancelled.
+    virtual std::optional<std::string> demandeMotDePasse(const std::string& invite) {
+        std::string saisi = InputBox(invite);
+        return saisi.empty() ? std::nullopt : std::optional(std::move(saisi));
     }
     // The path chosen, empty when cancelled.
     virtual std::string choisitFichier(const DemandeFichier& demande) = 0;

@@ -21,7 +21,8 @@ class cmdChargeOuvreBaseTest : public ::testing::Test {
     doubles::EcranMuet ecran;
     ecran::Progression progression;
     ecran::Etiquette lblTravail;
-    db::OuvertureJet ouvertureJet{{progression, lblTravail, ecran, dialogues}};
+    db::EtatStockage stockage;
+    db::OuvertureJet ouvertureJet{{progression, lblTravail, ecran, dialogues, stockage, installation.chemins}};
     db::cmdChargeOuvreBase_Click commande{base,         installation.chemins, ouvertureBase,
                                           ouvertureJet, rafraichissement,     dialogues};
 

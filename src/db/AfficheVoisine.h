@@ -1,0 +1,13 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace db {
+
+// The file of a poster that came with its base and is not in the images folder: in "Images" beside that base, or right
+// beside it. Such a file is only read. A name that leads anywhere counts by its last part; a link is no poster.
+[[nodiscard]] std::optional<std::string> afficheVoisine(const std::string& base, std::string_view nom);
+
+}  // namespace db
