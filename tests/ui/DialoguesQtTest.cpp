@@ -131,6 +131,21 @@ TEST(DialoguesQt, AnInputAnswersItsTextOrNothing) {
     EXPECT_EQ(boites.InputBox("Quel genre ?", "Modifier le genre", "Comédie"), "");
 }
 
+TEST(DialoguesQt, APasswordIsNotShown) {
+    ui::Liaison liaison;
+    ui::DialoguesQt boites(liaison);
+    for (const std::string saisi : {"L'Été", ""}) {
+        surLaBoite<QInputDialog>([&](QInputDialog& boite) {
+            EXPECT_EQ(boite.findChild<QLineEdit*>()->echoMode(), QLineEdit::Password);
+            boite.findChild<QLineEdit*>()->setText(QString::fromStdString(saisi));
+            boite.accept();
+        });
+        EXPECT_EQ(boites.demandeMotDePasse("Quel est-il ?"), saisi);
+    }
+    surLaBoite<QInputDialog>([](QInputDialog& boite) { boite.reject(); });
+    EXPECT_EQ(boites.demandeMotDePasse("Quel est-il ?"), std::nullopt);
+}
+
 // The path browsed for stands in the box without the extension that will be appended to it.
 TEST(DialoguesQt, APathIsTypedOrBrowsedFor) {
     const doubles::DossierTemporaire dossier;

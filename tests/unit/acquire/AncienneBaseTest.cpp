@@ -1,6 +1,6 @@
 #include "acquire/ImporterAncienneBase.h"
 #include "db/ConversionJet.h"
-#include "doubles/BaseJet.h"
+#include "doubles/CollectionJet.h"
 #include "doubles/DialoguesScript.h"
 #include "doubles/EcranMuet.h"
 #include "doubles/Mort.h"
@@ -369,6 +369,54 @@ TEST_F(AncienneBaseTest, ReadsNoPictureOutsideItsFolder) {
     anciens(films, {});
     importe("11 films ajoutés.\n10 images non trouvées.");
     EXPECT_EQ(essai.colonne("Films", "Affiche"), attendues);
+}
+
+// The losses are told first, and kept beside the open base: nothing is written to the previous installation.
+TEST_F(AncienneBaseTest, OfAProtectedAndDamagedJetBaseTakesWhatIsReadable) {
+    doubles::BaseJet jet = doubles::collectionJet(3);
+    jet.motDePasse = "secret";
+    std::string abimee = jet.octets();
+    const std::size_t longue = abimee.find(std::string("\x01\x01\0\0LVAL", 8));
+    ancienne.ecrit("Films.mdb", abimee.replace(longue, 1, 1, '\0'));
+    const std::string base = ancienne.chemin("Films.mdb"), pertes = essai.dossier.chemin("Films (pertes).txt");
+    const std::string detail =
+        "- Ligne 1 (« Été 0 » de Agnès Varda), champ « Resume » : un renvoi mène à une page "
+        "étrangère.\n";
+    const auto jusquALaQuestion = [&](int reponse) {
+        attendChoix(ancienne.chemin());
+        attendAccord();
+        dialogues.attendInputBox("La base " + base + " est protégée par un mot de passe. Quel est-il ?", "secret");
+        dialogues.attendMsgBox(
+            "La base " + base +
+                " n'a pas pu être lue.\nLa base est endommagée : table \"films\", ligne 1, champ \"Resume\" : un "
+                "renvoi "
+                "mène à une page étrangère.\n\nCe qui est lisible : 3 films, 2 possessions, 3 affiches dans la "
+                "base.\nTable non reprise : Notes diverses.\nChamp non repris : Films.Format.\n\nCe qui est perdu :\n"
+                "Table « Films » : 3 lignes reprises sur 3, 1 autre champ illisible.\n" +
+                detail + "\nImporter ce qui est lisible ?\nLa liste des pertes sera gardée dans " + pertes + ".",
+            dialogues::kQuestion, reponse);
+    };
+    jusquALaQuestion(dialogues::kNon);
+    import.Command13_Click();
+    EXPECT_THAT(essai.colonne("Films", "Titre"), IsEmpty());
+    EXPECT_FALSE(std::filesystem::exists(pertes));
+    jusquALaQuestion(dialogues::kOui);
+    dialogues.attendMsgBox(
+        "3 films ajoutés, dont 2 possédés.\nTable non reprise : Notes diverses.\nChamp non repris : "
+        "Films.Format.\n" +
+            origine(),
+        dialogues::kInformation);
+    import.Command13_Click();
+    EXPECT_THAT(essai.colonne("Films", "Titre"), ElementsAre("Été 0", "Été 1", "Été 2"));
+    EXPECT_THAT(essai.dossier.lit("Films (pertes).txt"), testing::HasSubstr(detail));
+    EXPECT_EQ(ancienne.lit("Films.mdb"), abimee);
+    EXPECT_TRUE(std::filesystem::is_empty(chemins.dossierTmp));
+    EXPECT_EQ(ecran.soufflesHorsTravail, 0);
+    dialogues.verifie();
+    attendChoix(ancienne.chemin());
+    attendAccord();
+    dialogues.attendInputBox("La base " + base + " est protégée par un mot de passe. Quel est-il ?", "");
+    import.Command13_Click();
 }
 
 TEST_F(AncienneBaseTest, StoppedKeepsWhatWasAddedAndGoesOnNextTime) {

@@ -101,6 +101,16 @@ TEST_F(AfficheFicheTest, PostersComeFromTheBaseOrFromTheirFolder) {
     EXPECT_EQ(film.affiche, "");
 }
 
+// It came with the base, and is only read.
+TEST_F(AfficheFicheTest, APosterThatLiesBesideTheBaseIsShown) {
+    stockage.Text4.Text = dossier.chemin("Affiches");
+    ajouteFilm("Venue", {{"Affiche", "JPGC:\\Films\\Images\\VENUE.jpg"}});
+    dossier.ecrit("Images/Venue.jpg", "l'affiche");
+    montreFilm("Venue");
+    EXPECT_EQ(dossier.lit("Tmp/ImageTMP.jpg"), "l'affiche");
+    EXPECT_EQ(dossier.lit("Images/Venue.jpg"), "l'affiche");
+}
+
 TEST_F(AfficheFicheTest, APosterThatIsGoneOrBrokenShowsAsNone) {
     ajouteFilm("Perdue", {{"Affiche", "JPGPerdue.jpg"}});
     ajouteFilm("Abîmée", {{"Affiche", db::valeurAfficheDansLaBase("pas une image")}});

@@ -51,6 +51,21 @@ TEST_F(ConversionTest, FilesGoIntoTheBaseAsFarAsTheyFit) {
     EXPECT_EQ(entretien->ecranMuet.soufflesHorsTravail, 0);
 }
 
+// They came with the base: another copy of it may name them.
+TEST_F(ConversionTest, FilesBesideTheBaseGoIntoItAndStay) {
+    entretien->stockage.Text4.Text = installation.dossier.chemin("Ailleurs");
+    fichier("a.jpg", image(1));
+    installation.dossier.ecrit("b.jpg", image(2));
+    installation.dossier.ecrit("Ailleurs/c.jpg", image(3));
+    fichier("c.jpg", image(4));
+    for (const char* nom : {"a", "b", "c"})
+        entretien->ajoute(nom, "", "JPG" + std::string(nom) + ".jpg");
+    convertit(0, "3 fichiers inclus.");
+    EXPECT_EQ(entretien->affiches(), (std::vector<std::string>{"STO" + image(1), "STO" + image(2), "STO" + image(3)}));
+    EXPECT_TRUE(existe("a.jpg") && existe("c.jpg") && installation.dossier.existe("b.jpg"));
+    EXPECT_FALSE(installation.dossier.existe("Ailleurs/c.jpg"));
+}
+
 TEST_F(ConversionTest, NothingToMoveShowsNothing) {
     entretien->ajoute("a", "", dao::Valeur());
     entretien->ajoute("b", "", "JPGnullepart.jpg");
