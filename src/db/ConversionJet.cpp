@@ -209,7 +209,7 @@ std::string designe(const Reprise& reprise, std::uint32_t numero, jet::Ligne lig
         return reprise.dernierTitre.empty() ? texte : texte + " (après " + entreChevrons(reprise.dernierTitre) + ")";
     const auto &titre = ligne[reprise.rangs[0]], &realisateur = ligne[reprise.rangs[1]];
     texte += " (" + entreChevrons(titre.value_or(""));
-    return texte + (realisateur && !realisateur->empty() ? " de " + *realisateur + ")" : ")");
+    return texte + (realisateur && !realisateur->empty() ? ", " + *realisateur + ")" : ")");
 }
 
 void Passage::notePertes(Reprise& reprise, std::span<const jet::Perte> pertes, jet::Ligne ligne) {

@@ -56,7 +56,8 @@ Definition litDefinition(Pages& pages, std::uint32_t page) {
     definition.aDesVariables = u16(octets, places.variables) > 0;
 
     const std::size_t nombre = u16(octets, places.colonnes);
-    if (nombre > kColonnesMax) throw Dommage("sa définition annonce " + std::to_string(nombre) + " champs");
+    if (nombre == 0 || nombre > kColonnesMax)
+        throw Dommage("sa définition annonce " + std::to_string(nombre) + " champs");
     std::size_t place = places.debutColonnes + std::size_t{u32(octets, places.index)} * places.tailleIndex;
     for (std::size_t i = 0; i < nombre; ++i, place += places.tailleColonne)
         definition.colonnes.push_back(litColonne(format, morceau(octets, place, places.tailleColonne)));

@@ -74,7 +74,9 @@ class Lecture {
           m_lignes(pages, m_definition, m_reserve, acharnee),
           m_traduction(pages, m_reserve, champAffiche),
           m_valeurs(m_definition.colonnes.size()),
-          m_acharnee(acharnee) {}
+          m_acharnee(acharnee) {
+        if (m_valeurs.size() != table.champs.size()) throw Dommage("sa définition a changé pendant sa lecture");
+    }
 
     Bilan execute() {
         try {

@@ -380,7 +380,7 @@ TEST_F(AncienneBaseTest, OfAProtectedAndDamagedJetBaseTakesWhatIsReadable) {
     ancienne.ecrit("Films.mdb", abimee.replace(longue, 1, 1, '\0'));
     const std::string base = ancienne.chemin("Films.mdb"), pertes = essai.dossier.chemin("Films (pertes).txt");
     const std::string detail =
-        "- Ligne 1 (« Été 0 » de Agnès Varda), champ « Resume » : un renvoi mène à une page "
+        "- Ligne 1 (« Été 0 », Agnès Varda), champ « Resume » : un renvoi mène à une page "
         "étrangère.\n";
     const auto jusquALaQuestion = [&](int reponse) {
         attendChoix(ancienne.chemin());

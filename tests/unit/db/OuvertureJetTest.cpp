@@ -174,8 +174,8 @@ TEST_F(OuvertureJetTest, OfADamagedBaseWhatIsReadableIsConvertedAndTheRestTold) 
         "La base est endommagée : table \"films\", ligne 2, champ \"Resume\" : un renvoi mène à une page étrangère.";
     const std::string pertes =
         "Table « Films » : 3 lignes reprises sur 3, 1 affiche illisible, 1 autre champ illisible.\n"
-        "- Ligne 2 (« Été 1 » de Agnès Varda), champ « Resume » : un renvoi mène à une page étrangère.\n"
-        "- Ligne 3 (« Été 2 » de Agnès Varda), champ « Affiche » : un renvoi mène à une page étrangère.\n"
+        "- Ligne 2 (« Été 1 », Agnès Varda), champ « Resume » : un renvoi mène à une page étrangère.\n"
+        "- Ligne 3 (« Été 2 », Agnès Varda), champ « Affiche » : un renvoi mène à une page étrangère.\n"
         "Table « Personnel » : 1 ligne reprise sur 2, 1 ligne illisible.\n"
         "- Ligne 2 (après « Été 0 ») : la ligne annonce 65535 champs.\n";
     const auto interroge = [&](int reponse) {

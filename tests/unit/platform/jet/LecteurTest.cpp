@@ -271,6 +271,10 @@ TEST_F(Lecteur, aTableWhoseDefinitionIsLostHidesNoOther) {
     EXPECT_THAT(lecteur.table("Perdue")->champs, IsEmpty());
     EXPECT_EQ(lecteur.parcourt(*lecteur.table("Films"), [](jet::Ligne) { return true; }).lignesLues, 1u);
     EXPECT_EQ(refus(octets), "La base est endommagée : table \"Perdue\" : sa définition est illisible.");
+    octets[3 * 4096] = 2;
+    octets[3 * 4096 + 45] = 0;
+    EXPECT_EQ(refus(octets), "La base est endommagée : table \"Perdue\" : sa définition annonce 0 champs.");
+    EXPECT_THAT(ouvre(octets).table("Perdue")->champs, IsEmpty());
 }
 
 }  // namespace
