@@ -240,7 +240,7 @@ void OuvertureJet::compteAffichesNonTrouvees(const std::string& original, Rappor
     const std::string& choisi = m_outils.stockage.Text4.Text;
     const std::string dossier = util::avecSeparateur(choisi.empty() ? m_outils.chemins.dansDossier("Images") : choisi);
     rapport.affichesNonTrouvees = std::ranges::count_if(rapport.fichiers, [&](const std::string& nom) {
-        return !fichiers::existe(dossier + nom) && !afficheVoisine(original, nom);
+        return !afficheDans(dossier, nom) && !afficheVoisine(original, nom);
     });
 }
 
