@@ -10,8 +10,6 @@
 #include <cstring>
 #include <memory>
 
-#include <unicode/utf16.h>
-
 namespace dao::interne {
 
 namespace {
@@ -29,6 +27,12 @@ class CleEnCours {
   public:
     // No more than `caracteres` characters of the table, or elements of ICU, may be added before reserve is called again.
     explicit CleEnCours(std::size_t caracteres) : m_etabli(etabli()) { reserve(caracteres); }
+    CleEnCours(const CleEnCours&) = delete;
+    CleEnCours& operator=(const CleEnCours&) = delete;
+    ~CleEnCours() {
+        constexpr std::size_t kPlacesGardees = 1 << 16;  // one huge text must not hold its bench for ever
+        if (m_etabli.places > kPlacesGardees) m_etabli = {};
+    }
 
     void reserve(std::size_t caracteres) {
         if (m_etabli.places <= m_reserves + caracteres) agrandit(m_reserves + caracteres);
@@ -99,7 +103,7 @@ class CleEnCours {
 
     void agrandit(std::size_t caracteres) {
         const auto refait = [](std::unique_ptr<char[]>& octets, std::size_t garde, std::size_t taille) {
-            auto nouveaux = std::make_unique<char[]>(taille);
+            auto nouveaux = std::make_unique_for_overwrite<char[]>(taille);
             if (garde != 0) std::memcpy(nouveaux.get(), octets.get(), garde);
             octets = std::move(nouveaux);
         };
@@ -138,13 +142,6 @@ void ajouteMorceau(const std::u16string& morceau, CleEnCours& cle) {
     }
 }
 
-void ajouteUtf16(char32_t caractere, std::u16string& texte) {
-    std::array<char16_t, 2> unites{};
-    std::size_t taille = 0;
-    U16_APPEND_UNSAFE(unites, taille, caractere);
-    texte.append(unites.data(), taille);
-}
-
 void ajouteCleLente(std::string_view texte, std::string& cle) {
     CleEnCours enCours(texte.size());
     std::u16string morceau;
@@ -153,7 +150,7 @@ void ajouteCleLente(std::string_view texte, std::string& cle) {
         texte.remove_prefix(lu.octets);
         const std::uint8_t signe = signeDe(lu.point);
         if (signe == 0) {
-            ajouteUtf16(lu.point, morceau);
+            ecritCaractere(lu.point, morceau);
             continue;
         }
         ajouteMorceau(morceau, enCours);

@@ -5,13 +5,16 @@
 #include <string_view>
 #include <vector>
 
-// What INSTR and LIKE do with text: letter case is ignored, accents count, every other character is itself.
+// What INSTR and LIKE do with text. Letter case is ignored and accents count. INSTR agrees with "=" on letters: œ is oe,
+// æ ae, ß ss, and an accent may stand in its letter or after it. Every other character is itself, the blanks,
+// apostrophes and hyphens that "=" passes over included.
 namespace dao::interne {
 
-// Appends the text with letter case folded, one character to one; bytes that are no UTF-8 stay as they are.
+// Appends the text as INSTR compares it, in its composed form; bytes that are no UTF-8 stay as they are.
 void plie(std::string_view texte, std::string& resultat);
 
-// Where the already folded `aiguille` first stands in `texte`, in characters from 1; 0 when it does not.
+// Where the already folded `aiguille` first stands in `texte`, in characters of the folded text from 1; 0 when it does
+// not. A letter is not found where an accent follows it.
 [[nodiscard]] std::size_t instr(std::string_view texte, std::string_view aiguillePliee);
 
 // A LIKE pattern: * any characters, ? one, # a digit, [abc] [a-z] [!a-z] one of a list.

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 
+#include <unicode/utf16.h>
 #include <unicode/utf8.h>
 
 namespace dao::interne {
@@ -23,6 +24,13 @@ void ecritCaractere(char32_t point, std::string& resultat) {
     std::size_t taille = 0;
     U8_APPEND_UNSAFE(octets, taille, point);
     resultat.append(reinterpret_cast<const char*>(octets.data()), taille);
+}
+
+void ecritCaractere(char32_t point, std::u16string& resultat) {
+    std::array<char16_t, 2> unites{};
+    std::size_t taille = 0;
+    U16_APPEND_UNSAFE(unites, taille, point);
+    resultat.append(unites.data(), taille);
 }
 
 }  // namespace dao::interne

@@ -15,5 +15,6 @@ struct CaractereLu {
 // The character at the start of a text that is not empty.
 [[nodiscard]] CaractereLu litCaractere(std::string_view texte);
 void ecritCaractere(char32_t point, std::string& resultat);
+void ecritCaractere(char32_t point, std::u16string& resultat);
 
 }  // namespace dao::interne
