@@ -61,10 +61,10 @@ ValeurVue Balayage::litDebut(const ColonneLue& lue, int colonne) {
     const int ouverture = m_octets != nullptr ? sqlite3_blob_reopen(m_octets, id())
                                               : sqlite3_blob_open(base, "main", m_table.table->nom.c_str(), nom.c_str(),
                                                                   id(), 0, &m_octets);
-    if (ouverture != SQLITE_OK) jetteSqlite(base, ouverture);
+    if (ouverture != SQLITE_OK) jetteSqlite(base, ouverture, Acces::Lecture);
     m_debut.resize(std::min(lue.debut, static_cast<std::size_t>(sqlite3_blob_bytes(m_octets))));
     const int lecture = sqlite3_blob_read(m_octets, m_debut.data(), static_cast<int>(m_debut.size()), 0);
-    if (lecture != SQLITE_OK) jetteSqlite(base, lecture);
+    if (lecture != SQLITE_OK) jetteSqlite(base, lecture, Acces::Lecture);
     return ValeurVue::deTexte(m_debut);
 }
 

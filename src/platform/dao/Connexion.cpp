@@ -7,8 +7,19 @@
 #include <algorithm>
 
 #include <sqlite3.h>
+#include <sys/stat.h>
 
 namespace dao::interne {
+
+namespace {
+
+std::optional<std::pair<dev_t, ino_t>> fichierNomme(const std::string& chemin) {
+    struct stat etat {};
+    if (stat(chemin.c_str(), &etat) != 0) return std::nullopt;
+    return std::pair(etat.st_dev, etat.st_ino);
+}
+
+}  // namespace
 
 Requete::~Requete() {
     sqlite3_reset(m_brute);
@@ -29,7 +40,9 @@ bool Requete::avance() {
     const int code = sqlite3_step(m_brute);
     if (code == SQLITE_ROW) return true;
     if (code == SQLITE_DONE) return false;
-    jetteSqlite(m_base, code);
+    // BEGIN IMMEDIATE counts as writing; what ends a transaction that wrote does not, and its state tells.
+    const bool lit = sqlite3_stmt_readonly(m_brute) != 0 && sqlite3_txn_state(m_base, "main") != SQLITE_TXN_WRITE;
+    jetteSqlite(m_base, code, lit ? Acces::Lecture : Acces::Ecriture);
 }
 
 void Requete::execute() {
@@ -44,7 +57,8 @@ Valeur Requete::valeur(int colonne) const {
     return AccesValeur::lit(m_brute, colonne);
 }
 
-Connexion::Connexion(sqlite3* base, std::string nom) : m_base(base), m_nom(std::move(nom)) {
+Connexion::Connexion(sqlite3* base, std::string nom)
+    : m_base(base), m_nom(std::move(nom)), m_fichier(fichierNomme(m_nom)) {
     try {
         m_versionDuFichier = versionDuFichier();
     } catch (...) {
@@ -70,7 +84,7 @@ Requete Connexion::prepare(const std::string& sql) {
                                             &requete, nullptr);
         if (code != SQLITE_OK) {
             m_requetes.erase(sql);
-            jetteSqlite(m_base, code);
+            jetteSqlite(m_base, code, Acces::Lecture);  // only the schema was looked at
         }
     }
     return {m_base, requete};
@@ -80,7 +94,7 @@ void Connexion::execute(std::string_view sql) {
     const int code = sqlite3_exec(m_base, std::string(sql).c_str(), nullptr, nullptr, nullptr);
     relitLesTables();  // the statements may have changed any of them
     oublieLesLignes();
-    if (code != SQLITE_OK) jetteSqlite(m_base, code);
+    if (code != SQLITE_OK) jetteSqlite(m_base, code, Acces::Ecriture);
 }
 
 Table& Connexion::table(std::string_view nom) {
@@ -103,6 +117,7 @@ bool Connexion::enTransaction() const {
 
 void Connexion::commence() {
     if (m_commencee) jette(kErreurTransaction, "Une transaction est déjà ouverte.");
+    exigeEnPlace();
     prepare("BEGIN IMMEDIATE").execute();
     m_commencee = true;
     suitLeFichier();
@@ -130,7 +145,19 @@ void Connexion::annule() {
 
 void Connexion::veille() {
     if (enTransaction()) return;  // nobody else can write
+    exigeEnPlace();
     suitLeFichier();
+}
+
+Emplacement Connexion::emplacement() const {
+    const auto fichier = fichierNomme(m_nom);
+    if (!fichier) return Emplacement::Absente;
+    return fichier == m_fichier ? Emplacement::EnPlace : Emplacement::Remplacee;
+}
+
+// The engine would go on reading the file it holds, which nobody else sees any more, and call it read-only.
+void Connexion::exigeEnPlace() const {
+    if (emplacement() != Emplacement::EnPlace) jetteDeplacee(m_nom);
 }
 
 void Connexion::suitLeFichier() {

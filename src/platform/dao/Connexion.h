@@ -1,15 +1,20 @@
 #pragma once
 
+#include "platform/dao/Database.h"
 #include "platform/dao/Table.h"
 #include "platform/dao/Valeur.h"
 
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
+
+#include <sys/types.h>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -65,8 +70,10 @@ class Connexion {
     // What the file engine says: it ends a transaction by itself when the disk is full or fails.
     [[nodiscard]] bool enTransaction() const;
 
-    // Looks whether another program changed the file, and if so throws away what is known of its rows.
+    // Looks whether another program changed the file, and if so throws away what is known of its rows. Throws ErreurDao
+    // 3024 when the base's path no longer leads to the file that was opened.
     void veille();
+    [[nodiscard]] Emplacement emplacement() const;
     // Grows when everything known before may be wrong.
     [[nodiscard]] std::uint64_t epoque() const { return m_epoque; }
     // Grows with each change to a row.
@@ -81,9 +88,11 @@ class Connexion {
     void relitLesTables();
     void oublieLesLignes();
     long long versionDuFichier();
+    void exigeEnPlace() const;
 
     sqlite3* m_base;
     std::string m_nom;
+    std::optional<std::pair<dev_t, ino_t>> m_fichier;  // the one that was opened
     std::unordered_map<std::string, sqlite3_stmt*> m_requetes;
     std::map<std::string, std::unique_ptr<Table>, std::less<>> m_tables;  // by lower-case name
     std::vector<Jeu*> m_jeux;

@@ -71,6 +71,9 @@ void Database::Close() {
 const std::string& Database::nom() const {
     return ouverte(m_connexion).nom();
 }
+Emplacement Database::emplacement() const {
+    return ouverte(m_connexion).emplacement();
+}
 
 Transaction::~Transaction() {
     if (!m_ouverte || !m_base.estOuverte()) return;

@@ -13,6 +13,9 @@ namespace interne {
 class Connexion;
 }
 
+// What a base's path leads to: the file that was opened, nothing, or another file.
+enum class Emplacement { EnPlace, Absente, Remplacee };
+
 // One open base. It must outlive the recordsets opened on it; Close closes them first.
 class Database {
   public:
@@ -42,6 +45,8 @@ class Database {
     void Close();  // closing twice is harmless
     [[nodiscard]] bool estOuverte() const { return m_connexion != nullptr; }
     [[nodiscard]] const std::string& nom() const;  // the path it was opened with
+    // Where it is not in place any more, every other call throws ErreurDao 3024.
+    [[nodiscard]] Emplacement emplacement() const;
 
   private:
     friend class Transaction;

@@ -20,7 +20,7 @@ class ErreurDao : public std::exception {
 
 // The numbers the program tells apart or shows. They are the published DAO numbers.
 inline constexpr int kErreurAucunEnregistrement = 3021;  // no current record
-inline constexpr int kErreurFichierIntrouvable = 3024;   // the file does not exist
+inline constexpr int kErreurFichierIntrouvable = 3024;   // the file does not exist, or is no longer the one opened
 inline constexpr int kErreurEditSansEdition = 3020;      // Update without AddNew or Edit
 inline constexpr int kErreurDoublon = 3022;              // a rule of the table (unique, not null) forbids the change
 inline constexpr int kErreurNonModifiable = 3027;        // the recordset's rows cannot be changed (DISTINCT)
@@ -32,6 +32,7 @@ inline constexpr int kErreurTableIntrouvable = 3078;    // no such table
 inline constexpr int kErreurSyntaxe = 3075;             // the statement cannot be understood
 inline constexpr int kErreurParametre = 3061;           // a name in the statement is no column
 inline constexpr int kErreurEnregistrementSupprime = 3167;  // the slot's row was deleted
+inline constexpr int kErreurLectureVerrouillee = 3187;      // the rows cannot be read: locked by another program
 inline constexpr int kErreurVerrouille = 3260;              // the row cannot be written: locked by another program
 inline constexpr int kErreurChampIntrouvable = 3265;        // writing a field that the recordset does not have
 inline constexpr int kErreurFormat = 3343;                  // not a base of ours

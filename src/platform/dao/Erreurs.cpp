@@ -14,13 +14,23 @@ void jetteFerme() {
     jette(kErreurObjetFerme, "L'objet n'est pas valide ou n'est plus défini.");
 }
 
-void jetteSqlite(sqlite3* base, int code) {
+void jetteDeplacee(const std::string& chemin) {
+    jette(kErreurFichierIntrouvable, "La base « " + chemin +
+                                         " » n'est plus à sa place : son disque est débranché, ou le fichier a été "
+                                         "déplacé, renommé, supprimé ou remplacé.");
+}
+
+void jetteSqlite(sqlite3* base, int code, Acces acces) {
     const std::string detail = base != nullptr ? sqlite3_errmsg(base) : sqlite3_errstr(code);
+    if (code == SQLITE_READONLY_DBMOVED) jetteDeplacee(sqlite3_db_filename(base, "main"));
     switch (code & 0xff) {
         case SQLITE_NOMEM:
             throw std::bad_alloc();
         case SQLITE_BUSY:
         case SQLITE_LOCKED:
+            if (acces == Acces::Lecture)
+                jette(kErreurLectureVerrouillee,
+                      "Lecture impossible : la base est verrouillée par un autre programme.");
             jette(kErreurVerrouille, "Mise à jour impossible : la base est verrouillée par un autre programme.");
         case SQLITE_READONLY:
         case SQLITE_PERM:

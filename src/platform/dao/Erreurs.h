@@ -9,8 +9,11 @@ struct sqlite3;
 namespace dao::interne {
 
 [[noreturn]] void jette(int numero, std::string description);
-// Throws what SQLite's result code means to the program.
-[[noreturn]] void jetteSqlite(sqlite3* base, int code);
+// Throws what SQLite's result code means to the program, which wanted to read or to write.
+enum class Acces { Lecture, Ecriture };
+[[noreturn]] void jetteSqlite(sqlite3* base, int code, Acces acces);
+// The file that a base was opened from is no longer the one its path names: 3024.
+[[noreturn]] void jetteDeplacee(const std::string& chemin);
 [[noreturn]] void jetteFerme();
 
 }  // namespace dao::interne

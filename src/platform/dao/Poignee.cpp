@@ -63,12 +63,12 @@ void verifieLeContenu(Poignee& base) {
 
 // The only sure way to know that a change will be possible is to begin one: it takes the lock and makes the journal.
 void essaieDEcrire(Poignee& base, bool exclusif) {
-    if (sqlite3_db_readonly(base.brute(), "main") != 0) jetteSqlite(base.brute(), SQLITE_READONLY);
+    if (sqlite3_db_readonly(base.brute(), "main") != 0) jetteSqlite(base.brute(), SQLITE_READONLY, Acces::Ecriture);
     base.execute(exclusif ? "BEGIN EXCLUSIVE" : "BEGIN IMMEDIATE");
     const std::string version = std::to_string(base.entier("PRAGMA user_version"));
     const int code = base.essaie("PRAGMA user_version=" + version);
     base.essaie("ROLLBACK");
-    if (code != SQLITE_OK) jetteSqlite(base.brute(), code);
+    if (code != SQLITE_OK) jetteSqlite(base.brute(), code, Acces::Ecriture);
 }
 
 // The room of a poster that leaves the base is not overwritten with zeros, which Debian's library would do: that writes
@@ -89,7 +89,7 @@ Poignee::Poignee(const std::string& chemin, int options) {
         sqlite3_open_v2(chemin.c_str(), &m_base, options | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
     if (code != SQLITE_OK) {
         sqlite3_close(std::exchange(m_base, nullptr));
-        jetteSqlite(nullptr, code);
+        jetteSqlite(nullptr, code, Acces::Ecriture);
     }
     sqlite3_busy_timeout(m_base, kAttenteDuVerrou);
 }
@@ -107,18 +107,18 @@ int Poignee::essaie(const std::string& sql) {
 }
 
 void Poignee::execute(const std::string& sql) {
-    if (const int code = essaie(sql); code != SQLITE_OK) jetteSqlite(m_base, code);
+    if (const int code = essaie(sql); code != SQLITE_OK) jetteSqlite(m_base, code, Acces::Ecriture);
 }
 
 void Poignee::execute(const std::string& sql, const std::string& parametre) {
     const Brute requete(prepare(sql), &sqlite3_finalize);
     sqlite3_bind_text(requete.get(), 1, parametre.data(), static_cast<int>(parametre.size()), SQLITE_STATIC);
-    if (const int code = sqlite3_step(requete.get()); code != SQLITE_DONE) jetteSqlite(m_base, code);
+    if (const int code = sqlite3_step(requete.get()); code != SQLITE_DONE) jetteSqlite(m_base, code, Acces::Ecriture);
 }
 
 long long Poignee::entier(const std::string& sql) {
     const Brute requete(prepare(sql), &sqlite3_finalize);
-    if (const int code = sqlite3_step(requete.get()); code != SQLITE_ROW) jetteSqlite(m_base, code);
+    if (const int code = sqlite3_step(requete.get()); code != SQLITE_ROW) jetteSqlite(m_base, code, Acces::Ecriture);
     return sqlite3_column_int64(requete.get(), 0);
 }
 
@@ -130,14 +130,14 @@ std::vector<std::string> Poignee::textes(const std::string& sql) {
         const unsigned char* texte = sqlite3_column_text(requete.get(), 0);
         resultat.emplace_back(texte != nullptr ? reinterpret_cast<const char*>(texte) : "");
     }
-    if (code != SQLITE_DONE) jetteSqlite(m_base, code);
+    if (code != SQLITE_DONE) jetteSqlite(m_base, code, Acces::Ecriture);
     return resultat;
 }
 
 sqlite3_stmt* Poignee::prepare(const std::string& sql) {
     sqlite3_stmt* requete = nullptr;
     const int code = sqlite3_prepare_v2(m_base, sql.c_str(), -1, &requete, nullptr);
-    if (code != SQLITE_OK) jetteSqlite(m_base, code);
+    if (code != SQLITE_OK) jetteSqlite(m_base, code, Acces::Ecriture);
     return requete;
 }
 

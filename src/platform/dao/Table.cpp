@@ -2,8 +2,10 @@
 
 #include "platform/dao/Analyse.h"
 #include "platform/dao/Connexion.h"
+#include "platform/dao/Erreurs.h"
 
 #include <array>
+#include <optional>
 #include <utility>
 
 #include <sqlite3.h>
@@ -25,11 +27,27 @@ bool estNumerique(std::string type) {
     return false;
 }
 
-std::string nomDeLigne(const Table& table) {
+// The column that is the row id, which one primary key of whole numbers is unless SQLite gave it an index of its own.
+std::optional<std::string> cleEntiere(Connexion& connexion, const std::string& table) {
+    Requete colonnes = connexion.prepare("SELECT name, upper(type) FROM pragma_table_info(?1) WHERE pk<>0");
+    colonnes.lie(1, Valeur(table));
+    if (!colonnes.avance() || colonnes.valeur(1).texte() != "INTEGER") return std::nullopt;
+    std::string nom = colonnes.valeur(0).texte();
+    if (colonnes.avance()) return std::nullopt;
+    Requete index = connexion.prepare("SELECT 1 FROM pragma_index_list(?1) WHERE origin='pk'");
+    index.lie(1, Valeur(table));
+    return index.avance() ? std::nullopt : std::optional(std::move(nom));
+}
+
+// A column that bears a name of the row id hides it. Where all of them do, rows could be taken for each other.
+std::string nomDeLigne(Connexion& connexion, const Table& table) {
     for (const std::string_view nom : {"rowid", "_rowid_", "oid"}) {
         if (table.rang(nom) < 0) return std::string(nom);
     }
-    return "rowid";
+    if (const auto cle = cleEntiere(connexion, table.nom)) return nomEntreGuillemets(*cle);
+    jette(kErreurFormat, "Les lignes de la table « " + table.nom +
+                             " » ne peuvent pas être distinguées : ses colonnes « rowid », « _rowid_ » et « oid » "
+                             "cachent leur numéro, et elle n'a pas de clé primaire entière.");
 }
 
 }  // namespace
@@ -70,7 +88,7 @@ std::unique_ptr<Table> litTable(Connexion& connexion, std::string_view nom) {
     colonnes.lie(1, Valeur(table->nom));
     while (colonnes.avance())
         table->colonnes.push_back({colonnes.valeur(0).texte(), estNumerique(colonnes.valeur(1).texte())});
-    table->ligneSql = nomDeLigne(*table);
+    table->ligneSql = nomDeLigne(connexion, *table);
     for (const auto& [titre, realisateur] : kCles) {
         if (table->rang(titre) < 0 || table->rang(realisateur) < 0) continue;
         table->titre = table->rang(titre);

@@ -1,5 +1,6 @@
 #include "BaseDEssai.h"
 
+#include <array>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -99,6 +100,86 @@ TEST(Ouverture, ALockTakenLaterStopsTheUpdateAlone) {
     sqlite3_close(autre);
     films.Update();  // the edition was kept
     EXPECT_EQ(essai.lit("SELECT * FROM Films", "Genre"), std::vector<std::string>{"SF"});
+}
+
+TEST(Ouverture, ABaseLockedWhileItIsReadIsSaidToBeLocked) {
+    BaseDEssai essai;
+    essai.film("Dune", "x");
+    dao::Recordset films = essai.base.OpenRecordset("Films");
+    sqlite3* autre = nullptr;
+    ASSERT_EQ(sqlite3_open(essai.chemin.c_str(), &autre), SQLITE_OK);
+    sqlite3_exec(autre, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
+    try {
+        (void)essai.base.OpenRecordset("SELECT * FROM Films ORDER BY Titre ASC");
+        ADD_FAILURE() << "nothing was thrown";
+    } catch (const dao::ErreurDao& erreur) {
+        EXPECT_EQ(erreur.numero, dao::kErreurLectureVerrouillee);
+        EXPECT_EQ(erreur.description, "Lecture impossible : la base est verrouillée par un autre programme.");
+    }
+    EXPECT_EQ(numeroErreur([&] { essai.base.BeginTrans(); }), dao::kErreurVerrouille);
+    sqlite3_close(autre);
+    EXPECT_EQ(films.texte("Titre"), "Dune");
+}
+
+// A file that nobody else sees any more is neither read nor written, and not called read-only.
+TEST(Ouverture, ABaseThatLeftItsPlaceIsToldAndComesBack) {
+    BaseDEssai essai;
+    essai.film("Dune", "x");
+    dao::Recordset films = essai.base.OpenRecordset("Films");
+    EXPECT_EQ(essai.base.emplacement(), dao::Emplacement::EnPlace);
+    const std::string ailleurs = essai.dossier.chemin("ailleurs.mdb");
+    const auto chaqueAppel = [&] {
+        return std::array{numeroErreur([&] { (void)essai.base.OpenRecordset("SELECT * FROM Films"); }),
+                          numeroErreur([&] { films.MoveFirst(); }), numeroErreur([&] { essai.base.BeginTrans(); }),
+                          numeroErreur([&] {
+                              films.Edit();
+                              films.assigne("Genre", "SF");
+                              films.Update();
+                          })};
+    };
+    constexpr int kAbsente = dao::kErreurFichierIntrouvable;
+    constexpr std::array kTous{kAbsente, kAbsente, kAbsente, kAbsente};
+    fs::rename(essai.chemin, ailleurs);
+    EXPECT_EQ(essai.base.emplacement(), dao::Emplacement::Absente);
+    EXPECT_EQ(chaqueAppel(), kTous);
+    fs::copy_file(ailleurs, essai.chemin);
+    EXPECT_EQ(essai.base.emplacement(), dao::Emplacement::Remplacee);
+    EXPECT_EQ(chaqueAppel(), kTous);
+    fs::rename(ailleurs, essai.chemin);
+    EXPECT_EQ(chaqueAppel()[0], 0);
+    EXPECT_EQ(essai.lit("SELECT * FROM Films"), std::vector<std::string>{"Dune"});
+}
+
+TEST(Ouverture, RowsAreFoundByAKeyThatNoColumnHides) {
+    constexpr const char* kCachees = "rowid TEXT, _rowid_ TEXT, oid TEXT, Titre TEXT, Realisateur TEXT";
+    struct Cas {
+        std::string colonnes;
+        bool acceptee;
+    };
+    for (const Cas& cas :
+         {Cas{std::string("Cle INTEGER PRIMARY KEY, ") + kCachees, true}, Cas{kCachees, false},
+          Cas{std::string("Cle TEXT PRIMARY KEY, ") + kCachees, false},
+          Cas{std::string("Cle INTEGER PRIMARY KEY DESC, ") + kCachees, false},
+          Cas{std::string("Cle INTEGER, Autre INTEGER, ") + kCachees + ", PRIMARY KEY (Cle, Autre)", false},
+          Cas{"ROWID INTEGER PRIMARY KEY, _rowid_ TEXT, oid TEXT, Titre TEXT, Realisateur TEXT", true}}) {
+        doubles::DossierTemporaire dossier;
+        dao::DBEngine::CreateDatabase(dossier.chemin("b.mdb"), "CREATE TABLE Films (" + cas.colonnes + ")");
+        dao::Database base = dao::DBEngine::OpenDatabase(dossier.chemin("b.mdb"));
+        base.Execute("INSERT INTO Films (Titre, _rowid_, oid) VALUES ('Dune', 'x', 'x'), ('Alien', 'x', 'x')");
+        if (!cas.acceptee) {
+            EXPECT_EQ(numeroErreur([&] { (void)base.OpenRecordset("Films"); }), dao::kErreurFormat) << cas.colonnes;
+            continue;
+        }
+        dao::Recordset films = base.OpenRecordset("SELECT * FROM Films WHERE titre =\"Dune\"");
+        films.Delete();
+        dao::Recordset restants = base.OpenRecordset("Films");
+        ASSERT_EQ(restants.RecordCount(), 1) << cas.colonnes;
+        EXPECT_EQ(restants.texte("Titre"), "Alien");
+        restants.AddNew();
+        restants.assigne("Titre", "Brazil");
+        restants.Update();
+        EXPECT_EQ(base.OpenRecordset("SELECT * FROM Films ORDER BY Titre").RecordCount(), 2);
+    }
 }
 
 TEST(Ouverture, AKilledProgramLeavesTheOldState) {
