@@ -51,7 +51,8 @@ ValeurVue Condition::valeur(const LignesVues& lignes) const {
             return ValeurVue::nulle();
         case Genre::Colonne: {
             const ValeurVue* table = lignes.tables[place.table];
-            return table == nullptr ? ValeurVue::nulle() : table[place.rang];
+            const ValeurVue lue = table == nullptr ? ValeurVue::nulle() : table[place.rang];
+            return nulEstVide && lue.estNulle() ? ValeurVue::deTexte("") : lue;
         }
         case Genre::Ou:
         case Genre::Et:

@@ -30,7 +30,8 @@ class Condition {
     Place place{};                         // Colonne
     std::string texte{};                   // Texte
     std::string cle{};                     // Texte: its Jet key
-    std::string plis{};                    // Texte: with letter case folded
+    bool nulEstVide = false;               // Colonne: Null reads as ""
+    std::string plis{};                    // Texte that INSTR looks for: folded
     double nombre = 0;                     // Nombre
     std::shared_ptr<const Motif> motif{};  // Comme
     std::vector<Condition> termes{};

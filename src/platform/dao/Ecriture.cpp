@@ -17,11 +17,10 @@ std::string clauseDeLigne(const Table& table) {
     return " FROM " + table.nomSql() + " WHERE " + table.ligneSql + "=?1";
 }
 
-// Null has no place in the index: it equals nothing.
-std::optional<std::uint64_t> hachageDeColonnes(sqlite3_stmt* requete, int titre) {
+// Null stands where "" does.
+std::uint64_t hachageDeColonnes(sqlite3_stmt* requete, int titre) {
     const ValeurVue gauche = vueDeColonne(requete, titre);
     const ValeurVue droite = vueDeColonne(requete, titre + 1);
-    if (gauche.estNulle() || droite.estNulle()) return std::nullopt;
     std::string tamponGauche;
     std::string tamponDroit;
     return hacheFilm(texteDe(gauche, tamponGauche), texteDe(droite, tamponDroit));
@@ -31,7 +30,7 @@ std::optional<std::uint64_t> hachageDeLigne(Connexion& connexion, const Table& t
     Requete lecture = connexion.prepare("SELECT " + table.colonneSql(table.titre) + "," +
                                         table.colonneSql(table.realisateur) + clauseDeLigne(table));
     lecture.lie(1, ligne);
-    return lecture.avance() ? hachageDeColonnes(lecture.brute(), 0) : std::nullopt;
+    return lecture.avance() ? std::optional(hachageDeColonnes(lecture.brute(), 0)) : std::nullopt;
 }
 
 void construitIndex(Connexion& connexion, Table& table) {
@@ -40,9 +39,8 @@ void construitIndex(Connexion& connexion, Table& table) {
     IndexDesFilms& index = table.suivi.index;
     index.commence(static_cast<std::size_t>(table.suivi.compte.value_or(0)));
     try {
-        while (lecture.avance()) {
-            if (const auto hachage = hachageDeColonnes(lecture.brute(), 1)) index.ajoute(*hachage, lecture.entier(0));
-        }
+        while (lecture.avance())
+            index.ajoute(hachageDeColonnes(lecture.brute(), 1), lecture.entier(0));
     } catch (...) {
         index.oublie();
         throw;

@@ -109,16 +109,26 @@ std::vector<std::uint32_t> Ordre::rangs(bool sansDoublons) {
         return m_suites[gauche.rang] < m_suites[droite.rang];
     });
     if (sansDoublons) {
-        const auto egales = [this](const Entree& gauche, const Entree& droite) {
-            return gauche.prefixe == droite.prefixe && cle(gauche) == cle(droite);
+        const auto memeCle = [this](const Entree& gauche, const Entree& droite) {
+            return ontLaMemeCle(gauche, droite);
         };
-        m_entrees.erase(std::unique(m_entrees.begin(), m_entrees.end(), egales), m_entrees.end());
+        m_entrees.erase(std::unique(m_entrees.begin(), m_entrees.end(), memeCle), m_entrees.end());
     }
     std::vector<std::uint32_t> resultat;
     resultat.reserve(m_entrees.size());
     for (const Entree& entree : m_entrees)
         resultat.push_back(entree.rang);
     return resultat;
+}
+
+std::vector<std::pair<std::size_t, std::size_t>> Ordre::egales() const {
+    std::vector<std::pair<std::size_t, std::size_t>> suites;
+    for (std::size_t debut = 0, fin = 0; debut < m_entrees.size(); debut = fin) {
+        for (fin = debut + 1; fin < m_entrees.size() && ontLaMemeCle(m_entrees[debut], m_entrees[fin]);)
+            ++fin;
+        if (fin - debut > 1) suites.emplace_back(debut, fin);
+    }
+    return suites;
 }
 
 }  // namespace dao::interne

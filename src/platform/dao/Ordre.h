@@ -16,6 +16,10 @@ namespace dao::interne {
 // of by the same long beginnings; one of many values (titles) soon gives that up.
 class Ordre {
   public:
+    enum class PremiereColonne { PeutEtreParGroupes, SansGroupes };
+    explicit Ordre(PremiereColonne premiere = PremiereColonne::PeutEtreParGroupes)
+        : m_parGroupes(premiere == PremiereColonne::PeutEtreParGroupes) {}
+
     // A column of the key of the row being added. Null comes first; a number orders by its value.
     void ajouteTexte(std::string_view cleJet, bool decroissant);
     void ajouteNombre(double nombre, bool decroissant);
@@ -27,6 +31,8 @@ class Ordre {
 
     // The rows by their rank of addition, in order; `sansDoublons` keeps the first of rows with equal keys.
     [[nodiscard]] std::vector<std::uint32_t> rangs(bool sansDoublons);
+    // After rangs: from where to where, in what it answered, rows stand of one key; rows alone in theirs are passed over.
+    [[nodiscard]] std::vector<std::pair<std::size_t, std::size_t>> egales() const;
 
   private:
     struct Entree {
@@ -46,6 +52,9 @@ class Ordre {
         using is_transparent = void;
         std::size_t operator()(std::string_view cle) const { return std::hash<std::string_view>{}(cle); }
     };
+    [[nodiscard]] bool ontLaMemeCle(const Entree& gauche, const Entree& droite) const {
+        return gauche.prefixe == droite.prefixe && cle(gauche) == cle(droite);
+    }
     void finitColonne(std::size_t debut, bool decroissant);
     [[nodiscard]] std::uint32_t groupe(std::string_view premiereColonne);
     void prefixeParGroupes();
@@ -54,7 +63,7 @@ class Ordre {
     std::string m_cles;
     std::size_t m_finPremiere = 0;  // of the row being added
     std::unordered_map<std::string, Groupe, Hachage, std::equal_to<>> m_groupes;
-    bool m_parGroupes = true;
+    bool m_parGroupes;
     std::size_t m_debut = 0;
     std::vector<Entree> m_entrees;
     std::vector<std::pair<long long, long long>> m_suites;

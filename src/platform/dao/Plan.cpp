@@ -26,8 +26,10 @@ class Planificateur {
     Plan plan() {
         montre();
         if (m_enonce.jointure) joint(m_enonce.jointure->condition);
+        m_plan.joinFilms = joinLesCles();
         if (m_enonce.condition) filtre(*m_enonce.condition);
         trie();
+        departage();
         for (TableDuPlan& table : m_plan.tables)
             porteLaCle(table);
         chercheLeFilm();
@@ -101,6 +103,13 @@ class Planificateur {
         lue(droite).portee = true;  // rows that may join are compared by value
     }
 
+    bool joinLesCles() {
+        return std::all_of(m_plan.egalites.begin(), m_plan.egalites.end(), [this](const auto& egalite) {
+            return table(0).estCle(lue({0, egalite.first}).colonne) &&
+                   table(1).estCle(lue({1, egalite.second}).colonne);
+        });
+    }
+
     Condition lie(const Expression& expression) {
         Condition condition;
         condition.genre = expression.genre;
@@ -108,7 +117,6 @@ class Planificateur {
         if (expression.genre == Genre::Texte) {
             condition.texte = expression.texte;
             condition.cle = cleJet(expression.texte);
-            plie(expression.texte, condition.plis);
         }
         if (expression.genre == Genre::Colonne) condition.place = lit(trouve(expression.colonne));
         if (expression.genre == Genre::Comme && expression.termes[1].genre == Genre::Texte) {
@@ -117,6 +125,7 @@ class Planificateur {
         }
         for (const Expression& terme : expression.termes)
             condition.termes.push_back(lie(terme));
+        if (expression.genre == Genre::Instr) plie(condition.termes[1].texte, condition.termes[1].plis);
         return condition;
     }
 
@@ -188,6 +197,13 @@ class Planificateur {
             {place, table(champ.table).colonnes[static_cast<std::size_t>(champ.colonne)].numerique, decroissant});
     }
 
+    // What the statement leaves equal stands by title, then by director.
+    void departage() {
+        if (m_plan.tris.empty() || m_plan.distinct || !table(0).aUneCle()) return;
+        for (const int colonne : {table(0).titre, table(0).realisateur})
+            m_plan.departages.push_back(porte({0, colonne}).rang);
+    }
+
     void porteLaCle(TableDuPlan& tableDuPlan) {
         if (!tableDuPlan.table->aUneCle() || m_plan.distinct) return;
         const int rang = static_cast<int>(&tableDuPlan - m_plan.tables.data());
@@ -197,18 +213,29 @@ class Planificateur {
 
     void chercheLeFilm() {
         if (m_plan.tables.size() != 1 || !table(0).aUneCle()) return;
-        const auto texteEgal = [this](int colonne) -> const std::string* {
-            for (const Condition& condition : m_plan.tables[0].filtres) {
-                if (condition.genre != Genre::Egal || condition.termes[0].genre != Genre::Colonne ||
-                    condition.termes[1].genre != Genre::Texte)
-                    continue;
-                if (lue(condition.termes[0].place).colonne == colonne) return &condition.termes[1].texte;
-            }
-            return nullptr;
-        };
-        const std::string* titre = texteEgal(table(0).titre);
-        const std::string* realisateur = texteEgal(table(0).realisateur);
-        if (titre != nullptr && realisateur != nullptr) m_plan.film = FilmCherche{*titre, *realisateur};
+        const Condition* titre = egalite(table(0).titre);
+        const Condition* realisateur = egalite(table(0).realisateur);
+        if (titre == nullptr || realisateur == nullptr) return;
+        m_plan.film = FilmCherche{titre->termes[1].texte, realisateur->termes[1].texte};
+        static const std::string kCleVide = cleJet("");
+        if (titre->termes[1].cle != kCleVide && realisateur->termes[1].cle != kCleVide) return;
+        m_plan.film->sansNul = m_plan.tables[0].filtres;
+        for (Condition& filtre : m_plan.film->sansNul) {
+            if (estEgaliteDeCle(filtre)) filtre.termes[0].nulEstVide = true;
+        }
+    }
+
+    bool estEgaliteDeCle(const Condition& condition) {
+        return condition.genre == Genre::Egal && condition.termes[0].genre == Genre::Colonne &&
+               condition.termes[1].genre == Genre::Texte && table(0).estCle(lue(condition.termes[0].place).colonne);
+    }
+
+    // The filter that wants this column of the key to be a text.
+    const Condition* egalite(int colonne) {
+        for (const Condition& condition : m_plan.tables[0].filtres) {
+            if (estEgaliteDeCle(condition) && lue(condition.termes[0].place).colonne == colonne) return &condition;
+        }
+        return nullptr;
     }
 
     const Enonce& m_enonce;

@@ -31,17 +31,23 @@ struct TriDuPlan {
     bool decroissant = false;
 };
 
+// A film is the same one where its title or director is Null and where it is "": when no row bears the texts that are
+// looked for, the one that bears Null for a "" is meant.
 struct FilmCherche {
     std::string titre;
     std::string realisateur;
+    std::vector<Condition> sansNul{};  // the table's filters, Null taken for ""; empty when no "" is looked for
 };
 
 struct Plan {
     std::vector<TableDuPlan> tables;
     bool gauche = false;
     std::vector<std::pair<int, int>> egalites;  // of a join: ranks of read columns in the first and second table
-    std::vector<Condition> filtresApres;        // asked once a row is joined
+    // The join is of films with their holdings: Null counts as "", unless it stands in title and director both.
+    bool joinFilms = false;
+    std::vector<Condition> filtresApres;  // asked once a row is joined
     std::vector<TriDuPlan> tris;
+    std::vector<int> departages;  // among rows that `tris` leave equal: ranks of read columns in the first table
     bool distinct = false;
     std::vector<ChampDeJeu> champs;   // what the recordset shows
     std::optional<FilmCherche> film;  // the one table is looked up by title and director

@@ -8,6 +8,7 @@
 #include "platform/dao/RegistresLarges.h"
 
 #include <algorithm>
+#include <span>
 #include <string>
 #include <unordered_map>
 
@@ -39,11 +40,9 @@ class Execution {
             Lecture lecture(m_connexion);
             joint();
         } else if (m_plan.film) {
-            for (const long long ligne :
-                 candidats(m_connexion, *m_plan.tables[0].table, m_plan.film->titre, m_plan.film->realisateur))
-                balaie(ligne);
+            chercheLeFilm(*m_plan.film);
         } else {
-            balaie(std::nullopt);
+            balaie(m_plan.tables[0], std::nullopt);
         }
         ordonne();
         for (Magasin& magasin : m_resultat.magasins)
@@ -82,14 +81,26 @@ class Execution {
         return ligne;
     }
 
-    void balaie(std::optional<long long> ligne) {
-        Balayage balayage(m_connexion, m_plan.tables[0], 0, ligne);
+    void chercheLeFilm(const FilmCherche& film) {
+        const std::vector<long long> lignes =
+            candidats(m_connexion, *m_plan.tables[0].table, film.titre, film.realisateur);
+        for (const long long ligne : lignes)
+            balaie(m_plan.tables[0], ligne);
+        if (!m_gauches.empty() || film.sansNul.empty()) return;
+        TableDuPlan sansNul = m_plan.tables[0];
+        sansNul.filtres = film.sansNul;
+        for (const long long ligne : lignes)
+            balaie(sansNul, ligne);
+    }
+
+    void balaie(const TableDuPlan& table, std::optional<long long> ligne) {
+        Balayage balayage(m_connexion, table, 0, ligne);
         while (balayage.avance()) {
             if (m_plan.distinct && dejaVue(balayage)) continue;
             m_cles[0].change(balayage.valeurs());
             retient(range(0, balayage.id(), balayage.valeurs()), kSansLigne);
         }
-        if (!ligne) m_plan.tables[0].table->suivi.compte = balayage.vues();
+        if (!ligne) table.table->suivi.compte = balayage.vues();
     }
 
     // Rows of the same letters are dropped before anything is worked out for them; the lowest row id stands for all.
@@ -139,7 +150,7 @@ class Execution {
         while (balayage.avance()) {
             m_cles[1].change(balayage.valeurs());
             const auto hachage = hachageDeJointure(1);
-            if (!hachage) continue;  // Null joins nothing
+            if (!hachage) continue;
             hachages.push_back(*hachage);
             range(1, balayage.id(), balayage.valeurs());
         }
@@ -147,34 +158,39 @@ class Execution {
         return hachages;
     }
 
+    // None for a row that joins nothing, as Null does.
     std::optional<std::uint64_t> hachageDeJointure(int table) {
         ClesDeLigne& cles = m_cles[static_cast<std::size_t>(table)];
         std::uint64_t hachage = 0;
+        bool seJoint = !m_plan.joinFilms;
         for (const auto& [gauche, droite] : m_plan.egalites) {
             const int rang = table == 0 ? gauche : droite;
-            if (cles.valeur(rang).estNulle()) return std::nullopt;
+            const bool nulle = cles.valeur(rang).estNulle();
+            if (nulle && !m_plan.joinFilms) return std::nullopt;
+            seJoint = seJoint || !nulle;
             hachage = hache(cles.cle(rang), hachage);
         }
-        return hachage;
+        return seJoint ? std::optional(hachage) : std::nullopt;
     }
 
     bool seJoignent(const std::vector<ValeurVue>& valeurs, std::uint32_t droite) {
         return std::all_of(m_plan.egalites.begin(), m_plan.egalites.end(), [&](const auto& egalite) {
             std::string tampon;
-            const std::string_view texte = valeurDePartenaire(droite, egalite.second, nullptr);
+            const std::string_view texte = valeurGardee(1, droite, egalite.second, nullptr);
             return texteDe(valeurs[static_cast<std::size_t>(egalite.first)], tampon) == texte ||
                    m_cles[0].cle(egalite.first) == cleJet(texte);
         });
     }
 
-    // A value of the second table from its store, or from the base when it was too long to be kept. Until the next call.
-    std::string_view valeurDePartenaire(std::uint32_t ligne, int rangLu, Magasin::Genre* genre) const {
-        const Magasin::Valeur valeur = m_resultat.magasins[1].valeur(
-            ligne, static_cast<std::size_t>(m_rangsPortes[1][static_cast<std::size_t>(rangLu)]));
+    // A value of a table from its store, or from the base when it was too long to be kept. Until the next call.
+    std::string_view valeurGardee(std::size_t table, std::uint32_t ligne, int rangLu, Magasin::Genre* genre) const {
+        const Magasin& magasin = m_resultat.magasins[table];
+        const auto rang = static_cast<std::size_t>(rangLu);
+        const Magasin::Valeur valeur = magasin.valeur(ligne, static_cast<std::size_t>(m_rangsPortes[table][rang]));
         if (genre != nullptr) *genre = valeur.genre;
         if (valeur.genre != Magasin::Genre::Absent) return valeur.texte;
-        const int colonne = m_plan.tables[1].lues[static_cast<std::size_t>(rangLu)].colonne;
-        m_longue = litChamp(m_connexion, *m_plan.tables[1].table, colonne, m_resultat.magasins[1].id(ligne)).texte();
+        const TableDuPlan& lue = m_plan.tables[table];
+        m_longue = litChamp(m_connexion, *lue.table, lue.lues[rang].colonne, magasin.id(ligne)).texte();
         return m_longue;
     }
 
@@ -191,7 +207,7 @@ class Execution {
         for (std::size_t i = 0; droite != kSansLigne && i < valeurs.size(); ++i) {
             if (!m_plan.tables[1].lues[i].portee) continue;
             Magasin::Genre genre{};
-            textes[i] = valeurDePartenaire(droite, static_cast<int>(i), &genre);
+            textes[i] = valeurGardee(1, droite, static_cast<int>(i), &genre);
             if (genre != Magasin::Genre::Nul) valeurs[i] = ValeurVue::deTexte(textes[i]);
         }
         LignesVues lignes;
@@ -223,7 +239,7 @@ class Execution {
         }
         Magasin::Genre genre = Magasin::Genre::Nul;
         const std::string_view texte =
-            droite == kSansLigne ? std::string_view{} : valeurDePartenaire(droite, tri.place.rang, &genre);
+            droite == kSansLigne ? std::string_view{} : valeurGardee(1, droite, tri.place.rang, &genre);
         if (genre == Magasin::Genre::Nul) return m_ordre.ajouteNul(tri.decroissant);
         if (tri.numerique) return m_ordre.ajouteNombre(nombreDeTexte(texte), tri.decroissant);
         m_cle.clear();
@@ -231,8 +247,35 @@ class Execution {
         m_ordre.ajouteTexte(m_cle, tri.decroissant);
     }
 
+    // Orders rows that `ordre` left equal by one more column of the first table, and the next ones after it. Only they
+    // have that key worked out.
+    void departage(std::span<std::uint32_t> rangs, const Ordre& ordre, std::size_t colonne) {
+        for (const auto& [debut, fin] : ordre.egales()) {
+            const std::span<std::uint32_t> egales = rangs.subspan(debut, fin - debut);
+            const std::vector<std::uint32_t> avant(egales.begin(), egales.end());
+            Ordre parColonne(Ordre::PremiereColonne::SansGroupes);
+            for (std::size_t i = 0; i < avant.size(); ++i) {
+                ajouteDepartage(parColonne, m_gauches[avant[i]], m_plan.departages[colonne]);
+                parColonne.finit(static_cast<long long>(i), 0);
+            }
+            const std::vector<std::uint32_t> apres = parColonne.rangs(false);
+            std::transform(apres.begin(), apres.end(), egales.begin(), [&](std::uint32_t rang) { return avant[rang]; });
+            if (colonne + 1 < m_plan.departages.size()) departage(egales, parColonne, colonne + 1);
+        }
+    }
+
+    void ajouteDepartage(Ordre& ordre, std::uint32_t ligne, int rangLu) {
+        Magasin::Genre genre{};
+        const std::string_view texte = valeurGardee(0, ligne, rangLu, &genre);
+        if (genre == Magasin::Genre::Nul) return ordre.ajouteNul(false);
+        m_cle.clear();
+        ajouteCleJet(texte, m_cle);
+        ordre.ajouteTexte(m_cle, false);
+    }
+
     void ordonne() {
-        const std::vector<std::uint32_t> rangs = m_ordre.rangs(m_plan.distinct);
+        std::vector<std::uint32_t> rangs = m_ordre.rangs(m_plan.distinct);
+        if (!m_plan.departages.empty()) departage(rangs, m_ordre, 0);
         const auto suit = [&rangs](const std::vector<std::uint32_t>& lignes) {
             std::vector<std::uint32_t> resultat;
             resultat.reserve(rangs.size());

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <functional>
 #include <optional>
+#include <tuple>
 
 #include <sqlite3.h>
 
@@ -94,6 +95,10 @@ struct Ligne {
 using Cle = std::function<std::string(const Ligne&)>;
 using Filtre = std::function<bool(const Ligne&)>;
 
+const Film& film(const Ligne& ligne) {
+    return kFilms[ligne.film];
+}
+
 enum class Source { Films, Possedes, FilmsAvecOuSans };
 
 std::vector<Ligne> attendues(Source source, const Filtre& filtre, const Cle& cleDeTri) {
@@ -110,14 +115,14 @@ std::vector<Ligne> attendues(Source source, const Filtre& filtre, const Cle& cle
         if (source == Source::Films || (source == Source::FilmsAvecOuSans && !possede)) lignes.push_back({f, {}});
     }
     std::erase_if(lignes, [&](const Ligne& ligne) { return filtre && !filtre(ligne); });
+    const auto entiere = [&](const Ligne& ligne) {  // what the statement leaves equal stands by title and director
+        return std::tuple(cleDeTri(ligne), cle(film(ligne).titre), cle(film(ligne).realisateur));
+    };
     std::stable_sort(lignes.begin(), lignes.end(),
-                     [&](const Ligne& a, const Ligne& b) { return cleDeTri(a) < cleDeTri(b); });
+                     [&](const Ligne& a, const Ligne& b) { return entiere(a) < entiere(b); });
     return lignes;
 }
 
-const Film& film(const Ligne& ligne) {
-    return kFilms[ligne.film];
-}
 const Possession& possession(const Ligne& ligne) {
     return kPossessions[*ligne.possession];
 }
@@ -270,6 +275,59 @@ TEST(Requetes, AFilmIsFoundByTitleAndDirectorInEveryWriting) {
         EXPECT_EQ(essai.lit(enonce, "Titre2"), possessions) << enonce;
     }
     EXPECT_EQ(essai.lit("SELECT * FROM Films WHERE DateAjout = \"21/11/2026\"").size(), kFilms.size());
+}
+
+// What no text of a statement can name, the program writes as "".
+TEST(Requetes, AFilmWithoutDirectorIsFoundByTheEmptyOne) {
+    BaseDEssai essai;
+    essai.ajoute("Films", {{"Titre", "Nuit et brouillard"}, {"Genre", "a"}});
+    essai.ajoute("Films", {{"Realisateur", "Resnais"}, {"Genre", "b"}});
+    essai.ajoute("Films", {{"Titre", "Muriel"}, {"Genre", "c"}});
+    essai.ajoute("Films", {{"Titre", "Muriel"}, {"Realisateur", " "}, {"Genre", "d"}});
+    essai.ajoute("Films", {{"Genre", "e"}});
+    essai.ajoute("Personnel", {{"Titre2", "nuit ET brouillard"}, {"Realisateur2", ""}, {"Support", "DVD"}});
+    essai.ajoute("Personnel", {{"Titre2", ""}, {"Realisateur2", "resnais"}, {"Support", "K7"}});
+    essai.ajoute("Personnel", {{"Support", "of no film"}});
+    const auto trouve = [&](const std::string& titre, const std::string& realisateur) {
+        return essai.lit("SELECT * FROM films WHERE titre =\"" + titre + "\" and Realisateur =  \"" + realisateur +
+                             "\"ORDER BY Titre ASC ;",
+                         "Genre");
+    };
+    using Liste = std::vector<std::string>;
+    EXPECT_EQ(trouve("NUIT et brouillard", ""), Liste{"a"});
+    EXPECT_EQ(trouve("", "resnais"), Liste{"b"});
+    EXPECT_EQ(trouve("Muriel", ""), Liste{"d"});  // whoever bears the very texts goes first
+    EXPECT_EQ(trouve("Nuit et brouillard", "Resnais"), Liste{});
+    EXPECT_EQ(essai.lit("SELECT * FROM Films WHERE Genre=\"\" AND Realisateur=\"\" AND Titre=\"Muriel\""), Liste{});
+    EXPECT_EQ(essai.lit("SELECT * " + kJoint + " ORDER BY Support ASC", "Genre"), (Liste{"a", "b"}));
+    EXPECT_EQ(essai.lit("SELECT DISTINCTROW * " + kSans + " ORDER BY Genre ASC", "Genre"), (Liste{"c", "d", "e"}));
+    dao::Recordset film = essai.base.OpenRecordset(
+        "SELECT * FROM films WHERE titre =\"Nuit et brouillard\" and Realisateur =\"\" ORDER BY Titre ASC ;");
+    film.Edit();
+    film.assigne("Realisateur", "Resnais");
+    film.Update();
+    EXPECT_EQ(trouve("Nuit et brouillard", ""), Liste{});
+    EXPECT_EQ(trouve("Nuit et brouillard", "Resnais"), Liste{"a"});
+}
+
+TEST(Requetes, TiesStandByTitleThenDirectorThenRow) {
+    BaseDEssai essai;
+    const std::string longue(5'000'000, 'e');
+    for (const auto& [titre, realisateur, genre] :
+         std::vector<std::tuple<std::string, std::string, std::string>>{{"Solaris", "Tarkovski", "SF"},
+                                                                        {"Été", "x", "sf "},
+                                                                        {"Solaris", "Soderbergh", "SF"},
+                                                                        {longue, "x", "SF"},
+                                                                        {"Ête", "x", "SF"},
+                                                                        {"solaris ", "soderbergh", "sf"},
+                                                                        {"Zorro", "x", "Aventure"}})
+        essai.ajoute("Films", {{"Titre", titre}, {"Realisateur", realisateur}, {"Genre", genre}});
+    EXPECT_EQ(essai.lit("SELECT * FROM Films ORDER BY Genre ASC", "id"),
+              (std::vector<std::string>{"7", "4", "2", "5", "3", "6", "1"}));
+    EXPECT_EQ(essai.lit("SELECT * FROM Films ORDER BY Titre ASC", "id"),
+              (std::vector<std::string>{"4", "2", "5", "3", "6", "1", "7"}));
+    EXPECT_EQ(essai.lit("SELECT * FROM Films WHERE INSTR(Titre, \"EEEE\")>0 ORDER BY Genre ASC", "id"),
+              std::vector<std::string>{"4"});
 }
 
 TEST(Requetes, DistinctListsKeepTheFirstOfEqualValues) {
