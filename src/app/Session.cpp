@@ -42,8 +42,7 @@ void Session::Rouages::surLaBase(const std::function<void()>& commande) {
 
 void Session::Rouages::AffichageApresModification() {
     const browse::EtatPanneaux panneaux = etats.panneaux;
-    afficheTitres.vide();
-    affichageApresModification();
+    creeRequeteAffichage.apresReouverture([this] { affichageApresModification(); });
     etats.panneaux = panneaux;
 }
 
@@ -87,6 +86,10 @@ void Session::ChoixZone_DropDown() {
     m_rouages->choixZone.DropDown();
 }
 
+void Session::ChoixZone_CloseUp() {
+    m_rouages->choixZone.CloseUp();
+}
+
 void Session::ChoixTri_Click() {
     m_rouages->choixTri.Click();
 }
@@ -104,9 +107,8 @@ void Session::TreeView1_MouseUpDroit(int indice) {
     etats.menu = menuDemande(m_rouages->treeView1.MouseUp(indice));
 }
 
-// The percentages are part of the headings: the tree is filled again.
 void Session::AffStats_Click() {
-    m_rouages->affichageApresModification();
+    m_rouages->afficheTitres.AffStats_Click();
 }
 
 void Session::cmdGeneralites_Click() {

@@ -51,6 +51,7 @@ class Session {
     // Listing and tree.
     void ChoixZone_Click();
     void ChoixZone_DropDown();
+    void ChoixZone_CloseUp();
     void ChoixTri_Click();
     void TreeView1_NodeClick(int indice);
     void TreeView1_NodeCheck(int indice, bool coche);

@@ -1,6 +1,6 @@
 #include "browse/AffichageApresModification.h"
 
-#include "browse/CreeEtAfficheRecherche.h"
+#include "browse/ZoneRecherche.h"
 
 namespace browse {
 

@@ -1,5 +1,6 @@
 #include "browse/AfficheTitres.h"
 
+#include "platform/dao/Comparaison.h"
 #include "platform/systeme/Horloge.h"
 #include "util/Nombres.h"
 #include "util/Texte.h"
@@ -48,19 +49,23 @@ class GroupesParLettre {
     std::array<int, 27> m_noeuds{};
 };
 
-// Headings by a column that the listing is ordered by: a new one where the value changes.
+// Headings by a column that the listing is ordered by: a new one where the value changes, by the base's comparison too,
+// which leaves values that it holds for equal in the order of their titles.
 class GroupesParValeur {
   public:
     explicit GroupesParValeur(Arbre& arbre) : m_arbre(arbre) {}
 
     int groupe(std::string_view valeur) {
-        if (valeur.empty()) valeur = kHorsTri;
         if (m_noeud != 0 && valeur == m_precedente) return m_noeud;
         m_precedente.assign(valeur);
+        std::string cle = dao::cleDeComparaison(valeur);
+        if (m_noeud != 0 && cle == m_cle) return m_noeud;
+        m_cle = std::move(cle);
         std::string majuscules = util::majuscules(valeur);
         if (m_noeud != 0 && majuscules == m_majuscules) return m_noeud;
         m_majuscules = std::move(majuscules);
-        return m_noeud = m_arbre.ajouteGroupe("T" + std::to_string(++m_compteur), m_precedente);
+        const std::string texte(m_cle == m_cleVide ? kHorsTri : valeur);
+        return m_noeud = m_arbre.ajouteGroupe("T" + std::to_string(++m_compteur), texte);
     }
 
   private:
@@ -68,7 +73,9 @@ class GroupesParValeur {
     int m_noeud = 0;
     long m_compteur = 0;
     std::string m_precedente;
-    std::string m_majuscules;  // of the heading, which all its values share
+    std::string m_cle;         // of the value before
+    std::string m_majuscules;  // of the heading
+    const std::string m_cleVide = dao::cleDeComparaison("");
 };
 
 }  // namespace
@@ -81,7 +88,7 @@ void AfficheTitres::operator()(int tri) {
     m_liste.TreeView1.Nodes.reserve(static_cast<std::size_t>(lignes),
                                     static_cast<std::size_t>(lignes) * kOctetsParTitre);
     remplit(tri);
-    if (m_liste.AffStats.Value == 1) ajoutePourcentages(lignes);
+    if (m_liste.AffStats.Value == 1) AffStats_Click();
 }
 
 void AfficheTitres::vide() {
@@ -108,14 +115,19 @@ void AfficheTitres::remplit(int tri) {
 }
 
 // Cut to one decimal in whole numbers: a quotient of its own would make 28.9 of 29.
-void AfficheTitres::ajoutePourcentages(long lignes) {
+void AfficheTitres::AffStats_Click() {
     Arbre& arbre = m_liste.TreeView1.Nodes;
     const std::string separateur = systeme::separateurDecimal();
+    std::size_t films = 0;
+    for (const std::int32_t noeud : arbre.enfants(0))
+        films += arbre.estGroupe(noeud) ? arbre.enfants(noeud).size() : 1;
     for (const std::int32_t noeud : arbre.enfants(0)) {
-        if (!arbre.estGroupe(noeud)) continue;
-        const auto dixiemes = static_cast<long>(arbre.enfants(noeud).size()) * 1000 / lignes;
+        if (!arbre.estGroupe(noeud)) return;  // a flat list
+        const std::size_t siens = arbre.enfants(noeud).size();
+        const auto dixiemes = siens == 0 ? 0 : siens * 1000 / films;
+        const bool montre = m_liste.AffStats.Value == 1 && siens != 0;
         const std::string pourcentage = util::texteDuNombre(static_cast<double>(dixiemes) / 10, separateur);
-        arbre.changeTexteGroupe(noeud, std::string(arbre.Text(noeud)) + " (" + pourcentage + " %)");
+        arbre.changeSuiteGroupe(noeud, montre ? " (" + pourcentage + " %)" : "");
     }
 }
 

@@ -14,10 +14,11 @@ class AfficheTitres {
     void operator()(int tri);
     // A tree without nodes.
     void vide();
+    // The share of each heading beside its text, or no longer. Nothing else of the window changes.
+    void AffStats_Click();
 
   private:
     void remplit(int tri);
-    void ajoutePourcentages(long lignes);
 
     EtatListe& m_liste;
     db::Base& m_base;

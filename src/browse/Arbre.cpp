@@ -21,7 +21,8 @@ int Arbre::ajouteGroupe(std::string cle, std::string texte) {
     Noeud nouveau;
     nouveau.rang = static_cast<std::uint32_t>(m_racine.size());
     nouveau.texte = static_cast<std::uint32_t>(m_groupes.size());
-    m_groupes.push_back({std::move(cle), std::move(texte), {}});
+    const std::size_t taille = texte.size();
+    m_groupes.push_back({std::move(cle), std::move(texte), taille, {}});
     m_noeuds.push_back(nouveau);
     m_racine.push_back(Count());
     return Count();
@@ -79,8 +80,15 @@ std::string_view Arbre::Text(int indice) const {
     return std::string_view(m_titres).substr(choisi.texte, fin - choisi.texte);
 }
 
-void Arbre::changeTexteGroupe(int indice, std::string texte) {
-    m_groupes[noeud(indice).texte].texte = std::move(texte);
+void Arbre::changeSuiteGroupe(int indice, std::string_view suite) {
+    Groupe& groupe = m_groupes[noeud(indice).texte];
+    groupe.texte.replace(groupe.taille, std::string::npos, suite);
+    ++m_versionDesTextes;
+}
+
+std::string_view Arbre::texteDuGroupe(int indice) const {
+    const Groupe& groupe = m_groupes[noeud(indice).texte];
+    return std::string_view(groupe.texte).substr(0, groupe.taille);
 }
 
 const std::vector<std::int32_t>& Arbre::enfants(int indice) const {

@@ -26,8 +26,10 @@ class Arbre {
     [[nodiscard]] bool estGroupe(int indice) const { return noeud(indice).position == 0; }
     [[nodiscard]] std::string Key(int indice) const;  // "T" + group, "K" + position
     [[nodiscard]] std::string_view Text(int indice) const;
-    void changeTexteGroupe(int indice, std::string texte);
-    [[nodiscard]] std::uint32_t position(int indice) const { return noeud(indice).position; }      // 0 for a heading
+    // What follows a heading's own text, its percentage. versionDesTextes() rises.
+    void changeSuiteGroupe(int indice, std::string_view suite);
+    [[nodiscard]] std::string_view texteDuGroupe(int indice) const;                            // without what follows
+    [[nodiscard]] std::uint32_t position(int indice) const { return noeud(indice).position; }  // 0 for a heading
     [[nodiscard]] int Parent(int indice) const { return static_cast<int>(noeud(indice).parent); }  // 0: the root
     [[nodiscard]] int rang(int indice) const {
         return static_cast<int>(noeud(indice).rang);
@@ -37,6 +39,7 @@ class Arbre {
     [[nodiscard]] int noeudDuFilm(std::uint32_t position) const;  // 0: none has that position
 
     [[nodiscard]] int generation() const { return m_generation; }
+    [[nodiscard]] int versionDesTextes() const { return m_versionDesTextes; }
 
   private:
     struct Noeud {
@@ -47,6 +50,7 @@ class Arbre {
     };
     struct Groupe {
         std::string cle, texte;
+        std::size_t taille;  // of the heading's own text, at the start of `texte`
         std::vector<std::int32_t> enfants;
     };
     [[nodiscard]] std::vector<std::int32_t>& enfantsDe(int indice);
@@ -57,6 +61,7 @@ class Arbre {
     std::vector<std::int32_t> m_racine;
     std::string m_titres;  // one after the other, in the order of their nodes
     int m_generation = 0;
+    int m_versionDesTextes = 0;
 };
 
 }  // namespace browse

@@ -1,9 +1,6 @@
 #include "browse/ChoixZone.h"
 
-#include "browse/CreeEtAfficheRecherche.h"
-#include "browse/Occupe.h"
-
-#include <vector>
+#include "browse/ZoneRecherche.h"
 
 namespace browse {
 
@@ -12,11 +9,11 @@ void ChoixZone::Click() {
 }
 
 void ChoixZone::DropDown() {
-    ecran::Liste& zones = m_liste.ChoixZone;
-    if (zones.Text != kTexteZoneRecherche) return;
-    const Occupe occupe(m_liste);
-    std::erase(zones.Items, kTexteZoneRecherche);
-    zones.selectionne(kZoneMesFilms);
+    quitteZoneRecherche(m_liste, kZoneMesFilms);
+}
+
+void ChoixZone::CloseUp() {
+    nommeCeQuiEstMontre(m_liste);
 }
 
 }  // namespace browse

@@ -12,6 +12,7 @@ class ChoixZone {
 
     void Click();     // an entry was selected, by the user or by the program
     void DropDown();  // the list opens: "Recherche" leaves it; the listing stays until a zone is picked
+    void CloseUp();   // the list closed: where nothing was picked, it names what the tree shows
 
   private:
     EtatListe& m_liste;

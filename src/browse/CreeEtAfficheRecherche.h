@@ -4,8 +4,6 @@
 
 namespace browse {
 
-inline constexpr const char* kTexteZoneRecherche = "Recherche";
-
 // Selects the pseudo-zone "Recherche", added to the zone list where it is missing, and shows the films of the saved
 // search condition and zone.
 class CreeEtAfficheRecherche {

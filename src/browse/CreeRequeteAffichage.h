@@ -4,6 +4,7 @@
 #include "browse/FilmCourant.h"
 #include "platform/dialogues/Dialogues.h"
 
+#include <functional>
 #include <string>
 
 namespace browse {
@@ -16,15 +17,19 @@ class CreeRequeteAffichage {
                          dialogues::Dialogues& dialogues)
         : m_base(base), m_liste(liste), m_film(film), m_afficheTitres(afficheTitres), m_dialogues(dialogues) {}
 
-    // A zone of -1 or a sort outside the list does nothing; 6 is the saved search zone. Throws db::RequeteEchouee after
-    // its message when the listing cannot be made: listing and tree stay as they were.
+    // A zone of -1 or a sort outside the list does nothing; 6 is the saved search zone. After a refusal, and when the
+    // listing cannot be made (db::RequeteEchouee after its message), listing and tree are as they were and the two lists
+    // name them.
     void operator()(int zone, int tri, const std::string& condition = "");
 
-    // The listing of the zone and sort shown, without a search, over another base than the one the tree was filled
-    // from: whatever comes of it, no node of the old base is left.
+    // Runs what lists the base once it was closed and opened again: whatever comes of it, no node is left that leads
+    // into the listing of before.
+    void apresReouverture(const std::function<void()>& relit);
+    // The listing of the zone and sort shown over another base. A search ends: its zone is the one searched in.
     void apresChangementDeBase();
 
   private:
+    [[nodiscard]] dao::Recordset ouvre(const std::string& requete);
     void oublieLeFilmCourant();
 
     db::Base& m_base;

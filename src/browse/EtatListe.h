@@ -9,7 +9,7 @@
 
 namespace browse {
 
-inline constexpr int kZoneMesFilms = 0, kZoneTous = 1, kZoneNonPossedes = 5, kZoneRecherche = 6;
+inline constexpr int kZoneMesFilms = 0, kZoneTous = 1, kZonePretes = 3, kZoneNonPossedes = 5, kZoneRecherche = 6;
 inline constexpr int kTriTitre1 = 0, kTriTitre2 = 1, kTriGenre = 4, kTriNote = 7, kTriSupport = 8;
 
 // TreeView1: the nodes, and what the user and the program did to them.
@@ -18,6 +18,7 @@ struct VueArbre : ecran::Controle {
     int SelectedItem = 0;  // index of the highlighted node, 0 for none; the window scrolls and expands to it
     bool Checkboxes = false;
     std::set<int> coches;  // indexes of the ticked nodes
+    int aOuvrir = 0;       // index of a heading to open, 0 for none; the window opens it once
 };
 
 // The left side of the window and what the listing remembers.
@@ -32,6 +33,7 @@ struct EtatListe {
     int noeudChoisi = -1;           // index of the node whose sheet was asked for, -1 for none
     std::string cleCliquee;         // key of the node last clicked or right-clicked
     int triDeLArbre = 0;            // the sort the tree was filled with: a refused sort leaves it as it was
+    int zoneDeLArbre = -1;          // and the zone, kZoneRecherche for a search; -1 before the first filling
     bool occupe = false;            // the program itself is changing ChoixZone or ChoixTri
     std::string critereRecherche;   // search condition, empty when no search was made
     int zoneRecherche = kZoneTous;  // saved search zone

@@ -1,6 +1,19 @@
 #include "db/Requete.h"
 
+#include <algorithm>
+#include <array>
+
 namespace db {
+
+RequeteEchouee::RequeteEchouee(const dao::ErreurDao& erreur) {
+    static constexpr std::array kDuFichier{dao::kErreurFichierIntrouvable,
+                                           dao::kErreurLectureVerrouillee,
+                                           dao::kErreurVerrouille,
+                                           dao::kErreurDisque,
+                                           dao::kErreurFormat,
+                                           dao::kErreurLectureSeule};
+    if (std::find(kDuFichier.begin(), kDuFichier.end(), erreur.numero) != kDuFichier.end()) raison = erreur.description;
+}
 
 std::string texteErreurRequete(NumeroErreur numero) {
     return "Erreur (" + std::to_string(static_cast<int>(numero)) + ") : Etablissement de requête";
@@ -10,10 +23,10 @@ dao::Recordset ouvreRequete(dao::Database& base, const std::string& enonce, Nume
                             dialogues::Dialogues& dialogues) {
     try {
         return base.OpenRecordset(enonce);
-    } catch (const dao::ErreurDao&) {
+    } catch (const dao::ErreurDao& erreur) {
+        dialogues.MsgBox(texteErreurRequete(numero), dialogues::kCritique);
+        throw RequeteEchouee(erreur);
     }
-    dialogues.MsgBox(texteErreurRequete(numero), dialogues::kCritique);
-    throw RequeteEchouee{};
 }
 
 }  // namespace db

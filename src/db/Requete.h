@@ -30,7 +30,12 @@ enum class NumeroErreur : int {
 };
 
 // Thrown after its message was shown: the running command stops, the window stays as it is.
-struct RequeteEchouee {};
+struct RequeteEchouee {
+    RequeteEchouee() = default;
+    explicit RequeteEchouee(const dao::ErreurDao& erreur);
+
+    std::string raison;  // why, where it lies in the file or in who else uses it; else empty
+};
 
 [[nodiscard]] std::string texteErreurRequete(NumeroErreur numero);
 

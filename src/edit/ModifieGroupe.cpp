@@ -38,14 +38,17 @@ void RenommageGroupe::RecupereInfosGroupeSelectionne(std::string& genre, std::st
 
 void RenommageGroupe::ModifieGroupe(const std::string& champ, const std::string& valeur, bool personnel) {
     if (valeur.empty() || !groupeChoisi()) return;
-    const auto longueur = personnel ? kLongueurSupport : kLongueurGenre;
-    if (const auto introuvable = renomme(champ, util::coupe(valeur, longueur), personnel))
+    const std::string nouvelle = util::coupe(valeur, personnel ? kLongueurSupport : kLongueurGenre);
+    if (const auto introuvable = renomme(champ, nouvelle, personnel))
         m_outils.dialogues.MsgBox("Infos personnelles sur le titre \"" + introuvable->titre + "\" de " +
                                       introuvable->realisateur + " non trouvées !\r\nProcessus arrêté.",
                                   dialogues::kExclamation);
     const browse::FilmCourant courant = m_film;  // the refresh forgets it
     m_suites.affichageApresModification();
-    if (courant.estUnFilm()) m_suites.selectionneTitre(courant.titre, courant.realisateur);
+    if (courant.estUnFilm())
+        m_suites.selectionneTitre(courant.titre, courant.realisateur);
+    else
+        m_suites.selectionneTitre.groupe(nouvelle);
     if (personnel) m_suites.boites.RaffraichitBoitesDeroulantes();
 }
 

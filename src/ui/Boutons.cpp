@@ -146,6 +146,12 @@ void ListeDeroulante::showPopup() {
     QComboBox::showPopup();
 }
 
+// An entry is chosen once the list is hidden.
+void ListeDeroulante::hidePopup() {
+    QComboBox::hidePopup();
+    QMetaObject::invokeMethod(this, &ListeDeroulante::sEstFermee, Qt::QueuedConnection);
+}
+
 void ListeDeroulante::wheelEvent(QWheelEvent* evenement) {
     evenement->ignore();
 }

@@ -59,15 +59,17 @@ class CaseRepliee final : public QCheckBox {
     [[nodiscard]] int retrait() const;
 };
 
-// A drop-down list that tells when it opens, before its entries are shown, and leaves the wheel to what scrolls.
+// A drop-down list that tells when it opens, before its entries are shown, and when it closed, and leaves the wheel to what scrolls.
 class ListeDeroulante final : public QComboBox {
     Q_OBJECT
   public:
     using QComboBox::QComboBox;
     void showPopup() override;
+    void hidePopup() override;
 
   signals:
     void vaSOuvrir();
+    void sEstFermee();  // after what the choice of an entry brought
 
   protected:
     void wheelEvent(QWheelEvent* evenement) override;

@@ -13,6 +13,10 @@ void ModeleArbre::coches() {
     emit layoutChanged();
 }
 
+void ModeleArbre::textes() {
+    if (const int nombre = rowCount(); nombre > 0) emit dataChanged(index(0, 0), index(nombre - 1, 0));
+}
+
 QModelIndex ModeleArbre::indexDuNoeud(int indice) const {
     if (indice < 1 || indice > m_etat.Nodes.Count()) return {};
     return createIndex(m_etat.Nodes.rang(indice), 0, static_cast<quintptr>(indice));

@@ -18,6 +18,7 @@ class ModeleArbre final : public QAbstractItemModel {
     // Follows a new filling of the list, or ticks that the program changed.
     void recommence();
     void coches();
+    void textes();  // those of the headings
     [[nodiscard]] browse::VueArbre& etat() { return m_etat; }
 
     [[nodiscard]] QModelIndex indexDuNoeud(int indice) const;

@@ -35,6 +35,10 @@ QLayout* PanneauListe::choix() {
         m_atelier.commande.execute([this, procedure] { (m_atelier.session.*procedure)(); });
     };
     connect(zone, &ListeDeroulante::vaSOuvrir, this, [=] { execute(&app::Session::ChoixZone_DropDown); });
+    connect(zone, &ListeDeroulante::sEstFermee, this, [=, this] {
+        const auto& etat = m_atelier.etats().liste;
+        if (etat.ChoixZone.ListIndex != etat.zoneDeLArbre) execute(&app::Session::ChoixZone_CloseUp);
+    });
     connect(zone, &QComboBox::activated, this, [=] { execute(&app::Session::ChoixZone_Click); });
     connect(tri, &QComboBox::activated, this, [=] { execute(&app::Session::ChoixTri_Click); });
     m_atelier.auClic(statistiques, &app::Session::AffStats_Click);

@@ -28,10 +28,16 @@ class VueTitres::LienArbre final : public Lien {
             m_cases = m_etat.Checkboxes;
             m_vue.m_modele.coches();
         }
+        if (m_textes != m_etat.Nodes.versionDesTextes()) {
+            m_textes = m_etat.Nodes.versionDesTextes();
+            m_vue.changeLesTextes();
+        }
         if (m_choisi != m_etat.SelectedItem) {
             m_choisi = m_etat.SelectedItem;
             m_vue.montreNoeud(m_choisi);
         }
+        if (const int aOuvrir = std::exchange(m_etat.aOuvrir, 0); aOuvrir != 0)
+            m_vue.expand(m_vue.m_modele.indexDuNoeud(aOuvrir));
         if (m_vue.isEnabled() != m_etat.Enabled) m_vue.setEnabled(m_etat.Enabled);
     }
 
@@ -58,6 +64,7 @@ class VueTitres::LienArbre final : public Lien {
     VueTitres& m_vue;
     int m_generation = 0;
     int m_nombre = 0;
+    int m_textes = 0;
     int m_choisi = 0;
     bool m_cases = false;
     std::set<int> m_coches;
@@ -94,6 +101,16 @@ void VueTitres::clique(const QModelIndex& index) {
 
 void VueTitres::basculeGroupe(const QModelIndex& index) {
     if (m_modele.hasChildren(index)) setExpanded(index, !isExpanded(index));
+}
+
+// The headings' texts: those that are open are known by theirs.
+void VueTitres::changeLesTextes() {
+    m_modele.textes();
+    m_ouverts.clear();
+    for (int ligne = 0; ligne < m_modele.rowCount(); ++ligne) {
+        const QModelIndex index = m_modele.index(ligne, 0);
+        if (isExpanded(index)) m_ouverts.insert(index.data().toString());
+    }
 }
 
 void VueTitres::montreNoeud(int indice) {

@@ -38,6 +38,7 @@ class VueTitres final : public QTreeView {
     [[nodiscard]] QModelIndex caseSous(const QMouseEvent& evenement) const;
     void basculeGroupe(const QModelIndex& index);
     void montreNoeud(int indice);
+    void changeLesTextes();
 
     ModeleArbre m_modele;
     std::set<QString> m_ouverts;  // the texts of the open headings

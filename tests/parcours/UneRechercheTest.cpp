@@ -78,8 +78,8 @@ TEST_F(UneRecherche, AFieldWithoutAValueHidesItsFilm) {
         std::array<int, 4> champs;
         std::size_t portee, nombre;
     } cas[]{{"muet", {1, 0, 0, 1}, 0, 0},    {"muet", {1, 1, 1, 0}, 0, 1},     {"muet", {1, 0, 0, 0}, 1, 1},
-            {"muet", {1, 0, 0, 0}, 2, 0},    {"orphelin", {1, 1, 0, 0}, 0, 0}, {"orphelin", {1, 0, 0, 0}, 2, 1},
-            {"orphelin", {1, 0, 0, 0}, 1, 0}};
+            {"muet", {1, 0, 0, 0}, 2, 0},    {"orphelin", {1, 1, 0, 0}, 0, 0}, {"orphelin", {1, 0, 0, 0}, 2, 0},
+            {"orphelin", {1, 0, 0, 0}, 1, 1}};
     for (const auto& [texte, champs, portee, nombre] : cas) {
         cherche(execution, texte, champs, portee);
         EXPECT_EQ(arbre(etats).size(), nombre) << texte << " " << portee;
@@ -88,13 +88,14 @@ TEST_F(UneRecherche, AFieldWithoutAValueHidesItsFilm) {
 
 TEST_F(UneRecherche, AZoneTakesNoFilmWhoseConditionHasNoValue) {
     choisitTri(execution, 1);
-    const std::vector<std::string> zones[]{{"[Rec", "M*A*S*H", "Muet"}, {}, {"M*A*S*H"}, {"[Rec"}, {"M*A*S*H"}};
+    const std::vector<std::string> zones[]{
+        {"[Rec", "M*A*S*H", "Muet", "Orphelin"}, {}, {"M*A*S*H", "Orphelin"}, {"[Rec"}, {"M*A*S*H"}};
     for (const int zone : {0, 2, 3, 4}) {
         choisitZone(execution, zone);
         EXPECT_EQ(arbre(etats), zones[zone]) << zone;
     }
     choisitZone(execution, 5);
-    EXPECT_EQ(arbre(etats).size(), 5U);  // the one without a director has no holding that matches
+    EXPECT_EQ(arbre(etats).size(), 4U);
 
     // Stored again from the sheet, the holding has its values and its zone.
     choisitZone(execution, 0);
@@ -102,7 +103,41 @@ TEST_F(UneRecherche, AZoneTakesNoFilmWhoseConditionHasNoValue) {
     session.cmdValiderInfosPossessions_Click();
     EXPECT_EQ(filmMontre(etats), "Muet de Personne");
     choisitZone(execution, 2);
-    EXPECT_THAT(arbre(etats), ElementsAre("M*A*S*H", "Muet"));
+    EXPECT_THAT(arbre(etats), ElementsAre("M*A*S*H", "Muet", "Orphelin"));
+}
+
+// Other tools leave a director Null, which no text of a statement can name.
+TEST_F(UneRecherche, AFilmWithoutADirectorIsKeptLikeAnyOther) {
+    choisitZone(execution, 1);
+    choisitTri(execution, 1);
+    clique(execution, "Orphelin");
+    EXPECT_TRUE(etats.fiche.Option1[1].Value);
+    execution.boites.attendInputBox("Quelle note (entre 1 et 10) voulez vous attribuer au film \"Orphelin\" de  ?",
+                                    "8");
+    session.cmdModifieNote_Click();
+    EXPECT_EQ(etats.fiche.lblNote.Caption, "Note : 8/10");
+    etats.fiche.Combo7[2].Text = "K7";
+    session.cmdValiderInfosPossessions_Click();
+    execution.boites.attendFichier({"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", installation.chemin()},
+                                   installation.ecrit("a.jpg", "\xFF\xD8"));
+    session.Label12_Click();
+    execution.boites.attendMsgBox("Compactage effectué.", dialogues::kInformation);
+    session.cmdCompacter_Click();
+    EXPECT_EQ(etats.liste.Label9[1].Caption, "4 personnels");
+    clique(execution, "Orphelin");
+    EXPECT_EQ(etats.fiche.Combo7[2].Text, "K7");
+    EXPECT_EQ(etats.fiche.lblNote.Caption, "Note : 8/10");
+    session.cmdModifierTitre_Click();
+    etats.ajout.Text3[1].Text = "Un autre";
+    session.cmdAjoutFilm_Click();
+    EXPECT_EQ(filmMontre(etats), "Orphelin de Un autre");
+    EXPECT_TRUE(etats.fiche.Option1[1].Value);
+    dao::DBEngine::OpenDatabase(base).Execute("UPDATE Films SET Realisateur=NULL WHERE Titre='Orphelin'");
+    choisitZone(execution, 1);
+    clique(execution, "Orphelin");
+    execution.boites.attendMsgBox("Voulez-vous vraiment supprimer ce titre ?", dialogues::kQuestion, dialogues::kOui);
+    session.cmdSupprimerTitre_Click();
+    EXPECT_EQ(etats.liste.Label9[0].Caption, "7 titres");
 }
 
 TEST_F(UneRecherche, TheFilmsOutOfTheSortGetTheirGenreTogether) {
@@ -112,10 +147,10 @@ TEST_F(UneRecherche, TheFilmsOutOfTheSortGetTheirGenreTogether) {
     session.TreeView1_MouseUpDroit(noeud(etats, " Hors tri !"));
     execution.boites.attendInputBox("Entrez le nom du nouveau genre", "Inclassable", "Modifier le genre");
     session.RenommerGenreFilms_Click();
-    EXPECT_THAT(arbre(etats), ElementsAre("Inclassable", "  [Rec", "  M*A*S*H", "  Muet"));
+    EXPECT_THAT(arbre(etats), ElementsAre("Inclassable", "  [Rec", "  M*A*S*H", "  Muet", "  Orphelin"));
     EXPECT_THAT(Photo(base).depuis(avant),
                 testing::UnorderedElementsAre("*Films : [Rec de Jaume Balagueró", "*Films : M*A*S*H de Robert Altman",
-                                              "*Films : Muet de Personne"));
+                                              "*Films : Muet de Personne", "*Films : Orphelin de Null"));
 }
 
 // A corrected film may match its search no more: nothing is shown then, and no command reaches another film.

@@ -207,7 +207,7 @@ class UneSession : public Collectionneur {
                                                         "*Films : COSTELLO \"LE SAMOURAÏ\" de Jean-Pierre Melville"));
         EXPECT_THAT(
             arbre(etats()),
-            ElementsAre(" Hors tri !", "  Sans Rien", "  le parrain ii", "Comédie", "  Les \"Nouveaux\" Monstres",
+            ElementsAre(" Hors tri !", "  le parrain ii", "  Sans Rien", "Comédie", "  Les \"Nouveaux\" Monstres",
                         "Mélodrame", "  COSTELLO \"LE SAMOURAÏ\"", "  Été Violent", "Policier", "  Le Cercle Rouge"));
         zone(0);
         tri(8);

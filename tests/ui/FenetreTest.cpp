@@ -1,6 +1,8 @@
 #include "ProgrammeDEssai.h"
 
 #include <QAbstractItemModelTester>
+#include <QAbstractItemView>
+#include <QAction>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -188,6 +190,65 @@ TEST_F(Fenetre, SearchIsTypedAndStartedWithEnter) {
     essai.clique("lblRealisateur");
     EXPECT_EQ(essai.trouve<QLineEdit>("Text2").text(), "James Cameron");
     EXPECT_EQ(entetes(), QStringList("Avatar"));
+}
+
+TEST_F(Fenetre, AZoneListClosedByEscapeNamesTheSearchThatIsShown) {
+    importe();
+    essai.choisit("ChoixTri", 1);
+    essai.clique("cmdFonctionRecherche");
+    essai.trouve<QLineEdit>("Text2").setText("au");
+    essai.clique("cmdRecherche");
+    auto& zones = essai.trouve<QComboBox>("ChoixZone");
+    for (int fois = 0; fois < 2; ++fois) {
+        EXPECT_EQ(zones.currentText(), "Recherche");
+        zones.showPopup();
+        EXPECT_EQ(zones.currentText(), "Mes films");
+        QTest::keyClick(zones.view(), Qt::Key_Escape);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return zones.currentText() == "Recherche"; }));
+        EXPECT_EQ(zones.count(), 7);
+        EXPECT_EQ(entetes().size(), 1);
+    }
+    zones.showPopup();
+    QTest::keyClick(zones.view(), Qt::Key_Down);
+    QTest::keyClick(zones.view(), Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return entetes().size() == 4; }));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(zones.currentText(), "Tous les films");
+    EXPECT_EQ(zones.count(), 6);
+}
+
+TEST_F(Fenetre, StatisticsLeaveTheSheetTheOpenHeadingsAndTheChoice) {
+    importe();
+    essai.choisit("ChoixTri", 4);
+    essai.cliqueTitre("L'Œuvre Au Noir");
+    const auto ouverts = [&] {
+        std::vector<bool> lignes;
+        for (int i = 0; i < essai.arbre().model()->rowCount(); ++i)
+            lignes.push_back(essai.arbre().isExpanded(essai.arbre().model()->index(i, 0)));
+        return lignes;
+    };
+    const auto avant = ouverts();
+    essai.clique("AffStats");
+    EXPECT_TRUE(entetes()[1].startsWith("Drame (50")) << entetes()[1].toStdString();
+    attendsLaFiche("L'Œuvre Au Noir", "André Delvaux");
+    EXPECT_EQ(ouverts(), avant);
+    EXPECT_EQ(essai.arbre().currentIndex().data().toString(), "L'Œuvre Au Noir");
+    essai.clique("cmdSupprimerTitre");  // the headings that were open are known by their new texts
+    EXPECT_EQ(ouverts(), avant);
+    essai.clique("AffStats");
+    EXPECT_EQ(entetes()[1], "Drame");
+}
+
+TEST_F(Fenetre, ARenamedHeadingIsOpenAndSelectedInItsNewPlace) {
+    importe();
+    essai.choisit("ChoixTri", 4);
+    essai.cliqueTitre("Drame");
+    essai.boites.reponse = "Vie";
+    essai.fenetre().findChild<QAction*>("RenommerGenreFilms")->trigger();
+    const QModelIndex choisi = essai.arbre().currentIndex();
+    EXPECT_EQ(choisi.data().toString(), "Vie");
+    EXPECT_TRUE(essai.arbre().isExpanded(choisi));
+    EXPECT_EQ(entetes().last(), "Vie");
 }
 
 TEST_F(Fenetre, AbandonedImportKeepsWhatWasAdded) {

@@ -38,6 +38,18 @@ TEST_F(AfficheTitresTest, ValuesThatDifferByCaseShareAHeadingAndNoneGoesApart) {
                                       ">K5=C", ">K6=D"}));
 }
 
+TEST_F(AfficheTitresTest, ValuesThatTheBaseHoldsForEqualShareAHeadingOfTitlesInOrder) {
+    const std::pair<const char*, const char*> films[]{
+        {"Zorro", "DVD"}, {"Alien", "DVD "},  {"Muriel", "dvd"},  {"Été", "œuvre"},     {"Ête", "oeuvre"}, {"Dune", ""},
+        {"Brazil", "  "}, {"Casablanca", ""}, {"Éden", "OEUVRE"}, {"Fargo", "e\u0301"}, {"Heat", "É"}};
+    for (const auto& [titre, genre] : films)
+        ajouteFilm(titre, {{"Genre", genre}});
+    montre(browse::kZoneTous, browse::kTriGenre);
+    EXPECT_EQ(arbreEnTexte(), (Lignes{"T1= Hors tri !", ">K1=Brazil", ">K2=Casablanca", ">K3=Dune", "T2=DVD ",
+                                      ">K4=Alien", ">K5=Muriel", ">K6=Zorro", "T3=e\u0301", ">K7=Fargo", ">K8=Heat",
+                                      "T4=OEUVRE", ">K9=Éden", ">K10=Été", ">K11=Ête"}));
+}
+
 TEST_F(AfficheTitresTest, RatingsAreHeadedByTheirNumberInItsOrder) {
     ajouteFilm("Dix", {{"Note", 10}});
     ajouteFilm("Neuf", {{"Note", 9}});
@@ -70,6 +82,59 @@ TEST_F(AfficheTitresTest, PercentagesAreCutToOneDecimal) {
     liste.AffStats.Value = 2;
     montre(browse::kZoneTous, browse::kTriGenre);
     EXPECT_EQ(liste.TreeView1.Nodes.Text(1), "Comédie");
+}
+
+TEST_F(AfficheTitresTest, TickingStatisticsChangesTheHeadingsAlone) {
+    ajouteFilm("Avatar", {{"Genre", "Drame"}, {"Realisateur", "R"}});
+    ajouteFilm("Brazil", {{"Genre", "Drame"}});
+    montre(browse::kZoneTous, browse::kTriGenre);
+    const int remplissages = liste.TreeView1.Nodes.generation();
+    clique("Avatar");
+    liste.TreeView1.coches = {3};
+    const auto bascule = [&](int valeur) {
+        liste.AffStats.Value = valeur;
+        afficheTitres.AffStats_Click();
+        return std::string(liste.TreeView1.Nodes.Text(1));
+    };
+    EXPECT_EQ(bascule(1), "Drame (100 %)");
+    EXPECT_EQ(bascule(1), "Drame (100 %)");
+    EXPECT_EQ(bascule(0), "Drame");
+    EXPECT_TRUE(panneaux.frameFiche.Visible);
+    EXPECT_EQ(film.titre, "Avatar");
+    EXPECT_EQ(liste.TreeView1.SelectedItem, 2);
+    EXPECT_EQ(liste.TreeView1.coches, std::set<int>{3});
+    EXPECT_EQ(liste.TreeView1.Nodes.generation(), remplissages);
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    EXPECT_EQ(bascule(1), "Avatar");
+}
+
+// A title, a genre and a cast of five million characters: through the listing, the headings, the sheet and the search.
+TEST_F(AfficheTitresTest, HugeFieldsAreListedShownAndSearched) {
+    const std::string longue(5'000'000, 'e');
+    const std::string distribution = longue + ";œ";
+    for (const char* autre : {"Avatar", "Zorro"})
+        ajouteFilm(autre, {{"Realisateur", ""}, {"Genre", longue + " "}, {"Acteurs", ""}});
+    ajouteFilm(longue.c_str(), {{"Realisateur", longue}, {"Genre", longue}, {"Acteurs", distribution}});
+    possede(longue.c_str(), longue.c_str());
+    montre(browse::kZoneTous, browse::kTriGenre);
+    EXPECT_EQ(liste.TreeView1.Nodes.enfants(0).size(), 1U);
+    EXPECT_EQ(liste.TreeView1.Nodes.Text(3), longue);
+    arbre.NodeClick(3);
+    EXPECT_EQ(fiche.Label1[0].Caption, longue);
+    EXPECT_EQ(fiche.lblInfosActeurs.Caption.size(), distribution.size() + 1);
+    EXPECT_TRUE(fiche.Option1[1].Value);
+    selectionneTitre("ZORRO", longue);  // nobody, after a comparison with everyone
+    EXPECT_EQ(film.titre, longue);
+    montre(browse::kZoneMesFilms, browse::kTriTitre1);
+    EXPECT_EQ(titres(), Lignes{longue});
+    recherche.Text2.Text = std::string(1'000'000, 'E') + "f";
+    recherche.ZoneRecherche[3].Value = 1;
+    cmdRecherche();
+    EXPECT_TRUE(titres().empty());
+    recherche.Text2.Text = "eeE;OE";
+    recherche.ZoneRecherche[0].Value = 0;
+    cmdRecherche();
+    EXPECT_EQ(titres(), Lignes{longue});
 }
 
 TEST_F(AfficheTitresTest, AnEmptyListingIsAnEmptyTree) {

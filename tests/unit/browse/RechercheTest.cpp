@@ -16,6 +16,12 @@ class RechercheTest : public Fenetre {
         possede("Bleu", "K", {{"Pret", "Luc"}, {"Reserve", ""}});
         possede("avatar", "c", {{"Pret", ""}, {"Reserve", "Ève"}});  // the same film for the base
     }
+    void attendRefus() {
+        dialogues.attendMsgBox(
+            "Le tri par support n'est pas possible pour ce cas-là : il faut que la recherche soit sur les titres "
+            "possédés (Mes Films).",
+            48);
+    }
     void cherche(const char* texte, std::array<int, 4> champs, std::size_t portee) {
         recherche.Text2.Text = texte;
         for (std::size_t i = 0; i < champs.size(); ++i)
@@ -41,20 +47,94 @@ TEST_F(RechercheTest, SortBySupportIsRefusedWhereFilmsHaveNoneAndTheTreeStays) {
     EXPECT_EQ(liste.triDeLArbre, browse::kTriSupport);
     montre(browse::kZoneTous, browse::kTriGenre);
     for (const int zone : {browse::kZoneTous, browse::kZoneNonPossedes}) {
-        dialogues.attendMsgBox(
-            "Le tri par support n'est pas possible pour ce cas-là : il faut que la recherche soit sur les titres "
-            "possédés (Mes Films).",
-            48);
+        attendRefus();
         montre(zone, browse::kTriSupport);
         EXPECT_EQ(titres().size(), 4U);
         EXPECT_EQ(liste.triDeLArbre, browse::kTriGenre);
+        EXPECT_EQ(liste.ChoixTri.ListIndex, browse::kTriGenre);  // the lists name what is shown
+        EXPECT_EQ(liste.ChoixZone.Text, "Tous les films");
+        affichageApresModification();  // and the next refresh is not refused again
     }
-    dialogues.attendMsgBox(
-        "Le tri par support n'est pas possible pour ce cas-là : il faut que la recherche soit sur les titres possédés "
-        "(Mes Films).",
-        48);
-    creeRequeteAffichage.apresChangementDeBase();  // another base: no node of the old one may stay
+    montre(browse::kZoneMesFilms, browse::kTriSupport);
+    attendRefus();
+    liste.ChoixZone.selectionne(browse::kZoneNonPossedes);
+    choixZone.Click();  // the zone that the sort refuses
+    EXPECT_EQ(liste.ChoixZone.Text, "Mes films");
+    EXPECT_EQ(liste.ChoixTri.ListIndex, browse::kTriSupport);
+    EXPECT_EQ(titres().size(), 2U);
+}
+
+TEST_F(RechercheTest, ARefusedSortOfASearchLeavesTheSearchNamedAndShown) {
+    cherche("199", {0, 0, 1, 0}, 2);
+    attendRefus();
+    liste.ChoixTri.selectionne(browse::kTriSupport);
+    choixTri.Click();
+    EXPECT_EQ(liste.ChoixTri.ListIndex, browse::kTriTitre2);
+    EXPECT_EQ(liste.ChoixZone.Text, "Recherche");
+    EXPECT_EQ(titres(), (Titres{"Clair", "Été \"bleu\""}));
+}
+
+TEST_F(RechercheTest, AZoneListClosedWithoutAChoiceNamesTheSearchAgain) {
+    cherche("199", {0, 0, 1, 0}, 2);
+    for (int fois = 0; fois < 2; ++fois) {
+        choixZone.DropDown();
+        EXPECT_EQ(liste.ChoixZone.Text, "Mes films");
+        choixZone.CloseUp();
+        EXPECT_EQ(liste.ChoixZone.Text, "Recherche");
+        EXPECT_EQ(liste.ChoixZone.ListIndex, browse::kZoneRecherche);
+        EXPECT_EQ(liste.ChoixZone.ListCount(), 7);
+        affichageApresModification();
+        EXPECT_EQ(titres(), (Titres{"Clair", "Été \"bleu\""}));
+    }
+    choixZone.DropDown();
+    liste.ChoixZone.selectionne(browse::kZonePretes);
+    choixZone.Click();
+    choixZone.CloseUp();
+    EXPECT_EQ(liste.ChoixZone.Text, "Mes films prêtés");
+    EXPECT_EQ(liste.ChoixZone.ListCount(), 6);
+}
+
+TEST_F(RechercheTest, AnotherBaseEndsTheSearchInTheZoneItWasMadeIn) {
+    cherche("199", {0, 0, 1, 0}, 2);
+    creeRequeteAffichage.apresChangementDeBase();
+    EXPECT_EQ(liste.ChoixZone.Text, "Films non possédés");
+    EXPECT_EQ(liste.ChoixZone.ListCount(), 6);
+    EXPECT_EQ(liste.critereRecherche, "");
+    EXPECT_EQ(titres(), (Titres{"Clair", "Été \"bleu\""}));
+    cherche("199", {0, 0, 1, 0}, 0);
+    choixZone.DropDown();  // left, but not for another zone yet
+    liste.ChoixZone.selectionne(browse::kZoneTous);
+    creeRequeteAffichage.apresChangementDeBase();
+    EXPECT_EQ(titres().size(), 4U);
+    EXPECT_EQ(liste.critereRecherche, "");
+}
+
+TEST_F(RechercheTest, AReopenedBaseLeavesNoNodeOfTheOldListing) {
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    dialogues.attendMsgBox("Erreur (1) : Etablissement de requête", 16);
+    EXPECT_THROW(creeRequeteAffichage.apresReouverture(
+                     [&] { creeRequeteAffichage(browse::kZoneTous, browse::kTriGenre, "ceci n'est pas"); }),
+                 db::RequeteEchouee);
     EXPECT_EQ(liste.TreeView1.Nodes.Count(), 0);
+    creeRequeteAffichage.apresReouverture([&] { affichageApresModification(); });
+    EXPECT_EQ(titres().size(), 4U);
+}
+
+TEST_F(RechercheTest, ALockedBaseIsSaidToBeLocked) {
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    dao::Database autre = dao::DBEngine::OpenDatabase(chemins.base);
+    autre.Execute("BEGIN EXCLUSIVE");
+    dialogues.attendMsgBox("Erreur (1) : Etablissement de requête", 16);
+    try {
+        montre(browse::kZoneTous, browse::kTriGenre);
+        ADD_FAILURE() << "the listing was made";
+    } catch (const db::RequeteEchouee& echec) {
+        EXPECT_EQ(echec.raison, "Lecture impossible : la base est verrouillée par un autre programme.");
+    }
+    EXPECT_EQ(liste.ChoixTri.ListIndex, browse::kTriTitre2);
+    EXPECT_EQ(titres().size(), 4U);
+    autre.Execute("ROLLBACK");
+    affichageApresModification();
 }
 
 TEST_F(RechercheTest, AListingThatFailsTellsItAndTheTreeStillFindsItsFilms) {
@@ -99,6 +179,7 @@ TEST_F(RechercheTest, TheSearchFindsItsTextInTheCheckedFieldsOfItsScope) {
         {"199", {0, 0, 1, 0}, 2, {"Clair", "Été \"bleu\""}},
         {"K", {0, 1, 0, 1}, 0, {"Bleu"}},  // a film without a cast has no sum of positions
         {"ete", {1, 0, 0, 0}, 0, {}},      // accents count
+        {"E\u0301TE\u0301", {1, 0, 0, 0}, 0, {"Été \"bleu\""}},
     };
     for (const auto& [texte, champs, portee, attendus] : cas) {
         cherche(texte, champs, portee);

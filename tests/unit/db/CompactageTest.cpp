@@ -52,6 +52,20 @@ TEST_F(EntretienTest, CompactionShrinksTheFileAndKeepsEveryRow) {
               (std::vector<std::string>{"AfficheNbTitres", "AffichageApresModification"}));
 }
 
+TEST_F(EntretienTest, AHoldingIsNoOrphanWhereNullStandsForTheEmptyText) {
+    const std::string longue(5'000'000, 'x');
+    entretien->base.base.Execute(
+        "INSERT INTO Films (Titre, Realisateur) VALUES ('a', NULL), ('b', ''), (NULL, 'c'), (NULL, NULL), ('d', 'D');"
+        "INSERT INTO Personnel (Titre2, Realisateur2) VALUES ('A', ''), ('B', NULL), ('', 'C'), (NULL, NULL), "
+        "('d', NULL), ('e', NULL)");
+    entretien->ajoute(longue, longue, dao::Valeur());
+    entretien->possede(longue + " ", longue);
+    entretien->possede(longue, longue + "x");
+    compacte("Compactage effectué.");
+    EXPECT_EQ(possedes(), (std::vector<std::string>{"", "", "A", "B", longue + " "}));
+    EXPECT_EQ(entretien->base.films.RecordCount(), 6);
+}
+
 TEST_F(EntretienTest, ABaseElsewhereIsCompactedWhereItLies) {
     entretien.reset();
     installation.dossier.ecrit("ailleurs/mes films.mdb", installation.dossier.lit("Films.mdb"));

@@ -72,12 +72,23 @@ TEST_F(NotesEtGroupesTest, AGenreIsRenamedUnderItsHeadingOnly) {
     EXPECT_THAT(colonne("Films", "Genre"), ElementsAre("Comédie dramatique", "Comédie dramatique", "Western"));
     EXPECT_THAT(arbreEnTexte(),
                 ElementsAre("T1=Comédie dramatique", ">K1=Avatar", ">K2=Brazil", "T2=Western", ">K3=Zorro"));
+    EXPECT_EQ(liste.TreeView1.SelectedItem, noeud("Comédie dramatique"));
+    EXPECT_EQ(liste.TreeView1.aOuvrir, noeud("Comédie dramatique"));
     clique("Avatar");
     renommage.RenommerGenreFilms_Click();  // a film is selected, no heading
     clique("Western");
     attendGenre(std::string(39, 'x') + "éé", "Western");
     renommage.RenommerGenreFilms_Click();
     EXPECT_EQ(colonne("Films", "Genre").back(), std::string(39, 'x') + "é");
+    EXPECT_EQ(liste.TreeView1.Nodes.Text(liste.TreeView1.SelectedItem), std::string(39, 'x') + "é");
+    liste.AffStats.Value = 1;
+    affichageApresModification();
+    arbre.NodeClick(1);
+    attendGenre("XXX", "Comédie dramatique");
+    ajouteFilm("Fargo", {{"Realisateur", "R"}, {"Genre", "xxx"}});
+    renommage.RenommerGenreFilms_Click();  // the heading of the same name for the base, where it stands now
+    EXPECT_EQ(liste.TreeView1.Nodes.enfants(liste.TreeView1.SelectedItem).size(), 3U);
+    EXPECT_EQ(liste.TreeView1.aOuvrir, liste.TreeView1.SelectedItem);
 }
 
 TEST_F(NotesEtGroupesTest, ARenamingStopsAtTheFirstFilmWithoutAHolding) {

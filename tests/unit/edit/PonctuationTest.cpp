@@ -2,6 +2,7 @@
 #include "platform/fichiers/Fichiers.h"
 #include "unit/edit/FenetreEdition.h"
 #include "util/Capitales.h"
+#include "util/Texte.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -53,6 +54,19 @@ TEST_F(PonctuationTest, EveryTitleIsCorrectedOnceAndOwnedFilmsStillMatch) {
     corrige("Aucun titre modifié.");
     ajouteFilm("rocky");
     corrige("Un titre modifié.");
+}
+
+TEST_F(PonctuationTest, HugeTitlesTakeTimeByTheirLengthAlone) {
+    std::string titre;
+    while (titre.size() < 5'000'000)
+        titre += "l'été du parrain vii, ";
+    ajouteAvecPossession(titre, titre.c_str());
+    ajouteFilm(std::string(5'000'000, 'x').c_str());
+    ajouteFilm(std::string(5'000'000, ' ').c_str());
+    corrige("2 titres modifiés.");
+    EXPECT_EQ(util::minuscules(titresPossedes()[0]), titre);
+    EXPECT_EQ(titresPossedes()[0].substr(0, 24), "L'Été du Parrain VII, ");
+    EXPECT_EQ(titresDesFilms()[0], titresPossedes()[0]);
 }
 
 TEST_F(PonctuationTest, AStopAnywhereKeepsOwnedFilmsMatching) {
