@@ -45,6 +45,7 @@ struct Session::Rouages final : db::Rafraichissement {
     Machine machine;
     Etats& etats;
     bool enMarche = false;                  // between a start that held and the shut-down
+    bool arbreRelu = false;                 // since the gesture that the running command answers
     int volet = browse::kVoletGeneralites;  // the page that was open before the layout showed both
 
     systeme::InstanceUnique instance;
@@ -192,6 +193,9 @@ struct Session::Rouages final : db::Rafraichissement {
     void RaffraichitBoitesDeroulantes() override { boitesDeroulantes.RaffraichitBoitesDeroulantes(); }
     void AfficheNbTitres() override { afficheNbTitres(); }
     void AffichageApresModification() override;
+
+    void rouvreSiRemplacee();
+    void relis();
 
     // Runs a command that closes the base and opens one again.
     void surLaBase(const std::function<void()>& commande);

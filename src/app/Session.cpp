@@ -46,6 +46,31 @@ void Session::Rouages::AffichageApresModification() {
     etats.panneaux = panneaux;
 }
 
+void Session::Rouages::rouvreSiRemplacee() {
+    arbreRelu = false;
+    if (!enMarche || !base.base.estOuverte() || base.base.emplacement() != dao::Emplacement::Remplacee) return;
+    if (!ouvertureBase.rouvre()) return;  // the command will be told what is so
+    arbreRelu = true;
+    avis.montre("La base a été remplacée par un autre programme : elle a été rouverte.");
+    try {
+        relis();
+    } catch (const db::RequeteEchouee&) {  // its message was shown
+    }
+}
+
+// The film on the sheet stays, with what was typed about it, as long as the listing has it.
+void Session::Rouages::relis() {
+    browse::FilmCourant courant = film;
+    AffichageApresModification();
+    AfficheNbTitres();
+    if (!courant.estUnFilm()) return;
+    const int noeud = selectionneTitre.noeud(courant.titre, courant.realisateur);
+    if (noeud == 0) return afficheAccueil();
+    courant.cle = etats.liste.cleCliquee = etats.liste.TreeView1.Nodes.Key(noeud);
+    etats.liste.TreeView1.SelectedItem = etats.liste.noeudChoisi = noeud;
+    film = std::move(courant);
+}
+
 Session::Session(const Machine& machine) : m_rouages(std::make_unique<Rouages>(machine, etats)) {}
 
 Session::~Session() = default;
@@ -94,16 +119,30 @@ void Session::ChoixTri_Click() {
     m_rouages->choixTri.Click();
 }
 
+void Session::vaCommencer() {
+    m_rouages->rouvreSiRemplacee();
+}
+
+void Session::expliqueEchec(const std::string& raison) {
+    if (!raison.empty()) m_rouages->avis.montre(raison);
+}
+
 void Session::TreeView1_NodeClick(int indice) {
+    if (m_rouages->arbreRelu) return;
     m_rouages->treeView1.NodeClick(indice);
 }
 
 void Session::TreeView1_NodeCheck(int indice, bool coche) {
+    if (m_rouages->arbreRelu) {
+        etats.liste.TreeView1.coches.clear();
+        return;
+    }
     m_rouages->treeView1.NodeCheck(indice, coche);
 }
 
 void Session::TreeView1_MouseUpDroit(int indice) {
     etats.menu = MenuContextuel::Aucun;
+    if (m_rouages->arbreRelu) return;
     etats.menu = menuDemande(m_rouages->treeView1.MouseUp(indice));
 }
 

@@ -48,6 +48,12 @@ class Session {
     // The layout has room for both pages of the sheet, or no longer has.
     void Form_Resize(bool deuxPages);
 
+    // Before each command, once `etats` is up to date. A base that another program put another file in the place of is
+    // opened again and listed; a gesture on a node of the old tree then does nothing.
+    void vaCommencer();
+    // After a command that ended by db::RequeteEchouee: why, in the notice line.
+    void expliqueEchec(const std::string& raison);
+
     // Listing and tree.
     void ChoixZone_Click();
     void ChoixZone_DropDown();

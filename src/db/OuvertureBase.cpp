@@ -28,8 +28,21 @@ void completeLesIndex(dao::Database& base) {
 
 void OuvertureBase::operator()() {
     assureLeFichier();
+    reprend();
+}
+
+void OuvertureBase::reprend() {
     if (!ouvre(m_chemins.base, m_base)) throw systeme::FinDuProgramme{};
     completeLesIndex(m_base.base);
+}
+
+bool OuvertureBase::rouvre() {
+    Base nouvelle;
+    if (essaie(m_chemins.base, nouvelle)) return false;
+    m_base.ferme();
+    m_base = std::move(nouvelle);
+    completeLesIndex(m_base.base);
+    return true;
 }
 
 bool OuvertureBase::sOuvre(const std::string& chemin) {
@@ -45,27 +58,29 @@ void OuvertureBase::assureLeFichier() {
     fichiers::copie(m_chemins.modele, m_chemins.base);  // when it fails, the opening says so
 }
 
-// Leaves `base` closed when it fails.
 bool OuvertureBase::ouvre(const std::string& chemin, Base& base) {
+    const auto refus = essaie(chemin, base);
+    if (refus) m_dialogues.MsgBox(refus->texte, refus->style);
+    return !refus;
+}
+
+// Leaves `base` closed when it fails.
+std::optional<OuvertureBase::Refus> OuvertureBase::essaie(const std::string& chemin, Base& base) {
     base.ferme();
     try {
         base.base = dao::DBEngine::OpenDatabase(fichiers::trouve(chemin).value_or(chemin));
     } catch (const dao::ErreurDao&) {
-        m_dialogues.MsgBox(kOuvertureEchouee, dialogues::kCritique);
-        return false;
+        return Refus{kOuvertureEchouee, dialogues::kCritique};
     }
     try {
         base.films = base.base.OpenRecordset("Films");
         base.personnel = base.base.OpenRecordset("Personnel");
         base.liste = base.base.OpenRecordset("Films");
-        return true;
+        return std::nullopt;
     } catch (const dao::ErreurDao& erreur) {
         base.ferme();
-        if (erreur.numero == dao::kErreurLectureSeule)
-            m_dialogues.MsgBox(kLectureEcriture, dialogues::kCritique);
-        else
-            m_dialogues.MsgBox("Erreur " + std::to_string(erreur.numero) + " : " + erreur.description);
-        return false;
+        if (erreur.numero == dao::kErreurLectureSeule) return Refus{kLectureEcriture, dialogues::kCritique};
+        return Refus{"Erreur " + std::to_string(erreur.numero) + " : " + erreur.description, dialogues::kSimple};
     }
 }
 

@@ -4,6 +4,7 @@
 #include "db/Chemins.h"
 #include "platform/dialogues/Dialogues.h"
 
+#include <optional>
 #include <string>
 
 namespace db {
@@ -17,6 +18,10 @@ class OuvertureBase {
 
     // Begins with assureLeFichier.
     void operator()();
+    // The same for the base that was open until now: no other file takes its place.
+    void reprend();
+    // Opens what chemins.base names in place of the open base. False, nothing changed and nothing shown, when it is none.
+    [[nodiscard]] bool rouvre();
     // May change chemins.base to the program folder's own "films.mdb", and make that file from the template.
     void assureLeFichier();
 
@@ -25,6 +30,11 @@ class OuvertureBase {
     [[nodiscard]] bool sOuvre(const std::string& chemin);
 
   private:
+    struct Refus {
+        std::string texte;
+        int style;
+    };
+    [[nodiscard]] static std::optional<Refus> essaie(const std::string& chemin, Base& base);
     bool ouvre(const std::string& chemin, Base& base);
 
     Base& m_base;

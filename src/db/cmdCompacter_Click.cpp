@@ -24,7 +24,7 @@ std::string enonceDuFilm(const dao::Recordset& possession) {
 void cmdCompacter_Click::operator()() {
     Echec echec = compacte();
     if (!m_base.base.estOuverte()) {
-        m_ouvertureBase();
+        m_ouvertureBase.reprend();
         if (!echec) echec = nettoie();
         m_rafraichissement.AfficheNbTitres();
         m_rafraichissement.AffichageApresModification();
@@ -67,7 +67,9 @@ cmdCompacter_Click::Echec cmdCompacter_Click::nettoie() {
         supprimeOrphelins();
         return std::nullopt;
     } catch (const dao::ErreurDao& erreur) {
-        return "Erreur " + std::to_string(erreur.numero) + " : " + erreur.description;
+        return "La base est compactée, mais les possessions sans film n'ont pas pu être supprimées : toutes sont "
+               "gardées.\n" +
+               erreur.description;
     }
 }
 

@@ -26,11 +26,13 @@ Commande::Issue Commande::execute(const std::function<void()>& corps) {
 
 Commande::Issue Commande::protege(const std::function<void()>& corps) {
     try {
+        if (m_suites.vaCommencer) m_suites.vaCommencer();
         corps();
         return Issue::Faite;
     } catch (const systeme::FinDuProgramme&) {
         m_finie = true;
-    } catch (const db::RequeteEchouee&) {  // its message was shown
+    } catch (const db::RequeteEchouee& echec) {  // its message was shown
+        if (m_suites.expliqueEchec) m_suites.expliqueEchec(echec.raison);
     } catch (const dao::ErreurDao& erreur) {
         annonce("Erreur " + std::to_string(erreur.numero) + " : " + erreur.description);
     } catch (const std::bad_alloc&) {

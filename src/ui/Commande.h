@@ -5,6 +5,8 @@
 
 #include <QObject>
 #include <functional>
+#include <string>
+#include <utility>
 
 namespace ui {
 
@@ -16,6 +18,13 @@ class Commande : public QObject {
     enum class Issue { Faite, Echouee, Refusee };
 
     Commande(Liaison& liaison, dialogues::Dialogues& dialogues) : m_liaison(liaison), m_dialogues(dialogues) {}
+
+    // What the session does around every command: before it, and after one whose statement failed.
+    struct Suites {
+        std::function<void()> vaCommencer;
+        std::function<void(const std::string& raison)> expliqueEchec;
+    };
+    void accompagne(Suites suites) { m_suites = std::move(suites); }
 
     Issue execute(const std::function<void()>& corps);
     void arrete() { m_finie = true; }  // no command runs any more
@@ -33,6 +42,7 @@ class Commande : public QObject {
 
     Liaison& m_liaison;
     dialogues::Dialogues& m_dialogues;
+    Suites m_suites;
     bool m_enCours = false;
     bool m_finie = false;
 };

@@ -115,6 +115,8 @@ void FenetrePrincipale::suitLesCommandes() {
     connect(&m_atelier.commande, &Commande::vaCommencer, this, [this] {
         if (isVisible()) completePanneaux();
     });
+    m_atelier.commande.accompagne({[this] { m_atelier.session.vaCommencer(); },
+                                   [this](const std::string& raison) { m_atelier.session.expliqueEchec(raison); }});
     connect(&m_atelier.commande, &Commande::terminee, this, &FenetrePrincipale::executeDemandes);
     connect(m_liste->titres(), &VueTitres::menuDemande, this, [this](int indice, const QPoint& endroit) {
         m_endroitMenu = endroit;

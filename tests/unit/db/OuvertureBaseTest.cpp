@@ -111,6 +111,33 @@ TEST_F(OuvertureBaseTest, ABaseWithoutOneOfItsTablesTellsTheNumberAndTheReason) 
     refuse("Films.mdb", message, 0);
 }
 
+TEST_F(OuvertureBaseTest, ABaseWhoseRowsCannotBeToldApartIsRefused) {
+    dao::DBEngine::CreateDatabase(chemin("autre.mdb"),
+                                  "CREATE TABLE Films (rowid, _rowid_, oid, Titre, Realisateur);"
+                                  "CREATE TABLE Personnel (id INTEGER PRIMARY KEY, Titre2, Realisateur2)");
+    refuse("autre.mdb",
+           "Erreur 3343 : Les lignes de la table « Films » ne peuvent pas être distinguées : ses colonnes « rowid », "
+           "« _rowid_ » et « oid » cachent leur numéro, et elle n'a pas de clé primaire entière.",
+           dialogues::kSimple);
+}
+
+TEST_F(OuvertureBaseTest, OnlyABaseIsOpenedAgainInPlaceOfTheOpenOne) {
+    installation.creeBase("Films.mdb");
+    installation.ajouteFilm("Films.mdb", "Été");
+    ouvertureBase();
+    installation.chemins.base = installation.dossier.ecrit("autre.mdb", "no base");
+    EXPECT_FALSE(ouvertureBase.rouvre());
+    EXPECT_EQ(Installation::premierTitre(base), "Été");
+    installation.creeBase("vide.mdb");
+    installation.chemins.base = chemin("vide.mdb");
+    EXPECT_TRUE(ouvertureBase.rouvre());
+    EXPECT_EQ(base.films.RecordCount(), 0);
+    std::filesystem::remove(chemin("vide.mdb"));
+    dialogues.attendMsgBox(kErreur22, 16);
+    EXPECT_THROW(ouvertureBase.reprend(), systeme::FinDuProgramme);  // and no other base takes its place
+    EXPECT_EQ(installation.chemins.base, chemin("vide.mdb"));
+}
+
 TEST_F(OuvertureBaseTest, ABaseWithoutItsIndexesIsGivenThem) {
     installation.creeBase("Films.mdb");
     const auto taille = [&] { return std::filesystem::file_size(chemin("Films.mdb")); };
