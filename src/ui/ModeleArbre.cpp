@@ -2,6 +2,20 @@
 
 namespace ui {
 
+namespace {
+
+// No row is wide enough for more, and a text is laid out whole to be cut to its row.
+QString debutDuTexte(std::string_view texte) {
+    constexpr std::size_t kOctetsMontres = 2000;
+    if (texte.size() <= kOctetsMontres) return QString::fromUtf8(texte.data(), static_cast<qsizetype>(texte.size()));
+    std::size_t fin = kOctetsMontres;
+    while (fin > 0 && (static_cast<unsigned char>(texte[fin]) & 0xc0) == 0x80)
+        --fin;
+    return QString::fromUtf8(texte.data(), static_cast<qsizetype>(fin)) + u'…';
+}
+
+}  // namespace
+
 ModeleArbre::ModeleArbre(browse::VueArbre& etat, QObject* parent) : QAbstractItemModel(parent), m_etat(etat) {}
 
 void ModeleArbre::recommence() {
@@ -51,10 +65,8 @@ QVariant ModeleArbre::data(const QModelIndex& index, int role) const {
     const browse::Arbre& arbre = m_etat.Nodes;
     const int indice = noeud(index);
     switch (role) {
-        case Qt::DisplayRole: {
-            const std::string_view texte = arbre.Text(indice);
-            return QString::fromUtf8(texte.data(), static_cast<qsizetype>(texte.size()));
-        }
+        case Qt::DisplayRole:
+            return debutDuTexte(arbre.Text(indice));
         case Qt::CheckStateRole:
             if (!m_etat.Checkboxes) return {};
             return m_etat.coches.count(indice) ? Qt::Checked : Qt::Unchecked;

@@ -98,6 +98,16 @@ TEST_F(Fenetre, AClickShowsTheSheetOfTheFilmAndItsOwnPoster) {
     EXPECT_EQ(essai.texte("Label12").substr(0, 11), "Pas d'image");
 }
 
+TEST_F(Fenetre, ARowHoldsTheBeginningOfAHugeTitle) {
+    auto& arbre = essai.etats().liste.TreeView1.Nodes;
+    arbre.Clear();
+    arbre.ajouteFilm(0, 1, std::string(5'000'001, 'x'));
+    arbre.ajouteFilm(0, 2, "x" + QString("é").repeated(2'500'000).toStdString());
+    ui::ModeleArbre modele(essai.etats().liste.TreeView1);
+    EXPECT_EQ(modele.index(0, 0).data().toString(), QString(2000, 'x') + u'…');
+    EXPECT_EQ(modele.index(1, 0).data().toString(), "x" + QString("é").repeated(999) + u'…');
+}
+
 TEST_F(Fenetre, KeysWalkTheTreeAsClicksDo) {
     importe();
     essai.cliqueTitre("L'Été Meurtrier");
