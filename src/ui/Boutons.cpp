@@ -21,7 +21,7 @@ void BoutonAccent::paintEvent(QPaintEvent*) {
     if (isEnabled()) {
         const bool survol = option.state & (QStyle::State_MouseOver | QStyle::State_Sunken);
         const QColor plein = accent(palette());
-        peintSurface(peintre, rect(), survol ? melange(palette().color(QPalette::WindowText), plein, 0.18) : plein, {});
+        peintSurface(peintre, rect(), survol ? accentSurvole(palette()) : plein, {});
         if (hasFocus())
             peintContourDeFocus(peintre, rect(), melange(palette().color(QPalette::WindowText), plein, 0.55));
         option.palette.setColor(QPalette::ButtonText, palette().color(QPalette::Active, QPalette::HighlightedText));
@@ -44,8 +44,9 @@ void BoutonOnglet::paintEvent(QPaintEvent*) {
     initStyleOption(&option);
     option.features |= QStyleOptionButton::Flat;
     if (option.state.testFlag(QStyle::State_Enabled)) peintBouton(peintre, option, true);
-    if (hasFocus()) peintContourDeFocus(peintre, rect(), accent(palette()));
-    if (!font().bold() && isEnabled()) option.palette.setColor(QPalette::ButtonText, texteDiscret(palette()));
+    if (hasFocus()) peintContourDeFocus(peintre, rect(), accentLisible(palette()));
+    const bool calme = !font().bold() && !option.state.testFlag(QStyle::State_MouseOver) && !isDown();
+    if (calme && isEnabled()) option.palette.setColor(QPalette::ButtonText, texteDiscret(palette()));
     peintre.drawControl(QStyle::CE_PushButtonLabel, option);
     if (font().bold()) peintSurface(peintre, QRectF(10, height() - 3, width() - 20, 3), accent(palette()), {}, 1.5);
 }
@@ -82,7 +83,7 @@ void BoutonLien::paintEvent(QPaintEvent*) {
     peintre.setPen(isEnabled() ? accentLisible(palette()) : palette().color(QPalette::Disabled, QPalette::WindowText));
     const QString visible = fontMetrics().elidedText(text(), Qt::ElideRight, zone.width() + 1, Qt::TextShowMnemonic);
     peintre.drawText(zone, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, visible);
-    if (hasFocus()) peintre.fillRect(QRect(0, height() - 2, width(), 2), accent(palette()));
+    if (hasFocus()) peintre.fillRect(QRect(0, height() - 2, width(), 2), accentLisible(palette()));
 }
 
 bool BoutonLien::event(QEvent* evenement) {

@@ -1,5 +1,6 @@
 #include "ui/Couleurs.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace ui {
@@ -11,12 +12,20 @@ qreal luminance(const QColor& couleur) {
     return 0.2126 * lineaire(couleur.redF()) + 0.7152 * lineaire(couleur.greenF()) + 0.0722 * lineaire(couleur.blueF());
 }
 
+// On the surface where it is hardest to read.
+qreal moindreContraste(const QColor& couleur, std::initializer_list<QColor> fonds) {
+    qreal moindre = 21;
+    for (const QColor& fond : fonds)
+        moindre = std::min(moindre, contraste(couleur, fond));
+    return moindre;
+}
+
+}  // namespace
+
 qreal contraste(const QColor& a, const QColor& b) {
     const qreal la = luminance(a), lb = luminance(b);
     return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
 }
-
-}  // namespace
 
 QColor melange(const QColor& a, const QColor& b, qreal partDeA) {
     const qreal partDeB = 1 - partDeA;
@@ -25,8 +34,21 @@ QColor melange(const QColor& a, const QColor& b, qreal partDeA) {
                             static_cast<float>(a.blueF() * partDeA + b.blueF() * partDeB));
 }
 
+// A transparent text is judged as it looks on the first surface.
+QColor lisible(const QColor& couleur, std::initializer_list<QColor> fonds) {
+    if (couleur.alpha() == 255 && moindreContraste(couleur, fonds) >= kContrasteDeLecture) return couleur;
+    const QColor opaque = melange(couleur, *fonds.begin(), couleur.alphaF());
+    const bool versLeNoir = moindreContraste(Qt::black, fonds) >= moindreContraste(Qt::white, fonds);
+    QColor resultat = opaque;
+    for (int i = 1; i <= 20 && moindreContraste(resultat, fonds) < kContrasteDeLecture; ++i)
+        resultat = melange(versLeNoir ? Qt::black : Qt::white, opaque, i * 0.05);
+    return resultat;
+}
+
 QColor texteDiscret(const QPalette& palette) {
-    return melange(palette.color(QPalette::WindowText), palette.color(QPalette::Window), 0.66);
+    const QColor fond = palette.color(QPalette::Window);
+    return lisible(melange(palette.color(QPalette::WindowText), fond, 0.66),
+                   {fond, palette.color(QPalette::Base), voile(palette)});
 }
 
 QColor filet(const QPalette& palette) {
@@ -41,13 +63,14 @@ QColor accent(const QPalette& palette) {
     return palette.color(QPalette::Active, QPalette::Highlight);
 }
 
+// Away from the text that stands on it.
+QColor accentSurvole(const QPalette& palette) {
+    const bool texteClair = palette.color(QPalette::Active, QPalette::HighlightedText).lightnessF() > 0.5f;
+    return melange(texteClair ? Qt::black : Qt::white, accent(palette), 0.18);
+}
+
 QColor accentLisible(const QPalette& palette) {
-    constexpr qreal kContrasteDeLecture = 4.5;
-    const QColor fond = palette.color(QPalette::Window), texte = palette.color(QPalette::WindowText);
-    QColor couleur = accent(palette);
-    for (int i = 1; i <= 10 && contraste(couleur, fond) < kContrasteDeLecture; ++i)
-        couleur = melange(texte, accent(palette), i * 0.1);
-    return couleur;
+    return lisible(accent(palette), {palette.color(QPalette::Window), voile(palette)});
 }
 
 }  // namespace ui

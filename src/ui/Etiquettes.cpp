@@ -49,7 +49,7 @@ Etiquette* Etiquette::avecPolice(double facteur, QFont::Weight graisse) {
 Etiquette::Lignes Etiquette::lignes(int largeur) const {
     Lignes resultat;
     const QFontMetricsF mesure(font());
-    for (const QString& paragraphe : texteAffiche().split(QLatin1Char('\n'))) {
+    for (const QString& paragraphe : text().split(QLatin1Char('\n'))) {
         QTextLayout mise(paragraphe, font());
         mise.beginLayout();
         for (QTextLine ligne = mise.createLine(); ligne.isValid(); ligne = mise.createLine()) {
@@ -83,7 +83,7 @@ int Etiquette::hauteur(qsizetype nombre) const {
 
 QSize Etiquette::sizeHint() const {
     int largeur = 0;
-    const QStringList paragraphes = texteAffiche().split(QLatin1Char('\n'));
+    const QStringList paragraphes = text().split(QLatin1Char('\n'));
     for (const QString& paragraphe : paragraphes)
         largeur = std::max(largeur, fontMetrics().horizontalAdvance(paragraphe) + 1);
     if (m_lignesMax > 1) largeur = std::min(largeur, fontMetrics().averageCharWidth() * 60);
@@ -133,12 +133,26 @@ TitreDeSection::TitreDeSection(double facteur, QWidget* parent) : Etiquette({}, 
     avecPolice(facteur, QFont::DemiBold);
 }
 
-QString TitreDeSection::texteAffiche() const {
-    QString titre = text().trimmed();
-    if (titre == QLatin1String("-")) return {};
-    if (titre.startsWith(QLatin1String("- "))) titre.remove(0, 2);
-    if (titre.endsWith(QLatin1Char(':'))) titre.chop(1);
-    return titre.trimmed();
+void TitreDeSection::paintEvent(QPaintEvent*) {
+    const QString entier = text();
+    const qsizetype debut = entier.startsWith(QLatin1String(" - ")) ? 3 : 0;
+    const qsizetype fin =
+        debut > 0 && entier.contains(QLatin1Char(':')) ? entier.lastIndexOf(QLatin1Char(':')) : entier.size();
+    const QFontMetricsF mesure(font());
+    const QColor encre = palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText);
+    const QColor cadre = isEnabled() ? accentLisible(palette()) : encre;
+    QPainter peintre(this);
+    peintre.setFont(font());
+    QRectF zone = contentsRect();
+    if (debut > 0) zone.setLeft(zone.left() - mesure.horizontalAdvance(QLatin1Char(' ')));
+    const std::pair<QString, QColor> morceaux[] = {
+        {entier.left(debut), cadre}, {entier.mid(debut, fin - debut), encre}, {entier.mid(fin), cadre}};
+    for (const auto& [texte, couleur] : morceaux) {
+        peintre.setPen(couleur);
+        peintre.drawText(zone, Qt::AlignLeft | Qt::AlignVCenter,
+                         mesure.elidedText(texte, Qt::ElideRight, zone.width() + 1));
+        zone.setLeft(zone.left() + mesure.horizontalAdvance(texte));
+    }
 }
 
 }  // namespace ui

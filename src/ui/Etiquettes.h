@@ -23,7 +23,6 @@ class Etiquette : public QLabel {
     int heightForWidth(int largeur) const override;
 
   protected:
-    [[nodiscard]] virtual QString texteAffiche() const { return text(); }
     void paintEvent(QPaintEvent* evenement) override;
     bool event(QEvent* evenement) override;
 
@@ -41,16 +40,16 @@ class Etiquette : public QLabel {
     int m_lignesMax = 1;
 };
 
-// The title of a help section: the published caption frames it with " - " and " : ", which only its text keeps; a
-// lone dash stands for no title.
+// The title of a help section, as published: " - Titre : ". What frames it is in the accent colour, and the blank before
+// the dash hangs in the margin, so that the dash is in line with what is below. A lone dash stands for no title.
 class TitreDeSection final : public Etiquette {
     Q_OBJECT
   public:
     explicit TitreDeSection(double facteur = 1.08, QWidget* parent = nullptr);
-    [[nodiscard]] bool estVide() const { return texteAffiche().isEmpty(); }
+    [[nodiscard]] bool estVide() const { return text().trimmed().isEmpty() || text().trimmed() == QLatin1String("-"); }
 
   protected:
-    QString texteAffiche() const override;
+    void paintEvent(QPaintEvent* evenement) override;
 };
 
 [[nodiscard]] QFont policeRelative(double facteur, QFont::Weight graisse = QFont::Normal);

@@ -5,9 +5,11 @@
 #include "ui/Traits.h"
 
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTreeView>
 
 namespace ui {
 
@@ -22,7 +24,7 @@ void peintCadreDeSaisie(QPainter& peintre, const QStyleOption& option) {
     const bool focus = actif && a(option, QStyle::State_HasFocus);
     peintSurface(peintre, option.rect, actif ? option.palette.color(QPalette::Base) : voile(option.palette),
                  filet(option.palette));
-    if (focus) peintContourDeFocus(peintre, option.rect, accent(option.palette));
+    if (focus) peintContourDeFocus(peintre, option.rect, accentLisible(option.palette));
 }
 
 void peintListeDeroulante(QPainter& peintre, const QStyleOptionComboBox& option, const QRect& fleche) {
@@ -30,7 +32,7 @@ void peintListeDeroulante(QPainter& peintre, const QStyleOptionComboBox& option,
         peintCadreDeSaisie(peintre, option);
     } else {
         peintBouton(peintre, option, false);
-        if (a(option, QStyle::State_HasFocus)) peintContourDeFocus(peintre, option.rect, accent(option.palette));
+        if (a(option, QStyle::State_HasFocus)) peintContourDeFocus(peintre, option.rect, accentLisible(option.palette));
     }
     peintChevron(peintre, fleche, 90, texteDiscret(option.palette));
 }
@@ -92,7 +94,7 @@ void StyleAmbrelis::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         case PE_PanelButtonCommand: {
             const auto* bouton = qstyleoption_cast<const QStyleOptionButton*>(option);
             peintBouton(*peintre, *option, bouton && bouton->features.testFlag(QStyleOptionButton::Flat));
-            if (a(*option, State_HasFocus)) peintContourDeFocus(*peintre, option->rect, accent(option->palette));
+            if (a(*option, State_HasFocus)) peintContourDeFocus(*peintre, option->rect, accentLisible(option->palette));
             return;
         }
         case PE_PanelButtonTool:
@@ -105,8 +107,8 @@ void StyleAmbrelis::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         }
         case PE_Frame:
             if (widget && widget->inherits("QComboBoxPrivateContainer")) break;
-            peintSurface(*peintre, option->rect, {},
-                         a(*option, State_HasFocus) ? accent(option->palette) : filet(option->palette));
+            peintSurface(*peintre, option->rect, {}, filet(option->palette));
+            if (a(*option, State_HasFocus)) peintContourDeFocus(*peintre, option->rect, accentLisible(option->palette));
             return;
         case PE_IndicatorCheckBox:
         case PE_IndicatorItemViewItemCheck:
@@ -128,7 +130,8 @@ void StyleAmbrelis::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         }
         case PE_FrameFocusRect:
             if (widget && (widget->inherits("QAbstractItemView") || widget->inherits("QPushButton"))) return;
-            peintContourDeFocus(*peintre, QRectF(option->rect).adjusted(-2, -1, 2, 1), accent(option->palette), 3);
+            peintContourDeFocus(*peintre, QRectF(option->rect).adjusted(-2, -1, 2, 1), accentLisible(option->palette),
+                                3);
             return;
         default:
             break;
@@ -141,6 +144,13 @@ void StyleAmbrelis::drawControl(ControlElement element, const QStyleOption* opti
     switch (element) {
         case CE_Splitter:
             return;
+        case CE_PushButtonBevel: {
+            // Fusion paints nothing for a flat button that is not pressed: neither the mouse nor the focus would show.
+            const auto* bouton = qstyleoption_cast<const QStyleOptionButton*>(option);
+            if (!bouton || !bouton->features.testFlag(QStyleOptionButton::Flat)) break;
+            proxy()->drawPrimitive(PE_PanelButtonCommand, option, peintre, widget);
+            return;
+        }
         case CE_ProgressBarGroove: {
             const auto* barre = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
             if (barre && barre->progress > barre->minimum)
@@ -188,6 +198,11 @@ int StyleAmbrelis::pixelMetric(PixelMetric mesure, const QStyleOption* option, c
             return 12;
         case PM_SplitterWidth:
             return 16;
+        case PM_DefaultFrameWidth:
+            // Room for the outline that tells which of them has the focus.
+            return qobject_cast<const QTreeView*>(widget) || qobject_cast<const QPlainTextEdit*>(widget)
+                       ? 2
+                       : QProxyStyle::pixelMetric(mesure, option, widget);
         case PM_IndicatorWidth:
         case PM_IndicatorHeight:
         case PM_ExclusiveIndicatorWidth:

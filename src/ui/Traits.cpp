@@ -94,8 +94,8 @@ void peintBouton(QPainter& peintre, const QStyleOption& option, bool plat) {
     const bool survol = actif(option) && option.state.testFlag(QStyle::State_MouseOver);
     const bool enfonce = actif(option) && (option.state & (QStyle::State_Sunken | QStyle::State_On));
     const QColor surface = option.palette.color(QPalette::Button), texte = option.palette.color(QPalette::ButtonText);
-    const QColor base = melange(surface, option.palette.color(QPalette::Base), 0.45);
-    const qreal ombre = enfonce ? 0.16 : survol ? 0.08 : 0;
+    const QColor base = melange(surface, option.palette.color(QPalette::Base), kPartDuBouton);
+    const qreal ombre = enfonce ? kOmbrePressee : survol ? kOmbreSurvolee : 0;
     if (plat && ombre == 0) return;
     if (plat) {
         peintSurface(peintre, option.rect, melange(texte, option.palette.color(QPalette::Window), ombre), {});

@@ -8,6 +8,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("Ambrelis"));
     const std::string dossier = QCoreApplication::applicationDirPath().toStdString() + "/";
     ui::habille(dossier);
+    ui::suisLaTeinteDuBureau();
     ui::Programme programme(dossier);
     if (!programme.demarre()) return 0;
     return QApplication::exec();

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+#include <gio/gio.h>
+
+namespace doubles {
+
+// A session bus with the settings portal on it, in the test's own main loop. It knows what a client of ours asks.
+class PortailSimule {
+  public:
+    // `teinte` is what the portal answers for "color-scheme"; below zero it refuses.
+    PortailSimule(const std::string& chemin, int teinte) : m_adresse("unix:path=" + chemin), m_teinte(teinte) {
+        char* guid = g_dbus_generate_guid();
+        m_serveur =
+            g_dbus_server_new_sync(m_adresse.c_str(), G_DBUS_SERVER_FLAGS_NONE, guid, nullptr, nullptr, nullptr);
+        g_free(guid);
+        if (!m_serveur) throw std::runtime_error("no bus at " + chemin);
+        g_signal_connect(m_serveur, "new-connection", G_CALLBACK(&PortailSimule::accueille), this);
+        g_dbus_server_start(m_serveur);
+    }
+    ~PortailSimule() {
+        if (m_client) g_object_unref(m_client);
+        g_dbus_server_stop(m_serveur);
+        g_object_unref(m_serveur);
+    }
+    PortailSimule(const PortailSimule&) = delete;
+    PortailSimule& operator=(const PortailSimule&) = delete;
+
+    [[nodiscard]] const std::string& adresse() const { return m_adresse; }
+
+    void change(const char* nom, guint32 teinte) {
+        GDBusMessage* signal = g_dbus_message_new_signal("/org/freedesktop/portal/desktop",
+                                                         "org.freedesktop.portal.Settings", "SettingChanged");
+        g_dbus_message_set_sender(signal, kProprietaire);
+        g_dbus_message_set_body(
+            signal, g_variant_new("(ssv)", "org.freedesktop.appearance", nom, g_variant_new_uint32(teinte)));
+        g_dbus_connection_send_message(m_client, signal, G_DBUS_SEND_MESSAGE_FLAGS_NONE, nullptr, nullptr);
+        g_object_unref(signal);
+    }
+
+    // Runs the main loop until then; false when that takes too long.
+    static bool jusquA(const std::function<bool()>& vrai) {
+        const auto fin = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+        while (!vrai() && std::chrono::steady_clock::now() < fin)
+            g_main_context_iteration(nullptr, FALSE);
+        return vrai();
+    }
+
+  private:
+    static constexpr const char* kProprietaire = ":1.7";
+    static constexpr const char* kInterfaces =
+        "<node><interface name='org.freedesktop.DBus'>"
+        "<method name='Hello'><arg type='s' direction='out'/></method>"
+        "<method name='AddMatch'><arg type='s' direction='in'/></method>"
+        "<method name='RemoveMatch'><arg type='s' direction='in'/></method>"
+        "<method name='GetNameOwner'><arg type='s' direction='in'/><arg type='s' direction='out'/></method>"
+        "</interface><interface name='org.freedesktop.portal.Settings'>"
+        "<method name='Read'><arg type='s' direction='in'/><arg type='s' direction='in'/>"
+        "<arg type='v' direction='out'/></method></interface></node>";
+
+    static gboolean accueille(GDBusServer*, GDBusConnection* client, gpointer moi) {
+        auto* portail = static_cast<PortailSimule*>(moi);
+        portail->m_client = G_DBUS_CONNECTION(g_object_ref(client));
+        static const GDBusInterfaceVTable kAppels{&PortailSimule::repond, nullptr, nullptr, {}};
+        GDBusNodeInfo* noeud = g_dbus_node_info_new_for_xml(kInterfaces, nullptr);
+        const std::pair<const char*, GDBusInterfaceInfo*> objets[] = {
+            {"/org/freedesktop/DBus", noeud->interfaces[0]}, {"/org/freedesktop/portal/desktop", noeud->interfaces[1]}};
+        for (const auto& [chemin, interface] : objets)
+            g_dbus_connection_register_object(client, chemin, interface, &kAppels, moi, nullptr, nullptr);
+        g_dbus_node_info_unref(noeud);
+        return TRUE;
+    }
+    static void repond(GDBusConnection*, const gchar*, const gchar*, const gchar*, const gchar* methode, GVariant*,
+                       GDBusMethodInvocation* appel, gpointer moi) {
+        const std::string nom(methode);
+        const int teinte = static_cast<PortailSimule*>(moi)->m_teinte;
+        if (nom == "Hello") return g_dbus_method_invocation_return_value(appel, g_variant_new("(s)", ":1.1"));
+        if (nom == "GetNameOwner")
+            return g_dbus_method_invocation_return_value(appel, g_variant_new("(s)", kProprietaire));
+        if (nom != "Read") return g_dbus_method_invocation_return_value(appel, nullptr);
+        if (teinte < 0)
+            return g_dbus_method_invocation_return_dbus_error(appel, "org.freedesktop.portal.Error.NotFound", "none");
+        GVariant* dedans = g_variant_new_variant(g_variant_new_uint32(static_cast<guint32>(teinte)));
+        g_dbus_method_invocation_return_value(appel, g_variant_new("(v)", dedans));
+    }
+
+    std::string m_adresse;
+    int m_teinte;
+    GDBusServer* m_serveur = nullptr;
+    GDBusConnection* m_client = nullptr;
+};
+
+}  // namespace doubles
