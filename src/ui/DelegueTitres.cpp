@@ -3,6 +3,7 @@
 #include "ui/Couleurs.h"
 #include "ui/Infobulles.h"
 #include "ui/ModeleArbre.h"
+#include "ui/Traits.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -43,6 +44,9 @@ void DelegueTitres::paint(QPainter* peintre, const QStyleOptionViewItem& option,
     const QRect entier = ligne.rect;
     if (groupe) ligne.text.clear();
     style->drawControl(QStyle::CE_ItemViewItem, &ligne, peintre, ligne.widget);
+    // Where the keys stand, as long as nothing is chosen there.
+    if (option.state.testFlag(QStyle::State_HasFocus) && !ligne.state.testFlag(QStyle::State_Selected))
+        peintContourDeFocus(*peintre, QRectF(entier).adjusted(0, 1, -2, -1), accentLisible(ligne.palette));
     if (!groupe) return;
 
     ligne.text = texte;

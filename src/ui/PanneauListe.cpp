@@ -62,7 +62,7 @@ QWidget* PanneauListe::cadreTitres() {
     boite->addWidget(m_titres, 1);
     cadre->setLayout(boite);
     m_atelier.liaison.lie(liste.Frame1, cadre);
-    m_atelier.liaison.ajoute(m_titres->lien());
+    m_atelier.liaison.ajoute(m_titres->lien(liste));
     return cadre;
 }
 

@@ -4,16 +4,18 @@
 #include "ui/Composition.h"
 #include "ui/Sections.h"
 
+#include <QKeyEvent>
 #include <QRadioButton>
 #include <QScrollArea>
 
 namespace ui {
 
-PanneauRecherche::PanneauRecherche(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
+PanneauRecherche::PanneauRecherche(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameRecherche");
     auto& recherche = atelier.etats().recherche;
     auto* texte = m_texte = nomme(new QLineEdit, "Text2");
     texte->setClearButtonEnabled(true);
+    texte->installEventFilter(this);
     texte->setToolTip(tr("Le texte à trouver ; majuscules et minuscules sont confondues"));
     auto* lancer = bouton<BoutonAccent>("cmdRecherche", tr("&Lancer la recherche"),
                                         tr("Montrer les films trouvés dans la liste (Entrée)"));
@@ -23,7 +25,7 @@ PanneauRecherche::PanneauRecherche(const Atelier& atelier, QWidget* parent) : QW
 
     auto* contenu = section(atelier, Aide::Recherche, 1.5);
     contenu->setSpacing(kGrand);
-    contenu->addLayout(champ(tr("Texte à c&hercher"), texte));
+    contenu->addLayout(champ(tr("Te&xte à chercher"), texte));
     contenu->addLayout(champs(atelier));
     contenu->addLayout(portee(atelier));
     contenu->addSpacing(kSerre);
@@ -33,6 +35,15 @@ PanneauRecherche::PanneauRecherche(const Atelier& atelier, QWidget* parent) : QW
     boite->addWidget(defilant(contenu));
     setLayout(boite);
     atelier.liaison.lie(atelier.etats().panneaux.frameRecherche, this);
+}
+
+// Down goes from the text, which has no use for it, into what was found; the scrolling page must not take it.
+bool PanneauRecherche::eventFilter(QObject* objet, QEvent* evenement) {
+    if (evenement->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(evenement)->key() != Qt::Key_Down)
+        return QWidget::eventFilter(objet, evenement);
+    if (m_atelier.etats().liste.TreeView1.Nodes.Count() > 0)
+        m_atelier.commande.execute([this] { m_atelier.etats().demandes.focus = "TreeView1"; });
+    return true;
 }
 
 // What is typed replaces the last search.

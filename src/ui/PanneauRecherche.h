@@ -13,12 +13,14 @@ class PanneauRecherche final : public QWidget {
     explicit PanneauRecherche(const Atelier& atelier, QWidget* parent = nullptr);
 
   protected:
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
     void showEvent(QShowEvent* evenement) override;
 
   private:
     [[nodiscard]] QLayout* champs(const Atelier& atelier);
     [[nodiscard]] QLayout* portee(const Atelier& atelier);
 
+    const Atelier m_atelier;
     QLineEdit* m_texte;
 };
 

@@ -1,74 +1,66 @@
 #include "ui/VueTitres.h"
 
 #include "ui/DelegueTitres.h"
+#include "ui/LienArbre.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QScrollBar>
+#include <QRegularExpression>
+#include <algorithm>
+#include <string_view>
 
 namespace ui {
 
-// The tree's part of the liaison: the node list is too large to be compared, its generation and count tell it changed.
-class VueTitres::LienArbre final : public Lien {
-  public:
-    LienArbre(browse::VueArbre& etat, VueTitres& vue) : m_etat(etat), m_vue(vue) {}
+namespace {
 
-    void lit() override {
-        // The selected row: the current one also moves when the tree merely takes the focus.
-        const QModelIndexList choisis = m_vue.selectionModel()->selectedIndexes();
-        m_etat.SelectedItem = m_choisi = choisis.isEmpty() ? 0 : ModeleArbre::noeud(choisis.first());
+constexpr qint64 kEntreDeuxLettres = 1500;  // milliseconds after which typing begins anew
+
+// A title as it is typed without minding accents and case; ligatures as their letters.
+QString pourLaFrappe(const QString& texte) {
+    QString resultat;
+    for (const QChar lettre : texte.normalized(QString::NormalizationForm_KD).toCaseFolded()) {
+        if (lettre.isMark()) continue;
+        if (lettre == QChar(0x0153))
+            resultat += QLatin1String("oe");
+        else if (lettre == QChar(0x00e6))
+            resultat += QLatin1String("ae");
+        else if (lettre == QChar(0x2019))
+            resultat += QLatin1Char('\'');
+        else
+            resultat += lettre;
     }
+    return resultat;
+}
 
-    void ecrit() override {
-        if (m_generation != m_etat.Nodes.generation() || m_nombre != m_etat.Nodes.Count()) recommence();
-        if (m_coches != m_etat.coches || m_cases != m_etat.Checkboxes) {
-            m_coches = m_etat.coches;
-            m_cases = m_etat.Checkboxes;
-            m_vue.m_modele.coches();
-        }
-        if (m_textes != m_etat.Nodes.versionDesTextes()) {
-            m_textes = m_etat.Nodes.versionDesTextes();
-            m_vue.changeLesTextes();
-        }
-        if (m_choisi != m_etat.SelectedItem) {
-            m_choisi = m_etat.SelectedItem;
-            m_vue.montreNoeud(m_choisi);
-        }
-        if (const int aOuvrir = std::exchange(m_etat.aOuvrir, 0); aOuvrir != 0)
-            m_vue.expand(m_vue.m_modele.indexDuNoeud(aOuvrir));
-        if (m_vue.isEnabled() != m_etat.Enabled) m_vue.setEnabled(m_etat.Enabled);
+bool commencePar(std::string_view titre, const QString& frappe) {
+    // A character takes four bytes at most, and few letters fold into more than one.
+    const auto assez = std::min(titre.size(), 4 * static_cast<std::size_t>(frappe.size() + 4));
+    return pourLaFrappe(QString::fromUtf8(titre.data(), static_cast<qsizetype>(assez)).trimmed()).startsWith(frappe);
+}
+
+// The next node that begins so after `depuis`, in turn; 0 for none.
+int cherche(const browse::Arbre& arbre, const QString& frappe, int depuis, bool groupes) {
+    for (int pas = 0; pas < arbre.Count(); ++pas) {
+        const int indice = (std::max(depuis, 1) - 1 + pas) % arbre.Count() + 1;
+        if (arbre.estGroupe(indice) == groupes && commencePar(arbre.Text(indice), frappe)) return indice;
     }
+    return 0;
+}
 
-  private:
-    // One node less is a removal, not another filling: the headings that were open stay so, and the view where it was.
-    void recommence() {
-        const browse::Arbre& noeuds = m_etat.Nodes;
-        const bool retrait = noeuds.generation() == m_generation + 1 && noeuds.Count() == m_nombre - 1;
-        m_generation = noeuds.generation();
-        m_nombre = noeuds.Count();
-        m_choisi = 0;
-        const int hauteur = m_vue.verticalScrollBar()->value();
-        const std::set<QString> ouverts = std::exchange(m_vue.m_ouverts, {});
-        m_vue.m_modele.recommence();
-        if (!retrait) return;
-        for (const std::int32_t indice : noeuds.enfants(0)) {
-            const QModelIndex index = m_vue.m_modele.indexDuNoeud(indice);
-            if (ouverts.count(index.data().toString())) m_vue.expand(index);
-        }
-        m_vue.verticalScrollBar()->setValue(hauteur);
-    }
+bool estUneLettre(const QKeyEvent& evenement) {
+    return !(evenement.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) &&
+           !evenement.text().isEmpty() && evenement.text().front().isPrint();
+}
 
-    browse::VueArbre& m_etat;
-    VueTitres& m_vue;
-    int m_generation = 0;
-    int m_nombre = 0;
-    int m_textes = 0;
-    int m_choisi = 0;
-    bool m_cases = false;
-    std::set<int> m_coches;
-};
+}  // namespace
+
+// A heading's text without its percentage.
+QString libelle(const QModelIndex& groupe) {
+    static const QRegularExpression pourcentage(QStringLiteral(" \\([0-9]+([.,][0-9])? %\\)$"));
+    return groupe.data().toString().remove(pourcentage);
+}
 
 VueTitres::VueTitres(browse::VueArbre& etat, QWidget* parent) : QTreeView(parent), m_modele(etat) {
     setModel(&m_modele);
@@ -84,14 +76,12 @@ VueTitres::VueTitres(browse::VueArbre& etat, QWidget* parent) : QTreeView(parent
     setMouseTracking(true);
     header()->setStretchLastSection(true);
     connect(this, &QTreeView::clicked, this, &VueTitres::clique);
-    connect(this, &QTreeView::expanded, this,
-            [this](const QModelIndex& groupe) { m_ouverts.insert(groupe.data().toString()); });
-    connect(this, &QTreeView::collapsed, this,
-            [this](const QModelIndex& groupe) { m_ouverts.erase(groupe.data().toString()); });
+    connect(this, &QTreeView::expanded, this, [this](const QModelIndex& groupe) { m_ouverts.insert(libelle(groupe)); });
+    connect(this, &QTreeView::collapsed, this, [this](const QModelIndex& groupe) { m_ouverts.erase(libelle(groupe)); });
 }
 
-std::unique_ptr<Lien> VueTitres::lien() {
-    return std::make_unique<LienArbre>(m_modele.etat(), *this);
+std::unique_ptr<Lien> VueTitres::lien(const browse::EtatListe& liste) {
+    return std::make_unique<LienArbre>(liste, *this);
 }
 
 void VueTitres::clique(const QModelIndex& index) {
@@ -104,15 +94,6 @@ void VueTitres::basculeGroupe(const QModelIndex& index) {
 }
 
 // The headings' texts: those that are open are known by theirs.
-void VueTitres::changeLesTextes() {
-    m_modele.textes();
-    m_ouverts.clear();
-    for (int ligne = 0; ligne < m_modele.rowCount(); ++ligne) {
-        const QModelIndex index = m_modele.index(ligne, 0);
-        if (isExpanded(index)) m_ouverts.insert(index.data().toString());
-    }
-}
-
 void VueTitres::montreNoeud(int indice) {
     const QModelIndex index = m_modele.indexDuNoeud(indice);
     setCurrentIndex(index);
@@ -122,16 +103,50 @@ void VueTitres::montreNoeud(int indice) {
         clearSelection();
 }
 
+bool VueTitres::frappeEnCours() const {
+    return !m_frappe.isEmpty() && m_depuisLaFrappe.isValid() && m_depuisLaFrappe.elapsed() < kEntreDeuxLettres;
+}
+
+// The same letter again goes from one title to the next.
+void VueTitres::keyboardSearch(const QString& texte) {
+    if (!frappeEnCours()) m_frappe.clear();
+    if (m_frappe.isEmpty() && texte.trimmed().isEmpty()) return;
+    m_frappe += pourLaFrappe(texte);
+    m_depuisLaFrappe.start();
+    const bool memeLettre = m_frappe.count(m_frappe.left(1)) == m_frappe.size();
+    const QString frappe = memeLettre ? m_frappe.left(1) : m_frappe;
+    const browse::Arbre& arbre = m_modele.etat().Nodes;
+    const bool seDeplace = frappe.size() == 1 && !selectedIndexes().isEmpty();
+    const int depuis = (currentIndex().isValid() ? ModeleArbre::noeud(currentIndex()) : 1) + (seDeplace ? 1 : 0);
+    int trouve = cherche(arbre, frappe, depuis, false);
+    if (trouve == 0) trouve = cherche(arbre, frappe, depuis, true);
+    if (trouve != 0) montreNoeud(trouve);
+}
+
+// A row that no gesture chose yet is where the keys begin, not where they leave from.
+bool VueTitres::choisitCourant(const QKeyEvent& evenement) const {
+    const bool pas = evenement.key() == Qt::Key_Down || evenement.key() == Qt::Key_Up;
+    return pas && currentIndex().isValid() && selectedIndexes().isEmpty();
+}
+
 void VueTitres::keyPressEvent(QKeyEvent* evenement) {
     const QModelIndex avant = currentIndex();
+    const bool choisi = selectionModel()->isSelected(avant);
     const bool valide = evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter;
-    if (valide && avant.isValid()) {
-        clique(avant);
-        return;
-    }
-    QTreeView::keyPressEvent(evenement);
+    if (valide && avant.isValid()) return clique(avant);
+    if (frappeEnCours() && estUneLettre(*evenement))  // a blank, a sign: no longer the tree's own
+        keyboardSearch(evenement->text());
+    else if (!choisitCourant(*evenement))
+        QTreeView::keyPressEvent(evenement);
     const QModelIndex apres = currentIndex();
-    if (apres.isValid() && apres != avant) emit noeudChoisi(ModeleArbre::noeud(apres));
+    static constexpr int kDeplacements[] = {Qt::Key_Down, Qt::Key_Up,     Qt::Key_Home,
+                                            Qt::Key_End,  Qt::Key_PageUp, Qt::Key_PageDown};
+    const bool deplace = std::ranges::count(kDeplacements, evenement->key()) > 0;
+    if (deplace) m_frappe.clear();
+    const bool nouveau = apres != avant || (!choisi && (deplace || selectionModel()->isSelected(apres)));
+    if (!apres.isValid() || !nouveau) return;
+    selectionModel()->select(apres, QItemSelectionModel::ClearAndSelect);
+    emit noeudChoisi(ModeleArbre::noeud(apres));
 }
 
 // The node whose check box is there. A tick is no click: it neither selects the node nor shows its sheet.
@@ -146,27 +161,40 @@ QModelIndex VueTitres::caseSous(const QMouseEvent& evenement) const {
     return place.adjusted(-3, -3, 3, 3).contains(evenement.position().toPoint()) ? index : QModelIndex();
 }
 
+// What is pressed; false where no node is, or its check box: the selection stays.
+bool VueTitres::prends(const QMouseEvent& evenement) {
+    m_casePressee = caseSous(evenement);
+    m_pressee = m_casePressee.isValid() ? QModelIndex() : indexAt(evenement.position().toPoint());
+    return m_pressee.isValid();
+}
+
 void VueTitres::mousePressEvent(QMouseEvent* evenement) {
-    m_casePressee = caseSous(*evenement);
-    if (!m_casePressee.isValid()) QTreeView::mousePressEvent(evenement);
+    if (prends(*evenement)) QTreeView::mousePressEvent(evenement);
 }
 
 void VueTitres::mouseDoubleClickEvent(QMouseEvent* evenement) {
-    m_casePressee = caseSous(*evenement);
-    if (!m_casePressee.isValid()) QTreeView::mouseDoubleClickEvent(evenement);
+    if (prends(*evenement)) QTreeView::mouseDoubleClickEvent(evenement);
+}
+
+// Drawing the pressed mouse over other rows chooses none of them.
+void VueTitres::mouseMoveEvent(QMouseEvent* evenement) {
+    if (!evenement->buttons()) QTreeView::mouseMoveEvent(evenement);
 }
 
 void VueTitres::mouseReleaseEvent(QMouseEvent* evenement) {
+    const QModelIndex sous = indexAt(evenement->position().toPoint());
     if (const QModelIndex pressee = std::exchange(m_casePressee, QPersistentModelIndex()); pressee.isValid()) {
         const bool cochee = pressee.data(Qt::CheckStateRole).value<Qt::CheckState>() == Qt::Checked;
         if (caseSous(*evenement) == pressee)
             m_modele.setData(pressee, cochee ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
         return;
     }
-    QTreeView::mouseReleaseEvent(evenement);
-    if (evenement->button() != Qt::RightButton) return;
-    const QModelIndex index = indexAt(evenement->position().toPoint());
-    emit menuDemande(index.isValid() ? ModeleArbre::noeud(index) : 0, evenement->globalPosition().toPoint());
+    const QModelIndex pressee = std::exchange(m_pressee, QPersistentModelIndex());
+    if (pressee.isValid()) QTreeView::mouseReleaseEvent(evenement);
+    if (evenement->button() == Qt::RightButton)
+        emit menuDemande(sous.isValid() ? ModeleArbre::noeud(sous) : 0, evenement->globalPosition().toPoint());
+    else if (pressee.isValid() && pressee != sous)  // it was chosen by the press
+        emit noeudChoisi(ModeleArbre::noeud(pressee));
 }
 
 // The mouse asks for its menu when it is released; only the keyboard does it here.

@@ -4,19 +4,24 @@
 #include "ui/Liaison.h"
 #include "ui/ModeleArbre.h"
 
+#include <QElapsedTimer>
 #include <QTreeView>
 #include <set>
 
 namespace ui {
 
-// The title tree. Its signals are the user's gestures alone: a row that becomes current by itself tells nothing.
+// The title tree. Its signals are the user's gestures alone: a row that becomes current by itself tells nothing. The
+// current row is where the keys stand; the selected one is the film whose sheet was asked for.
 class VueTitres final : public QTreeView {
     Q_OBJECT
   public:
     explicit VueTitres(browse::VueArbre& etat, QWidget* parent = nullptr);
 
     [[nodiscard]] ModeleArbre& modele() { return m_modele; }
-    [[nodiscard]] std::unique_ptr<Lien> lien();
+    [[nodiscard]] std::unique_ptr<Lien> lien(const browse::EtatListe& liste);
+    // What is typed leads to the next film whose title begins so, letter case and accents aside, its heading open or
+    // not; to a heading only where there is no such film.
+    void keyboardSearch(const QString& texte) override;
 
   signals:
     void noeudChoisi(int indice);                         // click, or a key that moved to it or pressed it
@@ -26,6 +31,7 @@ class VueTitres final : public QTreeView {
   protected:
     void keyPressEvent(QKeyEvent* evenement) override;
     void mousePressEvent(QMouseEvent* evenement) override;
+    void mouseMoveEvent(QMouseEvent* evenement) override;
     void mouseDoubleClickEvent(QMouseEvent* evenement) override;
     void mouseReleaseEvent(QMouseEvent* evenement) override;
     void contextMenuEvent(QContextMenuEvent* evenement) override;
@@ -35,14 +41,18 @@ class VueTitres final : public QTreeView {
     class LienArbre;
 
     void clique(const QModelIndex& index);
+    [[nodiscard]] bool prends(const QMouseEvent& evenement);
     [[nodiscard]] QModelIndex caseSous(const QMouseEvent& evenement) const;
     void basculeGroupe(const QModelIndex& index);
     void montreNoeud(int indice);
-    void changeLesTextes();
+    [[nodiscard]] bool frappeEnCours() const;
+    [[nodiscard]] bool choisitCourant(const QKeyEvent& evenement) const;
 
     ModeleArbre m_modele;
-    std::set<QString> m_ouverts;  // the texts of the open headings
-    QPersistentModelIndex m_casePressee;
+    std::set<QString> m_ouverts;  // the labels of the open headings
+    QPersistentModelIndex m_casePressee, m_pressee;
+    QString m_frappe;  // typed so far, to find a title
+    QElapsedTimer m_depuisLaFrappe;
     bool m_peinte = false;
 };
 

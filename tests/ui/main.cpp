@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-// Headless, dressed as the program is.
+// Headless, on a small notebook's screen, dressed as the program is.
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" AMBRELIS_SOURCE_DIR "/tests/ui/ecran.json");
     qputenv("QT_QPA_PLATFORMTHEME", "none");
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
