@@ -1,6 +1,7 @@
 #include "ui/DialoguesQt.h"
 
 #include "ui/Composition.h"
+#include "util/Texte.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -8,6 +9,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileIconProvider>
+#include <QFileSystemModel>
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QLabel>
@@ -17,6 +19,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <algorithm>
+#include <filesystem>
 
 namespace ui {
 
@@ -107,11 +110,44 @@ std::string saisie(QInputDialog& boite) {
     return boite.exec() == QDialog::Accepted ? boite.textValue().toStdString() : std::string();
 }
 
+// Qt leaves out what is named in another encoding. Files of the last century often are: whoever looks for one is told.
+QString nomsIllisibles(const QString& dossier) {
+    std::error_code faute;
+    int nombre = 0;
+    const std::filesystem::path chemin(QFile::encodeName(dossier).toStdString());
+    for (std::filesystem::directory_iterator entree(chemin, faute), fin; !faute && entree != fin;
+         entree.increment(faute))
+        nombre += !util::estUtf8(entree->path().filename().native());
+    if (nombre == 0) return {};
+    return QObject::tr(
+               "Ce dossier contient aussi %1 nom(s) qui ne sont pas en UTF-8 et ne peuvent pas être choisis ici : "
+               "renommez ces fichiers ou ces dossiers.")
+        .arg(nombre);
+}
+
+void annonceNomsIllisibles(QFileDialog& boite) {
+    auto* grille = qobject_cast<QGridLayout*>(boite.layout());
+    if (!grille) return;
+    auto* texte = new QLabel(&boite);
+    texte->setObjectName(QStringLiteral("lblNomsIllisibles"));
+    texte->setTextFormat(Qt::PlainText);
+    texte->setWordWrap(true);
+    grille->addWidget(texte, grille->rowCount(), 0, 1, -1);
+    const auto suis = [texte](const QString& dossier) {
+        texte->setText(nomsIllisibles(dossier));
+        texte->setVisible(!texte->text().isEmpty());
+    };
+    if (auto* modele = boite.findChild<QFileSystemModel*>())
+        QObject::connect(modele, &QFileSystemModel::rootPathChanged, texte, suis);
+    suis(boite.directory().absolutePath());
+}
+
 std::string choisit(QFileDialog& boite, const std::string& dossier) {
     boite.setOption(QFileDialog::DontUseNativeDialog);  // a desktop's own would speak the desktop's language
     boite.resize(780, 500);
     const QString ouverture = qt(dossier);
     boite.setDirectory(QDir(ouverture).exists() && !ouverture.isEmpty() ? ouverture : QDir::homePath());
+    annonceNomsIllisibles(boite);
     if (boite.exec() != QDialog::Accepted || boite.selectedFiles().isEmpty()) return {};
     return boite.selectedFiles().first().toStdString();
 }
@@ -216,7 +252,7 @@ std::string DialoguesQt::choisitFichier(const dialogues::DemandeFichier& demande
     QFileDialog boite(parent(), qt(demande.titre));
     boite.setIconProvider(&natures);
     boite.setNameFilter(filtreQt(demande.filtre));
-    boite.setFileMode(demande.peutCreer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    boite.setFileMode(QFileDialog::AnyFile);  // who asks says what is wrong with a name that leads nowhere
     return choisit(boite, demande.dossier);
 }
 

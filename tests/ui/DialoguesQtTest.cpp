@@ -169,20 +169,41 @@ TEST(DialoguesQt, APathIsTypedOrBrowsedFor) {
     }
 }
 
-TEST(DialoguesQt, TheFileBoxTakesANewNameOnlyWhereItMay) {
+// Who asks for a file has its own words for one that is not there.
+TEST(DialoguesQt, TheFileBoxAcceptsTheTypedNameOfAFileThatIsNotThere) {
+    const doubles::DossierTemporaire dossier;
     ui::Liaison liaison;
     ui::DialoguesQt boites(liaison);
-    const std::string dossier = QDir::tempPath().toStdString();
     for (const bool peutCreer : {true, false}) {
         surLaBoite<QFileDialog>([&](QFileDialog& boite) {
-            EXPECT_EQ(boite.fileMode(), peutCreer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
             EXPECT_EQ(boite.acceptMode(), QFileDialog::AcceptOpen);
-            EXPECT_EQ(boite.directory().absolutePath().toStdString(),
-                      QDir(QString::fromStdString(dossier)).absolutePath().toStdString());
-            boite.reject();
+            EXPECT_TRUE(boite.testOption(QFileDialog::DontUseNativeDialog));
+            QTest::keyClicks(boite.findChild<QLineEdit*>("fileNameEdit"), "absent.jpg");
+            QTest::keyClick(boite.findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
         });
-        EXPECT_EQ(boites.choisitFichier({"Ouvrir", "Fichiers de base de données|*.mdb", dossier, peutCreer}), "");
+        EXPECT_EQ(boites.choisitFichier({"Choix", "Fichiers JPEG|*.jpg", dossier.chemin(), peutCreer}),
+                  dossier.chemin("absent.jpg"));
     }
+}
+
+TEST(DialoguesQt, TheFileBoxSaysWhyItLeavesNamesOut) {
+    const doubles::DossierTemporaire dossier;
+    dossier.ecrit("Été.jpg", "x");
+    dossier.ecrit("dedans/Film\xE9.jpg", "x");
+    dossier.ecrit("dedans/\xC9t\xE9.jpg", "x");
+    ui::Liaison liaison;
+    ui::DialoguesQt boites(liaison);
+    surLaBoite<QFileDialog>([&](QFileDialog& boite) {
+        auto* texte = boite.findChild<QLabel*>("lblNomsIllisibles");
+        EXPECT_FALSE(texte->isVisible());
+        QTest::keyClicks(boite.findChild<QLineEdit*>("fileNameEdit"), "dedans");
+        QTest::keyClick(boite.findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
+        EXPECT_TRUE(texte->isVisible());
+        EXPECT_TRUE(texte->text().contains(" 2 ")) << texte->text().toStdString();
+        EXPECT_TRUE(texte->text().contains("UTF-8"));
+        boite.reject();
+    });
+    EXPECT_EQ(boites.choisitFichier({"Choix", "Fichiers JPEG|*.jpg", dossier.chemin(), false}), "");
 }
 
 TEST(DialoguesQt, FiltersTakeBothLetterCases) {
