@@ -1,5 +1,8 @@
 #include "ui/ImageAffiche.h"
 
+#include "ui/Couleurs.h"
+#include "ui/Traits.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPaintEvent>
@@ -32,6 +35,7 @@ void ImageAffiche::paintEvent(QPaintEvent* evenement) {
     peintre.setClipRect(evenement->rect());
     peintre.setRenderHint(QPainter::SmoothPixmapTransform);
     peintre.drawPixmap(rect(), entiere);
+    if (hasFocus()) peintContourDeFocus(peintre, rect(), accentLisible(palette()));
 }
 
 void ImageAffiche::mousePressEvent(QMouseEvent* evenement) {
@@ -73,6 +77,8 @@ void BarreAffiche::keyPressEvent(QKeyEvent* evenement) {
     const int code = codeWindows(*evenement);
     if (code == 33 || code == 34)
         emit touche(code);
+    else if (code == 37 || code == 39)  // Qt turns them around on its scroll bars
+        triggerAction(code == 37 ? SliderSingleStepSub : SliderSingleStepAdd);
     else
         QScrollBar::keyPressEvent(evenement);
 }

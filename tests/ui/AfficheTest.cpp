@@ -74,6 +74,12 @@ TEST_F(Affiche, ScrollsByTheBarTheWheelAndTheHand) {
     touche(Qt::Key_Down);
     EXPECT_EQ(barre().value(), 5);
     EXPECT_EQ(image().y(), haut - 50);
+    touche(Qt::Key_Right);
+    EXPECT_EQ(barre().value(), 10);
+    touche(Qt::Key_Left);
+    EXPECT_EQ(barre().value(), 5);
+    touche(Qt::Key_Up);
+    EXPECT_EQ(barre().value(), 0);
     touche(Qt::Key_End);
     EXPECT_EQ(image().y(), haut - 1000) << "all of it above";
     touche(Qt::Key_Home);
