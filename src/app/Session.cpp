@@ -27,6 +27,14 @@ MenuContextuel menuDemande(browse::MenuArbre menu) {
     return MenuContextuel::Aucun;
 }
 
+// What filled the list anew leaves the keys there, where what it did is to be seen.
+template <typename Commande>
+void puisVersLaListe(Etats& etats, Commande commande) {
+    const int avant = etats.liste.TreeView1.Nodes.generation();
+    commande();
+    if (etats.liste.TreeView1.Nodes.generation() != avant) etats.demandes.focus = "TreeView1";
+}
+
 }  // namespace
 
 Session::Rouages::Rouages(const Machine& laMachine, Etats& lesEtats) : machine(laMachine), etats(lesEtats) {}
@@ -308,7 +316,7 @@ void Session::Command13_Click(int indice) {
     m_rouages->modesAjout.Command13_Click(indice);
     m_rouages->telechargement.ouvrePage();
     m_rouages->raccourcis.retientSaisie();
-    if (indice == 2) m_rouages->importAncienneBase.Command13_Click();
+    if (indice == 2) puisVersLaListe(etats, [this] { m_rouages->importAncienneBase.Command13_Click(); });
 }
 
 void Session::cmdParcourir2_Click() {
@@ -324,15 +332,15 @@ void Session::cmdImporterBase_Click() {
 }
 
 void Session::cmdAjoutAuto_Click() {
-    m_rouages->importFiches.cmdAjoutAuto_Click();
+    puisVersLaListe(etats, [this] { m_rouages->importFiches.cmdAjoutAuto_Click(); });
 }
 
 void Session::cmdTelecharge_Click() {
-    m_rouages->telechargement.cmdTelecharge_Click();
+    puisVersLaListe(etats, [this] { m_rouages->telechargement.cmdTelecharge_Click(); });
 }
 
 void Session::txtRechInternet_KeyDown(int code, int majuscule) {
-    m_rouages->telechargement.txtRechInternet_KeyDown(code, majuscule);
+    puisVersLaListe(etats, [=, this] { m_rouages->telechargement.txtRechInternet_KeyDown(code, majuscule); });
 }
 
 void Session::cmdAjoutFilm_Click() {
@@ -352,6 +360,7 @@ void Session::ModifieFilm_Click() {
 
 void Session::cmdValiderInfosPossessions_Click() {
     m_rouages->cmdValiderInfosPossessions();
+    etats.demandes.focus = "TreeView1";
 }
 
 void Session::Option1_Click() {
@@ -399,11 +408,11 @@ void Session::cmdModifieNote_Click() {
 }
 
 void Session::RenommerGenreFilms_Click() {
-    m_rouages->renommageGroupe.RenommerGenreFilms_Click();
+    puisVersLaListe(etats, [this] { m_rouages->renommageGroupe.RenommerGenreFilms_Click(); });
 }
 
 void Session::RenommeSupportFilms_Click() {
-    m_rouages->renommageGroupe.RenommeSupportFilms_Click();
+    puisVersLaListe(etats, [this] { m_rouages->renommageGroupe.RenommeSupportFilms_Click(); });
 }
 
 void Session::cmdPonctuation_Click() {

@@ -28,8 +28,8 @@ namespace {
 
 constexpr int kTwipsParPixel = 15;
 constexpr QSize kTailleParDefaut{1180, 760};
-constexpr QSize kTailleMinimale{900, 600};
-constexpr int kLargeurDeuxPages = 1400;
+constexpr QSize kTailleMinimale{900, 480};
+constexpr int kLargeurDeuxPages = 1340;  // a screen of 1366 shows both pages of the sheet
 constexpr int kLargeurListe = 320;
 
 }  // namespace
@@ -63,6 +63,7 @@ FenetrePrincipale::FenetrePrincipale(const Atelier& atelier) : m_atelier(atelier
     setWindowTitle(QStringLiteral("Ambrelis"));
     setMinimumSize(kTailleMinimale);
     compose();
+    m_focus.emplace(*this, *m_liste->titres());
     suitLesCommandes();
     m_atelier.liaison.ajoute(std::make_unique<LienTaille>(*this));
 }
@@ -103,7 +104,9 @@ void FenetrePrincipale::completePanneaux() {
     m_droite->addWidget(new PanneauMultiSuppression(m_atelier), 1);
     for (QLineEdit* zone : m_droite->parentWidget()->findChildren<QLineEdit*>())
         new InfobulleEntiere(zone);
+    entreParLeChoisi(m_atelier.liaison, *this);
     setWindowIcon(icone(Pictogramme::Clap));
+    tiensALEcran();
     // The windows that follow the film. The viewer is composed when it first opens.
     new FenetreAffiche(m_atelier, this);
     new FenetreFichiers(m_atelier, this);
@@ -114,6 +117,7 @@ void FenetrePrincipale::suitLesCommandes() {
     m_atelier.liaison.apresEcriture([this] { vientDevant(); });
     connect(&m_atelier.commande, &Commande::vaCommencer, this, [this] {
         if (isVisible()) completePanneaux();
+        m_focus->releve();
     });
     m_atelier.commande.accompagne({[this] { m_atelier.session.vaCommencer(); },
                                    [this](const std::string& raison) { m_atelier.session.expliqueEchec(raison); }});
@@ -129,8 +133,7 @@ void FenetrePrincipale::executeDemandes() {
     const ecran::Demandes demandes = std::exchange(m_atelier.etats().demandes, {});
     const app::MenuContextuel menu = std::exchange(m_atelier.etats().menu, app::MenuContextuel::Aucun);
     if (!demandes.boutonParDefaut.empty()) choisitParDefaut(demandes.boutonParDefaut);
-    auto* focus = demandes.focus.empty() ? nullptr : findChild<QWidget*>(QString::fromStdString(demandes.focus));
-    if (focus) focus->setFocus(Qt::OtherFocusReason);
+    m_focus->donne(demandes.focus);
     if (m_menus) m_menus->montre(menu, m_endroitMenu);
     if (m_fermetureDemandee) QTimer::singleShot(0, this, &QWidget::close);
     if (m_deuxPages != (width() >= kLargeurDeuxPages)) QTimer::singleShot(0, this, [this] { suisLargeur(); });
@@ -151,16 +154,36 @@ void FenetrePrincipale::choisitParDefaut(const std::string& nom) {
 }
 
 void FenetrePrincipale::ouvre() {
+    setMinimumSize(kTailleMinimale.boundedTo(place()));
     resize(tailleVoulue());
     suisLargeur();
+    m_liste->titres()->setFocus(Qt::OtherFocusReason);
     show();
 }
 
 QSize FenetrePrincipale::tailleVoulue() const {
     const app::EtatFenetre& etat = m_atelier.etats().frmPrincipal;
-    if (etat.Width <= 0 || etat.Height <= 0) return kTailleParDefaut;
-    const QSize enPixels(etat.Width / kTwipsParPixel, etat.Height / kTwipsParPixel);
-    return enPixels.boundedTo(screen()->availableSize()).expandedTo(kTailleMinimale);
+    const bool notee = etat.Width > 0 && etat.Height > 0;
+    const QSize voulue = notee ? QSize(etat.Width / kTwipsParPixel, etat.Height / kTwipsParPixel) : kTailleParDefaut;
+    return voulue.boundedTo(place()).expandedTo(minimumSize());
+}
+
+// What the screen leaves for the inside of the window: its frame is known once it is shown.
+QSize FenetrePrincipale::place() const {
+    return screen()->availableSize() - (frameGeometry().size() - size());
+}
+
+// The frame that the desktop gave the window may reach beyond the screen.
+void FenetrePrincipale::tiensALEcran() {
+    if (isMaximized() || isFullScreen()) return;
+    setMinimumSize(kTailleMinimale.boundedTo(place()));
+    const QSize tenue = size().boundedTo(place());
+    if (tenue == size()) return;
+    const QRect libre = screen()->availableGeometry();
+    const QSize cadre = tenue + (frameGeometry().size() - size());
+    move(std::clamp(frameGeometry().x(), libre.left(), libre.right() + 1 - cadre.width()),
+         std::clamp(frameGeometry().y(), libre.top(), libre.bottom() + 1 - cadre.height()));
+    resize(tenue);
 }
 
 void FenetrePrincipale::suisLargeur() {

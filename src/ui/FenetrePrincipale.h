@@ -3,6 +3,7 @@
 #include "ui/Atelier.h"
 #include "ui/MenusArbre.h"
 #include "ui/Raccourcis.h"
+#include "ui/SuiviDuFocus.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -40,10 +41,13 @@ class FenetrePrincipale final : public QWidget {
     void choisitParDefaut(const std::string& nom);
     void suisLargeur();
     [[nodiscard]] QSize tailleVoulue() const;
+    [[nodiscard]] QSize place() const;
+    void tiensALEcran();
 
     const Atelier m_atelier;
     PanneauListe* m_liste = nullptr;
     QVBoxLayout* m_droite = nullptr;
+    std::optional<SuiviDuFocus> m_focus;
     const Raccourcis m_raccourcis;
     std::optional<MenusArbre> m_menus;  // with the late panels
     QPoint m_endroitMenu;

@@ -41,9 +41,10 @@ QScrollArea* defilante(QWidget* page) {
 
 PanneauFiche::PanneauFiche(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameFiche");
-    auto* generalites = page({faits(), resume()});
+    auto* film = page({faits(), resume()});
     auto* contenu = page({new PanneauPossession(m_atelier)});
-    static_cast<QVBoxLayout*>(generalites->layout())->setStretch(1, 1);
+    static_cast<QVBoxLayout*>(film->layout())->setStretch(1, 1);
+    auto* generalites = defilante(film);
     static_cast<QVBoxLayout*>(contenu->layout())->addStretch(1);
     auto* autres = defilante(contenu);
 
@@ -62,9 +63,10 @@ PanneauFiche::PanneauFiche(const Atelier& atelier, QWidget* parent) : QWidget(pa
     m_atelier.liaison.lie(m_atelier.etats().panneaux.frameFiche, this);
 
     // A page takes its room as long as one of its frames is shown.
-    const auto suis = [generalites, autres, fiche = &m_atelier.etats().fiche] {
+    const auto suis = [this, generalites, autres, fiche = &m_atelier.etats().fiche] {
         generalites->setVisible(fiche->frameGeneralites[0].Visible || fiche->frameGeneralites[1].Visible);
         autres->setVisible(fiche->frameAutresInfos[0].Visible || fiche->frameAutresInfos[1].Visible);
+        dimensionneAffiche();
     };
     suis();
     m_atelier.liaison.apresEcriture(suis);
@@ -97,7 +99,7 @@ QLayout* PanneauFiche::entete() {
 QLayout* PanneauFiche::onglets() {
     auto& fiche = m_atelier.etats().fiche;
     auto* generalites = bouton<BoutonOnglet>("cmdGeneralites", tr("&Généralités"), tr("Le film"));
-    auto* autres = bouton<BoutonOnglet>("cmdAutresInfos", tr("A&utres informations"), tr("Votre exemplaire"));
+    auto* autres = bouton<BoutonOnglet>("cmdAutresInfos", tr("Autres infor&mations"), tr("Votre exemplaire"));
     m_atelier.liaison.lie(fiche.cmdGeneralites, generalites);
     m_atelier.liaison.lie(fiche.cmdAutresInfos, autres);
     m_atelier.auClic(generalites, &app::Session::cmdGeneralites_Click);
@@ -111,6 +113,7 @@ QLayout* PanneauFiche::colonneAffiche() {
     nomme(m_affiche->image(), "Image1", tr("Affiche du film"));
     nomme(m_affiche->statut(), "Label12");
     m_affiche->image()->setToolTip(tr("Voir l'affiche en grand"));
+    m_affiche->setAccessibleName(tr("Choisir l'affiche du film"));
     connect(m_affiche->image(), &VueAffiche::cliquee, &m_atelier.commande,
             [a = m_atelier] { a.commande.execute([s = &a.session] { s->Image1_Click(); }); });
     auto* note = nomme((new Etiquette)->avecPolice(1.0, QFont::DemiBold), "lblNote");
@@ -185,6 +188,7 @@ QWidget* PanneauFiche::resume() {
     texte->document()->setDocumentMargin(0);
     texte->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     texte->setMinimumHeight(80);
+    texte->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // it takes what the facts leave
     m_atelier.liaison.lie(fiche.Text1, texte);
     auto* boite = colonne(kSerre);
     boite->addWidget(legende(tr("Résumé")));
@@ -194,10 +198,15 @@ QWidget* PanneauFiche::resume() {
     return cadre;
 }
 
-void PanneauFiche::resizeEvent(QResizeEvent* evenement) {
+void PanneauFiche::resizeEvent(QResizeEvent*) {
+    dimensionneAffiche();
+}
+
+// Beside both pages the poster leaves them more room.
+void PanneauFiche::dimensionneAffiche() {
     constexpr int kAutourDeLAffiche = 240;  // header, rating, actions, margins
-    const QSize taille = evenement->size();
-    m_affiche->tiensDans({taille.width() * 32 / 100, taille.height() - kAutourDeLAffiche});
+    const int part = m_atelier.etats().fiche.cmdGeneralites.Visible ? 32 : 24;
+    m_affiche->tiensDans({width() * part / 100, height() - kAutourDeLAffiche});
 }
 
 }  // namespace ui

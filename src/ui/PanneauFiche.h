@@ -20,6 +20,7 @@ class PanneauFiche final : public QWidget {
     void resizeEvent(QResizeEvent* evenement) override;
 
   private:
+    void dimensionneAffiche();
     [[nodiscard]] QLayout* entete();
     [[nodiscard]] QLayout* onglets();
     [[nodiscard]] QLayout* colonneAffiche();

@@ -8,6 +8,9 @@
 #include "ui/Sections.h"
 
 #include <QScrollArea>
+#include <QScrollBar>
+#include <array>
+#include <utility>
 
 namespace ui {
 
@@ -21,12 +24,19 @@ PanneauFonctions::PanneauFonctions(const Atelier& atelier, QWidget* parent) : QW
     contenu->addWidget(new PanneauConfig(atelier));
     contenu->addStretch();
     auto* boite = colonne(0);
-    boite->addWidget(defilant(contenu));
+    auto* defile = defilant(contenu);
+    boite->addWidget(defile);
     setLayout(boite);
 
-    // The page buttons belong to the tools and the configuration alone.
-    const auto suis = [pages, etats = &atelier.etats()] {
-        pages->setVisible(etats->fonctions.frameOutils.Visible || etats->fonctions.frameConfig.Visible);
+    // The page buttons belong to the tools and the configuration alone. Another page begins at its top.
+    const auto page = [etats = &atelier.etats()] {
+        const auto& fonctions = etats->fonctions;
+        return std::array{fonctions.frameOutils.Visible, fonctions.frameConfig.Visible,
+                          etats->ajout.frameAjoutAuto.Visible, etats->ajout.Frame13.Visible};
+    };
+    auto suis = [=, montree = page()]() mutable {
+        pages->setVisible(page()[0] || page()[1]);
+        if (std::exchange(montree, page()) != page()) defile->verticalScrollBar()->setValue(0);
     };
     suis();
     atelier.liaison.apresEcriture(suis);

@@ -14,7 +14,12 @@ namespace ui {
 namespace {
 
 constexpr QSize kBoite{193, 297};  // 2895 by 4455 twips
-constexpr double kAgrandissementMax = 2.9;
+constexpr double kReductionMax = 0.5, kAgrandissementMax = 2.9;
+
+// A key that presses what has the focus.
+bool presse(const QKeyEvent& evenement) {
+    return evenement.key() == Qt::Key_Space || evenement.key() == Qt::Key_Return || evenement.key() == Qt::Key_Enter;
+}
 
 }  // namespace
 
@@ -27,6 +32,7 @@ class VueAffiche::LienImage final : public Lien {
         if (m_etat.Visible != m_montre.Visible) m_vue.setVisible(m_etat.Visible);
         m_montre = m_etat;
         m_vue.update();
+        m_vue.parentWidget()->setFocusPolicy(m_etat.Visible ? Qt::NoFocus : Qt::TabFocus);
         m_vue.parentWidget()->update();
     }
 
@@ -62,7 +68,7 @@ void VueAffiche::paintEvent(QPaintEvent*) {
     QPainter peintre(this);
     peintre.setRenderHint(QPainter::SmoothPixmapTransform);
     peintre.drawPixmap(zone.toAlignedRect(), affiche);
-    if (hasFocus()) peintContourDeFocus(peintre, rect(), accent(palette()));
+    if (hasFocus()) peintContourDeFocus(peintre, rect(), accentLisible(palette()));
 }
 
 void VueAffiche::mousePressEvent(QMouseEvent* evenement) {
@@ -74,8 +80,7 @@ void VueAffiche::mouseReleaseEvent(QMouseEvent* evenement) {
 }
 
 void VueAffiche::keyPressEvent(QKeyEvent* evenement) {
-    const int touche = evenement->key();
-    if (touche == Qt::Key_Space || touche == Qt::Key_Return || touche == Qt::Key_Enter)
+    if (presse(*evenement))
         emit cliquee();
     else
         QWidget::keyPressEvent(evenement);
@@ -92,12 +97,12 @@ CadreAffiche::CadreAffiche(ImagesQt& images, QWidget* parent)
 
 void CadreAffiche::tiensDans(const QSize& place) {
     const QSize voulue = kBoite.scaled(place, Qt::KeepAspectRatio).boundedTo(kBoite * kAgrandissementMax);
-    setFixedSize(voulue.expandedTo(kBoite));
+    setFixedSize(voulue.expandedTo(kBoite * kReductionMax));
 }
 
 void CadreAffiche::resizeEvent(QResizeEvent*) {
     m_image->setGeometry(rect());
-    m_statut->setGeometry(rect().adjusted(12, height() / 2 - 8, -12, -12));
+    m_statut->setGeometry(rect().adjusted(8, height() / 2 - 8, -8, -8));
 }
 
 // The caption lets the mouse through to its frame; accepting the press brings the release here.
@@ -110,10 +115,18 @@ void CadreAffiche::mouseReleaseEvent(QMouseEvent* evenement) {
         emit statutClique();
 }
 
+void CadreAffiche::keyPressEvent(QKeyEvent* evenement) {
+    if (presse(*evenement) && !m_statut->isHidden())
+        emit statutClique();
+    else
+        QWidget::keyPressEvent(evenement);
+}
+
 void CadreAffiche::paintEvent(QPaintEvent*) {
     if (!m_image->isHidden()) return;
     QPainter peintre(this);
     peintSurface(peintre, rect(), voile(palette()), filet(palette()));
+    if (hasFocus()) peintContourDeFocus(peintre, rect(), accentLisible(palette()));
     const QRectF signe(width() / 2.0 - 24, height() / 2.0 - 72, 48, 48);
     peintPictogramme(peintre, signe, Pictogramme::Clap,
                      melange(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.30));

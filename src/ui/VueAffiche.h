@@ -43,17 +43,18 @@ class CadreAffiche final : public QWidget {
 
     [[nodiscard]] VueAffiche* image() const { return m_image; }
     [[nodiscard]] QLabel* statut() const { return m_statut; }
-    // Takes the largest size that fits, never below the published one.
+    // Takes the largest size that fits, the published one where there is room for it.
     void tiensDans(const QSize& place);
 
   signals:
-    void statutClique();  // the status caption, or the surface around it, while no picture hides it
+    void statutClique();  // the status caption, or the surface around it, or a key there, while no picture hides it
 
   protected:
     void paintEvent(QPaintEvent* evenement) override;
     void resizeEvent(QResizeEvent* evenement) override;
     void mousePressEvent(QMouseEvent* evenement) override;
     void mouseReleaseEvent(QMouseEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
 
   private:
     VueAffiche* m_image;

@@ -345,11 +345,38 @@ TEST(Depart, TheWindowComesBackAsItWasLeft) {
     essai.programme.reset();
 
     essai.demarre();
-    EXPECT_EQ(essai.fenetre().size(),
-              QSize(960, 640).boundedTo(essai.fenetre().screen()->availableSize()).expandedTo({900, 600}));
+    EXPECT_EQ(essai.fenetre().size(), QSize(960, 640));
     EXPECT_EQ(essai.trouve<QComboBox>("ChoixTri").currentIndex(), 4);
     EXPECT_TRUE(essai.trouve<QAbstractButton>("AffStats").isChecked());
     EXPECT_EQ(essai.arbre().model()->index(0, 0).data().toString().left(15), "Science-fiction");
+}
+
+// Settings of a larger screen, or of a smaller window than can be used.
+TEST(Depart, TheWindowFitsTheScreenWithItsFrame) {
+    for (const auto& [largeur, hauteur] : {std::pair(3000, 2000), std::pair(100, 100)}) {
+        ProgrammeDEssai essai;
+        const auto enTwips = [](int pixels) { return std::to_string(pixels * 15); };
+        essai.dossier.ecrit("Ambrelis.ini", "0\r\n\r\n" + enTwips(largeur) + "\r\n" + enTwips(hauteur) + "\r\n");
+        essai.demarre();
+        const QRect libre = essai.fenetre().screen()->availableGeometry(), cadre = essai.fenetre().frameGeometry();
+        EXPECT_GT(cadre.width(), essai.fenetre().width()) << "a frame that takes room";
+        EXPECT_TRUE(libre.contains(cadre)) << cadre.width() << "x" << cadre.height();
+        EXPECT_GE(essai.fenetre().width(), 900);
+        EXPECT_GE(essai.fenetre().height(), 480);
+        EXPECT_EQ(essai.fenetre().minimumSize(), QSize(900, 480));
+    }
+}
+
+TEST_F(Fenetre, ASmallNotebookShowsBothPagesOfTheSheet) {
+    importe();
+    essai.cliqueTitre("Avatar");
+    EXPECT_FALSE(essai.trouve("framePossession").isVisible());
+    essai.fenetre().showMaximized();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !essai.trouve("cmdGeneralites").isVisible(); }));
+    for (const char* nom : {"Text1", "Label1_2", "Text10_6", "cmdRaffraichirListe", "cmdCreeFichierTxt"}) {
+        const QWidget& widget = essai.trouve(nom);
+        EXPECT_TRUE(widget.visibleRegion().contains(widget.rect())) << nom << " is cut";
+    }
 }
 
 TEST(Depart, AStartThatFailsShowsNoWindow) {

@@ -1,0 +1,34 @@
+#include "ui/SuiviDuFocus.h"
+
+#include <QHash>
+#include <QRadioButton>
+#include <algorithm>
+
+namespace ui {
+
+bool SuiviDuFocus::peutPrendre(const QWidget* widget) const {
+    return widget && widget->isVisibleTo(&m_fenetre) && widget->isEnabledTo(&m_fenetre);
+}
+
+void SuiviDuFocus::donne(const std::string& demande) {
+    auto* demandee = demande.empty() ? nullptr : m_fenetre.findChild<QWidget*>(QString::fromStdString(demande));
+    QWidget* voulu = peutPrendre(demandee) ? demandee : peutPrendre(m_avant) ? m_avant.data() : &m_arbre;
+    // A control of another window, the viewer's scroll bar, takes its own window's.
+    if (demandee && demandee->window() != &m_fenetre) voulu = demandee;
+    if (voulu->window()->focusWidget() != voulu) voulu->setFocus(Qt::OtherFocusReason);
+}
+
+void entreParLeChoisi(Liaison& liaison, QWidget& fenetre) {
+    QHash<QWidget*, QList<QRadioButton*>> groupes;  // option buttons exclude one another within their parent
+    for (auto* option : fenetre.findChildren<QRadioButton*>())
+        groupes[option->parentWidget()].append(option);
+    liaison.apresEcriture([groupes] {
+        for (const QList<QRadioButton*>& groupe : groupes) {
+            const bool choisie = std::ranges::any_of(groupe, [](const QRadioButton* o) { return o->isChecked(); });
+            for (QRadioButton* option : groupe)
+                option->setFocusPolicy(!choisie || option->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+        }
+    });
+}
+
+}  // namespace ui
