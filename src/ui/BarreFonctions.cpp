@@ -27,14 +27,14 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     atelier.liaison.lie(atelier.etats().nom.lblNom2, nom2);
     atelier.liaison.lie(atelier.etats().fonctions.Label13, version);
 
-    auto* recherche = fonction("cmdFonctionRecherche", tr("&Rechercher"), Pictogramme::Loupe,
+    auto* recherche = fonction("cmdFonctionRecherche", tr("Rec&hercher"), Pictogramme::Loupe,
                                tr("Chercher des films dans la base (Ctrl+F ; Échap pour revenir)"));
-    auto* ajout = fonction("cmdAfficherFonctions", tr("&Ajouter"), Pictogramme::Plus,
+    auto* ajout = fonction("cmdAfficherFonctions", tr("A&jouter"), Pictogramme::Plus,
                            tr("Ajouter des films à la base (Ctrl+N pour une saisie ; Échap pour revenir)"));
     auto* outils = fonction("cmdConfigurer", tr("&Outils"), Pictogramme::Reglages,
                             tr("Entretenir la base et régler le programme (Échap pour revenir)"));
     auto* site = fonction("Image3", tr("MovieCovers"), Pictogramme::Lien, tr("Ouvrir le site de MovieCovers"));
-    auto* aide = fonction("cmdAide", tr("À &propos"), Pictogramme::Aide, tr("À propos d'Ambrelis"));
+    auto* aide = fonction("cmdAide", tr("À propos"), Pictogramme::Aide, tr("À propos d'Ambrelis"));
     auto* sortie = fonction("cmdStop", tr("&Quitter"), Pictogramme::Sortie, tr("Enregistrer les réglages et quitter"));
     atelier.auClic(recherche, &app::Session::cmdFonctionRecherche_Click);
     atelier.auClic(ajout, &app::Session::cmdAfficherFonctions_Click);

@@ -46,7 +46,7 @@ void PanneauAjout::keyPressEvent(QKeyEvent* evenement) {
 QLayout* PanneauAjout::manieres(const Atelier& atelier) {
     const std::pair<QString, QString> textes[] = {
         {tr("Ajout auto&matique"), tr("Ajouter des fiches toutes prêtes")},
-        {tr("Saisie ma&nuelle"), tr("Écrire soi-même la fiche d'un film (Ctrl+N)")},
+        {tr("Saisie manue&lle"), tr("Écrire soi-même la fiche d'un film (Ctrl+N)")},
         {tr("&Importer une base"), tr("Reprendre les films d'une installation précédente")}};
     auto* boite = rangee({}, kSerre);
     for (std::size_t i = 0; i < 3; ++i) {
@@ -101,7 +101,7 @@ QLayout* PanneauAjout::fiches(const Atelier& atelier) {
 QLayout* PanneauAjout::dossierDesFiches(const Atelier& atelier) {
     auto& ajout = atelier.etats().ajout;
     auto* chemin = nomme(new QLineEdit, "txtCheminAjoutAuto");
-    auto* parcourir = bouton("cmdParcourir2", tr("Parco&urir…"), tr("Choisir le dossier des fiches"));
+    auto* parcourir = bouton("cmdParcourir2", tr("&Parcourir…"), tr("Choisir le dossier des fiches"));
     atelier.liaison.lie(ajout.txtCheminAjoutAuto, chemin);
     atelier.liaison.lie(ajout.cmdParcourir2, parcourir);
     atelier.auClic(parcourir, &app::Session::cmdParcourir2_Click);
@@ -121,10 +121,10 @@ QLayout* PanneauAjout::dossierDesFiches(const Atelier& atelier) {
 
 QLayout* PanneauAjout::internet(const Atelier& atelier) {
     auto& ajout = atelier.etats().ajout;
-    const QString textes[] = {tr("Titre"), tr("Réalisateur"), tr("Acteur"), tr("Année")};
+    const QString textes[] = {tr("Titr&e"), tr("&Réalisateur"), tr("&Acteur"), tr("A&nnée")};
     auto* texte = m_rechercheInternet = nomme(new QLineEdit, "txtRechInternet");
     auto* telecharger =
-        bouton("cmdTelecharge", tr("Téléc&harger…"), tr("Chercher ces films sur le site de MovieCovers (Entrée)"));
+        bouton("cmdTelecharge", tr("Télé&charger…"), tr("Chercher ces films sur le site de MovieCovers (Entrée)"));
     atelier.liaison.lie(ajout.txtRechInternet, texte);
     atelier.liaison.lie(ajout.cmdTelecharge, telecharger);
     atelier.auClic(telecharger, &app::Session::cmdTelecharge_Click);

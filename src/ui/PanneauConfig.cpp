@@ -63,7 +63,7 @@ QLayout* PanneauConfig::images(const Atelier& atelier) {
 QLayout* PanneauConfig::logiciels(const Atelier& atelier) {
     auto& fonctions = atelier.etats().fonctions;
     auto* choisir =
-        bouton("cmdParcourirLogiciel", tr("C&hoisir…"), tr("Choisir le programme qui ouvrira ces fichiers"));
+        bouton("cmdParcourirLogiciel", tr("Choisi&r…"), tr("Choisir le programme qui ouvrira ces fichiers"));
     auto* supprimer = bouton("cmdSupprExtension", tr("Suppri&mer"), tr("Retirer l'extension de la liste"));
     atelier.liaison.lie(fonctions.cmdParcourirLogiciel, choisir);
     atelier.liaison.lie(fonctions.cmdSupprExtension, supprimer);
@@ -100,7 +100,7 @@ QLayout* PanneauConfig::nouvelleExtension(const Atelier& atelier) {
     auto* texte = nomme(new QLineEdit, "txtNouvelleExtension");
     texte->setPlaceholderText(tr("par exemple avi"));
     texte->setFixedWidth(kLargeurExtension);
-    auto* ajouter = bouton("cmdAjoutExtension", tr("A&jouter"), tr("Ajouter cette extension à la liste (Entrée)"));
+    auto* ajouter = bouton("cmdAjoutExtension", tr("&Ajouter"), tr("Ajouter cette extension à la liste (Entrée)"));
     atelier.liaison.lie(fonctions.txtNouvelleExtension, texte);
     atelier.liaison.lie(fonctions.cmdAjoutExtension, ajouter);
     atelier.auClic(ajouter, &app::Session::cmdAjoutExtension_Click);

@@ -25,11 +25,11 @@ PanneauPossession::PanneauPossession(const Atelier& atelier, QWidget* parent) : 
 
 QLayout* PanneauPossession::choix() {
     auto& fiche = m_atelier.etats().fiche;
-    auto* nonPossede = nomme(new QRadioButton(tr("Non possédé")), "Option1", 0);
-    auto* possede = nomme(new QRadioButton(tr("Possédé")), "Option1", 1);
+    auto* nonPossede = nomme(new QRadioButton(tr("Non possé&dé")), "Option1", 0);
+    auto* possede = nomme(new QRadioButton(tr("&Possédé")), "Option1", 1);
     nonPossede->setToolTip(tr("Ce film n'est pas dans votre vidéothèque"));
     possede->setToolTip(tr("Ce film est dans votre vidéothèque"));
-    auto* valider = bouton<BoutonAccent>("cmdValiderInfosPossessions", tr("&Valider"),
+    auto* valider = bouton<BoutonAccent>("cmdValiderInfosPossessions", tr("Val&ider"),
                                          tr("Enregistrer ce qui concerne votre exemplaire"));
     m_atelier.liaison.lie(fiche.Option1[0], nonPossede);
     m_atelier.liaison.lie(fiche.Option1[1], possede);
@@ -53,12 +53,12 @@ QWidget* PanneauPossession::exemplaire() {
     grille->setContentsMargins(0, 0, 0, 0);
     grille->setHorizontalSpacing(kMoyen);
     grille->setVerticalSpacing(kPetit);
-    grille->addLayout(champ(tr("Support"), liste(2)), 0, 0);
+    grille->addLayout(champ(tr("S&upport"), liste(2)), 0, 0);
     grille->addLayout(champ(tr("&Lieu de rangement"), texte(3, {})), 0, 1);
-    grille->addLayout(champ(tr("Prêté à"), liste(0)), 1, 0);
-    grille->addLayout(champ(tr("Réservé pour"), liste(1)), 1, 1);
-    grille->addLayout(champ(tr("Date"), texte(6, {})), 2, 0);
-    grille->addLayout(champ(tr("Notes"), texte(4, {})), 2, 1);
+    grille->addLayout(champ(tr("P&rêté à"), liste(0)), 1, 0);
+    grille->addLayout(champ(tr("Réser&vé pour"), liste(1)), 1, 1);
+    grille->addLayout(champ(tr("D&ate"), texte(6, {})), 2, 0);
+    grille->addLayout(champ(tr("Not&es"), texte(4, {})), 2, 1);
     auto* fichiers = colonne(kSerre);
     fichiers->addWidget(legende(tr("Fichiers attachés")));
     for (std::size_t i = 0; i < 3; ++i)
@@ -108,15 +108,14 @@ QLayout* PanneauPossession::fichier(std::size_t indice) {
     choisir->setMaximumWidth(44);
     m_atelier.liaison.lie(m_atelier.etats().fiche.Command2[indice], choisir);
     m_atelier.auClic(choisir, &app::Session::Command2_Click, static_cast<int>(indice));
-    auto* boite = rangee({texte(indice, nom)});
-    boite->addWidget(choisir);
-    return boite;
+    QWidget* chemin = texte(indice, nom);
+    return rangee({legende(QStringLiteral("&%1").arg(indice + 1), chemin), chemin, choisir});
 }
 
 PanneauActions::PanneauActions(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
     auto& fiche = atelier.etats().fiche;
-    auto* modifier = bouton("cmdModifierTitre", tr("Mo&difier…"), tr("Corriger la fiche du film (F2)"));
-    auto* supprimer = bouton("cmdSupprimerTitre", tr("Suppr&imer…"), tr("Supprimer le film de la base (Suppr)"));
+    auto* modifier = bouton("cmdModifierTitre", tr("Modifier…"), tr("Corriger la fiche du film (F2)"));
+    auto* supprimer = bouton("cmdSupprimerTitre", tr("Supprimer…"), tr("Supprimer le film de la base (Suppr)"));
     auto* texte = bouton("cmdCreeFichierTxt", tr("Fiche te&xte…"), tr("Écrire la fiche dans un fichier texte"));
     atelier.liaison.lie(fiche.cmdModifierTitre, modifier);
     atelier.liaison.lie(fiche.cmdSupprimerTitre, supprimer);

@@ -30,13 +30,13 @@ PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(
     grille->setVerticalSpacing(kMoyen);
     grille->addLayout(champ(tr("Titr&e"), texte(0)), 0, 0, 1, 3);
     grille->addLayout(champ(tr("Réalisate&ur"), texte(1)), 0, 3, 1, 3);
-    grille->addLayout(champ(tr("Année"), texte(2)), 1, 0, 1, 2);
+    grille->addLayout(champ(tr("&Année"), texte(2)), 1, 0, 1, 2);
     grille->addLayout(champ(tr("&Durée"), texte(3)), 1, 2, 1, 2);
     grille->addLayout(champ(tr("&Genre"), liste("Combo2", ajout.Combo2)), 1, 4, 1, 2);
-    grille->addLayout(champ(tr("Origine"), liste("Combo3", ajout.Combo3)), 2, 0, 1, 3);
-    grille->addLayout(champ(tr("Production"), liste("Combo4", ajout.Combo4)), 2, 3, 1, 3);
+    grille->addLayout(champ(tr("Origi&ne"), liste("Combo3", ajout.Combo3)), 2, 0, 1, 3);
+    grille->addLayout(champ(tr("&Production"), liste("Combo4", ajout.Combo4)), 2, 3, 1, 3);
     grille->addLayout(champ(tr("A&cteurs, séparés par des points-virgules"), texte(4)), 3, 0, 1, 6);
-    grille->addLayout(champ(tr("Résumé"), resume), 4, 0, 1, 6);
+    grille->addLayout(champ(tr("&Résumé"), resume), 4, 0, 1, 6);
     auto* bas = aGauche({ajouter});
     bas->insertWidget(1, image);
     grille->addLayout(bas, 5, 0, 1, 6);

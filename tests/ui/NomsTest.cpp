@@ -3,7 +3,10 @@
 #include <QAccessible>
 #include <QAction>
 #include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QSet>
+#include <algorithm>
 
 namespace {
 
@@ -144,7 +147,28 @@ QStringList mnemoniques(QWidget& fenetre) {
     return lettres;
 }
 
+bool aUnMnemonique(QWidget& fenetre, const QWidget& champ) {
+    if (const auto* bouton = qobject_cast<const QAbstractButton*>(&champ))
+        return !QKeySequence::mnemonic(bouton->text()).isEmpty();
+    const auto etiquettes = fenetre.findChildren<QLabel*>();
+    return std::ranges::any_of(etiquettes, [&](const QLabel* etiquette) {
+        return etiquette->buddy() == &champ && etiquette->isVisible() &&
+               !QKeySequence::mnemonic(etiquette->text()).isEmpty();
+    });
+}
+
+// What is typed or chosen in.
+bool estUnChamp(const QWidget& widget) {
+    if (qobject_cast<const QComboBox*>(widget.parent())) return false;  // the list is the field
+    return qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QComboBox*>(&widget) ||
+           qobject_cast<const QPlainTextEdit*>(&widget) || qobject_cast<const QCheckBox*>(&widget) ||
+           qobject_cast<const QRadioButton*>(&widget);
+}
+
 void verifiePage(QWidget& fenetre, const char* page) {
+    for (const QWidget* widget : fenetre.findChildren<QWidget*>())
+        EXPECT_TRUE(!widget->isVisible() || !estUnChamp(*widget) || aUnMnemonique(fenetre, *widget))
+            << page << " " << widget->objectName().toStdString();
     const QStringList lettres = mnemoniques(fenetre);
     EXPECT_GT(lettres.size(), 6) << page;
     EXPECT_EQ(QSet<QString>(lettres.begin(), lettres.end()).size(), lettres.size())
@@ -187,15 +211,21 @@ TEST(Noms, EachPageHasItsOwnMnemonicsAndNamesForScreenReaders) {
     ecran::Cadre &automatique = essai.etats().ajout.frameAjoutAuto, &manuelle = essai.etats().ajout.Frame13;
     essai.programme->commande().execute([&] { std::swap(automatique.Visible, manuelle.Visible); });
     verifie("manual entry");
-    for (const char* page : {"cmdFonctionRecherche", "cmdConfigurer", "cmdConfig_1"}) {
+    for (const char* page : {"cmdFonctionRecherche", "cmdConfigurer", "cmdMultiSuppress"}) {
         essai.clique(page);
         verifie(page);
     }
+    essai.clique("Option4_1");
+    verifie("several deletions");
+    essai.clique("Option4_0");
+    essai.clique("cmdConfigurer");
+    essai.clique("cmdConfig_1");
+    verifie("settings");
     essai.cliqueTitre("L'Été");
     verifie("cmdGeneralites");
     essai.clique("cmdAutresInfos");
     verifie("cmdAutresInfos");
-    essai.fenetre().resize(1500, 900);
+    essai.fenetre().resize(1366, 740);
     ASSERT_TRUE(QTest::qWaitFor([&] { return !essai.trouve("cmdGeneralites").isVisible(); }));
     EXPECT_TRUE(essai.trouve("Text1").isVisible() && essai.trouve("framePossession").isVisible());
     verifie("both pages");
