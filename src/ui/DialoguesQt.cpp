@@ -119,9 +119,13 @@ QString nomsIllisibles(const QString& dossier) {
          entree.increment(faute))
         nombre += !util::estUtf8(entree->path().filename().native());
     if (nombre == 0) return {};
+    if (nombre == 1)
+        return QObject::tr(
+            "Un fichier ou un dossier n'est pas montré : son nom n'est pas écrit en UTF-8. Renommez-le pour "
+            "pouvoir le choisir.");
     return QObject::tr(
-               "Ce dossier contient aussi %1 nom(s) qui ne sont pas en UTF-8 et ne peuvent pas être choisis ici : "
-               "renommez ces fichiers ou ces dossiers.")
+               "%1 fichiers ou dossiers ne sont pas montrés : leurs noms ne sont pas écrits en UTF-8. Renommez-les "
+               "pour pouvoir les choisir.")
         .arg(nombre);
 }
 

@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <algorithm>
 #include <utility>
 
 namespace ui {
@@ -40,7 +39,6 @@ FenetreFichiers::FenetreFichiers(const Atelier& atelier, QWidget* parent)
         boite->addWidget(m_fichiers[i] = boutonFichier(i));
     boite->addSpacing(kMoyen);
     auto* fermer = nomme(new QPushButton(tr("Fermer")), "Command1", kFermer);
-    fermer->setAutoDefault(true);
     m_atelier.auClic(fermer, &app::Session::Command1_Click, kFermer);
     boite->addWidget(fermer, 0, Qt::AlignRight);
     setFixedWidth(kLargeur);
@@ -50,7 +48,6 @@ FenetreFichiers::FenetreFichiers(const Atelier& atelier, QWidget* parent)
 QPushButton* FenetreFichiers::boutonFichier(std::size_t indice) {
     auto* bouton = nomme(new QPushButton(tr("Fichier %1").arg(indice + 1)), "Command1", indice);
     bouton->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    bouton->setAutoDefault(true);  // Enter presses the one that has the focus
     bouton->setEnabled(false);
     m_atelier.liaison.lie(m_atelier.etats().fiche.Command1[indice], bouton);
     m_atelier.auClic(bouton, &app::Session::Command1_Click, static_cast<int>(indice));
@@ -77,8 +74,7 @@ void FenetreFichiers::presente() {
     show();
     raise();
     activateWindow();
-    const auto pret = std::ranges::find_if(m_fichiers, [](const QPushButton* fichier) { return fichier->isEnabled(); });
-    if (pret != m_fichiers.end()) (*pret)->setFocus(Qt::OtherFocusReason);
+    m_fichiers[0]->setFocus(Qt::OtherFocusReason);
 }
 
 // Closed, it is only hidden; the program ends with its main window.

@@ -23,15 +23,23 @@ QWidget* page(std::initializer_list<QWidget*> cadres) {
     return resultat;
 }
 
+// Never narrower than its page and the bar beside it, whatever the font.
+class ZoneDefilante final : public QScrollArea {
+  public:
+    [[nodiscard]] QSize minimumSizeHint() const override {
+        const int barre = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+        return {widget()->minimumSizeHint().width() + barre, QScrollArea::minimumSizeHint().height()};
+    }
+};
+
 // Where the window is low the page scrolls rather than being squeezed.
 QScrollArea* defilante(QWidget* page) {
-    auto* zone = new QScrollArea;
+    auto* zone = new ZoneDefilante;
     zone->setWidget(page);
     zone->setWidgetResizable(true);
     zone->setFrameShape(QFrame::NoFrame);
     zone->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     zone->setFocusPolicy(Qt::NoFocus);
-    zone->setMinimumWidth(page->minimumSizeHint().width());
     zone->viewport()->setAutoFillBackground(false);
     page->setAutoFillBackground(false);
     return zone;
@@ -113,10 +121,10 @@ QLayout* PanneauFiche::colonneAffiche() {
     nomme(m_affiche->image(), "Image1", tr("Affiche du film"));
     nomme(m_affiche->statut(), "Label12");
     m_affiche->image()->setToolTip(tr("Voir l'affiche en grand"));
-    m_affiche->setAccessibleName(tr("Choisir l'affiche du film"));
     connect(m_affiche->image(), &VueAffiche::cliquee, &m_atelier.commande,
             [a = m_atelier] { a.commande.execute([s = &a.session] { s->Image1_Click(); }); });
     auto* note = nomme((new Etiquette)->avecPolice(1.0, QFont::DemiBold), "lblNote");
+    note->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     auto* noter = bouton("cmdModifieNote", tr("&Noter…"), tr("Donner une note de 1 à 10"));
     auto* fichiers = bouton("cmdFichiersFilm", tr("&Fichiers du film…"), tr("Ouvrir un des fichiers attachés au film"));
     m_atelier.liaison.ajoute(m_affiche->image()->lien(fiche.Image1));

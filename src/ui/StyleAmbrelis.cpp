@@ -39,8 +39,9 @@ void peintListeDeroulante(QPainter& peintre, const QStyleOptionComboBox& option,
 
 void peintAscenseur(QPainter& peintre, const QStyleOptionSlider& option, QRect curseur) {
     const bool survol = option.state & (QStyle::State_MouseOver | QStyle::State_Sunken);
-    const QColor couleur =
+    const QColor calme =
         melange(option.palette.color(QPalette::WindowText), option.palette.color(QPalette::Base), survol ? 0.45 : 0.25);
+    const QColor couleur = a(option, QStyle::State_HasFocus) ? accentLisible(option.palette) : calme;
     const int retrait = survol ? 2 : 3;
     curseur.adjust(retrait, retrait, -retrait, -retrait);
     peintSurface(peintre, curseur, couleur, {}, std::min(curseur.width(), curseur.height()) / 2.0);

@@ -16,11 +16,6 @@ namespace {
 constexpr QSize kBoite{193, 297};  // 2895 by 4455 twips
 constexpr double kReductionMax = 0.5, kAgrandissementMax = 2.9;
 
-// A key that presses what has the focus.
-bool presse(const QKeyEvent& evenement) {
-    return evenement.key() == Qt::Key_Space || evenement.key() == Qt::Key_Return || evenement.key() == Qt::Key_Enter;
-}
-
 }  // namespace
 
 class VueAffiche::LienImage final : public Lien {
@@ -32,7 +27,6 @@ class VueAffiche::LienImage final : public Lien {
         if (m_etat.Visible != m_montre.Visible) m_vue.setVisible(m_etat.Visible);
         m_montre = m_etat;
         m_vue.update();
-        m_vue.parentWidget()->setFocusPolicy(m_etat.Visible ? Qt::NoFocus : Qt::TabFocus);
         m_vue.parentWidget()->update();
     }
 
@@ -80,7 +74,8 @@ void VueAffiche::mouseReleaseEvent(QMouseEvent* evenement) {
 }
 
 void VueAffiche::keyPressEvent(QKeyEvent* evenement) {
-    if (presse(*evenement))
+    const int touche = evenement->key();
+    if (touche == Qt::Key_Space || touche == Qt::Key_Return || touche == Qt::Key_Enter)
         emit cliquee();
     else
         QWidget::keyPressEvent(evenement);
@@ -115,18 +110,10 @@ void CadreAffiche::mouseReleaseEvent(QMouseEvent* evenement) {
         emit statutClique();
 }
 
-void CadreAffiche::keyPressEvent(QKeyEvent* evenement) {
-    if (presse(*evenement) && !m_statut->isHidden())
-        emit statutClique();
-    else
-        QWidget::keyPressEvent(evenement);
-}
-
 void CadreAffiche::paintEvent(QPaintEvent*) {
     if (!m_image->isHidden()) return;
     QPainter peintre(this);
     peintSurface(peintre, rect(), voile(palette()), filet(palette()));
-    if (hasFocus()) peintContourDeFocus(peintre, rect(), accentLisible(palette()));
     const QRectF signe(width() / 2.0 - 24, height() / 2.0 - 72, 48, 48);
     peintPictogramme(peintre, signe, Pictogramme::Clap,
                      melange(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.30));

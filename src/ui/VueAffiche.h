@@ -47,14 +47,13 @@ class CadreAffiche final : public QWidget {
     void tiensDans(const QSize& place);
 
   signals:
-    void statutClique();  // the status caption, or the surface around it, or a key there, while no picture hides it
+    void statutClique();  // the status caption, or the surface around it, while no picture hides it
 
   protected:
     void paintEvent(QPaintEvent* evenement) override;
     void resizeEvent(QResizeEvent* evenement) override;
     void mousePressEvent(QMouseEvent* evenement) override;
     void mouseReleaseEvent(QMouseEvent* evenement) override;
-    void keyPressEvent(QKeyEvent* evenement) override;
 
   private:
     VueAffiche* m_image;

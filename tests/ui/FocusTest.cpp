@@ -81,19 +81,4 @@ TEST_F(Focus, TabEntersAGroupAtItsCheckedOption) {
     EXPECT_EQ(entre(), "TypeFilm_1");
 }
 
-// Without a poster its place is what Tab reaches and Enter presses.
-TEST_F(Focus, APosterIsChosenByTheKeyboard) {
-    importe();
-    essai.cliqueTitre("Playtime");
-    QWidget* cadre = essai.trouve("Image1").parentWidget();
-    EXPECT_TRUE(cadre->focusPolicy() & Qt::TabFocus);
-    const std::string image = essai.dossier.chemin("tati.jpg");
-    essai.dossier.ecrit("tati.jpg", octetsDImage(Qt::blue));
-    essai.boites.fichier = image;
-    cadre->setFocus();
-    QTest::keyClick(cadre, Qt::Key_Return);
-    EXPECT_TRUE(essai.trouve("Image1").isVisible());
-    EXPECT_FALSE(cadre->focusPolicy() & Qt::TabFocus);
-}
-
 }  // namespace

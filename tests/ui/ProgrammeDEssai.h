@@ -39,15 +39,15 @@ struct Film {
 // Says yes to every question and remembers what was shown: the texts of the boxes are the other rooms' to test.
 struct BoitesAccommodantes final : dialogues::Dialogues {
     std::vector<std::string> messages;
-    std::string dossier, fichier;  // chosen when one is asked for
-    std::string reponse = "DVD";   // to what is asked for in writing
+    std::string dossier;
+    std::string reponse = "DVD";  // to what is asked for in writing
 
     int MsgBox(const std::string& texte, int style, const std::string&) override {
         messages.push_back(texte);
         return style == dialogues::kQuestion ? dialogues::kOui : dialogues::kOk;
     }
     std::string InputBox(const std::string&, const std::string&, const std::string&) override { return reponse; }
-    std::string choisitFichier(const dialogues::DemandeFichier&) override { return fichier; }
+    std::string choisitFichier(const dialogues::DemandeFichier&) override { return ""; }
     std::string choisitDossier(const std::string&, const std::string&) override { return dossier; }
 };
 
