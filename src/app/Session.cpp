@@ -328,7 +328,7 @@ void Session::txtCheminAjoutAuto_Change() {
 }
 
 void Session::cmdImporterBase_Click() {
-    m_rouages->importAncienneBase.ImporterAncienneBase();
+    puisVersLaListe(etats, [this] { m_rouages->importAncienneBase.ImporterAncienneBase(); });
 }
 
 void Session::cmdAjoutAuto_Click() {

@@ -23,7 +23,8 @@ void BoutonAccent::paintEvent(QPaintEvent*) {
         const QColor plein = accent(palette());
         peintSurface(peintre, rect(), survol ? accentSurvole(palette()) : plein, {});
         if (hasFocus())
-            peintContourDeFocus(peintre, rect(), melange(palette().color(QPalette::WindowText), plein, 0.55));
+            peintContourDeFocus(peintre, QRectF(rect()).adjusted(2, 2, -2, -2),
+                                palette().color(QPalette::Active, QPalette::HighlightedText), 3);
         option.palette.setColor(QPalette::ButtonText, palette().color(QPalette::Active, QPalette::HighlightedText));
     } else {
         peintre.drawControl(QStyle::CE_PushButtonBevel, option);

@@ -32,7 +32,8 @@ PanneauFonctions::PanneauFonctions(const Atelier& atelier, QWidget* parent) : QW
     const auto page = [etats = &atelier.etats()] {
         const auto& fonctions = etats->fonctions;
         return std::array{fonctions.frameOutils.Visible, fonctions.frameConfig.Visible,
-                          etats->ajout.frameAjoutAuto.Visible, etats->ajout.Frame13.Visible};
+                          etats->ajout.frameAjoutAuto.Visible, etats->ajout.Frame13.Visible,
+                          etats->ajout.frameImportBase.Visible};
     };
     auto suis = [=, montree = page()]() mutable {
         pages->setVisible(page()[0] || page()[1]);

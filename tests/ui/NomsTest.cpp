@@ -211,6 +211,9 @@ TEST(Noms, EachPageHasItsOwnMnemonicsAndNamesForScreenReaders) {
     ecran::Cadre &automatique = essai.etats().ajout.frameAjoutAuto, &manuelle = essai.etats().ajout.Frame13;
     essai.programme->commande().execute([&] { std::swap(automatique.Visible, manuelle.Visible); });
     verifie("manual entry");
+    ecran::Cadre& ancienne = essai.etats().ajout.frameImportBase;
+    essai.programme->commande().execute([&] { std::swap(ancienne.Visible, manuelle.Visible); });
+    verifie("previous installation");
     for (const char* page : {"cmdFonctionRecherche", "cmdConfigurer", "cmdMultiSuppress"}) {
         essai.clique(page);
         verifie(page);
