@@ -1,6 +1,7 @@
 #include "ui/DialoguesQt.h"
 
 #include "ui/Composition.h"
+#include "ui/UneSeuleLigne.h"
 #include "util/Texte.h"
 
 #include <QApplication>
@@ -103,6 +104,8 @@ void compose(QInputDialog& boite, const std::string& invite, const std::string& 
         texte->setWordWrap(true);
         texte->setTextInteractionFlags(Qt::TextSelectableByMouse);
     }
+    for (QLineEdit* zone : boite.findChildren<QLineEdit*>())
+        new UneSeuleLigne(zone);
     boite.resize(460, boite.sizeHint().height());
 }
 

@@ -15,6 +15,7 @@
 #include "ui/PanneauListe.h"
 #include "ui/PanneauMultiSuppression.h"
 #include "ui/PanneauRecherche.h"
+#include "ui/UneSeuleLigne.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -102,8 +103,10 @@ void FenetrePrincipale::completePanneaux() {
     m_droite->addWidget(new PanneauRecherche(m_atelier), 1);
     m_droite->addWidget(new PanneauFonctions(m_atelier), 1);
     m_droite->addWidget(new PanneauMultiSuppression(m_atelier), 1);
-    for (QLineEdit* zone : m_droite->parentWidget()->findChildren<QLineEdit*>())
+    for (QLineEdit* zone : m_droite->parentWidget()->findChildren<QLineEdit*>()) {
         new InfobulleEntiere(zone);
+        new UneSeuleLigne(zone);
+    }
     entreParLeChoisi(m_atelier.liaison, *this);
     setWindowIcon(icone(Pictogramme::Clap));
     tiensALEcran();

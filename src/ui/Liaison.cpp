@@ -1,11 +1,12 @@
 #include "ui/Liaison.h"
 
+#include "ui/TexteLong.h"
+
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -72,8 +73,8 @@ void montre(const ecran::ZoneTexte& etat, const ecran::ZoneTexte& ancien, QLineE
     if (!widget.hasFocus()) widget.setCursorPosition(0);  // a long text shows its beginning
 }
 
-void montre(const ecran::ZoneTexte& etat, const ecran::ZoneTexte& ancien, QPlainTextEdit& widget, Temoin& temoin) {
-    montreTexte(etat, ancien, widget, &QPlainTextEdit::toPlainText, &QPlainTextEdit::setPlainText, temoin);
+void montre(const ecran::ZoneTexte& etat, const ecran::ZoneTexte& ancien, TexteLong& widget, Temoin& temoin) {
+    montreTexte(etat, ancien, widget, &TexteLong::texte, &TexteLong::metTexte, temoin);
 }
 
 void montre(const ecran::ZoneTexte& etat, const ecran::ZoneTexte& ancien, QTextEdit& widget, Temoin&) {
@@ -136,8 +137,8 @@ bool lis(const QLineEdit& widget, ecran::ZoneTexte& etat, Temoin& temoin) {
     return lisTexte(widget.text(), etat, temoin);
 }
 
-bool lis(const QPlainTextEdit& widget, ecran::ZoneTexte& etat, Temoin& temoin) {
-    return lisTexte(widget.toPlainText(), etat, temoin);
+bool lis(const TexteLong& widget, ecran::ZoneTexte& etat, Temoin& temoin) {
+    return lisTexte(widget.texte(), etat, temoin);
 }
 
 bool lis(const QCheckBox& widget, ecran::CaseACocher& etat, Temoin&) {
@@ -211,7 +212,7 @@ void Liaison::lie(ecran::Bouton& etat, QAbstractButton* widget) {
 void Liaison::lie(ecran::ZoneTexte& etat, QLineEdit* widget) {
     ajoute(lienEntre(etat, widget));
 }
-void Liaison::lie(ecran::ZoneTexte& etat, QPlainTextEdit* widget) {
+void Liaison::lie(ecran::ZoneTexte& etat, TexteLong* widget) {
     ajoute(lienEntre(etat, widget));
 }
 void Liaison::lie(ecran::ZoneTexte& etat, QTextEdit* widget) {

@@ -11,13 +11,14 @@ class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
-class QPlainTextEdit;
 class QProgressBar;
 class QRadioButton;
 class QTextEdit;
 class QWidget;
 
 namespace ui {
+
+class TexteLong;
 
 // One control value of the state and the widget that shows it.
 class Lien {
@@ -37,7 +38,7 @@ class Liaison {
     void lie(ecran::Cadre& etat, QWidget* widget);  // the caption becomes the window title, which headings follow
     void lie(ecran::Bouton& etat, QAbstractButton* widget);
     void lie(ecran::ZoneTexte& etat, QLineEdit* widget);
-    void lie(ecran::ZoneTexte& etat, QPlainTextEdit* widget);
+    void lie(ecran::ZoneTexte& etat, TexteLong* widget);
     void lie(ecran::ZoneTexte& etat, QTextEdit* widget);  // shown, never typed in
     void lie(ecran::CaseACocher& etat, QCheckBox* widget);
     void lie(ecran::BoutonOption& etat, QRadioButton* widget);

@@ -2,8 +2,9 @@
 
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
+#include "ui/ListeDeSaisie.h"
 
-#include <QCompleter>
+#include <QKeyEvent>
 #include <QRadioButton>
 
 namespace ui {
@@ -23,14 +24,22 @@ PanneauPossession::PanneauPossession(const Atelier& atelier, QWidget* parent) : 
     m_atelier.liaison.lie(m_atelier.etats().fiche.frameAutresInfos[1], suite);
 }
 
+// Enter stores what was typed, as on the page of entry; with nothing typed it is the window's.
+void PanneauPossession::keyPressEvent(QKeyEvent* evenement) {
+    const bool valide = evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter;
+    if (!valide || !m_valider->isVisible()) return QWidget::keyPressEvent(evenement);
+    m_valider->click();
+}
+
 QLayout* PanneauPossession::choix() {
     auto& fiche = m_atelier.etats().fiche;
     auto* nonPossede = nomme(new QRadioButton(tr("Non possé&dé")), "Option1", 0);
     auto* possede = nomme(new QRadioButton(tr("&Possédé")), "Option1", 1);
     nonPossede->setToolTip(tr("Ce film n'est pas dans votre vidéothèque"));
     possede->setToolTip(tr("Ce film est dans votre vidéothèque"));
-    auto* valider = bouton<BoutonAccent>("cmdValiderInfosPossessions", tr("Val&ider"),
-                                         tr("Enregistrer ce qui concerne votre exemplaire"));
+    auto* valider = m_valider =
+        bouton<BoutonAccent>("cmdValiderInfosPossessions", tr("Val&ider"),
+                             tr("Enregistrer ce qui concerne votre exemplaire (Entrée, ou Ctrl+Entrée)"));
     m_atelier.liaison.lie(fiche.Option1[0], nonPossede);
     m_atelier.liaison.lie(fiche.Option1[1], possede);
     m_atelier.liaison.lie(fiche.cmdValiderInfosPossessions, valider);
@@ -86,11 +95,7 @@ QWidget* PanneauPossession::texte(std::size_t indice, const QString& nom) {
 }
 
 QWidget* PanneauPossession::liste(std::size_t indice) {
-    auto* choix = nomme(new ListeDeroulante, "Combo7", indice);
-    choix->setEditable(true);
-    choix->setInsertPolicy(QComboBox::NoInsert);
-    choix->completer()->setCompletionMode(QCompleter::PopupCompletion);  // inline it would change the letters typed
-    choix->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    auto* choix = nomme(listeDeSaisie(), "Combo7", indice);
     m_atelier.liaison.lie(m_atelier.etats().fiche.Combo7[indice], choix);
     const int numero = static_cast<int>(indice);
     m_atelier.aLaFrappe(choix->lineEdit(), &app::Session::Combo7_Change, numero);

@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-class QGridLayout;
+class QPushButton;
 
 namespace ui {
 
@@ -14,6 +14,9 @@ class PanneauPossession final : public QWidget {
   public:
     explicit PanneauPossession(const Atelier& atelier, QWidget* parent = nullptr);
 
+  protected:
+    void keyPressEvent(QKeyEvent* evenement) override;
+
   private:
     [[nodiscard]] QLayout* choix();
     [[nodiscard]] QWidget* exemplaire();
@@ -22,6 +25,7 @@ class PanneauPossession final : public QWidget {
     [[nodiscard]] QLayout* fichier(std::size_t indice);
 
     const Atelier m_atelier;
+    QPushButton* m_valider = nullptr;
 };
 
 // What can be done with the sheet, whichever of its pages is shown.

@@ -2,23 +2,24 @@
 
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
+#include "ui/ListeDeSaisie.h"
 #include "ui/Sections.h"
+#include "ui/TexteLong.h"
 
-#include <QCompleter>
 #include <QKeyEvent>
-#include <QPlainTextEdit>
 
 namespace ui {
 
 PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "Frame13");
     auto& ajout = m_atelier.etats().ajout;
-    auto* resume = nomme(new QPlainTextEdit, "txtResume");
+    auto* resume = nomme(new TexteLong, "txtResume");
     resume->setTabChangesFocus(true);
     resume->setMinimumHeight(110);
     auto* image = nomme((new Etiquette)->avecTon(Ton::Discret), "lblImage");
     auto* ajouter = m_ajouter =
-        bouton<BoutonAccent>("cmdAjoutFilm", tr("Ajouter"), tr("Enregistrer la fiche (Entrée ; Échap pour revenir)"));
+        bouton<BoutonAccent>("cmdAjoutFilm", tr("Ajouter"),
+                             tr("Enregistrer la fiche (Entrée, ou Ctrl+Entrée dans le résumé ; Échap pour revenir)"));
     m_atelier.liaison.lie(ajout.txtResume, resume);
     m_atelier.liaison.lie(ajout.lblImage, image);
     m_atelier.liaison.lie(ajout.cmdAjoutFilm, ajouter);
@@ -59,11 +60,7 @@ QWidget* PanneauSaisie::texte(std::size_t indice) {
 }
 
 QWidget* PanneauSaisie::liste(const char* nom, ecran::Liste& etat) {
-    auto* choix = nomme(new ListeDeroulante, nom);
-    choix->setEditable(true);
-    choix->setInsertPolicy(QComboBox::NoInsert);
-    choix->completer()->setCompletionMode(QCompleter::PopupCompletion);  // inline it would change the letters typed
-    choix->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    auto* choix = nomme(listeDeSaisie(), nom);
     m_atelier.liaison.lie(etat, choix);
     return choix;
 }
