@@ -1,13 +1,13 @@
 #pragma once
 
-#include "app/ChoixFonction.h"
-#include "browse/AfficheVolet.h"
-#include "browse/FilmCourant.h"
+#include "app/Saisies.h"
+#include "browse/AfficheAccueil.h"
+#include "edit/cmdAjoutFilm_Click.h"
 #include "edit/cmdModifierTitre_Click.h"
 #include "edit/cmdSupprimerTitre_Click.h"
+#include "edit/cmdValiderInfosPossessions_Click.h"
 
 #include <string>
-#include <vector>
 
 namespace app {
 
@@ -16,7 +16,6 @@ namespace app {
 class RaccourcisClavier {
   public:
     struct Montre {
-        EtatFonctions& fonctions;
         browse::EtatPanneaux& panneaux;
         browse::EtatFiche& fiche;
         edit::EtatAjout& ajout;
@@ -24,33 +23,30 @@ class RaccourcisClavier {
         ecran::Demandes& demandes;
     };
     struct Gestes {
+        Saisies& saisies;
         edit::VoletAjout& volet;
         edit::ModesAjout& modes;
+        edit::cmdAjoutFilm_Click& ajoute;
         edit::cmdModifierTitre_Click& modifie;
         edit::SuppressionTitre& supprime;
+        edit::cmdValiderInfosPossessions_Click& valide;
         browse::AfficheVolet& afficheVolet;
         browse::AfficheAccueil& afficheAccueil;
     };
-    RaccourcisClavier(const Montre& montre, const Gestes& gestes, dialogues::Dialogues& dialogues)
-        : m_montre(montre), m_gestes(gestes), m_dialogues(dialogues) {}
+    RaccourcisClavier(const Montre& montre, const Gestes& gestes) : m_montre(montre), m_gestes(gestes) {}
 
-    void QuittePanneau();   // back to the sheet of the current film, else to the presentation
+    void QuittePanneau();   // back to the sheet of the current film, else to the presentation; from there to the list
     void SaisieManuelle();  // the page of manual entry; one already begun is taken up again
+    void Modifie();         // the page that corrects the current film
     void ModifieFilmAffiche();
     void SupprimeFilmAffiche();
-    // The page of entry holds nothing that would be lost: it was just filled, or just stored.
-    void retientSaisie() { m_saisieRetenue = textesSaisis(); }
+    void Valide();  // stores what is being typed: the page of entry, or the holdings of the film shown
 
   private:
-    [[nodiscard]] std::vector<std::string> textesSaisis() const;
-    [[nodiscard]] bool saisieMontree() const;
-    [[nodiscard]] bool saisieEnSuspens() const { return textesSaisis() != m_saisieRetenue; }
-    [[nodiscard]] bool laisseLaSaisie();
-
     Montre m_montre;
     Gestes m_gestes;
-    dialogues::Dialogues& m_dialogues;
-    std::vector<std::string> m_saisieRetenue = textesSaisis();
 };
+
+[[nodiscard]] std::string texteTouches();  // the keys of the window, told to the user
 
 }  // namespace app

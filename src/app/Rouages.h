@@ -9,9 +9,11 @@
 #include "app/Demarrage.h"
 #include "app/LogicielsExternes.h"
 #include "app/RaccourcisClavier.h"
+#include "app/Saisies.h"
 #include "app/Session.h"
 #include "browse/AfficheNbTitres.h"
 #include "browse/Label12_Click.h"
+#include "browse/MontreFilm.h"
 #include "browse/SelectionneTitre.h"
 #include "browse/lblRealisateur_Click.h"
 #include "db/cmdChargeOuvreBase_Click.h"
@@ -93,6 +95,8 @@ struct Session::Rouages final : db::Rafraichissement {
     browse::Label12_Click label12{base, film, etats.fiche, etats.stockage, chemins, afficheFiche, machine.dialogues};
     browse::TreeView1 treeView1{etats.liste, afficheFiche, machine.dialogues};
     browse::SelectionneTitre selectionneTitre{etats.liste, base, treeView1};
+    browse::MontreFilm montreFilm{
+        base, etats.liste, film, affichageApresModification, selectionneTitre, machine.dialogues};
 
     // Poster viewer.
     view::TouchesAffiche touchesAffiche{visionneuse, etats.liste, film, afficheFiche, etats.demandes};
@@ -133,10 +137,11 @@ struct Session::Rouages final : db::Rafraichissement {
                                             machine.dialogues,
                                             machine.ecran,
                                             etats.demandes}};
-    edit::cmdAjoutFilm_Click cmdAjoutFilm{{base, etats.ajout, etats.fiche, etats.stockage, chemins, film,
-                                           enregistrement, doublons, machine.dialogues, machine.horloge},
-                                          {etats.liste, affichageApresModification, selectionneTitre,
-                                           creeEtAfficheRecherche, afficheNbTitres, listesDeSaisie}};
+    edit::cmdAjoutFilm_Click cmdAjoutFilm{
+        {base, etats.ajout, etats.fiche, etats.stockage, chemins, film, enregistrement, doublons, machine.dialogues,
+         machine.horloge},
+        {etats.liste, affichageApresModification, selectionneTitre, creeEtAfficheRecherche, afficheNbTitres, montreFilm,
+         etats.panneaux, modesAjout, avis, [this] { saisies.filmStocke(); }}};
 
     // Holdings.
     edit::SaisiePossession saisiePossession{etats.fiche, machine.dialogues};
@@ -144,7 +149,8 @@ struct Session::Rouages final : db::Rafraichissement {
         base,
         etats.fiche,
         film,
-        {affichageApresModification, selectionneTitre, afficheNbTitres, boitesDeroulantes},
+        {affichageApresModification, selectionneTitre, afficheNbTitres, boitesDeroulantes,
+         [this] { saisies.possessionStockee(); }},
         machine.dialogues};
 
     // Deletion, ratings, renaming, correction of the titles.
@@ -152,11 +158,11 @@ struct Session::Rouages final : db::Rafraichissement {
     edit::SuitesModification suites{affichageApresModification, selectionneTitre, afficheNbTitres, boitesDeroulantes};
     edit::SuppressionTitre suppressionTitre{
         base, etats.fiche, film, {etats.liste, afficheAccueil, afficheNbTitres, boitesDeroulantes}, machine.dialogues};
-    edit::MultiSuppression multiSuppression{
-        base,
-        {etats.liste, etats.fiche, etats.panneaux, etats.fonctions.Option4, etats.fonctions.cmdSupprTitresSelect},
-        outilsTravail,
-        suites};
+    edit::MultiSuppression multiSuppression{base,
+                                            {etats.liste, etats.fiche, etats.panneaux, etats.fonctions.Option4,
+                                             etats.fonctions.cmdSupprTitresSelect, etats.demandes},
+                                            outilsTravail,
+                                            suites};
     edit::Notation notation{etats.liste, film, modifieNoteFilm, suites, machine.dialogues};
     edit::RenommageGroupe renommageGroupe{base, etats.liste, film, outilsTravail, suites};
     edit::CorrectionTitres correctionTitres{base, etats.panneaux, outilsTravail, suites};
@@ -176,12 +182,15 @@ struct Session::Rouages final : db::Rafraichissement {
     // Life of the window.
     LogicielsExternes logiciels{etats.fonctions, extensions, chemins, machine.dialogues, etats.demandes};
     ChoixFonction choixFonction{etats.fonctions, etats.panneaux, afficheAccueil, modesAjout, logiciels};
-    edit::cmdModifierTitre_Click cmdModifierTitre{base,          etats.ajout, film,
-                                                  choixFonction, modesAjout,  machine.dialogues};
-    RaccourcisClavier raccourcis{
-        {etats.fonctions, etats.panneaux, etats.fiche, etats.ajout, film, etats.demandes},
-        {choixFonction, modesAjout, cmdModifierTitre, suppressionTitre, afficheVolet, afficheAccueil},
+    edit::cmdModifierTitre_Click cmdModifierTitre{base, etats.ajout,      film, choixFonction, modesAjout,
+                                                  avis, machine.dialogues};
+    Saisies saisies{
+        {etats.fonctions, etats.panneaux, etats.fiche, etats.liste, etats.ajout, film, etats.avis, etats.demandes},
+        {choixFonction, modesAjout, montreFilm, afficheVolet, avis},
         machine.dialogues};
+    RaccourcisClavier raccourcis{{etats.panneaux, etats.fiche, etats.ajout, film, etats.demandes},
+                                 {saisies, choixFonction, modesAjout, cmdAjoutFilm, cmdModifierTitre, suppressionTitre,
+                                  cmdValiderInfosPossessions, afficheVolet, afficheAccueil}};
     Demarrage demarrage{
         etats,    chemins,           extensions,
         instance, machine.dialogues, {option3, ouvertureBase, ouvertureJet, choixTri, choixZone, *this}};
@@ -197,6 +206,8 @@ struct Session::Rouages final : db::Rafraichissement {
     void rouvreSiRemplacee();
     void relis();
 
+    // Runs a command that may show something else than what is being typed; whatever followed the film follows it.
+    void garde(const std::function<void()>& commande);
     // Runs a command that closes the base and opens one again.
     void surLaBase(const std::function<void()>& commande);
 };

@@ -39,6 +39,20 @@ void puisVersLaListe(Etats& etats, Commande commande) {
 
 Session::Rouages::Rouages(const Machine& laMachine, Etats& lesEtats) : machine(laMachine), etats(lesEtats) {}
 
+void Session::Rouages::garde(const std::function<void()>& commande) {
+    const auto suite = [this] {
+        if (!etats.panneaux.frameMultiSuppression.Visible) multiSuppression.range();
+        if (!film.estUnFilm()) etats.fichiers.Visible = false;
+    };
+    try {
+        saisies.surveille(commande);
+    } catch (...) {
+        suite();
+        throw;
+    }
+    suite();
+}
+
 void Session::Rouages::surLaBase(const std::function<void()>& commande) {
     try {
         commande();
@@ -61,7 +75,7 @@ void Session::Rouages::rouvreSiRemplacee() {
     arbreRelu = true;
     avis.montre("La base a été remplacée par un autre programme : elle a été rouverte.");
     try {
-        relis();
+        garde([this] { relis(); });
     } catch (const db::RequeteEchouee&) {  // its message was shown
     }
 }
@@ -97,7 +111,12 @@ void Session::Form_Unload() {
     m_rouages->arret.execute(m_rouages->demarrage.reglagesLus());
 }
 
+bool Session::Form_QueryUnload() {
+    return !m_rouages->enMarche || m_rouages->saisies.abandonneTout();
+}
+
 void Session::cmdStop_Click() {
+    if (!Form_QueryUnload()) return;
     Form_Unload();
     throw systeme::FinDuProgramme{};
 }
@@ -112,7 +131,7 @@ void Session::Form_Resize(bool deuxPages) {
 }
 
 void Session::ChoixZone_Click() {
-    m_rouages->choixZone.Click();
+    m_rouages->garde([this] { m_rouages->choixZone.Click(); });
 }
 
 void Session::ChoixZone_DropDown() {
@@ -124,7 +143,7 @@ void Session::ChoixZone_CloseUp() {
 }
 
 void Session::ChoixTri_Click() {
-    m_rouages->choixTri.Click();
+    m_rouages->garde([this] { m_rouages->choixTri.Click(); });
 }
 
 void Session::vaCommencer() {
@@ -137,7 +156,7 @@ void Session::expliqueEchec(const std::string& raison) {
 
 void Session::TreeView1_NodeClick(int indice) {
     if (m_rouages->arbreRelu) return;
-    m_rouages->treeView1.NodeClick(indice);
+    m_rouages->garde([=, this] { m_rouages->treeView1.NodeClick(indice); });
 }
 
 void Session::TreeView1_NodeCheck(int indice, bool coche) {
@@ -151,7 +170,7 @@ void Session::TreeView1_NodeCheck(int indice, bool coche) {
 void Session::TreeView1_MouseUpDroit(int indice) {
     etats.menu = MenuContextuel::Aucun;
     if (m_rouages->arbreRelu) return;
-    etats.menu = menuDemande(m_rouages->treeView1.MouseUp(indice));
+    m_rouages->garde([=, this] { etats.menu = menuDemande(m_rouages->treeView1.MouseUp(indice)); });
 }
 
 void Session::AffStats_Click() {
@@ -167,7 +186,7 @@ void Session::cmdAutresInfos_Click() {
 }
 
 void Session::lblRealisateur_Click() {
-    m_rouages->lblRealisateur();
+    m_rouages->garde([this] { m_rouages->lblRealisateur(); });
 }
 
 void Session::cmdFichiersFilm_Click() {
@@ -188,11 +207,11 @@ void Session::Picture1_Click() {
 }
 
 void Session::Picture1_KeyDown(int code) {
-    m_rouages->touchesAffiche.Picture1_KeyDown(code);
+    m_rouages->garde([=, this] { m_rouages->touchesAffiche.Picture1_KeyDown(code); });
 }
 
 void Session::HScroll1_KeyDown(int code) {
-    m_rouages->touchesAffiche.HScroll1_KeyDown(code);
+    m_rouages->garde([=, this] { m_rouages->touchesAffiche.HScroll1_KeyDown(code); });
 }
 
 void Session::HScroll1_Change() {
@@ -200,7 +219,7 @@ void Session::HScroll1_Change() {
 }
 
 void Session::frmAffiche_KeyDown(int code) {
-    m_rouages->touchesAffiche.Form_KeyDown(code);
+    m_rouages->garde([=, this] { m_rouages->touchesAffiche.Form_KeyDown(code); });
 }
 
 void Session::frmAffiche_Resize(int largeur, int hauteur) {
@@ -220,16 +239,18 @@ void Session::cmdRemplacerImage_Click() {
 }
 
 void Session::ChoixFonction1_Divers() {
-    m_rouages->choixFonction.ChoixFonction1_Divers();
-    m_rouages->telechargement.ouvrePage();
+    m_rouages->garde([this] {
+        m_rouages->choixFonction.ChoixFonction1_Divers();
+        m_rouages->telechargement.ouvrePage();
+    });
 }
 
 void Session::ChoixFonction2_Outils() {
-    m_rouages->choixFonction.ChoixFonction2_Outils();
+    m_rouages->garde([this] { m_rouages->choixFonction.ChoixFonction2_Outils(); });
 }
 
 void Session::ChoixFonction3_Config() {
-    m_rouages->choixFonction.ChoixFonction3_Config();
+    m_rouages->garde([this] { m_rouages->choixFonction.ChoixFonction3_Config(); });
 }
 
 void Session::cmdAfficherFonctions_Click() {
@@ -241,15 +262,15 @@ void Session::cmdConfigurer_Click() {
 }
 
 void Session::cmdConfig_Click(int indice) {
-    m_rouages->choixFonction.cmdConfig_Click(indice);
+    m_rouages->garde([=, this] { m_rouages->choixFonction.cmdConfig_Click(indice); });
 }
 
 void Session::cmdFonctionRecherche_Click() {
-    m_rouages->cmdFonctionRecherche();
+    m_rouages->garde([this] { m_rouages->cmdFonctionRecherche(); });
 }
 
 void Session::cmdRecherche_Click() {
-    m_rouages->cmdRecherche();
+    m_rouages->garde([this] { m_rouages->cmdRecherche(); });
 }
 
 void Session::cmdAide_Click() {
@@ -281,7 +302,8 @@ void Session::cmdSupprExtension_Click() {
 }
 
 void Session::cmdChargeOuvreBase_Click() {
-    m_rouages->surLaBase([this] { m_rouages->cmdChargeOuvreBase(); });
+    if (!m_rouages->saisies.abandonneTout()) return;
+    m_rouages->garde([this] { m_rouages->surLaBase([this] { m_rouages->cmdChargeOuvreBase(); }); });
 }
 
 void Session::Option3_Click() {
@@ -293,15 +315,15 @@ void Session::cmdParcourir_Click() {
 }
 
 void Session::Label12_Click() {
-    m_rouages->label12();
+    m_rouages->garde([this] { m_rouages->label12(); });
 }
 
 void Session::cmdMajBase_Click() {
-    m_rouages->surLaBase([this] { m_rouages->cmdMajBase(); });
+    m_rouages->garde([this] { m_rouages->surLaBase([this] { m_rouages->cmdMajBase(); }); });
 }
 
 void Session::cmdCompacter_Click() {
-    m_rouages->surLaBase([this] { m_rouages->cmdCompacter(); });
+    m_rouages->garde([this] { m_rouages->surLaBase([this] { m_rouages->cmdCompacter(); }); });
 }
 
 void Session::cmdInfosBase_Click() {
@@ -309,14 +331,16 @@ void Session::cmdInfosBase_Click() {
 }
 
 void Session::cmdSupprInfosPerso_Click() {
-    m_rouages->cmdSupprInfosPerso();
+    m_rouages->garde([this] { m_rouages->cmdSupprInfosPerso(); });
 }
 
 void Session::Command13_Click(int indice) {
-    m_rouages->modesAjout.Command13_Click(indice);
-    m_rouages->telechargement.ouvrePage();
-    m_rouages->raccourcis.retientSaisie();
-    if (indice == 2) puisVersLaListe(etats, [this] { m_rouages->importAncienneBase.Command13_Click(); });
+    m_rouages->garde([=, this] {
+        m_rouages->modesAjout.Command13_Click(indice);
+        m_rouages->telechargement.ouvrePage();
+        m_rouages->saisies.retient();
+        if (indice == 2) puisVersLaListe(etats, [this] { m_rouages->importAncienneBase.Command13_Click(); });
+    });
 }
 
 void Session::cmdParcourir2_Click() {
@@ -332,26 +356,25 @@ void Session::cmdImporterBase_Click() {
 }
 
 void Session::cmdAjoutAuto_Click() {
-    puisVersLaListe(etats, [this] { m_rouages->importFiches.cmdAjoutAuto_Click(); });
+    m_rouages->garde([this] { puisVersLaListe(etats, [this] { m_rouages->importFiches.cmdAjoutAuto_Click(); }); });
 }
 
 void Session::cmdTelecharge_Click() {
-    puisVersLaListe(etats, [this] { m_rouages->telechargement.cmdTelecharge_Click(); });
+    m_rouages->garde([this] { puisVersLaListe(etats, [this] { m_rouages->telechargement.cmdTelecharge_Click(); }); });
 }
 
 void Session::txtRechInternet_KeyDown(int code, int majuscule) {
-    puisVersLaListe(etats, [=, this] { m_rouages->telechargement.txtRechInternet_KeyDown(code, majuscule); });
+    m_rouages->garde([=, this] {
+        puisVersLaListe(etats, [=, this] { m_rouages->telechargement.txtRechInternet_KeyDown(code, majuscule); });
+    });
 }
 
 void Session::cmdAjoutFilm_Click() {
-    const long avant = m_rouages->base.films.RecordCount();
-    m_rouages->cmdAjoutFilm();
-    if (m_rouages->base.films.RecordCount() > avant) m_rouages->raccourcis.retientSaisie();
+    m_rouages->garde([this] { m_rouages->cmdAjoutFilm(); });
 }
 
 void Session::cmdModifierTitre_Click() {
-    m_rouages->cmdModifierTitre();
-    m_rouages->raccourcis.retientSaisie();
+    m_rouages->garde([this] { m_rouages->raccourcis.Modifie(); });
 }
 
 void Session::ModifieFilm_Click() {
@@ -359,7 +382,7 @@ void Session::ModifieFilm_Click() {
 }
 
 void Session::cmdValiderInfosPossessions_Click() {
-    m_rouages->cmdValiderInfosPossessions();
+    m_rouages->garde([this] { m_rouages->cmdValiderInfosPossessions(); });
     etats.demandes.focus = "TreeView1";
 }
 
@@ -384,15 +407,15 @@ void Session::cmdRaffraichirListe_Click() {
 }
 
 void Session::cmdSupprimerTitre_Click() {
-    m_rouages->suppressionTitre.cmdSupprimerTitre_Click();
+    m_rouages->garde([this] { m_rouages->suppressionTitre.cmdSupprimerTitre_Click(); });
 }
 
 void Session::SupprFilm_Click() {
-    m_rouages->suppressionTitre.SupprFilm_Click();
+    m_rouages->garde([this] { m_rouages->suppressionTitre.SupprFilm_Click(); });
 }
 
 void Session::cmdMultiSuppress_Click() {
-    m_rouages->multiSuppression.cmdMultiSuppress_Click();
+    m_rouages->garde([this] { m_rouages->multiSuppression.cmdMultiSuppress_Click(); });
 }
 
 void Session::Option4_Click() {
@@ -400,23 +423,25 @@ void Session::Option4_Click() {
 }
 
 void Session::cmdSupprTitresSelect_Click() {
-    m_rouages->multiSuppression.cmdSupprTitresSelect_Click();
+    m_rouages->garde([this] { m_rouages->multiSuppression.cmdSupprTitresSelect_Click(); });
 }
 
 void Session::cmdModifieNote_Click() {
-    m_rouages->notation.cmdModifieNote_Click();
+    m_rouages->garde([this] { m_rouages->notation.cmdModifieNote_Click(); });
 }
 
 void Session::RenommerGenreFilms_Click() {
-    puisVersLaListe(etats, [this] { m_rouages->renommageGroupe.RenommerGenreFilms_Click(); });
+    m_rouages->garde(
+        [this] { puisVersLaListe(etats, [this] { m_rouages->renommageGroupe.RenommerGenreFilms_Click(); }); });
 }
 
 void Session::RenommeSupportFilms_Click() {
-    puisVersLaListe(etats, [this] { m_rouages->renommageGroupe.RenommeSupportFilms_Click(); });
+    m_rouages->garde(
+        [this] { puisVersLaListe(etats, [this] { m_rouages->renommageGroupe.RenommeSupportFilms_Click(); }); });
 }
 
 void Session::cmdPonctuation_Click() {
-    m_rouages->correctionTitres.cmdPonctuation_Click();
+    m_rouages->garde([this] { m_rouages->correctionTitres.cmdPonctuation_Click(); });
 }
 
 void Session::cmdCreeFichierTxt_Click() {
@@ -432,27 +457,36 @@ void Session::cmdCreerListe_Click() {
 }
 
 void Session::cmdAvis_Click(int indice) {
-    m_rouages->avis.cmdAvis_Click(static_cast<std::size_t>(indice));
+    m_rouages->garde([=, this] { m_rouages->avis.cmdAvis_Click(static_cast<std::size_t>(indice)); });
 }
 
 void Session::cmdFermerAvis_Click() {
+    m_rouages->saisies.oublie();
     m_rouages->avis.retire();
 }
 
 void Session::QuittePanneau() {
-    m_rouages->raccourcis.QuittePanneau();
+    m_rouages->garde([this] { m_rouages->raccourcis.QuittePanneau(); });
 }
 
 void Session::SaisieManuelle() {
-    m_rouages->raccourcis.SaisieManuelle();
+    m_rouages->garde([this] { m_rouages->raccourcis.SaisieManuelle(); });
 }
 
 void Session::ModifieFilmAffiche() {
-    m_rouages->raccourcis.ModifieFilmAffiche();
+    m_rouages->garde([this] { m_rouages->raccourcis.ModifieFilmAffiche(); });
+}
+
+void Session::ValideSaisie() {
+    m_rouages->garde([this] { m_rouages->raccourcis.Valide(); });
+}
+
+void Session::MontreTouches() {
+    m_rouages->machine.dialogues.MsgBox(texteTouches(), dialogues::kInformation);
 }
 
 void Session::SupprimeFilmAffiche() {
-    m_rouages->raccourcis.SupprimeFilmAffiche();
+    m_rouages->garde([this] { m_rouages->raccourcis.SupprimeFilmAffiche(); });
 }
 
 }  // namespace app

@@ -44,7 +44,9 @@ class Session {
     void Form_Load();
     void Form_Activate();
     void Form_Unload();
-    void cmdStop_Click();  // shuts down, then throws FinDuProgramme
+    // Asks, where something is typed that closing the window would lose; false: the window stays.
+    [[nodiscard]] bool Form_QueryUnload();
+    void cmdStop_Click();  // asks the same, shuts down, then throws FinDuProgramme
     // The layout has room for both pages of the sheet, or no longer has.
     void Form_Resize(bool deuxPages);
 
@@ -61,7 +63,7 @@ class Session {
     void ChoixTri_Click();
     void TreeView1_NodeClick(int indice);
     void TreeView1_NodeCheck(int indice, bool coche);
-    // A right click on a node (which first does what a click does); sets etats.menu.
+    // A right click on a node (which first does what a click on another does); sets etats.menu.
     void TreeView1_MouseUpDroit(int indice);
     void AffStats_Click();
 
@@ -164,6 +166,8 @@ class Session {
     void SaisieManuelle();
     void ModifieFilmAffiche();
     void SupprimeFilmAffiche();
+    void ValideSaisie();
+    void MontreTouches();
 
   private:
     struct Rouages;  // the base, the paths and the commands

@@ -8,13 +8,20 @@ namespace browse {
 
 namespace {
 
-constexpr std::size_t kNonPossede = 0, kPossede = 1;
+constexpr std::size_t kNonPossede = 0;
 constexpr std::size_t kRangement = 3, kDivers = 4, kDate = 6;  // in Text10, after the three files
 
-// A text that need not be one of the list.
-void ecrit(ecran::Liste& liste, std::string texte) {
-    liste.ListIndex = -1;
-    liste.Text = std::move(texte);
+ChampsPossession lis(const dao::Recordset& possession) {
+    ChampsPossession champs;
+    champs.possede = true;
+    champs.Text10[0] = possession.texte("Fichier1");
+    champs.Text10[1] = possession.texte("Fichier2");
+    champs.Text10[2] = possession.texte("Fichier3");
+    champs.Text10[kRangement] = possession.texte("Rangement");
+    champs.Text10[kDivers] = possession.texte("Divers");
+    champs.Text10[kDate] = possession.texte("Date");
+    champs.Combo7 = {possession.texte("Pret"), possession.texte("Reserve"), possession.texte("Support")};
+    return champs;
 }
 
 }  // namespace
@@ -31,48 +38,29 @@ void AffichePossession::operator()() {
     dao::Recordset possession = db::ouvreRequete(m_base.base, db::enoncePossession(m_film.titre, m_film.realisateur),
                                                  db::NumeroErreur::AfficheFiche, m_dialogues);
     m_fiche.cmdValiderInfosPossessions.Visible = false;
-    if (possession.Eof())
-        videLesChamps();
-    else
-        remplit(possession);
+    m_film.possession = possession.Eof() ? ChampsPossession() : lis(possession);
+    ecritChampsPossession(m_fiche, m_film.possession);
     montrePossession(m_fiche);
+    retientLesFichiers();
     m_fiche.cmdFichiersFilm.Visible = m_film.fichiersPresents;
     nommeLesFichiers();
 }
 
-void AffichePossession::remplit(const dao::Recordset& possession) {
-    ecran::choisit(m_fiche.Option1, kPossede);
-    m_fiche.Text10[kRangement].Text = possession.texte("Rangement");
-    const std::array<std::string, 3> fichiers{possession.texte("Fichier1"), possession.texte("Fichier2"),
-                                              possession.texte("Fichier3")};
-    for (std::size_t i = 0; i < fichiers.size(); ++i)
-        m_fiche.Text10[i].Text = fichiers[i];
-    ecrit(m_fiche.Combo7[0], possession.texte("Pret"));
-    ecrit(m_fiche.Combo7[1], possession.texte("Reserve"));
-    m_fiche.Text10[kDate].Text = possession.texte("Date");
-    ecrit(m_fiche.Combo7[2], possession.texte("Support"));
-    m_fiche.Text10[kDivers].Text = possession.texte("Divers");
-    if (fichiers[0].empty()) return;
-    m_film.fichiersPresents = true;
-    m_film.fichiers = fichiers;
-    m_fiche.captionFichiers = m_film.titre;
+void AffichePossession::retientLesFichiers() {
+    for (std::size_t i = 0; i < m_film.fichiers.size(); ++i) {
+        m_film.fichiers[i] = m_film.possession.Text10[i];
+        if (!m_film.fichiers[i].empty()) m_film.fichiersPresents = true;
+    }
 }
 
 void AffichePossession::nommeLesFichiers() {
+    m_fiche.captionFichiers = m_film.titre;
     m_fiche.cheminsFichiers = m_film.fichiers;
     for (std::size_t i = 0; i < m_film.fichiers.size(); ++i) {
         const std::string nom = fichiers::nomDeFichier(m_film.fichiers[i]);
         m_fiche.Command1[i].Enabled = !m_film.fichiers[i].empty();
         m_fiche.Command1[i].Caption = nom.empty() ? "Fichier " + std::to_string(i + 1) : nom;
     }
-}
-
-void AffichePossession::videLesChamps() {
-    ecran::choisit(m_fiche.Option1, kNonPossede);
-    for (ecran::ZoneTexte& zone : m_fiche.Text10)
-        zone.Text.clear();
-    for (ecran::Liste& liste : m_fiche.Combo7)
-        ecrit(liste, "");
 }
 
 }  // namespace browse

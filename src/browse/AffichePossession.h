@@ -21,9 +21,8 @@ class AffichePossession {
     void operator()();
 
   private:
-    void remplit(const dao::Recordset& possession);
+    void retientLesFichiers();
     void nommeLesFichiers();
-    void videLesChamps();
 
     db::Base& m_base;
     EtatFiche& m_fiche;

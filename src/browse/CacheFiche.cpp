@@ -3,7 +3,7 @@
 namespace browse {
 
 void CacheFiche(EtatPanneaux& panneaux) {
-    panneaux.frameFiche.Visible = false;
+    if (!panneaux.figes) panneaux.frameFiche.Visible = false;
 }
 
 }  // namespace browse

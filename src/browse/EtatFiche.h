@@ -19,7 +19,7 @@ struct EtatFiche {
     std::array<ecran::Cadre, 2> frameGeneralites;
     std::array<ecran::Cadre, 2> frameAutresInfos;
     ecran::Bouton cmdGeneralites, cmdAutresInfos;  // hidden where the layout shows both pages
-    ecran::Bouton cmdFichiersFilm;                 // opens frmFichiersFilm; visible when files are attached
+    ecran::Bouton cmdFichiersFilm;                 // opens frmFichiersFilm; visible when a file is attached
     ecran::Bouton cmdModifieNote, cmdModifierTitre, cmdSupprimerTitre, cmdCreeFichierTxt;
 
     // Holdings.

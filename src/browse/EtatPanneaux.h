@@ -4,7 +4,7 @@
 
 namespace browse {
 
-// The right side of the window shows one frame at a time.
+// The right side of the window shows one frame at a time, or deletion by ticking with a sheet.
 struct EtatPanneaux {
     ecran::Cadre framePresentation;      // nothing chosen: what the program is and what to do first
     ecran::Cadre frameFiche;             // the film sheet
@@ -12,17 +12,38 @@ struct EtatPanneaux {
     ecran::Cadre frameListeFonctions;    // the function panels (app::EtatFonctions)
     ecran::Cadre frameMultiSuppression;  // deletion by ticking
 
-    EtatPanneaux() { montre(framePresentation); }
-    // Shows that frame and hides the others; montreAucun hides them all.
-    void montre(ecran::Cadre& cadre) {
+    EtatPanneaux() {
         montreAucun();
-        cadre.Visible = true;
+        framePresentation.Visible = true;
+    }
+    // Shows that frame and hides the others; montreAucun hides them all. Deletion by ticking stays beside the sheets
+    // that are looked at meanwhile, and takes the place of the presentation.
+    void montre(ecran::Cadre& cadre) {
+        if (figes) return;
+        const bool coche = frameMultiSuppression.Visible && (&cadre == &frameFiche || &cadre == &framePresentation);
+        montreAucun();
+        cadre.Visible = !coche || &cadre == &frameFiche;
+        if (coche) frameMultiSuppression.Visible = true;
     }
     void montreAucun() {
         for (ecran::Cadre* c :
              {&framePresentation, &frameFiche, &frameRecherche, &frameListeFonctions, &frameMultiSuppression})
             c->Visible = false;
     }
+
+    bool figes = false;  // by PanneauxFiges
+};
+
+// While it lasts the right side stays what it is, whatever is prepared behind it.
+class PanneauxFiges {
+  public:
+    explicit PanneauxFiges(EtatPanneaux& panneaux) : m_panneaux(panneaux) { m_panneaux.figes = true; }
+    PanneauxFiges(const PanneauxFiges&) = delete;
+    PanneauxFiges& operator=(const PanneauxFiges&) = delete;
+    ~PanneauxFiges() { m_panneaux.figes = false; }
+
+  private:
+    EtatPanneaux& m_panneaux;
 };
 
 }  // namespace browse

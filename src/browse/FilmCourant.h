@@ -1,5 +1,7 @@
 #pragma once
 
+#include "browse/ChampsPossession.h"
+
 #include <array>
 #include <string>
 
@@ -12,8 +14,9 @@ struct FilmCourant {
     std::string cle;  // key of the tree's selected node
     std::string titre;
     std::string realisateur;
-    bool fichiersPresents = false;        // its first attached file is set
+    bool fichiersPresents = false;        // one of its attached files is set
     std::array<std::string, 3> fichiers;  // the attached files, for the launcher
+    ChampsPossession possession;          // as it was read
     std::string affiche;  // "" none, "JPG" + file name, or "STO" alone: the bytes are in the temporary file
 };
 

@@ -30,7 +30,7 @@ void TreeView1::NodeCheck(int indice, bool coche) {
 }
 
 MenuArbre TreeView1::MouseUp(int indice) {
-    NodeClick(indice);
+    if (indice != m_liste.noeudChoisi) NodeClick(indice);
     const VueArbre& vue = m_liste.TreeView1;
     if (!existe(vue.Nodes, vue.SelectedItem) || m_liste.noeudChoisi < 0) return MenuArbre::Aucun;
     m_liste.cleCliquee = vue.Nodes.Key(vue.SelectedItem);

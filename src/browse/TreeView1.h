@@ -17,6 +17,7 @@ class TreeView1 {
     // A heading that gets ticked is unticked again, with a message.
     void NodeCheck(int indice, bool coche);
     // The right button over a node does first what a click on it does; over none (0) it is for the node chosen before.
+    // Over the node that is chosen already nothing is shown anew: what the user is typing beside it stays.
     [[nodiscard]] MenuArbre MouseUp(int indice);
 
   private:

@@ -1,5 +1,7 @@
 #include "edit/Command13_Click.h"
 
+#include "edit/TitreCite.h"
+
 #include <cstddef>
 
 namespace edit {
@@ -14,6 +16,11 @@ void ModesAjout::Command13_Click(int indice) {
     m_ajout.frameImportBase.Visible = indice == 2;
     if (indice == 0) ouvreAjoutAutomatique();
     if (indice == 1) ouvreSaisie();
+}
+
+void ModesAjout::passeEnCorrection(const std::string& titre) {
+    m_ajout.cmdAjoutFilm.Caption = "Modifier";
+    m_ajout.Label5.Caption = "Correction de " + titreCite(titre);
 }
 
 void ModesAjout::ouvreAjoutAutomatique() {

@@ -5,6 +5,8 @@
 #include "edit/TitreDejaExistant.h"
 #include "platform/ecran/Ecran.h"
 
+#include <string>
+
 namespace edit {
 
 // The buttons at the top of the add panel, each of which opens one way of adding films.
@@ -16,6 +18,8 @@ class ModesAjout {
     // 0: automatic import and web search; 1: manual entry, of an empty sheet. Back to add mode whatever was being
     // modified. Throws db::RequeteEchouee after its message.
     void Command13_Click(int indice);
+    // The page of manual entry corrects that film from now on, and names it.
+    void passeEnCorrection(const std::string& titre);
 
   private:
     void ouvreAjoutAutomatique();

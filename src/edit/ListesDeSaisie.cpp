@@ -1,11 +1,8 @@
 #include "edit/ListesDeSaisie.h"
 
 #include "db/Requete.h"
-#include "platform/dao/Comparaison.h"
 
-#include <algorithm>
 #include <string>
-#include <utility>
 
 namespace edit {
 
@@ -32,17 +29,6 @@ ecran::Liste& ListesDeSaisie::liste(std::size_t rang) {
 void ListesDeSaisie::remplit() {
     for (std::size_t rang = 0; rang < kSources.size(); ++rang)
         relit(rang);
-}
-
-void ListesDeSaisie::complete() {
-    for (std::size_t rang = 0; rang < kSources.size(); ++rang) {
-        ecran::Liste& choix = liste(rang);
-        const std::string enCours = choix.Text;
-        const auto estEnCours = [&](const std::string& valeur) { return dao::egalJet(valeur, enCours); };
-        if (enCours.empty() || std::any_of(choix.Items.begin(), choix.Items.end(), estEnCours)) continue;
-        relit(rang);
-        choix.Text = enCours;
-    }
 }
 
 void ListesDeSaisie::relit(std::size_t rang) {

@@ -14,9 +14,6 @@ class ListesDeSaisie {
         : m_base(base), m_ajout(ajout), m_dialogues(dialogues) {}
 
     void remplit();  // nothing that was typed in them stays
-    // After an addition, the next film being often of the same kind: a list that lacks its text is read again. What is
-    // typed stays.
-    void complete();
 
   private:
     void relit(std::size_t rang);

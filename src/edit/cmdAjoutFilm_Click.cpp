@@ -4,10 +4,31 @@
 #include "db/Requete.h"
 #include "edit/AjoutePossession.h"
 #include "edit/LongueursChamps.h"
+#include "edit/TitreCite.h"
+#include "platform/dao/Comparaison.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/Texte.h"
 
 namespace edit {
+
+namespace {
+
+// What there is to know of a holding, in a few words; empty when it holds nothing.
+std::string decris(const dao::Recordset& possession) {
+    std::string texte;
+    const auto ajoute = [&](const std::string& avant, const std::string& valeur) {
+        if (!valeur.empty()) texte += (texte.empty() ? "" : ", ") + avant + util::coupe(valeur, 30);
+    };
+    for (const char* champ : {"Support", "Rangement", "Date", "Divers"})
+        ajoute("", possession.texte(champ));
+    ajoute("prêté à ", possession.texte("Pret"));
+    ajoute("réservé pour ", possession.texte("Reserve"));
+    for (const char* champ : {"Fichier1", "Fichier2", "Fichier3"})
+        ajoute("", fichiers::nomDeFichier(possession.texte(champ)));
+    return texte;
+}
+
+}  // namespace
 
 void cmdAjoutFilm_Click::operator()() {
     const Identite film{util::coupe(m_outils.ajout.Text3[0].Text, kLongueurTitre),
@@ -31,25 +52,54 @@ std::string cmdAjoutFilm_Click::motifDeRefus(const Identite& film) const {
     return "";
 }
 
-// A change of letter case alone is none: the film would be its own duplicate.
+// A name that the base holds for the same one is none: the film would be its own duplicate.
 bool cmdAjoutFilm_Click::changeDeNom(const Identite& film) const {
-    return util::majuscules(film.titre) != util::majuscules(m_outils.courant.titre) ||
-           util::majuscules(film.realisateur) != util::majuscules(m_outils.courant.realisateur);
+    const auto change = [](const std::string& nouveau, const std::string& ancien) {
+        return util::majuscules(nouveau) != util::majuscules(ancien) && !dao::egalJet(nouveau, ancien);
+    };
+    return change(film.titre, m_outils.courant.titre) || change(film.realisateur, m_outils.courant.realisateur);
 }
 
 void cmdAjoutFilm_Click::ajoute(const Identite& film) {
     const std::string affiche = choisitAffiche();
     const std::string date = m_outils.horloge.dateDuJour();
     FilmPret pret = m_outils.enregistrement.prepare(affiche);
+    dao::Recordset orpheline = db::ouvreRequete(m_outils.base.base, db::enoncePossession(film.titre, film.realisateur),
+                                                db::NumeroErreur::cmdAjoutFilm, m_outils.dialogues);
+    std::string possession;
     {
         dao::Transaction transaction(m_outils.base.base);
         m_outils.enregistrement.ecrit(pret, m_outils.ajout.txtResume.Text, date);
-        ajoutePossession(m_outils.base.personnel, film.titre, film.realisateur);
+        possession = possede(film, orpheline);
         transaction.confirme();
     }
+    if (m_suites.stockee) m_suites.stockee();
     if (pret.sort == SortAffiche::Illisible)
         m_outils.dialogues.MsgBox("L'image n'a pas pu être enregistrée (" + affiche + ") !", dialogues::kExclamation);
-    montreAjoutsDuJour(date);
+    annonce(film, possession, pret.sort);
+    montreLeFilmAjoute(film, date);
+}
+
+std::string cmdAjoutFilm_Click::possede(const Identite& film, dao::Recordset& orpheline) {
+    if (orpheline.RecordCount() < 1) {
+        ajoutePossession(m_outils.base.personnel, film.titre, film.realisateur);
+        return "";
+    }
+    std::string description = decris(orpheline);
+    orpheline.Edit();
+    nommeFilmPossede(orpheline, film.titre, film.realisateur);
+    orpheline.Update();
+    return description;
+}
+
+void cmdAjoutFilm_Click::annonce(const Identite& film, const std::string& possession, SortAffiche affiche) {
+    std::string texte = titreCite(film.titre) + " ajouté";
+    if (affiche == SortAffiche::TropGrande) texte += ", sans son affiche, trop grande pour tenir en base";
+    if (!possession.empty()) texte += ", avec la possession que ce titre avait déjà (" + possession + ")";
+    m_suites.avis.montre(texte + ".", {{"Afficher", [suites = m_suites, film] {
+                                            if (!suites.montreFilm(film.titre, film.realisateur))
+                                                suites.avis.montre(titreCite(film.titre) + " n'est plus dans la base.");
+                                        }}});
 }
 
 // Asked again until the choice can be taken; none is a choice too.
@@ -83,12 +133,15 @@ void cmdAjoutFilm_Click::annonceAffiche(const std::string& chemin) {
     m_outils.fiche.Label12.Caption = chemin;
 }
 
-void cmdAjoutFilm_Click::montreAjoutsDuJour(const std::string& date) {
+// Its sheet is ready behind the page, which waits for the next film.
+void cmdAjoutFilm_Click::montreLeFilmAjoute(const Identite& film, const std::string& date) {
+    const browse::PanneauxFiges laPageReste(m_suites.panneaux);
     m_suites.liste.critereRecherche = "DateAjout = \"" + date + "\"";
     m_suites.liste.zoneRecherche = browse::kZoneTous;
     m_suites.creeEtAfficheRecherche();
+    m_suites.selectionneTitre(film.titre, film.realisateur);
     m_suites.afficheNbTitres();
-    m_suites.listes.complete();
+    m_suites.modes.Command13_Click(1);
 }
 
 void cmdAjoutFilm_Click::modifie(const Identite& film) {
@@ -106,9 +159,23 @@ void cmdAjoutFilm_Click::modifie(const Identite& film) {
         }
         transaction.confirme();
     }
-    m_suites.affichageApresModification();
-    m_suites.selectionneTitre(film.titre, film.realisateur);
+    if (m_suites.stockee) m_suites.stockee();
+    remontre(film);
     m_suites.afficheNbTitres();  // a film that had gone was added again
+}
+
+// The sheet takes the place of the page at once; only a film that the listing lacks leaves the presentation there.
+void cmdAjoutFilm_Click::remontre(const Identite& film) {
+    browse::EtatPanneaux& panneaux = m_suites.panneaux;
+    try {
+        const browse::PanneauxFiges jusquALaFiche(panneaux);
+        m_suites.affichageApresModification();
+    } catch (...) {
+        panneaux.montre(panneaux.framePresentation);
+        throw;
+    }
+    m_suites.selectionneTitre(film.titre, film.realisateur);
+    if (!m_outils.courant.estUnFilm()) panneaux.montre(panneaux.framePresentation);
 }
 
 }  // namespace edit

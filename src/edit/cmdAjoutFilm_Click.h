@@ -4,12 +4,16 @@
 #include "browse/AfficheNbTitres.h"
 #include "browse/CreeEtAfficheRecherche.h"
 #include "browse/EtatFiche.h"
+#include "browse/EtatPanneaux.h"
+#include "browse/MontreFilm.h"
 #include "browse/SelectionneTitre.h"
+#include "edit/Command13_Click.h"
 #include "edit/EnregistreNouveauFilm.h"
-#include "edit/ListesDeSaisie.h"
 #include "edit/TitreDejaExistant.h"
+#include "platform/ecran/Avis.h"
 #include "platform/systeme/Horloge.h"
 
+#include <functional>
 #include <string>
 
 namespace edit {
@@ -35,12 +39,16 @@ struct SuitesSaisie {
     browse::SelectionneTitre& selectionneTitre;
     browse::CreeEtAfficheRecherche& creeEtAfficheRecherche;
     browse::AfficheNbTitres& afficheNbTitres;
-    ListesDeSaisie& listes;
+    browse::MontreFilm& montreFilm;
+    browse::EtatPanneaux& panneaux;
+    ModesAjout& modes;
+    ecran::Avis& avis;
+    std::function<void()> stockee = {};  // told as soon as the film is in the base
 };
 
-// Checks the manual entry and stores it. In add mode the film and its holding are added, and the films of the day shown;
-// in modify mode (caption of the button) the current film and its holding are rewritten, and the film shown again.
-// Both rows are written or neither.
+// Checks the manual entry and stores it. In add mode the film and its holding are added, the films of the day listed with
+// the new one selected, and the page emptied for the next; in modify mode (caption of the button) the current film and
+// its holding are rewritten, and the film shown again. Both rows are written or neither.
 class cmdAjoutFilm_Click {
   public:
     cmdAjoutFilm_Click(const OutilsSaisie& outils, const SuitesSaisie& suites) : m_outils(outils), m_suites(suites) {}
@@ -57,11 +65,15 @@ class cmdAjoutFilm_Click {
     [[nodiscard]] std::string motifDeRefus(const Identite& film) const;  // empty: the entry is accepted
     [[nodiscard]] bool changeDeNom(const Identite& film) const;
     void ajoute(const Identite& film);
+    // The holding of the film; one that no film had any more becomes its own, as it stands, and is described.
+    [[nodiscard]] std::string possede(const Identite& film, dao::Recordset& orpheline);
+    void annonce(const Identite& film, const std::string& possession, SortAffiche affiche);
+    void montreLeFilmAjoute(const Identite& film, const std::string& date);
     [[nodiscard]] std::string choisitAffiche();
     [[nodiscard]] std::string motifDeRefusAffiche(const std::string& chemin) const;
     void annonceAffiche(const std::string& chemin);
-    void montreAjoutsDuJour(const std::string& date);
     void modifie(const Identite& film);
+    void remontre(const Identite& film);
 
     OutilsSaisie m_outils;
     SuitesSaisie m_suites;

@@ -8,6 +8,13 @@ namespace edit {
 
 void MultiSuppression::cmdMultiSuppress_Click() {
     m_controles.panneaux.montre(m_controles.panneaux.frameMultiSuppression);
+    m_controles.demandes.focus = m_controles.Option4[1].Value ? "Option4_1" : "Option4_0";
+}
+
+void MultiSuppression::range() {
+    if (!m_controles.liste.TreeView1.Checkboxes) return;
+    ecran::choisit(m_controles.Option4, 0);
+    Option4_Click();
 }
 
 void MultiSuppression::Option4_Click() {
@@ -69,11 +76,9 @@ MultiSuppression::Supprimes MultiSuppression::supprime(const std::vector<Film>& 
 
 // The panel stays: the user may have more to tick.
 void MultiSuppression::montre(const Supprimes& supprimes) {
-    const browse::EtatPanneaux panneaux = m_controles.panneaux;
     m_controles.liste.Frame1.Caption = "Liste des titres";
     m_suites.afficheNbTitres();
     m_suites.affichageApresModification();
-    m_controles.panneaux = panneaux;
     if (supprimes.possessions) m_suites.boites.RaffraichitBoitesDeroulantes();
     m_outils.dialogues.MsgBox(util::phraseCompte(supprimes.films, "# titre supprimé.", "# titres supprimés."),
                               dialogues::kInformation);

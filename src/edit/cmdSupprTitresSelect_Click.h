@@ -23,6 +23,7 @@ class MultiSuppression {
         browse::EtatPanneaux& panneaux;
         std::array<ecran::BoutonOption, 2>& Option4;
         ecran::Bouton& cmdSupprTitresSelect;
+        ecran::Demandes& demandes;
     };
 
     MultiSuppression(db::Base& base, const Controles& controles, const OutilsTravail& outils,
@@ -30,6 +31,7 @@ class MultiSuppression {
         : m_base(base), m_controles(controles), m_outils(outils), m_suites(suites) {}
 
     void cmdMultiSuppress_Click();  // shows the panel
+    void range();                   // the panel was left: no boxes any more
     void Option4_Click();           // the check boxes come or go; ticks out of sight are kept
     // Holdings go with their films when the sheet shows its own film as owned, whatever is true of each. Stopped by the
     // user or by a failure of the base, it reports what was deleted until then.

@@ -11,6 +11,7 @@ void cmdValiderInfosPossessions_Click::operator()() {
     if (!m_courant.estUnFilm()) return;
     const std::string titre = m_courant.titre, realisateur = m_courant.realisateur;  // the refresh forgets them
     enregistre();
+    if (m_suites.stockee) m_suites.stockee();
     m_suites.affichageApresModification();
     m_suites.selectionneTitre(titre, realisateur);
     m_suites.afficheNbTitres();

@@ -6,6 +6,8 @@
 #include "browse/SelectionneTitre.h"
 #include "edit/RaffraichitBoitesDeroulantes.h"
 
+#include <functional>
+
 namespace edit {
 
 // How a holding that changed is shown. All of it outlives the command.
@@ -14,6 +16,7 @@ struct SuitesPossession {
     browse::SelectionneTitre& selectionneTitre;
     browse::AfficheNbTitres& afficheNbTitres;
     BoitesDeroulantes& boites;
+    std::function<void()> stockee = {};  // told as soon as the holding is in the base
 };
 
 // Stores the holdings part of the sheet as the current film's holding, or deletes that one where the film is no longer

@@ -16,7 +16,8 @@ class SuppressionTest : public FenetreEdition {
     std::array<ecran::BoutonOption, 2> Option4;
     ecran::Bouton cmdSupprTitresSelect;
     edit::SuppressionTitre suppression{base, fiche, film, {liste, afficheAccueil, afficheNbTitres, boites}, dialogues};
-    edit::MultiSuppression multi{base, {liste, fiche, panneaux, Option4, cmdSupprTitresSelect}, outils(), suites};
+    edit::MultiSuppression multi{
+        base, {liste, fiche, panneaux, Option4, cmdSupprTitresSelect, demandes}, outils(), suites};
 
     void coche(const std::vector<std::string>& textes) {
         for (const std::string& texte : textes)

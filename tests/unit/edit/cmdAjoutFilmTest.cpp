@@ -35,10 +35,22 @@ class cmdAjoutFilm : public Fenetre {
     edit::Doublons doublons{base, dialogues};
     edit::ModesAjout modes{ajout, demandes, listes, doublons};
     edit::EnregistrementFilm enregistrement{base, ajout, stockage, chemins, film, dialogues};
-    edit::cmdModifierTitre_Click cmdModifierTitre{base, ajout, film, volet, modes, dialogues};
+    ecran::EtatAvis etatAvis;
+    ecran::Avis avis{etatAvis};
+    browse::MontreFilm montreFilm{base, liste, film, affichageApresModification, selectionneTitre, dialogues};
+    edit::cmdModifierTitre_Click cmdModifierTitre{base, ajout, film, volet, modes, avis, dialogues};
     edit::cmdAjoutFilm_Click commande{
         {base, ajout, fiche, stockage, chemins, film, enregistrement, doublons, dialogues, horloge},
-        {liste, affichageApresModification, selectionneTitre, creeEtAfficheRecherche, afficheNbTitres, listes}};
+        {liste,
+         affichageApresModification,
+         selectionneTitre,
+         creeEtAfficheRecherche,
+         afficheNbTitres,
+         montreFilm,
+         panneaux,
+         modes,
+         avis,
+         {}}};
 
     void saisis(const std::string& titre, const std::string& realisateur) {
         ajout.Text3[0].Text = titre;
@@ -99,17 +111,16 @@ TEST_F(cmdAjoutFilm, asksForThePosterUntilItCanBeTaken) {
     attendRefus("Image trop grande pour tenir en base !");
     attendChoix(bonne);
     commande();
-    EXPECT_EQ(ajout.lblImage.Caption, bonne);
-    EXPECT_EQ(fiche.Label12.Caption, bonne);
+    EXPECT_EQ(images.courante, chemins.afficheTmp) << "the new film's sheet is ready, with its poster";
 
     // The dialog takes one byte more than the base does.
     saisis("Second", "R");
     attendChoix(limite);
     commande();
+    EXPECT_EQ(etatAvis.lblAvis.Caption, "« Second » ajouté, sans son affiche, trop grande pour tenir en base.");
     saisis("Troisième", "R");
     attendChoix("");
     commande();
-    EXPECT_EQ(ajout.lblImage.Caption, "");
 
     // No limit for files.
     ecran::choisit(stockage.Option3, 1);
@@ -137,6 +148,7 @@ TEST_F(cmdAjoutFilm, addsTheFilmWithItsHoldingAndShowsTheDay) {
     ajouteFilm("Hier", {{"Realisateur", "R"}, {"DateAjout", "20/11/2026"}});
     ajouteFilm("Non possédé", {{"Realisateur", "R"}, {"DateAjout", "21/11/2026"}});
     const std::string titre = repete("é", 99) + "👨‍👩‍👧", realisateur = repete("É", 100);
+    volet.montreVoletAjout();
     ouvreSaisie(titre + "coupé", realisateur + "coupé");
     ajout.Text3[2].Text = "19795";
     ajout.Combo2.Text = "Péplum";
@@ -157,11 +169,40 @@ TEST_F(cmdAjoutFilm, addsTheFilmWithItsHoldingAndShowsTheDay) {
          {"Rangement", "Fichier1", "Fichier2", "Fichier3", "Pret", "Reserve", "Date", "Support", "Divers"})
         EXPECT_EQ(base.base.OpenRecordset("Personnel").valeur(champ), dao::Valeur("")) << champ;
 
-    // The page is as it was, its list knows the new genre; what was cut is the same film.
+    // The film is chosen behind the page, which is empty for the next one and knows the new genre.
+    EXPECT_EQ(filmChoisi(), titre + "/" + titre);
+    EXPECT_TRUE(panneaux.frameListeFonctions.Visible && ajout.Frame13.Visible && !panneaux.frameFiche.Visible);
+    EXPECT_EQ(ajout.Text3[0].Text + ajout.Text3[2].Text + ajout.Combo2.Text + ajout.txtResume.Text, "");
     EXPECT_THAT(ajout.Combo2.Items, ElementsAre("Péplum"));
-    EXPECT_EQ(ajout.Combo2.Text, "Péplum");
+    EXPECT_EQ(etatAvis.lblAvis.Caption, "« " + repete("é", 60) + "… » ajouté.");
+
+    // "Afficher" finds it wherever the listing went; what was cut is the same film.
+    montre(browse::kZoneNonPossedes, browse::kTriTitre1);
+    avis.cmdAvis_Click(0);
+    EXPECT_EQ(filmChoisi(), titre + "/" + titre);
+    EXPECT_TRUE(panneaux.frameFiche.Visible);
+    EXPECT_EQ(liste.ChoixZone.ListIndex, browse::kZoneTous);
+    saisis(titre + "autre", realisateur);
     attendRefus(kDoublon);
     commande();
+}
+
+TEST_F(cmdAjoutFilm, takesOverTheHoldingThatAFilmOfThatNameLeft) {
+    possede("L'ŒUVRE ", "Clouzot", {{"Support", "DVD"}, {"Pret", "Zoé"}, {"Fichier2", "/films/oeuvre.avi"}});
+    possede("Rien noté", "Clouzot");
+    volet.montreVoletAjout();
+    ouvreSaisie("L'œuvre", "Clouzot");
+    attendChoix("");
+    commande();
+    EXPECT_EQ(etatAvis.lblAvis.Caption,
+              "« L'œuvre » ajouté, avec la possession que ce titre avait déjà (DVD, prêté à "
+              "Zoé, oeuvre.avi).");
+    ouvreSaisie("Rien noté", "Clouzot");
+    attendChoix("");
+    commande();
+    EXPECT_EQ(etatAvis.lblAvis.Caption, "« Rien noté » ajouté.");
+    EXPECT_THAT(colonne("Personnel", "Titre2"), ElementsAre("L'œuvre", "Rien noté"));
+    EXPECT_THAT(colonne("Personnel", "Support"), ElementsAre("DVD", ""));
 }
 
 TEST_F(cmdAjoutFilm, correctsTheFilmWithItsHoldingAndShowsItAgain) {
@@ -193,6 +234,7 @@ TEST_F(cmdAjoutFilm, correctsTheFilmWithItsHoldingAndShowsItAgain) {
     EXPECT_EQ(ajout.Combo2.Text + "/" + ajout.Combo3.Text + "/" + ajout.Combo4.Text + "/" + ajout.txtResume.Text,
               "Documentaire/France/Filmsonor/Un peintre.");
     EXPECT_THAT(ajout.Combo2.Items, ElementsAre("Documentaire", "Horreur"));
+    EXPECT_EQ(ajout.Label5.Caption, "Correction de « " + titre + " »");
 
     saisis("Le Mystère Picasso" + repete("!", 100), "H.-G. Clouzot");
     commande();
@@ -219,6 +261,13 @@ TEST_F(cmdAjoutFilm, testsForADuplicateOnlyWhatIsMoreThanAChangeOfCase) {
     EXPECT_EQ(filmChoisi(), "Été/Été");
     EXPECT_EQ(base.personnel.RecordCount(), 0);  // a modification makes no holding
 
+    // Nor is what the base holds for the same name: a film is no duplicate of itself.
+    ajouteFilm("L'oeuvre", {{"Realisateur", "Clouzot "}});
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    modifie("L'oeuvre", "L'œuvre", "Clouzot");
+    commande();
+    EXPECT_EQ(filmChoisi(), "L'œuvre/L'œuvre");
+
     modifie("Été", "alien", "ridley SCOTT");
     attendRefus(kDoublon);
     commande();
@@ -226,7 +275,7 @@ TEST_F(cmdAjoutFilm, testsForADuplicateOnlyWhatIsMoreThanAChangeOfCase) {
     saisis("Été", "");
     attendRefus("Le réalisateur du film est obligatoire !");
     commande();
-    EXPECT_THAT(colonne("Films", "Realisateur"), ElementsAre("ZURLINI", "Zurlini", "Ridley Scott"));
+    EXPECT_THAT(colonne("Films", "Realisateur"), ElementsAre("ZURLINI", "Zurlini", "Ridley Scott", "Clouzot"));
 }
 
 TEST_F(cmdAjoutFilm, addsAFilmThatWentWhileItWasBeingCorrected) {
@@ -237,6 +286,12 @@ TEST_F(cmdAjoutFilm, addsAFilmThatWentWhileItWasBeingCorrected) {
     commande();
     EXPECT_THAT(colonne("Films", "Titre"), ElementsAre("Aliens"));
     EXPECT_EQ(filmChoisi(), "Aliens/Aliens");
+
+    // Gone before the page opens: it is named there all the same.
+    base.base.Execute("DELETE FROM Films");
+    cmdModifierTitre();
+    EXPECT_EQ(ajout.Text3[0].Text + "/" + ajout.Text3[1].Text, "Aliens/James Cameron");
+    EXPECT_EQ(etatAvis.lblAvis.Caption, "« Aliens » n'est plus dans la base : « Modifier » l'ajoutera de nouveau.");
 }
 
 TEST_F(cmdAjoutFilm, opensNoCorrectionWithoutAFilm) {

@@ -1,0 +1,238 @@
+#include "parcours/Gestes.h"
+
+#include <functional>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using parcours::Execution;
+using parcours::Installation;
+
+constexpr const char* kAbandon = "La fiche n'est pas enregistrée.\nVoulez-vous abandonner votre saisie ?";
+const std::string kPossession =
+    "La possession de « Le Samouraï » n'est pas validée.\nVoulez-vous abandonner votre saisie ?";
+
+struct Saisies : testing::Test {
+    void SetUp() override {
+        parcours::ecritFiches(installation);
+        ASSERT_TRUE(execution.demarre());
+        parcours::importe(execution, installation);
+        parcours::choisitZone(execution, 0);
+        etats.avis.retire();
+    }
+    [[nodiscard]] bool saisieMontree() const {
+        return etats.panneaux.frameListeFonctions.Visible && etats.ajout.Frame13.Visible;
+    }
+    [[nodiscard]] std::string avis() const {
+        return etats.avis.frameAvis.Visible ? etats.avis.lblAvis.Caption : std::string();
+    }
+    void clique(const char* texte) { parcours::clique(execution, texte); }
+    void commence() {
+        session.Command13_Click(1);
+        session.SaisieManuelle();
+        etats.ajout.Text3[0].Text = "L'Été";
+        etats.ajout.Combo2.Text = "Comedie";
+        etats.ajout.txtResume.Text = "Un\u00a0été\r\nà deux";
+    }
+    void verifieLaSaisie() {
+        EXPECT_TRUE(saisieMontree());
+        EXPECT_EQ(etats.ajout.Text3[0].Text + "/" + etats.ajout.Combo2.Text + "/" + etats.ajout.txtResume.Text,
+                  "L'Été/Comedie/Un\u00a0été\r\nà deux");
+    }
+    void prete(const std::string& nom) {
+        etats.fiche.Combo7[0].Text = nom;
+        session.Combo7_Change(0);
+    }
+    void corrige(const char* titre, const char* genre) {
+        clique(titre);
+        session.cmdModifierTitre_Click();
+        etats.ajout.Combo2.Text = genre;
+    }
+    void enleve(const std::string& titre) {  // as another program would
+        dao::DBEngine::OpenDatabase(installation.chemin("Films.mdb"))
+            .Execute("DELETE FROM Films WHERE Titre='" + titre + "'");
+    }
+
+    Installation installation;
+    Execution execution{installation.chemin()};
+    app::Session& session = execution.session;
+    app::Etats& etats = execution.etats;
+    doubles::DialoguesScript& boites = execution.boites;
+};
+
+TEST_F(Saisies, AnEntryThatIsLeftIsToldAndComesBackWhole) {
+    const std::vector<std::function<void()>> departs{[&] { clique("Le Samouraï"); },
+                                                     [&] { session.TreeView1_MouseUpDroit(1); },
+                                                     [&] { parcours::choisitTri(execution, 4); },
+                                                     [&] { parcours::choisitZone(execution, 1); },
+                                                     [&] { session.cmdConfigurer_Click(); },
+                                                     [&] { session.Command13_Click(1); },
+                                                     [&] { session.cmdFonctionRecherche_Click(); }};
+    for (std::size_t i = 0; i < departs.size(); ++i) {
+        SCOPED_TRACE(i);
+        commence();
+        departs[i]();
+        ASSERT_EQ(avis(), "Saisie de « L'Été » laissée sans être enregistrée.");
+        session.cmdAvis_Click(0);
+        verifieLaSaisie();
+        EXPECT_EQ(avis(), "");
+        EXPECT_EQ(etats.ajout.cmdAjoutFilm.Caption, "Ajouter");
+        boites.attendMsgBox(kAbandon, dialogues::kQuestion, dialogues::kOui);
+        session.QuittePanneau();  // it is still at stake
+        session.cmdFermerAvis_Click();
+    }
+    EXPECT_EQ(avis(), "");
+    session.SaisieManuelle();
+    EXPECT_EQ(etats.ajout.Text3[0].Text, "") << "given up with its notice";
+}
+
+TEST_F(Saisies, ACorrectionComesBackWithItsFilmWhereverTheListingWent) {
+    corrige("Le Samouraï", "Drame");
+    parcours::cherche(execution, "rouge");  // the listing lacks the film
+    EXPECT_EQ(avis(), "Correction de « Le Samouraï » laissée sans être enregistrée.");
+    session.cmdAvis_Click(0);
+    EXPECT_TRUE(saisieMontree() && etats.ajout.modeModifier());
+    EXPECT_EQ(etats.ajout.Label5.Caption, "Correction de « Le Samouraï »");
+    session.cmdAjoutFilm_Click();
+    parcours::choisitZone(execution, 1);
+    parcours::choisitTri(execution, 4);
+    clique("Le Samouraï");
+    EXPECT_EQ(parcours::groupeChoisi(etats), "Drame");
+    EXPECT_EQ(etats.liste.Label9[0].Caption, "4 titres");
+
+    corrige("Le Samouraï", "Policier");
+    session.cmdConfigurer_Click();
+    enleve("Le Samouraï");
+    session.cmdAvis_Click(0);
+    EXPECT_EQ(avis(), "« Le Samouraï » n'est plus dans la base : sa fiche est reprise pour être ajoutée.");
+    EXPECT_TRUE(saisieMontree() && !etats.ajout.modeModifier());
+    EXPECT_EQ(etats.ajout.Text3[0].Text + "/" + etats.ajout.Combo2.Text, "Le Samouraï/Policier");
+}
+
+TEST_F(Saisies, HoldingsThatAreLeftComeBackOverWhatTheBaseNowHolds) {
+    clique("Le Samouraï");
+    prete("Zoé");
+    clique("Le Cercle Rouge");
+    EXPECT_EQ(avis(), "Possession de « Le Samouraï » non validée.");
+    EXPECT_EQ(etats.fiche.Combo7[0].Text, "");
+    prete("Paul");
+    session.cmdFonctionRecherche_Click();
+    session.QuittePanneau();
+    EXPECT_EQ(etats.fiche.Combo7[0].Text, "Paul") << "the sheet comes back as it was";
+    clique("Le Samouraï");
+    EXPECT_EQ(avis(), "Possession de « Le Cercle Rouge » non validée.");
+    parcours::choisitZone(execution, 0);
+    session.cmdFermerAvis_Click();
+    clique("Le Samouraï");
+    EXPECT_EQ(avis(), "Possession de « Le Samouraï » non validée.") << "told again where the user comes back to it";
+
+    dao::DBEngine::OpenDatabase(installation.chemin("Films.mdb")).Execute("UPDATE Personnel SET Rangement='Salon'");
+    parcours::choisitZone(execution, 3);
+    session.cmdAvis_Click(0);
+    EXPECT_EQ(parcours::filmMontre(etats), "Le Samouraï de Jean-Pierre Melville");
+    EXPECT_EQ(etats.fiche.Combo7[0].Text + "/" + etats.fiche.Text10[3].Text, "Zoé/Salon");
+    EXPECT_TRUE(etats.fiche.cmdValiderInfosPossessions.Visible);
+
+    parcours::choisitZone(execution, 1);
+    enleve("Le Samouraï");
+    session.cmdAvis_Click(0);
+    EXPECT_EQ(avis(), "« Le Samouraï » n'est plus dans la base : ce qui était noté de sa possession reste de côté.");
+    EXPECT_EQ(etats.avis.cmdAvis[0].Caption, "Reprendre");
+}
+
+TEST_F(Saisies, WhatShowsTheSameFilmKeepsItsHoldings) {
+    parcours::choisitTri(execution, 7);
+    clique("Le Samouraï");
+    prete("Zoé");
+    const std::string image = installation.ecrit("image.jpg", "\xFF\xD8");
+    const std::vector<std::function<void()>> gestes{
+        [&] { session.TreeView1_MouseUpDroit(parcours::noeud(etats, "Le Samouraï")); },
+        [&] {
+            boites.attendFichier({"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", installation.chemin()},
+                                 image);
+            session.Label12_Click();
+        },
+        [&] {
+            boites.attendInputBox(
+                "Quelle note (entre 1 et 10) voulez vous attribuer au film \"Le Samouraï\" de "
+                "Jean-Pierre Melville ?",
+                "8");
+            session.cmdModifieNote_Click();
+            EXPECT_EQ(parcours::groupeChoisi(etats), "8");
+        },
+        [&] {
+            etats.liste.AffStats.Value = 1;
+            session.AffStats_Click();
+        },
+        [&] { clique("Le Samouraï"); }};
+    for (std::size_t i = 0; i < gestes.size(); ++i) {
+        SCOPED_TRACE(i);
+        gestes[i]();
+        EXPECT_EQ(etats.fiche.Combo7[0].Text, "Zoé");
+        EXPECT_TRUE(etats.fiche.cmdValiderInfosPossessions.Visible && etats.panneaux.frameFiche.Visible);
+        EXPECT_EQ(avis(), "");
+    }
+
+    // The right button beside a begun correction of the film.
+    session.cmdModifierTitre_Click();
+    etats.ajout.Text3[0].Text = "Le Samourai";
+    session.TreeView1_MouseUpDroit(parcours::noeud(etats, "Le Samouraï"));
+    EXPECT_EQ(etats.menu, app::MenuContextuel::MenuClicDroitFilm);
+    session.AffStats_Click();
+    session.ModifieFilm_Click();
+    EXPECT_EQ(etats.ajout.Text3[0].Text, "Le Samourai");
+    session.cmdAjoutFilm_Click();  // the film bears another name, and its holdings are still typed
+    EXPECT_EQ(parcours::filmMontre(etats), "Le Samourai de Jean-Pierre Melville");
+    EXPECT_EQ(etats.fiche.Combo7[0].Text, "Zoé");
+    session.cmdValiderInfosPossessions_Click();
+    EXPECT_EQ(avis(), "");
+    EXPECT_EQ(etats.fiche.Combo7[0].Text, "Zoé");
+
+    prete("Paul");
+    boites.attendMsgBox("Voulez-vous vraiment supprimer ce titre ?", dialogues::kQuestion, dialogues::kOui);
+    session.cmdSupprimerTitre_Click();
+    EXPECT_EQ(avis(), "") << "they went with their film";
+}
+
+TEST_F(Saisies, LeavingTheBaseAsksBeforeAnythingIsDone) {
+    commence();
+    for (const auto& quitte : {std::function<void()>([&] { session.cmdStop_Click(); }),
+                               std::function<void()>([&] { session.cmdChargeOuvreBase_Click(); }),
+                               std::function<void()>([&] { EXPECT_FALSE(session.Form_QueryUnload()); })}) {
+        boites.attendMsgBox(kAbandon, dialogues::kQuestion, dialogues::kNon);
+        quitte();
+        verifieLaSaisie();
+    }
+    clique("Le Samouraï");
+    etats.avis.retire();
+    prete("Zoé");
+    boites.attendMsgBox(kPossession, dialogues::kQuestion, dialogues::kNon);
+    session.cmdStop_Click();
+    boites.attendMsgBox(kPossession, dialogues::kQuestion, dialogues::kOui);
+    EXPECT_THROW(session.cmdStop_Click(), systeme::FinDuProgramme);
+}
+
+TEST_F(Saisies, TheNewestComesBackFirstAndTheOthersAreToldAfterIt) {
+    commence();
+    clique("Le Samouraï");
+    prete("Zoé");
+    corrige("Le Cercle Rouge", "Drame");  // the click leaves the holdings
+    session.cmdConfigurer_Click();
+    EXPECT_EQ(avis(), "Correction de « Le Cercle Rouge » laissée sans être enregistrée.");
+    session.cmdAvis_Click(0);
+    session.cmdAjoutFilm_Click();
+    EXPECT_EQ(avis(), "");
+    session.SaisieManuelle();
+    verifieLaSaisie();
+    boites.attendFichier({"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", installation.chemin("Images/")},
+                         "");
+    etats.ajout.Text3[1].Text = "Tati";
+    session.cmdAjoutFilm_Click();
+    EXPECT_EQ(avis(), "« L'Été » ajouté.");
+    EXPECT_TRUE(saisieMontree());
+    session.QuittePanneau();
+    EXPECT_EQ(parcours::filmMontre(etats), "L'Été de Tati");
+}
+
+}  // namespace
