@@ -34,8 +34,10 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     auto* outils = fonction("cmdConfigurer", tr("&Outils"), Pictogramme::Reglages,
                             tr("Entretenir la base et régler le programme (Échap pour revenir)"));
     auto* site = fonction("Image3", tr("MovieCovers"), Pictogramme::Lien, tr("Ouvrir le site de MovieCovers"));
-    auto* aide = fonction("cmdAide", tr("À propos"), Pictogramme::Aide, tr("À propos d'Ambrelis"));
-    auto* sortie = fonction("cmdStop", tr("&Quitter"), Pictogramme::Sortie, tr("Enregistrer les réglages et quitter"));
+    auto* aide =
+        fonction("cmdAide", tr("À propos"), Pictogramme::Aide, tr("À propos d'Ambrelis (F1 pour les touches)"));
+    auto* sortie =
+        fonction("cmdStop", tr("&Quitter"), Pictogramme::Sortie, tr("Enregistrer les réglages et quitter (Ctrl+Q)"));
     atelier.auClic(recherche, &app::Session::cmdFonctionRecherche_Click);
     atelier.auClic(ajout, &app::Session::cmdAfficherFonctions_Click);
     atelier.auClic(outils, &app::Session::cmdConfigurer_Click);

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <algorithm>
 #include <utility>
 
 namespace ui {
@@ -39,6 +40,7 @@ FenetreFichiers::FenetreFichiers(const Atelier& atelier, QWidget* parent)
         boite->addWidget(m_fichiers[i] = boutonFichier(i));
     boite->addSpacing(kMoyen);
     auto* fermer = nomme(new QPushButton(tr("Fermer")), "Command1", kFermer);
+    fermer->setAutoDefault(true);
     m_atelier.auClic(fermer, &app::Session::Command1_Click, kFermer);
     boite->addWidget(fermer, 0, Qt::AlignRight);
     setFixedWidth(kLargeur);
@@ -49,6 +51,7 @@ QPushButton* FenetreFichiers::boutonFichier(std::size_t indice) {
     auto* bouton = nomme(new QPushButton(tr("Fichier %1").arg(indice + 1)), "Command1", indice);
     bouton->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     bouton->setEnabled(false);
+    bouton->setAutoDefault(true);  // Enter opens it
     m_atelier.liaison.lie(m_atelier.etats().fiche.Command1[indice], bouton);
     m_atelier.auClic(bouton, &app::Session::Command1_Click, static_cast<int>(indice));
     return bouton;
@@ -74,7 +77,8 @@ void FenetreFichiers::presente() {
     show();
     raise();
     activateWindow();
-    m_fichiers[0]->setFocus(Qt::OtherFocusReason);
+    const auto premier = std::find_if(m_fichiers.begin(), m_fichiers.end(), [](auto* b) { return b->isEnabled(); });
+    (premier == m_fichiers.end() ? m_fichiers[0] : *premier)->setFocus(Qt::OtherFocusReason);
 }
 
 // Closed, it is only hidden; the program ends with its main window.

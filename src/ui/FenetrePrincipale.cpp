@@ -89,8 +89,13 @@ void FenetrePrincipale::compose() {
     boite->addWidget(new BarreFonctions(m_atelier));
     boite->addWidget(filetHorizontal());
     boite->addWidget(partage, 1);
-    boite->addWidget(new BandeAvis(m_atelier));
-    boite->addWidget(new BandeTravail(m_atelier));
+    m_bas = new QWidget;
+    auto* bas = new QVBoxLayout(m_bas);
+    bas->setContentsMargins(0, 0, 0, 0);
+    bas->setSpacing(0);
+    bas->addWidget(new BandeAvis(m_atelier));
+    bas->addWidget(new BandeTravail(m_atelier));
+    boite->addWidget(m_bas);
     connect(m_liste->titres(), &VueTitres::peinte, this,
             [this] { QTimer::singleShot(0, this, [this] { completePanneaux(); }); });
 }
@@ -99,21 +104,32 @@ void FenetrePrincipale::compose() {
 void FenetrePrincipale::completePanneaux() {
     if (m_menus) return;
     m_menus.emplace(m_atelier, this);
+    m_droite->addWidget(new PanneauMultiSuppression(m_atelier));
     m_droite->addWidget(new PanneauFiche(m_atelier), 1);
     m_droite->addWidget(new PanneauRecherche(m_atelier), 1);
     m_droite->addWidget(new PanneauFonctions(m_atelier), 1);
-    m_droite->addWidget(new PanneauMultiSuppression(m_atelier), 1);
     for (QLineEdit* zone : m_droite->parentWidget()->findChildren<QLineEdit*>()) {
         new InfobulleEntiere(zone);
         new UneSeuleLigne(zone);
     }
     entreParLeChoisi(m_atelier.liaison, *this);
+    metLeBasEnDernier();
     setWindowIcon(icone(Pictogramme::Clap));
     tiensALEcran();
     // The windows that follow the film. The viewer is composed when it first opens.
     new FenetreAffiche(m_atelier, this);
     new FenetreFichiers(m_atelier, this);
     m_atelier.commande.execute([this] { m_atelier.session.Form_Activate(); });
+}
+
+// Tab goes from the list to the panel beside it, and only then to the lines below, which were there first.
+void FenetrePrincipale::metLeBasEnDernier() {
+    QWidget* dernier = previousInFocusChain();
+    for (QWidget* widget : m_bas->findChildren<QWidget*>()) {
+        if (widget->focusPolicy() == Qt::NoFocus || widget == dernier) continue;
+        setTabOrder(dernier, widget);
+        dernier = widget;
+    }
 }
 
 void FenetrePrincipale::suitLesCommandes() {
@@ -138,7 +154,7 @@ void FenetrePrincipale::executeDemandes() {
     if (!demandes.boutonParDefaut.empty()) choisitParDefaut(demandes.boutonParDefaut);
     m_focus->donne(demandes.focus);
     if (m_menus) m_menus->montre(menu, m_endroitMenu);
-    if (m_fermetureDemandee) QTimer::singleShot(0, this, &QWidget::close);
+    if (std::exchange(m_fermetureDemandee, false)) QTimer::singleShot(0, this, &QWidget::close);
     if (m_deuxPages != (width() >= kLargeurDeuxPages)) QTimer::singleShot(0, this, [this] { suisLargeur(); });
 }
 
@@ -216,7 +232,12 @@ void FenetrePrincipale::closeEvent(QCloseEvent* evenement) {
         evenement->ignore();
         return;
     }
-    m_atelier.commande.execute([this] { m_atelier.session.Form_Unload(); });
+    bool ferme = true;
+    m_atelier.commande.execute([&] {
+        ferme = m_atelier.session.Form_QueryUnload();
+        if (ferme) m_atelier.session.Form_Unload();
+    });
+    if (!ferme) return evenement->ignore();
     m_atelier.commande.arrete();
     evenement->accept();
 }

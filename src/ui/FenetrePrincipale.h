@@ -35,6 +35,7 @@ class FenetrePrincipale final : public QWidget {
 
     void compose();
     void completePanneaux();
+    void metLeBasEnDernier();
     void suitLesCommandes();
     void executeDemandes();
     void vientDevant();
@@ -48,6 +49,7 @@ class FenetrePrincipale final : public QWidget {
     PanneauListe* m_liste = nullptr;
     QVBoxLayout* m_droite = nullptr;
     std::optional<SuiviDuFocus> m_focus;
+    QWidget* m_bas = nullptr;  // the notice, and the work that lasts
     const Raccourcis m_raccourcis;
     std::optional<MenusArbre> m_menus;  // with the late panels
     QPoint m_endroitMenu;

@@ -118,6 +118,7 @@ QLayout* PanneauFiche::onglets() {
 QLayout* PanneauFiche::colonneAffiche() {
     auto& fiche = m_atelier.etats().fiche;
     m_affiche = new CadreAffiche(m_atelier.images);
+    nomme(m_affiche, "cadreAffiche", tr("Pas d'affiche : en ajouter une"));
     nomme(m_affiche->image(), "Image1", tr("Affiche du film"));
     nomme(m_affiche->statut(), "Label12");
     m_affiche->image()->setToolTip(tr("Voir l'affiche en grand"));

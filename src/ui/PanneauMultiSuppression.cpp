@@ -13,20 +13,26 @@ PanneauMultiSuppression::PanneauMultiSuppression(const Atelier& atelier, QWidget
     auto& fonctions = atelier.etats().fonctions;
     const QString textes[] = {tr("Fonction &désactivée"), tr("Fonction acti&vée")};
     auto* boite = section(atelier, Aide::MultiSuppression, 1.5);
-    boite->setContentsMargins(kPetit, kMoyen, kGrand, kGrand);
+    boite->setContentsMargins(kPetit, kMoyen, kGrand, 0);
     boite->setSpacing(kMoyen);
+    auto* ligne = rangee({}, kLarge);  // low, since the sheets looked at stand below it
     for (std::size_t i = 0; i < 2; ++i) {
         auto* option = nomme(new QRadioButton(textes[i]), "Option4", i);
         option->setToolTip(tr("Montre ou cache les cases à cocher de la liste"));
         atelier.liaison.lie(fonctions.Option4[i], option);
         atelier.auClic(option, &app::Session::Option4_Click);
-        boite->addWidget(option, 0, Qt::AlignLeft);
+        ligne->addWidget(option);
     }
     auto* supprimer =
         bouton<BoutonAccent>("cmdSupprTitresSelect", tr("S&uppression…"), tr("Supprimer les films cochés"));
     atelier.liaison.lie(fonctions.cmdSupprTitresSelect, supprimer);
     atelier.auClic(supprimer, &app::Session::cmdSupprTitresSelect_Click);
-    boite->addLayout(aGauche({supprimer}));
+    QSizePolicy politique = supprimer->sizePolicy();
+    politique.setRetainSizeWhenHidden(true);  // the row keeps its height
+    supprimer->setSizePolicy(politique);
+    ligne->addWidget(supprimer);
+    ligne->addStretch();
+    boite->addLayout(ligne);
     boite->addStretch();
     setLayout(boite);
     atelier.liaison.lie(atelier.etats().panneaux.frameMultiSuppression, this);

@@ -8,8 +8,8 @@ namespace ui {
 PanneauOutils::PanneauOutils(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
     nomme(this, "frameOutils");
     auto& fonctions = atelier.etats().fonctions;
-    auto* ouvrir =
-        bouton("cmdChargeOuvreBase", tr("Ouvrir ou créer une &base…"), tr("Travailler sur un autre fichier de films"));
+    auto* ouvrir = bouton("cmdChargeOuvreBase", tr("Ouvrir ou créer une &base…"),
+                          tr("Travailler sur un autre fichier de films (Ctrl+O)"));
     auto* infos = bouton("cmdInfosBase", tr("Infor&mations"), tr("Où sont les images de la base"));
     auto* compacter = bouton("cmdCompacter", tr("&Compacter"), tr("Réduire la taille du fichier de la base"));
     auto* ponctuation = bouton("cmdPonctuation", tr("Corr&iger les titres"), tr("Corriger les majuscules des titres"));

@@ -3,15 +3,34 @@
 #include "ui/PanneauFiche.h"
 #include "ui/VueTitres.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QShortcut>
 
 namespace ui {
 
+namespace {
+
+// What the menu key asks of the control in use.
+void demandeMenu() {
+    QWidget* focus = QApplication::focusWidget();
+    if (!focus) return;
+    const QPoint endroit = focus->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+    QContextMenuEvent evenement(QContextMenuEvent::Keyboard, endroit, focus->mapToGlobal(endroit));
+    QCoreApplication::sendEvent(focus, &evenement);
+}
+
+}  // namespace
+
 Raccourcis::Raccourcis(const Atelier& atelier, QWidget* fenetre) : m_atelier(atelier), m_fenetre(fenetre) {
     const std::pair<QKeySequence, void (app::Session::*)()> touches[] = {
         {Qt::CTRL | Qt::Key_F, &app::Session::cmdFonctionRecherche_Click},
         {Qt::CTRL | Qt::Key_N, &app::Session::SaisieManuelle},
+        {Qt::CTRL | Qt::Key_O, &app::Session::cmdChargeOuvreBase_Click},
+        {Qt::CTRL | Qt::Key_Q, &app::Session::cmdStop_Click},
+        {Qt::CTRL | Qt::Key_Return, &app::Session::ValideSaisie},
+        {Qt::CTRL | Qt::Key_Enter, &app::Session::ValideSaisie},
         {Qt::Key_F2, &app::Session::ModifieFilmAffiche}};
     for (const auto& [touche, procedure] : touches) {
         auto* raccourci = new QShortcut(touche, fenetre);
@@ -20,6 +39,7 @@ Raccourcis::Raccourcis(const Atelier& atelier, QWidget* fenetre) : m_atelier(ate
                              c->execute([=] { (s->*procedure)(); });
                          });
     }
+    QObject::connect(new QShortcut(Qt::SHIFT | Qt::Key_F10, fenetre), &QShortcut::activated, fenetre, demandeMenu);
 }
 
 // Esc closes a list and Del takes a letter away first: only what the controls leave comes here.
@@ -28,6 +48,10 @@ bool Raccourcis::prends(const QKeyEvent& evenement) const {
     app::Session& session = m_atelier.session;
     if (evenement.key() == Qt::Key_Escape) {
         m_atelier.commande.execute([&] { session.QuittePanneau(); });
+        return true;
+    }
+    if (evenement.key() == Qt::Key_F1) {  // no shortcut: the poster viewer has its own F1
+        m_atelier.commande.execute([&] { session.MontreTouches(); });
         return true;
     }
     if (evenement.key() != Qt::Key_Delete || !surLeFilm()) return false;

@@ -24,7 +24,8 @@ class VueAffiche::LienImage final : public Lien {
 
     void ecrit() override {
         if (m_etat == m_montre) return;
-        if (m_etat.Visible != m_montre.Visible) m_vue.setVisible(m_etat.Visible);
+        if (m_etat.Visible != m_montre.Visible)
+            static_cast<CadreAffiche*>(m_vue.parentWidget())->montreImage(m_etat.Visible);
         m_montre = m_etat;
         m_vue.update();
         m_vue.parentWidget()->update();
@@ -90,6 +91,23 @@ CadreAffiche::CadreAffiche(ImagesQt& images, QWidget* parent)
     setFixedSize(kBoite);
 }
 
+// Without a picture the keyboard attaches one where the mouse does.
+void CadreAffiche::montreImage(bool visible) {
+    const bool focus = hasFocus();
+    m_image->setVisible(visible);
+    setFocusPolicy(visible ? Qt::NoFocus : Qt::TabFocus);
+    if (visible && focus) m_image->setFocus(Qt::OtherFocusReason);
+}
+
+void CadreAffiche::keyPressEvent(QKeyEvent* evenement) {
+    const int touche = evenement->key();
+    const bool presse = touche == Qt::Key_Space || touche == Qt::Key_Return || touche == Qt::Key_Enter;
+    if (presse && !m_statut->isHidden())
+        emit statutClique();
+    else
+        QWidget::keyPressEvent(evenement);
+}
+
 void CadreAffiche::tiensDans(const QSize& place) {
     const QSize voulue = kBoite.scaled(place, Qt::KeepAspectRatio).boundedTo(kBoite * kAgrandissementMax);
     setFixedSize(voulue.expandedTo(kBoite * kReductionMax));
@@ -114,6 +132,7 @@ void CadreAffiche::paintEvent(QPaintEvent*) {
     if (!m_image->isHidden()) return;
     QPainter peintre(this);
     peintSurface(peintre, rect(), voile(palette()), filet(palette()));
+    if (hasFocus()) peintContourDeFocus(peintre, rect(), accent(palette()));
     const QRectF signe(width() / 2.0 - 24, height() / 2.0 - 72, 48, 48);
     peintPictogramme(peintre, signe, Pictogramme::Clap,
                      melange(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.30));

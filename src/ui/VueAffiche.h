@@ -45,6 +45,7 @@ class CadreAffiche final : public QWidget {
     [[nodiscard]] QLabel* statut() const { return m_statut; }
     // Takes the largest size that fits, the published one where there is room for it.
     void tiensDans(const QSize& place);
+    void montreImage(bool visible);
 
   signals:
     void statutClique();  // the status caption, or the surface around it, while no picture hides it
@@ -54,6 +55,7 @@ class CadreAffiche final : public QWidget {
     void resizeEvent(QResizeEvent* evenement) override;
     void mousePressEvent(QMouseEvent* evenement) override;
     void mouseReleaseEvent(QMouseEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
 
   private:
     VueAffiche* m_image;

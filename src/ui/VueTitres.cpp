@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QRegularExpression>
+#include <QResizeEvent>
+#include <QScrollBar>
 #include <algorithm>
 #include <string_view>
 
@@ -204,6 +206,14 @@ void VueTitres::contextMenuEvent(QContextMenuEvent* evenement) {
     scrollTo(currentIndex());
     emit menuDemande(ModeleArbre::noeud(currentIndex()),
                      viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()));
+}
+
+// A row that was seen stays so where something else takes room below the list.
+void VueTitres::resizeEvent(QResizeEvent* evenement) {
+    const QRect courant = visualRect(currentIndex());
+    const bool vu = courant.isValid() && QRect(QPoint(), evenement->oldSize()).contains(courant.center());
+    QTreeView::resizeEvent(evenement);
+    if (vu) scrollTo(currentIndex());
 }
 
 void VueTitres::paintEvent(QPaintEvent* evenement) {

@@ -36,6 +36,7 @@ class VueTitres final : public QTreeView {
     void mouseReleaseEvent(QMouseEvent* evenement) override;
     void contextMenuEvent(QContextMenuEvent* evenement) override;
     void paintEvent(QPaintEvent* evenement) override;
+    void resizeEvent(QResizeEvent* evenement) override;
 
   private:
     class LienArbre;

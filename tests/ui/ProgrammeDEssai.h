@@ -36,18 +36,19 @@ struct Film {
     std::string affiche;  // bytes of its poster, empty for none
 };
 
-// Says yes to every question and remembers what was shown: the texts of the boxes are the other rooms' to test.
+// Says yes to every question, or what it is told to, and remembers what was shown: the texts of the boxes are the other rooms' to test.
 struct BoitesAccommodantes final : dialogues::Dialogues {
     std::vector<std::string> messages;
-    std::string dossier;
+    std::string dossier, fichier;
     std::string reponse = "DVD";  // to what is asked for in writing
+    int reponseAuxQuestions = dialogues::kOui;
 
     int MsgBox(const std::string& texte, int style, const std::string&) override {
         messages.push_back(texte);
-        return style == dialogues::kQuestion ? dialogues::kOui : dialogues::kOk;
+        return style == dialogues::kQuestion ? reponseAuxQuestions : dialogues::kOk;
     }
     std::string InputBox(const std::string&, const std::string&, const std::string&) override { return reponse; }
-    std::string choisitFichier(const dialogues::DemandeFichier&) override { return ""; }
+    std::string choisitFichier(const dialogues::DemandeFichier&) override { return fichier; }
     std::string choisitDossier(const std::string&, const std::string&) override { return dossier; }
 };
 
