@@ -91,12 +91,11 @@ CadreAffiche::CadreAffiche(ImagesQt& images, QWidget* parent)
     setFixedSize(kBoite);
 }
 
-// Without a picture the keyboard attaches one where the mouse does.
+// Without a picture the keyboard attaches one where the mouse does; the focus then goes on to the picture.
 void CadreAffiche::montreImage(bool visible) {
-    const bool focus = hasFocus();
     m_image->setVisible(visible);
     setFocusPolicy(visible ? Qt::NoFocus : Qt::TabFocus);
-    if (visible && focus) m_image->setFocus(Qt::OtherFocusReason);
+    setFocusProxy(visible ? m_image : nullptr);
 }
 
 void CadreAffiche::keyPressEvent(QKeyEvent* evenement) {
