@@ -169,12 +169,13 @@ struct Session::Rouages final : db::Rafraichissement {
 
     // Export.
     exportation::DernierExport dernierExport{avis, lanceFichier, machine.documents, machine.dialogues};
-    exportation::cmdCreeFichierTxt_Click cmdCreeFichierTxt{film, etats.fiche, dernierExport, machine.dialogues};
+    exportation::cmdCreeFichierTxt_Click cmdCreeFichierTxt{film, etats.fiche, chemins, dernierExport,
+                                                           machine.dialogues};
     exportation::CreeFichierRTF creeFichierRTF{
         base,          chemins,           etats.nom,     etats.fonctions.ProgressBar3,
         machine.ecran, machine.dialogues, dernierExport, lanceFichier};
     exportation::cmdCreerListe_Click cmdCreerListe{
-        {base, machine.dialogues, machine.ecran, etats.fonctions.ProgressBar3},
+        {base, chemins, machine.dialogues, machine.ecran, etats.fonctions.ProgressBar3},
         creeFichierRTF,
         dernierExport,
         lanceFichier};

@@ -231,7 +231,9 @@ void Session::deplaceAffiche(int dx, int dy) {
 }
 
 void Session::cmdSauverImage_Click() {
-    view::cmdSauverImage_Click(etats.fiche, m_rouages->chemins, m_rouages->machine.dialogues);
+    const std::string fichier =
+        view::cmdSauverImage_Click(etats.fiche, m_rouages->chemins, m_rouages->machine.dialogues);
+    if (!fichier.empty()) m_rouages->dernierExport.annonce("Affiche sauvegardée : ", fichier);
 }
 
 void Session::cmdRemplacerImage_Click() {

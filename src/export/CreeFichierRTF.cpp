@@ -33,7 +33,7 @@ class NomEmprunte {
 }  // namespace
 
 std::string CreeFichierRTF::operator()(const std::string& clauseOrderBy, int reponseTri) {
-    std::string fichier = demandeFichierListe(m_dialogues, ".rtf");
+    std::string fichier = demandeFichierListe(m_dialogues, m_chemins, ".rtf");
     if (fichier.empty()) return {};
     dao::Recordset titres =
         db::ouvreRequete(m_base.base, requeteListe(clauseOrderBy), db::NumeroErreur::cmdCreerListe, m_dialogues);

@@ -5,16 +5,19 @@
 namespace exportation {
 
 bool DernierExport::ecrit(const std::string& fichier, std::string_view octets) {
-    const std::string chemin = fichiers::absolu(fichier);
     if (!fichiers::remplace(fichier, octets)) {
-        m_avis.montre("Le fichier " + chemin + " n'a pas pu être écrit.");
+        m_avis.montre("Le fichier " + fichier + " n'a pas pu être écrit.");
         return false;
     }
+    annonce("Fichier créé : ", fichier);
+    return true;
+}
+
+void DernierExport::annonce(const std::string& debut, const std::string& chemin) {
     m_avis.montre(
-        "Fichier créé : " + chemin,
+        debut + chemin,
         {{"Ouvrir", [this, chemin] { m_lanceFichier("\"" + chemin + "\"", true, "open", "", "", "2", false); }, true},
          {"Afficher le dossier", [this, chemin] { ouvreDossier(chemin); }, true}});
-    return true;
 }
 
 void DernierExport::ouvreDossier(const std::string& fichier) {

@@ -18,8 +18,11 @@ class DernierExport {
                   dialogues::Dialogues& dialogues)
         : m_avis(avis), m_lanceFichier(lanceFichier), m_documents(documents), m_dialogues(dialogues) {}
 
-    // Replaces the file by the whole text. False when it cannot be: what stood there still stands.
+    // Replaces the file, given by its whole path, by the whole text. False when it cannot be: what stood there still
+    // stands.
     bool ecrit(const std::string& fichier, std::string_view octets);
+    // The notice of a file that stands at that whole path now.
+    void annonce(const std::string& debut, const std::string& chemin);
 
   private:
     void ouvreDossier(const std::string& fichier);

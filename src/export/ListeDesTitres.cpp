@@ -1,5 +1,7 @@
 #include "export/ListeDesTitres.h"
 
+#include "db/CheminAEcrire.h"
+
 namespace exportation {
 
 std::string requeteListe(std::string_view clauseOrderBy) {
@@ -11,13 +13,16 @@ std::string requeteListe(std::string_view clauseOrderBy) {
         .append(" ;");
 }
 
-std::string demandeFichierListe(dialogues::Dialogues& dialogues, std::string_view extension) {
-    std::string fichier = dialogues.demandeChemin(
+std::string demandeFichierListe(dialogues::Dialogues& dialogues, const db::Chemins& chemins,
+                                std::string_view extension) {
+    std::string fichier = db::demandeCheminAEcrire(
+        dialogues,
         {.invite = "Entrez le chemin et le nom du fichier à créer (sans l'extension)..\nExemple : C:\\FILMS",
          .titre = kTitreListe,
          .defaut = "",
          .extension = std::string(extension),
-         .extensionAjoutee = true});
+         .extensionAjoutee = true},
+        chemins);
     return fichier.empty() ? fichier : fichier.append(extension);
 }
 

@@ -39,7 +39,7 @@ void cmdCreerListe_Click::creeFichierTexte(const std::string& clause, bool parGe
         boites.MsgBox(kAucunTitre, dialogues::kExclamation);
         return;
     }
-    const std::string fichier = demandeFichierListe(boites, ".txt");
+    const std::string fichier = demandeFichierListe(boites, m_outils.chemins, ".txt");
     if (fichier.empty()) return;
     const auto liste = texte(titres, parGenre);
     if (!liste || !m_dernierExport.ecrit(fichier, *liste)) return;

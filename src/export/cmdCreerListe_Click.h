@@ -1,6 +1,7 @@
 #pragma once
 
 #include "db/Base.h"
+#include "db/Chemins.h"
 #include "export/CreeFichierRTF.h"
 #include "export/DernierExport.h"
 #include "platform/dialogues/Dialogues.h"
@@ -21,6 +22,7 @@ class cmdCreerListe_Click {
   public:
     struct Outils {
         db::Base& base;
+        const db::Chemins& chemins;
         dialogues::Dialogues& dialogues;
         ecran::Ecran& ecran;
         ecran::Progression& progression;

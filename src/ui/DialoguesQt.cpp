@@ -1,5 +1,7 @@
 #include "ui/DialoguesQt.h"
 
+#include "platform/fichiers/CheminTape.h"
+#include "platform/fichiers/Fichiers.h"
 #include "ui/Composition.h"
 #include "ui/UneSeuleLigne.h"
 #include "util/Texte.h"
@@ -159,18 +161,25 @@ std::string choisit(QFileDialog& boite, const std::string& dossier) {
     return boite.selectedFiles().first().toStdString();
 }
 
+void proposeDEnregistrer(QFileDialog& boite, const QString& nom) {
+    boite.setAcceptMode(QFileDialog::AcceptSave);
+    boite.setFileMode(QFileDialog::AnyFile);
+    boite.setDefaultSuffix(QFileInfo(nom).suffix());
+    boite.selectFile(nom);
+}
+
 // A path for the text typed so far, which names the file and the folder where the choice begins.
 QString cheminAEcrire(QInputDialog& saisie, const dialogues::DemandeChemin& demande) {
-    const QFileInfo tape(saisie.textValue());
+    const std::string texte = saisie.textValue().toStdString();
+    const QFileInfo tape(qt(fichiers::cheminTape(texte, "")));
+    const QString nom = fichiers::estCheminWindows(texte) ? qt(fichiers::nomDeFichier(texte)) : tape.fileName();
     const QString extension = qt(demande.extension).remove(0, 1);
     NaturesEnFrancais natures;
     QFileDialog boite(&saisie, saisie.windowTitle());
     boite.setIconProvider(&natures);
-    boite.setAcceptMode(QFileDialog::AcceptSave);
-    boite.setFileMode(QFileDialog::AnyFile);
     boite.setNameFilter(QObject::tr("Fichiers %1 (*.%2)").arg(extension.toUpper(), extension));
+    proposeDEnregistrer(boite, nom);
     boite.setDefaultSuffix(extension);
-    boite.selectFile(tape.fileName());
     std::string choisi = choisit(boite, tape.isAbsolute() ? tape.path().toStdString() : std::string());
     if (demande.extensionAjoutee && choisi.ends_with(demande.extension))
         choisi.resize(choisi.size() - demande.extension.size());

@@ -1,18 +1,26 @@
 #include "view/cmdSauverImage_Click.h"
 
+#include "db/CheminAEcrire.h"
 #include "platform/fichiers/Fichiers.h"
 
 namespace view {
 
-void cmdSauverImage_Click(const browse::EtatFiche& fiche, const db::Chemins& chemins, dialogues::Dialogues& dialogues) {
+std::string cmdSauverImage_Click(const browse::EtatFiche& fiche, const db::Chemins& chemins,
+                                 dialogues::Dialogues& dialogues) {
     static constexpr const char* kTitre = "Sauvegarde affiche JPG";
-    const std::string destination =
-        dialogues.InputBox("Entrez un chemin de destination", kTitre, fiche.captionAffiche + ".jpg");
-    if (destination.empty()) return;
-    if (fichiers::copie(chemins.afficheTmp, destination))
-        dialogues.MsgBox("Fichier sauvegardé.", dialogues::kInformation, kTitre);
-    else
+    std::string destination = db::demandeCheminAEcrire(dialogues,
+                                                       {.invite = "Entrez un chemin de destination",
+                                                        .titre = kTitre,
+                                                        .defaut = fiche.captionAffiche + ".jpg",
+                                                        .extension = ".jpg"},
+                                                       chemins);
+    if (destination.empty()) return {};
+    if (!fichiers::copie(chemins.afficheTmp, destination)) {
         dialogues.MsgBox("Erreur lors de la sauvegarde.", dialogues::kCritique, kTitre);
+        return {};
+    }
+    dialogues.MsgBox("Fichier sauvegardé.", dialogues::kInformation, kTitre);
+    return destination;
 }
 
 }  // namespace view

@@ -4,9 +4,13 @@
 #include "db/Chemins.h"
 #include "platform/dialogues/Dialogues.h"
 
+#include <string>
+
 namespace view {
 
-// Saves the poster shown as a file of the user's choice. Nothing is read again: the temporary poster is copied.
-void cmdSauverImage_Click(const browse::EtatFiche& fiche, const db::Chemins& chemins, dialogues::Dialogues& dialogues);
+// Saves the poster shown as a file of the user's choice. Nothing is read again: the temporary poster is copied. Answers
+// the whole path of the file, "" when none was made.
+std::string cmdSauverImage_Click(const browse::EtatFiche& fiche, const db::Chemins& chemins,
+                                 dialogues::Dialogues& dialogues);
 
 }  // namespace view

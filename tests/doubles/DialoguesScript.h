@@ -74,7 +74,8 @@ class DialoguesScript final : public dialogues::Dialogues {
     }
     static std::string decritFichier(const dialogues::DemandeFichier& demande) {
         return "file\n  title: [" + demande.titre + "]\n  filter: [" + demande.filtre + "]\n  folder: [" +
-               demande.dossier + "]\n  " + (demande.peutCreer ? "may be new" : "must exist");
+               demande.dossier + "]\n  " + (demande.peutCreer ? "may be new" : "must exist") +
+               (demande.nom.empty() ? "" : "\n  saved as: [" + demande.nom + "]");
     }
     static std::string decritDossier(const std::string& titre, const std::string& dossier) {
         return "folder\n  title: [" + titre + "]\n  opens in: [" + dossier + "]";

@@ -18,6 +18,7 @@ struct DemandeFichier {
     std::string filtre;      // "Fichiers JPEG|*.jpg"
     std::string dossier;     // where the box opens
     bool peutCreer = false;  // accepts the name of a file that does not exist yet
+    std::string nom = {};    // of the file to write, as proposed: the box asks where to save it
 };
 
 struct DemandeChemin {
@@ -45,7 +46,7 @@ class Dialogues {
     // The text typed; empty also when cancelled.
     virtual std::string InputBox(const std::string& invite, const std::string& titre = kTitre,
                                  const std::string& defaut = "") = 0;
-    // InputBox for the path of a file to write; the window's also lets the user browse for it.
+    // InputBox for the path of a file to write, as it was typed; the window's also lets the user browse for it.
     virtual std::string demandeChemin(const DemandeChemin& demande) {
         return InputBox(demande.invite, demande.titre, demande.defaut);
     }

@@ -68,9 +68,9 @@ struct Commandes : testing::Test {
     view::LanceFichier lanceFichier{programmes, documents, boites, ecran};
     exportation::DernierExport dernier{avis, lanceFichier, documents, boites};
     exportation::CreeFichierRTF rtf{essai.base, chemins, nom, progression, ecran, boites, dernier, lanceFichier};
-    exportation::cmdCreeFichierTxt_Click cmdCreeFichierTxt{film, fiche, dernier, boites};
+    exportation::cmdCreeFichierTxt_Click cmdCreeFichierTxt{film, fiche, chemins, dernier, boites};
     exportation::cmdCreerListe_Click cmdCreerListe{
-        {essai.base, boites, ecran, progression}, rtf, dernier, lanceFichier};
+        {essai.base, chemins, boites, ecran, progression}, rtf, dernier, lanceFichier};
 };
 
 TEST_F(Commandes, TheSheetGoesExactlyWhereTheUserSays) {
@@ -87,6 +87,38 @@ TEST_F(Commandes, TheSheetGoesExactlyWhereTheUserSays) {
     boites.attendMsgBox("Le dossier " + dossier.chemin() + " n'a pas pu être ouvert.", dialogues::kExclamation);
     avis.cmdAvis_Click(1);
     EXPECT_TRUE(etat.frameAvis.Visible);
+}
+
+// A path of Windows is no name of a file here: it asks for a place, and given up it can be typed again.
+TEST_F(Commandes, ANameAloneLandsInTheProgramFolderAndAPathOfWindowsAsksForAPlace) {
+    const auto cree = [this](const char* fichier) {
+        boites.attendMsgBox("Fichier créé !", dialogues::kInformation, dialogues::kOk, "Créer un fichier texte");
+        cmdCreeFichierTxt();
+        EXPECT_EQ(dossier.lit(fichier), exportation::texteFiche(film.titre, fiche));
+        EXPECT_EQ(etat.lblAvis.Caption, "Fichier créé : " + dossier.chemin(fichier));
+    };
+    attendFiche("Été.txt");
+    cree("Été.txt");
+    dialogues::DemandeFichier place{"Créer un fichier texte", "Fichiers TXT|*.txt", "", true, "Alien.txt"};
+    attendFiche("C:\\Mes films\\Alien.txt");
+    boites.attendFichier(place, "");
+    boites.attendInputBox("Entrez le chemin de destination du fichier texte.", "D:/Alien.txt", "Créer un fichier texte",
+                          "C:\\Mes films\\Alien.txt");
+    boites.attendFichier(place, dossier.chemin("choisi.txt"));
+    cree("choisi.txt");
+
+    essai.base.base.Execute(kFilms);
+    attendQuestions(kNon, kNon);
+    attendNom("C:\\FILMS");
+    place = {exportation::kTitreListe, "Fichiers TXT|*.txt", "", true, "FILMS.txt"};
+    boites.attendFichier(place, dossier.chemin("FILMS.txt"));
+    boites.attendMsgBox("Le fichier texte " + dossier.chemin("FILMS.txt") +
+                            " a été créé.\nLes séparateurs de champs étant des tabulations, réglez-les avec votre "
+                            "traitement de texte.",
+                        dialogues::kInformation, dialogues::kOk, exportation::kTitreListe);
+    cmdCreerListe();
+    EXPECT_THAT(documents.fichiers, ElementsAre(dossier.chemin("FILMS.txt")));
+    EXPECT_FALSE(dossier.existe("C:\\FILMS.txt") || dossier.existe("FILMS.txt.txt"));
 }
 
 TEST_F(Commandes, ASheetWithoutANameOrAPlaceBringsNoMoreBox) {

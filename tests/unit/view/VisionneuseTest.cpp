@@ -174,15 +174,18 @@ TEST_F(Visionneuse, SavesThePosterWhereTheUserSays) {
             dialogues.attendMsgBox("Fichier sauvegardé.", 64, dialogues::kOk, kTitre);
         else if (!reponse.empty())
             dialogues.attendMsgBox("Erreur lors de la sauvegarde.", 16, dialogues::kOk, kTitre);
-        view::cmdSauverImage_Click(fiche, chemins, dialogues);
+        const std::string fichier = view::cmdSauverImage_Click(fiche, chemins, dialogues);
         dialogues.verifie();
+        return fichier;
     };
-    sauve("");
-    sauve(dossier.chemin("ailleurs.jpg"));
+    EXPECT_EQ(sauve(""), "");
+    EXPECT_EQ(sauve(dossier.chemin("ailleurs.jpg")), dossier.chemin("ailleurs.jpg"));
     EXPECT_EQ(dossier.lit("ailleurs.jpg"), "octets");
-    sauve(dossier.chemin());
+    EXPECT_EQ(sauve("nom seul.jpg"), dossier.chemin("nom seul.jpg"));
+    EXPECT_EQ(dossier.lit("nom seul.jpg"), "octets");
+    EXPECT_EQ(sauve(dossier.chemin()), "");
     std::filesystem::remove(chemins.afficheTmp);
-    sauve(dossier.chemin("autre.jpg"));
+    EXPECT_EQ(sauve(dossier.chemin("autre.jpg")), "");
 }
 
 class Remplacement : public Visionneuse {
