@@ -36,7 +36,7 @@ std::string Arret::reglages() const {
     courants.largeur = m_etats.frmPrincipal.Width;
     courants.hauteur = m_etats.frmPrincipal.Height;
     courants.tri = m_etats.liste.ChoixTri.ListIndex;
-    courants.base = m_chemins.base;
+    courants.base = m_chemins.baseARetenir();
     courants.lancerConnexion = m_etats.fonctions.chkLancerConnexion.Value == 1;
     courants.statistiques = m_etats.liste.AffStats.Value == 1;
     return texteReglages(courants, m_chemins.dossier);

@@ -5,6 +5,7 @@
 #include "db/Requete.h"
 #include "platform/fichiers/Fichiers.h"
 #include "platform/systeme/FinDuProgramme.h"
+#include "util/Texte.h"
 
 namespace app {
 
@@ -15,6 +16,11 @@ constexpr const char* kZones[] = {"Mes films",        "Tous les films",     "Mes
 constexpr const char* kTris[] = {"Tri par titre - 1",   "Tri par titre - 2 ", "Tri par année",
                                  "Tri par réalisateur", "Tri par genre",      "Tri par origine",
                                  "Tri par durée",       "Tri par notation",   "Tri par support"};
+
+const std::string kDossierInutilisable =
+    "Le nom du répertoire d'Ambrelis n'est pas écrit en UTF-8 : le programme ne peut pas y travailler. Renommez-le, "
+    "puis "
+    "recommencez.\n";
 
 template <typename Textes>
 void remplit(ecran::Liste& liste, const Textes& textes) {
@@ -50,6 +56,7 @@ void Demarrage::prendsInstance() {
 }
 
 void Demarrage::verifieDossier() {
+    if (!util::estUtf8(m_chemins.dossier)) refuse(kDossierInutilisable + m_chemins.dossier);
     fichiers::creeDossier(m_chemins.dossierTmp);
     const std::string essai = m_chemins.dossierTmp + "/tmp.tmp";
     if (!fichiers::ecrit(essai, "")) refuse("Le répertoire d'Ambrelis doit être en lecture-écriture");
@@ -77,7 +84,8 @@ void Demarrage::applique(const Reglages& reglages) {
     m_etats.frmPrincipal.Width = reglages.largeur;
     m_etats.frmPrincipal.Height = reglages.hauteur;
     m_triEnregistre = reglages.tri;
-    if (!reglages.base.empty()) m_chemins.base = reglages.base;
+    m_baseNommee = !reglages.base.empty();
+    if (m_baseNommee) m_chemins.base = reglages.base;
     m_etats.fonctions.chkLancerConnexion.Value = reglages.lancerConnexion ? 1 : 0;
     m_etats.liste.AffStats.Value = reglages.statistiques ? 1 : 0;
 }
@@ -89,13 +97,31 @@ void Demarrage::activeStockage() {
     m_etats.stockage.cmdParcourir.Enabled = false;
 }
 
-// A Jet base that was not converted fails to open.
+// Where none opens, the program ends.
 void Demarrage::ouvreLaBase() {
-    m_suites.ouvertureBase.assureLeFichier();
+    try {
+        ouvreCelleDesReglages();
+        ditLaquelleEstOuverte();
+    } catch (const systeme::FinDuProgramme&) {
+        if (!m_suites.cmdChargeOuvreBase.ouvreUneAutre()) throw;
+    }
+}
+
+// A Jet base that was not converted fails to open.
+void Demarrage::ouvreCelleDesReglages() {
+    m_baseCreee = m_suites.ouvertureBase.assureLeFichier();
     std::optional<std::string> conversion;
     if (db::OuvertureJet::estJet(m_chemins.base)) conversion = m_suites.ouvertureJet(m_chemins.base);
     m_suites.ouvertureBase();
     if (conversion) m_dialogues.MsgBox(*conversion, dialogues::kInformation);
+}
+
+// An empty collection in the place of the user's own is never opened without a word.
+void Demarrage::ditLaquelleEstOuverte() {
+    if (!m_chemins.baseAbsente.empty())
+        m_suites.baseAbsente.annonce();
+    else if (m_baseCreee && m_baseNommee)
+        m_suites.avis.montre("La base " + m_chemins.base + " n'existait plus : une base vide a été créée à sa place.");
 }
 
 // The sort first, then the zone; each selection raises its change event. Without a zone the first one lists nothing.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/BaseAbsente.h"
 #include "app/Etats.h"
 #include "app/Extensions.h"
 #include "app/Reglages.h"
@@ -10,6 +11,7 @@
 #include "db/OuvertureBase.h"
 #include "db/OuvertureJet.h"
 #include "db/Rafraichissement.h"
+#include "db/cmdChargeOuvreBase_Click.h"
 #include "platform/dialogues/Dialogues.h"
 #include "platform/systeme/InstanceUnique.h"
 
@@ -26,6 +28,9 @@ class Demarrage {
         db::Option3_Click& option3;
         db::OuvertureBase& ouvertureBase;
         db::OuvertureJet& ouvertureJet;
+        db::cmdChargeOuvreBase_Click& cmdChargeOuvreBase;
+        BaseAbsente& baseAbsente;
+        ecran::Avis& avis;
         browse::ChoixTri& choixTri;
         browse::ChoixZone& choixZone;
         db::Rafraichissement& rafraichissement;
@@ -55,6 +60,8 @@ class Demarrage {
     void applique(const Reglages& reglages);
     void activeStockage();
     void ouvreLaBase();
+    void ouvreCelleDesReglages();
+    void ditLaquelleEstOuverte();
     void choisitTriEtZone();
     void litExtensions();
     // A base that opens and cannot be listed does not end the program: another one can be opened.
@@ -69,6 +76,8 @@ class Demarrage {
     Suites m_suites;
     int m_triEnregistre = 0;
     bool m_reglagesLus = false;
+    bool m_baseNommee = false;  // by the settings
+    bool m_baseCreee = false;
 };
 
 }  // namespace app

@@ -4,12 +4,22 @@
 
 namespace app {
 
+namespace {
+
+constexpr std::size_t kLigneMax = 4096;  // bytes; the system's own limit for a path
+
+std::string valeur(const std::string& ligne) {
+    return ligne.size() <= kLigneMax ? ligne : "";
+}
+
+}  // namespace
+
 std::size_t litExtensions(const std::vector<std::string>& lignesDuFichier, TableExtensions& table) {
     const std::size_t nombre = std::min((lignesDuFichier.size() + 1) / 2, TableExtensions::kLignesLues);
     for (std::size_t i = 0; i < nombre; ++i) {
         const std::size_t programme = 2 * i + 1;
-        table.lignes[i] = {lignesDuFichier[2 * i],
-                           programme < lignesDuFichier.size() ? lignesDuFichier[programme] : ""};
+        table.lignes[i] = {valeur(lignesDuFichier[2 * i]),
+                           programme < lignesDuFichier.size() ? valeur(lignesDuFichier[programme]) : ""};
     }
     return nombre;
 }

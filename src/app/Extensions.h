@@ -13,6 +13,7 @@ using view::kLogicielParDefaut;
 using view::TableExtensions;
 
 // Fills the table from the file's lines; returns how many rows. The last extension of an odd file gets an empty program.
+// A line that is longer than any path counts as empty.
 [[nodiscard]] std::size_t litExtensions(const std::vector<std::string>& lignesDuFichier, TableExtensions& table);
 
 // The file's text for the first `nombre` rows; the table has no row beyond its sixteenth.

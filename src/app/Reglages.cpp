@@ -1,5 +1,6 @@
 #include "app/Reglages.h"
 
+#include "platform/fichiers/CheminTape.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/Nombres.h"
 #include "util/Texte.h"
@@ -36,11 +37,13 @@ Lignes premieresLignes(std::string_view octets) {
 
 bool estAbsolu(std::string_view chemin) {
     const bool lecteur = chemin.size() > 1 && chemin[1] == ':' && std::isalpha(static_cast<unsigned char>(chemin[0]));
-    return lecteur || chemin[0] == '/' || chemin[0] == '\\' || chemin.find("://") != std::string_view::npos;
+    return lecteur || chemin[0] == '/' || chemin[0] == '~' || chemin[0] == '\\' ||
+           chemin.find("://") != std::string_view::npos;
 }
 
 std::string litChemin(std::string_view ligne, const std::string& dossier) {
     if (ligne.empty() || ligne.find('\0') != std::string_view::npos) return {};
+    if (ligne[0] == '~') return fichiers::cheminTape(ligne, dossier);
     return estAbsolu(ligne) ? std::string(ligne) : dossier + std::string(ligne);
 }
 

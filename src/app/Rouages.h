@@ -5,6 +5,7 @@
 #include "acquire/cmdParcourir2_Click.h"
 #include "acquire/cmdTelecharge_Click.h"
 #include "app/Arret.h"
+#include "app/BaseAbsente.h"
 #include "app/ChoixFonction.h"
 #include "app/Demarrage.h"
 #include "app/LogicielsExternes.h"
@@ -63,6 +64,8 @@ struct Session::Rouages final : db::Rafraichissement {
                                    machine.dialogues, etats.stockage, chemins}};
     db::cmdChargeOuvreBase_Click cmdChargeOuvreBase{base,         chemins, ouvertureBase,
                                                     ouvertureJet, *this,   machine.dialogues};
+    BaseAbsente baseAbsente{chemins, avis, etats.avis,
+                            [this](const std::string& nom) { surLaBase([&] { cmdChargeOuvreBase.ouvre(nom); }); }};
     db::Option3_Click option3{etats.stockage, chemins};
     db::cmdCompacter_Click cmdCompacter{base, chemins, ouvertureBase, *this, machine.dialogues};
     db::cmdMajBase_Click cmdMajBase{
@@ -193,8 +196,12 @@ struct Session::Rouages final : db::Rafraichissement {
                                  {saisies, choixFonction, modesAjout, cmdAjoutFilm, cmdModifierTitre, suppressionTitre,
                                   cmdValiderInfosPossessions, afficheVolet, afficheAccueil}};
     Demarrage demarrage{
-        etats,    chemins,           extensions,
-        instance, machine.dialogues, {option3, ouvertureBase, ouvertureJet, choixTri, choixZone, *this}};
+        etats,
+        chemins,
+        extensions,
+        instance,
+        machine.dialogues,
+        {option3, ouvertureBase, ouvertureJet, cmdChargeOuvreBase, baseAbsente, avis, choixTri, choixZone, *this}};
     Arret arret{etats, chemins, extensions, base, machine.dialogues};
 
     // What a change of base asks for.

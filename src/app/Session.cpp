@@ -60,6 +60,7 @@ void Session::Rouages::surLaBase(const std::function<void()>& commande) {
         enMarche = false;  // no base is open: the settings keep the one they name
         throw;
     }
+    baseAbsente.suisLaBase();
 }
 
 void Session::Rouages::AffichageApresModification() {

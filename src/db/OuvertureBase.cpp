@@ -1,5 +1,7 @@
 #include "db/OuvertureBase.h"
 
+#include "db/BaseNeuve.h"
+#include "db/OuvertureJet.h"
 #include "db/Schema.h"
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
@@ -14,6 +16,23 @@ namespace {
 
 constexpr const char* kOuvertureEchouee = "Erreur (22) : Ouverture de la base (Lecture seule/Fichier manquant ?)";
 constexpr const char* kLectureEcriture = "La base nécessite d'avoir un accès en lecture-écriture.";
+
+std::string raisonDe(const dao::ErreurDao& erreur, const std::string& chemin) {
+    if (OuvertureJet::estJet(chemin)) return "c'est une base Jet (Access) qui n'a pas été convertie";
+    switch (erreur.numero) {
+        case dao::kErreurFichierIntrouvable:
+            return "le fichier n'existe pas";
+        case dao::kErreurFichierDejaUtilise:
+        case dao::kErreurVerrouille:
+            return "elle est utilisée par un autre programme";
+        case dao::kErreurLectureSeule:
+            return "le fichier ou son dossier est en lecture seule";
+        case dao::kErreurFormat:
+            return "le fichier est endommagé ou n'est pas une base d'Ambrelis";
+        default:
+            return "";
+    }
+}
 
 // A base made elsewhere may lack the indexes. It is as good without them, only slower: that they cannot be made now is
 // no reason to refuse it.
@@ -46,31 +65,43 @@ bool OuvertureBase::rouvre() {
 }
 
 bool OuvertureBase::sOuvre(const std::string& chemin) {
+    m_raison.clear();
     Base essai;
     return ouvre(chemin, essai);
 }
 
-void OuvertureBase::assureLeFichier() {
-    if (fichiers::existe(m_chemins.base)) return;
+// When the file cannot be made, the opening says so.
+bool OuvertureBase::assureLeFichier() {
+    m_raison.clear();
+    if (fichiers::existe(m_chemins.base)) return false;
     const std::string repli = m_chemins.dansDossier("films.mdb");
-    if (!util::egalSansCasse(m_chemins.base, repli)) m_chemins.base = repli;
-    if (fichiers::existe(m_chemins.base)) return;
-    fichiers::copie(m_chemins.modele, m_chemins.base);  // when it fails, the opening says so
+    if (!util::egalSansCasse(m_chemins.base, repli)) {
+        m_chemins.baseAbsente = m_chemins.base;
+        m_chemins.base = repli;
+    }
+    if (fichiers::existe(m_chemins.base)) return false;
+    const BaseNeuve issue = creeDepuisLeModele(m_chemins, m_chemins.base);
+    if (issue == BaseNeuve::ModeleInutilisable) m_raison = "le fichier modèle (" + m_chemins.modele + ") est endommagé";
+    return issue == BaseNeuve::Faite;
 }
 
 bool OuvertureBase::ouvre(const std::string& chemin, Base& base) {
     const auto refus = essaie(chemin, base);
-    if (refus) m_dialogues.MsgBox(refus->texte, refus->style);
-    return !refus;
+    if (!refus) return true;
+    if (m_raison.empty()) m_raison = refus->raison;
+    m_dialogues.MsgBox(refus->texte, refus->style);
+    return false;
 }
 
 // Leaves `base` closed when it fails.
-std::optional<OuvertureBase::Refus> OuvertureBase::essaie(const std::string& chemin, Base& base) {
+std::optional<OuvertureBase::Refus> OuvertureBase::essaie(const std::string& chemin, Base& base) const {
     base.ferme();
+    if (m_chemins.estDansTmp(chemin))
+        return Refus{kBaseDansTmp, dialogues::kExclamation, "elle est dans le dossier Tmp"};
     try {
         base.base = dao::DBEngine::OpenDatabase(fichiers::trouve(chemin).value_or(chemin));
-    } catch (const dao::ErreurDao&) {
-        return Refus{kOuvertureEchouee, dialogues::kCritique};
+    } catch (const dao::ErreurDao& erreur) {
+        return Refus{kOuvertureEchouee, dialogues::kCritique, raisonDe(erreur, chemin)};
     }
     try {
         base.films = base.base.OpenRecordset("Films");
@@ -79,8 +110,10 @@ std::optional<OuvertureBase::Refus> OuvertureBase::essaie(const std::string& che
         return std::nullopt;
     } catch (const dao::ErreurDao& erreur) {
         base.ferme();
-        if (erreur.numero == dao::kErreurLectureSeule) return Refus{kLectureEcriture, dialogues::kCritique};
-        return Refus{"Erreur " + std::to_string(erreur.numero) + " : " + erreur.description, dialogues::kSimple};
+        const std::string raison = raisonDe(erreur, chemin);
+        if (erreur.numero == dao::kErreurLectureSeule) return Refus{kLectureEcriture, dialogues::kCritique, raison};
+        return Refus{"Erreur " + std::to_string(erreur.numero) + " : " + erreur.description, dialogues::kSimple,
+                     raison};
     }
 }
 

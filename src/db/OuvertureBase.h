@@ -9,6 +9,9 @@
 
 namespace db {
 
+inline constexpr const char* kBaseDansTmp =
+    "Le dossier Tmp d'Ambrelis est vidé à chaque fin du programme : une base ne peut pas s'y trouver.";
+
 // Makes sure that the base's file exists and opens it with its three recordsets. Any failure shows its message and
 // throws systeme::FinDuProgramme; no file is harmed by it.
 class OuvertureBase {
@@ -22,24 +25,30 @@ class OuvertureBase {
     void reprend();
     // Opens what chemins.base names in place of the open base. False, nothing changed and nothing shown, when it is none.
     [[nodiscard]] bool rouvre();
-    // May change chemins.base to the program folder's own "films.mdb", and make that file from the template.
-    void assureLeFichier();
+    // May change chemins.base to the program folder's own "films.mdb", chemins.baseAbsente then naming the one that is
+    // not there, and make that file from the template. Answers whether it was made.
+    bool assureLeFichier();
 
     // Whether that existing file opens as a base. Shows the message of the failed opening when it does not; the open
     // base and the file stay as they are.
     [[nodiscard]] bool sOuvre(const std::string& chemin);
 
+    // More of the last failure than its message says: "elle est utilisée par un autre programme"; may be empty.
+    [[nodiscard]] const std::string& raison() const { return m_raison; }
+
   private:
     struct Refus {
         std::string texte;
         int style;
+        std::string raison;  // may be empty
     };
-    [[nodiscard]] static std::optional<Refus> essaie(const std::string& chemin, Base& base);
+    [[nodiscard]] std::optional<Refus> essaie(const std::string& chemin, Base& base) const;
     bool ouvre(const std::string& chemin, Base& base);
 
     Base& m_base;
     Chemins& m_chemins;
     dialogues::Dialogues& m_dialogues;
+    std::string m_raison;
 };
 
 }  // namespace db

@@ -4,6 +4,7 @@
 #include "db/OuvertureJet.h"
 #include "db/Rafraichissement.h"
 
+#include <optional>
 #include <string>
 
 namespace db {
@@ -22,12 +23,22 @@ class cmdChargeOuvreBase_Click {
           m_dialogues(dialogues) {}
 
     void operator()();
+    // The same for a base that was chosen already.
+    void ouvre(const std::string& nom);
+    // For a start whose base cannot be opened, its message shown: offers to choose another one until one opens. False
+    // when the user does not want to.
+    [[nodiscard]] bool ouvreUneAutre();
 
   private:
-    [[nodiscard]] std::string choisit();              // the name with its ending, empty when cancelled
-    [[nodiscard]] bool cree(const std::string& nom);  // asks, then copies the template
-    void convertitEtOuvre(const std::string& nom);
+    using Rapport = std::optional<std::string>;  // of a conversion, to be shown once its result is open
+
+    [[nodiscard]] std::string choisit();  // the name with its ending, empty when cancelled
+    // Makes sure that it can be opened: makes it, when the user agrees, or converts it.
+    [[nodiscard]] bool prepare(const std::string& nom, Rapport& rapport);
+    [[nodiscard]] bool estRefusee(const std::string& nom);
+    [[nodiscard]] bool cree(const std::string& nom);
     void remplaceLaBase(const std::string& nom);
+    void prends(const std::string& nom);
 
     Base& m_base;
     Chemins& m_chemins;

@@ -26,6 +26,10 @@ TEST(UneBaseJet, NamedByTheSettingsItIsConvertedOnceAndBrowsed) {
         demande(refusee, dialogues::kNon);
         refusee.boites.attendMsgBox("Erreur (22) : Ouverture de la base (Lecture seule/Fichier manquant ?)",
                                     dialogues::kCritique);
+        refusee.boites.attendMsgBox("La base " + base +
+                                        " n'a pas pu être ouverte : c'est une base Jet (Access) qui n'a pas été "
+                                        "convertie.\nVoulez-vous en choisir une autre ?",
+                                    dialogues::kQuestion, dialogues::kNon);
         EXPECT_FALSE(refusee.demarre());
         EXPECT_EQ(installation.lit("Vieux/Été.mdb"), octets);
     }

@@ -13,6 +13,10 @@ using testing::ElementsAre;
 constexpr const char* kDossierRefuse = "Le répertoire d'Ambrelis doit être en lecture-écriture";
 constexpr const char* kBaseRefusee = "Erreur (22) : Ouverture de la base (Lecture seule/Fichier manquant ?)";
 
+std::string questionAutre(const std::string& base, const std::string& raison) {
+    return "La base " + base + " n'a pas pu être ouverte : " + raison + ".\nVoulez-vous en choisir une autre ?";
+}
+
 TEST(Demarrage, AFirstStartMakesWhatIsMissingAndFillsTheLists) {
     const Installation installation;
     Execution premiere(installation.chemin());
@@ -52,9 +56,10 @@ TEST(Demarrage, RefusalsComeInOrderAndWriteNoSettings) {
     std::filesystem::remove(installation.chemin("Modele.dat"));
     std::filesystem::remove(installation.chemin("Extensions.txt"));
 
-    const auto refuse = [&](const std::string& message) {
+    const auto refuse = [&](const std::string& message, const std::string& question = "") {
         Execution essai(installation.chemin());
         essai.boites.attendMsgBox(message, dialogues::kCritique);
+        if (!question.empty()) essai.boites.attendMsgBox(question, dialogues::kQuestion, dialogues::kNon);
         EXPECT_FALSE(essai.demarre());
         EXPECT_EQ(installation.lit("Ambrelis.ini"), reglages) << message;
         EXPECT_FALSE(installation.existe("Extensions.txt")) << message;
@@ -63,7 +68,8 @@ TEST(Demarrage, RefusalsComeInOrderAndWriteNoSettings) {
     std::filesystem::remove(installation.chemin("Tmp"));
     refuse("Le fichier " + installation.chemin("Modele.dat") + " n'existe pas.");
     installation.ajouteModele();
-    refuse(kBaseRefusee);
+    refuse(kBaseRefusee, questionAutre(installation.chemin("films.mdb"),
+                                       "le fichier est endommagé ou n'est pas une base d'Ambrelis"));
     EXPECT_EQ(installation.lit("films.mdb"), "ceci n'est pas une base");
     std::filesystem::remove(installation.chemin("films.mdb"));
     refuse("Le fichier 'Extensions.txt' est absent.");
@@ -115,8 +121,112 @@ TEST(Demarrage, SettingsThatCannotHoldGiveWay) {
         EXPECT_FALSE(execution.etats.stockage.Text4.Enabled || execution.etats.stockage.cmdParcourir.Enabled);
         execution.session.Form_Unload();
     }
-    EXPECT_EQ(installation.lit("Ambrelis.ini"), "0\n\n0\n0\n0\nfilms.mdb\n0\n0\n");
+    EXPECT_EQ(installation.lit("Ambrelis.ini"), "0\n\n0\n0\n0\n/disparue.mdb\n0\n0\n");
     EXPECT_TRUE(installation.existe("films.mdb"));
+}
+
+void remetFilms(const Installation& installation, const char* base, const char* titre) {
+    installation.ecrit(base, installation.lit("Modele.dat"));
+    dao::DBEngine::OpenDatabase(installation.chemin(base))
+        .Execute("INSERT INTO Films (Titre) VALUES ('" + std::string(titre) + "')");
+}
+
+TEST(Demarrage, ABaseWhoseDiskIsGoneIsNamedUntilItIsBack) {
+    const Installation installation;
+    const std::string absente = installation.chemin("disque/Ma collection.mdb");
+    const std::string reglages = "0\n\n0\n0\n0\ndisque/Ma collection.mdb\n0\n0\n";
+    installation.ecrit("Ambrelis.ini", reglages);
+    const auto avis = [](const Execution& execution) { return execution.etats.avis.lblAvis.Caption; };
+    {
+        Execution execution(installation.chemin());
+        ASSERT_TRUE(execution.demarre());
+        EXPECT_EQ(avis(execution), "La base " + absente + " est introuvable : " + installation.chemin("films.mdb") +
+                                       " est ouverte à sa place.");
+        execution.session.cmdAvis_Click(0);
+        EXPECT_EQ(avis(execution), "La base " + absente +
+                                       " est toujours introuvable. Branchez le disque où elle se trouve, puis "
+                                       "réessayez.");
+        execution.session.Form_Unload();
+        EXPECT_EQ(installation.lit("Ambrelis.ini"), reglages);
+    }
+    {
+        Execution execution(installation.chemin());
+        ASSERT_TRUE(execution.demarre());
+        remetFilms(installation, "disque/Ma collection.mdb", "Été violent");
+        execution.session.cmdAvis_Click(0);
+        EXPECT_EQ(execution.etats.liste.Label9[0].Caption, "1 titre");
+        EXPECT_FALSE(execution.etats.avis.frameAvis.Visible) << "it says nothing true any more";
+        execution.session.Form_Unload();
+        EXPECT_EQ(installation.lit("Ambrelis.ini"), reglages);
+    }
+    std::filesystem::remove(absente);
+    Execution execution(installation.chemin());
+    ASSERT_TRUE(execution.demarre());
+    execution.session.cmdAvis_Click(1);  // the user stays with the other one
+    EXPECT_FALSE(execution.etats.avis.frameAvis.Visible);
+    execution.session.Form_Unload();
+    EXPECT_EQ(installation.lit("Ambrelis.ini"), "0\n\n0\n0\n0\nfilms.mdb\n0\n0\n");
+}
+
+TEST(Demarrage, AnEmptyBaseInThePlaceOfTheUsersIsTold) {
+    const Installation installation;
+    installation.ecrit("Ambrelis.ini", "0\n\n0\n0\n0\nFilms.mdb\n0\n0\n");
+    Execution execution(installation.chemin());
+    ASSERT_TRUE(execution.demarre());
+    EXPECT_EQ(execution.etats.avis.lblAvis.Caption, "La base " + installation.chemin("Films.mdb") +
+                                                        " n'existait plus : une base vide a été créée à sa place.");
+    const Installation neuve;
+    Execution premiere(neuve.chemin());
+    ASSERT_TRUE(premiere.demarre());
+    EXPECT_FALSE(premiere.etats.avis.frameAvis.Visible) << "a first start loses nothing";
+}
+
+// The question comes back until a base opens.
+TEST(Demarrage, ABaseThatCannotBeOpenedLeavesTheChoiceOfAnother) {
+    const Installation installation;
+    installation.ecrit("Ambrelis.ini", "0\n\n0\n0\n0\nCollection.mdb\n0\n0\n");
+    installation.ecrit("Collection.mdb", installation.lit("Modele.dat"));
+    installation.ecrit("lettre.mdb", "Ce fichier est une lettre.");
+    remetFilms(installation, "Autre.mdb", "Été violent");
+    const auto tenue = dao::DBEngine::OpenDatabase(installation.chemin("Collection.mdb"), true);
+    const dialogues::DemandeFichier choix{"Ouvrir/Créer une base de données", "Fichiers de base de données|*.mdb",
+                                          installation.chemin(), true};
+    const std::string question =
+        questionAutre(installation.chemin("Collection.mdb"), "elle est utilisée par un autre programme");
+    {
+        Execution abandon(installation.chemin());
+        abandon.boites.attendMsgBox(kBaseRefusee, dialogues::kCritique);
+        abandon.boites.attendMsgBox(question, dialogues::kQuestion, dialogues::kOui);
+        abandon.boites.attendFichier(choix, "");
+        EXPECT_FALSE(abandon.demarre());
+    }
+    Execution execution(installation.chemin());
+    doubles::DialoguesScript& boites = execution.boites;
+    boites.attendMsgBox(kBaseRefusee, dialogues::kCritique);
+    boites.attendMsgBox(question, dialogues::kQuestion, dialogues::kOui);
+    boites.attendFichier(choix, installation.chemin("lettre.mdb"));
+    boites.attendMsgBox(kBaseRefusee, dialogues::kCritique);
+    boites.attendMsgBox(question, dialogues::kQuestion, dialogues::kOui);
+    boites.attendFichier(choix, installation.chemin("Autre"));
+    ASSERT_TRUE(execution.demarre());
+    EXPECT_EQ(execution.etats.liste.Label9[0].Caption, "1 titre");
+    execution.session.Form_Unload();
+    EXPECT_EQ(installation.lit("Ambrelis.ini"), "0\n\n0\n0\n0\nAutre.mdb\n0\n0\n");
+}
+
+TEST(Demarrage, AProgramFolderWhoseNameIsNoUtf8IsRefusedAndUntouched) {
+    const Installation installation;
+    const std::string dossier = installation.chemin("Vid\xE9oth\xE8que/");
+    std::filesystem::create_directory(dossier);
+    Execution execution(dossier);
+    execution.boites.attendMsgBox(
+        "Le nom du répertoire d'Ambrelis n'est pas écrit en UTF-8 : le programme ne peut pas y travailler. "
+        "Renommez-le, "
+        "puis recommencez.\n" +
+            dossier,
+        dialogues::kCritique);
+    EXPECT_FALSE(execution.demarre());
+    EXPECT_FALSE(std::filesystem::exists(dossier + "Tmp"));
 }
 
 TEST(Demarrage, GarbageSettingsStartTheProgram) {

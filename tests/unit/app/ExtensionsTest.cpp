@@ -29,6 +29,12 @@ TEST(Extensions, TheLastOfAnOddFileHasNoProgram) {
     EXPECT_EQ(texteExtensions(table, 2), "avi\n/usr/bin/mpv\nmkv\n\n");
 }
 
+TEST(Extensions, WhatIsLongerThanAnyPathIsNoValue) {
+    TableExtensions table;
+    ASSERT_EQ(litExtensions({std::string(5'000'000, 'x'), std::string(4096, 'y'), "mkv", "/usr/bin/mpv"}, table), 2u);
+    EXPECT_EQ(texteExtensions(table, 2), "\n" + std::string(4096, 'y') + "\nmkv\n/usr/bin/mpv\n");
+}
+
 TEST(Extensions, NoMoreThanFifteenPairsAreRead) {
     TableExtensions table;
     EXPECT_EQ(litExtensions({}, table), 0u);

@@ -69,8 +69,9 @@ TEST(Reglages, WriteEightLinesOfPlainValues) {
 }
 
 TEST(Reglages, AnyPathReadsAsItWasWritten) {
-    for (const char* chemin : {"/opt/Vidéothèque/", "/opt/Vidéothèque/C:films.mdb", "/opt/Vidéothèque//films.mdb",
-                               "/opt/Vidéothèque 2/films.mdb", "https://site/images", "C:\\a.mdb"}) {
+    for (const char* chemin :
+         {"/opt/Vidéothèque/", "/opt/Vidéothèque/C:films.mdb", "/opt/Vidéothèque//films.mdb",
+          "/opt/Vidéothèque/~/films.mdb", "/opt/Vidéothèque 2/films.mdb", "https://site/images", "C:\\a.mdb"}) {
         const Reglages reglages{0, "", 0, 0, 7, chemin};
         EXPECT_EQ(litReglages(texteReglages(reglages, kDossier), kDossier), reglages) << chemin;
     }

@@ -45,6 +45,7 @@ TEST_F(OuvertureBaseTest, ABaseThatIsGoneFallsBackToTheProgramFolder) {
     installation.chemins.base = "/nulle/part/Collection.mdb";
     ouvertureBase();
     EXPECT_EQ(installation.chemins.base, chemin("films.mdb"));
+    EXPECT_EQ(installation.chemins.baseARetenir(), "/nulle/part/Collection.mdb");
     EXPECT_EQ(Installation::premierTitre(base), "Été");
     EXPECT_FALSE(installation.dossier.existe("films.mdb"));
 }
@@ -77,9 +78,37 @@ TEST_F(OuvertureBaseTest, NeitherBaseNorTemplate) {
     EXPECT_FALSE(installation.dossier.existe("Films.mdb"));
 }
 
+TEST_F(OuvertureBaseTest, ATemplateThatIsNoBaseIsGivenNoName) {
+    const std::string modele = installation.dossier.lit("Modele.dat");
+    for (const std::string& octets : {std::string(), modele.substr(0, modele.size() / 2), std::string("abîmé")}) {
+        installation.dossier.ecrit("Modele.dat", octets);
+        dialogues.attendMsgBox(kErreur22, 16);
+        EXPECT_THROW(ouvertureBase(), systeme::FinDuProgramme);
+        EXPECT_EQ(ouvertureBase.raison(), "le fichier modèle (" + chemin("Modele.dat") + ") est endommagé");
+        const std::filesystem::directory_iterator contenu(installation.dossier.chemin());
+        EXPECT_EQ(std::distance(begin(contenu), end(contenu)), 1) << "nothing but the template";
+    }
+}
+
 TEST_F(OuvertureBaseTest, ABaseHeldByAnotherProgram) {
     const dao::Database autre = dao::DBEngine::OpenDatabase(installation.creeBase("Films.mdb"), true);
     refuse("Films.mdb", kErreur22, 16);
+    EXPECT_EQ(ouvertureBase.raison(), "elle est utilisée par un autre programme");
+}
+
+// Whatever leads there: the shut-down would take the base away, or the link to it.
+TEST_F(OuvertureBaseTest, ABaseInTmpIsRefused) {
+    namespace fs = std::filesystem;
+    fs::create_directory(chemin("Tmp"));
+    installation.creeBase("Tmp/Films.mdb");
+    installation.creeBase("Ailleurs.mdb");
+    fs::create_symlink(chemin("Tmp"), chemin("lien"));
+    fs::create_symlink(chemin("Tmp/Films.mdb"), chemin("dehors.mdb"));
+    fs::create_symlink(chemin("Ailleurs.mdb"), chemin("Tmp/dedans.mdb"));
+    for (const char* nom : {"Tmp/Films.mdb", "lien/Films.mdb", "dehors.mdb", "Tmp/dedans.mdb"})
+        refuse(nom, db::kBaseDansTmp, 48);
+    installation.chemins.base = chemin("Tmp/../Ailleurs.mdb");
+    ouvertureBase();
 }
 
 TEST_F(OuvertureBaseTest, ABaseThatCannotBeWritten) {

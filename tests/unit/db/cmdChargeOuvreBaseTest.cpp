@@ -91,9 +91,35 @@ TEST_F(cmdChargeOuvreBaseTest, ABaseThatCannotBeMadeLeavesTheOpenOne) {
     installation.dossier.ecrit("Modele.dat", "abîmé");
     choisit(chemin("Neuve.mdb"));
     demandeCreation(chemin("Neuve.mdb"), dialogues::kOui);
-    dialogues.attendMsgBox("Erreur (22) : Ouverture de la base (Lecture seule/Fichier manquant ?)", 16);
+    dialogues.attendMsgBox("Le fichier modèle n'est pas une base utilisable (" + chemin("Modele.dat") + ").", 16);
     rienNAChange();
     EXPECT_FALSE(installation.dossier.existe("Neuve.mdb"));
+}
+
+TEST_F(cmdChargeOuvreBaseTest, WhatWouldBeEmptiedOrCouldNotBeNamedIsRefused) {
+    std::filesystem::create_directory(chemin("Tmp"));
+    choisit(chemin("Tmp/Neuve"));
+    dialogues.attendMsgBox(db::kBaseDansTmp, 48);
+    rienNAChange();
+    installation.creeBase("Sur deux\nlignes.mdb");
+    choisit(chemin("Sur deux\nlignes.mdb"));
+    dialogues.attendMsgBox(
+        "Le chemin de ce fichier contient un saut de ligne : Ambrelis ne pourrait pas le retenir. Renommez le fichier "
+        "ou son dossier, puis recommencez.",
+        48);
+    rienNAChange();
+    EXPECT_TRUE(std::filesystem::is_empty(chemin("Tmp")));
+}
+
+// The base of the settings is the user's until he opens another one, the open one included.
+TEST_F(cmdChargeOuvreBaseTest, OpeningABaseForgetsTheAbsentOne) {
+    for (const char* nom : {"Films.mdb", "Autre.mdb"}) {
+        installation.chemins.baseAbsente = "/disque/Collection.mdb";
+        if (!installation.dossier.existe(nom)) installation.creeBase(nom);
+        choisit(chemin(nom));
+        commande();
+        EXPECT_EQ(installation.chemins.baseARetenir(), chemin(nom));
+    }
 }
 
 TEST_F(cmdChargeOuvreBaseTest, ANameWithoutItsEndingIsGivenOne) {
