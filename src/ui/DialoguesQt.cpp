@@ -196,6 +196,17 @@ QWidget* DialoguesQt::parent() {
     return m_fenetre && m_fenetre->isVisible() ? m_fenetre.data() : nullptr;
 }
 
+void DialoguesQt::refuse() {
+    m_refuse = true;
+    if (QWidget* menu = QApplication::activePopupWidget()) menu->close();
+    for (QWidget* fenetre : QApplication::topLevelWidgets())
+        if (auto* boite = qobject_cast<QDialog*>(fenetre); boite && boite->isModal()) boite->reject();
+}
+
+void DialoguesQt::exigeReponse() const {
+    if (m_refuse) throw dialogues::SansReponse{};
+}
+
 int DialoguesQt::MsgBox(const std::string& texte, int style, const std::string& titre) {
     return montre(texte, {}, style, titre);
 }
@@ -208,6 +219,8 @@ void DialoguesQt::montre(const dialogues::Rapport& rapport) {
 
 int DialoguesQt::montre(const std::string& texte, const std::vector<std::string>& lignes, int style,
                         const std::string& titre) {
+    if (style == dialogues::kQuestion) exigeReponse();
+    if (m_refuse) return dialogues::kOk;
     m_liaison.ecrit();
     QMessageBox boite(icone(style), qt(titre), {}, QMessageBox::NoButton, parent());
     boite.setTextFormat(Qt::PlainText);
@@ -220,7 +233,9 @@ int DialoguesQt::montre(const std::string& texte, const std::vector<std::string>
     else
         boite.setTextInteractionFlags(Qt::TextSelectableByMouse);
     copieParCtrlC(boite, liste, texteDe(boite));
-    switch (boite.exec()) {
+    const int reponse = boite.exec();
+    if (style == dialogues::kQuestion) exigeReponse();
+    switch (reponse) {
         case QMessageBox::Yes:
             return dialogues::kOui;
         case QMessageBox::No:
@@ -231,22 +246,28 @@ int DialoguesQt::montre(const std::string& texte, const std::vector<std::string>
 }
 
 std::string DialoguesQt::InputBox(const std::string& invite, const std::string& titre, const std::string& defaut) {
+    exigeReponse();
     m_liaison.ecrit();
     QInputDialog boite(parent());
     compose(boite, invite, titre, defaut);
-    return saisie(boite);
+    std::string reponse = saisie(boite);
+    exigeReponse();
+    return reponse;
 }
 
 std::optional<std::string> DialoguesQt::demandeMotDePasse(const std::string& invite) {
+    exigeReponse();
     m_liaison.ecrit();
     QInputDialog boite(parent());
     boite.setTextEchoMode(QLineEdit::Password);
     compose(boite, invite, dialogues::kTitre, {});
-    if (boite.exec() != QDialog::Accepted) return std::nullopt;
-    return boite.textValue().toStdString();
+    const bool donne = boite.exec() == QDialog::Accepted;
+    exigeReponse();
+    return donne ? std::optional(boite.textValue().toStdString()) : std::nullopt;
 }
 
 std::string DialoguesQt::demandeChemin(const dialogues::DemandeChemin& demande) {
+    exigeReponse();
     m_liaison.ecrit();
     QInputDialog boite(parent());
     compose(boite, demande.invite, demande.titre, demande.defaut);
@@ -259,27 +280,36 @@ std::string DialoguesQt::demandeChemin(const dialogues::DemandeChemin& demande) 
         const QString choisi = cheminAEcrire(boite, demande);
         if (!choisi.isEmpty()) boite.setTextValue(choisi);
     });
-    return saisie(boite);
+    std::string reponse = saisie(boite);
+    exigeReponse();
+    return reponse;
 }
 
 std::string DialoguesQt::choisitFichier(const dialogues::DemandeFichier& demande) {
+    exigeReponse();
     m_liaison.ecrit();
     NaturesEnFrancais natures;  // outlives the box that asks it
     QFileDialog boite(parent(), qt(demande.titre));
     boite.setIconProvider(&natures);
     boite.setNameFilter(filtreQt(demande.filtre));
     boite.setFileMode(QFileDialog::AnyFile);  // who asks says what is wrong with a name that leads nowhere
-    return choisit(boite, demande.dossier);
+    if (!demande.nom.empty()) proposeDEnregistrer(boite, qt(demande.nom));
+    std::string reponse = choisit(boite, demande.dossier);
+    exigeReponse();
+    return reponse;
 }
 
 std::string DialoguesQt::choisitDossier(const std::string& titre, const std::string& dossierInitial) {
+    exigeReponse();
     m_liaison.ecrit();
     NaturesEnFrancais natures;
     QFileDialog boite(parent(), qt(titre));
     boite.setIconProvider(&natures);
     boite.setFileMode(QFileDialog::Directory);
     boite.setOption(QFileDialog::ShowDirsOnly);
-    return choisit(boite, dossierInitial);
+    std::string reponse = choisit(boite, dossierInitial);
+    exigeReponse();
+    return reponse;
 }
 
 QString filtreQt(const std::string& filtre) {

@@ -15,6 +15,10 @@ class DialoguesQt final : public dialogues::Dialogues {
     explicit DialoguesQt(Liaison& liaison) : m_liaison(liaison) {}
     void metParent(QWidget* fenetre) { m_fenetre = fenetre; }
 
+    // The program is ended from outside: the box that is open closes and none opens any more. Messages pass unread,
+    // questions throw dialogues::SansReponse.
+    void refuse();
+
     int MsgBox(const std::string& texte, int style, const std::string& titre) override;
     void montre(const dialogues::Rapport& rapport) override;
     std::string InputBox(const std::string& invite, const std::string& titre, const std::string& defaut) override;
@@ -26,11 +30,13 @@ class DialoguesQt final : public dialogues::Dialogues {
   private:
     // Long texts, and those that come by `lignes`, in a list that scrolls.
     int montre(const std::string& texte, const std::vector<std::string>& lignes, int style, const std::string& titre);
-    QWidget* parent();  // the window in use, else the main one; none as long as that is not shown
+    void exigeReponse() const;  // before and after a box whose answer counts
+    QWidget* parent();          // the window in use, else the main one; none as long as that is not shown
 
     Liaison& m_liaison;
     QPointer<QWidget> m_fenetre;
     QPointer<QWidget> m_enUsage;
+    bool m_refuse = false;
 };
 
 // "Fichiers JPEG|*.jpg" as Qt writes it, with the endings in both cases; "*.*" means every file.

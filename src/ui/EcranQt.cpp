@@ -35,13 +35,13 @@ bool estUneSaisie(QEvent::Type type) {
 }  // namespace
 
 bool EcranQt::respire() {
-    if (m_depuisSouffle.isValid() && m_depuisSouffle.elapsed() < kEntreDeuxSouffles) return !m_arretDemande;
+    if (m_depuisSouffle.isValid() && m_depuisSouffle.elapsed() < kEntreDeuxSouffles) return continuer();
     m_liaison.ecrit();
     qApp->installEventFilter(this);
     QCoreApplication::processEvents();
     qApp->removeEventFilter(this);
     m_depuisSouffle.start();
-    return !m_arretDemande;
+    return continuer();
 }
 
 void EcranQt::rafraichit() {

@@ -23,6 +23,7 @@ class EcranQt final : public QObject, public ecran::Ecran {
 
     // The user wants the work to stop. Forgotten when the work ends.
     void demandeArret() { m_arretDemande = true; }
+    void arretePourDeBon() { m_finDemandee = true; }                // that work and any other: the program ends
     void laissePasser(QObject* widget) { m_admis.append(widget); }  // it takes input during work, as few others do
 
     bool eventFilter(QObject* objet, QEvent* evenement) override;
@@ -32,11 +33,14 @@ class EcranQt final : public QObject, public ecran::Ecran {
     void travailFini();
 
   private:
+    [[nodiscard]] bool continuer() const { return !m_arretDemande && !m_finDemandee; }
+
     Liaison& m_liaison;
     QList<QObject*> m_admis;
     QElapsedTimer m_depuisSouffle;
     int m_travaux = 0;  // works may lie within one another
     bool m_arretDemande = false;
+    bool m_finDemandee = false;
 };
 
 }  // namespace ui

@@ -1,6 +1,9 @@
 #include "ui/Programme.h"
 
+#include "platform/systeme/FinDuProgramme.h"
+
 #include <QCoreApplication>
+#include <utility>
 
 namespace ui {
 
@@ -28,6 +31,9 @@ Programme::Programme(const std::string& dossier, const Services& services)
         m_fenetre.hide();
         QCoreApplication::quit();
     });
+    QObject::connect(&m_commande, &Commande::terminee, &m_fenetre, [this] {
+        if (m_termine) finis();
+    });
     QObject::connect(&m_ecran, &EcranQt::travailCommence, &m_fenetre, [this] { montreTravail(); });
 }
 
@@ -40,9 +46,23 @@ void Programme::montreTravail() {
 }
 
 bool Programme::demarre() {
-    if (m_commande.execute([this] { m_session.Form_Load(); }) != Commande::Issue::Faite) return false;
+    if (m_commande.execute([this] { m_session.Form_Load(); }) != Commande::Issue::Faite || m_termine) return false;
     m_fenetre.ouvre();
     return true;
+}
+
+void Programme::termine() {
+    if (std::exchange(m_termine, true)) return;
+    m_ecran.arretePourDeBon();
+    m_boites.refuse();
+    if (!m_commande.enCours()) finis();
+}
+
+void Programme::finis() {
+    m_commande.execute([this] {
+        m_session.FinDeSession();
+        throw systeme::FinDuProgramme{};
+    });
 }
 
 }  // namespace ui

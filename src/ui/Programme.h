@@ -34,6 +34,9 @@ class Programme {
 
     // Loads the program and shows its window; false when it must end before, its message shown.
     [[nodiscard]] bool demarre();
+    // The shut-down as soon as may be and without a question: a box that is open is left, work under way stops between
+    // two items, and then the event loop ends. For those who end the program from outside.
+    void termine();
 
     [[nodiscard]] FenetrePrincipale& fenetre() { return m_fenetre; }
     [[nodiscard]] app::Session& session() { return m_session; }
@@ -42,6 +45,7 @@ class Programme {
 
   private:
     void montreTravail();
+    void finis();
 
     Liaison m_liaison;
     DialoguesQt m_boites;
@@ -55,6 +59,7 @@ class Programme {
     Commande m_commande;
     FenetrePrincipale m_fenetre;
     std::unique_ptr<FenetreTravail> m_fenetreTravail;  // when work was under way before the window was shown
+    bool m_termine = false;
 };
 
 }  // namespace ui

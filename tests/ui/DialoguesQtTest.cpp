@@ -206,6 +206,28 @@ TEST(DialoguesQt, TheFileBoxSaysWhyItLeavesNamesOut) {
     EXPECT_EQ(boites.choisitFichier({"Choix", "Fichiers JPEG|*.jpg", dossier.chemin(), false}), "");
 }
 
+TEST(DialoguesQt, APlaceForAPathOfWindowsIsChosenUnderItsName) {
+    const doubles::DossierTemporaire dossier;
+    ui::Liaison liaison;
+    ui::DialoguesQt boites(liaison);
+    const auto enregistre = [&](QFileDialog& boite) {
+        EXPECT_EQ(boite.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_EQ(boite.findChild<QLineEdit*>("fileNameEdit")->text(), "FILMS.txt");
+        boite.setDirectory(QString::fromStdString(dossier.chemin()));
+        boite.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+    };
+    surLaBoite<QFileDialog>(enregistre);
+    EXPECT_EQ(boites.choisitFichier({"Créer", "Fichiers TXT|*.txt", "", true, "FILMS.txt"}),
+              dossier.chemin("FILMS.txt"));
+    surLaBoite<QInputDialog>([&](QInputDialog& boite) {
+        surLaBoite<QFileDialog>(enregistre);
+        boite.findChild<QPushButton*>("cmdParcourirChemin")->click();
+        boite.accept();
+    });
+    EXPECT_EQ(boites.demandeChemin({"Où ?", "Créer", "C:\\Mes films\\FILMS.txt", ".txt", false}),
+              dossier.chemin("FILMS.txt"));
+}
+
 TEST(DialoguesQt, FiltersTakeBothLetterCases) {
     EXPECT_EQ(ui::filtreQt("Fichiers JPEG|*.jpg"), "Fichiers JPEG (*.jpg *.JPG)");
     EXPECT_EQ(ui::filtreQt("Tous types de fichiers|*.*"), "Tous types de fichiers (*)");

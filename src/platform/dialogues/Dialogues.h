@@ -33,6 +33,10 @@ struct Rapport {
     std::vector<std::string> lignes;
 };
 
+// What a question throws when the program is ended from outside: nobody is there to answer it, and no answer may be made
+// up. The command that asks ends there.
+struct SansReponse {};
+
 // Every box the program shows. The window opens Qt's own; tests answer from a script.
 // A box is never shown inside a transaction; the panels' state is on the screen before it opens.
 class Dialogues {
