@@ -27,7 +27,27 @@ add_custom_command(OUTPUT "${AMBRELIS_DOSSIER}/traductions/qtbase_fr.qm"
   DEPENDS "${CATALOGUE_QT_FRANCAIS}"
   COMMENT "Copying Qt's French catalogue" VERBATIM)
 
+# What only has to stand there: the user's guide, and sheets to begin with. A copy that is older than its source, or
+# gone, is made again.
+function(recopie dossier)
+  set(copies)
+  foreach(fichier IN LISTS ARGN)
+    cmake_path(GET fichier FILENAME nom)
+    list(APPEND copies "${AMBRELIS_DOSSIER}/${dossier}/${nom}")
+  endforeach()
+  add_custom_command(OUTPUT ${copies}
+    COMMAND "${CMAKE_COMMAND}" -E make_directory "${AMBRELIS_DOSSIER}/${dossier}"
+    COMMAND "${CMAKE_COMMAND}" -E copy ${ARGN} "${AMBRELIS_DOSSIER}/${dossier}"
+    DEPENDS ${ARGN}
+    COMMENT "Copying ${dossier}" VERBATIM)
+  set(recopies ${recopies} ${copies} PARENT_SCOPE)
+endfunction()
+
+file(GLOB fiches CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/samples/*.FILM" "${PROJECT_SOURCE_DIR}/samples/*.jpg")
+recopie(samples ${fiches})
+recopie(Guide "${PROJECT_SOURCE_DIR}/docs/guide/index.html" "${PROJECT_SOURCE_DIR}/docs/fenetre.png")
+
 add_custom_target(dossier_programme ALL
   DEPENDS "${AMBRELIS_DOSSIER}/Modele.dat" "${AMBRELIS_DOSSIER}/Extensions.txt"
-          "${AMBRELIS_DOSSIER}/traductions/qtbase_fr.qm")
+          "${AMBRELIS_DOSSIER}/traductions/qtbase_fr.qm" ${recopies})
 add_dependencies(dossier_programme Ambrelis)

@@ -9,10 +9,10 @@
 namespace app {
 
 using acquire::kSiteMovieCovers;  // opened by Image3
-// The program's own page, opened by Label4.
-inline constexpr const char* kPageAmbrelis = "https://ambrelis.example/";
+// The user's guide, in the program folder, opened by Label4: the program has no page of its own yet.
+inline constexpr const char* kGuide = "Guide/index.html";
 
-// Opens an address in the user's browser; tells the address when nothing could be started.
+// Opens an address, or a page by its path, in the user's browser; tells it when nothing could be started.
 void ouvreLien(const std::string& adresse, systeme::Documents& documents, dialogues::Dialogues& dialogues);
 
 }  // namespace app

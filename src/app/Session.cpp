@@ -289,7 +289,7 @@ void Session::Image3_Click() {
 }
 
 void Session::Label4_Click() {
-    ouvreLien(kPageAmbrelis, m_rouages->machine.documents, m_rouages->machine.dialogues);
+    ouvreLien(m_rouages->chemins.dansDossier(kGuide), m_rouages->machine.documents, m_rouages->machine.dialogues);
 }
 
 void Session::Combo6_Click(int indice) {

@@ -115,8 +115,8 @@ QLayout* PanneauConfig::programme(const Atelier& atelier) {
     auto& fonctions = atelier.etats().fonctions;
     auto* connexion =
         nomme(new QCheckBox(tr("&Lancer la connexion au démarrage du téléchargement")), "chkLancerConnexion");
-    auto* page = nomme(new BoutonLien(tr("La page d'Ambrelis")), "Label4");
-    page->setToolTip(tr("Ouvrir la page du programme dans le navigateur"));
+    auto* page = nomme(new BoutonLien(tr("Le guide d'Ambrelis")), "Label4");
+    page->setToolTip(tr("Lire le guide du programme dans le navigateur"));
     atelier.liaison.lie(fonctions.chkLancerConnexion, connexion);
     atelier.liaison.lie(fonctions.Label4, page);
     atelier.auClic(page, &app::Session::Label4_Click);

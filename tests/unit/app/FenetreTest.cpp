@@ -58,7 +58,8 @@ TEST(Liens, OpenInTheBrowserOrGiveTheirAddress) {
     Execution execution(installation.chemin());
     execution.session.Image3_Click();
     execution.session.Label4_Click();
-    EXPECT_EQ(execution.documents.ouverts, (std::vector<std::string>{app::kSiteMovieCovers, app::kPageAmbrelis}));
+    EXPECT_EQ(execution.documents.ouverts,
+              (std::vector<std::string>{app::kSiteMovieCovers, installation.chemin("Guide/index.html")}));
     execution.documents.reussit = false;
     execution.boites.attendMsgBox(std::string("Le navigateur n'a pas pu être ouvert (") + app::kSiteMovieCovers + ").",
                                   dialogues::kExclamation);
