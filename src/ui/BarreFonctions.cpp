@@ -33,7 +33,9 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
                            tr("Ajouter des films à la base (Ctrl+N pour une saisie ; Échap pour revenir)"));
     auto* outils = fonction("cmdConfigurer", tr("&Outils"), Pictogramme::Reglages,
                             tr("Entretenir la base et régler le programme (Échap pour revenir)"));
-    auto* site = fonction("Image3", tr("MovieCovers"), Pictogramme::Lien, tr("Ouvrir le site de MovieCovers"));
+    auto* site = fonction("Image3", tr("MovieCovers"), Pictogramme::MovieCovers,
+                          tr("Le logo de MovieCovers : un clic ouvre le site"));
+    site->setIconSize({20, 20});
     auto* aide =
         fonction("cmdAide", tr("À propos"), Pictogramme::Aide, tr("À propos d'Ambrelis (F1 pour les touches)"));
     auto* sortie =

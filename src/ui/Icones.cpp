@@ -41,11 +41,6 @@ QPainterPath trace(Pictogramme pictogramme) {
             t.moveTo(10, 12), t.lineTo(20.5, 12);
             t.moveTo(16.8, 8.3), t.lineTo(20.5, 12), t.lineTo(16.8, 15.7);
             break;
-        case Pictogramme::Lien:
-            t.moveTo(18, 13.5), t.lineTo(18, 19.5), t.lineTo(4.5, 19.5), t.lineTo(4.5, 6), t.lineTo(10.5, 6);
-            t.moveTo(14, 4), t.lineTo(20, 4), t.lineTo(20, 10);
-            t.moveTo(20, 4), t.lineTo(11, 13);
-            break;
         case Pictogramme::Etoile:
             t.moveTo(12, 3.6);
             for (const auto& [x, y] : {std::pair(14.5, 9.1), std::pair(20.5, 9.8), std::pair(16.0, 13.9),
@@ -80,6 +75,17 @@ QPainterPath trace(Pictogramme pictogramme) {
             t.moveTo(4, 8.5), t.lineTo(19, 8.5), t.moveTo(15.2, 4.7), t.lineTo(19, 8.5), t.lineTo(15.2, 12.3);
             t.moveTo(20, 16), t.lineTo(5, 16), t.moveTo(8.8, 12.2), t.lineTo(5, 16), t.lineTo(8.8, 19.8);
             break;
+        case Pictogramme::MovieCovers: {  // the letters are cut out of a film's box
+            t.addRoundedRect(QRectF(0.5, 2, 23, 20), 3.5, 3.5);
+            QFont lettres = QApplication::font();
+            lettres.setPixelSize(12);
+            lettres.setWeight(QFont::Black);
+            QPainterPath initiales;
+            initiales.addText(0, 0, lettres, QStringLiteral("MC"));
+            const QPointF centre = initiales.boundingRect().center();
+            t.addPath(initiales.translated(QPointF(12, 12) - centre));
+            break;
+        }
         case Pictogramme::Clap:
             t.addRoundedRect(QRectF(3, 10, 18, 10.5), 1.2, 1.2);
             t.moveTo(3.2, 9.6), t.lineTo(2.5, 6.4), t.lineTo(19.8, 2.6), t.lineTo(20.5, 5.8), t.closeSubpath();
@@ -98,7 +104,9 @@ class MoteurIcone final : public QIconEngine {
         const auto groupe = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         const QPalette palette = QApplication::palette();
         peintPictogramme(*peintre, zone, m_pictogramme,
-                         m_accentuee ? accentLisible(palette) : palette.color(groupe, QPalette::ButtonText));
+                         m_accentuee || m_pictogramme == Pictogramme::MovieCovers
+                             ? accentLisible(palette)
+                             : palette.color(groupe, QPalette::ButtonText));
     }
     QPixmap pixmap(const QSize& taille, QIcon::Mode mode, QIcon::State etat) override {
         QPixmap image(taille);
@@ -129,8 +137,9 @@ void peintPictogramme(QPainter& peintre, const QRectF& zone, Pictogramme pictogr
     peintre.setRenderHint(QPainter::Antialiasing);
     peintre.translate(zone.topLeft());
     peintre.scale(zone.width() / 24, zone.height() / 24);
-    peintre.setPen(QPen(couleur, 1.7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    peintre.setBrush(pictogramme == Pictogramme::Etoile ? QBrush(couleur) : QBrush(Qt::NoBrush));
+    const bool logo = pictogramme == Pictogramme::MovieCovers;
+    peintre.setPen(logo ? QPen(Qt::NoPen) : QPen(couleur, 1.7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    peintre.setBrush(logo || pictogramme == Pictogramme::Etoile ? QBrush(couleur) : QBrush(Qt::NoBrush));
     peintre.drawPath(trace(pictogramme));
     peintre.restore();
 }

@@ -12,14 +12,14 @@ enum class Pictogramme {
     Reglages,
     Aide,
     Sortie,
-    Lien,
     Etoile,
     Clap,
     Question,
     Attention,
     Erreur,
     Enregistre,
-    Remplace
+    Remplace,
+    MovieCovers  // a logo: filled, and always in the accent colour
 };
 
 // Line drawings in the palette's colours, followed when the palette changes.
