@@ -14,6 +14,12 @@ void ChoixDossierFiches::cmdParcourir2_Click() {
     montreNombreDeFiches(m_ajout, m_chemins);
 }
 
+bool ChoixDossierFiches::remplaceCheminWindows() {
+    const std::string& dossier = m_ajout.txtCheminAjoutAuto.Text;
+    if (fichiers::estCheminWindows(dossier)) cmdParcourir2_Click();
+    return !fichiers::estCheminWindows(dossier);
+}
+
 void ChoixDossierFiches::txtCheminAjoutAuto_Change() {
     montreNombreDeFiches(m_ajout, m_chemins);
 }

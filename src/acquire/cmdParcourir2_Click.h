@@ -16,6 +16,8 @@ class ChoixDossierFiches {
 
     void cmdParcourir2_Click();  // a cancelled choice changes nothing
     void txtCheminAjoutAuto_Change();
+    // Before an import: a path of Windows leads nowhere here and opens the choice. False when it is still there then.
+    [[nodiscard]] bool remplaceCheminWindows();
 
   private:
     edit::EtatAjout& m_ajout;

@@ -363,6 +363,7 @@ void Session::cmdImporterBase_Click() {
 }
 
 void Session::cmdAjoutAuto_Click() {
+    if (!m_rouages->choixDossierFiches.remplaceCheminWindows()) return;
     m_rouages->garde([this] { puisVersLaListe(etats, [this] { m_rouages->importFiches.cmdAjoutAuto_Click(); }); });
 }
 

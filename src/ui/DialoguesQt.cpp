@@ -154,7 +154,7 @@ void annonceNomsIllisibles(QFileDialog& boite) {
 std::string choisit(QFileDialog& boite, const std::string& dossier) {
     boite.setOption(QFileDialog::DontUseNativeDialog);  // a desktop's own would speak the desktop's language
     boite.resize(780, 500);
-    const QString ouverture = qt(dossier);
+    const QString ouverture = qt(fichiers::cheminTape(dossier, ""));
     boite.setDirectory(QDir(ouverture).exists() && !ouverture.isEmpty() ? ouverture : QDir::homePath());
     annonceNomsIllisibles(boite);
     if (boite.exec() != QDialog::Accepted || boite.selectedFiles().isEmpty()) return {};

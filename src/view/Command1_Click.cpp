@@ -1,5 +1,6 @@
 #include "view/Command1_Click.h"
 
+#include "platform/fichiers/CheminTape.h"
 #include "platform/fichiers/Fichiers.h"
 #include "platform/systeme/LigneDeCommande.h"
 #include "view/ChercheFichier.h"
@@ -31,7 +32,7 @@ void Command1_Click::operator()(int indice) {
 
 void Command1_Click::ouvre(const std::string& fichier) {
     const std::string logiciel = m_extensions.logiciel(fichiers::extension(fichier));
-    const auto chemin = chercheFichier(fichier, m_volumes.liste());
+    const auto chemin = chercheFichier(fichiers::cheminTape(fichier, ""), m_volumes.liste());
     if (!chemin) return refuse("Le fichier " + fichier + " n'a pas été trouvé !");
     if (logiciel == kLogicielParDefaut)
         m_lanceFichier("\"" + *chemin + "\"", false, "open", "", "", "2", false);

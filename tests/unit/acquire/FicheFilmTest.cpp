@@ -164,6 +164,14 @@ TEST(ChoixDossierFiches, countsTheSheetsOfTheFolderChosenOrTyped) {
     EXPECT_EQ(tape("Fiches/a.film"), "Ce dossier n'existe pas.");
     EXPECT_EQ(tape(""), "");
     setenv("HOME", rendu.c_str(), 1);
+
+    EXPECT_TRUE(choix.remplaceCheminWindows());
+    ajout.txtCheminAjoutAuto.Text = "D:\\Fiches";
+    for (const std::string& reponse : {std::string(), dossier.chemin()}) {
+        dialogues.attendDossier("Dossier des fiches de films", "D:\\Fiches", reponse);
+        EXPECT_EQ(choix.remplaceCheminWindows(), !reponse.empty());
+    }
+    EXPECT_EQ(ajout.txtCheminAjoutAuto.Text, dossier.chemin());
 }
 
 }  // namespace

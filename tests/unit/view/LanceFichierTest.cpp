@@ -150,6 +150,13 @@ TEST_F(FichiersDuFilm, AreFoundOnTheVolumeWhereTheyNowAre) {
     const std::string premier = dossier.ecrit("usb/Films/L'Été.AVI", "film");
     clique(0);
     EXPECT_EQ(documents.fichiers.back(), premier) << "the first volume wins";
+
+    const std::string personnel = std::getenv("HOME") ? std::getenv("HOME") : "/";
+    setenv("HOME", dossier.chemin("usb").c_str(), 1);
+    film.fichiers[2] = "~/b/c.mkv";
+    clique(2);
+    setenv("HOME", personnel.c_str(), 1);
+    EXPECT_EQ(documents.fichiers.back(), autre);
 }
 
 TEST_F(FichiersDuFilm, WhatIsNowhereOrOnASilentVolumeOrAFolderIsNotFound) {
