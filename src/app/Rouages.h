@@ -64,8 +64,9 @@ struct Session::Rouages final : db::Rafraichissement {
                                    machine.dialogues, etats.stockage, chemins}};
     db::cmdChargeOuvreBase_Click cmdChargeOuvreBase{base,         chemins, ouvertureBase,
                                                     ouvertureJet, *this,   machine.dialogues};
-    BaseAbsente baseAbsente{chemins, avis, etats.avis,
-                            [this](const std::string& nom) { surLaBase([&] { cmdChargeOuvreBase.ouvre(nom); }); }};
+    BaseAbsente baseAbsente{chemins, avis, etats.avis, [this](const std::string& nom) {
+                                if (saisies.abandonneTout()) surLaBase([&] { cmdChargeOuvreBase.ouvre(nom); });
+                            }};
     db::Option3_Click option3{etats.stockage, chemins};
     db::cmdCompacter_Click cmdCompacter{base, chemins, ouvertureBase, *this, machine.dialogues};
     db::cmdMajBase_Click cmdMajBase{
