@@ -108,10 +108,6 @@ void Session::Form_Activate() {
 }
 
 void Session::Form_Unload() {
-    FinDeSession();
-}
-
-void Session::FinDeSession() {
     if (!std::exchange(m_rouages->enMarche, false)) return;
     m_rouages->arret.execute(m_rouages->demarrage.reglagesLus());
 }

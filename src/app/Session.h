@@ -46,8 +46,6 @@ class Session {
     void Form_Unload();
     // Asks, where something is typed that closing the window would lose; false: the window stays.
     [[nodiscard]] bool Form_QueryUnload();
-    // The shut-down without a question, for those who end the program from outside; it too runs once.
-    void FinDeSession();
     void cmdStop_Click();  // asks as Form_QueryUnload, shuts down, then throws FinDuProgramme
     // The layout has room for both pages of the sheet, or no longer has.
     void Form_Resize(bool deuxPages);

@@ -12,7 +12,7 @@ Programme* g_programme = nullptr;
 
 // Qt leaves by exit() when the screen is gone.
 void aLaSortie() {
-    if (g_programme) g_programme->session().FinDeSession();
+    if (g_programme) g_programme->session().Form_Unload();
 }
 
 }  // namespace
@@ -26,7 +26,7 @@ FinDemandee::FinDemandee(Programme& programme) : m_programme(programme) {
     }
     connect(
         qApp, &QGuiApplication::commitDataRequest, this, [this] { m_programme.termine(); }, Qt::DirectConnection);
-    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { m_programme.session().FinDeSession(); });
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { m_programme.session().Form_Unload(); });
     g_programme = &programme;
     [[maybe_unused]] static const int inscrite = std::atexit(aLaSortie);
 }

@@ -60,7 +60,7 @@ void Programme::termine() {
 
 void Programme::finis() {
     m_commande.execute([this] {
-        m_session.FinDeSession();
+        m_session.Form_Unload();
         throw systeme::FinDuProgramme{};
     });
 }
