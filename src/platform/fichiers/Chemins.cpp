@@ -1,5 +1,7 @@
 #include "platform/fichiers/Fichiers.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 
 namespace fichiers {
@@ -18,6 +20,24 @@ std::size_t pointDeLExtension(std::string_view chemin) {
 }
 
 }  // namespace
+
+bool estDans(const std::string& chemin, const std::string& dossier) {
+    namespace fs = std::filesystem;
+    std::error_code erreur;
+    const auto reel = [&](const std::string& lu) {
+        fs::path complet = fs::weakly_canonical(fs::absolute(lu, erreur), erreur);
+        return complet.has_filename() ? complet : complet.parent_path();  // without a final separator
+    };
+    const fs::path dedans = reel(chemin), autour = reel(dossier);
+    return !autour.empty() &&
+           std::mismatch(autour.begin(), autour.end(), dedans.begin(), dedans.end()).first == autour.end();
+}
+
+std::string sansTilde(const std::string& chemin) {
+    const char* maison = std::getenv("HOME");
+    if (!maison || (chemin != "~" && !chemin.starts_with("~/"))) return chemin;
+    return maison + chemin.substr(1);
+}
 
 std::string absolu(const std::string& chemin) {
     std::error_code ignoree;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cerrno>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -8,17 +9,35 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-// For this room only: an open file, closed with its owner.
+// For this room only.
 namespace fichiers {
 
+// What is tidied up after a failure leaves the failure's reason in errno.
+class GardeErreur {
+  public:
+    GardeErreur() = default;
+    GardeErreur(const GardeErreur&) = delete;
+    GardeErreur& operator=(const GardeErreur&) = delete;
+    ~GardeErreur() { errno = m_erreur; }
+
+  private:
+    int m_erreur = errno;
+};
+
+// An open file, closed with its owner.
 class Descripteur {
   public:
     // Never waits: a pipe without its other end gives an error or an empty answer.
-    Descripteur(const std::string& chemin, int mode, mode_t droits = 0)
-        : m_numero(open(chemin.c_str(), mode | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, droits)) {}
+    Descripteur(const std::string& chemin, int mode, mode_t droits = 0) : Descripteur(AT_FDCWD, chemin, mode, droits) {}
+    // A file of an open folder.
+    Descripteur(int dossier, const std::string& nom, int mode, mode_t droits = 0)
+        : m_numero(openat(dossier, nom.c_str(), mode | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, droits)) {}
     Descripteur(const Descripteur&) = delete;
     Descripteur& operator=(const Descripteur&) = delete;
-    ~Descripteur() { ferme(); }
+    ~Descripteur() {
+        const GardeErreur garde;
+        ferme();
+    }
 
     [[nodiscard]] int numero() const { return m_numero; }
     [[nodiscard]] bool estOuvert() const { return m_numero >= 0; }
@@ -36,6 +55,8 @@ class Descripteur {
     int m_numero;
 };
 
+// A folder that is one itself: a link to one does not open.
+[[nodiscard]] Descripteur ouvreDossierReel(const std::string& dossier);
 // All the bytes or false.
 [[nodiscard]] bool ecritTout(int descripteur, std::string_view octets);
 // Up to `taille` bytes, fewer only at the end of the file; -1 on error.

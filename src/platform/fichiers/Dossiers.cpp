@@ -1,13 +1,16 @@
+#include "platform/fichiers/Descripteur.h"
 #include "platform/fichiers/Fichiers.h"
-#include "util/NomsFichiers.h"
 #include "util/Texte.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <memory>
 #include <system_error>
 #include <utility>
 
+#include <dirent.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace fichiers {
@@ -33,6 +36,32 @@ std::vector<std::string> nomsTries(const std::string& dossier, Garde garde) {
     return resultat;
 }
 
+// A final separator would have the system follow a link.
+std::string sansSeparateurFinal(std::string dossier) {
+    while (dossier.size() > 1 && dossier.ends_with('/'))
+        dossier.pop_back();
+    return dossier.empty() ? "." : dossier;
+}
+
+bool estUnDossier(int parent, const char* nom) {
+    struct stat infos {};
+    return fstatat(parent, nom, &infos, AT_SYMLINK_NOFOLLOW) != 0 || S_ISDIR(infos.st_mode);
+}
+
+// Of the open folder, whatever its path leads to by now; without its folders.
+std::vector<std::string> nomsDe(const Descripteur& dossier) {
+    std::vector<std::string> noms;
+    const int copie = fcntl(dossier.numero(), F_DUPFD_CLOEXEC, 0);
+    const std::unique_ptr<DIR, int (*)(DIR*)> ouvert(copie < 0 ? nullptr : fdopendir(copie), &closedir);
+    if (!ouvert) {
+        if (copie >= 0) close(copie);
+        return noms;
+    }
+    while (const dirent* entree = readdir(ouvert.get()))
+        if (!estUnDossier(dossier.numero(), entree->d_name)) noms.emplace_back(entree->d_name);
+    return noms;
+}
+
 bool correspond(const std::string& nom, std::string_view motif) {
     if (motif == "*.*" || motif == "*") return true;
     const std::string cle = util::cleSansCasse(nom);
@@ -41,6 +70,10 @@ bool correspond(const std::string& nom, std::string_view motif) {
 }
 
 }  // namespace
+
+Descripteur ouvreDossierReel(const std::string& dossier) {
+    return {sansSeparateurFinal(dossier), O_RDONLY | O_DIRECTORY | O_NOFOLLOW};
+}
 
 bool dossierExiste(const std::string& chemin) {
     std::error_code erreur;
@@ -61,14 +94,24 @@ bool creeDossier(const std::string& chemin) {
     return dossierExiste(chemin);
 }
 
+bool assureDossierPrive(const std::string& chemin) {
+    const std::string dossier = sansSeparateurFinal(chemin);
+    struct stat infos {};
+    if (lstat(dossier.c_str(), &infos) == 0 && S_ISLNK(infos.st_mode)) unlink(dossier.c_str());
+    if (mkdir(dossier.c_str(), S_IRWXU) != 0 && errno != EEXIST) return false;
+    const Descripteur ouvert = ouvreDossierReel(dossier);
+    if (!ouvert.estOuvert() || fstat(ouvert.numero(), &infos) != 0) return false;
+    if ((infos.st_mode & 07777) != S_IRWXU) static_cast<void>(fchmod(ouvert.numero(), S_IRWXU));
+    return true;
+}
+
+// A link to a folder is a file here: the link goes, the folder stays.
 int supprimeSelonMotif(const std::string& dossier, std::string_view motif) {
-    // A link to a folder is a file here: the link goes, the folder stays.
-    const auto noms = nomsTries(dossier, [](const fs::directory_entry& entree) {
-        std::error_code erreur;
-        return entree.symlink_status(erreur).type() != fs::file_type::directory;
-    });
+    const Descripteur ouvert = ouvreDossierReel(dossier);
+    if (!ouvert.estOuvert()) return 0;
+    const std::vector<std::string> noms = nomsDe(ouvert);
     return static_cast<int>(std::count_if(noms.begin(), noms.end(), [&](const std::string& nom) {
-        return correspond(nom, motif) && unlink((util::avecSeparateur(dossier) + nom).c_str()) == 0;
+        return correspond(nom, motif) && unlinkat(ouvert.numero(), nom.c_str(), 0) == 0;
     }));
 }
 

@@ -51,6 +51,11 @@ bool synchroniseEnsemble(const std::vector<std::string>& chemins, const std::set
     });
 }
 
+// Some file systems keep no rights, and refuse to change them.
+bool ignoreLesDroits(int erreur) {
+    return erreur == EPERM || erreur == ENOTSUP || erreur == ENOSYS;
+}
+
 // A new file beside `cible`, gone again unless it takes the target's place. A target that is no ordinary file, or that
 // the user may not write, is refused.
 class FichierNeuf {
@@ -58,15 +63,16 @@ class FichierNeuf {
     explicit FichierNeuf(const std::string& cible)
         : m_cible(ciblePhysique(cible)),
           m_chemin(dossierDe(m_cible) + nomProvisoire()),
-          m_fichier(m_chemin, O_WRONLY | O_CREAT | O_EXCL, kDroitsOrdinaires) {
+          m_fichier(m_chemin, O_WRONLY | O_CREAT | O_EXCL, droitsDe(m_cible)) {
         struct stat ancien {};
         if (!m_fichier.estOuvert() || stat(m_cible.c_str(), &ancien) != 0) return;
         m_refuse = !S_ISREG(ancien.st_mode) || access(m_cible.c_str(), W_OK) != 0 ||
-                   fchmod(m_fichier.numero(), ancien.st_mode & 07777) != 0;
+                   (fchmod(m_fichier.numero(), ancien.st_mode & 07777) != 0 && !ignoreLesDroits(errno));
     }
     FichierNeuf(const FichierNeuf&) = delete;
     FichierNeuf& operator=(const FichierNeuf&) = delete;
     ~FichierNeuf() {
+        const GardeErreur garde;
         if (m_fichier.estOuvert() || m_aEffacer) unlink(m_chemin.c_str());
     }
 
@@ -83,6 +89,11 @@ class FichierNeuf {
     void synchroniseDossier() const { fichiers::synchroniseDossier(dossierDe(m_cible)); }
 
   private:
+    // Those of the target from the start: nobody reads meanwhile what the target would not show him.
+    static mode_t droitsDe(const std::string& cible) {
+        struct stat ancien {};
+        return stat(cible.c_str(), &ancien) == 0 ? ancien.st_mode & kDroitsOrdinaires : kDroitsOrdinaires;
+    }
     // Short whatever the target's name is, and never that of a file left by a killed run of another number.
     static std::string nomProvisoire() {
         static unsigned compteur = 0;
@@ -117,6 +128,13 @@ bool memeFichier(const std::string& a, const std::string& b) {
            infosA.st_ino == infosB.st_ino;
 }
 
+// A name that stands for a file which has another one too.
+void retireLien(int dossier, const std::string& nom) {
+    struct stat infos {};
+    if (fstatat(dossier, nom.c_str(), &infos, AT_SYMLINK_NOFOLLOW) != 0) return;
+    if (S_ISLNK(infos.st_mode) || (S_ISREG(infos.st_mode) && infos.st_nlink > 1)) unlinkat(dossier, nom.c_str(), 0);
+}
+
 }  // namespace
 
 bool ecritTout(int descripteur, std::string_view octets) {
@@ -130,8 +148,29 @@ bool ecritTout(int descripteur, std::string_view octets) {
     return true;
 }
 
+std::string raisonDeLEchec() {
+    switch (errno) {
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG:
+            return "Disque plein";
+        case EROFS:
+            return "Disque en lecture seule";
+        case EACCES:
+        case EPERM:
+            return "Accès refusé";
+        default:
+            return "Disque plein/Lecture seule ?";
+    }
+}
+
 bool ecrit(const std::string& chemin, std::string_view octets) {
-    Descripteur fichier(chemin, O_WRONLY | O_CREAT, kDroitsOrdinaires);
+    const std::size_t debut = chemin.rfind('/') + 1;  // 0 without a folder
+    const Descripteur dossier = ouvreDossierReel(chemin.substr(0, debut));
+    const std::string nom = chemin.substr(debut);
+    if (!dossier.estOuvert()) return false;
+    retireLien(dossier.numero(), nom);
+    Descripteur fichier(dossier.numero(), nom, O_WRONLY | O_CREAT | O_NOFOLLOW, kDroitsOrdinaires);
     struct stat infos {};
     if (!fichier.estFichier() || fstat(fichier.numero(), &infos) != 0) return false;
     // A new file is not cut: some file systems take a cut one to the disk as soon as it is closed, and its deletion,
@@ -152,6 +191,7 @@ Creation cree(const std::string& chemin, std::string_view octets) {
     Descripteur fichier(chemin, O_WRONLY | O_CREAT | O_EXCL, kDroitsOrdinaires);
     if (!fichier.estOuvert()) return errno == EEXIST ? Creation::ExisteDeja : Creation::Echouee;
     if (ecritTout(fichier.numero(), octets) && fichier.ferme()) return Creation::Faite;
+    const GardeErreur garde;
     unlink(chemin.c_str());
     return Creation::Echouee;
 }

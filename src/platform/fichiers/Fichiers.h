@@ -12,8 +12,11 @@
 // each call says whether it did its work.
 namespace fichiers {
 
+// Why the last call failed, for a message's parentheses: "Disque plein", "Accès refusé"… Asked at once, before any other.
+[[nodiscard]] std::string raisonDeLEchec();
+
 // Where a file really lies: the name as it stands; else with "\" taken as a separator; else ignoring letter case in each
-// of its parts (names copied from Windows). Empty when there is none.
+// of its parts (names copied from Windows). Empty when there is none. Names that mean many things are tried up to a bound.
 [[nodiscard]] std::optional<std::string> trouve(const std::string& chemin);
 
 [[nodiscard]] bool existe(const std::string& chemin);      // a file that trouve finds; a folder is none
@@ -35,15 +38,18 @@ struct Place {
 // under this name, or under it in other letters. Links, pipes, devices and folders are none; neither is what a separator,
 // "." or ".." would lead to. An empty folder has no files.
 [[nodiscard]] std::optional<Place> situeDans(const std::string& dossier, const std::string& nom);
+// A whole file as lit gives it; a link at its end is not followed.
+[[nodiscard]] std::optional<std::string> litSansLien(const std::string& chemin, std::int64_t limite = INT64_MAX);
 
 // A whole file; empty when it cannot be read (a folder included) or is longer than `limite` bytes.
 [[nodiscard]] std::optional<std::string> lit(const std::string& chemin, std::int64_t limite = INT64_MAX);
 // The lines of a text of the outside world, decoded to UTF-8, ended by CR LF, LF or CR; at most `maximum` of them.
-// NULs are carried. Empty when the file cannot be read.
+// NULs are carried. Of a file of more than 16 MiB only the lines of its beginning count. Empty when it cannot be read.
 [[nodiscard]] std::optional<std::vector<std::string>> litLignes(const std::string& chemin,
                                                                 std::size_t maximum = SIZE_MAX);
 
-// Writes in place: for working files, which need not survive.
+// Writes in place: for working files, which need not survive. A link that stands there goes, and what it leads to stays as
+// it is; a folder that is reached by a link is not written in.
 bool ecrit(const std::string& chemin, std::string_view octets);
 // Replaces a whole file safely: written beside it, synced, renamed over it. On failure what stood there still stands.
 bool remplace(const std::string& chemin, std::string_view octets);
@@ -66,13 +72,24 @@ enum class Creation { Faite, ExisteDeja, Echouee };
 bool copie(const std::string& de, const std::string& vers, const std::function<bool(std::int64_t)>& avance = {});
 bool supprime(const std::string& chemin);     // true when the file is gone, also when there was none
 bool creeDossier(const std::string& chemin);  // with its parents; true when it stands there in the end
+// A folder of the program's own: a real one in the end, made private where the file system knows what that is. A link
+// that stands there goes, and what it leads to stays as it is. False when it could not be made.
+bool assureDossierPrive(const std::string& chemin);
 // Deletes the folder's files (not its folders) that match: "*.*" and "*" mean every file, "*.jpg" an ending in any case.
-// Returns how many went.
+// Nothing goes where `dossier` is a link. Returns how many went.
 int supprimeSelonMotif(const std::string& dossier, std::string_view motif);
 
 // The names of the folder's files, in name order, folders left out. Empty when it cannot be read.
 [[nodiscard]] std::vector<std::string> listeFichiers(const std::string& dossier);
 
+// Whether a path leads into that folder, or to the folder itself, by whatever links. Neither needs to exist.
+[[nodiscard]] bool estDans(const std::string& chemin, const std::string& dossier);
+// A path of another machine, found again by its end: the longest one that `convient` takes in the folder `racine`, which
+// ends with a separator. A drive and what leads out of the folder count for nothing.
+[[nodiscard]] std::optional<std::string> trouveParLaFin(const std::string& racine, std::string_view chemin,
+                                                        bool (*convient)(const std::string&));
+// "~" and "~/…" from the user's own folder; any other path as it is.
+[[nodiscard]] std::string sansTilde(const std::string& chemin);
 // The whole path, from the root, of a name that the current folder may complete.
 [[nodiscard]] std::string absolu(const std::string& chemin);
 // Pieces of a path, both separators understood.

@@ -1,6 +1,5 @@
 #include "platform/fichiers/Descripteur.h"
 #include "platform/fichiers/Fichiers.h"
-#include "util/NomsFichiers.h"
 #include "util/Texte.h"
 
 #include <cerrno>
@@ -11,6 +10,7 @@ namespace fichiers {
 namespace {
 
 constexpr std::size_t kTailleBloc = 1 << 16;
+constexpr std::size_t kTailleMaxLignes = 16 << 20;
 
 // The path itself when it opens, else where the file really lies.
 std::string cheminLisible(const std::string& chemin) {
@@ -35,6 +35,30 @@ std::optional<std::string> litDescripteur(const Descripteur& fichier, std::uint6
     } while (taille == contenu.size());
     contenu.resize(taille);
     return contenu;
+}
+
+std::optional<std::string> litOuvert(const Descripteur& fichier, std::int64_t limite) {
+    try {
+        return litDescripteur(fichier, static_cast<std::uint64_t>(std::max<std::int64_t>(limite, 0)));
+    } catch (const std::bad_alloc&) {  // larger than the memory
+        return std::nullopt;
+    } catch (const std::length_error&) {
+        return std::nullopt;
+    }
+}
+
+// The first bytes of a file; of one that is longer, only whole lines.
+std::optional<std::string> litLignesEntieres(const std::string& chemin, std::size_t taille) {
+    const Descripteur fichier(cheminLisible(chemin), O_RDONLY);
+    struct stat infos {};
+    if (fstat(fichier.numero(), &infos) != 0 || !S_ISREG(infos.st_mode)) return std::nullopt;
+    const auto annonce = static_cast<std::size_t>(infos.st_size);
+    std::string octets(std::min(taille, std::max(annonce, kTailleBloc)), '\0');
+    const ssize_t lus = litBloc(fichier.numero(), octets.data(), octets.size());
+    if (lus < 0) return std::nullopt;
+    octets.resize(static_cast<std::size_t>(lus));
+    if (octets.size() == taille) octets.resize(octets.find_last_of("\r\n") + 1);
+    return octets;
 }
 
 // The end of the line that starts at `debut`, and where the next one starts.
@@ -65,19 +89,16 @@ ssize_t litBloc(int descripteur, char* tampon, std::size_t taille) {
 }
 
 std::optional<std::string> lit(const std::string& chemin, std::int64_t limite) {
-    try {
-        const auto octetsMax = static_cast<std::uint64_t>(std::max<std::int64_t>(limite, 0));
-        if (const Descripteur fichier(chemin, O_RDONLY); fichier.estOuvert()) return litDescripteur(fichier, octetsMax);
-        return litDescripteur(Descripteur(cheminLisible(chemin), O_RDONLY), octetsMax);
-    } catch (const std::bad_alloc&) {  // larger than the memory
-        return std::nullopt;
-    } catch (const std::length_error&) {
-        return std::nullopt;
-    }
+    if (const Descripteur fichier(chemin, O_RDONLY); fichier.estOuvert()) return litOuvert(fichier, limite);
+    return litOuvert(Descripteur(cheminLisible(chemin), O_RDONLY), limite);
+}
+
+std::optional<std::string> litSansLien(const std::string& chemin, std::int64_t limite) {
+    return litOuvert(Descripteur(chemin, O_RDONLY | O_NOFOLLOW), limite);
 }
 
 std::optional<std::vector<std::string>> litLignes(const std::string& chemin, std::size_t maximum) {
-    const auto octets = lit(chemin);
+    const auto octets = litLignesEntieres(chemin, kTailleMaxLignes);
     if (!octets) return std::nullopt;
     const std::string texte = util::decodeTexteExterne(*octets);
     std::vector<std::string> lignes;
@@ -103,17 +124,6 @@ std::optional<Place> situe(const std::string& chemin) {
         if (stat(reel.c_str(), &infos) != 0) return std::nullopt;
     }
     if (S_ISDIR(infos.st_mode)) return std::nullopt;
-    return Place{std::move(reel), {infos.st_dev, infos.st_ino}};
-}
-
-std::optional<Place> situeDans(const std::string& dossier, const std::string& nom) {
-    if (dossier.empty() || nom.empty() || nom == "." || nom == ".." || nom.find_first_of("/\\") != std::string::npos)
-        return std::nullopt;
-    const std::string chemin = util::avecSeparateur(dossier) + nom;
-    struct stat infos {};
-    std::string reel = chemin;
-    if (lstat(reel.c_str(), &infos) != 0) reel = trouve(chemin).value_or("");
-    if (lstat(reel.c_str(), &infos) != 0 || !S_ISREG(infos.st_mode)) return std::nullopt;
     return Place{std::move(reel), {infos.st_dev, infos.st_ino}};
 }
 

@@ -1,12 +1,20 @@
 #include "doubles/DossierTemporaire.h"
 #include "platform/fichiers/Fichiers.h"
 
+#include <array>
+#include <cstddef>
 #include <filesystem>
 #include <thread>
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <sys/prctl.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using doubles::DossierTemporaire;
@@ -96,6 +104,47 @@ TEST(FichiersTrouve, SeesAFileThatCameOrWentSinceTheLastSearch) {
     EXPECT_TRUE(fichiers::existe(d.chemin("affiche.jpg")));
     fs::remove(d.chemin("AFFICHE.JPG"));
     EXPECT_FALSE(fichiers::existe(d.chemin("affiche.jpg")));
+}
+
+// Cut in every way, such a path would be looked for longer than anyone waits.
+TEST(FichiersTrouve, APathOfManyCutsIsGivenUp) {
+    const DossierTemporaire d;
+    for (int i = 0; i < 300; ++i)
+        d.ecrit("dossier/sous" + std::to_string(i) + "/x", "");
+    fs::create_directory_symlink(".", d.chemin("dossier/a"));
+    for (const std::string& partie : {"../"s, ".\\"s, "./"s, "a\\"s, "..\\dossier\\"s, "A/"s, "a/../"s}) {
+        std::string chemin = d.chemin("dossier/");
+        while (chemin.size() < 4000)
+            chemin += partie;
+        EXPECT_EQ(fichiers::trouve(chemin + "absent.avi"), std::nullopt) << partie;
+    }
+    EXPECT_EQ(fichiers::trouve(d.chemin("dossier/.\\a\\..\\DOSSIER\\sous7\\X")),
+              d.chemin("dossier/./a/../dossier/sous7/x"));
+}
+
+TEST(FichiersTrouve, APathOfAnotherMachineIsFoundByItsEnd) {
+    const DossierTemporaire d;
+    for (const char* nom : {"Films/Images", "Images", "c"})
+        fs::create_directories(d.chemin(nom));
+    const auto trouve = [&](const std::string& chemin) {
+        return fichiers::trouveParLaFin(d.chemin(), chemin, fichiers::dossierExiste);
+    };
+    EXPECT_EQ(trouve("D:\\Vidéo\\FILMS\\images\\"), d.chemin("Films/Images"));
+    EXPECT_EQ(trouve("/home/x/images"), d.chemin("Images"));
+    EXPECT_EQ(trouve("C:\\Films\\..\\Images"), d.chemin("Images"));
+    for (const std::string& chemin :
+         {"C:\\Affiches"s, "C:"s, ""s, "\\"s, "C:\\.."s, "C:\\Images\\."s, std::string(4095, '\\')})
+        EXPECT_EQ(trouve(chemin), std::nullopt) << chemin;
+}
+
+TEST(FichiersChemins, WhatLiesInAFolderIsKnownThroughItsLinks) {
+    const DossierTemporaire d;
+    fs::create_directories(d.chemin("Tmp/sous"));
+    fs::create_directory_symlink(d.chemin("Tmp/sous"), d.chemin("lien"));
+    for (const char* dedans : {"Tmp", "Tmp/", "Tmp/sous", "Tmp/absent/x", "lien", "lien/x", "a/../Tmp"})
+        EXPECT_TRUE(fichiers::estDans(d.chemin(dedans), d.chemin("Tmp"))) << dedans;
+    for (const char* dehors : {"", "Tmpx", "lien/../../x", "tmp.jpg"})
+        EXPECT_FALSE(fichiers::estDans(d.chemin(dehors), d.chemin("Tmp"))) << dehors;
 }
 
 TEST(FichiersLecture, WholeFilesOrNothing) {
@@ -244,4 +293,74 @@ TEST(FichiersChemins, AWholePathFromTheCurrentFolder) {
     EXPECT_EQ(fichiers::absolu("/été/b"), "/été/b");
     EXPECT_EQ(fichiers::absolu("b.txt"), std::filesystem::current_path().string() + "/b.txt");
     EXPECT_EQ(fichiers::absolu(""), "");
+}
+
+// What stands in "Tmp" may have been laid there by anyone.
+TEST(FichiersTravail, NothingIsReachedThroughALink) {
+    const DossierTemporaire d;
+    const std::string victime = d.ecrit("ailleurs/victime.jpg", "victime");
+    fs::create_directory_symlink(d.chemin("ailleurs"), d.chemin("Tmp"));
+    EXPECT_FALSE(fichiers::ecrit(d.chemin("Tmp/neuf"), "x"));
+    EXPECT_EQ(fichiers::supprimeSelonMotif(d.chemin("Tmp"), "*.*"), 0);
+    EXPECT_EQ(fichiers::supprimeSelonMotif(d.chemin("Tmp/"), "*.*"), 0);
+
+    EXPECT_TRUE(fichiers::assureDossierPrive(d.chemin("Tmp/")));
+    EXPECT_TRUE(fs::is_directory(fs::symlink_status(d.chemin("Tmp"))));
+    EXPECT_EQ(fs::status(d.chemin("Tmp")).permissions(), fs::perms::owner_all);
+    fs::create_symlink(victime, d.chemin("Tmp/lien"));
+    fs::create_hard_link(victime, d.chemin("Tmp/second"));
+    EXPECT_EQ(fichiers::litSansLien(d.chemin("Tmp/lien")), std::nullopt);
+    for (const char* nom : {"Tmp/lien", "Tmp/second"}) {
+        EXPECT_TRUE(fichiers::ecrit(d.chemin(nom), "x")) << nom;
+        EXPECT_EQ(d.lit(nom), "x");
+    }
+    fs::create_directory_symlink(d.chemin("ailleurs"), d.chemin("Tmp/dossier"));
+    EXPECT_EQ(fichiers::supprimeSelonMotif(d.chemin("Tmp"), "*.*"), 3);
+    EXPECT_EQ(d.lit("ailleurs/victime.jpg"), "victime");
+
+    fs::permissions(d.chemin("Tmp"), fs::perms::all);
+    EXPECT_TRUE(fichiers::assureDossierPrive(d.chemin("Tmp")));
+    EXPECT_EQ(fs::status(d.chemin("Tmp")).permissions(), fs::perms::owner_all);
+    fs::remove(d.chemin("Tmp"));
+    d.ecrit("Tmp", "a file");
+    EXPECT_FALSE(fichiers::assureDossierPrive(d.chemin("Tmp")));
+}
+
+// A file system without rights: every change of them is refused in this process, and in those it makes.
+void refuseLesChangementsDeDroits() {
+    const std::array<sock_filter, 6> filtre{
+        {BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+         BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_fchmod, 2, 0), BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_fchmodat, 1, 0),
+         BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW), BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | EPERM),
+         BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW)}};
+    const sock_fprog programme{filtre.size(), const_cast<sock_filter*>(filtre.data())};
+    if (prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0 || prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &programme) != 0)
+        _exit(2);
+}
+
+TEST(FichiersEcriture, AFileSystemWithoutRightsTakesTheSettings) {
+    const DossierTemporaire d;
+    d.ecrit("Ambrelis.ini", "avant");
+    fs::permissions(d.chemin("Ambrelis.ini"), fs::perms::owner_read | fs::perms::owner_write);
+    const pid_t enfant = fork();
+    if (enfant == 0) {
+        refuseLesChangementsDeDroits();
+        const bool refuses = fchmodat(AT_FDCWD, d.chemin("Ambrelis.ini").c_str(), 0666, 0) != 0;
+        _exit(refuses && fichiers::assureDossierPrive(d.chemin("Tmp")) &&
+                      fichiers::remplace(d.chemin("Ambrelis.ini"), "après")
+                  ? 0
+                  : 1);
+    }
+    int etat = 0;
+    ASSERT_EQ(waitpid(enfant, &etat, 0), enfant);
+    EXPECT_TRUE(WIFEXITED(etat) && WEXITSTATUS(etat) == 0) << etat;
+    EXPECT_EQ(d.lit("Ambrelis.ini"), "après");
+    EXPECT_EQ(fs::status(d.chemin("Ambrelis.ini")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST(FichiersLecture, OnlyTheBeginningOfAnEndlessTextCounts) {
+    const DossierTemporaire d;
+    const std::string gros = "avi\n" + std::string(20 << 20, 'x');
+    d.ecrit("Extensions.txt", gros + "\nmkv\n");
+    EXPECT_THAT(fichiers::litLignes(d.chemin("Extensions.txt")), Optional(ElementsAre("avi")));
 }
