@@ -6,7 +6,8 @@
 
 namespace edit {
 
-// Deletes the holding of a film. False when it has none, and when it cannot be deleted: that error is passed over.
+// Deletes the holding of a film. False when it has none, were it since a moment ago. Throws dao::ErreurDao: the film
+// itself must not go then either.
 bool supprimePossession(dao::Database& base, const std::string& titre, const std::string& realisateur);
 
 }  // namespace edit

@@ -107,6 +107,29 @@ TEST_F(SuppressionTest, ABaseThatCannotDeleteKeepsFilmAndHolding) {
     EXPECT_FALSE(base.base.enTransaction());
 }
 
+// Some cannot be deleted: its film must not go alone.
+TEST_F(SuppressionTest, AHoldingThatCannotGoKeepsItsFilm) {
+    for (const char* titre : {"Avatar", "Zorro"}) {
+        ajouteFilm(titre, {{"Realisateur", "R"}});
+        possede(titre, "R");
+    }
+    base.base.Execute(
+        "PRAGMA foreign_keys=ON; CREATE TABLE Garde(film REFERENCES Personnel(id)); INSERT INTO Garde "
+        "SELECT id FROM Personnel WHERE Titre2='Zorro'");
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    clique("Zorro");
+    dialogues.attendMsgBox(kQuestionSimple, 36, dialogues::kOui);
+    EXPECT_THROW(suppression.cmdSupprimerTitre_Click(), dao::ErreurDao);
+    coche({"Zorro"});
+    dialogues.attendMsgBox("Voulez-vous vraiment supprimer ce titre ?", 36, dialogues::kOui);
+    dialogues.attendMsgBox(
+        "Erreur 3022 : La modification contredit une règle de la base (FOREIGN KEY constraint failed).");
+    dialogues.attendMsgBox("0 titre supprimé.", 64);
+    multi.cmdSupprTitresSelect_Click();
+    EXPECT_THAT(titresDesFilms(), ElementsAre("Avatar", "Zorro"));
+    EXPECT_THAT(titresPossedes(), ElementsAre("Avatar", "Zorro"));
+}
+
 TEST_F(SuppressionTest, TheCheckBoxesComeAndGoWithTheirOption) {
     multi.cmdMultiSuppress_Click();
     EXPECT_TRUE(panneaux.frameMultiSuppression.Visible);
