@@ -13,6 +13,7 @@ AffichesImportees::AffichesImportees(dao::Database& base, db::EtatStockage& stoc
 
 void AffichesImportees::prepareDossier() {
     if (std::exchange(m_dossierPret, true) || dansLaBase()) return;
+    if (const auto refus = db::refusDossierImages(m_stockage, m_chemins)) throw db::EchecConversion{*refus};
     const std::string dossier = db::dossierImages(m_stockage, m_chemins);
     fichiers::creeDossier(dossier);
     if (!fichiers::dossierModifiable(dossier))
@@ -20,20 +21,19 @@ void AffichesImportees::prepareDossier() {
 }
 
 std::optional<AfficheImportee> AffichesImportees::place(const std::string& titre, const std::string& realisateur,
-                                                        std::string_view octets, bool tientDansLaBase) {
+                                                        std::string_view octets, bool tientDansLaBase,
+                                                        std::string_view actuelle) {
     if (!dansLaBase()) {
         prepareDossier();
-        const std::string nom = db::nomFichierAffiche(titre, realisateur);
-        if (m_lot.pose(nom, octets)) return AfficheImportee{db::valeurAfficheFichier(nom), 0};
+        const std::string nom = m_lot.pose(db::nomFichierAffiche(titre, realisateur), octets, actuelle);
+        return AfficheImportee{db::valeurAfficheFichier(nom), 0};
     }
     if (!tientDansLaBase) return std::nullopt;
     return AfficheImportee{db::valeurAfficheDansLaBase(octets), octets.size()};
 }
 
 bool AffichesImportees::aSonFichier(const std::string& affiche) const {
-    static constexpr std::size_t kPrefixe = 3;  // "JPG"
-    return affiche.size() > kPrefixe &&
-           fichiers::situeDans(db::dossierImages(m_stockage, m_chemins), affiche.substr(kPrefixe));
+    return db::fichierAffiche(db::dossierImages(m_stockage, m_chemins), affiche).has_value();
 }
 
 }  // namespace acquire

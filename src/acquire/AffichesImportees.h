@@ -13,8 +13,6 @@
 
 namespace acquire {
 
-inline constexpr std::int64_t kTailleMaxImage = 64LL << 20;  // bytes; a file that is larger is no poster
-
 // What a poster becomes here, and the bytes that it takes in the base.
 struct AfficheImportee {
     dao::Valeur valeur = "";
@@ -28,13 +26,14 @@ class AffichesImportees {
 
     [[nodiscard]] bool dansLaBase() const { return m_stockage.dansLaBase(); }
     // The bytes of a picture's file that are read at most.
-    [[nodiscard]] std::int64_t limite() const { return dansLaBase() ? db::kTailleMaxAffiche : kTailleMaxImage; }
+    [[nodiscard]] std::int64_t limite() const { return dansLaBase() ? db::kTailleMaxAffiche : db::kTailleMaxImage; }
     // Where posters are files, makes their folder. Throws db::EchecConversion.
     void prepareDossier();
-    // Stores the picture of a film, in a folder that is prepared; in the base also where another picture bears the name of its file, if it is small
-    // enough for that. Nothing when it has no place. Throws db::EchecConversion.
+    // Stores the picture of a film whose value is `actuelle`, in a folder that is prepared. Nothing when the base has no
+    // place for it. Throws db::EchecConversion.
     [[nodiscard]] std::optional<AfficheImportee> place(const std::string& titre, const std::string& realisateur,
-                                                       std::string_view octets, bool tientDansLaBase);
+                                                       std::string_view octets, bool tientDansLaBase,
+                                                       std::string_view actuelle = {});
     // Whether that value of `Affiche` names a file of the images folder that is there.
     [[nodiscard]] bool aSonFichier(const std::string& affiche) const;
 

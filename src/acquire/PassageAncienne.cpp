@@ -19,7 +19,6 @@ constexpr const char* kChampsPersonnel[] = {"Titre2", "Realisateur2", "Rangement
                                             "Pret",   "Reserve",      "Date",      "Divers",   "Support"};
 constexpr const char* kAffiche = "Affiche";
 constexpr std::string_view kFichier = "JPG";
-constexpr std::size_t kTaillePrefixe = 3;  // "JPG" or "STO"
 
 std::string cleDuFilm(std::string_view titre, std::string_view realisateur) {
     return dao::cleDeComparaison(titre) + '\0' + dao::cleDeComparaison(realisateur);
@@ -122,7 +121,7 @@ void PassageAncienne::ajouteFilm() {
     m_lot.commence();
     const dao::Valeur ancienne = m_films.valeur(kAffiche);
     const std::string texte = ancienne.texte();
-    const auto reprise = reprendAffiche(texte);
+    const auto reprise = reprendAffiche(texte, "");
     dao::Recordset& films = m_outils.base.films;
     films.AddNew();
     copieChamps(m_films, films, kChampsFilms);
@@ -141,7 +140,7 @@ void PassageAncienne::completeAffiche(const std::string& titre, const std::strin
     const std::string ancienne = m_films.texte(kAffiche);
     if (ancienne.empty() || (!presente.empty() && presente != ancienne)) return;
     m_lot.commence();
-    const auto reprise = reprendAffiche(ancienne);
+    const auto reprise = reprendAffiche(ancienne, presente);
     if (!reprise) return;
     film.Edit();
     film.assigne(kAffiche, reprise->valeur);
@@ -182,29 +181,30 @@ void PassageAncienne::reprendOrphelines() {
     }
 }
 
-std::optional<AfficheImportee> PassageAncienne::reprendAffiche(const std::string& ancienne) {
-    const std::string_view contenu = std::string_view(ancienne).substr(std::min(ancienne.size(), kTaillePrefixe));
+std::optional<AfficheImportee> PassageAncienne::reprendAffiche(const std::string& ancienne, std::string_view actuelle) {
+    const std::string_view contenu = std::string_view(ancienne).substr(std::min(ancienne.size(), db::kTaillePrefixe));
     if (db::estDansLaBase(ancienne)) {
         if (m_affiches.dansLaBase()) return AfficheImportee{dao::Valeur::octets(ancienne), ancienne.size()};
-        return place(contenu, true);
+        return place(contenu, true, actuelle);
     }
     if (!ancienne.starts_with(kFichier)) return std::nullopt;
-    const auto octets = litImage(std::string(contenu));
+    const auto octets = litImage(ancienne);
     if (!octets) return std::nullopt;
-    return place(*octets, static_cast<std::int64_t>(octets->size()) <= db::kTailleMaxAffiche);
+    return place(*octets, static_cast<std::int64_t>(octets->size()) <= db::kTailleMaxAffiche, actuelle);
 }
 
-// A name that leads out of the images folder is looked for in it by its end.
-std::optional<std::string> PassageAncienne::litImage(const std::string& nom) {
-    const auto image = fichiers::situeDans(m_dossierImages, fichiers::nomDeFichier(nom));
-    auto octets = image ? fichiers::lit(image->chemin, m_affiches.limite()) : std::nullopt;
+std::optional<std::string> PassageAncienne::litImage(const std::string& ancienne) {
+    const auto image = db::fichierAffiche(m_dossierImages, ancienne);
+    auto octets = image ? fichiers::litSansLien(image->chemin, m_affiches.limite()) : std::nullopt;
     const bool tropGrande = image && fichiers::longueur(image->chemin) > m_affiches.limite();
     if (!octets) ++(tropGrande ? m_rapport.tropGrandes : m_rapport.nonTrouvees);
     return octets;
 }
 
-std::optional<AfficheImportee> PassageAncienne::place(std::string_view octets, bool tientDansLaBase) {
-    auto placee = m_affiches.place(m_films.texte("Titre"), m_films.texte("Realisateur"), octets, tientDansLaBase);
+std::optional<AfficheImportee> PassageAncienne::place(std::string_view octets, bool tientDansLaBase,
+                                                      std::string_view actuelle) {
+    auto placee =
+        m_affiches.place(m_films.texte("Titre"), m_films.texte("Realisateur"), octets, tientDansLaBase, actuelle);
     if (!placee) ++m_rapport.tropGrandes;
     return placee;
 }

@@ -12,6 +12,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -60,9 +61,10 @@ class PassageAncienne {
     [[nodiscard]] bool reprendPossession(const std::string& cle);
     void completeAffiche(const std::string& titre, const std::string& realisateur);
     // The current film's poster in its new place; nothing when it stays where it was.
-    [[nodiscard]] std::optional<AfficheImportee> reprendAffiche(const std::string& ancienne);
-    [[nodiscard]] std::optional<std::string> litImage(const std::string& nom);
-    [[nodiscard]] std::optional<AfficheImportee> place(std::string_view octets, bool tientDansLaBase);
+    [[nodiscard]] std::optional<AfficheImportee> reprendAffiche(const std::string& ancienne, std::string_view actuelle);
+    [[nodiscard]] std::optional<std::string> litImage(const std::string& ancienne);
+    [[nodiscard]] std::optional<AfficheImportee> place(std::string_view octets, bool tientDansLaBase,
+                                                       std::string_view actuelle);
     // Between two films: false when the user stops.
     [[nodiscard]] bool poursuit();
     void confirmeLot();

@@ -57,7 +57,7 @@ void Demarrage::prendsInstance() {
 
 void Demarrage::verifieDossier() {
     if (!util::estUtf8(m_chemins.dossier)) refuse(kDossierInutilisable + m_chemins.dossier);
-    fichiers::creeDossier(m_chemins.dossierTmp);
+    fichiers::assureDossierPrive(m_chemins.dossierTmp);
     const std::string essai = m_chemins.dossierTmp + "/tmp.tmp";
     if (!fichiers::ecrit(essai, "")) refuse("Le répertoire d'Ambrelis doit être en lecture-écriture");
     fichiers::supprime(essai);

@@ -86,9 +86,9 @@ struct Session::Rouages final : db::Rafraichissement {
     browse::ChoixZone choixZone{etats.liste, affichageApresModification};
 
     // Sheet.
-    browse::AfficheTemporaire afficheTemporaire{chemins, etats.stockage, machine.dialogues};
+    browse::AfficheTemporaire afficheTemporaire{chemins, etats.stockage, machine.dialogues, avis};
     view::Visionneuse visionneuse{etats.affiche, chemins};
-    browse::ChargeAffiche chargeAffiche{etats.fiche, chemins, machine.images, machine.ecran, &visionneuse};
+    browse::ChargeAffiche chargeAffiche{etats.fiche, afficheTemporaire, machine.images, machine.ecran, &visionneuse};
     browse::AfficheVolet afficheVolet{etats.fiche, etats.demandes, chargeAffiche};
     browse::ModifieNoteFilm modifieNoteFilm{base, etats.fiche, film, machine.dialogues};
     browse::AffichePossession affichePossession{base, etats.fiche, film, machine.dialogues};
@@ -104,8 +104,8 @@ struct Session::Rouages final : db::Rafraichissement {
 
     // Poster viewer.
     view::TouchesAffiche touchesAffiche{visionneuse, etats.liste, film, afficheFiche, etats.demandes};
-    view::cmdRemplacerImage_Click cmdRemplacerImage{base,           etats.stockage, chemins,          film,
-                                                    machine.images, chargeAffiche,  machine.dialogues};
+    view::cmdRemplacerImage_Click cmdRemplacerImage{
+        base, etats.stockage, chemins, film, machine.images, afficheTemporaire, chargeAffiche, machine.dialogues};
 
     // Attached files, and those the program writes.
     view::LanceFichier lanceFichier{machine.programmes, machine.documents, machine.dialogues, machine.ecran};

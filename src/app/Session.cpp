@@ -314,10 +314,11 @@ void Session::Option3_Click() {
 }
 
 void Session::cmdParcourir_Click() {
-    app::cmdParcourir_Click(etats.stockage, m_rouages->machine.dialogues);
+    app::cmdParcourir_Click(etats.stockage, m_rouages->chemins, m_rouages->machine.dialogues);
 }
 
 void Session::Label12_Click() {
+    if (etats.fiche.Label12.Caption == browse::kImageIllisible) return cmdRemplacerImage_Click();
     m_rouages->garde([this] { m_rouages->label12(); });
 }
 

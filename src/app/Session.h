@@ -111,7 +111,7 @@ class Session {
     void cmdChargeOuvreBase_Click();
     void Option3_Click();
     void cmdParcourir_Click();
-    void Label12_Click();  // attaches a poster to the film of the sheet that has none
+    void Label12_Click();  // attaches a poster to the film of the sheet that has none, replaces one that cannot be read
     void cmdMajBase_Click();
     void cmdCompacter_Click();
     void cmdInfosBase_Click();

@@ -1,6 +1,5 @@
 #include "browse/ChargeAffiche.h"
 
-#include "platform/fichiers/Fichiers.h"
 #include "util/Nombres.h"
 
 #include <algorithm>
@@ -11,13 +10,14 @@ void ChargeAffiche::operator()() {
     m_fiche.Label12.Caption = "Chargement de l'image...";
     m_fiche.Label12.Visible = true;
     m_ecran.rafraichit();
-    auto taille = fichiers::existe(m_chemins.afficheTmp) ? m_images.charge(m_chemins.afficheTmp) : std::nullopt;
+    const auto octets = m_affiche.octets();
+    auto taille = m_images.charge(octets.value_or(""));
     if (taille && (taille->largeur <= 0 || taille->hauteur <= 0)) taille.reset();
     if (taille) {
         place(*taille);
         m_fiche.Label12.Visible = false;
     } else {
-        m_fiche.Label12.Caption = "Pas d'image \r\n(Cliquez pour ajouter)";
+        m_fiche.Label12.Caption = octets ? kImageIllisible : m_affiche.estAttendue() ? kImageNonMontree : kPasDImage;
         m_fiche.Image1.Visible = false;
     }
     if (m_suivi) m_suivi->afficheChargee(taille);

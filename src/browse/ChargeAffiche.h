@@ -1,9 +1,11 @@
 #pragma once
 
+#include "browse/AfficheTemporaire.h"
 #include "browse/EtatFiche.h"
 #include "browse/SuiviAffiche.h"
-#include "db/Chemins.h"
 #include "platform/ecran/Ecran.h"
+
+#include <string_view>
 
 namespace browse {
 
@@ -11,13 +13,18 @@ namespace browse {
 inline constexpr int kLargeurAffiche = 2895;
 inline constexpr int kHauteurAffiche = 4455;
 
-// Loads the temporary poster file as the sheet's and the viewer's picture, fitted and centred in its box; without a file
-// or with a broken one, the caption that offers to add a poster. `suivi`, when there is one, is told of each load.
+// What the sheet says in place of a poster. Only the first offers to add one.
+inline constexpr std::string_view kPasDImage = "Pas d'image \r\n(Cliquez pour ajouter)";
+inline constexpr std::string_view kImageIllisible = "Image illisible ou trop grande \r\n(Cliquez pour remplacer)";
+inline constexpr std::string_view kImageNonMontree = "L'affiche ne peut pas être montrée";
+
+// Loads the temporary poster file as the sheet's and the viewer's picture, fitted and centred in its box; without one,
+// the caption that says why. `suivi`, when there is one, is told of each load.
 class ChargeAffiche {
   public:
-    ChargeAffiche(EtatFiche& fiche, const db::Chemins& chemins, ecran::Images& images, ecran::Ecran& ecran,
+    ChargeAffiche(EtatFiche& fiche, const AfficheTemporaire& affiche, ecran::Images& images, ecran::Ecran& ecran,
                   SuiviAffiche* suivi = nullptr)
-        : m_fiche(fiche), m_chemins(chemins), m_images(images), m_ecran(ecran), m_suivi(suivi) {}
+        : m_fiche(fiche), m_affiche(affiche), m_images(images), m_ecran(ecran), m_suivi(suivi) {}
 
     void operator()();
 
@@ -25,7 +32,7 @@ class ChargeAffiche {
     void place(const ecran::TailleImage& taille);
 
     EtatFiche& m_fiche;
-    const db::Chemins& m_chemins;
+    const AfficheTemporaire& m_affiche;
     ecran::Images& m_images;
     ecran::Ecran& m_ecran;
     SuiviAffiche* m_suivi;

@@ -8,12 +8,12 @@ namespace browse {
 
 namespace {
 
-constexpr std::string_view kPasDImage = "Pas d'image";
+constexpr std::string_view kSansImage = "Pas d'image";
 
 }  // namespace
 
 void Label12_Click::operator()() {
-    if (!m_film.estUnFilm() || m_fiche.Label12.Caption.find(kPasDImage) == std::string::npos) return;
+    if (!m_film.estUnFilm() || m_fiche.Label12.Caption.find(kSansImage) == std::string::npos) return;
     const std::string image = choisit();
     if (image.empty()) return;
     if (const Echec echec = attache(image))
@@ -38,40 +38,45 @@ std::string Label12_Click::choisit() {
 }
 
 Label12_Click::Echec Label12_Click::attache(const std::string& image) {
+    const bool dansLaBase = m_stockage.dansLaBase();
+    const auto octets = fichiers::lit(image, dansLaBase ? db::kTailleMaxAffiche : db::kTailleMaxImage);
+    if (!octets) return "Le fichier " + image + " n'a pas pu être lu.";
+    if (!dansLaBase)
+        if (auto refus = db::refusDossierImages(m_stockage, m_chemins)) return refus;
+    db::LotAffiches lot(m_base.base, db::dossierImages(m_stockage, m_chemins), db::LotAffiches::Inconnus::Ecrases);
     try {
-        return m_stockage.dansLaBase() ? attacheDansLaBase(image) : attacheEnFichier(image);
+        return enregistre(lot, *octets);
     } catch (const dao::ErreurDao& erreur) {
+        lot.apresAnnulation();
         return "Erreur " + std::to_string(erreur.numero) + " : " + erreur.description;
+    } catch (const db::EchecConversion& echec) {
+        lot.apresAnnulation();
+        return echec.texte;
     }
 }
 
-Label12_Click::Echec Label12_Click::attacheDansLaBase(const std::string& image) {
-    const auto octets = fichiers::lit(image, db::kTailleMaxAffiche);
-    if (!octets) return "Le fichier " + image + " n'a pas pu être lu.";
-    ecrit(db::valeurAfficheDansLaBase(*octets));
-    return std::nullopt;
-}
-
-// The row waits for the file: a base that refuses leaves the file that stood there, a file that cannot be written
-// leaves the row.
-Label12_Click::Echec Label12_Click::attacheEnFichier(const std::string& image) {
-    const std::string nom = db::nomFichierAffiche(m_film.titre, m_film.realisateur);
-    const std::string dossier = db::dossierImages(m_stockage, m_chemins);
+// The row waits for the file: a base that refuses leaves the file that stood there, a file that cannot be written leaves
+// the row. What the film has got since it was shown stays its poster.
+Label12_Click::Echec Label12_Click::enregistre(db::LotAffiches& lot, const std::string& octets) {
     dao::Transaction ensemble(m_base.base);
-    ecrit(db::valeurAfficheFichier(nom));
-    if (!fichiers::creeDossier(dossier) || !fichiers::copie(image, dossier + nom) ||
-        !fichiers::synchronise({dossier + nom}))
-        return "Le fichier image " + dossier + nom + " n'a pas pu être écrit (Disque plein/Lecture seule ?)";
+    dao::Recordset film = m_base.base.OpenRecordset(db::enonceFilm(m_film.titre, m_film.realisateur));
+    if (film.Eof()) return std::nullopt;
+    const std::string actuelle = film.texte("Affiche");
+    const bool enBase = db::estDansLaBase(actuelle) && actuelle.size() > db::kTaillePrefixe;
+    if (enBase || db::fichierAffiche(lot.dossier(), actuelle)) return "Ce film a déjà une affiche : elle est gardée.";
+    film.Edit();
+    film.assigne("Affiche", m_stockage.dansLaBase() ? db::valeurAfficheDansLaBase(octets)
+                                                    : db::valeurAfficheFichier(pose(lot, octets, actuelle)));
+    film.Update();
+    lot.avantValidation();
     ensemble.confirme();
+    lot.apresValidation();
     return std::nullopt;
 }
 
-void Label12_Click::ecrit(const dao::Valeur& affiche) {
-    dao::Recordset film = m_base.base.OpenRecordset(db::enonceFilm(m_film.titre, m_film.realisateur));
-    if (film.Eof()) return;
-    film.Edit();
-    film.assigne("Affiche", affiche);
-    film.Update();
+std::string Label12_Click::pose(db::LotAffiches& lot, const std::string& octets, const std::string& actuelle) const {
+    fichiers::creeDossier(lot.dossier());  // a folder that cannot be made takes no file either
+    return lot.pose(db::nomFichierAffiche(m_film.titre, m_film.realisateur), octets, actuelle);
 }
 
 }  // namespace browse

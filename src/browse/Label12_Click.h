@@ -4,6 +4,7 @@
 #include "db/Base.h"
 #include "db/Chemins.h"
 #include "db/EtatStockage.h"
+#include "db/LotAffiches.h"
 #include "platform/dialogues/Dialogues.h"
 
 #include <optional>
@@ -12,7 +13,7 @@
 namespace browse {
 
 // Gives the film of the sheet the poster that the user chooses, where new posters go, and shows the sheet again. Does
-// nothing when the film has one. A poster that cannot be stored is told to the user, and leaves base and files as they
+// nothing when the film has one, and replaces none that it has got since. A poster that cannot be stored is told to the user, and leaves base and files as they
 // were.
 class Label12_Click {
   public:
@@ -34,9 +35,8 @@ class Label12_Click {
 
     [[nodiscard]] std::string choisit();  // the file, empty when there is none to take
     [[nodiscard]] Echec attache(const std::string& image);
-    [[nodiscard]] Echec attacheDansLaBase(const std::string& image);
-    [[nodiscard]] Echec attacheEnFichier(const std::string& image);
-    void ecrit(const dao::Valeur& affiche);
+    [[nodiscard]] Echec enregistre(db::LotAffiches& lot, const std::string& octets);
+    [[nodiscard]] std::string pose(db::LotAffiches& lot, const std::string& octets, const std::string& actuelle) const;
 
     db::Base& m_base;
     const FilmCourant& m_film;

@@ -2,8 +2,11 @@
 
 #include "platform/dao/Database.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -16,25 +19,48 @@ struct EchecConversion {
 
 // The poster files that one transaction makes in the images folder: they are on the disk before the rows that name them
 // are stored, and gone again when these are not.
+//
+// No film ever sees its poster change by it: a file that another film names is left alone, and so is its name while the
+// file is away. The picture then gets the name's " (2)", " (3)"…
 class LotAffiches {
   public:
-    LotAffiches(dao::Database& base, std::string dossier) : m_base(base), m_dossier(std::move(dossier)) {}
+    // What becomes of a file that bears the name and that no film of the base names.
+    enum class Inconnus { Gardes, Ecrases };
 
-    // Gives the picture that file name. A file that stands there is shared when it holds the same bytes; false when it
-    // holds another picture, and stays. Throws EchecConversion.
-    [[nodiscard]] bool pose(const std::string& nom, std::string_view octets);
+    LotAffiches(dao::Database& base, std::string dossier, Inconnus inconnus = Inconnus::Gardes)
+        : m_base(base), m_dossier(std::move(dossier)), m_inconnus(inconnus) {}
+
+    // Gives the picture a file of that name, or of the next one that is free, and answers it. A file of the very same
+    // bytes is shared. `actuelle` is the film's present value: the file it names is the film's own to replace, unless
+    // another film names it too. Throws EchecConversion, or dao::ErreurDao.
+    [[nodiscard]] std::string pose(const std::string& nom, std::string_view octets, std::string_view actuelle = {});
     void avantValidation();  // throws EchecConversion
-    void apresValidation() { m_crees.clear(), m_aSynchroniser.clear(); }
+    void apresValidation();
     void apresAnnulation();  // nothing of the lot is left in the folder
 
+    [[nodiscard]] const std::string& dossier() const { return m_dossier; }
+
   private:
-    [[nodiscard]] bool poseSurUnAutre(const std::string& nom, std::string_view octets);
-    [[nodiscard]] bool estNomme(const std::string& nom);
+    // How a folder's names are told apart: without regard to letter case, as they are looked for.
+    using Cle = std::string;
+    struct Connaissance {
+        std::unordered_set<Cle> presents;             // files and whatever else stands in the folder
+        std::unordered_map<Cle, long> nommes;         // names in the films' values, and how many of these
+        std::unordered_map<std::string, int> suites;  // by unnumbered name, the last number given
+    };
+    [[nodiscard]] bool poseSous(const std::string& nom, std::string_view octets, std::string_view actuelle);
+    [[nodiscard]] bool poseSurUnAutre(const std::string& nom, std::string_view octets, bool remplacable, bool libre);
+    [[nodiscard]] bool cree(const std::string& nom, std::string_view octets);
+    [[nodiscard]] Connaissance& connaissance();
+    void releveNommes(Connaissance& connu);
+    void releveDossier(Connaissance& connu) const;
 
     dao::Database& m_base;
     std::string m_dossier;  // with its final separator
+    Inconnus m_inconnus;
+    std::optional<Connaissance> m_connaissance;  // read once for each lot
     std::vector<std::string> m_crees;
-    std::vector<std::string> m_aSynchroniser;  // those, and the files shared
+    std::vector<std::string> m_aSynchroniser;  // those, and the files shared or replaced
 };
 
 }  // namespace db

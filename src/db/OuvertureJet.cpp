@@ -1,6 +1,7 @@
 #include "db/OuvertureJet.h"
 
 #include "db/AfficheVoisine.h"
+#include "db/Affiches.h"
 #include "db/MotDePasseJet.h"
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
@@ -237,10 +238,10 @@ bool OuvertureJet::accepteLesPertes(const std::string& original, const std::stri
 }
 
 void OuvertureJet::compteAffichesNonTrouvees(const std::string& original, RapportJet& rapport) const {
-    const std::string& choisi = m_outils.stockage.Text4.Text;
-    const std::string dossier = util::avecSeparateur(choisi.empty() ? m_outils.chemins.dansDossier("Images") : choisi);
+    const std::string dossier = dossierImages(m_outils.stockage, m_outils.chemins);
     rapport.affichesNonTrouvees = std::ranges::count_if(rapport.fichiers, [&](const std::string& nom) {
-        return !afficheDans(dossier, nom) && !afficheVoisine(original, nom);
+        const std::string affiche = "JPG" + nom;
+        return !fichierAffiche(dossier, affiche) && !afficheVoisine(original, affiche);
     });
 }
 

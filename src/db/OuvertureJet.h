@@ -19,7 +19,7 @@ struct OutilsOuvertureJet {
     ecran::Etiquette& lblTravail;
     ecran::Ecran& ecran;
     dialogues::Dialogues& dialogues;
-    const EtatStockage& stockage;  // where posters in files are looked for first
+    EtatStockage& stockage;  // where posters in files are looked for first
     const Chemins& chemins;
 };
 

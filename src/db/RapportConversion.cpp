@@ -23,9 +23,9 @@ std::string RapportConversion::texte() const {
         texte += util::phraseCompte(exclus, "# fichier exclu", "# fichiers exclus") + " car trop volumineux.\r\n";
     if (crees > 0) texte += util::phraseCompte(crees, "# fichier créé.", "# fichiers créés.") + "\r\n";
     ajouteLigne(texte, inclus, "# fichier inclu.", "# fichiers inclus.");
-    ajouteLigne(texte, gardes, "# affiche laissée dans la base car une autre image porte déjà le nom de son fichier.",
-                "# affiches laissées dans la base car d'autres images portent déjà le nom de leur fichier.");
     ajouteLigne(texte, illisibles, "# fichier impossible à lire.", "# fichiers impossibles à lire.");
+    ajouteLigne(texte, restants, "La conversion a été interrompue : relancez-la pour convertir l'affiche restante.",
+                "La conversion a été interrompue : relancez-la pour convertir les # affiches restantes.");
     return texte;
 }
 
@@ -33,8 +33,8 @@ RapportConversion& RapportConversion::operator+=(const RapportConversion& autre)
     exclus += autre.exclus;
     crees += autre.crees;
     inclus += autre.inclus;
-    gardes += autre.gardes;
     illisibles += autre.illisibles;
+    restants += autre.restants;
     return *this;
 }
 

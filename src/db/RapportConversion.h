@@ -9,11 +9,12 @@ struct RapportConversion {
     long exclus = 0;      // files too large for the base
     long crees = 0;       // posters now in files
     long inclus = 0;      // posters now in the base
-    long gardes = 0;      // left in the base: another picture bears their file's name
     long illisibles = 0;  // files that stand there and cannot be read
+    long restants = 0;    // those not met, the conversion having ended before
 
     // A line for each count above 0; empty when there is none.
     [[nodiscard]] std::string texte() const;
+    [[nodiscard]] long rencontres() const { return exclus + crees + inclus + illisibles; }
 
     RapportConversion& operator+=(const RapportConversion& autre);
 };

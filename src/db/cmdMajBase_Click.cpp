@@ -35,6 +35,7 @@ std::unique_ptr<SensConversion> cmdMajBase_Click::sens(const std::string& dossie
 
 // The films that need nothing are done from the start.
 cmdMajBase_Click::Echec cmdMajBase_Click::convertit(RapportConversion& rapport) {
+    if (auto refus = refusDossierImages(m_outils.stockage, m_outils.chemins)) return refus;
     const std::string dossier = dossierImages(m_outils.stockage, m_outils.chemins);
     fichiers::creeDossier(dossier);
     const auto sensVoulu = sens(dossier);
@@ -45,20 +46,24 @@ cmdMajBase_Click::Echec cmdMajBase_Click::convertit(RapportConversion& rapport) 
     if (films.Eof()) return std::nullopt;
     if (!fichiers::dossierModifiable(dossier))
         return "Le dossier des images " + dossier + " n'est pas accessible en écriture !";
-    try {
-        convertitTout(*sensVoulu, films, rapport);
-    } catch (const EchecConversion& echec) {
-        return echec.texte;
-    } catch (const dao::ErreurDao& erreur) {
-        return "Erreur " + std::to_string(erreur.numero) + " : " + erreur.description;
-    }
-    return std::nullopt;
+    return convertitTout(*sensVoulu, films, rapport);
 }
 
-void cmdMajBase_Click::convertitTout(SensConversion& sens, dao::Recordset& films, RapportConversion& rapport) {
+cmdMajBase_Click::Echec cmdMajBase_Click::convertitTout(SensConversion& sens, dao::Recordset& films,
+                                                        RapportConversion& rapport) {
     const ecran::Travail travail(m_outils.ecran);
-    while (!films.Eof() && convertitLot(sens, films, rapport)) {
+    const long aConvertir = sens.aConvertir(films);
+    Echec echec;
+    try {
+        while (!films.Eof() && convertitLot(sens, films, rapport)) {
+        }
+    } catch (const EchecConversion& raison) {
+        echec = raison.texte;
+    } catch (const dao::ErreurDao& erreur) {
+        echec = "Erreur " + std::to_string(erreur.numero) + " : " + erreur.description;
     }
+    if (echec || !films.Eof()) rapport.restants = std::max(0L, aConvertir - rapport.rencontres());
+    return echec;
 }
 
 // False when the user asked to stop. A lot that fails leaves nothing, in the base, in the folder nor in the report.

@@ -42,7 +42,7 @@ class cmdMajBase_Click {
 
     [[nodiscard]] std::unique_ptr<SensConversion> sens(const std::string& dossier) const;
     [[nodiscard]] Echec convertit(RapportConversion& rapport);
-    void convertitTout(SensConversion& sens, dao::Recordset& films, RapportConversion& rapport);
+    [[nodiscard]] Echec convertitTout(SensConversion& sens, dao::Recordset& films, RapportConversion& rapport);
     [[nodiscard]] bool convertitLot(SensConversion& sens, dao::Recordset& films, RapportConversion& rapport);
     [[nodiscard]] bool convertitFilms(SensConversion& sens, dao::Recordset& films, RapportConversion& lot);
 

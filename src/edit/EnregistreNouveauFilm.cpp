@@ -6,8 +6,6 @@
 #include "platform/fichiers/Fichiers.h"
 #include "util/Texte.h"
 
-#include <optional>
-
 namespace edit {
 
 EnregistrementFilm::EnregistrementFilm(db::Base& base, const EtatAjout& ajout, db::EtatStockage& stockage,
@@ -57,13 +55,30 @@ void EnregistrementFilm::afficheDansLaBase(FilmPret& film, const std::string& im
     }
 }
 
+// What bears the name and belongs to no film stays: it may be a sheet's picture, not imported yet.
 void EnregistrementFilm::afficheEnFichier(FilmPret& film, const std::string& image) {
-    const std::string nom = db::nomFichierAffiche(m_ajout.Text3[0].Text, m_ajout.Text3[1].Text);
+    if (const auto refus = db::refusDossierImages(m_stockage, m_chemins)) throw db::EchecConversion{*refus};
     const std::string dossier = db::dossierImages(m_stockage, m_chemins);
+    const auto octets = fichiers::lit(image, db::kTailleMaxImage);
     film.sort = SortAffiche::Illisible;
-    if (!fichiers::creeDossier(dossier) || !fichiers::copie(image, dossier + nom)) return;
-    film.affiche = db::valeurAfficheFichier(nom);
+    if (!octets) return;
+    fichiers::creeDossier(dossier);  // a folder that cannot be made takes no file either
+    if (!m_affiches || m_affiches->dossier() != dossier) m_affiches.emplace(m_base.base, dossier);
+    film.affiche = db::valeurAfficheFichier(
+        m_affiches->pose(db::nomFichierAffiche(m_ajout.Text3[0].Text, m_ajout.Text3[1].Text), *octets));
     film.sort = SortAffiche::Enregistree;
+}
+
+void EnregistrementFilm::avantValidation() {
+    if (m_affiches) m_affiches->avantValidation();
+}
+
+void EnregistrementFilm::apresValidation() {
+    if (m_affiches) m_affiches->apresValidation();
+}
+
+void EnregistrementFilm::apresAnnulation() {
+    if (m_affiches) m_affiches->apresAnnulation();
 }
 
 void EnregistrementFilm::ecrit(FilmPret& film, const std::string& resume, const std::string& dateAjout) {

@@ -3,9 +3,11 @@
 #include "browse/FilmCourant.h"
 #include "db/Affiches.h"
 #include "db/Base.h"
+#include "db/LotAffiches.h"
 #include "edit/EtatAjout.h"
 #include "platform/dialogues/Dialogues.h"
 
+#include <optional>
 #include <string>
 
 namespace edit {
@@ -15,7 +17,7 @@ enum class SortAffiche {
     Aucune,       // no path was given, or the film was modified: its poster stays
     Enregistree,  // in the base, or copied into the images folder
     TropGrande,   // kTailleMaxAffiche bytes or more, with posters in the base
-    Illisible,    // could not be read or copied: the film has no poster, and names no file that is not there
+    Illisible,    // the chosen file could not be read: the film has no poster
 };
 
 // A film about to be written: all that reads files or may show a box has been done.
@@ -26,20 +28,26 @@ struct FilmPret {
 };
 
 // Writes one film from the entry controls, cut to the lengths of the columns. Used by the manual entry and by the
-// import. A film is stored whole whatever happens to its poster.
+// import. A poster that goes to the images folder is written by the first step and belongs to the transaction of the
+// second: who confirms that one calls avantValidation before and apresValidation after, or apresAnnulation once it is
+// rolled back.
 class EnregistrementFilm {
   public:
     EnregistrementFilm(db::Base& base, const EtatAjout& ajout, db::EtatStockage& stockage, const db::Chemins& chemins,
                        const browse::FilmCourant& courant, dialogues::Dialogues& dialogues);
 
     // Adds, or in modify mode (caption of cmdAjoutFilm) rewrites the current film, or adds it when it is no longer found.
-    // `image` may be empty. Throws ErreurDao.
+    // `image` may be empty. Throws ErreurDao, and db::EchecConversion when the poster's file could not be written.
     SortAffiche EnregistreNouveauFilm(const std::string& image, const std::string& resume,
                                       const std::string& dateAjout);
 
     // The same in two steps, for who writes more in the same transaction: only the second belongs inside it.
     [[nodiscard]] FilmPret prepare(const std::string& image);  // throws db::RequeteEchouee after its message
     void ecrit(FilmPret& film, const std::string& resume, const std::string& dateAjout);
+
+    void avantValidation();  // the posters are on the disk then. Throws db::EchecConversion
+    void apresValidation();
+    void apresAnnulation();  // nothing of the posters is left
 
   private:
     void prepareAffiche(FilmPret& film, const std::string& image);
@@ -53,6 +61,7 @@ class EnregistrementFilm {
     const db::Chemins& m_chemins;
     const browse::FilmCourant& m_courant;
     dialogues::Dialogues& m_dialogues;
+    std::optional<db::LotAffiches> m_affiches;  // of the transaction
 };
 
 }  // namespace edit

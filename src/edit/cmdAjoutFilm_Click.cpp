@@ -63,21 +63,37 @@ bool cmdAjoutFilm_Click::changeDeNom(const Identite& film) const {
 void cmdAjoutFilm_Click::ajoute(const Identite& film) {
     const std::string affiche = choisitAffiche();
     const std::string date = m_outils.horloge.dateDuJour();
-    FilmPret pret = m_outils.enregistrement.prepare(affiche);
-    dao::Recordset orpheline = db::ouvreRequete(m_outils.base.base, db::enoncePossession(film.titre, film.realisateur),
-                                                db::NumeroErreur::cmdAjoutFilm, m_outils.dialogues);
-    std::string possession;
-    {
-        dao::Transaction transaction(m_outils.base.base);
-        m_outils.enregistrement.ecrit(pret, m_outils.ajout.txtResume.Text, date);
-        possession = possede(film, orpheline);
-        transaction.confirme();
+    Ajout ajout;
+    try {
+        ajout = enregistre(film, affiche, date);
+    } catch (const db::EchecConversion& echec) {
+        m_outils.enregistrement.apresAnnulation();
+        m_outils.dialogues.MsgBox(echec.texte, dialogues::kExclamation);
+        return;
+    } catch (...) {
+        m_outils.enregistrement.apresAnnulation();
+        throw;
     }
     if (m_suites.stockee) m_suites.stockee();
-    if (pret.sort == SortAffiche::Illisible)
-        m_outils.dialogues.MsgBox("L'image n'a pas pu être enregistrée (" + affiche + ") !", dialogues::kExclamation);
-    annonce(film, possession, pret.sort);
+    annonce(film, ajout);
     montreLeFilmAjoute(film, date);
+}
+
+// Film, holding and poster, or none of them: the user then still has the page filled.
+cmdAjoutFilm_Click::Ajout cmdAjoutFilm_Click::enregistre(const Identite& film, const std::string& affiche,
+                                                         const std::string& date) {
+    FilmPret pret = m_outils.enregistrement.prepare(affiche);
+    if (pret.sort == SortAffiche::Illisible)
+        throw db::EchecConversion{"L'image n'a pas pu être lue (" + affiche + ") !"};
+    dao::Recordset orpheline = db::ouvreRequete(m_outils.base.base, db::enoncePossession(film.titre, film.realisateur),
+                                                db::NumeroErreur::cmdAjoutFilm, m_outils.dialogues);
+    dao::Transaction transaction(m_outils.base.base);
+    m_outils.enregistrement.ecrit(pret, m_outils.ajout.txtResume.Text, date);
+    Ajout ajout{possede(film, orpheline), pret.sort};
+    m_outils.enregistrement.avantValidation();
+    transaction.confirme();
+    m_outils.enregistrement.apresValidation();
+    return ajout;
 }
 
 std::string cmdAjoutFilm_Click::possede(const Identite& film, dao::Recordset& orpheline) {
@@ -92,10 +108,10 @@ std::string cmdAjoutFilm_Click::possede(const Identite& film, dao::Recordset& or
     return description;
 }
 
-void cmdAjoutFilm_Click::annonce(const Identite& film, const std::string& possession, SortAffiche affiche) {
+void cmdAjoutFilm_Click::annonce(const Identite& film, const Ajout& ajout) {
     std::string texte = titreCite(film.titre) + " ajouté";
-    if (affiche == SortAffiche::TropGrande) texte += ", sans son affiche, trop grande pour tenir en base";
-    if (!possession.empty()) texte += ", avec la possession que ce titre avait déjà (" + possession + ")";
+    if (ajout.affiche == SortAffiche::TropGrande) texte += ", sans son affiche, trop grande pour tenir en base";
+    if (!ajout.possession.empty()) texte += ", avec la possession que ce titre avait déjà (" + ajout.possession + ")";
     m_suites.avis.montre(texte + ".", {{"Afficher", [suites = m_suites, film] {
                                             if (!suites.montreFilm(film.titre, film.realisateur))
                                                 suites.avis.montre(titreCite(film.titre) + " n'est plus dans la base.");
@@ -124,6 +140,8 @@ std::string cmdAjoutFilm_Click::motifDeRefusAffiche(const std::string& chemin) c
     if (taille < 0) return "Le fichier indiqué est inexistant !";
     if (m_outils.stockage.dansLaBase() && taille > db::kTailleMaxAffiche)
         return "Image trop grande pour tenir en base !";
+    if (!m_outils.stockage.dansLaBase())
+        return db::refusDossierImages(m_outils.stockage, m_outils.chemins).value_or("");
     return "";
 }
 

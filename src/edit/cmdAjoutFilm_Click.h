@@ -48,7 +48,7 @@ struct SuitesSaisie {
 
 // Checks the manual entry and stores it. In add mode the film and its holding are added, the films of the day listed with
 // the new one selected, and the page emptied for the next; in modify mode (caption of the button) the current film and
-// its holding are rewritten, and the film shown again. Both rows are written or neither.
+// its holding are rewritten, and the film shown again. Both rows are written, with the poster, or none of them.
 class cmdAjoutFilm_Click {
   public:
     cmdAjoutFilm_Click(const OutilsSaisie& outils, const SuitesSaisie& suites) : m_outils(outils), m_suites(suites) {}
@@ -65,9 +65,16 @@ class cmdAjoutFilm_Click {
     [[nodiscard]] std::string motifDeRefus(const Identite& film) const;  // empty: the entry is accepted
     [[nodiscard]] bool changeDeNom(const Identite& film) const;
     void ajoute(const Identite& film);
+    // What is told of a film that was stored.
+    struct Ajout {
+        std::string possession;  // the holding it took over, described; "" when it has one of its own
+        SortAffiche affiche = SortAffiche::Aucune;
+    };
+    // Throws db::EchecConversion when the poster cannot be stored.
+    [[nodiscard]] Ajout enregistre(const Identite& film, const std::string& affiche, const std::string& date);
     // The holding of the film; one that no film had any more becomes its own, as it stands, and is described.
     [[nodiscard]] std::string possede(const Identite& film, dao::Recordset& orpheline);
-    void annonce(const Identite& film, const std::string& possession, SortAffiche affiche);
+    void annonce(const Identite& film, const Ajout& ajout);
     void montreLeFilmAjoute(const Identite& film, const std::string& date);
     [[nodiscard]] std::string choisitAffiche();
     [[nodiscard]] std::string motifDeRefusAffiche(const std::string& chemin) const;

@@ -3,7 +3,6 @@
 #include "ui/BalayagesJpeg.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QImageReader>
 #include <algorithm>
 #include <cmath>
@@ -13,32 +12,37 @@ namespace ui {
 
 namespace {
 
-constexpr qint64 kOctetsMax = 64 << 20;             // of a picture file
-constexpr qint64 kPixelsMax = 64'000'000;           // beyond, a picture is not decoded
+constexpr std::size_t kOctetsMax = 64 << 20;  // of a picture file
+constexpr qint64 kPixelsMax = 64'000'000;     // beyond, a JPEG is not decoded
+constexpr qint64 kPixelsSansReduction =
+    8'000'000;  // likewise for the others, which cannot be decoded at a smaller size
 constexpr qint64 kPixelsParcourus = 1'000'000'000;  // all scans together: a few seconds of decoding
 constexpr double kPixelsEntiere = 16e6;             // decoded for the viewer
 constexpr int kMemoireMax = 256;                    // megabytes for one decoding
-
-bool estUnFormatDePhoto(const QByteArray& format) {
-    return format == "jpeg" || format == "jpg" || format == "png" || format == "bmp" || format == "gif" ||
-           format == "webp";
-}
 
 bool estCouchee(const QImageReader& lecteur) {
     return lecteur.transformation() & QImageIOHandler::TransformationRotate90;
 }
 
-QByteArray litFichier(const std::string& chemin) {
-    QFile fichier(QString::fromStdString(chemin));
-    if (!fichier.open(QIODevice::ReadOnly) || fichier.size() > kOctetsMax) return {};
-    return fichier.readAll();
+bool estTropGrande(const QSize& taille, const QByteArray& format, const QByteArray& octets) {
+    const qint64 surface = qint64{taille.width()} * taille.height();
+    if (format != "jpeg") return surface > kPixelsSansReduction;
+    return surface > kPixelsMax || surface * compteBalayages(octets) > kPixelsParcourus;
 }
 
 }  // namespace
 
-std::optional<ecran::TailleImage> ImagesQt::charge(const std::string& chemin) {
+QByteArray formatDePhoto(const QByteArray& octets) {
+    if (octets.startsWith("\xff\xd8\xff")) return "jpeg";
+    if (octets.startsWith("\x89PNG\r\n\x1a\n")) return "png";
+    if (octets.startsWith("GIF87a") || octets.startsWith("GIF89a")) return "gif";
+    if (octets.startsWith("RIFF") && octets.mid(8, 4) == "WEBP") return "webp";
+    return octets.startsWith("BM") ? "bmp" : QByteArray();
+}
+
+std::optional<ecran::TailleImage> ImagesQt::charge(const std::string& octets) {
     vide();
-    m_octets = litFichier(chemin);
+    if (octets.size() <= kOctetsMax) m_octets = QByteArray::fromStdString(octets);
     if (m_octets.isEmpty() || !decode(m_voulue)) {
         vide();
         return std::nullopt;
@@ -74,13 +78,14 @@ bool ImagesQt::decode(const QSize& pixels) {
 
 QPixmap ImagesQt::decodee(const QSize& pixels) {
     QImageReader::setAllocationLimit(kMemoireMax);
+    const QByteArray format = formatDePhoto(m_octets);
+    if (format.isEmpty()) return {};
     QBuffer tampon(&m_octets);
-    QImageReader lecteur(&tampon);  // a buffer has no name: the bytes alone tell the format
+    QImageReader lecteur(&tampon, format);
+    lecteur.setAutoDetectImageFormat(false);  // no other decoder has a look
     lecteur.setAutoTransform(true);
     const QSize brute = lecteur.size();
-    if (!estUnFormatDePhoto(lecteur.format()) || brute.isEmpty()) return {};
-    const qint64 surface = qint64{brute.width()} * brute.height();
-    if (surface > kPixelsMax || surface * compteBalayages(m_octets) > kPixelsParcourus) return {};
+    if (brute.isEmpty() || estTropGrande(brute, format, m_octets)) return {};
 
     const bool couchee = estCouchee(lecteur);
     m_taille = couchee ? brute.transposed() : brute;

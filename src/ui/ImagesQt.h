@@ -8,11 +8,16 @@
 
 namespace ui {
 
+// The name of the decoder for these bytes, by how they begin: "jpeg", or one of the kinds that pictures of the web come in
+// under a .jpg name ("png", "bmp", "gif", "webp"). Empty for anything else, which no decoder is to see: some of them (SVG)
+// work without end before they have told a size.
+[[nodiscard]] QByteArray formatDePhoto(const QByteArray& octets);
+
 // The current poster. Its file is kept as bytes, and decoded at the size in which it is shown: a full decoding of each
 // poster would cost the browsing more than everything else.
 class ImagesQt final : public ecran::Images {
   public:
-    std::optional<ecran::TailleImage> charge(const std::string& chemin) override;
+    std::optional<ecran::TailleImage> charge(const std::string& octets) override;
     void vide() override;
 
     [[nodiscard]] bool estVide() const { return m_octets.isEmpty(); }

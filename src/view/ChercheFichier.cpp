@@ -11,6 +11,7 @@ namespace view {
 namespace {
 
 constexpr const char* kSeparateurs = "/\\";
+constexpr std::size_t kCheminMax = 4096;  // bytes; the system's own limit
 
 bool estUneLettre(char c) {
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
@@ -80,8 +81,9 @@ std::string joint(const std::string& racine, const std::string& reste) {
 }  // namespace
 
 std::vector<std::string> placesPossibles(const std::string& chemin, const std::vector<systeme::Volume>& volumes) {
-    const Decoupe coupe = decoupe(chemin, volumes);
     std::vector<std::string> places;
+    if (chemin.size() >= kCheminMax) return places;
+    const Decoupe coupe = decoupe(chemin, volumes);
     const auto ajoute = [&](const systeme::Volume& volume, const std::string& reste) {
         std::string place = joint(volume.racine, reste);
         if (!estASilence(place, volumes)) places.push_back(std::move(place));

@@ -7,12 +7,6 @@
 
 namespace view {
 
-namespace {
-
-constexpr std::int64_t kTailleMaxFichier = 64 << 20;  // bytes; beyond, a picture is not shown either
-
-}  // namespace
-
 void cmdRemplacerImage_Click::operator()() {
     const std::string choisi =
         m_dialogues.choisitFichier({"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", m_chemins.dossier});
@@ -26,7 +20,8 @@ std::optional<std::string> cmdRemplacerImage_Click::octetsAdmis(const std::strin
         avertit("Image inexistante !");
     } else if (m_stockage.dansLaBase() && fichiers::longueur(chemin) > db::kTailleMaxAffiche) {
         avertit("Image trop grande pour tenir en base !");
-    } else if (octets = fichiers::lit(chemin, kTailleMaxFichier); !octets || octets->empty() || !estUneImage(chemin)) {
+    } else if (octets = fichiers::lit(chemin, db::kTailleMaxImage);
+               !octets || octets->empty() || !estUneImage(*octets)) {
         octets.reset();
         avertit("Cette image est illisible ou trop grande (" + chemin + ") !");
     }
@@ -34,36 +29,58 @@ std::optional<std::string> cmdRemplacerImage_Click::octetsAdmis(const std::strin
 }
 
 // Trying the picture takes the place of the one shown, which comes back at once.
-bool cmdRemplacerImage_Click::estUneImage(const std::string& chemin) {
-    const bool lisible = m_images.charge(chemin).has_value();
+bool cmdRemplacerImage_Click::estUneImage(const std::string& octets) {
+    const bool lisible = m_images.charge(octets).has_value();
     m_chargeAffiche();
     return lisible;
 }
 
 void cmdRemplacerImage_Click::remplace(const std::string& octets) {
-    dao::Recordset film = db::ouvreRequete(m_base.base, db::enonceFilm(m_film.titre, m_film.realisateur),
-                                           db::NumeroErreur::cmdRemplacerImage, m_dialogues);
-    if (!m_film.estUnFilm() || film.Eof()) return avertit("Film non trouvé !");
-    const auto valeur = range(octets);  // a file stands whole on the disk before the row names it
-    if (!valeur) return;
-    film.Edit();
-    film.assigne("Affiche", *valeur);
-    film.Update();
-    m_film.affiche = m_stockage.dansLaBase() ? "STO" : valeur->texte();
-    fichiers::supprime(m_chemins.afficheTmp);
-    fichiers::ecrit(m_chemins.afficheTmp, octets);
+    if (!enregistre(octets)) return;
+    m_afficheTemporaire.depuisOctets(octets);
     m_chargeAffiche();
 }
 
-// What the column will hold; nothing when the file could not be written. Replaced posters are filed under their director.
-std::optional<dao::Valeur> cmdRemplacerImage_Click::range(const std::string& octets) {
-    if (m_stockage.dansLaBase()) return db::valeurAfficheDansLaBase(octets);
-    const std::string nom = db::nomFichierAffiche(m_film.realisateur, m_film.titre);
-    const std::string dossier = db::dossierImages(m_stockage, m_chemins);
-    if (fichiers::creeDossier(dossier) && fichiers::remplace(dossier + nom, octets))
-        return db::valeurAfficheFichier(nom);
-    avertit("L'image n'a pas pu être enregistrée (" + dossier + nom + ") !");
-    return std::nullopt;
+// False after its message.
+bool cmdRemplacerImage_Click::enregistre(const std::string& octets) {
+    dao::Recordset film = db::ouvreRequete(m_base.base, db::enonceFilm(m_film.titre, m_film.realisateur),
+                                           db::NumeroErreur::cmdRemplacerImage, m_dialogues);
+    const auto refus = m_stockage.dansLaBase() ? std::nullopt : db::refusDossierImages(m_stockage, m_chemins);
+    if (!m_film.estUnFilm() || film.Eof() || refus) {
+        avertit(refus.value_or("Film non trouvé !"));
+        return false;
+    }
+    db::LotAffiches lot(m_base.base, db::dossierImages(m_stockage, m_chemins), db::LotAffiches::Inconnus::Ecrases);
+    try {
+        range(film, octets, lot);
+        return true;
+    } catch (const db::EchecConversion& echec) {
+        lot.apresAnnulation();
+        avertit(echec.texte);
+        return false;
+    } catch (...) {
+        lot.apresAnnulation();
+        throw;
+    }
+}
+
+// A file stands whole on the disk before the row that names it is stored; a base that refuses leaves the files as they
+// were. Replaced posters are filed under their director.
+void cmdRemplacerImage_Click::range(dao::Recordset& film, const std::string& octets, db::LotAffiches& lot) {
+    dao::Transaction ensemble(m_base.base);
+    dao::Valeur valeur = db::valeurAfficheDansLaBase(octets);
+    if (!m_stockage.dansLaBase()) {
+        fichiers::creeDossier(lot.dossier());  // a folder that cannot be made takes no file either
+        valeur = db::valeurAfficheFichier(
+            lot.pose(db::nomFichierAffiche(m_film.realisateur, m_film.titre), octets, film.texte("Affiche")));
+    }
+    film.Edit();
+    film.assigne("Affiche", valeur);
+    film.Update();
+    lot.avantValidation();
+    ensemble.confirme();
+    lot.apresValidation();
+    m_film.affiche = m_stockage.dansLaBase() ? "STO" : valeur.texte();
 }
 
 }  // namespace view

@@ -15,7 +15,8 @@ std::string cmdSauverImage_Click(const browse::EtatFiche& fiche, const db::Chemi
                                                         .extension = ".jpg"},
                                                        chemins);
     if (destination.empty()) return {};
-    if (!fichiers::copie(chemins.afficheTmp, destination)) {
+    const auto image = fichiers::litSansLien(chemins.afficheTmp);
+    if (!image || !fichiers::remplace(destination, *image)) {
         dialogues.MsgBox("Erreur lors de la sauvegarde.", dialogues::kCritique, kTitre);
         return {};
     }

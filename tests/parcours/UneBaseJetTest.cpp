@@ -46,7 +46,7 @@ TEST(UneBaseJet, NamedByTheSettingsItIsConvertedOnceAndBrowsed) {
         choisitZone(execution, 1);
         clique(execution, "Été 2");
         EXPECT_EQ(installation.lit("Tmp/ImageTMP.jpg"), doubles::imageJet(2));
-        EXPECT_EQ(execution.images.courante, installation.chemin("Tmp/ImageTMP.jpg"));
+        EXPECT_EQ(execution.images.courante, installation.lit("Tmp/ImageTMP.jpg"));
         execution.session.Form_Unload();
     }
     EXPECT_EQ(installation.lit("Vieux/Été (Jet).mdb"), octets);

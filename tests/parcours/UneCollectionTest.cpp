@@ -76,7 +76,7 @@ TEST_F(UneCollection, AClickShowsTheSheetWithItsPosterOrNone) {
         EXPECT_EQ(etats.fiche.Label1[0].Caption, titre);
         const bool aUneAffiche = std::string(titre) == "Le Cercle Rouge";
         EXPECT_EQ(etats.fiche.Image1.vide, !aUneAffiche) << titre;
-        EXPECT_EQ(execution.images.courante, aUneAffiche ? installation.chemin("Tmp/ImageTMP.jpg") : "") << titre;
+        EXPECT_EQ(execution.images.courante, aUneAffiche ? installation.lit("Tmp/ImageTMP.jpg") : "") << titre;
     }
     EXPECT_EQ(etats.fiche.Label1[2].Caption, "Production (1959)");
     EXPECT_EQ(etats.fiche.Text1.Text, "Un résumé.");

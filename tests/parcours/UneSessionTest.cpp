@@ -86,7 +86,7 @@ class UneSession : public Collectionneur {
         EXPECT_THAT(arbre(etats()), ElementsAre("Les \"Nouveaux\" Monstres"));
         clique(*execution, "Les \"Nouveaux\" Monstres");
         EXPECT_EQ(filmMontre(etats()), kMonstres);
-        EXPECT_EQ(execution->images.courante, installation.chemin("Tmp/ImageTMP.jpg"));
+        EXPECT_EQ(execution->images.courante, installation.lit("Tmp/ImageTMP.jpg"));
         session().lblRealisateur_Click();
         EXPECT_EQ(etats().recherche.Text2.Text, "Dino Risi");
         EXPECT_EQ(arbre(etats()).size(), 1U);
@@ -326,7 +326,7 @@ class UneSession : public Collectionneur {
         clique(*execution, "Les \"Nouveaux\" Monstres");
         EXPECT_EQ(filmMontre(etats()), kMonstres);
         EXPECT_EQ(etats().fiche.Combo7[0].Text, "L'ami \"Jo\"");
-        EXPECT_EQ(execution->images.courante, installation.chemin("Tmp/ImageTMP.jpg"));
+        EXPECT_EQ(execution->images.courante, installation.lit("Tmp/ImageTMP.jpg"));
         EXPECT_THAT(etats().fiche.Combo7[2].Items, ElementsAre("Blu-ray"));
     }
 

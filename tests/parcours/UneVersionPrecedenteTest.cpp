@@ -42,7 +42,7 @@ TEST_F(UneVersionPrecedente, BringsAPreviousVersionAlong) {
                     ElementsAre("E", "  Été Violent", "L", "  Le Cercle Rouge", "  Le Samouraï", "S", "  Sans Rien"));
         EXPECT_THAT(etats().fiche.Combo7[2].Items, ElementsAre("DVD"));
         clique(*execution, "Le Cercle Rouge");
-        EXPECT_EQ(execution->images.courante, installation.chemin("Tmp/ImageTMP.jpg"));
+        EXPECT_EQ(execution->images.courante, installation.lit("Tmp/ImageTMP.jpg"));
         session().Form_Unload();
     }
     EXPECT_FALSE(installation.existe("Images"));  // here posters go into the base

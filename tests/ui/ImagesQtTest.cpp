@@ -1,4 +1,3 @@
-#include "doubles/DossierTemporaire.h"
 #include "ui/ImagesQt.h"
 
 #include <QBuffer>
@@ -38,7 +37,6 @@ std::string demesuree() {
 }
 
 TEST(ImagesQt, LoadsByContentUprightAndDecodesAtTheSizeShown) {
-    doubles::DossierTemporaire dossier;
     ui::ImagesQt images;
     struct Cas {
         std::string octets;
@@ -46,7 +44,7 @@ TEST(ImagesQt, LoadsByContentUprightAndDecodesAtTheSizeShown) {
     };
     for (const Cas& cas : {Cas{octets({400, 600}, "JPG"), 400, 600}, Cas{octets({40, 60}, "PNG"), 40, 60},
                            Cas{couchee({600, 400}), 400, 600}}) {
-        const auto taille = images.charge(dossier.ecrit("affiche.jpg", cas.octets));
+        const auto taille = images.charge(cas.octets);
         ASSERT_TRUE(taille.has_value());
         EXPECT_EQ(taille->largeur, cas.largeur);
         EXPECT_EQ(taille->hauteur, cas.hauteur);
@@ -76,24 +74,22 @@ std::string progressive(const QSize& taille, int fois) {
 }
 
 TEST(ImagesQt, APictureOfHundredsOfScansIsNotWaitedFor) {
-    doubles::DossierTemporaire dossier;
     ui::ImagesQt images;
-    EXPECT_TRUE(images.charge(dossier.ecrit("affiche.jpg", progressive({3000, 4000}, 0))));
-    EXPECT_TRUE(images.charge(dossier.ecrit("affiche.jpg", progressive({30, 40}, 500)))) << "small: done at once";
-    EXPECT_FALSE(images.charge(dossier.ecrit("affiche.jpg", progressive({3000, 4000}, 500))));
+    EXPECT_TRUE(images.charge(progressive({3000, 4000}, 0)));
+    EXPECT_TRUE(images.charge(progressive({30, 40}, 500))) << "small: done at once";
+    EXPECT_FALSE(images.charge(progressive({3000, 4000}, 500)));
     const std::string apercu = progressive({30, 40}, 500);
     const std::string segment = std::string("\xff\xe1") + static_cast<char>((apercu.size() + 2) >> 8) +
                                 static_cast<char>(apercu.size() + 2) + apercu;
-    EXPECT_TRUE(images.charge(dossier.ecrit("affiche.jpg", octets({3000, 4000}, "JPG").insert(2, segment))))
+    EXPECT_TRUE(images.charge(octets({3000, 4000}, "JPG").insert(2, segment)))
         << "the scans of a preview are no scans of the picture";
 }
 
 TEST(ImagesQt, TheWholePictureComesUprightInBoundedMemory) {
-    doubles::DossierTemporaire dossier;
     ui::ImagesQt images;
-    ASSERT_TRUE(images.charge(dossier.ecrit("affiche.jpg", couchee({600, 400}))));
+    ASSERT_TRUE(images.charge(couchee({600, 400})));
     EXPECT_EQ(images.entiere().size(), QSize(400, 600));
-    const auto grande = images.charge(dossier.ecrit("grande.jpg", octets({8000, 4000}, "JPG")));
+    const auto grande = images.charge(octets({8000, 4000}, "JPG"));
     ASSERT_TRUE(grande);
     EXPECT_EQ(grande->largeur, 8000);
     const QSize decodee = images.entiere().size();
@@ -103,19 +99,35 @@ TEST(ImagesQt, TheWholePictureComesUprightInBoundedMemory) {
     EXPECT_TRUE(images.entiere().isNull());
 }
 
+// By content, before any decoder has a look: some work without end on a few bytes.
+TEST(ImagesQt, OnlyPhotographsAreHandedToADecoder) {
+    for (const char* format : {"jpeg", "png", "bmp"})
+        EXPECT_EQ(ui::formatDePhoto(QByteArray::fromStdString(octets({9, 9}, format))), format);
+    EXPECT_EQ(ui::formatDePhoto("RIFF....WEBPVP8 "), "webp");
+    EXPECT_EQ(ui::formatDePhoto("GIF89a..."), "gif");
+    for (const char* autre :
+         {"", "\xff\xd8", "<svg xmlns='http://www.w3.org/2000/svg'/>", "<?xml version='1.0'?><svg/>", "\x1f\x8b\x08\0",
+          "P6 9 9 255", "/* XPM */", "RIFF....WAVE", "%PDF-1.4", "II*"})
+        EXPECT_EQ(ui::formatDePhoto(autre), "") << autre;
+}
+
+TEST(ImagesQt, APictureThatCannotBeDecodedSmallerIsNotWaitedFor) {
+    ui::ImagesQt images;
+    EXPECT_TRUE(images.charge(octets({2000, 3000}, "PNG")));
+    EXPECT_FALSE(images.charge(octets({4000, 3000}, "PNG")));
+    EXPECT_TRUE(images.charge(octets({4000, 3000}, "JPG")));
+}
+
 TEST(ImagesQt, WhatCannotBeDecodedIsNoPicture) {
-    doubles::DossierTemporaire dossier;
     ui::ImagesQt images;
     const std::string bonne = octets({30, 40}, "JPG");
     for (const std::string& mauvaise :
          {std::string(), std::string("pas une image"), bonne.substr(0, 20), demesuree(), bombe(),
           std::string("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>")}) {
-        ASSERT_TRUE(images.charge(dossier.ecrit("bonne.jpg", bonne)));
-        EXPECT_FALSE(images.charge(dossier.ecrit("mauvaise.jpg", mauvaise))) << mauvaise.size();
+        ASSERT_TRUE(images.charge(bonne));
+        EXPECT_FALSE(images.charge(mauvaise)) << mauvaise.size();
         EXPECT_TRUE(images.estVide()) << "the picture before must not stay";
     }
-    EXPECT_FALSE(images.charge(dossier.chemin("absente.jpg")));
-    EXPECT_FALSE(images.charge(dossier.chemin()));
 }
 
 }  // namespace

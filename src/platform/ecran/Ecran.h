@@ -40,9 +40,9 @@ struct TailleImage {
 class Images {
   public:
     virtual ~Images() = default;
-    // Loads the file as the current picture; its size, or nothing when it is missing, broken or too large to decode
-    // (the current picture is then empty).
-    [[nodiscard]] virtual std::optional<TailleImage> charge(const std::string& chemin) = 0;
+    // Takes a picture file's bytes as the current picture; its size, or nothing when there are none, or when they are
+    // broken, too large to decode or of no kind that photographs have (the current picture is then empty).
+    [[nodiscard]] virtual std::optional<TailleImage> charge(const std::string& octets) = 0;
     virtual void vide() = 0;
 };
 

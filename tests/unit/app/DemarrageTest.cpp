@@ -78,6 +78,24 @@ TEST(Demarrage, RefusalsComeInOrderAndWriteNoSettings) {
     EXPECT_TRUE(bonne.demarre());
 }
 
+// "Tmp" may be a link, and hold some: what they lead to is nobody's working file.
+TEST(Demarrage, NothingThatTmpLeadsToIsTouched) {
+    const Installation installation;
+    installation.ecrit("ailleurs/victime.jpg", "victime");
+    std::filesystem::create_directory_symlink(installation.chemin("ailleurs"), installation.chemin("Tmp"));
+    for (int essai = 0; essai < 2; ++essai) {
+        Execution execution(installation.chemin());
+        ASSERT_TRUE(execution.demarre());
+        EXPECT_THROW(execution.session.cmdStop_Click(), systeme::FinDuProgramme);
+        EXPECT_EQ(installation.lit("ailleurs/victime.jpg"), "victime");
+        EXPECT_TRUE(std::filesystem::is_empty(installation.chemin("Tmp")));
+        EXPECT_EQ(std::filesystem::symlink_status(installation.chemin("Tmp")).permissions(),
+                  std::filesystem::perms::owner_all);
+        std::filesystem::create_symlink(installation.chemin("ailleurs/victime.jpg"),
+                                        installation.chemin("Tmp/tmp.tmp"));
+    }
+}
+
 TEST(Demarrage, ASecondInstanceEndsSilentlyAndDisturbsNothing) {
     const Installation installation;
     const Installation autreDossier;

@@ -39,6 +39,40 @@ TEST(ChoixFonction, OnePanelAtATimeUnderItsBoldButton) {
     EXPECT_EQ(panneaux(session.etats), "doC1");
 }
 
+TEST(DossierDesImages, ANameThatIsShortIsTheSameFolderAfterARestartElsewhere) {
+    const Installation installation;
+    const std::string affiche = "\xFF\xD8 une affiche", ici = std::filesystem::current_path();
+    {
+        Execution execution(installation.chemin());
+        ASSERT_TRUE(execution.demarre());
+        dao::DBEngine::OpenDatabase(installation.chemin("Films.mdb"))
+            .Execute(
+                "INSERT INTO Films (Titre, Realisateur, Affiche) VALUES ('Été', 'R', CAST('STO' || x'FFD8' || ' une "
+                "affiche' AS BLOB))");
+        ecran::choisit(execution.etats.stockage.Option3, 1);
+        execution.boites.attendDossier("Dossier des images", "", installation.chemin("Tmp/x"));
+        execution.boites.attendMsgBox("Le dossier des images ne peut pas être " + installation.chemin("Tmp/x") +
+                                          " : Ambrelis efface ce que contient « Tmp » chaque fois qu'il se ferme.",
+                                      dialogues::kExclamation);
+        execution.session.cmdParcourir_Click();
+        execution.etats.stockage.Text4.Text = "affiches";
+        execution.boites.attendMsgBox("Compactage effectué.", dialogues::kInformation);
+        execution.boites.attendMsgBox("1 fichier créé.\r\n", dialogues::kInformation);
+        execution.session.cmdMajBase_Click();
+        EXPECT_THROW(execution.session.cmdStop_Click(), systeme::FinDuProgramme);
+    }
+    EXPECT_EQ(installation.lit("affiches/Été - R.jpg"), affiche);
+    std::filesystem::create_directories(installation.chemin("ailleurs/affiches"));
+    std::filesystem::current_path(installation.chemin("ailleurs"));
+    Execution execution(installation.chemin());
+    ASSERT_TRUE(execution.demarre());
+    execution.etats.liste.ChoixZone.selectionne(browse::kZoneTous);
+    execution.session.ChoixZone_Click();
+    execution.session.TreeView1_NodeClick(2);
+    EXPECT_EQ(execution.images.courante, affiche);
+    std::filesystem::current_path(ici);
+}
+
 TEST(APropos, KeepsItsFixedLines) {
     const std::string texte = app::texteAPropos();
     EXPECT_TRUE(

@@ -1,5 +1,6 @@
 #include "app/Reglages.h"
 #include "doubles/DossierTemporaire.h"
+#include "doubles/Temoin.h"
 
 #include <algorithm>
 
@@ -66,6 +67,13 @@ TEST(Reglages, WriteEightLinesOfPlainValues) {
     const Reglages reglages{1, "/img/", 12000, 9000, 3, "/b/Été.mdb", true, false};
     EXPECT_EQ(texteReglages(reglages, kDossier), "1\n/img/\n12000\n9000\n3\n/b/Été.mdb\n1\n0\n");
     EXPECT_EQ(texteReglages({}, kDossier), "0\n\n0\n0\n0\n\n0\n0\n");
+}
+
+TEST(Reglages, ThePersonalFolderIsNoneOfTheProgramFolder) {
+    const doubles::Environnement maison({{"HOME", std::string("/home/jeanne")}});
+    EXPECT_EQ(litReglages("0\n~/Affiches\n", kDossier).dossierImages, "/home/jeanne/Affiches");
+    const Reglages tilde{0, kDossier + "~/Affiches", 0, 0, 0, kDossier + "~"};
+    EXPECT_EQ(litReglages(texteReglages(tilde, kDossier), kDossier), tilde);
 }
 
 TEST(Reglages, AnyPathReadsAsItWasWritten) {

@@ -1,6 +1,7 @@
 #include "Fenetre.h"
 #include "db/Affiches.h"
 #include "platform/fichiers/Fichiers.h"
+#include "util/Texte.h"
 
 namespace {
 
@@ -119,13 +120,78 @@ TEST_F(AfficheFicheTest, APosterThatIsGoneOrBrokenShowsAsNone) {
     dialogues.attendMsgBox("Le fichier image n'existe plus (" + dossier.chemin("Affiches/Perdue.jpg") + ") !", 48);
     montreFilm("Perdue");
     EXPECT_EQ(film.affiche, "JPGPerdue.jpg");
-    for (const char* titre : {"Abîmée", "Vide"}) {
+    EXPECT_EQ(fiche.Label12.Caption, kPasDImage);
+    for (const auto& [titre, statut] :
+         {std::pair("Abîmée", "Image illisible ou trop grande \r\n(Cliquez pour remplacer)"),
+          std::pair("Vide", kPasDImage.c_str())}) {
         clique(titre);
         EXPECT_TRUE(fiche.Image1.vide);
         EXPECT_FALSE(fiche.Image1.Visible);
-        EXPECT_EQ(fiche.Label12.Caption, kPasDImage);
+        EXPECT_EQ(fiche.Label12.Caption, statut);
         EXPECT_TRUE(panneaux.frameFiche.Visible);
     }
+}
+
+// The film has its poster: that "Tmp" cannot take it is told, and is no invitation to add another.
+TEST_F(AfficheFicheTest, APosterThatTmpCannotTakeIsToldAndNotOfferedToBeReplaced) {
+    ajouteFilm("En base", {{"Affiche", db::valeurAfficheDansLaBase(kJpeg)}});
+    ajouteFilm("Sans");
+    montreFilm("En base");
+    std::filesystem::remove_all(chemins.dossierTmp);
+    montreFilm("En base");
+    EXPECT_EQ(dossier.lit("Tmp/ImageTMP.jpg"), kJpeg) << "a folder that went is made again";
+    EXPECT_TRUE(fiche.Image1.Visible);
+
+    std::filesystem::remove_all(chemins.dossierTmp);
+    dossier.ecrit("Tmp", "in its place");
+    montreFilm("En base");
+    EXPECT_FALSE(fiche.Image1.Visible);
+    EXPECT_EQ(fiche.Label12.Caption, "L'affiche ne peut pas être montrée");
+    EXPECT_TRUE(etatAvis.frameAvis.Visible);
+    EXPECT_EQ(etatAvis.lblAvis.Caption, "L'affiche ne peut pas être montrée : " + chemins.dossierTmp +
+                                            " n'a pas pu être écrit (Disque plein/Lecture seule ?).");
+    montreFilm("Sans");
+    EXPECT_EQ(fiche.Label12.Caption, kPasDImage);
+}
+
+TEST_F(AfficheFicheTest, APosterOutsideTheImagesFolderIsNeverShown) {
+    dossier.ecrit("victime.jpg", kJpeg);
+    dossier.ecrit("Images/vraie.jpg", kJpeg + "vraie");
+    std::filesystem::create_symlink(dossier.chemin("victime.jpg"), dossier.chemin("Images/lien.jpg"));
+    ajouteFilm("Dehors", {{"Affiche", "JPG../victime.jpg"}});
+    ajouteFilm("Lien", {{"Affiche", "JPGlien.jpg"}});
+    ajouteFilm("Dedans", {{"Affiche", "JPG..\\x\\VRAIE.jpg"}});
+    ajouteFilm("Nulle part", {{"Affiche", "JPGvraie.jpg"}});
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    for (const auto& [titre, nom] : {std::pair("Dehors", "victime.jpg"), std::pair("Lien", "lien.jpg")}) {
+        dialogues.attendMsgBox("Le fichier image n'existe plus (" + dossier.chemin("Images/") + nom + ") !", 48);
+        clique(titre);
+        EXPECT_FALSE(dossier.existe("Tmp/ImageTMP.jpg"));
+    }
+    clique("Dedans");
+    EXPECT_EQ(dossier.lit("Tmp/ImageTMP.jpg"), kJpeg + "vraie");
+    stockage.Text4.Text = "C:\\Affiches";
+    dialogues.attendMsgBox("Le fichier image n'existe plus (C:\\Affiches/vraie.jpg) !", 48);
+    clique("Nulle part");
+}
+
+TEST_F(AfficheFicheTest, FieldsOfMegabytesAreShownLikeOthers) {
+    const std::string large(5'000'000, 'x');
+    Ligne champs{{"Affiche", "JPG" + util::remplace(large, "x", "../")}};
+    for (const char* champ : {"Realisateur", "Annee", "Origine", "Genre", "Duree", "Production", "Note", "Resume"})
+        champs.emplace_back(champ, large);
+    champs.emplace_back("Acteurs", util::remplace(large, "x", "é;"));
+    ajouteFilm(large.c_str(), champs);
+    possede(large.c_str(), large.c_str(), {{"Fichier1", util::remplace(large, "x", "..\\")}, {"Divers", large}});
+    std::string points;
+    for (int i = 0; i < 85; ++i)
+        points += "../";
+    dialogues.attendMsgBox("Le fichier image n'existe plus (" + dossier.chemin("Images/") + points + ") !", 48);
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    arbre.NodeClick(1);
+    EXPECT_EQ(film.titre, large);
+    EXPECT_EQ(fiche.Text10[4].Text, large);
+    EXPECT_EQ(fiche.lblInfosActeurs.Caption.size(), 20'000'000U);
 }
 
 TEST_F(AfficheFicheTest, PostersFillTheirBoxAndKeepTheirShape) {

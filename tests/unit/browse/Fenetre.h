@@ -48,10 +48,12 @@ class Fenetre : public ::testing::Test {
     browse::AfficheNbTitres afficheNbTitres{liste, base};
     browse::CreeRequeteAffichage creeRequeteAffichage{base, liste, film, afficheTitres, dialogues};
     browse::AfficheAccueil afficheAccueil{panneaux, ecranMuet};
-    browse::ChargeAffiche chargeAffiche{fiche, chemins, images, ecranMuet};
+    ecran::EtatAvis etatAvis;
+    ecran::Avis avis{etatAvis};
+    browse::AfficheTemporaire afficheTemporaire{chemins, stockage, dialogues, avis};
+    browse::ChargeAffiche chargeAffiche{fiche, afficheTemporaire, images, ecranMuet};
     browse::AfficheVolet afficheVolet{fiche, demandes, chargeAffiche};
     browse::ModifieNoteFilm modifieNoteFilm{base, fiche, film, dialogues};
-    browse::AfficheTemporaire afficheTemporaire{chemins, stockage, dialogues};
     browse::AffichePossession affichePossession{base, fiche, film, dialogues};
     browse::AfficheFiche afficheFiche{base,
                                       liste,

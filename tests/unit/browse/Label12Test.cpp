@@ -52,6 +52,50 @@ TEST_F(Label12Test, ThePosterGoesIntoTheFolderUnderTheFilmsName) {
     EXPECT_TRUE(fiche.Image1.Visible);
 }
 
+TEST_F(Label12Test, AnotherFilmsFileIsLeftAlone) {
+    ecran::choisit(stockage.Option3, 1);
+    dossier.ecrit("Images/Le titre  1 - R.jpg", "d'un autre");
+    dossier.ecrit("Images/Le titre  1 - R (2).jpg", "à personne");
+    base.base.Execute("UPDATE Films SET Affiche = 'JPGx\\LE TITRE  1 - r.jpg' WHERE Titre = 'Un autre'");
+    attache(dossier.ecrit("choix.jpg", image));
+    EXPECT_EQ(affiche(), "JPGLe titre  1 - R (2).jpg");
+    EXPECT_EQ(dossier.lit("Images/Le titre  1 - R (2).jpg"), image);
+    EXPECT_EQ(dossier.lit("Images/Le titre  1 - R.jpg"), "d'un autre");
+}
+
+// The sheet may be older than the film: its poster came since, or came back with its disk.
+TEST_F(Label12Test, APosterThatTheFilmHasIsNeverReplaced) {
+    const std::string choix = dossier.ecrit("choix.jpg", image);
+    const std::string retrouvee = dossier.ecrit("Images/retrouvée.jpg", image);
+    for (const std::size_t option : {0, 1})
+        for (const char* valeur : {"CAST('STOautre' AS BLOB)", "'JPGretrouvée.jpg'"}) {
+            ecran::choisit(stockage.Option3, option);
+            base.base.Execute(std::string("UPDATE Films SET Affiche = ") + valeur);
+            const std::string avant = affiche();
+            choisitImage(choix);
+            dialogues.attendMsgBox("Ce film a déjà une affiche : elle est gardée.", dialogues::kCritique);
+            commande();
+            dialogues.verifie();
+            EXPECT_EQ(affiche(), avant);
+        }
+    EXPECT_FALSE(dossier.existe("Images/Le titre  1 - R.jpg"));
+    std::filesystem::remove(retrouvee);
+    attache(choix);
+    EXPECT_EQ(affiche(), "JPGLe titre  1 - R.jpg") << "a reference that leads nowhere is no poster";
+}
+
+TEST_F(Label12Test, AFolderThatIsNoneIsRefusedBeforeAnythingIsWritten) {
+    ecran::choisit(stockage.Option3, 1);
+    stockage.Text4.Text = chemins.dossierTmp + "/Affiches";
+    choisitImage(dossier.ecrit("choix.jpg", image));
+    dialogues.attendMsgBox("Le dossier des images ne peut pas être " + chemins.dossierTmp +
+                               "/Affiches : Ambrelis efface ce que contient « Tmp » chaque fois qu'il se ferme.",
+                           dialogues::kCritique);
+    commande();
+    EXPECT_EQ(affiche(), "");
+    EXPECT_TRUE(std::filesystem::is_empty(chemins.dossierTmp));
+}
+
 TEST_F(Label12Test, TheFilesOwnPlacesAreRecognised) {
     ecran::choisit(stockage.Option3, 1);
     attache(dossier.ecrit("Images/Le titre  1 - R.jpg", image));

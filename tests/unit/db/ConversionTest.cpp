@@ -1,4 +1,5 @@
 #include "Entretien.h"
+#include "util/Texte.h"
 
 #include <random>
 
@@ -81,7 +82,8 @@ TEST_F(ConversionTest, AFileThatSeveralFilmsNameGoesWithTheLast) {
     entretien->ajoute("b", "", "JPGseul.jpg");
     entretien->ajoute("c", "", "JPGCOMMUN.jpg");
     entretien->ecranMuet.arretApres = 2;
-    convertit(0, "2 fichiers inclus.");
+    convertit(0,
+              "2 fichiers inclus.\r\nLa conversion a été interrompue : relancez-la pour convertir l'affiche restante.");
     EXPECT_TRUE(existe("commun.jpg"));
     EXPECT_FALSE(existe("seul.jpg"));
     entretien->ecranMuet.arretApres = 0;
@@ -99,9 +101,10 @@ TEST_F(ConversionTest, FilesLeftByAKilledConversionGoWithTheNext) {
         fichier(nom, image(1));
     fichier("Autre - R.jpg", image(2));
     fichier("L'été - R.jpg", image(1).substr(0, 100));
+    fichier("Laissé - R (2).jpg", image(1));
     entretien->ecranMuet.arretApres = 1;
     entretien->ecranMuet.pendantSouffle = [&] {
-        EXPECT_FALSE(existe("Laissé - R.jpg") || existe("R - Remplacé.jpg"));
+        EXPECT_FALSE(existe("Laissé - R.jpg") || existe("R - Remplacé.jpg") || existe("Laissé - R (2).jpg"));
         EXPECT_TRUE(existe("Nommé - R.jpg") && existe("Inconnu - R.jpg") && existe("Autre - R.jpg"));
         EXPECT_EQ(litFichier("L'été - R.jpg"), image(1).substr(0, 100));
     };
@@ -119,16 +122,70 @@ TEST_F(ConversionTest, PostersGoIntoFilesThatNoOtherPictureHas) {
     fichier("Coupé - R.jpg", image(3).substr(0, 100));  // what a killed conversion left
     entretien->ajoute("Dossier", "R", db::valeurAfficheDansLaBase(image(4)));
     std::filesystem::create_directories(installation.dossier.chemin("Images/Dossier - R.jpg"));
-    convertit(1,
-              "3 fichiers créés.\r\n2 affiches laissées dans la base car d'autres images portent déjà le nom de leur "
-              "fichier.",
-              true);
+    entretien->ajoute("Renommé", "R", "JPG../PRIS - r.jpg");  // its file is another's name by now
+    fichier("Pris - R.jpg", image(5));
+    entretien->ajoute("Pris", "R", db::valeurAfficheDansLaBase(image(6)));
+    entretien->ajoute("Retiré", "R", "JPGAbsent - R.jpg");  // its disk is away
+    entretien->ajoute("Absent", "R", db::valeurAfficheDansLaBase(image(7)));
+    convertit(1, "7 fichiers créés.\r\n", true);
     std::vector<std::string> affiches = entretien->affiches();
     std::sort(affiches.begin(), affiches.end());
-    EXPECT_EQ(affiches, (std::vector<std::string>{"JPGCoupé - R.jpg", "JPGÉté  1 - R.jpg", "JPGÉté  1 - R.jpg",
-                                                  "STO" + image(2), "STO" + image(4)}));
+    EXPECT_EQ(affiches, (std::vector<std::string>{"JPG../PRIS - r.jpg", "JPGAbsent - R (2).jpg", "JPGAbsent - R.jpg",
+                                                  "JPGCoupé - R.jpg", "JPGDossier - R (2).jpg", "JPGPris - R (2).jpg",
+                                                  "JPGÉté  1 - R (2).jpg", "JPGÉté  1 - R.jpg", "JPGÉté  1 - R.jpg"}));
     EXPECT_EQ(litFichier("Été  1 - R.jpg"), image(1));
+    EXPECT_EQ(litFichier("Été  1 - R (2).jpg"), image(2));
     EXPECT_EQ(litFichier("Coupé - R.jpg"), image(3));
+    EXPECT_EQ(litFichier("Pris - R.jpg"), image(5));
+    EXPECT_EQ(litFichier("Pris - R (2).jpg"), image(6));
+}
+
+// Whatever the films' values say, only ordinary files of the images folder itself are taken in, and removed.
+TEST_F(ConversionTest, NothingOutsideTheFolderIsReadNorRemoved) {
+    const std::string victime = installation.dossier.ecrit("victime.jpg", image(1));
+    std::filesystem::create_directories(installation.dossier.chemin("Images/sous"));
+    std::filesystem::create_symlink(victime, installation.dossier.chemin("Images/lien.jpg"));
+    fichier("sous/dedans.jpg", image(2));
+    fichier("vraie.jpg", image(3));
+    for (const std::string& nom :
+         {std::string("../victime.jpg"), std::string("..\\victime.jpg"), victime, std::string("lien.jpg"),
+          std::string("sous"), std::string("../Images/sous/dedans.jpg"), std::string(".."), std::string("../..")})
+        entretien->ajoute(nom, "", "JPG" + nom);
+    entretien->ajoute("vraie", "", "JPG..\\Ailleurs\\vraie.jpg");
+    convertit(0, "1 fichier inclu.");
+    EXPECT_EQ(installation.dossier.lit("victime.jpg"), image(1));
+    EXPECT_EQ(litFichier("sous/dedans.jpg"), image(2));
+    EXPECT_TRUE(existe("lien.jpg"));
+    EXPECT_FALSE(existe("vraie.jpg"));
+    EXPECT_EQ(entretien->valeurs("SELECT * FROM films WHERE Affiche LIKE 'STO*'", "Titre"),
+              std::vector<std::string>{"vraie"});
+}
+
+// Each step over a field is done with it in the time it takes to read it.
+TEST_F(ConversionTest, FieldsOfMegabytesAreConvertedLikeOthers) {
+    const std::string long5Mo(5'000'000, 'x'), accents = util::remplace(long5Mo.substr(0, 2'500'000), "x", "é");
+    entretien->ajoute(long5Mo, accents, db::valeurAfficheDansLaBase(image(1)));
+    entretien->ajoute(accents, long5Mo, db::valeurAfficheDansLaBase(image(2)));
+    entretien->ajoute("a", util::remplace(long5Mo, "x", ".\\"), db::valeurAfficheDansLaBase(image(3)));
+    entretien->ajoute("b", "", "JPG" + util::remplace(long5Mo, "x", "../"));
+    entretien->ajoute("c", "", "JPG" + util::remplace(long5Mo, "x", ".\\"));
+    entretien->ajoute("d", "", "JPG" + long5Mo);
+    convertit(1, "3 fichiers créés.\r\n", true);
+    convertit(0, "3 fichiers inclus.");
+    EXPECT_EQ(entretien->valeurs("SELECT * FROM films WHERE Affiche LIKE 'STO*'", "Titre").size(), 3U);
+    EXPECT_TRUE(std::filesystem::is_empty(installation.dossier.chemin("Images")));
+}
+
+TEST_F(ConversionTest, AFolderOfAnotherMachineIsRefusedBeforeAnythingIsWritten) {
+    entretien->ajoute("a", "", db::valeurAfficheDansLaBase(image(1)));
+    entretien->stockage.Text4.Text = "C:\\Films\\Affiches";
+    for (const std::size_t option : {0, 1}) {
+        dialogues.attendMsgBox(
+            "Le dossier des images C:\\Films\\Affiches n'existe pas sur cet ordinateur : choisissez-en un autre !",
+            dialogues::kCritique);
+        convertit(option, "");
+    }
+    EXPECT_EQ(entretien->affiches().at(0), "STO" + image(1));
 }
 
 TEST_F(ConversionTest, AFolderThatCannotBeWrittenLeavesAllAsItWas) {
@@ -142,7 +199,7 @@ TEST_F(ConversionTest, AFolderThatCannotBeWrittenLeavesAllAsItWas) {
     EXPECT_EQ(entretien->affiches().at(0), "STO" + image(1));
 }
 
-TEST_F(ConversionTest, AFullDiskLeavesBaseAndFolderAsTheyWere) {
+TEST_F(ConversionTest, AFullDiskIsToldAndLeavesBaseAndFolderAsTheyWere) {
     entretien->ajoute("a", "", db::valeurAfficheDansLaBase(image(1)));
     entretien->ajoute("b", "", db::valeurAfficheDansLaBase(image(2, 200000)));
     entretien.reset();
@@ -152,9 +209,11 @@ TEST_F(ConversionTest, AFullDiskLeavesBaseAndFolderAsTheyWere) {
         ecran::choisit(ailleurs.stockage.Option3, 1);
         limiteLesFichiers(100000);
         ailleurs.cmdMajBase();
-        const std::string attendu = "Le fichier image " + installation.dossier.chemin("Images/b - .jpg") +
-                                    " n'a pas pu être écrit (Disque plein/Lecture seule ?)";
-        _exit(muets.textes == std::vector<std::string>{attendu} ? 0 : 1);
+        const std::vector<std::string> attendus{
+            "Le fichier image " + installation.dossier.chemin("Images/b - .jpg") +
+                " n'a pas pu être écrit (Disque plein)",
+            "La conversion a été interrompue : relancez-la pour convertir les 2 affiches restantes."};
+        _exit(muets.textes == attendus ? 0 : 1);
     });
     EXPECT_TRUE(tenu);
     EXPECT_TRUE(std::filesystem::is_empty(installation.dossier.chemin("Images")));

@@ -2,11 +2,14 @@
 #include "edit/EnregistreNouveauFilm.h"
 #include "unit/edit/BaseDEssai.h"
 
+#include <filesystem>
+
 #include <gmock/gmock.h>
 
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 struct EnregistreNouveauFilmTest : testing::Test {
     doubles::BaseDEssai essai;
@@ -76,15 +79,49 @@ TEST_F(EnregistreNouveauFilmTest, copiesAPosterIntoTheImagesFolderUnderACleanNam
     EXPECT_EQ(essai.dossier.lit("Images/Qui  Lui - AB.jpg"), "octets");
 }
 
-TEST_F(EnregistreNouveauFilmTest, namesNoPosterThatCouldNotBeCopied) {
+TEST_F(EnregistreNouveauFilmTest, namesNoPosterThatCouldNotBeRead) {
     saisis("Alien", "Ridley Scott");
-    for (const int option : {0, 1}) {
-        ecran::choisit(stockage.Option3, static_cast<std::size_t>(option));
-        stockage.Text4.Text = essai.dossier.ecrit("un fichier", "") + "/Images";  // no folder can be made there
-        const std::string image = option == 0 ? essai.dossier.chemin("absente.jpg") : essai.dossier.ecrit("a.jpg", "a");
-        EXPECT_EQ(enregistrement.EnregistreNouveauFilm(image, "", ""), edit::SortAffiche::Illisible) << option;
+    for (const std::size_t option : {0, 1}) {
+        ecran::choisit(stockage.Option3, option);
+        EXPECT_EQ(enregistrement.EnregistreNouveauFilm(essai.dossier.chemin("absente.jpg"), "", ""),
+                  edit::SortAffiche::Illisible);
     }
     EXPECT_THAT(essai.colonne("Films", "Affiche"), ElementsAre("", ""));
+}
+
+TEST_F(EnregistreNouveauFilmTest, storesNoFilmWhosePosterCannotBeWritten) {
+    ecran::choisit(stockage.Option3, 1);
+    saisis("Alien", "Ridley Scott");
+    const std::string image = essai.dossier.ecrit("a.jpg", "a"), barrage = essai.dossier.ecrit("un fichier", "");
+    for (const std::string& dossier : {barrage + "/Images", std::string("C:\\Affiches"), chemins.dossierTmp}) {
+        stockage.Text4.Text = dossier;
+        EXPECT_THROW(enregistrement.EnregistreNouveauFilm(image, "", ""), db::EchecConversion) << dossier;
+    }
+    EXPECT_THAT(essai.colonne("Films", "Affiche"), IsEmpty());
+}
+
+// What an import meets: films of one name, and a folder of images that is the folder of the sheets.
+TEST_F(EnregistreNouveauFilmTest, overwritesNoFileAndLeavesNoneOfAnAbandonedTransaction) {
+    ecran::choisit(stockage.Option3, 1);
+    essai.dossier.ecrit("Images/Alien - R.jpg", "l'image d'une autre fiche");
+    saisis("Alien", "R");
+    const std::string image = essai.dossier.ecrit("a.jpg", "a");
+    enregistrement.EnregistreNouveauFilm(image, "", "");
+    EXPECT_THAT(essai.colonne("Films", "Affiche"), ElementsAre("JPGAlien - R (2).jpg"));
+    EXPECT_NO_THROW(enregistrement.avantValidation());
+    enregistrement.apresValidation();
+
+    const edit::FilmPret pret = enregistrement.prepare(essai.dossier.ecrit("b.jpg", "b"));
+    EXPECT_EQ(essai.dossier.lit("Images/Alien - R (3).jpg"), "b");
+    enregistrement.apresAnnulation();
+    EXPECT_FALSE(essai.dossier.existe("Images/Alien - R (3).jpg"));
+    EXPECT_EQ(essai.dossier.lit("Images/Alien - R (2).jpg"), "a");
+    EXPECT_EQ(essai.dossier.lit("Images/Alien - R.jpg"), "l'image d'une autre fiche");
+
+    static_cast<void>(enregistrement.prepare(image + "x"));
+    static_cast<void>(enregistrement.prepare(essai.dossier.chemin("b.jpg")));
+    std::filesystem::remove(essai.dossier.chemin("Images/Alien - R (3).jpg"));
+    EXPECT_THROW(enregistrement.avantValidation(), db::EchecConversion) << "it never reached the disk";
 }
 
 TEST_F(EnregistreNouveauFilmTest, modifiesTheCurrentFilmAndKeepsItsPosterRatingAndDate) {

@@ -9,6 +9,7 @@
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 const std::string kDoublon = "Un film ayant le même titre et du même réalisateur existe déjà !";
 
@@ -131,17 +132,27 @@ TEST_F(cmdAjoutFilm, asksForThePosterUntilItCanBeTaken) {
     EXPECT_EQ(dossier.lit("Images/Quatrième - R.jpg").size(), 230001u);
 }
 
-TEST_F(cmdAjoutFilm, tellsOfAPosterThatCouldNotBeCopiedAndKeepsTheFilm) {
+TEST_F(cmdAjoutFilm, addsNothingWhenThePosterCannotBeStored) {
     ecran::choisit(stockage.Option3, 1);
     stockage.Text4.Text = dossier.ecrit("un fichier", "") + "/Images";
     const std::string image = dossier.ecrit("image.jpg", "octets");
     ouvreSaisie("Alien", "R");
     dialogues.attendFichier({"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", stockage.Text4.Text + "/"},
                             image);
-    attendRefus("L'image n'a pas pu être enregistrée (" + image + ") !");
+    attendRefus("Le fichier image " + stockage.Text4.Text +
+                "/Alien - R.jpg n'a pas pu être écrit (Disque plein/Lecture seule ?)");
     commande();
-    EXPECT_THAT(colonne("Films", "Affiche"), ElementsAre(""));
-    EXPECT_THAT(titres(), ElementsAre("Alien"));
+    EXPECT_THAT(colonne("Films", "Affiche"), IsEmpty());
+    EXPECT_EQ(base.personnel.RecordCount(), 0);
+    EXPECT_EQ(ajout.Text3[0].Text, "Alien") << "the page stays filled";
+
+    // A base that refuses takes the poster's file back.
+    stockage.Text4.Text = dossier.chemin("Images");
+    dao::Database autre = dao::DBEngine::OpenDatabase(chemins.base);
+    autre.BeginTrans();
+    attendChoix(image);
+    EXPECT_THROW(commande(), dao::ErreurDao);
+    EXPECT_TRUE(std::filesystem::is_empty(dossier.chemin("Images")));
 }
 
 TEST_F(cmdAjoutFilm, addsTheFilmWithItsHoldingAndShowsTheDay) {

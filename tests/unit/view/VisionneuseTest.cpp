@@ -14,14 +14,15 @@ class Visionneuse : public Fenetre {
   protected:
     view::EtatAffiche etat;
     view::Visionneuse visionneuse{etat, chemins};
-    browse::ChargeAffiche charge{fiche, chemins, images, ecranMuet, &visionneuse};
+    browse::ChargeAffiche charge{fiche, afficheTemporaire, images, ecranMuet, &visionneuse};
     browse::AfficheVolet volet{fiche, demandes, charge};
     browse::AfficheFiche affiche{
         base,           liste, fiche, panneaux, film, images, afficheTemporaire, affichePossession, modifieNoteFilm,
         afficheAccueil, volet};
     browse::TreeView1 titresDeLArbre{liste, affiche, dialogues};
     view::TouchesAffiche touches{visionneuse, liste, film, affiche, demandes};
-    view::cmdRemplacerImage_Click remplacer{base, stockage, chemins, film, images, charge, dialogues};
+    view::cmdRemplacerImage_Click remplacer{base,   stockage,          chemins, film,
+                                            images, afficheTemporaire, charge,  dialogues};
 
     void montreTitre(std::string_view titre) {
         for (int i = 1; i <= liste.TreeView1.Nodes.Count(); ++i)
@@ -209,7 +210,7 @@ class Remplacement : public Visionneuse {
         dialogues.verifie();
         EXPECT_EQ(colonne("Moi \"\"je\"\": R"), "STO" + kJpeg + "vieille") << message;
         EXPECT_EQ(dossier.lit("Tmp/ImageTMP.jpg"), kJpeg + "vieille") << message;
-        EXPECT_EQ(images.courante, chemins.afficheTmp) << "the old poster is shown again";
+        EXPECT_EQ(images.courante, kJpeg + "vieille") << "the old poster is shown again";
     }
     [[nodiscard]] std::string colonne(const std::string& realisateur) {
         return base.base.OpenRecordset("SELECT * FROM films WHERE Realisateur =\"" + realisateur + "\"")
@@ -243,6 +244,25 @@ TEST_F(Remplacement, KeepsTheNewPosterAsTheStorageSays) {
     EXPECT_EQ(colonne("L'autre"), "STO" + kJpeg + "vieille") << "the other film of that title";
 }
 
+// Its own file is the film's to replace, unless another film names it too.
+TEST_F(Remplacement, NoOtherFilmsPosterChanges) {
+    ecran::choisit(stockage.Option3, 1);
+    dossier.ecrit("Images/Moi je R - AB.jpg", "d'un autre");
+    base.base.Execute("UPDATE Films SET Affiche = 'JPGMoi je R - AB.jpg' WHERE Realisateur = 'L''autre'");
+    const auto remplace = [&](const std::string& octets) {
+        choisit(dossier.ecrit("choisie.jpg", kJpeg + octets));
+        remplacer();
+        return colonne("Moi \"\"je\"\": R");
+    };
+    EXPECT_EQ(remplace("1"), "JPGMoi je R - AB (2).jpg");
+    EXPECT_EQ(remplace("2"), "JPGMoi je R - AB (2).jpg");
+    EXPECT_EQ(dossier.lit("Images/Moi je R - AB (2).jpg"), kJpeg + "2");
+    base.base.Execute("UPDATE Films SET Affiche = 'JPGMoi je R - AB (2).jpg'");
+    EXPECT_EQ(remplace("3"), "JPGMoi je R - AB.jpg") << "the first name is free again";
+    EXPECT_EQ(dossier.lit("Images/Moi je R - AB (2).jpg"), kJpeg + "2");
+    EXPECT_EQ(dossier.lit("Images/Moi je R - AB.jpg"), kJpeg + "3");
+}
+
 TEST_F(Remplacement, ARefusedOneLeavesEverythingAsItWas) {
     choisit("");
     remplacer();
@@ -260,8 +280,8 @@ TEST_F(Remplacement, ARefusedOneLeavesEverythingAsItWas) {
 
     ecran::choisit(stockage.Option3, 1);
     dossier.ecrit("Images", "a file where the folder should be");
-    refuse(dossier.ecrit("bonne.jpg", kJpeg),
-           "L'image n'a pas pu être enregistrée (" + dossier.chemin("Images/Moi je R - AB.jpg") + ") !");
+    refuse(dossier.ecrit("bonne.jpg", kJpeg), "Le fichier image " + dossier.chemin("Images/Moi je R - AB.jpg") +
+                                                  " n'a pas pu être écrit (Disque plein/Lecture seule ?)");
     base.base.Execute("DELETE FROM Films WHERE Realisateur LIKE 'Moi%'");
     choisit(dossier.chemin("bonne.jpg"));
     dialogues.attendMsgBox("Film non trouvé !", dialogues::kExclamation);

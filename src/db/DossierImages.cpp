@@ -1,0 +1,67 @@
+#include "db/DossierImages.h"
+
+#include "platform/fichiers/Fichiers.h"
+#include "util/NomsFichiers.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace db {
+
+namespace {
+
+constexpr std::size_t kCheminMax = 4096;  // bytes; the system's own limit
+
+bool estDeWindows(const std::string& chemin) {
+    const bool lecteur =
+        chemin.size() > 1 && chemin[1] == ':' && std::isalpha(static_cast<unsigned char>(chemin[0])) != 0;
+    return lecteur || chemin.starts_with('\\');
+}
+
+std::optional<std::string> resoutDeWindows(const std::string& chemin, const Chemins& chemins) {
+    if (auto sous = fichiers::trouveParLaFin(chemins.dossier, chemin, fichiers::dossierExiste)) return sous;
+    return fichiers::trouveParLaFin(fichiers::dossierDe(fichiers::absolu(chemins.base)), chemin,
+                                    fichiers::dossierExiste);
+}
+
+// What stands there under the name as written is that folder; what does not stand there yet has only our separators.
+std::string avecNosSeparateurs(std::string chemin) {
+    if (chemin.find('\\') == std::string::npos || fichiers::dossierExiste(chemin)) return chemin;
+    std::replace(chemin.begin(), chemin.end(), '\\', '/');
+    return chemin;
+}
+
+// The folder's path from the root; nothing for what leads nowhere on this machine.
+std::optional<std::string> resout(const std::string& texte, const Chemins& chemins) {
+    const bool impossible =
+        texte.size() >= kCheminMax || texte.find('\0') != std::string::npos || texte.find("://") != std::string::npos;
+    if (impossible) return std::nullopt;
+    const std::string chemin = fichiers::sansTilde(texte);
+    if (estDeWindows(chemin)) return resoutDeWindows(chemin, chemins);
+    return fichiers::absolu(avecNosSeparateurs(chemin.starts_with('/') ? chemin : chemins.dossier + chemin));
+}
+
+}  // namespace
+
+std::optional<std::string> refusDossierImages(EtatStockage& etat, const Chemins& chemins) {
+    if (etat.Text4.Text.empty()) etat.Text4.Text = chemins.dansDossier("Images");
+    const auto resolu = resout(etat.Text4.Text, chemins);
+    if (!resolu)
+        return "Le dossier des images " + etat.Text4.Text.substr(0, kCheminMax) +
+               " n'existe pas sur cet ordinateur : choisissez-en un autre !";
+    if (auto refus = refusDansTmp(*resolu, chemins)) return refus;
+    etat.Text4.Text = *resolu;
+    return std::nullopt;
+}
+
+std::string dossierImages(EtatStockage& etat, const Chemins& chemins) {
+    return refusDossierImages(etat, chemins) ? "" : util::avecSeparateur(etat.Text4.Text);
+}
+
+std::optional<std::string> refusDansTmp(const std::string& dossier, const Chemins& chemins) {
+    if (!fichiers::estDans(dossier, chemins.dossierTmp)) return std::nullopt;
+    return "Le dossier des images ne peut pas être " + dossier +
+           " : Ambrelis efface ce que contient « Tmp » chaque fois qu'il se ferme.";
+}
+
+}  // namespace db
