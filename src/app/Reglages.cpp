@@ -37,8 +37,8 @@ Lignes premieresLignes(std::string_view octets) {
 
 bool estAbsolu(std::string_view chemin) {
     const bool lecteur = chemin.size() > 1 && chemin[1] == ':' && std::isalpha(static_cast<unsigned char>(chemin[0]));
-    const bool maison = chemin == "~" || chemin.starts_with("~/");
-    return lecteur || maison || chemin[0] == '/' || chemin[0] == '\\' || chemin.find("://") != std::string_view::npos;
+    return lecteur || chemin[0] == '/' || chemin[0] == '~' || chemin[0] == '\\' ||
+           chemin.find("://") != std::string_view::npos;
 }
 
 std::string litChemin(std::string_view ligne, const std::string& dossier) {

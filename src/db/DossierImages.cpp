@@ -1,5 +1,6 @@
 #include "db/DossierImages.h"
 
+#include "platform/fichiers/CheminTape.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/NomsFichiers.h"
 
@@ -36,9 +37,8 @@ std::optional<std::string> resout(const std::string& texte, const Chemins& chemi
     const bool impossible =
         texte.size() >= kCheminMax || texte.find('\0') != std::string::npos || texte.find("://") != std::string::npos;
     if (impossible) return std::nullopt;
-    const std::string chemin = fichiers::sansTilde(texte);
-    if (estDeWindows(chemin)) return resoutDeWindows(chemin, chemins);
-    return fichiers::absolu(avecNosSeparateurs(chemin.starts_with('/') ? chemin : chemins.dossier + chemin));
+    if (estDeWindows(texte)) return resoutDeWindows(texte, chemins);
+    return fichiers::absolu(avecNosSeparateurs(fichiers::cheminTape(texte, chemins.dossier)));
 }
 
 }  // namespace

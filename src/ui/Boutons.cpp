@@ -14,6 +14,16 @@
 
 namespace ui {
 
+namespace {
+
+// Of a text of megabytes, no more is measured than a line could ever show.
+QString debut(const QString& texte) {
+    constexpr qsizetype kParLigne = 2000;  // characters
+    return texte.left(kParLigne);
+}
+
+}  // namespace
+
 void BoutonAccent::paintEvent(QPaintEvent*) {
     QStylePainter peintre(this);
     QStyleOptionButton option;
@@ -61,7 +71,7 @@ BoutonLien::BoutonLien(const QString& texte, QWidget* parent) : QAbstractButton(
 }
 
 QSize BoutonLien::sizeHint() const {
-    const QSize texteSeul = fontMetrics().size(Qt::TextShowMnemonic, text());
+    const QSize texteSeul = fontMetrics().size(Qt::TextShowMnemonic, debut(text()));
     const int place = icon().isNull() ? 0 : iconSize().width() + 6;
     return {texteSeul.width() + place + 2, std::max(texteSeul.height(), icon().isNull() ? 0 : iconSize().height()) + 6};
 }
@@ -82,7 +92,8 @@ void BoutonLien::paintEvent(QPaintEvent*) {
     police.setUnderline(isEnabled() && (underMouse() || hasFocus()));
     peintre.setFont(police);
     peintre.setPen(isEnabled() ? accentLisible(palette()) : palette().color(QPalette::Disabled, QPalette::WindowText));
-    const QString visible = fontMetrics().elidedText(text(), Qt::ElideRight, zone.width() + 1, Qt::TextShowMnemonic);
+    const QString visible =
+        fontMetrics().elidedText(debut(text()), Qt::ElideRight, zone.width() + 1, Qt::TextShowMnemonic);
     peintre.drawText(zone, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, visible);
     if (hasFocus()) peintre.fillRect(QRect(0, height() - 2, width(), 2), accentLisible(palette()));
 }

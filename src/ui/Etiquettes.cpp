@@ -46,10 +46,16 @@ Etiquette* Etiquette::avecPolice(double facteur, QFont::Weight graisse) {
     return this;
 }
 
+// Of a text of megabytes, no more is measured than so many lines could ever show.
+QString Etiquette::debut(const QString& texte) const {
+    constexpr qsizetype kParLigne = 2000;  // characters
+    return texte.left(kParLigne * (m_lignesMax + 1));
+}
+
 Etiquette::Lignes Etiquette::lignes(int largeur) const {
     Lignes resultat;
     const QFontMetricsF mesure(font());
-    for (const QString& paragraphe : text().split(QLatin1Char('\n'))) {
+    for (const QString& paragraphe : debut(text()).split(QLatin1Char('\n'))) {
         QTextLayout mise(paragraphe, font());
         mise.beginLayout();
         for (QTextLine ligne = mise.createLine(); ligne.isValid(); ligne = mise.createLine()) {
@@ -83,7 +89,7 @@ int Etiquette::hauteur(qsizetype nombre) const {
 
 QSize Etiquette::sizeHint() const {
     int largeur = 0;
-    const QStringList paragraphes = text().split(QLatin1Char('\n'));
+    const QStringList paragraphes = debut(text()).split(QLatin1Char('\n'));
     for (const QString& paragraphe : paragraphes)
         largeur = std::max(largeur, fontMetrics().horizontalAdvance(paragraphe) + 1);
     if (m_lignesMax > 1) largeur = std::min(largeur, fontMetrics().averageCharWidth() * 60);

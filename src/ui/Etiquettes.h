@@ -31,6 +31,7 @@ class Etiquette : public QLabel {
         QStringList textes;
         bool coupees = false;
     };
+    [[nodiscard]] QString debut(const QString& texte) const;
     [[nodiscard]] Lignes lignes(int largeur) const;
     [[nodiscard]] int interligne() const;
     [[nodiscard]] int hauteur(qsizetype lignes) const;

@@ -20,7 +20,8 @@ namespace ui {
 namespace {
 
 constexpr int kCoteBouton = 26, kCoteIcone = 18;
-constexpr int kPasMolette = 90;  // logical pixels for one notch
+constexpr int kPasMolette = 90;       // logical pixels for one notch
+constexpr qsizetype kTitreMax = 500;  // characters; the system takes no title of megabytes
 
 constexpr int pixels(int twips) {
     return twips / view::kTwipsParPixel;
@@ -82,7 +83,7 @@ void FenetreAffiche::lit() {
 
 void FenetreAffiche::ecrit() {
     const std::string& titre = m_atelier.etats().fiche.captionAffiche;
-    if (titre != m_titre) setWindowTitle(QString::fromStdString(m_titre = titre));
+    if (titre != m_titre) setWindowTitle(QString::fromStdString(m_titre = titre).left(kTitreMax));
     if (!etat().Visible) return;
     if (!m_image) compose();
     const bool nouvelle = m_numero != etat().Picture1.numero;

@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kFermer = 3;  // after the three files
 constexpr int kLargeur = 380;
+constexpr qsizetype kTitreMax = 500;  // characters; the system takes no title of megabytes
 
 // The button keeps its width: a long name loses its middle there, and is whole in the tip.
 QString abrege(QString nom, const QWidget& bouton) {
@@ -59,7 +60,7 @@ QPushButton* FenetreFichiers::boutonFichier(std::size_t indice) {
 
 void FenetreFichiers::suisLeFilm() {
     const browse::EtatFiche& fiche = m_atelier.etats().fiche;
-    setWindowTitle(QString::fromStdString(fiche.captionFichiers));
+    setWindowTitle(QString::fromStdString(fiche.captionFichiers).left(kTitreMax));
     for (std::size_t i = 0; i < m_fichiers.size(); ++i) {
         m_fichiers[i]->setToolTip(QString::fromStdString(fiche.cheminsFichiers[i]).toHtmlEscaped());
         m_fichiers[i]->setText(abrege(QString::fromStdString(fiche.Command1[i].Caption), *m_fichiers[i]));

@@ -8,7 +8,8 @@
 namespace ui {
 
 QString enInfobulle(const QString& texte) {
-    return Qt::convertFromPlainText(texte, Qt::WhiteSpaceNormal);
+    constexpr qsizetype kLuAuPassage = 4000;  // characters; laying out megabytes would hold the window
+    return Qt::convertFromPlainText(texte.left(kLuAuPassage), Qt::WhiteSpaceNormal);
 }
 
 InfobulleEntiere::InfobulleEntiere(QLineEdit* zone) : QObject(zone), m_zone(zone) {

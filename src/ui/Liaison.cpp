@@ -12,6 +12,8 @@
 #include <QSignalBlocker>
 #include <QTextBlockFormat>
 #include <QTextEdit>
+#include <QTextOption>
+#include <algorithm>
 
 namespace ui {
 
@@ -77,8 +79,20 @@ void montre(const ecran::ZoneTexte& etat, const ecran::ZoneTexte& ancien, TexteL
     montreTexte(etat, ancien, widget, &TexteLong::texte, &TexteLong::metTexte, temoin);
 }
 
+// A word that fills many lines is looked through again for each of them, unless it may break anywhere.
+QTextOption::WrapMode coupurePour(const std::string& texte) {
+    constexpr std::size_t kMotSansFin = 2000;  // bytes
+    for (std::size_t debut = 0, fin = 0; fin < texte.size(); debut = fin + 1) {
+        fin = std::min(texte.find_first_of(" \n\t", debut), texte.size());
+        if (fin - debut > kMotSansFin) return QTextOption::WrapAnywhere;
+    }
+    return QTextOption::WrapAtWordBoundaryOrAnywhere;
+}
+
 void montre(const ecran::ZoneTexte& etat, const ecran::ZoneTexte& ancien, QTextEdit& widget, Temoin&) {
     if (etat.Text == ancien.Text) return;
+    widget.clear();
+    widget.setWordWrapMode(coupurePour(etat.Text));
     widget.setPlainText(qt(etat.Text));
     QTextCursor curseur(widget.document());
     curseur.select(QTextCursor::Document);

@@ -3,6 +3,7 @@
 #include "platform/fichiers/CheminTape.h"
 #include "platform/fichiers/Fichiers.h"
 #include "platform/systeme/LigneDeCommande.h"
+#include "util/Texte.h"
 #include "view/ChercheFichier.h"
 #include "view/EchecLancement.h"
 
@@ -11,6 +12,13 @@ namespace view {
 namespace {
 
 constexpr int kFermer = 3;
+
+// What a box can show of a stored path.
+std::string montrable(const std::string& fichier) {
+    constexpr std::size_t kCheminMax = 4096;  // bytes; the system's own limit
+    return fichier.size() <= kCheminMax ? fichier
+                                        : util::coupe(std::string_view(fichier).substr(0, kCheminMax), 1000) + "…";
+}
 
 // The words of a program of the table: a whole path, blanks included, where there is such a file; else a command line.
 std::vector<std::string> motsDe(const std::string& logiciel) {
@@ -33,7 +41,7 @@ void Command1_Click::operator()(int indice) {
 void Command1_Click::ouvre(const std::string& fichier) {
     const std::string logiciel = m_extensions.logiciel(fichiers::extension(fichier));
     const auto chemin = chercheFichier(fichiers::cheminTape(fichier, ""), m_volumes.liste());
-    if (!chemin) return refuse("Le fichier " + fichier + " n'a pas été trouvé !");
+    if (!chemin) return refuse("Le fichier " + montrable(fichier) + " n'a pas été trouvé !");
     if (logiciel == kLogicielParDefaut)
         m_lanceFichier("\"" + *chemin + "\"", false, "open", "", "", "2", false);
     else

@@ -1,7 +1,6 @@
 #include "platform/fichiers/Fichiers.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 
 namespace fichiers {
@@ -31,12 +30,6 @@ bool estDans(const std::string& chemin, const std::string& dossier) {
     const fs::path dedans = reel(chemin), autour = reel(dossier);
     return !autour.empty() &&
            std::mismatch(autour.begin(), autour.end(), dedans.begin(), dedans.end()).first == autour.end();
-}
-
-std::string sansTilde(const std::string& chemin) {
-    const char* maison = std::getenv("HOME");
-    if (!maison || (chemin != "~" && !chemin.starts_with("~/"))) return chemin;
-    return maison + chemin.substr(1);
 }
 
 std::string absolu(const std::string& chemin) {

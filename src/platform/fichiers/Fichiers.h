@@ -88,8 +88,6 @@ int supprimeSelonMotif(const std::string& dossier, std::string_view motif);
 // ends with a separator. A drive and what leads out of the folder count for nothing.
 [[nodiscard]] std::optional<std::string> trouveParLaFin(const std::string& racine, std::string_view chemin,
                                                         bool (*convient)(const std::string&));
-// "~" and "~/…" from the user's own folder; any other path as it is.
-[[nodiscard]] std::string sansTilde(const std::string& chemin);
 // The whole path, from the root, of a name that the current folder may complete.
 [[nodiscard]] std::string absolu(const std::string& chemin);
 // Pieces of a path, both separators understood.

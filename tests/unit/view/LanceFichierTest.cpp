@@ -172,6 +172,16 @@ TEST_F(FichiersDuFilm, WhatIsNowhereOrOnASilentVolumeOrAFolderIsNotFound) {
     EXPECT_TRUE(documents.fichiers.empty() && programmes.lances.empty());
 }
 
+TEST_F(FichiersDuFilm, APathOfMegabytesIsLookedForNowhereAndShortenedInItsMessage) {
+    std::string debut;
+    for (int i = 0; i < 333; ++i)
+        debut += "..\\";
+    while (film.fichiers[0].size() < 5'000'000)
+        film.fichiers[0] += "..\\";
+    boites.attendMsgBox("Le fichier " + debut + ".… n'a pas été trouvé !", dialogues::kCritique);
+    clique(0);
+}
+
 TEST_F(FichiersDuFilm, OpenWithTheProgramOfTheirExtension) {
     const std::string nom = "L'œuvre \"$(id)\" --x.avi", film1 = dossier.ecrit("usb/" + nom, "film");
     const std::string mkv = dossier.ecrit("usb/-x.mkv", "film"), vob = dossier.ecrit("usb/a.vob", "film");
