@@ -216,10 +216,10 @@ TEST_F(AncienneBaseTest, PutsThePostersInTheFolderOfNewOnes) {
          film("Ded:ans", dao::Valeur::octets("STOd")), film("Prise", dao::Valeur::octets("STOp")),
          film("Entame", dao::Valeur::octets("STOentame")), film("Bloquée", "JPGgrande.JPG"), film("Sans", "JPG")},
         {});
-    importe("8 films ajoutés.\n1 image non trouvée.\n1 image trop grande pour la base.");
+    importe("8 films ajoutés.\n1 image non trouvée.");
     EXPECT_THAT(essai.colonne("Films", "Affiche"),
-                ElementsAre("JPGÉté - R.jpg", "JPGGrande - R.jpg", "JPGDedans - R.jpg", "JPGDedans - R.jpg", "STOp",
-                            "JPGEntame - R.jpg", "JPGgrande.JPG", "JPG"));
+                ElementsAre("JPGÉté - R.jpg", "JPGGrande - R.jpg", "JPGDedans - R.jpg", "JPGDedans - R.jpg",
+                            "JPGPrise - R (2).jpg", "JPGEntame - R.jpg", "JPGBloquée - R (2).jpg", "JPG"));
     EXPECT_EQ(image("Été - R.jpg") + image("Dedans - R.jpg") + image("Prise - R.jpg") + image("Entame - R.jpg"),
               "image d'étédune autre imageentame");
     EXPECT_EQ(image("Grande - R.jpg").size(), 230001u);

@@ -222,7 +222,7 @@ TEST_F(ImportTest, aPosterThatCannotBeWrittenEndsIt) {
     {
         const DisquePlein disque(1 << 20);
         importeEtEchoue(
-            "Le fichier image " + images + "/Film F0010 - R.jpg n'a pas pu être écrit (Disque plein/Lecture seule ?)",
+            "Le fichier image " + images + "/Film F0010 - R.jpg n'a pas pu être écrit (Disque plein)",
             "10 films ajoutés.\nL'import a été interrompu : relancez-le pour ajouter les 10 fiches qui restent.");
     }
     EXPECT_FALSE(std::filesystem::exists(images + "/Film F0010 - R.jpg"));
