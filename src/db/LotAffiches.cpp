@@ -44,7 +44,7 @@ bool LotAffiches::poseSous(const std::string& nom, std::string_view octets, std:
         if (libre) ++connu.nommes[cle];
         return libre;
     }
-    if (!poseSurUnAutre(nom, octets, remplacable, libre)) return false;
+    if (!poseSurUnAutre(nom, octets, remplacable, connu.nommes[cle] == 0)) return false;
     ++connu.nommes[cle];
     return true;
 }
@@ -61,14 +61,16 @@ bool LotAffiches::cree(const std::string& nom, std::string_view octets) {
     return true;
 }
 
-// The beginning of these very bytes is what work that was cut off has left.
-bool LotAffiches::poseSurUnAutre(const std::string& nom, std::string_view octets, bool remplacable, bool libre) {
+// The beginning of these very bytes, without a film, is what work that was cut off has left: it is begun again, and not
+// replaced, so that cut off once more it leaves nothing else.
+bool LotAffiches::poseSurUnAutre(const std::string& nom, std::string_view octets, bool remplacable, bool sansFilm) {
     const auto place = fichiers::situeDans(m_dossier, nom);
     if (!place) return false;
     const auto present = fichiers::litSansLien(place->chemin, static_cast<std::int64_t>(octets.size()));
-    const bool reste = present && octets.starts_with(*present);
-    if (!reste || present->size() != octets.size()) {
-        if (!remplacable && !(libre && reste)) return false;
+    if (present != octets) {
+        if (sansFilm && present && octets.starts_with(*present))
+            return fichiers::supprime(place->chemin) && cree(nom, octets);
+        if (!remplacable) return false;
         if (!fichiers::remplace(place->chemin, octets)) throw EchecConversion{texteEchecFichier(place->chemin)};
     }
     m_aSynchroniser.push_back(place->chemin);

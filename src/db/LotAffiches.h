@@ -49,7 +49,7 @@ class LotAffiches {
         std::unordered_map<std::string, int> suites;  // by unnumbered name, the last number given
     };
     [[nodiscard]] bool poseSous(const std::string& nom, std::string_view octets, std::string_view actuelle);
-    [[nodiscard]] bool poseSurUnAutre(const std::string& nom, std::string_view octets, bool remplacable, bool libre);
+    [[nodiscard]] bool poseSurUnAutre(const std::string& nom, std::string_view octets, bool remplacable, bool sansFilm);
     [[nodiscard]] bool cree(const std::string& nom, std::string_view octets);
     [[nodiscard]] Connaissance& connaissance();
     void releveNommes(Connaissance& connu);
