@@ -7,7 +7,7 @@ void LotImport::commence() {
     m_transaction.emplace(m_base);
     m_fiches = 0;
     m_octets = 0;
-    m_debut = std::chrono::steady_clock::now();
+    m_debut = m_montre();
 }
 
 void LotImport::compteFiche(std::size_t octets) {
@@ -16,8 +16,7 @@ void LotImport::compteFiche(std::size_t octets) {
 }
 
 bool LotImport::estPlein() const {
-    return m_transaction &&
-           (m_fiches >= kFiches || m_octets >= kOctets || std::chrono::steady_clock::now() - m_debut >= kDuree);
+    return m_transaction && (m_fiches >= kFiches || m_octets >= kOctets || m_montre() - m_debut >= kDuree);
 }
 
 void LotImport::confirme() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/dao/Database.h"
+#include "platform/systeme/Montre.h"
 
 #include <chrono>
 #include <cstddef>
@@ -16,7 +17,7 @@ class LotImport {
     static constexpr std::size_t kOctets = 32 << 20;
     static constexpr std::chrono::milliseconds kDuree{3000};
 
-    explicit LotImport(dao::Database& base) : m_base(base) {}
+    LotImport(dao::Database& base, const systeme::Montre& montre) : m_base(base), m_montre(montre) {}
 
     void commence();  // nothing while it is open
     void compteFiche(std::size_t octets);
@@ -26,6 +27,7 @@ class LotImport {
 
   private:
     dao::Database& m_base;
+    systeme::Montre m_montre;
     std::optional<dao::Transaction> m_transaction;
     int m_fiches = 0;
     std::size_t m_octets = 0;

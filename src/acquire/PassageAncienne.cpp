@@ -53,7 +53,7 @@ PassageAncienne::PassageAncienne(const OutilsAncienne& outils, dao::Database& an
       m_films(ancienne.OpenRecordset("SELECT * FROM Films ;")),
       m_possessions(ancienne.OpenRecordset("SELECT * FROM Personnel ;")),
       m_dossierImages(std::move(dossierImages)),
-      m_lot(outils.base.base),
+      m_lot(outils.base.base, outils.montre),
       m_affiches(outils.base.base, outils.stockage, outils.chemins) {
     exigeChamps(m_films, kChampsFilms);
     exigeChamps(m_films, {&kAffiche, 1});

@@ -9,7 +9,9 @@
 #include "edit/EtatAjout.h"
 #include "platform/dialogues/Dialogues.h"
 #include "platform/ecran/Ecran.h"
+#include "platform/systeme/Montre.h"
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,6 +28,7 @@ struct OutilsAncienne {
     db::EtatStockage& stockage;
     dialogues::Dialogues& dialogues;
     ecran::Ecran& ecran;
+    systeme::Montre montre = std::chrono::steady_clock::now;
 };
 
 // One passage over the base of a previous installation: adds the films and holdings that the open base does not have,

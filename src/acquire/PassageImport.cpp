@@ -22,7 +22,7 @@ PassageImport::PassageImport(const OutilsImport& outils, const ChoixImport& choi
     : m_outils(outils),
       m_choix(choix),
       m_dossier(dossier),
-      m_lot(outils.base.base),
+      m_lot(outils.base.base, outils.montre),
       m_affiches(outils.base.base, outils.stockage, outils.chemins) {}
 
 RapportImport PassageImport::execute() {
@@ -164,12 +164,12 @@ void PassageImport::confirmeLot() {
 }
 
 bool PassageImport::doitRespirer() const {
-    return std::chrono::steady_clock::now() - m_dernierSouffle >= kEntreDeuxSouffles;
+    return m_outils.montre() - m_dernierSouffle >= kEntreDeuxSouffles;
 }
 
 bool PassageImport::respire() {
     const bool continuer = m_outils.ecran.respire();
-    m_dernierSouffle = std::chrono::steady_clock::now();
+    m_dernierSouffle = m_outils.montre();
     return continuer;
 }
 

@@ -14,6 +14,7 @@
 #include "edit/TitreDejaExistant_TestRessemblance.h"
 #include "platform/dialogues/Dialogues.h"
 #include "platform/ecran/Ecran.h"
+#include "platform/systeme/Montre.h"
 
 #include <chrono>
 #include <cstddef>
@@ -33,6 +34,7 @@ struct OutilsImport {
     edit::Ressemblances& ressemblances;
     dialogues::Dialogues& dialogues;
     ecran::Ecran& ecran;
+    systeme::Montre montre = std::chrono::steady_clock::now;
 };
 
 // What the user answered before the import.

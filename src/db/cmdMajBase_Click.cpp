@@ -4,13 +4,10 @@
 #include "platform/fichiers/Fichiers.h"
 
 #include <algorithm>
-#include <chrono>
 
 namespace db {
 
 namespace {
-
-using Instant = std::chrono::steady_clock;
 
 // Of one transaction: a few dozen megabytes of pictures.
 constexpr long kFilmsParLot = 1000;
@@ -86,9 +83,9 @@ bool cmdMajBase_Click::convertitLot(SensConversion& sens, dao::Recordset& films,
 
 // A film that someone else deleted meanwhile is passed over.
 bool cmdMajBase_Click::convertitFilms(SensConversion& sens, dao::Recordset& films, RapportConversion& lot) {
-    const Instant::time_point fin = Instant::now() + kDureeDUnLot;
+    const auto fin = m_outils.montre() + kDureeDUnLot;
     bool continuer = true;
-    for (long rang = 0; continuer && !films.Eof() && rang < kFilmsParLot && Instant::now() < fin; ++rang) {
+    for (long rang = 0; continuer && !films.Eof() && rang < kFilmsParLot && m_outils.montre() < fin; ++rang) {
         try {
             lot += sens.convertit(films);
         } catch (const dao::ErreurDao& erreur) {

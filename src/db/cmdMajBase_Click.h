@@ -9,7 +9,9 @@
 #include "platform/dialogues/Dialogues.h"
 #include "platform/ecran/Controles.h"
 #include "platform/ecran/Ecran.h"
+#include "platform/systeme/Montre.h"
 
+#include <chrono>
 #include <memory>
 #include <optional>
 #include <string>
@@ -24,6 +26,7 @@ struct OutilsConversion {
     ecran::Progression& progression;
     ecran::Ecran& ecran;
     dialogues::Dialogues& dialogues;
+    systeme::Montre montre = std::chrono::steady_clock::now;
 };
 
 // Brings every poster to the storage chosen for new ones. Stopped or killed anywhere, each film still has its poster,

@@ -2,12 +2,6 @@
 
 namespace edit {
 
-namespace {
-
-using Instant = std::chrono::steady_clock;
-
-}  // namespace
-
 TravailParLots::TravailParLots(const OutilsTravail& outils, db::NumeroErreur numero, long total)
     : m_outils(outils), m_numero(numero), m_travail(std::in_place, outils.ecran) {
     m_outils.progression.Max = total;
@@ -39,14 +33,14 @@ bool TravailParLots::execute(long nombre, const Etape& etape) {
 // Answers the step that comes after the lot.
 long TravailParLots::executeLot(long debut, long nombre, const Etape& etape) {
     dao::Transaction lot(m_outils.base);
-    const Instant::time_point fin = Instant::now() + kDuree;
+    const auto fin = m_outils.montre() + kDuree;
     long rang = debut, faits = 0;
     do {
         const Pas pas = executePas(rang++, etape);
         faits += pas.faits;
         ++m_outils.progression.Value;
         m_fini = pas.dernier || !m_outils.ecran.respire();
-    } while (!m_fini && rang < nombre && rang - debut < kPas && Instant::now() < fin);
+    } while (!m_fini && rang < nombre && rang - debut < kPas && m_outils.montre() < fin);
     lot.confirme();
     m_faits += faits;
     return rang;

@@ -5,6 +5,7 @@
 #include "platform/dialogues/Dialogues.h"
 #include "platform/ecran/Controles.h"
 #include "platform/ecran/Ecran.h"
+#include "platform/systeme/Montre.h"
 
 #include <chrono>
 #include <functional>
@@ -19,6 +20,7 @@ struct OutilsTravail {
     ecran::Ecran& ecran;
     ecran::Progression& progression;
     dialogues::Dialogues& dialogues;
+    systeme::Montre montre = std::chrono::steady_clock::now;
 };
 
 // Work over many films, step by step: stored in lots, each one transaction bounded in steps and in time; the screen

@@ -3,6 +3,7 @@
 #include "doubles/CollectionJet.h"
 #include "doubles/DialoguesScript.h"
 #include "doubles/EcranMuet.h"
+#include "doubles/MontreFixe.h"
 #include "doubles/Mort.h"
 #include "parcours/Photo.h"
 #include "unit/db/RafraichissementNote.h"
@@ -35,11 +36,13 @@ struct AncienneBaseTest : testing::Test {
     doubles::DossierTemporaire ancienne;
     doubles::DialoguesScript dialogues;
     doubles::EcranMuet ecran;
+    doubles::MontreFixe montre;
     RafraichissementNote rafraichissement;
     edit::EtatAjout ajout;
     db::EtatStockage stockage;
     db::Chemins chemins = db::Chemins::depuis(essai.dossier.chemin());
-    acquire::ImportAncienneBase import{{essai.base, chemins, ajout, stockage, dialogues, ecran}, rafraichissement};
+    acquire::ImportAncienneBase import{{essai.base, chemins, ajout, stockage, dialogues, ecran, montre.montre()},
+                                       rafraichissement};
     std::string initial;  // folder that the box opens in
     std::string images = ancienne.chemin(kImages);
 

@@ -4,6 +4,7 @@
 #include "doubles/DialoguesScript.h"
 #include "doubles/EcranMuet.h"
 #include "doubles/HorlogeFixe.h"
+#include "doubles/MontreFixe.h"
 #include "unit/edit/BaseDEssai.h"
 
 #include <string>
@@ -22,6 +23,7 @@ struct ImportDEssai : testing::Test {
     DialoguesScript dialogues;
     EcranMuet ecran;
     HorlogeFixe horloge;
+    MontreFixe montre;
     edit::EtatAjout ajout;
     db::EtatStockage stockage;
     db::Chemins chemins = db::Chemins::depuis(essai.dossier.chemin());
@@ -36,10 +38,10 @@ struct ImportDEssai : testing::Test {
     edit::Doublons doublons{essai.base, dialogues};
     edit::Ressemblances ressemblances{essai.base, dialogues};
     edit::BoitesDeroulantes boites{essai.base, fiche, dialogues};
-    acquire::ImportFiches import{
-        {essai.base, chemins, ajout, stockage, enregistrement, doublons, ressemblances, dialogues, ecran},
-        {liste, creeEtAfficheRecherche, afficheNbTitres, boites},
-        horloge};
+    acquire::ImportFiches import{{essai.base, chemins, ajout, stockage, enregistrement, doublons, ressemblances,
+                                  dialogues, ecran, montre.montre()},
+                                 {liste, creeEtAfficheRecherche, afficheNbTitres, boites},
+                                 horloge};
 
     ImportDEssai() {
         for (const char* zone : {"Mes films", "Tous", "2", "3", "4", "5"})

@@ -280,6 +280,18 @@ TEST_F(ImportTest, showsItsProgressAndLeavesWhatWasAddedWhenStopped) {
     EXPECT_EQ(nombre("Personnel"), 300u);
 }
 
+TEST_F(ImportTest, storesWhatTookALotsTimeHoweverFewTheSheets) {
+    ecritFiches(4);
+    dao::Database autre = dao::DBEngine::OpenDatabase(essai.dossier.chemin("Films.mdb"));
+    std::vector<long> lus;  // by another program
+    ecran.pendantSouffle = [&] {
+        lus.push_back(autre.OpenRecordset("Films").RecordCount());
+        montre.avance(acquire::LotImport::kDuree);
+    };
+    importe(4, "4 films ajoutés.");
+    EXPECT_THAT(lus, ElementsAre(0, 2));
+}
+
 TEST_F(ImportTest, toldOfTheBasesFailureReportsWhatIsStored) {
     ecritFiches(acquire::LotImport::kFiches + 20);
     // After the first lot, another program holds the base.

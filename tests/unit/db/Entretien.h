@@ -6,6 +6,7 @@
 #include "db/cmdMajBase_Click.h"
 #include "doubles/DialoguesScript.h"
 #include "doubles/EcranMuet.h"
+#include "doubles/MontreFixe.h"
 
 #include <csignal>
 #include <cstdint>
@@ -42,6 +43,7 @@ struct Entretien {
     Installation& installation;
     dialogues::Dialogues& dialogues;
     doubles::EcranMuet ecranMuet;
+    doubles::MontreFixe montre;
     ecran::Progression progression;
     RafraichissementNote rafraichissement;
     db::EtatStockage stockage;
@@ -49,7 +51,9 @@ struct Entretien {
     db::OuvertureBase ouvertureBase{base, installation.chemins, dialogues};
     db::cmdCompacter_Click cmdCompacter{base, installation.chemins, ouvertureBase, rafraichissement, dialogues};
     db::cmdMajBase_Click cmdMajBase{
-        {base, installation.chemins, stockage, progression, ecranMuet, dialogues}, cmdCompacter, rafraichissement};
+        {base, installation.chemins, stockage, progression, ecranMuet, dialogues, montre.montre()},
+        cmdCompacter,
+        rafraichissement};
 
     void ajoute(const std::string& titre, const std::string& realisateur, const dao::Valeur& affiche) {
         base.films.AddNew();

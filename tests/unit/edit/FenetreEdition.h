@@ -1,5 +1,6 @@
 #pragma once
 
+#include "doubles/MontreFixe.h"
 #include "edit/SuitesModification.h"
 #include "edit/TravailParLots.h"
 #include "unit/browse/Fenetre.h"
@@ -11,10 +12,13 @@
 class FenetreEdition : public Fenetre {
   protected:
     ecran::Progression progression;
+    doubles::MontreFixe horloge;
     edit::BoitesDeroulantes boites{base, fiche, dialogues};
     edit::SuitesModification suites{affichageApresModification, selectionneTitre, afficheNbTitres, boites};
 
-    [[nodiscard]] edit::OutilsTravail outils() { return {base.base, ecranMuet, progression, dialogues}; }
+    [[nodiscard]] edit::OutilsTravail outils() {
+        return {base.base, ecranMuet, progression, dialogues, horloge.montre()};
+    }
     std::vector<std::string> colonne(const std::string& source, const char* champ) {
         std::vector<std::string> valeurs;
         for (dao::Recordset lignes = base.base.OpenRecordset(source); !lignes.Eof(); lignes.MoveNext())

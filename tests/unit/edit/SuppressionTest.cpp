@@ -219,6 +219,17 @@ TEST_F(SuppressionTest, AStopKeepsWhatWasDeletedAndAFailureDeletesNothing) {
     dialogues.attendMsgBox("0 titre supprimé.", 64);
     multi.cmdSupprTitresSelect_Click();
     EXPECT_THAT(titresDesFilms(), ElementsAre("Casino", "Zorro"));
+
+    // What took a lot's time is stored before what follows.
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    coche({"Casino", "Zorro"});
+    ecranMuet.pendantSouffle = [this] { horloge.avance(edit::TravailParLots::kDuree); };
+    dialogues.attendMsgBox("Voulez-vous vraiment supprimer ces 2 titres ?", 36, dialogues::kOui);
+    dialogues.attendMsgBox(
+        "Erreur 3022 : La modification contredit une règle de la base (FOREIGN KEY constraint failed).");
+    dialogues.attendMsgBox("1 titre supprimé.", 64);
+    multi.cmdSupprTitresSelect_Click();
+    EXPECT_THAT(titresDesFilms(), ElementsAre("Zorro"));
 }
 
 }  // namespace
