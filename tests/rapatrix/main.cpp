@@ -1,6 +1,9 @@
-// Stands in for the downloader. It keeps what it was given in the file "recu" of its folder (its arguments in brackets,
-// then its configuration), leaves two sheets, one with its poster, and ends; or as the search's last word says:
-// "rien" leaves nothing, "echec" fails after them, "attente" leaves one of them and stays until it is ended.
+// Stands in for the downloader, which reads its configuration as Windows-1252. It keeps what it was given in the file
+// "recu" of its folder (its arguments in brackets, then its configuration), leaves two sheets, one with its poster, and
+// ends; or as the search's last word says: "rien" leaves nothing, "echec" fails after them, "attente" leaves one of them
+// and stays until it is ended.
+#include "util/Texte.h"
+
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -27,7 +30,7 @@ int main(int nombre, char** arguments) {
     if (!fichier) return 2;
     const std::string configuration{std::istreambuf_iterator<char>(fichier), {}};
     const std::string recherche = valeur(configuration, "FICHIER_LISTE_NOM");
-    const std::filesystem::path tmp = valeur(configuration, "CHEMIN_DESTINATION_FICHIER_SOURCE");
+    const std::filesystem::path tmp = util::depuis1252(valeur(configuration, "CHEMIN_DESTINATION_FICHIER_SOURCE"));
     if (!recherche.ends_with("rien")) {
         ecrit(tmp / "1.FILM", "LE CERCLE ROUGE\r\nJean-Pierre Melville\r\n1970\r\nFrance\r\nPolicier\r\n");
         ecrit(tmp / "1.JPG", "\xFF\xD8 une affiche");

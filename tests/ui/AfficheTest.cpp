@@ -1,11 +1,9 @@
 #include "ProgrammeDEssai.h"
 #include "ui/FenetreAffiche.h"
 
-#include <QElapsedTimer>
 #include <QScreen>
 #include <QScrollBar>
 #include <QWheelEvent>
-#include <algorithm>
 
 namespace {
 
@@ -128,40 +126,6 @@ TEST_F(Affiche, GoesFromFilmToFilmByKeysAndFollowsTheSheet) {
     EXPECT_GT(milieu().red(), 200);
     essai.cliqueTitre("Brazil");
     EXPECT_GT(milieu().blue(), 200) << "an open viewer follows the sheet";
-}
-
-// Detailed pictures of some 60 KB, as posters are.
-std::string photo(int graine) {
-    QImage image(480, 640, QImage::Format_RGB32);
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x) {
-            const int grain = (x * 7 + y * 13 + graine * 29 + (x * y) % 17 * 5) % 60;
-            image.setPixel(x, y, qRgb(x / 3 + grain, y / 4 + grain, 90 + grain));
-        }
-    QByteArray octets;
-    QBuffer tampon(&octets);
-    image.save(&tampon, "JPG", 75);
-    return octets.toStdString();
-}
-
-TEST_F(Affiche, TheNextFilmComesAtOnce) {
-    std::vector<essais::Film> films;
-    for (int i = 0; i < 12; ++i)
-        films.push_back({"Film " + std::to_string(10 + i), "R", "Drame", photo(i)});
-    ouvre(films);
-    std::vector<qint64> durees;
-    for (int i = 1; i < 12; ++i) {
-        QElapsedTimer depuis;
-        depuis.start();
-        touche(Qt::Key_PageDown);
-        QCoreApplication::processEvents();  // painted
-        durees.push_back(depuis.elapsed());
-        ASSERT_EQ(fenetre().windowTitle().toStdString(), films[static_cast<std::size_t>(i)].titre);
-    }
-    std::nth_element(durees.begin(), durees.begin() + 5, durees.end());
-    RecordProperty("median_ms", static_cast<int>(durees[5]));
-    RecordProperty("poster_bytes", static_cast<int>(films.front().affiche.size()));
-    EXPECT_LT(durees[5], 50);
 }
 
 }  // namespace

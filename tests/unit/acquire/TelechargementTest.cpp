@@ -6,6 +6,7 @@
 #include "doubles/Rapatrix.h"
 #include "platform/fichiers/Fichiers.h"
 #include "unit/acquire/ImportDEssai.h"
+#include "util/Texte.h"
 #include "view/EchecLancement.h"
 
 #include <gmock/gmock.h>
@@ -97,8 +98,8 @@ TEST_F(TelechargementTest, ImportsWhatTheDownloaderLeftEvenIfItFailsAndCleansBeh
     dialogues.attendMsgBox("2 films ajoutés.\n- Image manquante :\n" + chemins.dossierTmp + "/2.jpg", kInformation);
     cherche("Un Échec");
 
-    const std::string configurationAttendue =
-        configuration("http://www.moviecovers.com/multicrit.html?real=un+echec", chemins.dossierTmp, "O");
+    const std::string configurationAttendue = configuration("http://www.moviecovers.com/multicrit.html?real=un+echec",
+                                                            util::vers1252(chemins.dossierTmp), "O");
     EXPECT_EQ(rapatrix.recu(), "[" + chemins.dossierTmp + "/RechFilms.tmp]\n" + configurationAttendue);
     EXPECT_THAT(essai.colonne("Films", "Titre"), ElementsAre("Le Cercle Rouge", "L'Été"));
     EXPECT_THAT(essai.colonne("Films", "Affiche"), ElementsAre("STO\xFF\xD8 une affiche", ""));

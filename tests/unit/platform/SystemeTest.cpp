@@ -4,6 +4,7 @@
 #include "platform/systeme/InstanceUnique.h"
 
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 
 #include <gtest/gtest.h>
@@ -12,7 +13,13 @@ using doubles::DossierTemporaire;
 using doubles::Environnement;
 
 TEST(Horloge, TheDayIsWrittenAsTheUserWritesIt) {
-    constexpr std::time_t kMidiLe7Mars2026 = 1772884800;
+    std::tm midi{};
+    midi.tm_mday = 7;
+    midi.tm_mon = 2;
+    midi.tm_year = 126;
+    midi.tm_hour = 12;
+    midi.tm_isdst = -1;
+    const std::time_t midiLe7Mars2026 = std::mktime(&midi);  // where the machine is
     const struct {
         const char *lcAll, *lcTime, *lang, *date;
     } cas[] = {{"", "", "", "07/03/2026"},
@@ -25,7 +32,7 @@ TEST(Horloge, TheDayIsWrittenAsTheUserWritesIt) {
                {"", "", "th_TH.UTF-8", "7/3/2026"}};
     for (const auto& c : cas) {
         const Environnement environnement({{"LC_ALL", c.lcAll}, {"LC_TIME", c.lcTime}, {"LANG", c.lang}});
-        EXPECT_EQ(systeme::dateCourte(kMidiLe7Mars2026), c.date) << c.lcAll << "/" << c.lcTime << "/" << c.lang;
+        EXPECT_EQ(systeme::dateCourte(midiLe7Mars2026), c.date) << c.lcAll << "/" << c.lcTime << "/" << c.lang;
     }
 }
 
