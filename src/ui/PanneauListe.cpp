@@ -32,7 +32,7 @@ QLayout* PanneauListe::choix() {
     m_atelier.liaison.lie(liste.AffStats, statistiques);
 
     const auto execute = [this](void (app::Session::*procedure)()) {
-        m_atelier.commande.execute([this, procedure] { (m_atelier.session.*procedure)(); });
+        m_atelier.commande.execute([session = &m_atelier.session, procedure] { (session->*procedure)(); });
     };
     connect(zone, &ListeDeroulante::vaSOuvrir, this, [=] { execute(&app::Session::ChoixZone_DropDown); });
     connect(zone, &ListeDeroulante::sEstFermee, this, [=, this] {
