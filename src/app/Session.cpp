@@ -1,6 +1,7 @@
 #include "app/Session.h"
 
 #include "app/APropos.h"
+#include "app/EffaceRestes.h"
 #include "app/Liens.h"
 #include "app/Rouages.h"
 #include "app/cmdParcourir_Click.h"
@@ -105,6 +106,7 @@ void Session::Form_Load() {
 
 void Session::Form_Activate() {
     m_rouages->demarrage.acheve();
+    effaceRestes(m_rouages->chemins, etats.stockage);
 }
 
 void Session::Form_Unload() {

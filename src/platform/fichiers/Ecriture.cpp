@@ -1,5 +1,6 @@
 #include "platform/fichiers/Descripteur.h"
 #include "platform/fichiers/Fichiers.h"
+#include "platform/fichiers/Restes.h"
 
 #include <algorithm>
 #include <array>
@@ -65,6 +66,7 @@ class FichierNeuf {
           m_chemin(dossierDe(m_cible) + nomProvisoire()),
           m_fichier(m_chemin, O_WRONLY | O_CREAT | O_EXCL, droitsDe(m_cible)) {
         struct stat ancien {};
+        if (m_fichier.estOuvert()) marqueEnUsage(m_fichier.numero());
         if (!m_fichier.estOuvert() || stat(m_cible.c_str(), &ancien) != 0) return;
         m_refuse = !S_ISREG(ancien.st_mode) || access(m_cible.c_str(), W_OK) != 0 ||
                    (fchmod(m_fichier.numero(), ancien.st_mode & 07777) != 0 && !ignoreLesDroits(errno));
@@ -93,14 +95,6 @@ class FichierNeuf {
     static mode_t droitsDe(const std::string& cible) {
         struct stat ancien {};
         return stat(cible.c_str(), &ancien) == 0 ? ancien.st_mode & kDroitsOrdinaires : kDroitsOrdinaires;
-    }
-    // Short whatever the target's name is, and never that of a file left by a killed run of another number.
-    static std::string nomProvisoire() {
-        static unsigned compteur = 0;
-        struct timespec instant {};
-        clock_gettime(CLOCK_REALTIME, &instant);
-        return ".ambrelis-" + std::to_string(getpid()) + "-" + std::to_string(instant.tv_nsec) + "-" +
-               std::to_string(++compteur) + ".tmp";
     }
 
     std::string m_cible;

@@ -110,6 +110,21 @@ TEST(Demarrage, ASecondInstanceEndsSilentlyAndDisturbsNothing) {
     EXPECT_TRUE(Execution(installation.chemin()).demarre()) << "after a crash nothing of the lock is left";
 }
 
+TEST(Demarrage, WhatAKilledRunWasWritingGoes) {
+    const Installation installation;
+    const doubles::DossierTemporaire bases;
+    installation.ecrit("Ambrelis.ini",
+                       "1\n" + installation.chemin("Affiches") + "\n0\n0\n0\n" + bases.chemin("b.mdb") + "\n");
+    dao::DBEngine::CreateDatabase(bases.chemin("b.mdb"), db::schema());
+    const std::string reste = ".ambrelis-999999999-1-1.tmp";
+    const std::vector<std::string> places{installation.ecrit(reste, ""), installation.ecrit("Tmp/" + reste, ""),
+                                          installation.ecrit("Affiches/" + reste, ""), bases.ecrit(reste, "")};
+    Execution essai(installation.chemin());
+    ASSERT_TRUE(essai.demarre());
+    for (const std::string& place : places)
+        EXPECT_FALSE(std::filesystem::exists(place)) << place;
+}
+
 TEST(Demarrage, SettingsAreApplied) {
     const Installation installation;
     installation.ecrit("Ambrelis.ini", "1\n/img/\n12000\n9000\n8\nAutre/Été.mdb\n1\n1\n");

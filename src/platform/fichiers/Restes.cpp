@@ -1,0 +1,86 @@
+#include "platform/fichiers/Restes.h"
+
+#include "platform/fichiers/Descripteur.h"
+#include "util/NomsFichiers.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <charconv>
+#include <csignal>
+#include <ctime>
+#include <filesystem>
+#include <optional>
+#include <system_error>
+#include <vector>
+
+#include <sys/file.h>
+
+namespace fichiers {
+
+namespace {
+
+constexpr std::string_view kDebut = ".ambrelis-";
+constexpr std::string_view kFin = ".tmp";
+constexpr std::time_t kPlusLongueEcriture = 3600;  // seconds without a byte: nobody writes it any more
+
+// ".ambrelis-NUMBER-NUMBER-NUMBER.tmp": the number of the process that made it; nothing for any other name.
+std::optional<pid_t> auteur(std::string_view nom) {
+    if (!nom.starts_with(kDebut) || !nom.ends_with(kFin)) return std::nullopt;
+    nom.remove_prefix(kDebut.size());
+    nom.remove_suffix(kFin.size());
+    if (nom.find_first_not_of("0123456789-") != std::string_view::npos) return std::nullopt;
+    if (std::ranges::count(nom, '-') != 2 || nom.ends_with('-') || nom.find("--") != std::string_view::npos)
+        return std::nullopt;
+    pid_t processus = 0;
+    const auto lu = std::from_chars(nom.data(), nom.data() + nom.size(), processus);
+    return lu.ec == std::errc() && processus > 0 ? std::optional(processus) : std::nullopt;
+}
+
+bool estVivant(pid_t processus) {
+    return kill(processus, 0) == 0 || errno == EPERM;
+}
+
+// Whoever holds the lock lives, here or on another machine. Between its making and its lock, and where the file system
+// knows no locks, a file is young; the number may by now be that of any other program.
+bool estEnUsage(const Descripteur& fichier, const struct stat& infos, pid_t processus) {
+    const bool prenable = flock(fichier.numero(), LOCK_EX | LOCK_NB) == 0;
+    if (!prenable && errno == EWOULDBLOCK) return true;
+    if (std::time(nullptr) - infos.st_mtime >= kPlusLongueEcriture) return false;
+    return !prenable || (processus != getpid() && estVivant(processus));
+}
+
+bool supprimeReste(const std::string& chemin, pid_t processus) {
+    const Descripteur fichier(chemin, O_RDONLY | O_NOFOLLOW);
+    struct stat infos {};
+    if (!fichier.estFichier() || fstat(fichier.numero(), &infos) != 0 || infos.st_uid != geteuid()) return false;
+    return !estEnUsage(fichier, infos, processus) && unlink(chemin.c_str()) == 0;
+}
+
+}  // namespace
+
+std::string nomProvisoire() {
+    static unsigned compteur = 0;
+    struct timespec instant {};
+    clock_gettime(CLOCK_REALTIME, &instant);
+    return std::string(kDebut) + std::to_string(getpid()) + "-" + std::to_string(instant.tv_nsec) + "-" +
+           std::to_string(++compteur) + std::string(kFin);
+}
+
+// A file system without locks is no reason not to write.
+void marqueEnUsage(int descripteur) {
+    static_cast<void>(flock(descripteur, LOCK_EX | LOCK_NB));
+}
+
+int supprimeRestes(const std::string& dossier) {
+    std::vector<std::pair<std::string, pid_t>> restes;
+    std::error_code erreur;
+    for (std::filesystem::directory_iterator entree(dossier, erreur), fin; !erreur && entree != fin;
+         entree.increment(erreur)) {
+        const std::string nom = entree->path().filename().string();
+        if (const auto processus = auteur(nom)) restes.emplace_back(util::avecSeparateur(dossier) + nom, *processus);
+    }
+    return static_cast<int>(
+        std::ranges::count_if(restes, [](const auto& reste) { return supprimeReste(reste.first, reste.second); }));
+}
+
+}  // namespace fichiers
