@@ -4,12 +4,13 @@
 #include "db/Chemins.h"
 #include "db/Schema.h"
 #include "doubles/DossierTemporaire.h"
+#include "doubles/SansPrivileges.h"
 #include "platform/dao/DBEngine.h"
 
 #include <string>
 #include <string_view>
 
-#include <unistd.h>
+using doubles::SansPrivileges;
 
 // A program folder with its template, and what a test asks of its bases.
 struct Installation {
@@ -34,22 +35,4 @@ struct Installation {
         base.films.MoveFirst();
         return base.films.texte("Titre");
     }
-};
-
-// The rights of an ordinary user: what is read-only is so for root's tests too.
-class SansPrivileges {
-  public:
-    SansPrivileges() {
-        if (geteuid() == 0) m_change = setresuid(kPersonne, kPersonne, 0) == 0;
-    }
-    SansPrivileges(const SansPrivileges&) = delete;
-    SansPrivileges& operator=(const SansPrivileges&) = delete;
-    ~SansPrivileges() {
-        if (m_change) m_rendu = setresuid(0, 0, 0) == 0;
-    }
-
-  private:
-    static constexpr uid_t kPersonne = 65534;
-    bool m_change = false;
-    bool m_rendu = false;
 };

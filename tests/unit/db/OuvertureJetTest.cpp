@@ -12,6 +12,7 @@
 #include <set>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace {
 
@@ -115,7 +116,7 @@ TEST_F(OuvertureJetTest, WhereNoLinkCanBeMadeACopyIsKept) {
     fs::last_write_time(base, fs::file_time_type::clock::now() - std::chrono::hours(24 * 365 * 20));
     const auto date = fs::last_write_time(base);
     fs::permissions(base, fs::perms{0444});
-    fs::permissions(dossier.chemin(), fs::perms{0777});
+    ASSERT_EQ(chown(base.c_str(), geteuid() == 0 ? 65534 : geteuid(), getegid()), 0);
     const SansPrivileges ordinaire;
     demande(dialogues::kOui);
     EXPECT_TRUE(ouvertureJet(base));

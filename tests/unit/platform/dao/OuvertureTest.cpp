@@ -1,4 +1,5 @@
 #include "BaseDEssai.h"
+#include "doubles/SansPrivileges.h"
 
 #include <array>
 #include <csignal>
@@ -26,17 +27,9 @@ int numeroDOuverture(const std::string& chemin) {
     return numeroErreur([&] { (void)dao::DBEngine::OpenDatabase(chemin); });
 }
 
-// What the action answers in a process without root's rights, which would write anywhere.
 int sansDroits(const std::function<int()>& action) {
-    const pid_t enfant = fork();
-    if (enfant == 0) {
-        if (geteuid() == 0 && setuid(65534) != 0) _exit(99);
-        const int numero = action();
-        _exit(numero == 0 ? 0 : numero == dao::kErreurLectureSeule ? 51 : 98);
-    }
-    int etat = 0;
-    waitpid(enfant, &etat, 0);
-    return WIFEXITED(etat) ? WEXITSTATUS(etat) : -1;
+    const doubles::SansPrivileges ordinaire;
+    return action();
 }
 
 }  // namespace
@@ -79,10 +72,10 @@ TEST(Ouverture, TellsALockedBaseFromAReadOnlyOne) {
     fs::permissions(essai.chemin, fs::perms(0666));
     EXPECT_EQ(sansDroits([&] { return numeroDOuverture(essai.chemin); }), 0);
     fs::permissions(essai.chemin, fs::perms(0444));
-    EXPECT_EQ(sansDroits([&] { return numeroDOuverture(essai.chemin); }), 51);
+    EXPECT_EQ(sansDroits([&] { return numeroDOuverture(essai.chemin); }), dao::kErreurLectureSeule);
     fs::permissions(essai.chemin, fs::perms(0666));
     fs::permissions(dossier, fs::perms(0555));
-    EXPECT_EQ(sansDroits([&] { return numeroDOuverture(essai.chemin); }), 51);
+    EXPECT_EQ(sansDroits([&] { return numeroDOuverture(essai.chemin); }), dao::kErreurLectureSeule);
 }
 
 TEST(Ouverture, ALockTakenLaterStopsTheUpdateAlone) {
