@@ -3,7 +3,7 @@
 # What builds and runs the program; ./check adds what tests need.
 paquets_programme=(g++ cmake ninja-build qt6-base-dev qt6-translations-l10n libsqlite3-dev libicu-dev
                     pkg-config libglib2.0-dev mdbtools-dev xdg-utils shared-mime-info)
-paquets_essais=(libgtest-dev libgmock-dev)
+paquets_essais=(libgtest-dev libgmock-dev clang-format clang-tidy)
 
 dit() { printf '%s\n' "$*"; }
 
@@ -54,22 +54,28 @@ installe() {
   depuis "$debut"
 }
 
-# construit PRESET: configures where that was not done yet, and builds; says little unless it fails.
-construit() {
-  local preset=$1 dossier=$racine/build/$1 journal=$racine/build/$1.log debut=$SECONDS
-  local lanceur=()
+# configure PRESET: makes its build folder, unless it is there.
+configure() {
+  local dossier=$racine/build/$1 journal=$racine/build/$1.log lanceur=()
   command -v ccache >/dev/null && lanceur=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
   mkdir -p "$racine/build"
   if [ -f "$dossier/CMakeCache.txt" ] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$racine" "$dossier/CMakeCache.txt"; then
-    dit "The checkout has moved: $preset is built anew"
+    dit "The checkout has moved: $1 is built anew"
     rm -rf "$dossier"
   fi
+  [ -f "$dossier/build.ninja" ] || (cd "$racine" && cmake --preset "$1" "${lanceur[@]}") </dev/null >"$journal" 2>&1 ||
+    raconte "$journal" "The build could not be prepared"
+}
+
+# construit PRESET: configures where that was not done yet, and builds; says little unless it fails.
+construit() {
+  local preset=$1 dossier=$racine/build/$1 journal=$racine/build/$1.log debut=$SECONDS
   if [ -f "$dossier/build.ninja" ]; then
     dit "Bringing the build up to date ($preset)"
   else
     dit "Building Ambrelis ($preset); the first time takes some minutes"
-    (cd "$racine" && cmake --preset "$preset" "${lanceur[@]}") </dev/null >"$journal" 2>&1 || raconte "$journal" "The build could not be prepared"
   fi
+  configure "$preset"
   if ! ninja -C "$dossier" -j "$(nproc)" </dev/null >"$journal" 2>&1; then
     raconte "$journal" "The build failed"
   fi
