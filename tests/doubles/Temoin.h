@@ -40,7 +40,7 @@ class Temoin {
     // What the program has written, once it has: the folder, then each argument in brackets, a line each.
     [[nodiscard]] std::string recu() const {
         using namespace std::chrono_literals;
-        for (int i = 0; i < 2000 && !m_dossier.existe("recu"); ++i)
+        for (int i = 0; i < 24000 && !m_dossier.existe("recu"); ++i)  // two minutes: only a failing test waits so long
             std::this_thread::sleep_for(5ms);
         if (!m_dossier.existe("recu")) return "nothing was started";
         std::string texte = m_dossier.lit("recu");

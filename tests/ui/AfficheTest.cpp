@@ -18,7 +18,7 @@ class Affiche : public ::testing::Test {
         essai.importe(films);
         essai.cliqueTitre(films.front().titre);
         essai.clique("Image1");
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&fenetre()));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&fenetre(), essais::kPatience));
     }
     QWidget& fenetre() { return essai.trouve("frmAffiche"); }
     QWidget& image() { return essai.trouve("Picture1"); }
@@ -100,7 +100,7 @@ TEST_F(Affiche, ScrollsByTheBarTheWheelAndTheHand) {
     EXPECT_TRUE(fenetre().isVisible()) << "a drag is no click";
     EXPECT_EQ(image().pos(), QPoint(-40, haut - 60));
     fenetre().resize(100, 80);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return barre().width() == 22; })) << barre().width();
+    EXPECT_TRUE(essais::attends([&] { return barre().width() == 22; })) << barre().width();
 }
 
 TEST_F(Affiche, GoesFromFilmToFilmByKeysAndFollowsTheSheet) {

@@ -1,3 +1,4 @@
+#include "Attente.h"
 #include "doubles/DossierTemporaire.h"
 #include "ui/DialoguesQt.h"
 
@@ -59,7 +60,7 @@ TEST(DialoguesQt, ABoxBelongsToTheWindowInUse) {
     visionneuse.show();
     for (QWidget* enUsage : {&visionneuse, &principale}) {
         enUsage->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(enUsage));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(enUsage, essais::kPatience));
         surLaBoite<QMessageBox>([=](QMessageBox& boite) {
             EXPECT_EQ(boite.parentWidget(), enUsage);
             boite.accept();
@@ -100,7 +101,7 @@ TEST(DialoguesQt, TheTextOfABoxIsSelectedAndCopied) {
     ui::Liaison liaison;
     ui::DialoguesQt boites(liaison);
     surLaBoite<QMessageBox>([](QMessageBox& boite) {
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&boite));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&boite, essais::kPatience));
         auto* texte = boite.findChild<QLabel*>("qt_msgbox_label");
         EXPECT_TRUE(texte->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
         QTest::keyClick(&boite, Qt::Key_C, Qt::ControlModifier);

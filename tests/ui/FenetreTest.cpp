@@ -294,7 +294,7 @@ TEST_F(Fenetre, AFolderThatIsTypedIsCounted) {
     auto& zone = essai.trouve<QLineEdit>("txtCheminAjoutAuto");
     zone.setFocus();
     QTest::keyClicks(&zone, "Fiches");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return essai.texte("lblNbFilms") == "Un fichier .FILM trouvé."; }));
+    EXPECT_TRUE(essais::attends([&] { return essai.texte("lblNbFilms") == "Un fichier .FILM trouvé."; }));
 }
 
 TEST_F(Fenetre, BringsAPreviousVersionAlongByItsButton) {
@@ -328,7 +328,7 @@ TEST_F(Fenetre, ClosingDuringWorkStopsItAndThenSavesTheSettings) {
     QObject::connect(&essai.programme->ecran(), &ui::EcranQt::travailCommence, &essai.fenetre(),
                      [&] { essai.fenetre().close(); });
     essai.importe(films);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !essai.fenetre().isVisible(); }));
+    ASSERT_TRUE(essais::attends([&] { return !essai.fenetre().isVisible(); }));
     EXPECT_LT(std::stoi(essai.texte("Label9_0")), 60);
     EXPECT_FALSE(essai.dossier.lit("Ambrelis.ini").empty());
 }

@@ -229,7 +229,7 @@ TEST(Noms, EachPageHasItsOwnMnemonicsAndNamesForScreenReaders) {
     essai.clique("cmdAutresInfos");
     verifie("cmdAutresInfos");
     essai.fenetre().resize(1366, 740);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !essai.trouve("cmdGeneralites").isVisible(); }));
+    ASSERT_TRUE(essais::attends([&] { return !essai.trouve("cmdGeneralites").isVisible(); }));
     EXPECT_TRUE(essai.trouve("Text1").isVisible() && essai.trouve("framePossession").isVisible());
     verifie("both pages");
 }

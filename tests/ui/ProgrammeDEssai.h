@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Attente.h"
 #include "db/Schema.h"
 #include "doubles/DocumentsEnregistres.h"
 #include "doubles/DossierTemporaire.h"
@@ -66,7 +67,7 @@ class ProgrammeDEssai {
         ASSERT_TRUE(programme->demarre());
         ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre()));
         // The panels behind the first page are built after the first painting.
-        ASSERT_TRUE(QTest::qWaitFor([&] { return fenetre().findChild<QWidget*>("frameFiche") != nullptr; }));
+        ASSERT_TRUE(attends([&] { return fenetre().findChild<QWidget*>("frameFiche") != nullptr; }));
     }
 
     [[nodiscard]] ui::FenetrePrincipale& fenetre() { return programme->fenetre(); }

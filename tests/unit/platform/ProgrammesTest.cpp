@@ -54,7 +54,7 @@ TEST_F(Programmes, ReceiveTheBytesOfTheirArgumentsInTheirFolder) {
     resteSansEnfant();
     auto [issue, enCours] = programmes.lancePourAttendre({arguments, ""});
     ASSERT_EQ(issue, Lancement::Fait);
-    EXPECT_TRUE(enCours->attendsFin(20s));
+    EXPECT_TRUE(enCours->attendsFin(120s));
     EXPECT_TRUE(enCours->attendsFin(0s)) << "still over";
     EXPECT_EQ(temoin.recu(), note(ici, suite));
     enCours.reset();
