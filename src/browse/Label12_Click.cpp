@@ -1,5 +1,6 @@
 #include "browse/Label12_Click.h"
 
+#include "db/AfficheVoisine.h"
 #include "db/Affiches.h"
 #include "db/EnonceFilm.h"
 #include "platform/fichiers/Fichiers.h"
@@ -63,7 +64,8 @@ Label12_Click::Echec Label12_Click::enregistre(db::LotAffiches& lot, const std::
     if (film.Eof()) return std::nullopt;
     const std::string actuelle = film.texte("Affiche");
     const bool enBase = db::estDansLaBase(actuelle) && actuelle.size() > db::kTaillePrefixe;
-    if (enBase || db::fichierAffiche(lot.dossier(), actuelle)) return "Ce film a déjà une affiche : elle est gardée.";
+    if (enBase || db::fichierAffiche(lot.dossier(), actuelle) || db::afficheVoisine(m_base.base.nom(), actuelle))
+        return "Ce film a déjà une affiche : elle est gardée.";
     film.Edit();
     film.assigne("Affiche", m_stockage.dansLaBase() ? db::valeurAfficheDansLaBase(octets)
                                                     : db::valeurAfficheFichier(pose(lot, octets, actuelle)));

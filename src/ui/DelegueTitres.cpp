@@ -15,9 +15,8 @@ namespace ui {
 
 namespace {
 
-constexpr int kAir = 4;                 // above and below the text
-constexpr int kMargeDuNombre = 10;      // right of a heading's number
-constexpr qsizetype kMontrable = 2000;  // characters; of a longer text the rest is measured by nobody
+constexpr int kAir = 4;             // above and below the text
+constexpr int kMargeDuNombre = 10;  // right of a heading's number
 
 int largeurDuNombre(const QStyleOptionViewItem& option, const QModelIndex& index) {
     const QString nombre = QString::number(index.data(ModeleArbre::NombreDEnfants).toInt());
@@ -28,7 +27,7 @@ int largeurDuNombre(const QStyleOptionViewItem& option, const QModelIndex& index
 
 void DelegueTitres::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
-    option->text = option->text.trimmed().left(kMontrable);
+    option->text = option->text.trimmed();
     option->state &= ~QStyle::State_HasFocus;
     if (!index.data(ModeleArbre::EstGroupe).toBool()) return;
     option->font.setWeight(QFont::DemiBold);

@@ -155,13 +155,13 @@ TEST_F(AfficheFicheTest, APosterThatTmpCannotTakeIsToldAndNotOfferedToBeReplaced
 }
 
 TEST_F(AfficheFicheTest, APosterOutsideTheImagesFolderIsNeverShown) {
-    dossier.ecrit("victime.jpg", kJpeg);
+    dossier.ecrit("coffre/victime.jpg", kJpeg);
     dossier.ecrit("Images/vraie.jpg", kJpeg + "vraie");
-    std::filesystem::create_symlink(dossier.chemin("victime.jpg"), dossier.chemin("Images/lien.jpg"));
-    ajouteFilm("Dehors", {{"Affiche", "JPG../victime.jpg"}});
+    std::filesystem::create_symlink(dossier.chemin("coffre/victime.jpg"), dossier.chemin("Images/lien.jpg"));
+    ajouteFilm("Dehors", {{"Affiche", "JPG../coffre/victime.jpg"}});
     ajouteFilm("Lien", {{"Affiche", "JPGlien.jpg"}});
     ajouteFilm("Dedans", {{"Affiche", "JPG..\\x\\VRAIE.jpg"}});
-    ajouteFilm("Nulle part", {{"Affiche", "JPGvraie.jpg"}});
+    ajouteFilm("Nulle part", {{"Affiche", "JPGperdue.jpg"}});
     montre(browse::kZoneTous, browse::kTriTitre2);
     for (const auto& [titre, nom] : {std::pair("Dehors", "victime.jpg"), std::pair("Lien", "lien.jpg")}) {
         dialogues.attendMsgBox("Le fichier image n'existe plus (" + dossier.chemin("Images/") + nom + ") !", 48);
@@ -171,7 +171,7 @@ TEST_F(AfficheFicheTest, APosterOutsideTheImagesFolderIsNeverShown) {
     clique("Dedans");
     EXPECT_EQ(dossier.lit("Tmp/ImageTMP.jpg"), kJpeg + "vraie");
     stockage.Text4.Text = "C:\\Affiches";
-    dialogues.attendMsgBox("Le fichier image n'existe plus (C:\\Affiches/vraie.jpg) !", 48);
+    dialogues.attendMsgBox("Le fichier image n'existe plus (C:\\Affiches/perdue.jpg) !", 48);
     clique("Nulle part");
 }
 

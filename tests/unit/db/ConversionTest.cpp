@@ -142,18 +142,18 @@ TEST_F(ConversionTest, PostersGoIntoFilesThatNoOtherPictureHas) {
 
 // Whatever the films' values say, only ordinary files of the images folder itself are taken in, and removed.
 TEST_F(ConversionTest, NothingOutsideTheFolderIsReadNorRemoved) {
-    const std::string victime = installation.dossier.ecrit("victime.jpg", image(1));
+    const std::string victime = installation.dossier.ecrit("coffre/victime.jpg", image(1));
     std::filesystem::create_directories(installation.dossier.chemin("Images/sous"));
     std::filesystem::create_symlink(victime, installation.dossier.chemin("Images/lien.jpg"));
     fichier("sous/dedans.jpg", image(2));
     fichier("vraie.jpg", image(3));
-    for (const std::string& nom :
-         {std::string("../victime.jpg"), std::string("..\\victime.jpg"), victime, std::string("lien.jpg"),
-          std::string("sous"), std::string("../Images/sous/dedans.jpg"), std::string(".."), std::string("../..")})
+    for (const std::string& nom : {std::string("../coffre/victime.jpg"), std::string("..\\coffre\\victime.jpg"),
+                                   victime, std::string("lien.jpg"), std::string("sous"),
+                                   std::string("../Images/sous/dedans.jpg"), std::string(".."), std::string("../..")})
         entretien->ajoute(nom, "", "JPG" + nom);
     entretien->ajoute("vraie", "", "JPG..\\Ailleurs\\vraie.jpg");
     convertit(0, "1 fichier inclu.");
-    EXPECT_EQ(installation.dossier.lit("victime.jpg"), image(1));
+    EXPECT_EQ(installation.dossier.lit("coffre/victime.jpg"), image(1));
     EXPECT_EQ(litFichier("sous/dedans.jpg"), image(2));
     EXPECT_TRUE(existe("lien.jpg"));
     EXPECT_FALSE(existe("vraie.jpg"));

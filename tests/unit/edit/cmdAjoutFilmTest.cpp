@@ -112,7 +112,7 @@ TEST_F(cmdAjoutFilm, asksForThePosterUntilItCanBeTaken) {
     attendRefus("Image trop grande pour tenir en base !");
     attendChoix(bonne);
     commande();
-    EXPECT_EQ(images.courante, chemins.afficheTmp) << "the new film's sheet is ready, with its poster";
+    EXPECT_EQ(images.courante, octets) << "the new film's sheet is ready, with its poster";
 
     // The dialog takes one byte more than the base does.
     saisis("Second", "R");
