@@ -2,7 +2,7 @@
 
 # What builds and runs the program; ./check adds what tests need.
 paquets_programme=(g++ cmake ninja-build qt6-base-dev qt6-translations-l10n libsqlite3-dev libicu-dev
-                    pkg-config libglib2.0-dev mdbtools-dev xdg-utils shared-mime-info)
+                    pkg-config libglib2.0-dev mdbtools-dev libxml2-dev libarchive-dev xdg-utils shared-mime-info)
 paquets_essais=(libgtest-dev libgmock-dev clang-format clang-tidy)
 
 dit() { printf '%s\n' "$*"; }

@@ -50,4 +50,4 @@ recopie(Guide "${PROJECT_SOURCE_DIR}/docs/guide/index.html" "${PROJECT_SOURCE_DI
 add_custom_target(dossier_programme ALL
   DEPENDS "${AMBRELIS_DOSSIER}/Modele.dat" "${AMBRELIS_DOSSIER}/Extensions.txt"
           "${AMBRELIS_DOSSIER}/traductions/qtbase_fr.qm" ${recopies})
-add_dependencies(dossier_programme Ambrelis)
+add_dependencies(dossier_programme Ambrelis Rapatrix)
