@@ -2,6 +2,7 @@
 #include "doubles/ServeurWeb.h"
 #include "rapatrix/Fenetre.h"
 #include "recherche_web/Archives.h"
+#include "ui/Attente.h"
 
 #include <QTest>
 #include <filesystem>
@@ -56,7 +57,7 @@ class RechercheWeb : public testing::Test {
         return attendsLeCalme();
     }
     bool attendsLeCalme() {
-        return QTest::qWaitFor([this] { return !bouton("cmdArreter").isVisible(); }, 30'000);
+        return essais::attends([this] { return !bouton("cmdArreter").isVisible(); });
     }
     bool telechargeTout() {
         bouton("cmdTout").click();
@@ -175,8 +176,8 @@ TEST_F(RechercheWeb, AnnulerEndsOneThatHangsAndKeepsWhatIsWhole) {
     ASSERT_TRUE(cherche());
     bouton("cmdTout").click();
     bouton("cmdTelecharger").click();
-    ASSERT_TRUE(QTest::qWaitFor(
-        [this] { return !serveur.demandes.empty() && serveur.demandes.back() == "/getzip.html/B.zip"; }, 30'000));
+    ASSERT_TRUE(essais::attends(
+        [this] { return !serveur.demandes.empty() && serveur.demandes.back() == "/getzip.html/B.zip"; }));
     bouton("cmdArreter").click();
     EXPECT_FALSE(bouton("cmdArreter").isVisible());
     EXPECT_THAT(recus(), UnorderedElementsAre("A.film", "A.jpg"));
@@ -210,7 +211,7 @@ TEST_F(RechercheWeb, WithoutAListItTakesAllAndEnds) {
     fenetre = std::make_unique<rapatrix::Fenetre>(reglages, delais);
     fenetre->show();
     fenetre->demarre();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !fenetre->isVisible(); }, 30'000));
+    ASSERT_TRUE(essais::attends([this] { return !fenetre->isVisible(); }));
     EXPECT_EQ(recus().size(), 7u) << "three sheets, three posters, the list";
     EXPECT_THAT(dossier.lit("Liste.html"), EndsWith("Film C</a>"));
 }
