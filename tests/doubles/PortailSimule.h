@@ -44,7 +44,7 @@ class PortailSimule {
 
     // Runs the main loop until then; false when that takes too long.
     static bool jusquA(const std::function<bool()>& vrai) {
-        const auto fin = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+        const auto fin = std::chrono::steady_clock::now() + std::chrono::seconds(120);
         while (!vrai() && std::chrono::steady_clock::now() < fin)
             g_main_context_iteration(nullptr, FALSE);
         return vrai();

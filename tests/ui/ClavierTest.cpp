@@ -17,7 +17,7 @@ struct Clavier : testing::Test {
         essai.importe({{"Alien", "Ridley Scott", "comedie", {}}, {"Brazil", "Terry Gilliam", "Anticipation", {}}});
         essai.choisit("ChoixZone", 1);
         essai.cliqueTitre("Alien");
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&essai.fenetre()));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&essai.fenetre(), essais::kPatience));
     }
     void touche(int touche, Qt::KeyboardModifiers avec = {}) {
         QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &essai.fenetre(),

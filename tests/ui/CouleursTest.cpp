@@ -1,3 +1,4 @@
+#include "Attente.h"
 #include "ui/Couleurs.h"
 #include "ui/Etiquettes.h"
 #include "ui/Palettes.h"
@@ -74,11 +75,11 @@ TEST(Boutons, AFlatOneShowsTheMouseAndTheFocus) {
     autre.move(0, 60);
     fenetre.resize(200, 120);
     fenetre.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre, essais::kPatience));
     autre.setFocus();
     const auto pointe = [](QPushButton& vers, QPushButton& depuis) {
         QTest::mouseMove(&vers, vers.rect().center());
-        return QTest::qWaitFor([&] { return vers.underMouse() && !depuis.underMouse(); });
+        return essais::attends([&] { return vers.underMouse() && !depuis.underMouse(); });
     };
     ASSERT_TRUE(pointe(bouton, autre));
     ASSERT_TRUE(pointe(autre, bouton));

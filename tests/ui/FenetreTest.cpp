@@ -214,14 +214,14 @@ TEST_F(Fenetre, AZoneListClosedByEscapeNamesTheSearchThatIsShown) {
         zones.showPopup();
         EXPECT_EQ(zones.currentText(), "Mes films");
         QTest::keyClick(zones.view(), Qt::Key_Escape);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return zones.currentText() == "Recherche"; }));
+        ASSERT_TRUE(essais::attends([&] { return zones.currentText() == "Recherche"; }));
         EXPECT_EQ(zones.count(), 7);
         EXPECT_EQ(entetes().size(), 1);
     }
     zones.showPopup();
     QTest::keyClick(zones.view(), Qt::Key_Down);
     QTest::keyClick(zones.view(), Qt::Key_Return);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return entetes().size() == 4; }));
+    ASSERT_TRUE(essais::attends([&] { return entetes().size() == 4; }));
     QCoreApplication::processEvents();
     EXPECT_EQ(zones.currentText(), "Tous les films");
     EXPECT_EQ(zones.count(), 6);
@@ -372,7 +372,7 @@ TEST_F(Fenetre, ASmallNotebookShowsBothPagesOfTheSheet) {
     essai.cliqueTitre("Avatar");
     EXPECT_FALSE(essai.trouve("framePossession").isVisible());
     essai.fenetre().showMaximized();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !essai.trouve("cmdGeneralites").isVisible(); }));
+    ASSERT_TRUE(essais::attends([&] { return !essai.trouve("cmdGeneralites").isVisible(); }));
     for (const char* nom : {"Text1", "Label1_2", "Text10_6", "cmdRaffraichirListe", "cmdCreeFichierTxt"}) {
         const QWidget& widget = essai.trouve(nom);
         EXPECT_TRUE(widget.visibleRegion().contains(widget.rect())) << nom << " is cut";

@@ -20,7 +20,7 @@ struct FinDemandee : testing::Test {
         essai.dossier.ecrit("Tmp/reste", "");
     }
     void estFinie() {
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !essai.fenetre().isVisible(); }));
+        ASSERT_TRUE(essais::attends([&] { return !essai.fenetre().isVisible(); }));
         EXPECT_TRUE(essai.programme->commande().finie());
         EXPECT_THAT(essai.dossier.lit("Ambrelis.ini"), testing::EndsWith("\nFilms.mdb\n0\n1\n"));
         EXPECT_EQ(essai.dossier.lit("Extensions.txt"), "avi\n/usr/bin/mpv\n");
@@ -63,7 +63,7 @@ TEST_F(FinDemandee, AQuestionIsLeftWithoutAnAnswer) {
     essai.programme.emplace(essai.dossier.chemin(), ui::Programme::Services{});
     ui::Programme& programme = *essai.programme;
     ASSERT_TRUE(programme.demarre());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return essai.fenetre().findChild<QWidget*>("frameFiche") != nullptr; }));
+    ASSERT_TRUE(essais::attends([&] { return essai.fenetre().findChild<QWidget*>("frameFiche") != nullptr; }));
     fin.emplace(programme);
     essai.trouve<QCheckBox>("AffStats").setChecked(true);
     bool ouverte = false;

@@ -65,7 +65,7 @@ class ProgrammeDEssai {
         programme.emplace(dossier.chemin(), ui::Programme::Services{&boites, &horloge, &documents,
                                                                     vrais ? vrais : &programmes, &volumes});
         ASSERT_TRUE(programme->demarre());
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre()));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre(), kPatience));
         // The panels behind the first page are built after the first painting.
         ASSERT_TRUE(attends([&] { return fenetre().findChild<QWidget*>("frameFiche") != nullptr; }));
     }

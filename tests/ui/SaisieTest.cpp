@@ -1,3 +1,4 @@
+#include "Attente.h"
 #include "ui/ListeDeSaisie.h"
 #include "ui/TexteLong.h"
 #include "ui/UneSeuleLigne.h"
@@ -62,7 +63,7 @@ TEST(ListeDeSaisie, KeepsTheLettersTypedWhenLeftOrEntered) {
     liste->setCurrentIndex(-1);
     fenetre.show();
     fenetre.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre, essais::kPatience));
     liste->setFocus();
     QTest::keyClicks(liste->lineEdit(), "Comedie");
     autre->setFocus();

@@ -41,7 +41,7 @@ TEST_F(TeinteTest, TheDesktopsWishIsToldAndFollowed) {
     doubles::PortailSimule portail(dossier + "/bus", 1);
     setenv("DBUS_SESSION_BUS_ADDRESS", portail.adresse().c_str(), 1);
     systeme::TeinteDuBureau teinte(note());
-    EXPECT_TRUE(teinte.attends(30s));
+    EXPECT_TRUE(teinte.attends(120s));
     EXPECT_THAT(dites, ElementsAre(Teinte::Sombre));
     portail.change("accent-color", 2);
     portail.change("color-scheme", 2);
@@ -54,7 +54,7 @@ TEST_F(TeinteTest, APortalThatRefusesLeavesNoWish) {
     unsetenv("DBUS_SESSION_BUS_ADDRESS");
     setenv("XDG_RUNTIME_DIR", dossier.c_str(), 1);  // where the bus lies when no variable names it
     systeme::TeinteDuBureau teinte(note());
-    EXPECT_TRUE(teinte.attends(30s));
+    EXPECT_TRUE(teinte.attends(120s));
     EXPECT_THAT(dites, ElementsAre(Teinte::SansSouhait));
 }
 
@@ -66,7 +66,7 @@ TEST_F(TeinteTest, WithoutABusThereIsNothingToWaitFor) {
     }
     EXPECT_TRUE(dites.empty());
     setenv("DBUS_SESSION_BUS_ADDRESS", ("unix:path=" + dossier + "/absent").c_str(), 1);
-    EXPECT_TRUE(systeme::TeinteDuBureau(note()).attends(30s));
+    EXPECT_TRUE(systeme::TeinteDuBureau(note()).attends(120s));
 }
 
 // It takes the call and never says a word.
