@@ -59,7 +59,7 @@ std::string dossierImages(EtatStockage& etat, const Chemins& chemins) {
 }
 
 std::optional<std::string> refusDansTmp(const std::string& dossier, const Chemins& chemins) {
-    if (!fichiers::estDans(dossier, chemins.dossierTmp)) return std::nullopt;
+    if (!chemins.estDansTmp(dossier)) return std::nullopt;
     return "Le dossier des images ne peut pas être " + dossier +
            " : Ambrelis efface ce que contient « Tmp » chaque fois qu'il se ferme.";
 }

@@ -133,6 +133,8 @@ TEST_F(DossierImagesTest, WhatLeadsNowhereOrIntoTmpIsRefused) {
     etat.Text4.Text = R"(D:\Affiches)";
     EXPECT_EQ(db::refusDossierImages(etat, chemins),
               R"(Le dossier des images D:\Affiches n'existe pas sur cet ordinateur : choisissez-en un autre !)");
+    std::filesystem::remove(chemins.dossierTmp);  // away, it is made again, and emptied all the same
+    EXPECT_EQ(utilise("Tmp/x"), "");
     etat.Text4.Text = "Tmpete";
     EXPECT_EQ(db::refusDossierImages(etat, chemins), std::nullopt);
 }

@@ -61,8 +61,10 @@ TEST_F(ConversionTest, FilesBesideTheBaseGoIntoItAndStay) {
     fichier("c.jpg", image(4));
     for (const char* nom : {"a", "b", "c"})
         entretien->ajoute(nom, "", "JPG" + std::string(nom) + ".jpg");
-    convertit(0, "3 fichiers inclus.");
-    EXPECT_EQ(entretien->affiches(), (std::vector<std::string>{"STO" + image(1), "STO" + image(2), "STO" + image(3)}));
+    entretien->ajoute("d", "", "JPGb.jpg");  // named twice, it stays too
+    convertit(0, "4 fichiers inclus.");
+    EXPECT_EQ(entretien->affiches(),
+              (std::vector<std::string>{"STO" + image(1), "STO" + image(2), "STO" + image(3), "STO" + image(2)}));
     EXPECT_TRUE(existe("a.jpg") && existe("c.jpg") && installation.dossier.existe("b.jpg"));
     EXPECT_FALSE(installation.dossier.existe("Ailleurs/c.jpg"));
 }
