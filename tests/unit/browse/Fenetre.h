@@ -133,10 +133,19 @@ class Fenetre : public ::testing::Test {
             if (!noeuds.estGroupe(i)) textes.emplace_back(noeuds.Text(i));
         return textes;
     }
-    // Clicks the first node of that text.
-    void clique(std::string_view texte) {
+    // The first node of that text.
+    [[nodiscard]] int noeud(std::string_view texte) const {
         for (int i = 1; i <= liste.TreeView1.Nodes.Count(); ++i)
-            if (liste.TreeView1.Nodes.Text(i) == texte) return arbre.NodeClick(i);
-        FAIL() << "no such node: " << texte;
+            if (liste.TreeView1.Nodes.Text(i) == texte) return i;
+        ADD_FAILURE() << "no such node: " << texte;
+        return 0;
+    }
+    void clique(std::string_view texte) { arbre.NodeClick(noeud(texte)); }
+    // One column of a table's rows, or of a statement's.
+    std::vector<std::string> colonne(const std::string& source, const std::string& champ) {
+        std::vector<std::string> valeurs;
+        for (dao::Recordset lignes = base.base.OpenRecordset(source); !lignes.Eof(); lignes.MoveNext())
+            valeurs.push_back(lignes.texte(champ));
+        return valeurs;
     }
 };

@@ -84,15 +84,23 @@ TEST_F(Label12Test, APosterThatTheFilmHasIsNeverReplaced) {
     EXPECT_EQ(affiche(), "JPGLe titre  1 - R.jpg") << "a reference that leads nowhere is no poster";
 }
 
-TEST_F(Label12Test, AFolderThatIsNoneIsRefusedBeforeAnythingIsWritten) {
+TEST_F(Label12Test, AFolderThatCannotTakeItLeavesTheFilm) {
     ecran::choisit(stockage.Option3, 1);
-    stockage.Text4.Text = chemins.dossierTmp + "/Affiches";
-    choisitImage(dossier.ecrit("choix.jpg", image));
-    dialogues.attendMsgBox("Le dossier des images ne peut pas être " + chemins.dossierTmp +
-                               "/Affiches : Ambrelis efface ce que contient « Tmp » chaque fois qu'il se ferme.",
-                           dialogues::kCritique);
-    commande();
-    EXPECT_EQ(affiche(), "");
+    const std::string barrage = dossier.ecrit("barrage", "") + "/Images", tmp = chemins.dossierTmp + "/Affiches";
+    const std::pair<std::string, std::string> cas[]{
+        {barrage, "Le fichier image " + barrage +
+                      "/Le titre  1 - R.jpg n'a pas pu être écrit (Disque plein/Lecture "
+                      "seule ?)"},
+        {tmp, "Le dossier des images ne peut pas être " + tmp +
+                  " : Ambrelis efface ce que contient « Tmp » chaque fois qu'il se ferme."}};
+    for (const auto& [place, message] : cas) {
+        stockage.Text4.Text = place;
+        choisitImage(dossier.ecrit("choix.jpg", image));
+        dialogues.attendMsgBox(message, dialogues::kCritique);
+        commande();
+        EXPECT_EQ(affiche(), "");
+        EXPECT_FALSE(base.base.enTransaction());
+    }
     EXPECT_TRUE(std::filesystem::is_empty(chemins.dossierTmp));
 }
 
@@ -120,18 +128,6 @@ TEST_F(Label12Test, WhatCannotBeTakenIsRefused) {
     EXPECT_EQ(affiche(), "");
     attache(dossier.ecrit("juste.jpg", std::string(230000, 'x')));
     EXPECT_EQ(affiche().size(), 230003U);
-}
-
-TEST_F(Label12Test, AFolderThatCannotBeWrittenLeavesTheFilm) {
-    ecran::choisit(stockage.Option3, 1);
-    stockage.Text4.Text = dossier.ecrit("barrage", "") + "/Images";
-    choisitImage(dossier.ecrit("choix.jpg", image));
-    dialogues.attendMsgBox("Le fichier image " + stockage.Text4.Text +
-                               "/Le titre  1 - R.jpg n'a pas pu être écrit (Disque plein/Lecture seule ?)",
-                           dialogues::kCritique);
-    commande();
-    EXPECT_EQ(affiche(), "");
-    EXPECT_FALSE(base.base.enTransaction());
 }
 
 TEST_F(Label12Test, ALockedBaseLeavesTheFileThatStands) {

@@ -31,17 +31,6 @@ class RechercheTest : public Fenetre {
     }
 };
 
-TEST_F(RechercheTest, EachZoneHasItsFilms) {
-    const Titres zones[]{{"Avatar", "Bleu"}, {"Avatar", "Bleu", "Clair", "Été \"bleu\""},
-                         {"Avatar"},         {"Bleu"},
-                         {"Avatar"},         {"Clair", "Été \"bleu\""}};
-    for (int zone = 0; zone < 6; ++zone)
-        for (const int tri : {browse::kTriTitre1, browse::kTriTitre2}) {
-            montre(zone, tri);
-            EXPECT_EQ(titres(), zones[zone]) << zone;
-        }
-}
-
 TEST_F(RechercheTest, SortBySupportIsRefusedWhereFilmsHaveNoneAndTheTreeStays) {
     montre(browse::kZoneMesFilms, browse::kTriSupport);
     EXPECT_EQ(liste.triDeLArbre, browse::kTriSupport);
@@ -72,26 +61,6 @@ TEST_F(RechercheTest, ARefusedSortOfASearchLeavesTheSearchNamedAndShown) {
     EXPECT_EQ(liste.ChoixTri.ListIndex, browse::kTriTitre2);
     EXPECT_EQ(liste.ChoixZone.Text, "Recherche");
     EXPECT_EQ(titres(), (Titres{"Clair", "Été \"bleu\""}));
-}
-
-TEST_F(RechercheTest, AZoneListClosedWithoutAChoiceNamesTheSearchAgain) {
-    cherche("199", {0, 0, 1, 0}, 2);
-    for (int fois = 0; fois < 2; ++fois) {
-        choixZone.DropDown();
-        EXPECT_EQ(liste.ChoixZone.Text, "Mes films");
-        choixZone.CloseUp();
-        EXPECT_EQ(liste.ChoixZone.Text, "Recherche");
-        EXPECT_EQ(liste.ChoixZone.ListIndex, browse::kZoneRecherche);
-        EXPECT_EQ(liste.ChoixZone.ListCount(), 7);
-        affichageApresModification();
-        EXPECT_EQ(titres(), (Titres{"Clair", "Été \"bleu\""}));
-    }
-    choixZone.DropDown();
-    liste.ChoixZone.selectionne(browse::kZonePretes);
-    choixZone.Click();
-    choixZone.CloseUp();
-    EXPECT_EQ(liste.ChoixZone.Text, "Mes films prêtés");
-    EXPECT_EQ(liste.ChoixZone.ListCount(), 6);
 }
 
 TEST_F(RechercheTest, AnotherBaseEndsTheSearchInTheZoneItWasMadeIn) {
@@ -151,47 +120,6 @@ TEST_F(RechercheTest, AListingThatFailsTellsItAndTheTreeStillFindsItsFilms) {
     EXPECT_EQ(liste.noeudChoisi, -1);
 }
 
-TEST_F(RechercheTest, TheThreeRefusals) {
-    dialogues.attendMsgBox("Aucun texte à rechercher !", 48);
-    cherche("", {1, 0, 0, 0}, 0);
-    dialogues.attendMsgBox("Aucune zone de recherche précisée !", 48);
-    cherche("Bleu", {0, 0, 0, 0}, 0);
-    base.films.MoveFirst();
-    for (; !base.films.Eof(); base.films.MoveNext())
-        base.films.Delete();
-    dialogues.attendMsgBox("Aucun enregistrement déjà disponible !", 48);
-    cherche("Bleu", {1, 0, 0, 0}, 0);
-    EXPECT_EQ(liste.critereRecherche, "");
-    EXPECT_EQ(liste.ChoixZone.ListCount(), 6);
-}
-
-TEST_F(RechercheTest, TheSearchFindsItsTextInTheCheckedFieldsOfItsScope) {
-    const struct {
-        const char* texte;
-        std::array<int, 4> champs;
-        std::size_t portee;
-        Titres attendus;
-    } cas[]{
-        {"BLEU", {1, 0, 0, 0}, 0, {"Bleu", "Été \"bleu\""}},
-        {"\"bleu", {1, 0, 0, 0}, 0, {"Été \"bleu\""}},
-        {"199", {0, 0, 1, 0}, 0, {"Bleu", "Clair", "Été \"bleu\""}},
-        {"199", {0, 0, 1, 0}, 1, {"Bleu"}},
-        {"199", {0, 0, 1, 0}, 2, {"Clair", "Été \"bleu\""}},
-        {"K", {0, 1, 0, 1}, 0, {"Bleu"}},  // a film without a cast has no sum of positions
-        {"ete", {1, 0, 0, 0}, 0, {}},      // accents count
-        {"E\u0301TE\u0301", {1, 0, 0, 0}, 0, {"Été \"bleu\""}},
-    };
-    for (const auto& [texte, champs, portee, attendus] : cas) {
-        cherche(texte, champs, portee);
-        EXPECT_EQ(titres(), attendus) << texte << portee;
-        EXPECT_EQ(liste.ChoixZone.Text, "Recherche");
-        EXPECT_EQ(liste.ChoixZone.ListIndex, browse::kZoneRecherche);
-        EXPECT_EQ(liste.ChoixZone.ListCount(), 7);  // once only
-        EXPECT_EQ(liste.ChoixTri.ListIndex, browse::kTriTitre2);
-        EXPECT_FALSE(liste.occupe);
-    }
-}
-
 TEST_F(RechercheTest, TheSearchStaysUnderAnotherSortAndGoesWithAnotherZone) {
     cherche("199", {0, 0, 1, 0}, 2);
     liste.ChoixTri.selectionne(browse::kTriTitre1);
@@ -215,19 +143,6 @@ TEST_F(RechercheTest, ChangesTheProgramMakesRaiseNothing) {
     liste.ChoixTri.selectionne(-1);
     choixTri.Click();
     EXPECT_EQ(liste.TreeView1.Nodes.generation(), 0);
-}
-
-TEST_F(RechercheTest, TheDirectorOfTheSheetIsSearchedFor) {
-    montre(browse::kZoneTous, browse::kTriTitre2);
-    clique("Bleu");
-    recherche.ZoneRecherche[3].Value = 1;
-    lblRealisateur();
-    EXPECT_EQ(titres(), (Titres{"Bleu", "Clair"}));
-    EXPECT_EQ(liste.critereRecherche, R"(INSTR(Realisateur, "K")>0)");
-    EXPECT_TRUE(panneaux.frameRecherche.Visible);
-    EXPECT_FALSE(panneaux.frameFiche.Visible);
-    EXPECT_EQ(demandes.focus, "Text2");
-    EXPECT_EQ(demandes.boutonParDefaut, "cmdRecherche");
 }
 
 TEST_F(RechercheTest, AFilmIsSelectedByBothItsTexts) {

@@ -13,11 +13,6 @@ struct DoublonsTest : testing::Test {
     edit::Ressemblances ressemblances{essai.base, dialogues};
 };
 
-TEST_F(DoublonsTest, asksForTheTitleAndTheDirectorWithTheirQuotesDoubled) {
-    EXPECT_EQ(edit::requeteTitreDejaExistant("L'\"Été\"", "R"),
-              "SELECT * FROM films WHERE titre =\"L'\"\"Été\"\"\" AND Realisateur =  \"R\"ORDER BY Titre ASC ;");
-}
-
 TEST_F(DoublonsTest, findsAFilmByTitleAndDirectorAsTheBaseComparesThem) {
     essai.ajouteFilm("\"10\"", "Blake Edwards");
     essai.ajouteFilm("Note", "L'Œuvre");

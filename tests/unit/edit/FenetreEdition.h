@@ -19,18 +19,6 @@ class FenetreEdition : public Fenetre {
     [[nodiscard]] edit::OutilsTravail outils() {
         return {base.base, ecranMuet, progression, dialogues, horloge.montre()};
     }
-    std::vector<std::string> colonne(const std::string& source, const char* champ) {
-        std::vector<std::string> valeurs;
-        for (dao::Recordset lignes = base.base.OpenRecordset(source); !lignes.Eof(); lignes.MoveNext())
-            valeurs.push_back(lignes.texte(champ));
-        return valeurs;
-    }
     std::vector<std::string> titresDesFilms() { return colonne("Films", "Titre"); }
     std::vector<std::string> titresPossedes() { return colonne("Personnel", "Titre2"); }
-    [[nodiscard]] int noeud(std::string_view texte) const {
-        for (int i = 1; i <= liste.TreeView1.Nodes.Count(); ++i)
-            if (liste.TreeView1.Nodes.Text(i) == texte) return i;
-        ADD_FAILURE() << "no such node: " << texte;
-        return 0;
-    }
 };

@@ -45,20 +45,6 @@ TEST_F(NotesEtGroupesTest, AnAnswerFromOneToTenIsRoundedAnEmptyOneClears) {
     EXPECT_TRUE(base.base.OpenRecordset("Films").valeur("Note").estNull());
 }
 
-TEST_F(NotesEtGroupesTest, TheSortByRatingFollowsAndTheFilmStaysShown) {
-    ajouteFilm("L'a\"b", {{"Realisateur", "R"}, {"Note", 2}});
-    ajouteFilm("Zorro", {{"Realisateur", "R"}, {"Note", 5}});
-    notation.cmdModifieNote_Click();  // no current film: no question
-    montre(browse::kZoneTous, browse::kTriNote);
-    clique("L'a\"b");
-    attendNote("9");
-    notation.cmdModifieNote_Click();
-    EXPECT_THAT(arbreEnTexte(), ElementsAre("T1=5", ">K1=Zorro", "T2=9", ">K2=L'a\"b"));
-    EXPECT_EQ(liste.TreeView1.SelectedItem, noeud("L'a\"b"));
-    EXPECT_EQ(film.titre, "L'a\"b");
-    EXPECT_EQ(fiche.lblNote.Caption, "Note : 9/10");
-}
-
 TEST_F(NotesEtGroupesTest, AGenreIsRenamedUnderItsHeadingOnly) {
     for (const char* titre : {"Avatar", "Brazil"})
         ajouteFilm(titre, {{"Realisateur", "R"}, {"Genre", "Drame"}});

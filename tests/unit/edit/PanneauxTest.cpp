@@ -40,20 +40,6 @@ struct ModesAjoutTest : testing::Test {
     edit::ModesAjout modes{ajout, demandes, listes, doublons};
 };
 
-TEST_F(ModesAjoutTest, openTheAutomaticPageBackInAddMode) {
-    ajout.cmdAjoutFilm.Caption = "Modifier";
-    ajout.Frame13.Visible = true;
-    ajout.Command13[1].FontBold = true;
-    modes.Command13_Click(0);
-    EXPECT_FALSE(ajout.modeModifier());
-    EXPECT_TRUE(ajout.frameAjoutAuto.Visible);
-    EXPECT_FALSE(ajout.Frame13.Visible);
-    EXPECT_TRUE(ajout.Command13[0].FontBold);
-    EXPECT_FALSE(ajout.Command13[1].FontBold);
-    EXPECT_NE(ajout.Label5.Caption, "-");
-    EXPECT_EQ(demandes.focus, "txtRechInternet");
-}
-
 TEST_F(ModesAjoutTest, openAnEmptySheetWithWhatTheCatalogueKnows) {
     for (const auto& [genre, origine, production] : std::vector<std::array<dao::Valeur, 3>>{
              {"Péplum", "Italie", ""}, {"drame", dao::Valeur(), "MGM"}, {"", "États-Unis", "Mgm"}, {"Drame", "", ""}})

@@ -2,11 +2,9 @@
 #include "platform/fichiers/Fichiers.h"
 #include "unit/edit/FenetreEdition.h"
 #include "util/Capitales.h"
-#include "util/Texte.h"
 
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
 
 #include <gmock/gmock.h>
 
@@ -54,17 +52,6 @@ TEST_F(PonctuationTest, EveryTitleIsCorrectedOnceAndOwnedFilmsStillMatch) {
     corrige("Aucun titre modifié.");
     ajouteFilm("rocky");
     corrige("Un titre modifié.");
-}
-
-TEST_F(PonctuationTest, HugeTitlesTakeTimeByTheirLengthAlone) {
-    std::string titre;
-    while (titre.size() < 5'000'000)
-        titre += "l'été du parrain vii, ";
-    ajouteAvecPossession(titre, titre.c_str());
-    corrige("Un titre modifié.");
-    EXPECT_EQ(util::minuscules(titresPossedes()[0]), titre);
-    EXPECT_EQ(titresPossedes()[0].substr(0, 24), "L'Été Du Parrain VII, ");
-    EXPECT_EQ(titresDesFilms()[0], titresPossedes()[0]);
 }
 
 TEST_F(PonctuationTest, AStopAnywhereKeepsOwnedFilmsMatching) {

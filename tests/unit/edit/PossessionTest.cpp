@@ -26,11 +26,6 @@ class Possession : public Fenetre {
         ecran::choisit(fiche.Option1, option);
         saisie.Option1_Click();
     }
-    void prete(const std::string& a) {
-        fiche.Combo7[0].Text = a;
-        saisie.Combo7_Change();
-        valider();
-    }
     dao::Valeur lu(const char* champ) { return base.base.OpenRecordset("Personnel").valeur(champ); }
 };
 
@@ -81,26 +76,6 @@ TEST_F(Possession, isWrittenFromThePanelAndDeletedWithIt) {
     fiche.Text10[3].Text = "Cave";
     valider();
     EXPECT_EQ(lu("Rangement"), dao::Valeur("Cave"));
-    EXPECT_EQ(lu("Pret"), dao::Valeur(""));
-}
-
-TEST_F(Possession, followsTheFilmBetweenTheZones) {
-    constexpr int kNonPretes = 2, kPretes = 3;
-    possede("Alien", "Ridley \"R\" Scott", {{"Pret", ""}});
-    possede("Solaris", "Tarkovski", {{"Pret", ""}});
-    montre(kNonPretes, browse::kTriTitre2);
-    clique("Alien");
-    prete("Zoé");
-    EXPECT_THAT(titres(), ElementsAre("Solaris"));
-    EXPECT_TRUE(film.titre.empty());
-    EXPECT_TRUE(panneaux.framePresentation.Visible);
-    valider();  // no film is shown any more: whatever the panel holds is nobody's
-    EXPECT_EQ(base.personnel.RecordCount(), 2);
-
-    montre(kPretes, browse::kTriTitre2);
-    clique("Alien");
-    prete("");
-    EXPECT_THAT(titres(), IsEmpty());
     EXPECT_EQ(lu("Pret"), dao::Valeur(""));
 }
 

@@ -130,33 +130,6 @@ TEST_F(SuppressionTest, AHoldingThatCannotGoKeepsItsFilm) {
     EXPECT_THAT(titresPossedes(), ElementsAre("Avatar", "Zorro"));
 }
 
-TEST_F(SuppressionTest, TheCheckBoxesComeAndGoWithTheirOption) {
-    multi.cmdMultiSuppress_Click();
-    EXPECT_TRUE(panneaux.frameMultiSuppression.Visible);
-    EXPECT_FALSE(panneaux.framePresentation.Visible);
-    for (const bool active : {true, false}) {
-        ecran::choisit(Option4, active ? 1 : 0);
-        multi.Option4_Click();
-        EXPECT_EQ(liste.TreeView1.Checkboxes, active);
-        EXPECT_EQ(cmdSupprTitresSelect.Visible, active);
-    }
-}
-
-TEST_F(SuppressionTest, OnlyTickedFilmsCountAndRefusingKeepsTheTicks) {
-    ajouteFilm("Avatar");
-    ajouteFilm("Zorro");
-    montre(browse::kZoneTous, browse::kTriTitre1);
-    liste.TreeView1.coches = {noeud("A")};
-    dialogues.attendMsgBox("Aucun film n'a été coché !", 48);
-    multi.cmdSupprTitresSelect_Click();
-    coche({"Avatar", "Zorro"});
-    const std::set<int> coches = liste.TreeView1.coches;
-    dialogues.attendMsgBox("Voulez-vous vraiment supprimer ces 2 titres ?", 36, dialogues::kNon);
-    multi.cmdSupprTitresSelect_Click();
-    EXPECT_EQ(liste.TreeView1.coches, coches);
-    EXPECT_EQ(titresDesFilms().size(), 2U);
-}
-
 TEST_F(SuppressionTest, TheOwnershipOnTheScreenDecidesForEveryTickedFilm) {
     for (const bool possedeALEcran : {false, true}) {
         for (const char* titre : {"Avatar", "Brazil", "Zorro"}) {

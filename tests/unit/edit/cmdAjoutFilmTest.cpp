@@ -36,8 +36,6 @@ class cmdAjoutFilm : public Fenetre {
     edit::Doublons doublons{base, dialogues};
     edit::ModesAjout modes{ajout, demandes, listes, doublons};
     edit::EnregistrementFilm enregistrement{base, ajout, stockage, chemins, film, dialogues};
-    ecran::EtatAvis etatAvis;
-    ecran::Avis avis{etatAvis};
     browse::MontreFilm montreFilm{base, liste, film, affichageApresModification, selectionneTitre, dialogues};
     edit::cmdModifierTitre_Click cmdModifierTitre{base, ajout, film, volet, modes, avis, dialogues};
     edit::cmdAjoutFilm_Click commande{
@@ -71,35 +69,12 @@ class cmdAjoutFilm : public Fenetre {
             {"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", dossier.chemin("Images") + "/"}, reponse);
     }
     void attendRefus(const std::string& texte) { dialogues.attendMsgBox(texte, dialogues::kExclamation); }
-    // One column of a table's rows, or of a statement's.
-    std::vector<std::string> colonne(const std::string& source, const std::string& champ) {
-        std::vector<std::string> valeurs;
-        for (dao::Recordset lignes = base.base.OpenRecordset(source); !lignes.Eof(); lignes.MoveNext())
-            valeurs.push_back(lignes.texte(champ));
-        return valeurs;
-    }
     std::string filmChoisi() {  // the selected node, and the sheet
         const browse::Arbre& noeuds = liste.TreeView1.Nodes;
         const int noeud = liste.TreeView1.SelectedItem;
         return (noeud == 0 ? "" : std::string(noeuds.Text(noeud))) + "/" + film.titre;
     }
 };
-
-TEST_F(cmdAjoutFilm, refusesInOrderAndWritesNothing) {
-    ajouteFilm("Alien", {{"Realisateur", "Ridley Scott"}});
-    ouvreSaisie("", "");
-    attendRefus("Le titre du film est obligatoire !");
-    commande();
-    saisis("ALIEN", "");
-    attendRefus("Le réalisateur du film est obligatoire !");
-    commande();
-    saisis("ALIEN", "ridley scott ");
-    attendRefus(kDoublon);
-    commande();
-    dialogues.verifie();
-    EXPECT_EQ(base.films.RecordCount(), 1);
-    EXPECT_EQ(base.personnel.RecordCount(), 0);
-}
 
 TEST_F(cmdAjoutFilm, asksForThePosterUntilItCanBeTaken) {
     const std::string octets = "\xFF\xD8" + std::string(229997, 'x');  // 229,999 bytes
