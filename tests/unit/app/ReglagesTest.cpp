@@ -27,12 +27,6 @@ struct Cas {
     std::string attendu;
 };
 
-class LectureReglages : public testing::TestWithParam<Cas> {};
-
-TEST_P(LectureReglages, TakesEachLineForItself) {
-    EXPECT_EQ(valeurs(litReglages(GetParam().texte, kDossier)), GetParam().attendu);
-}
-
 const Cas kCas[] = {
     {"empty", "", "0||0|0|0||0|0|"},
     {"all_lines", "1\n/img/\n12000\n9000\n3\n/b/Été.mdb\n1\n1\n", "1|/img/|12000|9000|3|/b/Été.mdb|1|1|"},
@@ -60,8 +54,10 @@ const Cas kCas[] = {
     {"more_than_eight_lines", "1\n\n0\n0\n0\n/b\n0\n1\n" + std::string(1000, '\n'), "1||0|0|0|/b|0|1|"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Fichiers, LectureReglages, testing::ValuesIn(kCas),
-                         [](const auto& cas) { return cas.param.nom; });
+TEST(Reglages, TakesEachLineForItself) {
+    for (const Cas& cas : kCas)
+        EXPECT_EQ(valeurs(litReglages(cas.texte, kDossier)), cas.attendu) << cas.nom;
+}
 
 TEST(Reglages, WriteEightLinesOfPlainValues) {
     const Reglages reglages{1, "/img/", 12000, 9000, 3, "/b/Été.mdb", true, false};
