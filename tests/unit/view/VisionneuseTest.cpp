@@ -33,38 +33,6 @@ class Visionneuse : public Fenetre {
     void chargeTaille(int largeur, int hauteur) { visionneuse.afficheChargee(ecran::TailleImage{largeur, hauteur}); }
 };
 
-TEST_F(Visionneuse, TakesThePicturesSizeUpToTheScreens) {
-    const int gauche = etat.HScroll1.Left, barre = etat.HScroll1.Height;
-    chargeTaille(400, 600);
-    EXPECT_EQ(etat.Width, 400 * kT + gauche + 500) << "while the screen is not known";
-    EXPECT_EQ(etat.Height, 600 * kT + 2 * barre);
-    EXPECT_EQ(etat.lblTaille.Caption, "400 × 600 pixels");
-    EXPECT_EQ(etat.HScroll1.Width, etat.Width - gauche - 90);
-    etat.largeurEcran = 1024 * kT;
-    etat.hauteurEcran = 768 * kT;
-    chargeTaille(4000, 300);
-    EXPECT_EQ(etat.Width, 1024 * kT);
-    EXPECT_EQ(etat.Height, 300 * kT + 2 * barre);
-    chargeTaille(300, 6000);
-    EXPECT_EQ(etat.Height, 768 * kT);
-    visionneuse.Form_Resize(gauche + 150, 10);
-    EXPECT_EQ(etat.HScroll1.Width, 100) << "never narrower";
-}
-
-TEST_F(Visionneuse, TheBarsPercentageMovesThePictureAndANewPictureBeginsAtItsTop) {
-    chargeTaille(400, 600);
-    const int haut = etat.HScroll1.Height;
-    for (const auto& [valeur, top] :
-         {std::pair(0, haut), std::pair(25, haut - 150 * kT), std::pair(100, haut - 600 * kT)}) {
-        etat.HScroll1.Value = valeur;
-        visionneuse.HScroll1_Change();
-        EXPECT_EQ(etat.Picture1.Top, top) << valeur;
-    }
-    chargeTaille(200, 300);
-    EXPECT_EQ(etat.HScroll1.Value, 0);
-    EXPECT_EQ(etat.Picture1.Top, haut);
-}
-
 TEST_F(Visionneuse, IsDraggedAsFarAsThereIsSomethingToUncover) {
     etat.largeurEcran = etat.hauteurEcran = 500 * kT;
     chargeTaille(1000, 1000);
