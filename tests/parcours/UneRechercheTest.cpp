@@ -62,6 +62,7 @@ TEST_F(UneRecherche, FindsEverySignAsItIs) {
         {"🎉", {1, 0, 0, 0}, {"La Fête 🎉"}},
         {"FÊTE", {1, 0, 0, 0}, {"La Fête 🎉"}},
         {"fete", {1, 0, 0, 0}, {}},
+        {"FE\u0302TE", {1, 0, 0, 0}, {"La Fête 🎉"}},
         {"197", {0, 0, 1, 0}, {"L'Argent de poche", "M*A*S*H"}},
     };
     for (const auto& [texte, champs, trouves] : cas) {
@@ -77,9 +78,9 @@ TEST_F(UneRecherche, AFieldWithoutAValueHidesItsFilm) {
         const char* texte;
         std::array<int, 4> champs;
         std::size_t portee, nombre;
-    } cas[]{{"muet", {1, 0, 0, 1}, 0, 0},    {"muet", {1, 1, 1, 0}, 0, 1},     {"muet", {1, 0, 0, 0}, 1, 1},
-            {"muet", {1, 0, 0, 0}, 2, 0},    {"orphelin", {1, 1, 0, 0}, 0, 0}, {"orphelin", {1, 0, 0, 0}, 2, 0},
-            {"orphelin", {1, 0, 0, 0}, 1, 1}};
+    } cas[]{{"muet", {1, 0, 0, 1}, 0, 0},     {"muet", {1, 1, 1, 0}, 0, 1},     {"muet", {1, 0, 0, 0}, 1, 1},
+            {"muet", {1, 0, 0, 0}, 2, 0},     {"orphelin", {1, 1, 0, 0}, 0, 0}, {"orphelin", {1, 0, 0, 0}, 2, 0},
+            {"orphelin", {1, 0, 0, 0}, 1, 1}, {"33", {1, 0, 0, 0}, 2, 1}};
     for (const auto& [texte, champs, portee, nombre] : cas) {
         cherche(execution, texte, champs, portee);
         EXPECT_EQ(arbre(etats).size(), nombre) << texte << " " << portee;
