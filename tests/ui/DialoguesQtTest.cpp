@@ -35,9 +35,12 @@ void surLaBoite(const std::function<void(Boite&)>& action) {
     minuterie->start(1);
 }
 
-TEST(DialoguesQt, AQuestionSpeaksFrenchAndIsShownPlainly) {
+struct DialoguesQt : testing::Test {
     ui::Liaison liaison;
-    ui::DialoguesQt boites(liaison);
+    ui::DialoguesQt boites{liaison};
+};
+
+TEST_F(DialoguesQt, AQuestionSpeaksFrenchAndIsShownPlainly) {
     surLaBoite<QMessageBox>([](QMessageBox& boite) {
         EXPECT_EQ(boite.icon(), QMessageBox::Question);
         EXPECT_EQ(boite.windowTitle(), "Ambrelis");
@@ -51,9 +54,7 @@ TEST(DialoguesQt, AQuestionSpeaksFrenchAndIsShownPlainly) {
         << "closing answers No";
 }
 
-TEST(DialoguesQt, ABoxBelongsToTheWindowInUse) {
-    ui::Liaison liaison;
-    ui::DialoguesQt boites(liaison);
+TEST_F(DialoguesQt, ABoxBelongsToTheWindowInUse) {
     QWidget principale, visionneuse;
     principale.show();
     boites.metParent(&principale);
@@ -70,9 +71,7 @@ TEST(DialoguesQt, ABoxBelongsToTheWindowInUse) {
 }
 
 // A report of a whole life's import: the box comes at once, keeps its text, and lists it line by line.
-TEST(DialoguesQt, ALongReportIsAListThatIsScrolledSelectedAndCopied) {
-    ui::Liaison liaison;
-    ui::DialoguesQt boites(liaison);
+TEST_F(DialoguesQt, ALongReportIsAListThatIsScrolledSelectedAndCopied) {
     dialogues::Rapport rapport{"100000 films ajoutés.\n- Déjà existant : \n",
                                {"100000 films ajoutés.", "- Déjà existant : "}};
     std::string parLignes = rapport.lignes[0] + "\n" + rapport.lignes[1];
@@ -97,9 +96,7 @@ TEST(DialoguesQt, ALongReportIsAListThatIsScrolledSelectedAndCopied) {
     boites.montre(rapport);
 }
 
-TEST(DialoguesQt, TheTextOfABoxIsSelectedAndCopied) {
-    ui::Liaison liaison;
-    ui::DialoguesQt boites(liaison);
+TEST_F(DialoguesQt, TheTextOfABoxIsSelectedAndCopied) {
     surLaBoite<QMessageBox>([](QMessageBox& boite) {
         ASSERT_TRUE(QTest::qWaitForWindowActive(&boite, essais::kPatience));
         auto* texte = boite.findChild<QLabel*>("qt_msgbox_label");
@@ -116,9 +113,7 @@ TEST(DialoguesQt, TheTextOfABoxIsSelectedAndCopied) {
               dialogues::kOk);
 }
 
-TEST(DialoguesQt, AnInputAnswersItsTextOrNothing) {
-    ui::Liaison liaison;
-    ui::DialoguesQt boites(liaison);
+TEST_F(DialoguesQt, AnInputAnswersItsTextOrNothing) {
     surLaBoite<QInputDialog>([](QInputDialog& boite) {
         EXPECT_EQ(boite.textValue(), "Comédie");
         EXPECT_EQ(boite.findChild<QLabel*>()->textFormat(), Qt::PlainText);
@@ -132,9 +127,7 @@ TEST(DialoguesQt, AnInputAnswersItsTextOrNothing) {
     EXPECT_EQ(boites.InputBox("Quel genre ?", "Modifier le genre", "Comédie"), "");
 }
 
-TEST(DialoguesQt, APasswordIsNotShown) {
-    ui::Liaison liaison;
-    ui::DialoguesQt boites(liaison);
+TEST_F(DialoguesQt, APasswordIsNotShown) {
     for (const std::string saisi : {"L'Été", ""}) {
         surLaBoite<QInputDialog>([&](QInputDialog& boite) {
             EXPECT_EQ(boite.findChild<QLineEdit*>()->echoMode(), QLineEdit::Password);
@@ -148,10 +141,8 @@ TEST(DialoguesQt, APasswordIsNotShown) {
 }
 
 // The path browsed for stands in the box without the extension that will be appended to it.
-TEST(DialoguesQt, APathIsTypedOrBrowsedFor) {
+TEST_F(DialoguesQt, APathIsTypedOrBrowsedFor) {
     const doubles::DossierTemporaire dossier;
-    ui::Liaison liaison;
-    ui::DialoguesQt boites(liaison);
     for (const bool ajoutee : {false, true}) {
         const std::string tape = dossier.chemin("Été") + (ajoutee ? "" : ".txt");
         surLaBoite<QInputDialog>([&](QInputDialog& boite) {
@@ -171,10 +162,8 @@ TEST(DialoguesQt, APathIsTypedOrBrowsedFor) {
 }
 
 // Who asks for a file has its own words for one that is not there.
-TEST(DialoguesQt, TheFileBoxAcceptsTheTypedNameOfAFileThatIsNotThere) {
+TEST_F(DialoguesQt, TheFileBoxAcceptsTheTypedNameOfAFileThatIsNotThere) {
     const doubles::DossierTemporaire dossier;
-    ui::Liaison liaison;
-    ui::DialoguesQt boites(liaison);
     for (const bool peutCreer : {true, false}) {
         surLaBoite<QFileDialog>([&](QFileDialog& boite) {
             EXPECT_EQ(boite.acceptMode(), QFileDialog::AcceptOpen);
@@ -187,13 +176,11 @@ TEST(DialoguesQt, TheFileBoxAcceptsTheTypedNameOfAFileThatIsNotThere) {
     }
 }
 
-TEST(DialoguesQt, TheFileBoxSaysWhyItLeavesNamesOut) {
+TEST_F(DialoguesQt, TheFileBoxSaysWhyItLeavesNamesOut) {
     const doubles::DossierTemporaire dossier;
     dossier.ecrit("Été.jpg", "x");
     dossier.ecrit("dedans/Film\xE9.jpg", "x");
     dossier.ecrit("dedans/\xC9t\xE9.jpg", "x");
-    ui::Liaison liaison;
-    ui::DialoguesQt boites(liaison);
     surLaBoite<QFileDialog>([&](QFileDialog& boite) {
         auto* texte = boite.findChild<QLabel*>("lblNomsIllisibles");
         EXPECT_FALSE(texte->isVisible());
@@ -207,10 +194,8 @@ TEST(DialoguesQt, TheFileBoxSaysWhyItLeavesNamesOut) {
     EXPECT_EQ(boites.choisitFichier({"Choix", "Fichiers JPEG|*.jpg", dossier.chemin(), false}), "");
 }
 
-TEST(DialoguesQt, APlaceForAPathOfWindowsIsChosenUnderItsName) {
+TEST_F(DialoguesQt, APlaceForAPathOfWindowsIsChosenUnderItsName) {
     const doubles::DossierTemporaire dossier;
-    ui::Liaison liaison;
-    ui::DialoguesQt boites(liaison);
     const auto enregistre = [&](QFileDialog& boite) {
         EXPECT_EQ(boite.acceptMode(), QFileDialog::AcceptSave);
         EXPECT_EQ(boite.findChild<QLineEdit*>("fileNameEdit")->text(), "FILMS.txt");
@@ -229,7 +214,7 @@ TEST(DialoguesQt, APlaceForAPathOfWindowsIsChosenUnderItsName) {
               dossier.chemin("FILMS.txt"));
 }
 
-TEST(DialoguesQt, FiltersTakeBothLetterCases) {
+TEST(Filtres, TakeBothLetterCases) {
     EXPECT_EQ(ui::filtreQt("Fichiers JPEG|*.jpg"), "Fichiers JPEG (*.jpg *.JPG)");
     EXPECT_EQ(ui::filtreQt("Tous types de fichiers|*.*"), "Tous types de fichiers (*)");
     EXPECT_EQ(ui::filtreQt(""), " (*)");

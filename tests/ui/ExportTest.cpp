@@ -28,6 +28,10 @@ TEST(Export, TheLastFileIsOpenedFromItsLine) {
     EXPECT_FALSE(essai.trouve("frameAvis").isVisible());
 
     essai.clique("cmdConfigurer");
+    essai.boites.reponse = essai.dossier.chemin("liste");
+    essai.clique("cmdCreerListe");
+    EXPECT_TRUE(essai.dossier.lit("liste.rtf").starts_with("{\\rtf1"));
+    EXPECT_EQ(essai.documents.fichiers.back(), essai.dossier.chemin("liste.rtf"));
     essai.boites.reponse = essai.dossier.chemin("absent/liste");
     essai.clique("cmdCreerListe");
     EXPECT_EQ(essai.texte("lblAvis"),

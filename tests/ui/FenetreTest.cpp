@@ -165,20 +165,6 @@ TEST_F(Fenetre, DeletingAFilmLeavesTheOtherHeadingsOpen) {
     EXPECT_EQ(modele.rowCount(modele.index(2, 0)), 1);
 }
 
-TEST_F(Fenetre, WhatIsTypedOfAnOwnedCopyIsStored) {
-    importe();
-    essai.cliqueTitre("Avatar");
-    essai.clique("cmdAutresInfos");
-    EXPECT_FALSE(essai.trouve("cmdValiderInfosPossessions").isVisible());
-    QTest::keyClicks(&essai.trouve("Text10_3"), "Grenier");
-    EXPECT_EQ(essai.trouve<QLineEdit>("Text10_3").text(), "Grenier") << "each letter is a gesture, and stays";
-    essai.clique("cmdValiderInfosPossessions");
-    essai.cliqueTitre("Écrit Sur Du Vent");
-    EXPECT_EQ(essai.trouve<QLineEdit>("Text10_3").text(), "");
-    essai.cliqueTitre("Avatar");
-    EXPECT_EQ(essai.trouve<QLineEdit>("Text10_3").text(), "Grenier");
-}
-
 TEST_F(Fenetre, SearchIsTypedAndStartedWithEnter) {
     importe();
     essai.clique("cmdFonctionRecherche");

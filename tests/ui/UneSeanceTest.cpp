@@ -105,25 +105,6 @@ struct UneSeance : testing::Test {
         EXPECT_THAT(changements(), UnorderedElementsAre("*Films : " + parrain, "*Personnel : " + parrain));
     }
 
-    void possedePreteEtNote() {
-        clique("cmdAutresInfos");
-        clique("Option1_0");
-        clique("cmdValiderInfosPossessions");
-        EXPECT_EQ(filmMontre(), parrain);
-        EXPECT_THAT(changements(), UnorderedElementsAre("-Personnel : " + parrain));
-        clique("cmdAutresInfos");
-        clique("Option1_1");
-        tape("Combo7_0", "Zoe");
-        clique("cmdValiderInfosPossessions");
-        EXPECT_EQ(filmMontre(), parrain);
-        EXPECT_THAT(changements(), UnorderedElementsAre("+Personnel : " + parrain));
-        essai.boites.reponse = "8";
-        clique("cmdModifieNote");
-        EXPECT_EQ(filmMontre(), parrain);
-        EXPECT_EQ(essai.texte("lblNote"), "Note : 8/10");
-        EXPECT_THAT(changements(), UnorderedElementsAre("*Films : " + parrain));
-    }
-
     void renommeUnGenre() {
         essai.choisit("ChoixTri", 4);
         essai.cliqueTitre("Mafia", Qt::RightButton);
@@ -166,13 +147,6 @@ struct UneSeance : testing::Test {
         EXPECT_EQ(filmMontre(), "");
     }
 
-    void corrigeLesTitres() {
-        clique("cmdConfigurer");
-        clique("cmdPonctuation");
-        EXPECT_THAT(changements(), UnorderedElementsAre("*Films : Le Parrain III de Francis Ford Coppola",
-                                                        "*Personnel : Le Parrain III de Francis Ford Coppola"));
-    }
-
     void quitteEtRevient() {
         clique("cmdStop");
         EXPECT_FALSE(essai.fenetre().isVisible());
@@ -180,11 +154,9 @@ struct UneSeance : testing::Test {
         essai.demarre();
         EXPECT_EQ(essai.texte("Label9_0") + ", " + essai.texte("Label9_1"), "2 titres, 2 personnels");
         EXPECT_EQ(essai.trouve<QComboBox>("ChoixTri").currentIndex(), 4);
-        essai.cliqueTitre("Le Parrain III");
-        EXPECT_EQ(filmMontre(), "Le Parrain III de Francis Ford Coppola");
-        EXPECT_EQ(essai.texte("lblNote"), "Note : 8/10");
+        essai.cliqueTitre("le parrain iii");
+        EXPECT_EQ(filmMontre(), parrain);
         EXPECT_EQ(essai.texte("Label1_6"), "Policier");
-        EXPECT_EQ(essai.trouve<QComboBox>("Combo7_0").currentText(), "Zoe");
         EXPECT_THAT(changements(), IsEmpty());
     }
 };
@@ -193,11 +165,9 @@ TEST_F(UneSeance, ByMouseAndKeysFromAFreshStartToTheNextOne) {
     importeEtCherche();
     ajouteALaMain();
     modifie();
-    possedePreteEtNote();
     renommeUnGenre();
     cocheEtSupprime();
     supprimeAuClavier();
-    corrigeLesTitres();
     quitteEtRevient();
 }
 
