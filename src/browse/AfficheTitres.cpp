@@ -124,7 +124,7 @@ void AfficheTitres::AffStats_Click() {
     for (const std::int32_t noeud : arbre.enfants(0)) {
         if (!arbre.estGroupe(noeud)) return;  // a flat list
         const std::size_t siens = arbre.enfants(noeud).size();
-        const auto dixiemes = siens == 0 ? 0 : siens * 1000 / films;
+        const auto dixiemes = films == 0 ? 0 : siens * 1000 / films;
         const bool montre = m_liste.AffStats.Value == 1 && siens != 0;
         const std::string pourcentage = util::texteDuNombre(static_cast<double>(dixiemes) / 10, separateur);
         arbre.changeSuiteGroupe(noeud, montre ? " (" + pourcentage + " %)" : "");

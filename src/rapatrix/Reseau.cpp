@@ -125,14 +125,14 @@ bool Reseau::reprend() {
 void Reseau::rends(Reponse::Etat etat) {
     Reponse reponse;
     reponse.etat = etat;
-    reponse.octets = std::move(m_octets);
+    reponse.octets = std::exchange(m_octets, {});
     if (m_reponse) {
         reponse.code = codeHttp(*m_reponse);
         reponse.codage = codageDit(*m_reponse);
         reponse.adresse = m_reponse->url();
         reponse.attente = std::chrono::seconds(m_reponse->rawHeader("Retry-After").toInt());
     }
-    const Suite suite = std::move(m_suite);
+    const Suite suite = std::exchange(m_suite, nullptr);
     arrete();
     if (suite) suite(reponse);
 }

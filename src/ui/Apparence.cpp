@@ -20,7 +20,6 @@ constexpr std::chrono::milliseconds kAttenteDeLaTeinte{50};
 
 // The colours of the application: the desktop's own palette where there is one, else the program's.
 class Habillage final : public QObject {
-    Q_OBJECT
   public:
     explicit Habillage(QObject* parent) : QObject(parent) {
         applique();
@@ -91,9 +90,8 @@ void habille(const std::string& dossierProgramme) {
 }
 
 void suisLaTeinteDuBureau() {
-    if (auto* habillage = qApp->findChild<Habillage*>()) habillage->suisLeBureau();
+    for (QObject* enfant : qApp->children())
+        if (auto* habillage = dynamic_cast<Habillage*>(enfant)) habillage->suisLeBureau();
 }
 
 }  // namespace ui
-
-#include "Apparence.moc"

@@ -73,7 +73,7 @@ class DossiersLus {
     }
 
     std::map<Identite, Lu> m_lus;
-    const NomsParCle m_aucun;
+    const NomsParCle m_aucun{};
 };
 
 bool estUnRenvoi(std::string_view nom) {
