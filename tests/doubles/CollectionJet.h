@@ -25,39 +25,27 @@ inline void filmJet(BaseJet& base, const std::string& titre, const std::string& 
 // A small collection as a genuine Jet base: films 0 to `films` - 1 ("Été 0", "Été 1"...), each with a summary over two
 // pages and its picture in the base; the first two are owned. A third table and a field more have no place in ours.
 inline BaseJet collectionJet(int films, std::size_t tailleImage = 6000) {
-    using Champ = BaseJet::Champ;
+    const auto champs = [](std::initializer_list<const char*> noms) {
+        std::vector<BaseJet::Champ> tous;
+        for (const std::string nom : noms)
+            tous.push_back({nom, nom == "NOTE"                                            ? BaseJet::Entier16
+                                 : nom == "Resume" || nom == "Affiche" || nom == "Divers" ? BaseJet::Memo
+                                                                                          : BaseJet::Texte});
+        return tous;
+    };
     BaseJet base;
     base.comprime = true;
-    base.table("films", {Champ{"Titre"},
-                         {"Realisateur"},
-                         {"Annee"},
-                         {"Origine"},
-                         {"Genre"},
-                         {"Duree"},
-                         {"Acteurs"},
-                         {"Resume", BaseJet::Memo},
-                         {"Production"},
-                         {"Affiche", BaseJet::Memo},
-                         {"NOTE", BaseJet::Entier16},
-                         {"DateAjout"},
-                         {"Format"}});
+    base.table("films", champs({"Titre", "Realisateur", "Annee", "Origine", "Genre", "Duree", "Acteurs", "Resume",
+                                "Production", "Affiche", "NOTE", "DateAjout", "Format"}));
     for (int film = 0; film < films; ++film)
         filmJet(base, "Été " + std::to_string(film), "STO" + util::depuis1252(imageJet(film, tailleImage)));
-    const std::size_t possessions = base.table("Personnel", {Champ{"Titre2"},
-                                                             {"Realisateur2"},
-                                                             {"Rangement"},
-                                                             {"Fichier1"},
-                                                             {"Fichier2"},
-                                                             {"Fichier3"},
-                                                             {"Pret"},
-                                                             {"Reserve"},
-                                                             {"Date"},
-                                                             {"Divers", BaseJet::Memo},
-                                                             {"Support"}});
+    const std::size_t possessions =
+        base.table("Personnel", champs({"Titre2", "Realisateur2", "Rangement", "Fichier1", "Fichier2", "Fichier3",
+                                        "Pret", "Reserve", "Date", "Divers", "Support"}));
     for (int film = 0; film < films && film < 2; ++film)
         base.ligne(possessions, {"Été " + std::to_string(film), "Agnès Varda", "Salon", "D:\\Films\\été.avi",
                                  std::nullopt, "", "", std::nullopt, "13/03/2004", "prêté", "DVD"});
-    base.table("Notes diverses", {Champ{"Texte"}});
+    base.table("Notes diverses", champs({"Texte"}));
     return base;
 }
 

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -11,6 +12,12 @@
 #include <stdlib.h>
 
 namespace doubles {
+
+// A folder of the real data, which is no part of the checkout: it may be absent.
+inline std::filesystem::path donneesReelles(std::string_view dossier) {
+    const char* choisies = getenv("AMBRELIS_DONNEES");
+    return std::filesystem::path(choisies ? choisies : AMBRELIS_DONNEES_DEFAUT) / dossier;
+}
 
 // A folder of its own for one test, deleted with all it holds. Names are relative to it; a name with folders makes them.
 class DossierTemporaire {
@@ -44,6 +51,14 @@ class DossierTemporaire {
         std::ifstream fichier(chemin(nom), std::ios::binary);
         if (!fichier) throw std::runtime_error("no such file: " + chemin(nom));
         return {std::istreambuf_iterator<char>(fichier), {}};
+    }
+    // Every file under it with its bytes.
+    [[nodiscard]] std::map<std::string, std::string> contenu() const {
+        std::map<std::string, std::string> fichiers;
+        for (const auto& entree : std::filesystem::recursive_directory_iterator(m_chemin))
+            if (const std::string nom = entree.path().lexically_relative(m_chemin); entree.is_regular_file())
+                fichiers[nom] = lit(nom);
+        return fichiers;
     }
     [[nodiscard]] bool existe(std::string_view nom) const { return std::filesystem::exists(chemin(nom)); }
 

@@ -1,27 +1,56 @@
 #include "db/ConversionJet.h"
 #include "doubles/CollectionJet.h"
-#include "doubles/CollectionJson.h"
 #include "doubles/DossierTemporaire.h"
 #include "doubles/EcranMuet.h"
 #include "platform/dao/DBEngine.h"
 
-#include <cstdlib>
 #include <filesystem>
+#include <map>
 
 #include <glib.h>
 #include <gmock/gmock.h>
+#include <sqlite3.h>
 
 namespace {
 
 namespace fs = std::filesystem;
 using ::testing::ContainerEq;
 
-// Genuine Jet bases among the real data, and what a base of ours holds in the form that tells them.
-std::filesystem::path dossierBasesJet() {
-    const char* choisi = std::getenv("AMBRELIS_DONNEES");
-    return std::filesystem::path(choisi ? choisi : AMBRELIS_DONNEES_DEFAUT) / "bases-jet";
+// The fields of a row by their names; nothing for Null. A poster is "STO <bytes> <sha256>".
+using LigneJson = std::map<std::string, std::optional<std::string>>;
+
+// The rows that a table of real data is said to hold, in their order. Throws when the file cannot be understood.
+std::vector<LigneJson> litCollection(const std::string& chemin, const std::string& table) {
+    std::ifstream flux(chemin, std::ios::binary);
+    const std::string json{std::istreambuf_iterator<char>(flux), {}};
+    sqlite3* base = nullptr;
+    sqlite3_stmt* lignes = nullptr;
+    sqlite3_open(":memory:", &base);
+    sqlite3_prepare_v2(
+        base,
+        "SELECT l.key, c.key, CASE c.type WHEN 'object' THEN json_extract(c.value, '$.prefixe') || ' ' ||"
+        " json_extract(c.value, '$.octets') || ' ' || json_extract(c.value, '$.sha256') ELSE c.value END"
+        " FROM json_each(?1, '$.' || ?2) AS l, json_each(l.value) AS c ORDER BY l.key",
+        -1, &lignes, nullptr);
+    sqlite3_bind_text(lignes, 1, json.data(), static_cast<int>(json.size()), SQLITE_STATIC);
+    sqlite3_bind_text(lignes, 2, table.data(), static_cast<int>(table.size()), SQLITE_STATIC);
+    const auto texte = [lignes](int colonne) {
+        const auto* octets = reinterpret_cast<const char*>(sqlite3_column_text(lignes, colonne));
+        return octets ? std::optional(std::string(octets, sqlite3_column_bytes(lignes, colonne))) : std::nullopt;
+    };
+    std::vector<LigneJson> resultat;
+    int etat = SQLITE_ROW;
+    while ((etat = sqlite3_step(lignes)) == SQLITE_ROW) {
+        resultat.resize(sqlite3_column_int64(lignes, 0) + 1);
+        resultat.back()[texte(1).value_or("")] = texte(2);
+    }
+    sqlite3_finalize(lignes);
+    sqlite3_close(base);
+    if (etat != SQLITE_DONE) throw std::runtime_error("not understood: " + chemin);
+    return resultat;
 }
 
+// A value in the form in which the real data tell it.
 std::string enJson(const std::string& champ, const dao::Valeur& valeur) {
     if (champ != "Affiche" || !valeur.estOctets()) return valeur.texte();
     const std::string octets = valeur.texte().substr(3);
@@ -33,11 +62,10 @@ std::string enJson(const std::string& champ, const dao::Valeur& valeur) {
 }
 
 // The same fields as those rows.
-std::vector<doubles::LigneJson> litTable(dao::Database& base, const std::string& table,
-                                         const std::vector<doubles::LigneJson>& modele) {
-    std::vector<doubles::LigneJson> lignes;
+std::vector<LigneJson> litTable(dao::Database& base, const std::string& table, const std::vector<LigneJson>& modele) {
+    std::vector<LigneJson> lignes;
     for (dao::Recordset lues = base.OpenRecordset(table); !lues.Eof(); lues.MoveNext()) {
-        doubles::LigneJson& ligne = lignes.emplace_back();
+        LigneJson& ligne = lignes.emplace_back();
         for (const auto& [champ, attendue] : modele.at(0)) {
             const dao::Valeur valeur = lues.valeur(champ);
             ligne[champ] = valeur.estNull() ? std::nullopt : std::optional(enJson(champ, valeur));
@@ -60,9 +88,10 @@ class ConversionJetTest : public ::testing::Test {
 };
 
 TEST_F(ConversionJetTest, EveryFieldOfEveryRealBaseIsCarriedExactly) {
-    if (!fs::exists(dossierBasesJet())) GTEST_SKIP() << "no real data: " << dossierBasesJet();
+    const fs::path donnees = doubles::donneesReelles("bases-jet");
+    if (!fs::exists(donnees)) GTEST_SKIP() << "no real data: " << donnees;
     int bases = 0;
-    for (const auto& entree : fs::directory_iterator(dossierBasesJet())) {
+    for (const auto& entree : fs::directory_iterator(donnees)) {
         if (entree.path().extension() != ".mdb") continue;
         SCOPED_TRACE(entree.path().filename().string());
         ++bases;
@@ -70,7 +99,7 @@ TEST_F(ConversionJetTest, EveryFieldOfEveryRealBaseIsCarriedExactly) {
         ASSERT_TRUE(issue.estFaite()) << issue.echec.value_or("");
         dao::Database base = dao::DBEngine::OpenDatabase(dossier.chemin("neuve.mdb"));
         for (const char* table : {"Films", "Personnel"}) {
-            const auto attendues = doubles::litCollection(fs::path(entree.path()).replace_extension("json"), table);
+            const auto attendues = litCollection(fs::path(entree.path()).replace_extension("json"), table);
             const auto lues = litTable(base, table, attendues);
             ASSERT_EQ(lues.size(), attendues.size()) << table;
             for (std::size_t i = 0; i < lues.size(); ++i)

@@ -1,10 +1,7 @@
+#include "doubles/DossierTemporaire.h"
 #include "platform/dao/CleJet.h"
 #include "platform/dao/Utf8.h"
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -80,9 +77,7 @@ TEST(CleJet, OrdersAndEqualsAsJetDoes) {
 }
 
 TEST(CleJet, OrdersRealValues) {
-    const char* dossier = std::getenv("AMBRELIS_DONNEES");
-    const auto chemin =
-        std::filesystem::path(dossier != nullptr ? dossier : AMBRELIS_DONNEES_DEFAUT) / "bases-jet" / "Ordre.json";
+    const auto chemin = doubles::donneesReelles("bases-jet") / "Ordre.json";
     std::ifstream fichier(chemin);
     if (!fichier) GTEST_SKIP() << "no real data here: " << chemin;
     const auto listes = listesDeJson({std::istreambuf_iterator<char>(fichier), {}});

@@ -3,7 +3,6 @@
 #include "platform/jet/LecteurJet.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <map>
 #include <random>
@@ -205,11 +204,10 @@ TEST(FichiersHostiles, aTableWithoutMapOrNameIsFoundByItsPages) {
 }
 
 TEST(FichiersHostiles, damagedRealBasesDoToo) {
-    const char* choisi = std::getenv("AMBRELIS_DONNEES");
-    const std::string dossier = std::string(choisi ? choisi : AMBRELIS_DONNEES_DEFAUT) + "/bases-jet";
+    const std::filesystem::path dossier = doubles::donneesReelles("bases-jet");
     if (!std::filesystem::exists(dossier)) GTEST_SKIP() << "no real data: " << dossier;
     for (const char* nom : {"Films-2003-remaniee.mdb", "Films-97.mdb", "Vide-2000.mdb"}) {
-        std::ifstream flux(dossier + "/" + nom, std::ios::binary);
+        std::ifstream flux(dossier / nom, std::ios::binary);
         Harcelement({std::istreambuf_iterator<char>(flux), {}}).fois(80);
     }
 }
