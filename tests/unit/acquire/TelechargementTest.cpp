@@ -65,23 +65,24 @@ struct TelechargementTest : doubles::ImportDEssai {
     ecran::Etiquette lblTravail;
     ecran::Progression barre;
     ecran::Demandes demandes;
-    acquire::Telechargement telechargement{
-        {ajout, chkLancerConnexion, {lblTravail, barre}, chemins, lanceFichier, import, dialogues, ecran, demandes}};
+    std::optional<acquire::Telechargement> telechargement{outils()};
+
+    acquire::OutilsTelechargement outils() {
+        return {ajout,   chkLancerConnexion, {lblTravail, barre}, chemins, lanceFichier, import, dialogues, ecran,
+                demandes};
+    }
 
     const doubles::DossierTemporaire& dossier() { return essai.dossier; }
     void cherche(const std::string& texte) {
         ajout.txtRechInternet.Text = texte;
-        telechargement.cmdTelecharge_Click();
+        telechargement->cmdTelecharge_Click();
         dialogues.verifie();
     }
     // The same, the program standing in another folder.
     void chercheDepuis(const std::string& autreDossier, const std::string& texte) {
         chemins = db::Chemins::depuis(autreDossier);
-        ajout.txtRechInternet.Text = texte;
-        acquire::Telechargement{
-            {ajout, chkLancerConnexion, {lblTravail, barre}, chemins, lanceFichier, import, dialogues, ecran, demandes}}
-            .cmdTelecharge_Click();
-        dialogues.verifie();
+        telechargement.emplace(outils());
+        cherche(texte);
     }
     std::vector<std::string> restes() { return fichiers::listeFichiers(chemins.dossierTmp); }
 };
@@ -112,18 +113,6 @@ TEST_F(TelechargementTest, ImportsWhatTheDownloaderLeftEvenIfItFailsAndCleansBeh
     EXPECT_EQ(ecran.soufflesHorsTravail, 0);
 }
 
-TEST_F(TelechargementTest, EnterSearchesAndNothingHappensWithoutAText) {
-    const doubles::Rapatrix rapatrix(dossier());
-    const auto enfonce = [&](const char* texte, int touche) {
-        ajout.txtRechInternet.Text = texte;
-        telechargement.txtRechInternet_KeyDown(touche, 0);
-        return rapatrix.aRecu();
-    };
-    EXPECT_FALSE(enfonce("", 13) || enfonce("  ", 13) || enfonce("rien", 9));
-    EXPECT_TRUE(enfonce("rien", 13));
-    EXPECT_THAT(restes(), IsEmpty());
-}
-
 TEST_F(TelechargementTest, TheFolderMayBearAnySign) {
     const std::string etrange = dossier().chemin("L'\"ami\" $(touch recu) \\n; #1/");
     const doubles::Rapatrix rapatrix(dossier(), "L'\"ami\" $(touch recu) \\n; #1/Le Rapatrix/Rapatrix.exe");
@@ -133,7 +122,8 @@ TEST_F(TelechargementTest, TheFolderMayBearAnySign) {
 
 TEST_F(TelechargementTest, OneThatIsNotThereOrCannotBeRunIsToldAndLeavesNothing) {
     dossier().ecrit("Tmp/ancienne.film", "Ancienne");
-    telechargement.ouvrePage();
+    cherche("  ");
+    telechargement->ouvrePage();
     EXPECT_TRUE(ajout.lblRapatrix.Visible);
     EXPECT_THAT(ajout.lblRapatrix.Caption, testing::HasSubstr(dossier().chemin("Le Rapatrix/")));
     dialogues.attendMsgBox("Le logiciel 'Le Rapatrix' n'a pas été trouvé !", kExclamation);

@@ -1,7 +1,5 @@
 #include "db/Affiches.h"
-#include "db/EnonceFilm.h"
 #include "db/Option3_Click.h"
-#include "db/Requete.h"
 #include "doubles/DossierTemporaire.h"
 #include "doubles/Temoin.h"
 #include "util/NomsFichiers.h"
@@ -14,27 +12,11 @@
 
 namespace {
 
+using namespace std::string_literals;
+
 TEST(AffichesTest, ThePosterFileBearsTheFilmsNameWithoutForbiddenCharacters) {
     EXPECT_EQ(db::nomFichierAffiche("2001 : l'odyssée ?", "Kubrick / S."), "2001  l'odyssée  - Kubrick  S..jpg");
     EXPECT_EQ(db::nomFichierAffiche(R"("A\B|C*<D>")", ""), "ABCD - .jpg");
-}
-
-TEST(AffichesTest, AVeryLongNameStaysAFileName) {
-    std::string titre;
-    for (int i = 0; i < 100; ++i)
-        titre += "é";
-    const std::string nom = db::nomFichierAffiche(titre, titre);
-    EXPECT_LE(nom.size(), 255U);
-    EXPECT_TRUE(util::estUtf8(nom));
-    EXPECT_TRUE(nom.ends_with("é.jpg"));
-}
-
-TEST(AffichesTest, ValuesTellWhereThePosterIs) {
-    const std::string octets("\xFF\xD8\0\x80", 4);
-    EXPECT_EQ(db::valeurAfficheDansLaBase(octets), dao::Valeur::octets("STO" + octets));
-    EXPECT_EQ(db::valeurAfficheFichier("a.jpg"), dao::Valeur("JPGa.jpg"));
-    EXPECT_TRUE(db::estDansLaBase("STO"));
-    EXPECT_FALSE(db::estDansLaBase("JPGSTO.jpg"));
 }
 
 // A value may come from anywhere: what it says is one name, and leads to one folder.
@@ -51,10 +33,9 @@ TEST(AffichesTest, NoValueLeadsOutOfTheImagesFolder) {
         EXPECT_EQ(db::litAffiche(images, affiche), "dedans") << affiche;
     const std::string absolu = "JPG" + dossier.chemin("victime.jpg");
     for (const std::string& affiche :
-         {std::string("JPG../victime.jpg"), std::string("JPG..\\victime.jpg"), absolu, std::string("JPGlien.jpg"),
-          std::string("JPGtube.jpg"), std::string("JPGsous"), std::string("JPG.."), std::string("JPG."),
-          std::string("JPGsous/.."), std::string("JPG"), std::string("JPGsous/"), std::string("JPGperdue.jpg"),
-          std::string("JPGdedans.jpg\0", 14), "JPG" + std::string(5'000'000, 'x')})
+         {"JPG../victime.jpg"s, "JPG..\\victime.jpg"s, absolu, "JPGlien.jpg"s, "JPGtube.jpg"s, "JPGsous"s, "JPG.."s,
+          "JPG."s, "JPGsous/.."s, "JPG"s, "JPGsous/"s, "JPGperdue.jpg"s, std::string("JPGdedans.jpg\0", 14),
+          "JPG" + std::string(5'000'000, 'x')})
         EXPECT_EQ(db::fichierAffiche(images, affiche), std::nullopt) << affiche.substr(0, 80);
     EXPECT_EQ(db::fichierAffiche("", "JPGdedans.jpg"), std::nullopt) << "no folder is not the current one";
 }
@@ -68,6 +49,8 @@ TEST(AffichesTest, NumberedNamesComeAndGo) {
     EXPECT_EQ(longue, std::string(251, 'x') + ".jpg");
     EXPECT_EQ(db::nomNumerote(longue, 100), std::string(245, 'x') + " (100).jpg");
     EXPECT_EQ(db::nomFichierAffiche(std::string("a\0b", 3), ""), "ab - .jpg");
+    const std::string coupe = db::nomFichierAffiche(util::remplace(std::string(100, 'x'), "x", "éé"), "R");
+    EXPECT_TRUE(coupe.size() <= 255 && util::estUtf8(coupe) && coupe.ends_with("é.jpg")) << coupe;
 }
 
 class DossierImagesTest : public testing::Test {
@@ -124,9 +107,8 @@ TEST_F(DossierImagesTest, IsOneSureFolderFromTheRoot) {
 TEST_F(DossierImagesTest, WhatLeadsNowhereOrIntoTmpIsRefused) {
     std::filesystem::create_directory_symlink(chemins.dossierTmp, dossier.chemin("Programme/lien"));
     for (const std::string& texte :
-         {std::string(R"(D:\Affiches)"), std::string(R"(\\nas\x)"), std::string("http://a/b"), std::string("C:"),
-          std::string("Tmp"), chemins.dossierTmp + "/sous/dossier", std::string("lien"), std::string("a/../Tmp/"),
-          std::string("a\0b", 3), std::string(5'000'000, 'x')}) {
+         {R"(D:\Affiches)"s, R"(\\nas\x)"s, "http://a/b"s, "C:"s, "Tmp"s, chemins.dossierTmp + "/sous/dossier", "lien"s,
+          "a/../Tmp/"s, std::string("a\0b", 3), std::string(5'000'000, 'x')}) {
         EXPECT_EQ(utilise(texte), "") << texte.substr(0, 80);
         EXPECT_EQ(etat.Text4.Text, texte);
     }
@@ -137,16 +119,6 @@ TEST_F(DossierImagesTest, WhatLeadsNowhereOrIntoTmpIsRefused) {
     EXPECT_EQ(utilise("Tmp/x"), "");
     etat.Text4.Text = "Tmpete";
     EXPECT_EQ(db::refusDossierImages(etat, chemins), std::nullopt);
-}
-
-TEST(EnonceFilmTest, StatementsToTheLastBlank) {
-    EXPECT_EQ(db::enonceFilm("L'\"été\"", "R"),
-              R"(SELECT * FROM films WHERE titre ="L'""été""" and Realisateur ="R" ORDER BY Titre ASC ;)");
-    EXPECT_EQ(db::enonceFilmNote("T", "R"),
-              R"(SELECT * FROM Films WHERE titre ="T" and Realisateur =  "R"ORDER BY Titre ASC ;)");
-    EXPECT_EQ(db::enoncePossession("T", ""),
-              R"(SELECT * FROM personnel WHERE titre2 ="T" and Realisateur2 =  ""ORDER BY Titre2 ASC ;)");
-    EXPECT_EQ(db::texteErreurRequete(db::NumeroErreur::AfficheFiche), "Erreur (8) : Etablissement de requête");
 }
 
 }  // namespace

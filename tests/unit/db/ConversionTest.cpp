@@ -7,6 +7,8 @@
 
 namespace {
 
+using namespace std::string_literals;
+
 std::string image(int rang, std::size_t taille = 3000) {
     std::string octets = "\xFF\xD8";
     std::minstd_rand hasard(static_cast<unsigned>(rang) + 1);
@@ -149,9 +151,8 @@ TEST_F(ConversionTest, NothingOutsideTheFolderIsReadNorRemoved) {
     std::filesystem::create_symlink(victime, installation.dossier.chemin("Images/lien.jpg"));
     fichier("sous/dedans.jpg", image(2));
     fichier("vraie.jpg", image(3));
-    for (const std::string& nom : {std::string("../coffre/victime.jpg"), std::string("..\\coffre\\victime.jpg"),
-                                   victime, std::string("lien.jpg"), std::string("sous"),
-                                   std::string("../Images/sous/dedans.jpg"), std::string(".."), std::string("../..")})
+    for (const std::string& nom : {"../coffre/victime.jpg"s, "..\\coffre\\victime.jpg"s, victime, "lien.jpg"s, "sous"s,
+                                   "../Images/sous/dedans.jpg"s, ".."s, "../.."s})
         entretien->ajoute(nom, "", "JPG" + nom);
     entretien->ajoute("vraie", "", "JPG..\\Ailleurs\\vraie.jpg");
     convertit(0, "1 fichier inclu.");
@@ -178,27 +179,21 @@ TEST_F(ConversionTest, FieldsOfMegabytesAreConvertedLikeOthers) {
     EXPECT_TRUE(std::filesystem::is_empty(installation.dossier.chemin("Images")));
 }
 
-TEST_F(ConversionTest, AFolderOfAnotherMachineIsRefusedBeforeAnythingIsWritten) {
+TEST_F(ConversionTest, AFolderThatIsNoneOrCannotBeWrittenLeavesAllAsItWas) {
     entretien->ajoute("a", "", db::valeurAfficheDansLaBase(image(1)));
-    entretien->stockage.Text4.Text = "C:\\Films\\Affiches";
-    for (const std::size_t option : {0, 1}) {
-        dialogues.attendMsgBox(
-            "Le dossier des images C:\\Films\\Affiches n'existe pas sur cet ordinateur : choisissez-en un autre !",
-            dialogues::kCritique);
-        convertit(option, "");
+    const std::string barre = installation.dossier.ecrit("barrage", "") + "/Images";
+    const std::string dAilleurs = "C:\\Films\\Affiches";
+    const std::string absent =
+        "Le dossier des images " + dAilleurs + " n'existe pas sur cet ordinateur : choisissez-en un autre !";
+    for (const auto& [option, dossier, refus] :
+         {std::tuple(0, dAilleurs, absent),
+          {1, dAilleurs, absent},
+          {1, barre, "Le dossier des images " + barre + "/ n'est pas accessible en écriture !"}}) {
+        entretien->stockage.Text4.Text = dossier;
+        dialogues.attendMsgBox(refus, dialogues::kCritique);
+        convertit(static_cast<std::size_t>(option), "");
+        EXPECT_EQ(entretien->affiches().at(0), "STO" + image(1));
     }
-    EXPECT_EQ(entretien->affiches().at(0), "STO" + image(1));
-}
-
-TEST_F(ConversionTest, AFolderThatCannotBeWrittenLeavesAllAsItWas) {
-    entretien->ajoute("a", "", db::valeurAfficheDansLaBase(image(1)));
-    installation.dossier.ecrit("barrage", "");
-    const std::string dossier = installation.dossier.chemin("barrage/Images");
-    entretien->stockage.Text4.Text = dossier;
-    dialogues.attendMsgBox("Le dossier des images " + dossier + "/ n'est pas accessible en écriture !",
-                           dialogues::kCritique);
-    convertit(1, "");
-    EXPECT_EQ(entretien->affiches().at(0), "STO" + image(1));
 }
 
 TEST_F(ConversionTest, AFullDiskIsToldAndLeavesBaseAndFolderAsTheyWere) {
@@ -209,7 +204,7 @@ TEST_F(ConversionTest, AFullDiskIsToldAndLeavesBaseAndFolderAsTheyWere) {
     const bool tenu = executeAilleurs(std::nullopt, [&] {
         Entretien ailleurs(installation, muets);
         ecran::choisit(ailleurs.stockage.Option3, 1);
-        limiteLesFichiers(100000);
+        const doubles::DisquePlein disque(100000);
         ailleurs.cmdMajBase();
         const std::vector<std::string> attendus{
             "Le fichier image " + installation.dossier.chemin("Images/b - .jpg") +

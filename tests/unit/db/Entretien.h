@@ -5,8 +5,10 @@
 #include "db/Affiches.h"
 #include "db/cmdMajBase_Click.h"
 #include "doubles/DialoguesScript.h"
+#include "doubles/DisquePlein.h"
 #include "doubles/EcranMuet.h"
 #include "doubles/MontreFixe.h"
+#include "unit/edit/BaseDEssai.h"
 
 #include <csignal>
 #include <cstdint>
@@ -14,7 +16,6 @@
 #include <optional>
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -56,17 +57,10 @@ struct Entretien {
         rafraichissement};
 
     void ajoute(const std::string& titre, const std::string& realisateur, const dao::Valeur& affiche) {
-        base.films.AddNew();
-        base.films.assigne("Titre", titre);
-        base.films.assigne("Realisateur", realisateur);
-        base.films.assigne("Affiche", affiche);
-        base.films.Update();
+        doubles::BaseDEssai::ajoute(base.films, {{"Titre", titre}, {"Realisateur", realisateur}, {"Affiche", affiche}});
     }
     void possede(const std::string& titre, const std::string& realisateur) {
-        base.personnel.AddNew();
-        base.personnel.assigne("Titre2", titre);
-        base.personnel.assigne("Realisateur2", realisateur);
-        base.personnel.Update();
+        doubles::BaseDEssai::ajoute(base.personnel, {{"Titre2", titre}, {"Realisateur2", realisateur}});
     }
     [[nodiscard]] std::vector<std::string> valeurs(const std::string& enonce, const char* champ) {
         dao::Recordset lignes = base.base.OpenRecordset(enonce);
@@ -108,11 +102,4 @@ inline bool executeAilleurs(std::optional<unsigned> delai, const std::function<v
     int etat = 0;
     waitpid(enfant, &etat, 0);
     return WIFEXITED(etat) && WEXITSTATUS(etat) == 0;
-}
-
-// No file may grow beyond so many bytes, as on a full disk.
-inline void limiteLesFichiers(rlim_t octets) {
-    signal(SIGXFSZ, SIG_IGN);
-    const rlimit limite{octets, octets};
-    setrlimit(RLIMIT_FSIZE, &limite);
 }

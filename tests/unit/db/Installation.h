@@ -6,6 +6,7 @@
 #include "doubles/DossierTemporaire.h"
 #include "doubles/SansPrivileges.h"
 #include "platform/dao/DBEngine.h"
+#include "unit/edit/BaseDEssai.h"
 
 #include <string>
 #include <string_view>
@@ -26,9 +27,7 @@ struct Installation {
     void ajouteFilm(std::string_view nom, const std::string& titre) const {
         dao::Database base = dao::DBEngine::OpenDatabase(dossier.chemin(nom));
         dao::Recordset films = base.OpenRecordset("Films");
-        films.AddNew();
-        films.assigne("Titre", titre);
-        films.Update();
+        doubles::BaseDEssai::ajoute(films, {{"Titre", titre}});
     }
     [[nodiscard]] static std::string premierTitre(db::Base& base) {
         if (base.films.RecordCount() == 0) return "";

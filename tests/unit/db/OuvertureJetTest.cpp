@@ -30,17 +30,14 @@ class OuvertureJetTest : public ::testing::Test {
     db::EtatStockage stockage;
     const db::Chemins chemins = db::Chemins::depuis(dossier.chemin("Programme"));
     db::OuvertureJet ouvertureJet{{progression, lblTravail, ecran, dialogues, stockage, chemins}};
+    DialoguesMuets consentants;  // and their opening, for what is killed or repeated
+    db::OuvertureJet ouverture{{progression, lblTravail, ecran, consentants, stockage, chemins}};
     const std::string base = dossier.chemin("Films.mdb");
 
     void SetUp() override {
         dossier.ecrit("Films.mdb", doubles::collectionJet(kFilms).octets());
         progression.Visible = false;
-    }
-    std::map<std::string, std::string> contenu() const {
-        std::map<std::string, std::string> fichiers;
-        for (const auto& entree : fs::directory_iterator(dossier.chemin()))
-            fichiers[entree.path().filename()] = dossier.lit(entree.path().filename().string());
-        return fichiers;
+        consentants.reponse = dialogues::kOui;
     }
     static long films(const std::string& chemin) {
         dao::Database ouverte = dao::DBEngine::OpenDatabase(chemin);
@@ -73,12 +70,12 @@ class OuvertureJetTest : public ::testing::Test {
     // The user agrees, is told why it cannot be, and every file is as it was.
     void refuse(const std::string& raison) {
         SCOPED_TRACE(raison);
-        const auto avant = contenu();
+        const auto avant = dossier.contenu();
         demande(dialogues::kOui);
         dialogues.attendMsgBox(
             "La base n'a pas pu être convertie.\n" + raison + "\nLe fichier " + base + " n'a pas été modifié.", 16);
         EXPECT_EQ(ouvertureJet(base), std::nullopt);
-        EXPECT_TRUE(contenu() == avant);
+        EXPECT_TRUE(dossier.contenu() == avant);
         EXPECT_FALSE(progression.Visible);
         dialogues.verifie();
     }
@@ -123,7 +120,7 @@ TEST_F(OuvertureJetTest, WhereNoLinkCanBeMadeACopyIsKept) {
     EXPECT_EQ(dossier.lit("Films (Jet).mdb"), octets);
     EXPECT_EQ(fs::last_write_time(dossier.chemin("Films (Jet).mdb")), date);
     EXPECT_EQ(films(base), kFilms);
-    EXPECT_EQ(contenu().size(), 2u);
+    EXPECT_EQ(dossier.contenu().size(), 2u);
 }
 
 // The moment between the original's other name and the exchange.
@@ -136,7 +133,7 @@ TEST_F(OuvertureJetTest, WhatAKilledConversionLeftServesOrGoes) {
         EXPECT_TRUE(ouvertureJet(base));
         EXPECT_EQ(dossier.lit("Films (Jet).mdb"), octets);
         EXPECT_EQ(films(base), kFilms);
-        EXPECT_EQ(contenu().size(), 2u);
+        EXPECT_EQ(dossier.contenu().size(), 2u);
         fs::rename(dossier.chemin("Films (Jet).mdb"), base);
     }
 }
@@ -192,7 +189,7 @@ TEST_F(OuvertureJetTest, OfADamagedBaseWhatIsReadableIsConvertedAndTheRestTold) 
         return ouvertureJet(base);
     };
     EXPECT_EQ(interroge(dialogues::kNon), std::nullopt);
-    EXPECT_TRUE(contenu() == (std::map<std::string, std::string>{{"Films.mdb", abimee}}));
+    EXPECT_TRUE(dossier.contenu() == (std::map<std::string, std::string>{{"Films.mdb", abimee}}));
     dialogues.verifie();
 
     const auto rapport = interroge(dialogues::kOui);
@@ -218,9 +215,6 @@ TEST_F(OuvertureJetTest, OfADamagedBaseWhatIsReadableIsConvertedAndTheRestTold) 
 // lies in its own bytes; and what is not there is said.
 TEST_F(OuvertureJetTest, WhateverIsDamagedIsRefusedOrTold) {
     const std::string entiere = dossier.lit("Films.mdb");
-    DialoguesMuets consentants;
-    consentants.reponse = dialogues::kOui;
-    db::OuvertureJet ouverture({progression, lblTravail, ecran, consentants, stockage, chemins});
     std::minstd_rand hasard(20);
     std::vector<std::size_t> longues;
     for (std::size_t page = 0; page < entiere.size(); page += 4096)
@@ -242,14 +236,14 @@ TEST_F(OuvertureJetTest, WhateverIsDamagedIsRefusedOrTold) {
         consentants.textes.clear();
         if (!ouverture(base)) {
             ++refusees;
-            EXPECT_TRUE(contenu() == (std::map<std::string, std::string>{{"Films.mdb", abimee}}));
+            EXPECT_TRUE(dossier.contenu() == (std::map<std::string, std::string>{{"Films.mdb", abimee}}));
             EXPECT_TRUE(consentants.textes.back().starts_with("La base n'a pas pu être convertie.\n"));
             continue;
         }
         EXPECT_EQ(dossier.lit("Films (Jet).mdb"), abimee);
         const std::string pertes = dossier.existe("Films (pertes).txt") ? dossier.lit("Films (pertes).txt") : "";
         ++(pertes.empty() ? entieres : partielles);
-        EXPECT_EQ(contenu().size(), pertes.empty() ? 2u : 3u);
+        EXPECT_EQ(dossier.contenu().size(), pertes.empty() ? 2u : 3u);
         EXPECT_EQ(pertes.empty(), consentants.textes.size() == 1);
         // Eight bytes of long values damage eight films at most.
         if (essai % 4 > 1) {
@@ -302,16 +296,13 @@ TEST_F(OuvertureJetTest, PostersInFilesThatStandNowhereAreCounted) {
 }
 
 TEST_F(OuvertureJetTest, AFullDiskLeavesAllAsItWas) {
-    const auto avant = contenu();
+    const auto avant = dossier.contenu();
     for (const rlim_t place : {0, 4096, 60000, 250000}) {
         EXPECT_TRUE(executeAilleurs(std::nullopt, [&] {
-            limiteLesFichiers(place);
-            DialoguesMuets consentants;
-            consentants.reponse = dialogues::kOui;
-            db::OuvertureJet ouverture({progression, lblTravail, ecran, consentants, stockage, chemins});
+            const doubles::DisquePlein disque(place);
             if (ouverture(base) || !consentants.textes.back().ends_with(" n'a pas été modifié.")) _exit(1);
         })) << place;
-        EXPECT_TRUE(contenu() == avant) << place;
+        EXPECT_TRUE(dossier.contenu() == avant) << place;
     }
 }
 
@@ -319,9 +310,6 @@ TEST_F(OuvertureJetTest, AFullDiskLeavesAllAsItWas) {
 // and the next attempt finds its way.
 TEST_F(OuvertureJetTest, KilledAnywhereNothingIsLost) {
     const std::string octets = dossier.lit("Films.mdb");
-    DialoguesMuets consentants;
-    consentants.reponse = dialogues::kOui;
-    db::OuvertureJet ouverture({progression, lblTravail, ecran, consentants, stockage, chemins});
     std::minstd_rand hasard(3);
     for (int essai = 0; essai < 12; ++essai) {
         executeAilleurs(hasard() % 250000, [&] { (void)ouverture(base); });
@@ -331,7 +319,7 @@ TEST_F(OuvertureJetTest, KilledAnywhereNothingIsLost) {
         }
         EXPECT_EQ(films(base), kFilms);
         EXPECT_EQ(dossier.lit("Films (Jet).mdb"), octets);
-        EXPECT_EQ(contenu().size(), 2u);
+        EXPECT_EQ(dossier.contenu().size(), 2u);
         fs::rename(dossier.chemin("Films (Jet).mdb"), base);
     }
 }

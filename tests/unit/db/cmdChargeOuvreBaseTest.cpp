@@ -122,13 +122,6 @@ TEST_F(cmdChargeOuvreBaseTest, OpeningABaseForgetsTheAbsentOne) {
     }
 }
 
-TEST_F(cmdChargeOuvreBaseTest, ANameWithoutItsEndingIsGivenOne) {
-    choisit(chemin("Base"));
-    demandeCreation(chemin("Base.mdb"), dialogues::kOui);
-    aChangePour(chemin("Base.mdb"));
-    EXPECT_EQ(base.films.RecordCount(), 0);
-}
-
 TEST_F(cmdChargeOuvreBaseTest, AnEndingInCapitalsIsKept) {
     installation.creeBase("Voisin.MDB");
     installation.ajouteFilm("Voisin.MDB", "Le film du voisin");
