@@ -9,6 +9,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 namespace essais {
 
@@ -52,6 +53,21 @@ struct BaseDEssai {
     doubles::DossierTemporaire dossier;
     std::string chemin = dossier.chemin("films.mdb");
     dao::Database base;
+};
+
+// Another program at work on the same file.
+class AutreProgramme {
+  public:
+    explicit AutreProgramme(const std::string& chemin) { sqlite3_open(chemin.c_str(), &m_base); }
+    AutreProgramme(const AutreProgramme&) = delete;
+    AutreProgramme& operator=(const AutreProgramme&) = delete;
+    ~AutreProgramme() { sqlite3_close(m_base); }
+    void execute(const char* sql) {
+        EXPECT_EQ(sqlite3_exec(m_base, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(m_base);
+    }
+
+  private:
+    sqlite3* m_base = nullptr;
 };
 
 // The number of the ErreurDao that the action throws; 0 when it throws none.

@@ -1,19 +1,17 @@
 #include "BaseDEssai.h"
+#include "doubles/DossierTemporaire.h"
+#include "doubles/Mort.h"
 #include "doubles/SansPrivileges.h"
 
 #include <array>
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <iterator>
 
-#include <sqlite3.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 namespace {
 
+using essais::AutreProgramme;
 using essais::BaseDEssai;
 using essais::numeroErreur;
 namespace fs = std::filesystem;
@@ -61,12 +59,10 @@ TEST(Ouverture, TellsFilesThatAreNoBaseAndLeavesThemAlone) {
 TEST(Ouverture, TellsALockedBaseFromAReadOnlyOne) {
     BaseDEssai essai;
     essai.base.Close();
-    sqlite3* autre = nullptr;
-    ASSERT_EQ(sqlite3_open(essai.chemin.c_str(), &autre), SQLITE_OK);
-    sqlite3_exec(autre, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
+    AutreProgramme autre(essai.chemin);
+    autre.execute("BEGIN EXCLUSIVE");
     EXPECT_EQ(numeroDOuverture(essai.chemin), dao::kErreurFichierDejaUtilise);
-    sqlite3_exec(autre, "ROLLBACK", nullptr, nullptr, nullptr);
-    sqlite3_close(autre);
+    autre.execute("ROLLBACK");
     const std::string dossier = essai.dossier.chemin();
     fs::permissions(dossier, fs::perms(0777));
     fs::permissions(essai.chemin, fs::perms(0666));
@@ -78,30 +74,20 @@ TEST(Ouverture, TellsALockedBaseFromAReadOnlyOne) {
     EXPECT_EQ(sansDroits([&] { return numeroDOuverture(essai.chemin); }), dao::kErreurLectureSeule);
 }
 
-TEST(Ouverture, ALockTakenLaterStopsTheUpdateAlone) {
+TEST(Ouverture, ALockTakenLaterIsToldAndStopsTheUpdateAlone) {
     BaseDEssai essai;
     essai.film("Dune", "x");
     dao::Recordset films = essai.base.OpenRecordset("Films");
-    sqlite3* autre = nullptr;
-    ASSERT_EQ(sqlite3_open(essai.chemin.c_str(), &autre), SQLITE_OK);
-    sqlite3_exec(autre, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
+    AutreProgramme autre(essai.chemin);
+    autre.execute("BEGIN IMMEDIATE");
     films.Edit();
     films.Fields("Genre") = "SF";
     EXPECT_EQ(numeroErreur([&] { films.Update(); }), dao::kErreurVerrouille);
     EXPECT_EQ(numeroErreur([&] { essai.base.BeginTrans(); }), dao::kErreurVerrouille);
-    sqlite3_exec(autre, "ROLLBACK", nullptr, nullptr, nullptr);
-    sqlite3_close(autre);
+    autre.execute("ROLLBACK");
     films.Update();  // the edition was kept
     EXPECT_EQ(essai.lit("SELECT * FROM Films", "Genre"), std::vector<std::string>{"SF"});
-}
-
-TEST(Ouverture, ABaseLockedWhileItIsReadIsSaidToBeLocked) {
-    BaseDEssai essai;
-    essai.film("Dune", "x");
-    dao::Recordset films = essai.base.OpenRecordset("Films");
-    sqlite3* autre = nullptr;
-    ASSERT_EQ(sqlite3_open(essai.chemin.c_str(), &autre), SQLITE_OK);
-    sqlite3_exec(autre, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
+    autre.execute("BEGIN EXCLUSIVE");
     try {
         (void)essai.base.OpenRecordset("SELECT * FROM Films ORDER BY Titre ASC");
         ADD_FAILURE() << "nothing was thrown";
@@ -109,8 +95,7 @@ TEST(Ouverture, ABaseLockedWhileItIsReadIsSaidToBeLocked) {
         EXPECT_EQ(erreur.numero, dao::kErreurLectureVerrouillee);
         EXPECT_EQ(erreur.description, "Lecture impossible : la base est verrouillée par un autre programme.");
     }
-    EXPECT_EQ(numeroErreur([&] { essai.base.BeginTrans(); }), dao::kErreurVerrouille);
-    sqlite3_close(autre);
+    autre.execute("ROLLBACK");
     EXPECT_EQ(films.texte("Titre"), "Dune");
 }
 
@@ -179,8 +164,7 @@ TEST(Ouverture, AKilledProgramLeavesTheOldState) {
     BaseDEssai essai;
     essai.film("Dune", "x");
     essai.base.Close();
-    const pid_t enfant = fork();
-    if (enfant == 0) {
+    EXPECT_TRUE(doubles::meurtEnRoute([&] {
         dao::Database base = dao::DBEngine::OpenDatabase(essai.chemin);
         base.Execute("PRAGMA cache_size=5");  // so that pages reach the file before the end
         base.BeginTrans();
@@ -194,11 +178,8 @@ TEST(Ouverture, AKilledProgramLeavesTheOldState) {
             films.Fields("Resume") = std::string(2000, 'r');
             films.Update();
         }
-        raise(SIGKILL);
-    }
-    int etat = 0;
-    waitpid(enfant, &etat, 0);
-    ASSERT_TRUE(WIFSIGNALED(etat));
+        doubles::meurs();
+    }));
     EXPECT_TRUE(essai.dossier.existe("films.mdb-journal"));
     essai.base = dao::DBEngine::OpenDatabase(essai.chemin);
     EXPECT_EQ(essai.lit("SELECT * FROM Films"), std::vector<std::string>{"Dune"});
