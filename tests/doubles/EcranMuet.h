@@ -14,7 +14,6 @@ class EcranMuet final : public ecran::Ecran {
     std::function<void()> pendantSouffle;
 
     int souffles = 0;
-    int rafraichissements = 0;
     int debuts = 0;
     int fins = 0;
     int soufflesHorsTravail = 0;  // breaths with no work begun: the window would offer no way to stop
@@ -25,7 +24,7 @@ class EcranMuet final : public ecran::Ecran {
         if (pendantSouffle) pendantSouffle();
         return arretApres == 0 || souffles < arretApres;
     }
-    void rafraichit() override { ++rafraichissements; }
+    void rafraichit() override {}
     void debutTravail() override { ++debuts; }
     void finTravail() override { ++fins; }
 };

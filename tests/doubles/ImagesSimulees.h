@@ -13,17 +13,13 @@ class ImagesSimulees final : public ecran::Images {
   public:
     ecran::TailleImage taille{300, 400};
     std::string courante;
-    int vidages = 0;
 
     std::optional<ecran::TailleImage> charge(const std::string& octets) override {
         const bool estJpeg = octets.starts_with("\xFF\xD8");
         courante = estJpeg ? octets : "";
         return estJpeg ? std::optional(taille) : std::nullopt;
     }
-    void vide() override {
-        ++vidages;
-        courante.clear();
-    }
+    void vide() override { courante.clear(); }
 };
 
 }  // namespace doubles

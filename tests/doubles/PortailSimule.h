@@ -52,40 +52,31 @@ class PortailSimule {
 
   private:
     static constexpr const char* kProprietaire = ":1.7";
-    static constexpr const char* kInterfaces =
-        "<node><interface name='org.freedesktop.DBus'>"
-        "<method name='Hello'><arg type='s' direction='out'/></method>"
-        "<method name='AddMatch'><arg type='s' direction='in'/></method>"
-        "<method name='RemoveMatch'><arg type='s' direction='in'/></method>"
-        "<method name='GetNameOwner'><arg type='s' direction='in'/><arg type='s' direction='out'/></method>"
-        "</interface><interface name='org.freedesktop.portal.Settings'>"
-        "<method name='Read'><arg type='s' direction='in'/><arg type='s' direction='in'/>"
-        "<arg type='v' direction='out'/></method></interface></node>";
-
     static gboolean accueille(GDBusServer*, GDBusConnection* client, gpointer moi) {
         auto* portail = static_cast<PortailSimule*>(moi);
         portail->m_client = G_DBUS_CONNECTION(g_object_ref(client));
-        static const GDBusInterfaceVTable kAppels{&PortailSimule::repond, nullptr, nullptr, {}};
-        GDBusNodeInfo* noeud = g_dbus_node_info_new_for_xml(kInterfaces, nullptr);
-        const std::pair<const char*, GDBusInterfaceInfo*> objets[] = {
-            {"/org/freedesktop/DBus", noeud->interfaces[0]}, {"/org/freedesktop/portal/desktop", noeud->interfaces[1]}};
-        for (const auto& [chemin, interface] : objets)
-            g_dbus_connection_register_object(client, chemin, interface, &kAppels, moi, nullptr, nullptr);
-        g_dbus_node_info_unref(noeud);
+        g_dbus_connection_add_filter(client, &PortailSimule::repond, moi, nullptr);
         return TRUE;
     }
-    static void repond(GDBusConnection*, const gchar*, const gchar*, const gchar*, const gchar* methode, GVariant*,
-                       GDBusMethodInvocation* appel, gpointer moi) {
-        const std::string nom(methode);
+    // In the thread of the connection; every call that a client of ours makes has its answer here.
+    static GDBusMessage* repond(GDBusConnection* client, GDBusMessage* message, gboolean recu, gpointer moi) {
+        if (!recu || g_dbus_message_get_message_type(message) != G_DBUS_MESSAGE_TYPE_METHOD_CALL) return message;
+        const std::string nom(g_dbus_message_get_member(message));
         const int teinte = static_cast<PortailSimule*>(moi)->m_teinte;
-        if (nom == "Hello") return g_dbus_method_invocation_return_value(appel, g_variant_new("(s)", ":1.1"));
-        if (nom == "GetNameOwner")
-            return g_dbus_method_invocation_return_value(appel, g_variant_new("(s)", kProprietaire));
-        if (nom != "Read") return g_dbus_method_invocation_return_value(appel, nullptr);
-        if (teinte < 0)
-            return g_dbus_method_invocation_return_dbus_error(appel, "org.freedesktop.portal.Error.NotFound", "none");
-        GVariant* dedans = g_variant_new_variant(g_variant_new_uint32(static_cast<guint32>(teinte)));
-        g_dbus_method_invocation_return_value(appel, g_variant_new("(v)", dedans));
+        GDBusMessage* reponse =
+            nom == "Read" && teinte < 0
+                ? g_dbus_message_new_method_error_literal(message, "org.freedesktop.portal.Error.NotFound", "none")
+                : g_dbus_message_new_method_reply(message);
+        if (nom == "Hello") g_dbus_message_set_body(reponse, g_variant_new("(s)", ":1.1"));
+        if (nom == "GetNameOwner") g_dbus_message_set_body(reponse, g_variant_new("(s)", kProprietaire));
+        if (nom == "Read" && teinte >= 0) {
+            GVariant* dedans = g_variant_new_variant(g_variant_new_uint32(static_cast<guint32>(teinte)));
+            g_dbus_message_set_body(reponse, g_variant_new("(v)", dedans));
+        }
+        g_dbus_connection_send_message(client, reponse, G_DBUS_SEND_MESSAGE_FLAGS_NONE, nullptr, nullptr);
+        g_object_unref(reponse);
+        g_object_unref(message);
+        return nullptr;
     }
 
     std::string m_adresse;

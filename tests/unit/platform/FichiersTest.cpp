@@ -196,6 +196,9 @@ TEST(FichiersLecture, LinesHoweverTheyEnd) {
     }
     EXPECT_THAT(fichiers::litLignes(d.ecrit("f", "1\n2\n3"), 2), Optional(ElementsAre("1", "2")));
     EXPECT_EQ(fichiers::litLignes(d.chemin("absent")), std::nullopt);
+    // Only the beginning of an endless text counts.
+    d.ecrit("f", "avi\n" + std::string(20 << 20, 'x') + "\nmkv\n");
+    EXPECT_THAT(fichiers::litLignes(d.chemin("f")), Optional(ElementsAre("avi")));
 }
 
 TEST(FichiersEcriture, ReplacingKeepsRightsAndLinksAndLeavesNothingBeside) {
@@ -241,21 +244,19 @@ TEST(FichiersEcriture, CopiesOverWhatStandsButNotOntoItself) {
     EXPECT_EQ(d.lit("Source.JPG").size(), 200'000u);
 }
 
-// Another program is killed while it writes, or waits there, until its end of the pipe is closed.
+// Another program waits while it writes, until its end of the pipe is closed.
 class AutreProgramme {
   public:
-    AutreProgramme(const DossierTemporaire& d, bool meurt) {
+    explicit AutreProgramme(const DossierTemporaire& d) {
         if (pipe(m_ordres.data()) != 0 || pipe(m_nouvelles.data()) != 0) throw std::runtime_error("no pipe");
         m_enfant = fork();
         if (m_enfant != 0) {
             char prete = 0;
-            if (!meurt && read(m_nouvelles[0], &prete, 1) != 1) throw std::runtime_error("it does not write");
-            if (meurt) waitpid(m_enfant, nullptr, 0);
+            if (read(m_nouvelles[0], &prete, 1) != 1) throw std::runtime_error("it does not write");
             return;
         }
         close(m_ordres[1]);
         fichiers::copie(d.chemin("source"), d.chemin("cible"), [&](std::int64_t) {
-            if (meurt) doubles::meurs();
             char ordre = 0;
             return write(m_nouvelles[1], "x", 1) == 1 && read(m_ordres[0], &ordre, 1) == 1;
         });
@@ -277,7 +278,10 @@ class AutreProgramme {
 TEST(FichiersRestes, WhatKilledProgramsLeftGoesAndNothingElse) {
     const DossierTemporaire d;
     d.ecrit("source", "image");
-    const AutreProgramme mort(d, true), vivant(d, false);
+    EXPECT_TRUE(doubles::meurtEnRoute([&] {
+        fichiers::copie(d.chemin("source"), d.chemin("cible"), [](std::int64_t) -> bool { doubles::meurs(); });
+    }));
+    const AutreProgramme vivant(d);
     const std::string mien = ".ambrelis-" + std::to_string(getpid()) + "-1-2.tmp";
     for (const std::string& nom : {mien, "x.ambrelis-999999999-1-2.tmp"s, ".ambrelis-999999999-1-2.tmp.jpg"s,
                                    ".ambrelis-999999999-1.tmp"s, ".ambrelis-999999999--2.tmp"s, ".ambrelis-a-1-2.tmp"s,
@@ -308,6 +312,7 @@ TEST(FichiersDossiers, DeletesByPatternFilesOnly) {
     EXPECT_EQ(fichiers::supprimeSelonMotif(d.chemin(), "*.jpg"), 2);
     EXPECT_EQ(entrees(d), (std::vector<std::string>{"Sous", "c.txt", "lien", "sans"}));
     EXPECT_EQ(fichiers::supprimeSelonMotif(d.chemin(), "*.*"), 3);
+    EXPECT_FALSE(fichiers::supprime(d.chemin("Sous")));
     EXPECT_EQ(d.lit("Sous/d.jpg"), "x");
     EXPECT_EQ(fichiers::supprimeSelonMotif(d.chemin("absent"), "*.*"), 0);
 }
@@ -319,17 +324,6 @@ TEST(FichiersDossiers, ListsFilesInNameOrder) {
     fs::create_symlink("b", d.chemin("Lien"));
     EXPECT_THAT(fichiers::listeFichiers(d.chemin()), ElementsAre("A", "B", "b", "c", "Lien"));
     EXPECT_TRUE(fichiers::listeFichiers(d.chemin("absent")).empty());
-}
-
-TEST(FichiersDossiers, MakesAndDeletes) {
-    const DossierTemporaire d;
-    EXPECT_TRUE(fichiers::creeDossier(d.chemin("a/b/c/")));
-    EXPECT_TRUE(fichiers::creeDossier(d.chemin("a/b/c/")));
-    d.ecrit("f", "x");
-    EXPECT_FALSE(fichiers::creeDossier(d.chemin("f/g")));
-    EXPECT_TRUE(fichiers::supprime(d.chemin("f")));
-    EXPECT_TRUE(fichiers::supprime(d.chemin("f")));
-    EXPECT_FALSE(fichiers::supprime(d.chemin("a")));
 }
 
 TEST(FichiersChemins, PiecesOfAPath) {
@@ -348,12 +342,6 @@ TEST(FichiersChemins, PiecesOfAPath) {
         EXPECT_EQ(fichiers::extension(c.chemin), c.extension);
         EXPECT_EQ(fichiers::sansExtension(c.chemin), c.sansExtension);
     }
-}
-
-TEST(FichiersChemins, AWholePathFromTheCurrentFolder) {
-    EXPECT_EQ(fichiers::absolu("/été/b"), "/été/b");
-    EXPECT_EQ(fichiers::absolu("b.txt"), std::filesystem::current_path().string() + "/b.txt");
-    EXPECT_EQ(fichiers::absolu(""), "");
 }
 
 // What stands in "Tmp" may have been laid there by anyone.
@@ -417,11 +405,4 @@ TEST(FichiersEcriture, AFileSystemWithoutRightsTakesTheSettings) {
     EXPECT_TRUE(WIFEXITED(etat) && WEXITSTATUS(etat) == 0) << etat;
     EXPECT_EQ(d.lit("Ambrelis.ini"), "après");
     EXPECT_EQ(fs::status(d.chemin("Ambrelis.ini")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
-}
-
-TEST(FichiersLecture, OnlyTheBeginningOfAnEndlessTextCounts) {
-    const DossierTemporaire d;
-    const std::string gros = "avi\n" + std::string(20 << 20, 'x');
-    d.ecrit("Extensions.txt", gros + "\nmkv\n");
-    EXPECT_THAT(fichiers::litLignes(d.chemin("Extensions.txt")), Optional(ElementsAre("avi")));
 }

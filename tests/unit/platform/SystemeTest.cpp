@@ -1,7 +1,6 @@
 #include "doubles/Temoin.h"
 #include "platform/systeme/Documents.h"
 #include "platform/systeme/Horloge.h"
-#include "platform/systeme/InstanceUnique.h"
 
 #include <cstdlib>
 #include <ctime>
@@ -44,19 +43,6 @@ TEST(Horloge, TheDecimalSeparatorIsTheUsers) {
         const Environnement environnement({{"LC_ALL", ""}, {"LC_NUMERIC", c.lcNumeric}, {"LANG", c.lang}});
         EXPECT_EQ(systeme::separateurDecimal(), c.separateur) << c.lcNumeric << "/" << c.lang;
     }
-}
-
-TEST(InstanceUnique, OneAtATimeAndNothingStale) {
-    const DossierTemporaire dossier, autre;
-    {
-        systeme::InstanceUnique premiere, seconde, ailleurs;
-        EXPECT_TRUE(premiere.prends(dossier.chemin()));
-        EXPECT_FALSE(seconde.prends(dossier.chemin()));
-        EXPECT_TRUE(ailleurs.prends(autre.chemin()));
-    }
-    systeme::InstanceUnique suivante, perdue;
-    EXPECT_TRUE(suivante.prends(dossier.chemin()));
-    EXPECT_TRUE(perdue.prends(dossier.chemin("absent")));
 }
 
 TEST(Documents, AnAddressIsTheOneArgumentOfTheDesktopsCommand) {

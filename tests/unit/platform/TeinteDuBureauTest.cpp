@@ -1,4 +1,5 @@
 #include "doubles/PortailSimule.h"
+#include "doubles/Temoin.h"
 #include "platform/systeme/TeinteDuBureau.h"
 
 #include <cstdlib>
@@ -20,18 +21,8 @@ struct TeinteTest : testing::Test {
     std::string dossier = mkdtemp(modele);
     std::vector<Teinte> dites;
 
-    ~TeinteTest() override {
-        for (const auto& [nom, valeur] : avant)
-            valeur ? setenv(nom, valeur->c_str(), 1) : unsetenv(nom);
-        std::filesystem::remove_all(dossier);
-    }
-    static std::optional<std::string> variable(const char* nom) {
-        const char* valeur = std::getenv(nom);
-        return valeur ? std::optional<std::string>(valeur) : std::nullopt;
-    }
-    std::vector<std::pair<const char*, std::optional<std::string>>> avant{
-        {"DBUS_SESSION_BUS_ADDRESS", variable("DBUS_SESSION_BUS_ADDRESS")},
-        {"XDG_RUNTIME_DIR", variable("XDG_RUNTIME_DIR")}};
+    ~TeinteTest() override { std::filesystem::remove_all(dossier); }
+    const doubles::Environnement avant{{{"DBUS_SESSION_BUS_ADDRESS", ""}, {"XDG_RUNTIME_DIR", ""}}};
     std::function<void(Teinte)> note() {
         return [this](Teinte teinte) { dites.push_back(teinte); };
     }
