@@ -1,8 +1,9 @@
 #pragma once
 
 #include "db/Affiches.h"
+#include "db/CleFilm.h"
+#include "db/Contexte.h"
 #include "db/LotAffiches.h"
-#include "platform/dao/Database.h"
 #include "platform/dao/Valeur.h"
 
 #include <cstddef>
@@ -22,18 +23,17 @@ struct AfficheImportee {
 // Where the posters of an import go: in the base, or as files of a lot in the images folder.
 class AffichesImportees {
   public:
-    AffichesImportees(dao::Database& base, db::EtatStockage& stockage, const db::Chemins& chemins);
+    explicit AffichesImportees(const db::Contexte& c);  // which outlives it
 
-    [[nodiscard]] bool dansLaBase() const { return m_stockage.dansLaBase(); }
+    [[nodiscard]] bool dansLaBase() const { return m_c.stockage.dansLaBase(); }
     // The bytes of a picture's file that are read at most.
     [[nodiscard]] std::int64_t limite() const { return dansLaBase() ? db::kTailleMaxAffiche : db::kTailleMaxImage; }
     // Where posters are files, makes their folder. Throws db::EchecConversion.
     void prepareDossier();
     // Stores the picture of a film whose value is `actuelle`, in a folder that is prepared. Nothing when the base has no
     // place for it. Throws db::EchecConversion.
-    [[nodiscard]] std::optional<AfficheImportee> place(const std::string& titre, const std::string& realisateur,
-                                                       std::string_view octets, bool tientDansLaBase,
-                                                       std::string_view actuelle = {});
+    [[nodiscard]] std::optional<AfficheImportee> place(const db::CleFilm& film, std::string_view octets,
+                                                       bool tientDansLaBase, std::string_view actuelle = {});
     // Whether that value of `Affiche` names a file of the images folder that is there.
     [[nodiscard]] bool aSonFichier(const std::string& affiche) const;
 
@@ -42,8 +42,7 @@ class AffichesImportees {
     void apresAnnulation() { m_lot.apresAnnulation(); }
 
   private:
-    db::EtatStockage& m_stockage;
-    const db::Chemins& m_chemins;
+    const db::Contexte& m_c;
     db::LotAffiches m_lot;
     bool m_dossierPret = false;
 };

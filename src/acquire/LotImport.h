@@ -1,7 +1,6 @@
 #pragma once
 
-#include "platform/dao/Database.h"
-#include "platform/systeme/Montre.h"
+#include "db/Contexte.h"
 
 #include <chrono>
 #include <cstddef>
@@ -17,7 +16,7 @@ class LotImport {
     static constexpr std::size_t kOctets = 32 << 20;
     static constexpr std::chrono::milliseconds kDuree{3000};
 
-    LotImport(dao::Database& base, const systeme::Montre& montre) : m_base(base), m_montre(montre) {}
+    explicit LotImport(const db::Contexte& c) : m_base(c.base.base), m_montre(c.montre) {}
 
     void commence();  // nothing while it is open
     void compteFiche(std::size_t octets);

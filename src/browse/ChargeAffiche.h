@@ -1,9 +1,6 @@
 #pragma once
 
-#include "browse/AfficheTemporaire.h"
-#include "browse/EtatFiche.h"
-#include "browse/SuiviAffiche.h"
-#include "platform/ecran/Ecran.h"
+#include "browse/Contexte.h"
 
 #include <string_view>
 
@@ -19,23 +16,7 @@ inline constexpr std::string_view kImageIllisible = "Image illisible ou trop gra
 inline constexpr std::string_view kImageNonMontree = "L'affiche ne peut pas être montrée";
 
 // Loads the temporary poster file as the sheet's and the viewer's picture, fitted and centred in its box; without one,
-// the caption that says why. `suivi`, when there is one, is told of each load.
-class ChargeAffiche {
-  public:
-    ChargeAffiche(EtatFiche& fiche, const AfficheTemporaire& affiche, ecran::Images& images, ecran::Ecran& ecran,
-                  SuiviAffiche* suivi = nullptr)
-        : m_fiche(fiche), m_affiche(affiche), m_images(images), m_ecran(ecran), m_suivi(suivi) {}
-
-    void operator()();
-
-  private:
-    void place(const ecran::TailleImage& taille);
-
-    EtatFiche& m_fiche;
-    const AfficheTemporaire& m_affiche;
-    ecran::Images& m_images;
-    ecran::Ecran& m_ecran;
-    SuiviAffiche* m_suivi;
-};
+// the caption that says why.
+void ChargeAffiche(const Contexte& c);
 
 }  // namespace browse

@@ -1,20 +1,10 @@
 #pragma once
 
-#include "browse/AffichageApresModification.h"
+#include "browse/Contexte.h"
 
 namespace browse {
 
-// The event of the sort list.
-class ChoixTri {
-  public:
-    ChoixTri(EtatListe& liste, AffichageApresModification& affichageApresModification)
-        : m_liste(liste), m_affichageApresModification(affichageApresModification) {}
-
-    void Click();  // an entry was selected, by the user or by the program
-
-  private:
-    EtatListe& m_liste;
-    AffichageApresModification& m_affichageApresModification;
-};
+// The event of the sort list: an entry was selected, by the user or by the program.
+void ChoixTri_Click(const Contexte& c);
 
 }  // namespace browse

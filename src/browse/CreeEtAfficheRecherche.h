@@ -1,21 +1,16 @@
 #pragma once
 
-#include "browse/CreeRequeteAffichage.h"
+#include "browse/Contexte.h"
+
+#include <string>
 
 namespace browse {
 
 // Selects the pseudo-zone "Recherche", added to the zone list where it is missing, and shows the films of the saved
 // search condition and zone.
-class CreeEtAfficheRecherche {
-  public:
-    CreeEtAfficheRecherche(EtatListe& liste, CreeRequeteAffichage& creeRequeteAffichage)
-        : m_liste(liste), m_creeRequeteAffichage(creeRequeteAffichage) {}
+void CreeEtAfficheRecherche(const Contexte& c);
 
-    void operator()();
-
-  private:
-    EtatListe& m_liste;
-    CreeRequeteAffichage& m_creeRequeteAffichage;
-};
+// The same for the films added on that day ("21/11/2026").
+void montreAjoutsDuJour(const Contexte& c, const std::string& date);
 
 }  // namespace browse

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "db/Chemins.h"
-#include "platform/dialogues/Dialogues.h"
+#include "db/Contexte.h"
 
 #include <string>
 
@@ -10,7 +9,6 @@ namespace db {
 // Asks where a file is to be written. The whole path: "~" is understood, a bare name lies in the program folder; empty
 // when the user gives up. A path of Windows opens the choice of a place for that file name; given up, it is typed again.
 // As in `demande`, the extension that is to be appended is not part of the answer.
-[[nodiscard]] std::string demandeCheminAEcrire(dialogues::Dialogues& dialogues, const dialogues::DemandeChemin& demande,
-                                               const Chemins& chemins);
+[[nodiscard]] std::string demandeCheminAEcrire(const Contexte& c, const dialogues::DemandeChemin& demande);
 
 }  // namespace db

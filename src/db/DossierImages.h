@@ -1,7 +1,6 @@
 #pragma once
 
-#include "db/Chemins.h"
-#include "db/EtatStockage.h"
+#include "db/Contexte.h"
 
 #include <optional>
 #include <string>
@@ -13,10 +12,10 @@ namespace db {
 
 // Its path from the root, with a final separator; Text4 then says so too, so that the settings name the same folder
 // wherever the program is started from. Empty when Text4 leads to no folder that posters could be in.
-[[nodiscard]] std::string dossierImages(EtatStockage& etat, const Chemins& chemins);
+[[nodiscard]] std::string dossierImages(const Contexte& c);
 
 // Why it is no folder for posters, to be told before anything is written; nothing when it is one, there or to be made.
-[[nodiscard]] std::optional<std::string> refusDossierImages(EtatStockage& etat, const Chemins& chemins);
+[[nodiscard]] std::optional<std::string> refusDossierImages(const Contexte& c);
 
 // That a folder lies in "Tmp", where no poster would outlive the program; nothing when it does not.
 [[nodiscard]] std::optional<std::string> refusDansTmp(const std::string& dossier, const Chemins& chemins);

@@ -1,18 +1,23 @@
 #pragma once
 
-#include <string>
-#include <string_view>
+#include "db/CleFilm.h"
 
-// The statements that find one film by its title and its director.
+#include <string>
+
 namespace db {
 
+// The statements that find one film by its title and its director.
+
 // The film's row in the catalogue.
-[[nodiscard]] std::string enonceFilm(std::string_view titre, std::string_view realisateur);
+[[nodiscard]] std::string enonceFilm(const CleFilm& film);
+
 // The same rows, in the text that ratings use.
-[[nodiscard]] std::string enonceFilmNote(std::string_view titre, std::string_view realisateur);
+[[nodiscard]] std::string enonceFilmNote(const CleFilm& film);
+
 // The same rows, in the text that deletion and renaming use.
-[[nodiscard]] std::string enonceFilmModifie(std::string_view titre, std::string_view realisateur);
+[[nodiscard]] std::string enonceFilmModifie(const CleFilm& film);
+
 // The film's row in the holdings.
-[[nodiscard]] std::string enoncePossession(std::string_view titre, std::string_view realisateur);
+[[nodiscard]] std::string enoncePossession(const CleFilm& film);
 
 }  // namespace db

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "platform/dao/Database.h"
-#include "platform/dialogues/Dialogues.h"
+#include "db/Contexte.h"
 
 #include <string>
 
@@ -40,7 +39,6 @@ struct RequeteEchouee {
 [[nodiscard]] std::string texteErreurRequete(NumeroErreur numero);
 
 // Opens a statement; on failure shows its message (style 16) and throws RequeteEchouee.
-[[nodiscard]] dao::Recordset ouvreRequete(dao::Database& base, const std::string& enonce, NumeroErreur numero,
-                                          dialogues::Dialogues& dialogues);
+[[nodiscard]] dao::Recordset ouvreRequete(const Contexte& c, const std::string& enonce, NumeroErreur numero);
 
 }  // namespace db

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "db/Base.h"
-#include "platform/dialogues/Dialogues.h"
+#include "db/Contexte.h"
 
 namespace db {
 
 // Tells how many films have their poster in a file, and how many in the base. Throws dao::ErreurDao.
-void cmdInfosBase_Click(Base& base, dialogues::Dialogues& dialogues);
+void cmdInfosBase_Click(const Contexte& c);
 
 }  // namespace db

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "db/CleFilm.h"
 #include "platform/dao/Recordset.h"
 
 #include <string>
@@ -8,10 +9,9 @@ namespace edit {
 
 // Adds the holding of a film that was just stored: its title and director, cut as the film's are, its support, and
 // nothing else yet. Throws dao::ErreurDao.
-void ajoutePossession(dao::Recordset& personnel, const std::string& titre, const std::string& realisateur,
-                      const std::string& support = "");
+void ajoutePossession(dao::Recordset& personnel, const db::CleFilm& film, const std::string& support = "");
 
 // Names another film in the holding that is being added or edited, cut in the same way.
-void nommeFilmPossede(dao::Recordset& possession, const std::string& titre, const std::string& realisateur);
+void nommeFilmPossede(dao::Recordset& possession, const db::CleFilm& film);
 
 }  // namespace edit

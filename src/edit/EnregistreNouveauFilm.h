@@ -1,11 +1,8 @@
 #pragma once
 
-#include "browse/FilmCourant.h"
 #include "db/Affiches.h"
-#include "db/Base.h"
 #include "db/LotAffiches.h"
-#include "edit/EtatAjout.h"
-#include "platform/dialogues/Dialogues.h"
+#include "edit/Contexte.h"
 
 #include <optional>
 #include <string>
@@ -27,14 +24,13 @@ struct FilmPret {
     dao::Recordset ancien;  // the row to rewrite; closed where a row is to be added
 };
 
-// Writes one film from the entry controls, cut to the lengths of the columns. Used by the manual entry and by the
-// import. A poster that goes to the images folder is written by the first step and belongs to the transaction of the
-// second: who confirms that one calls avantValidation before and apresValidation after, or apresAnnulation once it is
-// rolled back.
+// Writes films from the entry controls, cut to the lengths of the columns. Used by the manual entry and by the import.
+// A poster that goes to the images folder is written by the first step and belongs to the transaction of the second: who
+// confirms that one calls avantValidation before and apresValidation after, or apresAnnulation once it is rolled back.
 class EnregistrementFilm {
   public:
-    EnregistrementFilm(db::Base& base, const EtatAjout& ajout, db::EtatStockage& stockage, const db::Chemins& chemins,
-                       const browse::FilmCourant& courant, dialogues::Dialogues& dialogues);
+    // `c` outlives it.
+    explicit EnregistrementFilm(const Contexte& c) : m_c(c) {}
 
     // Adds, or in modify mode (caption of cmdAjoutFilm) rewrites the current film, or adds it when it is no longer found.
     // `image` may be empty. Throws ErreurDao, and db::EchecConversion when the poster's file could not be written.
@@ -55,12 +51,7 @@ class EnregistrementFilm {
     void afficheEnFichier(FilmPret& film, const std::string& image);
     void ecritChamps(dao::Recordset& films, const std::string& resume) const;
 
-    db::Base& m_base;
-    const EtatAjout& m_ajout;
-    db::EtatStockage& m_stockage;
-    const db::Chemins& m_chemins;
-    const browse::FilmCourant& m_courant;
-    dialogues::Dialogues& m_dialogues;
+    const Contexte& m_c;
     std::optional<db::LotAffiches> m_affiches;  // of the transaction
 };
 

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "db/Base.h"
-#include "platform/dialogues/Dialogues.h"
+#include "edit/Contexte.h"
 #include "util/Similarite.h"
 
 #include <cstddef>
@@ -17,10 +16,10 @@ namespace edit {
 class LettresDuCatalogue {
   public:
     // Counts the films of the base; those the batch adds afterwards come by `ajoute`, as they are stored.
-    [[nodiscard]] static LettresDuCatalogue de(db::Base& base, dialogues::Dialogues& dialogues);
+    [[nodiscard]] static LettresDuCatalogue de(const Contexte& c);
 
-    void ajoute(std::string_view titre, std::string realisateur);
-    [[nodiscard]] bool aUnProche(std::string_view titre, std::string_view realisateur) const;
+    void ajoute(const db::CleFilm& film);
+    [[nodiscard]] bool aUnProche(const db::CleFilm& film) const;
 
   private:
     struct Realisateur {

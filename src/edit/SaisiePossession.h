@@ -1,30 +1,17 @@
 #pragma once
 
-#include "browse/EtatFiche.h"
-#include "platform/dialogues/Dialogues.h"
-
-#include <cstddef>
+#include "edit/Contexte.h"
 
 namespace edit {
 
 // The user's gestures in the holdings part of the sheet: each makes the validate button visible, and nothing is written
-// before that one is pressed.
-class SaisiePossession {
-  public:
-    SaisiePossession(browse::EtatFiche& fiche, dialogues::Dialogues& dialogues)
-        : m_fiche(fiche), m_dialogues(dialogues) {}
+// before that one is pressed. The indexes are those of Combo7, Text10 and Command2.
 
-    void Option1_Click();  // owned or not, as Option1 tells after the click
-    void Combo7_Change();
-    void Text10_Change();
-    // Chooses the attached file of a slot, 0 to 2; the file is neither copied nor checked.
-    void Command2_Click(std::size_t indice);
+void Option1_Click(const Contexte& c);  // owned or not, as Option1 tells after the click
+void Combo7_Change(const Contexte& c, int indice);
+void Text10_Change(const Contexte& c, int indice);
 
-  private:
-    void attendValidation() { m_fiche.cmdValiderInfosPossessions.Visible = true; }
-
-    browse::EtatFiche& m_fiche;
-    dialogues::Dialogues& m_dialogues;
-};
+// Chooses the attached file of a slot, 0 to 2; the file is neither copied nor checked.
+void Command2_Click(const Contexte& c, int indice);
 
 }  // namespace edit

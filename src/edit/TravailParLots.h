@@ -1,11 +1,6 @@
 #pragma once
 
 #include "db/Requete.h"
-#include "platform/dao/Database.h"
-#include "platform/dialogues/Dialogues.h"
-#include "platform/ecran/Controles.h"
-#include "platform/ecran/Ecran.h"
-#include "platform/systeme/Montre.h"
 
 #include <chrono>
 #include <functional>
@@ -13,15 +8,6 @@
 #include <string>
 
 namespace edit {
-
-// What work over many films needs of the program.
-struct OutilsTravail {
-    dao::Database& base;
-    ecran::Ecran& ecran;
-    ecran::Progression& progression;
-    dialogues::Dialogues& dialogues;
-    systeme::Montre montre = std::chrono::steady_clock::now;
-};
 
 // Work over many films, step by step: stored in lots, each one transaction bounded in steps and in time; the screen
 // breathes between two steps and shows how far the work is. A stop keeps what was done; of a lot that fails nothing
@@ -37,11 +23,11 @@ class TravailParLots {
     };
     using Etape = std::function<Pas(long rang)>;
 
-    // `total`: the steps of all that will be executed. A statement that cannot be opened is told under `numero`.
-    TravailParLots(const OutilsTravail& outils, db::NumeroErreur numero, long total);
+    // `c` outlives it. `total`: the steps of all that will be executed. A statement that cannot be opened is told under `numero`.
+    TravailParLots(const db::Contexte& c, db::NumeroErreur numero, long total);
     TravailParLots(const TravailParLots&) = delete;
     TravailParLots& operator=(const TravailParLots&) = delete;
-    ~TravailParLots() { m_outils.progression.Visible = false; }
+    ~TravailParLots() { m_c.travaux.ProgressBar3.Visible = false; }
 
     // A statement of a step, where no box may be shown: a failure ends the work.
     [[nodiscard]] dao::Recordset ouvre(const std::string& enonce);
@@ -61,7 +47,7 @@ class TravailParLots {
     [[nodiscard]] long executeLot(long debut, long nombre, const Etape& etape);
     [[nodiscard]] static Pas executePas(long rang, const Etape& etape);
 
-    OutilsTravail m_outils;
+    const db::Contexte& m_c;
     db::NumeroErreur m_numero;
     std::optional<ecran::Travail> m_travail;
     std::optional<Echec> m_echec;

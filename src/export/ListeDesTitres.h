@@ -1,7 +1,6 @@
 #pragma once
 
-#include "db/Chemins.h"
-#include "platform/dialogues/Dialogues.h"
+#include "db/Contexte.h"
 
 #include <string>
 #include <string_view>
@@ -17,7 +16,6 @@ inline constexpr const char* kAucunTitre = "Aucun titre personnel !";
 
 // Asks for the file: the whole path of what was typed and `extension`, whatever the name ends in; empty when nothing was
 // typed.
-[[nodiscard]] std::string demandeFichierListe(dialogues::Dialogues& dialogues, const db::Chemins& chemins,
-                                              std::string_view extension);
+[[nodiscard]] std::string demandeFichierListe(const db::Contexte& c, std::string_view extension);
 
 }  // namespace exportation

@@ -1,35 +1,19 @@
 #pragma once
 
-#include "browse/AfficheFiche.h"
-#include "view/Visionneuse.h"
+#include "view/Contexte.h"
 
 namespace view {
 
-// The keys of the viewer (codes as in Windows), and the step to the next or previous title of the tree.
-class TouchesAffiche {
-  public:
-    TouchesAffiche(Visionneuse& visionneuse, browse::EtatListe& liste, const browse::FilmCourant& film,
-                   browse::AfficheFiche& afficheFiche, ecran::Demandes& demandes)
-        : m_visionneuse(visionneuse),
-          m_liste(liste),
-          m_film(film),
-          m_afficheFiche(afficheFiche),
-          m_demandes(demandes) {}
+// The gestures in the viewer: its keys (codes as in Windows), among them the step to the next or previous title of the
+// tree, its scroll bar, its size and the dragged picture (twips).
 
-    void Picture1_KeyDown(int code);
-    void HScroll1_KeyDown(int code);
-    void Form_KeyDown(int code);
-
-  private:
-    void titreSuivant();
-    void titrePrecedent();
-    void montreTitre(int indice);
-
-    Visionneuse& m_visionneuse;
-    browse::EtatListe& m_liste;
-    const browse::FilmCourant& m_film;
-    browse::AfficheFiche& m_afficheFiche;
-    ecran::Demandes& m_demandes;
-};
+void Image1_Click(const Contexte& c);    // the sheet's poster: shows the viewer
+void Picture1_Click(const Contexte& c);  // hides it, as closing its window does
+void Picture1_KeyDown(const Contexte& c, int code);
+void HScroll1_KeyDown(const Contexte& c, int code);
+void HScroll1_Change(const Contexte& c);
+void frmAffiche_KeyDown(const Contexte& c, int code);
+void frmAffiche_Resize(const Contexte& c, int largeur, int hauteur);
+void deplaceAffiche(const Contexte& c, int dx, int dy);  // by the wheel or by dragging
 
 }  // namespace view

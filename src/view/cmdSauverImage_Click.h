@@ -1,8 +1,6 @@
 #pragma once
 
-#include "browse/EtatFiche.h"
-#include "db/Chemins.h"
-#include "platform/dialogues/Dialogues.h"
+#include "view/Contexte.h"
 
 #include <string>
 
@@ -10,7 +8,6 @@ namespace view {
 
 // Saves the poster shown as a file of the user's choice. Nothing is read again: the temporary poster is copied. Answers
 // the whole path of the file, "" when none was made.
-std::string cmdSauverImage_Click(const browse::EtatFiche& fiche, const db::Chemins& chemins,
-                                 dialogues::Dialogues& dialogues);
+std::string cmdSauverImage_Click(const Contexte& c);
 
 }  // namespace view

@@ -12,6 +12,8 @@ class ErreurDao : public std::exception {
   public:
     ErreurDao(int numeroDao, std::string texte) : numero(numeroDao), description(std::move(texte)) {}
 
+    // What the user is told where nothing else is said of it.
+    [[nodiscard]] std::string texte() const { return "Erreur " + std::to_string(numero) + " : " + description; }
     [[nodiscard]] const char* what() const noexcept override { return description.c_str(); }
 
     int numero;

@@ -1,21 +1,10 @@
 #pragma once
 
 #include "browse/AffichageApresModification.h"
-#include "browse/AfficheFiche.h"
-#include "browse/AfficheNbTitres.h"
-#include "browse/ChoixTri.h"
-#include "browse/ChoixZone.h"
-#include "browse/CreeEtAfficheRecherche.h"
-#include "browse/SelectionneTitre.h"
+#include "browse/Contexte.h"
 #include "browse/TreeView1.h"
-#include "browse/cmdFonctionRecherche_Click.h"
-#include "browse/cmdRecherche_Click.h"
-#include "browse/lblRealisateur_Click.h"
 #include "db/Schema.h"
-#include "doubles/DialoguesScript.h"
-#include "doubles/DossierTemporaire.h"
-#include "doubles/EcranMuet.h"
-#include "doubles/ImagesSimulees.h"
+#include "doubles/MachineDEssai.h"
 #include "platform/dao/DBEngine.h"
 
 #include <filesystem>
@@ -27,54 +16,16 @@
 
 using Ligne = std::vector<std::pair<const char*, dao::Valeur>>;
 
-// The left and right sides of a window without a window, over a real base.
-class Fenetre : public ::testing::Test {
+// The left and right sides of a window without a window, over a real base. Commands of the room take `c`.
+class Fenetre : public ::testing::Test, protected doubles::MachineDEssai {
   protected:
-    doubles::DossierTemporaire dossier;
-    db::Chemins chemins = db::Chemins::depuis(dossier.chemin());
-    doubles::DialoguesScript dialogues;
-    doubles::EcranMuet ecranMuet;
-    doubles::ImagesSimulees images;
-    db::Base base;
-    db::EtatStockage stockage;
     browse::EtatListe liste;
     browse::EtatRecherche recherche;
     browse::EtatFiche fiche;
     browse::EtatPanneaux panneaux;
     browse::FilmCourant film;
-    ecran::Demandes demandes;
-
-    browse::AfficheTitres afficheTitres{liste, base};
-    browse::AfficheNbTitres afficheNbTitres{liste, base};
-    browse::CreeRequeteAffichage creeRequeteAffichage{base, liste, film, afficheTitres, dialogues};
-    browse::AfficheAccueil afficheAccueil{panneaux, ecranMuet};
-    ecran::EtatAvis etatAvis;
-    ecran::Avis avis{etatAvis};
-    browse::AfficheTemporaire afficheTemporaire{chemins, stockage, dialogues, avis};
-    browse::ChargeAffiche chargeAffiche{fiche, afficheTemporaire, images, ecranMuet};
-    browse::AfficheVolet afficheVolet{fiche, demandes, chargeAffiche};
-    browse::ModifieNoteFilm modifieNoteFilm{base, fiche, film, dialogues};
-    browse::AffichePossession affichePossession{base, fiche, film, dialogues};
-    browse::AfficheFiche afficheFiche{base,
-                                      liste,
-                                      fiche,
-                                      panneaux,
-                                      film,
-                                      images,
-                                      afficheTemporaire,
-                                      affichePossession,
-                                      modifieNoteFilm,
-                                      afficheAccueil,
-                                      afficheVolet};
-    browse::TreeView1 arbre{liste, afficheFiche, dialogues};
-    browse::SelectionneTitre selectionneTitre{liste, base, arbre};
-    browse::CreeEtAfficheRecherche creeEtAfficheRecherche{liste, creeRequeteAffichage};
-    browse::AffichageApresModification affichageApresModification{liste, afficheAccueil, creeRequeteAffichage};
-    browse::ChoixZone choixZone{liste, affichageApresModification};
-    browse::ChoixTri choixTri{liste, affichageApresModification};
-    browse::cmdFonctionRecherche_Click cmdFonctionRecherche{panneaux, demandes, afficheAccueil};
-    browse::cmdRecherche_Click cmdRecherche{base, recherche, liste, creeEtAfficheRecherche, dialogues};
-    browse::lblRealisateur_Click lblRealisateur{film, recherche, cmdFonctionRecherche, cmdRecherche};
+    browse::Contexte fenetre{machine, liste, recherche, fiche, panneaux, film};
+    const browse::Contexte& c = fenetre;
 
     void SetUp() override {
         std::filesystem::create_directory(chemins.dossierTmp);
@@ -110,7 +61,7 @@ class Fenetre : public ::testing::Test {
     }
     void montre(int zone, int tri) {
         choisit(zone, tri);
-        affichageApresModification();
+        AffichageApresModification(c);
     }
     // The tree as text: "Key=Text", films under a heading indented by ">".
     [[nodiscard]] std::vector<std::string> arbreEnTexte() const {
@@ -140,7 +91,7 @@ class Fenetre : public ::testing::Test {
         ADD_FAILURE() << "no such node: " << texte;
         return 0;
     }
-    void clique(std::string_view texte) { arbre.NodeClick(noeud(texte)); }
+    void clique(std::string_view texte) { TreeView1_NodeClick(c, noeud(texte)); }
     // One column of a table's rows, or of a statement's.
     std::vector<std::string> colonne(const std::string& source, const std::string& champ) {
         std::vector<std::string> valeurs;

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/ecran/Controles.h"
+
+#include <array>
+
+namespace edit {
+
+// The controls of deletion by ticking.
+struct EtatMultiSuppression {
+    std::array<ecran::BoutonOption, 2> Option4;  // off, on
+    ecran::Bouton cmdSupprTitresSelect;
+
+    EtatMultiSuppression() {
+        ecran::choisit(Option4, 0);
+        cmdSupprTitresSelect.Visible = false;
+    }
+};
+
+}  // namespace edit

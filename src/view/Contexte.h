@@ -1,0 +1,17 @@
+#pragma once
+
+#include "browse/Contexte.h"
+#include "view/EtatFichiers.h"
+#include "view/TableExtensions.h"
+#include "view/Visionneuse.h"
+
+namespace view {
+
+// What the commands of the poster viewer and of the attached files work with.
+struct Contexte : browse::Contexte {
+    Visionneuse& visionneuse;
+    EtatFichiers& fichiers;
+    const TableExtensions& extensions;
+};
+
+}  // namespace view
