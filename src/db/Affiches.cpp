@@ -46,15 +46,15 @@ std::string sansNumero(const std::string& nom) {
 }
 
 bool estDansLaBase(std::string_view affiche) {
-    return affiche.starts_with("STO");
+    return affiche.starts_with(kDansLaBase);
 }
 
 dao::Valeur valeurAfficheDansLaBase(std::string_view octets) {
-    return dao::Valeur::octets("STO" + std::string(octets));
+    return dao::Valeur::octets(std::string(kDansLaBase).append(octets));
 }
 
 dao::Valeur valeurAfficheFichier(std::string_view nom) {
-    return "JPG" + std::string(nom);
+    return std::string(kDansUnFichier).append(nom);
 }
 
 std::string nomDansLeDossier(std::string_view affiche) {

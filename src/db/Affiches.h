@@ -15,7 +15,11 @@ namespace db {
 
 inline constexpr std::int64_t kTailleMaxAffiche = 230000;    // bytes, in the base
 inline constexpr std::int64_t kTailleMaxImage = 64LL << 20;  // bytes; a file that is larger is no poster
-inline constexpr std::size_t kTaillePrefixe = 3;             // "JPG" or "STO"
+
+// What the column begins with when there is a poster.
+inline constexpr std::string_view kDansUnFichier = "JPG";
+inline constexpr std::string_view kDansLaBase = "STO";
+inline constexpr std::size_t kTaillePrefixe = 3;
 
 // Title " - " director without the characters that file names forbid, then ".jpg".
 [[nodiscard]] std::string nomFichierAffiche(std::string_view titre, std::string_view realisateur);
@@ -23,7 +27,7 @@ inline constexpr std::size_t kTaillePrefixe = 3;             // "JPG" or "STO"
 [[nodiscard]] std::string nomNumerote(const std::string& nom, int numero);
 [[nodiscard]] std::string sansNumero(const std::string& nom);  // "a - b (2).jpg" -> "a - b.jpg"
 
-[[nodiscard]] bool estDansLaBase(std::string_view affiche);  // begins with "STO"
+[[nodiscard]] bool estDansLaBase(std::string_view affiche);  // begins with kDansLaBase
 [[nodiscard]] dao::Valeur valeurAfficheDansLaBase(std::string_view octets);
 [[nodiscard]] dao::Valeur valeurAfficheFichier(std::string_view nom);
 

@@ -32,7 +32,6 @@ constexpr std::array<std::string_view, 11> kChampsPersonnel{"Titre2",   "Realisa
                                                             "Date",     "Divers",       "Support"};
 constexpr std::string_view kAffiche = "Affiche";
 constexpr std::string_view kNote = "Note";
-constexpr std::string_view kFichier = "JPG";
 constexpr std::size_t kChampsCle = 2;  // title and director come first in both tables: without them a row is lost
 
 // Of one transaction.
@@ -303,8 +302,9 @@ std::size_t Passage::ajoute(Reprise& reprise, dao::Recordset& cible, jet::Ligne 
 void Passage::compteAffiche(const dao::Valeur& affiche) {
     if (affiche.estOctets())
         ++m_rapport.affiches;
-    else if (const std::string nom = affiche.texte(); nom.starts_with(kFichier) && nom.size() > kFichier.size())
-        m_rapport.fichiers.push_back(nom.substr(kFichier.size()));
+    else if (const std::string nom = affiche.texte();
+             nom.starts_with(kDansUnFichier) && nom.size() > kDansUnFichier.size())
+        m_rapport.fichiers.push_back(nom.substr(kDansUnFichier.size()));
 }
 
 // What the new file holds is what was read, value by value.

@@ -42,9 +42,9 @@ std::string DommagesJet::texte(std::size_t maximum) const {
     return texte;
 }
 
-std::string nomDesPertes(const std::string& base, int rang) {
+std::string nomDesPertes(const std::string& base, int numero) {
     const std::filesystem::path chemin(base);
-    const std::string marque = rang == 1 ? " (pertes).txt" : " (pertes " + std::to_string(rang) + ").txt";
+    const std::string marque = numero == 1 ? " (pertes).txt" : " (pertes " + std::to_string(numero) + ").txt";
     return (chemin.parent_path() / (chemin.stem().string() + marque)).string();
 }
 
@@ -54,8 +54,8 @@ std::optional<std::string> gardeLesPertes(const std::string& base, const std::st
     std::string texte = "Ce qui n'a pas pu être lu de la base " + lue + " :\n";
     for (const DommagesJet& table : dommages)
         texte += "\n" + table.texte();
-    for (int rang = 1; rang < kNomsEssayes; ++rang) {
-        const std::string nom = nomDesPertes(base, rang);
+    for (int numero = 1; numero < kNomsEssayes; ++numero) {
+        const std::string nom = nomDesPertes(base, numero);
         const fichiers::Creation issue = fichiers::cree(nom, texte);
         if (issue == fichiers::Creation::Faite) return nom;
         if (issue == fichiers::Creation::Echouee) break;

@@ -27,7 +27,7 @@ struct DommagesJet {
 };
 
 // Where the losses of that base are kept: a text beside it, which is not there yet.
-[[nodiscard]] std::string nomDesPertes(const std::string& base, int rang = 1);
+[[nodiscard]] std::string nomDesPertes(const std::string& base, int numero = 1);
 // Makes that text; its name, empty when it could not be written. `lue` is the base that was read, for the reader.
 [[nodiscard]] std::optional<std::string> gardeLesPertes(const std::string& base, const std::string& lue,
                                                         const std::vector<DommagesJet>& dommages);

@@ -41,21 +41,30 @@ std::optional<std::string> resout(const std::string& texte, const Chemins& chemi
     return fichiers::absolu(avecNosSeparateurs(fichiers::cheminTape(texte, chemins.dossier)));
 }
 
-}  // namespace
-
-std::optional<std::string> refusDossierImages(EtatStockage& etat, const Chemins& chemins) {
-    if (etat.Text4.Text.empty()) etat.Text4.Text = chemins.dansDossier("Images");
-    const auto resolu = resout(etat.Text4.Text, chemins);
+std::optional<std::string> refus(EtatStockage& stockage, const Chemins& chemins) {
+    std::string& texte = stockage.Text4.Text;
+    if (texte.empty()) texte = chemins.dansDossier("Images");
+    const auto resolu = resout(texte, chemins);
     if (!resolu)
-        return "Le dossier des images " + etat.Text4.Text.substr(0, kCheminMax) +
+        return "Le dossier des images " + texte.substr(0, kCheminMax) +
                " n'existe pas sur cet ordinateur : choisissez-en un autre !";
-    if (auto refus = refusDansTmp(*resolu, chemins)) return refus;
-    etat.Text4.Text = *resolu;
+    if (auto dansTmp = refusDansTmp(*resolu, chemins)) return dansTmp;
+    texte = *resolu;
     return std::nullopt;
 }
 
-std::string dossierImages(EtatStockage& etat, const Chemins& chemins) {
-    return refusDossierImages(etat, chemins) ? "" : util::avecSeparateur(etat.Text4.Text);
+}  // namespace
+
+std::optional<std::string> refusDossierImages(const Contexte& c) {
+    return refus(c.stockage, c.chemins);
+}
+
+std::string dossierImages(const Contexte& c) {
+    return dossierImages(c.stockage, c.chemins);
+}
+
+std::string dossierImages(EtatStockage& stockage, const Chemins& chemins) {
+    return refus(stockage, chemins) ? "" : util::avecSeparateur(stockage.Text4.Text);
 }
 
 std::optional<std::string> refusDansTmp(const std::string& dossier, const Chemins& chemins) {

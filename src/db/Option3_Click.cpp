@@ -4,14 +4,15 @@
 
 namespace db {
 
-void Option3_Click::operator()() {
-    if (m_etat.Text4.Text.empty()) {
-        fichiers::creeDossier(m_chemins.dansDossier("Images"));
-        m_etat.Text4.Text = m_chemins.dansDossier("Images/");
+void Option3_Click(const Contexte& c) {
+    EtatStockage& stockage = c.stockage;
+    if (stockage.Text4.Text.empty()) {
+        fichiers::creeDossier(c.chemins.dansDossier("Images"));
+        stockage.Text4.Text = c.chemins.dansDossier("Images/");
     }
-    const bool dansUnDossier = m_etat.Option3[1].Value;
-    m_etat.Text4.Enabled = dansUnDossier;
-    m_etat.cmdParcourir.Enabled = dansUnDossier;
+    const bool dansUnDossier = stockage.Option3[1].Value;
+    stockage.Text4.Enabled = dansUnDossier;
+    stockage.cmdParcourir.Enabled = dansUnDossier;
 }
 
 }  // namespace db

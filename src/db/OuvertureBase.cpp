@@ -8,6 +8,7 @@
 #include "platform/systeme/FinDuProgramme.h"
 #include "util/Texte.h"
 
+#include <optional>
 #include <utility>
 
 namespace db {
@@ -18,7 +19,7 @@ constexpr const char* kOuvertureEchouee = "Erreur (22) : Ouverture de la base (L
 constexpr const char* kLectureEcriture = "La base nécessite d'avoir un accès en lecture-écriture.";
 
 std::string raisonDe(const dao::ErreurDao& erreur, const std::string& chemin) {
-    if (OuvertureJet::estJet(chemin)) return "c'est une base Jet (Access) qui n'a pas été convertie";
+    if (estJet(chemin)) return "c'est une base Jet (Access) qui n'a pas été convertie";
     switch (erreur.numero) {
         case dao::kErreurFichierIntrouvable:
             return "le fichier n'existe pas";
@@ -34,70 +35,16 @@ std::string raisonDe(const dao::ErreurDao& erreur, const std::string& chemin) {
     }
 }
 
-// A base made elsewhere may lack the indexes. It is as good without them, only slower: that they cannot be made now is
-// no reason to refuse it.
-void completeLesIndex(dao::Database& base) {
-    try {
-        base.Execute(indexDesListes());
-    } catch (const dao::ErreurDao&) {
-    }
-}
-
-}  // namespace
-
-void OuvertureBase::operator()() {
-    assureLeFichier();
-    reprend();
-}
-
-void OuvertureBase::reprend() {
-    if (!ouvre(m_chemins.base, m_base)) throw systeme::FinDuProgramme{};
-    completeLesIndex(m_base.base);
-}
-
-bool OuvertureBase::rouvre() {
-    Base nouvelle;
-    if (essaie(m_chemins.base, nouvelle)) return false;
-    m_base.ferme();
-    m_base = std::move(nouvelle);
-    completeLesIndex(m_base.base);
-    return true;
-}
-
-bool OuvertureBase::sOuvre(const std::string& chemin) {
-    m_raison.clear();
-    Base essai;
-    return ouvre(chemin, essai);
-}
-
-// When the file cannot be made, the opening says so.
-bool OuvertureBase::assureLeFichier() {
-    m_raison.clear();
-    if (fichiers::existe(m_chemins.base)) return false;
-    const std::string repli = m_chemins.dansDossier("films.mdb");
-    if (!util::egalSansCasse(m_chemins.base, repli)) {
-        m_chemins.baseAbsente = m_chemins.base;
-        m_chemins.base = repli;
-    }
-    if (fichiers::existe(m_chemins.base)) return false;
-    const BaseNeuve issue = creeDepuisLeModele(m_chemins, m_chemins.base);
-    if (issue == BaseNeuve::ModeleInutilisable) m_raison = "le fichier modèle (" + m_chemins.modele + ") est endommagé";
-    return issue == BaseNeuve::Faite;
-}
-
-bool OuvertureBase::ouvre(const std::string& chemin, Base& base) {
-    const auto refus = essaie(chemin, base);
-    if (!refus) return true;
-    if (m_raison.empty()) m_raison = refus->raison;
-    m_dialogues.MsgBox(refus->texte, refus->style);
-    return false;
-}
+struct Refus {
+    std::string texte;
+    int style;
+    std::string raison;  // may be empty
+};
 
 // Leaves `base` closed when it fails.
-std::optional<OuvertureBase::Refus> OuvertureBase::essaie(const std::string& chemin, Base& base) const {
+std::optional<Refus> essaie(const Chemins& chemins, const std::string& chemin, Base& base) {
     base.ferme();
-    if (m_chemins.estDansTmp(chemin))
-        return Refus{kBaseDansTmp, dialogues::kExclamation, "elle est dans le dossier Tmp"};
+    if (chemins.estDansTmp(chemin)) return Refus{kBaseDansTmp, dialogues::kExclamation, "elle est dans le dossier Tmp"};
     try {
         base.base = dao::DBEngine::OpenDatabase(fichiers::trouve(chemin).value_or(chemin));
     } catch (const dao::ErreurDao& erreur) {
@@ -112,9 +59,69 @@ std::optional<OuvertureBase::Refus> OuvertureBase::essaie(const std::string& che
         base.ferme();
         const std::string raison = raisonDe(erreur, chemin);
         if (erreur.numero == dao::kErreurLectureSeule) return Refus{kLectureEcriture, dialogues::kCritique, raison};
-        return Refus{"Erreur " + std::to_string(erreur.numero) + " : " + erreur.description, dialogues::kSimple,
-                     raison};
+        return Refus{erreur.texte(), dialogues::kSimple, raison};
     }
+}
+
+bool ouvre(const Contexte& c, const std::string& chemin, Base& base) {
+    const auto refus = essaie(c.chemins, chemin, base);
+    if (!refus) return true;
+    if (c.base.raison.empty()) c.base.raison = refus->raison;
+    c.dialogues.MsgBox(refus->texte, refus->style);
+    return false;
+}
+
+// A base made elsewhere may lack the indexes. It is as good without them, only slower: that they cannot be made now is
+// no reason to refuse it.
+void completeLesIndex(dao::Database& base) {
+    try {
+        base.Execute(indexDesListes());
+    } catch (const dao::ErreurDao&) {
+    }
+}
+
+}  // namespace
+
+void ouvreLaBase(const Contexte& c) {
+    assureLeFichier(c);
+    reprendLaBase(c);
+}
+
+void reprendLaBase(const Contexte& c) {
+    if (!ouvre(c, c.chemins.base, c.base)) throw systeme::FinDuProgramme{};
+    completeLesIndex(c.base.base);
+}
+
+bool rouvreLaBase(const Contexte& c) {
+    Base nouvelle;
+    if (essaie(c.chemins, c.chemins.base, nouvelle)) return false;
+    c.base.ferme();
+    c.base = std::move(nouvelle);
+    completeLesIndex(c.base.base);
+    return true;
+}
+
+// When the file cannot be made, the opening says so.
+bool assureLeFichier(const Contexte& c) {
+    Chemins& chemins = c.chemins;
+    c.base.raison.clear();
+    if (fichiers::existe(chemins.base)) return false;
+    const std::string repli = chemins.dansDossier("films.mdb");
+    if (!util::egalSansCasse(chemins.base, repli)) {
+        chemins.baseAbsente = chemins.base;
+        chemins.base = repli;
+    }
+    if (fichiers::existe(chemins.base)) return false;
+    const BaseNeuve issue = creeDepuisLeModele(chemins, chemins.base);
+    if (issue == BaseNeuve::ModeleInutilisable)
+        c.base.raison = "le fichier modèle (" + chemins.modele + ") est endommagé";
+    return issue == BaseNeuve::Faite;
+}
+
+bool sOuvre(const Contexte& c, const std::string& chemin) {
+    c.base.raison.clear();
+    Base essai;
+    return ouvre(c, chemin, essai);
 }
 
 }  // namespace db

@@ -2,6 +2,9 @@
 
 #include "db/AfficheVoisine.h"
 #include "db/Affiches.h"
+#include "db/ConversionJet.h"
+#include "db/DommagesJet.h"
+#include "db/DossierImages.h"
 #include "db/MotDePasseJet.h"
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
@@ -24,11 +27,11 @@ namespace fs = std::filesystem;
 
 constexpr int kNomsEssayes = 1000;
 
-struct Echec {
+struct ConversionImpossible {
     std::string texte;
 };
-struct Arret {};
-struct Refus {};  // of the user, who knows it
+struct ConversionArretee {};
+struct PertesRefusees {};  // by the user, who knows it
 
 // The file itself, wherever links to it lie.
 std::string fichierReel(const std::string& chemin) {
@@ -42,9 +45,9 @@ std::string nomSeul(const std::string& chemin) {
 }
 
 // "Films (Jet).mdb", "Films (Jet 2).mdb"...
-std::string nomConserve(const std::string& original, int rang) {
+std::string nomConserve(const std::string& original, int numero) {
     const fs::path chemin(original);
-    const std::string marque = rang == 1 ? " (Jet)" : " (Jet " + std::to_string(rang) + ")";
+    const std::string marque = numero == 1 ? " (Jet)" : " (Jet " + std::to_string(numero) + ")";
     return (chemin.parent_path() / (chemin.stem().string() + marque + chemin.extension().string())).string();
 }
 
@@ -59,11 +62,11 @@ bool estLibreOuSien(const std::string& nom, const std::string& original) {
     return estSonAutreNom(nom, original) || (!fichiers::existe(nom) && !fichiers::dossierExiste(nom));
 }
 
-int premierRang(const std::string& original, int depuis = 1) {
-    int rang = depuis;
-    while (rang < kNomsEssayes && !estLibreOuSien(nomConserve(original, rang), original))
-        ++rang;
-    return rang;
+int premierNumero(const std::string& original, int depuis = 1) {
+    int numero = depuis;
+    while (numero < kNomsEssayes && !estLibreOuSien(nomConserve(original, numero), original))
+        ++numero;
+    return numero;
 }
 
 std::string fichierDuVerrou(const std::string& original) {
@@ -87,11 +90,12 @@ bool estInacheve(const std::string& travail) {
 }
 
 // What a conversion that was killed has left.
-void nettoie(const std::string& travail) {
+void nettoieLeTravail(const std::string& travail) {
     std::error_code ignoree;
     if (!fs::exists(fs::symlink_status(travail, ignoree))) return;
     if (!estInacheve(travail) || !fichiers::supprime(travail))
-        throw Echec{"Le fichier " + entreChevrons(travail) + " gêne la conversion. Déplacez-le, puis recommencez."};
+        throw ConversionImpossible{"Le fichier " + entreChevrons(travail) +
+                                   " gêne la conversion. Déplacez-le, puis recommencez."};
     fichiers::supprime(travail + "-journal");
 }
 
@@ -99,8 +103,8 @@ void nettoie(const std::string& travail) {
 void exigeNomLibre(const std::string& original) {
     for (const char* suite : {"-journal", "-wal"})
         if (fichiers::existe(original + suite))
-            throw Echec{"Le fichier " + entreChevrons(original + suite) +
-                        " appartient à une autre base. Déplacez-le, puis recommencez."};
+            throw ConversionImpossible{"Le fichier " + entreChevrons(original + suite) +
+                                       " appartient à une autre base. Déplacez-le, puis recommencez."};
 }
 
 // Those of the original, which may be a copy of a disc that could not be written.
@@ -111,22 +115,22 @@ void donneLesDroits(const std::string& travail, const std::string& original) {
 }
 
 std::string conserve(const std::string& original) {
-    for (int rang = premierRang(original); rang < kNomsEssayes; rang = premierRang(original, rang + 1)) {
-        const std::string nom = nomConserve(original, rang);
+    for (int numero = premierNumero(original); numero < kNomsEssayes; numero = premierNumero(original, numero + 1)) {
+        const std::string nom = nomConserve(original, numero);
         if (estSonAutreNom(nom, original)) return nom;
         const fichiers::Creation issue = fichiers::donneAutreNom(original, nom);
         if (issue == fichiers::Creation::Faite) return nom;
         if (issue == fichiers::Creation::Echouee) break;
     }
-    throw Echec{"L'original n'a pas pu être conservé sous le nom " + entreChevrons(nomSeul(nomConserve(original, 1))) +
-                " (Disque plein/Lecture seule ?)"};
+    throw ConversionImpossible{"L'original n'a pas pu être conservé sous le nom " +
+                               entreChevrons(nomSeul(nomConserve(original, 1))) + " (Disque plein/Lecture seule ?)"};
 }
 
 // The text that tells the losses; none when there are none.
 std::string garde(const std::string& original, const RapportJet& rapport) {
     if (rapport.dommages.empty()) return {};
     if (const auto nom = gardeLesPertes(original, original, rapport.dommages)) return *nom;
-    throw Echec{"La liste des pertes n'a pas pu être enregistrée (Disque plein/Lecture seule ?)"};
+    throw ConversionImpossible{"La liste des pertes n'a pas pu être enregistrée (Disque plein/Lecture seule ?)"};
 }
 
 // Puts the new base in the original's place. Answers the original's other name.
@@ -135,52 +139,75 @@ std::string echange(const std::string& travail, const std::string& original) {
     const std::string conservee = conserve(original);
     if (fichiers::renomme(travail, original)) return conservee;
     fichiers::supprime(conservee);
-    throw Echec{"Le fichier n'a pas pu être remplacé."};
+    throw ConversionImpossible{"Le fichier n'a pas pu être remplacé."};
 }
 
-}  // namespace
-
-bool OuvertureJet::estJet(const std::string& chemin) {
-    return jet::estBaseJet(fichierReel(chemin));
-}
-
-std::optional<std::string> OuvertureJet::operator()(const std::string& chemin) {
-    const std::string original = fichierReel(chemin);
-    if (!accepte(original)) return std::nullopt;
-    const std::string travail = original + "-conversion.tmp";
-    try {
-        const fichiers::Verrou verrou(original);
-        if (!verrou.estPris()) throw Echec{"Le fichier ne peut pas être lu, ou un autre programme le convertit déjà."};
-        exigeNomLibre(original);
-        nettoie(travail);
-        return convertit(original, travail);
-    } catch (const Arret&) {
-        m_outils.dialogues.MsgBox("La conversion a été arrêtée. Le fichier " + original + " n'a pas été modifié.",
-                                  dialogues::kInformation);
-    } catch (const Refus&) {
-    } catch (const Echec& echec) {
-        m_outils.dialogues.MsgBox(
-            "La base n'a pas pu être convertie.\n" + echec.texte + "\nLe fichier " + original + " n'a pas été modifié.",
-            dialogues::kCritique);
-    }
-    return std::nullopt;
-}
-
-bool OuvertureJet::accepte(const std::string& original) const {
+bool accepteLaConversion(const Contexte& c, const std::string& original) {
     std::string question = "Le fichier " + original +
                            " est une base Jet (Access). Voulez-vous la convertir pour l'ouvrir ?\n" +
                            "L'original sera conservé sous le nom " +
-                           entreChevrons(nomSeul(nomConserve(original, premierRang(original)))) + ".";
+                           entreChevrons(nomSeul(nomConserve(original, premierNumero(original)))) + ".";
     const std::string verrou = fichierDuVerrou(original);
     if (fichiers::existe(verrou))
         question += "\nLe fichier " + entreChevrons(nomSeul(verrou)) +
                     " indique qu'un autre programme l'utilise peut-être : fermez-le d'abord.";
-    return m_outils.dialogues.MsgBox(question, dialogues::kQuestion) == dialogues::kOui;
+    return c.dialogues.MsgBox(question, dialogues::kQuestion) == dialogues::kOui;
 }
 
-std::string OuvertureJet::convertit(const std::string& original, const std::string& travail) {
-    RapportJet rapport = lit(original, travail);
-    compteAffichesNonTrouvees(original, rapport);
+bool accepteLesPertes(const Contexte& c, const std::string& original, const std::string& raison,
+                      const RapportJet& rapport) {
+    const std::string question = "La base n'a pas pu être convertie en entier.\n" + raison + "\n\n" +
+                                 rapport.texteDommages() +
+                                 "\nConvertir ce qui est lisible ?\nL'original sera conservé, et la liste des pertes "
+                                 "gardée dans " +
+                                 entreChevrons(nomSeul(nomDesPertes(original))) + ".";
+    return c.dialogues.MsgBox(question, dialogues::kQuestion) == dialogues::kOui;
+}
+
+IssueJet passe(const Contexte& c, const std::string& original, const std::string& travail,
+               const jet::Ouverture& ouverture) {
+    EtatTravaux& travaux = c.travaux;
+    travaux.lblTravail.Caption = "Conversion de la base " + nomSeul(original) + "...";
+    travaux.ProgressBar3.Visible = true;
+    IssueJet issue = ConversionJet(travaux.ProgressBar3, c.ecran)(original, travail, ouverture);
+    travaux.ProgressBar3.Visible = false;
+    travaux.lblTravail.Caption.clear();
+    return issue;
+}
+
+// It is converted first, so that the question tells what the answer leads to.
+IssueJet litCeQuiEstLisible(const Contexte& c, const std::string& original, const std::string& travail,
+                            const jet::Ouverture& ouverture, const std::string& raison) {
+    IssueJet issue = passe(c, original, travail, ouverture);
+    if (issue.abimee) issue.echec = raison;  // nothing is readable
+    if (!issue.estFaite() || accepteLesPertes(c, original, raison, issue.rapport)) return issue;
+    fichiers::supprime(travail);
+    throw PertesRefusees{};
+}
+
+RapportJet litLaBaseJet(const Contexte& c, const std::string& original, const std::string& travail) {
+    if (!fichiers::dossierModifiable(fs::path(original).parent_path().string()))
+        throw ConversionImpossible{"Son dossier n'est pas accessible en écriture."};
+    const auto motDePasse = demandeMotDePasse(original, c.dialogues);
+    if (!motDePasse) throw ConversionArretee{};
+    IssueJet issue = passe(c, original, travail, {.motDePasse = *motDePasse});
+    if (issue.abimee) issue = litCeQuiEstLisible(c, original, travail, {*motDePasse, true}, *issue.echec);
+    if (issue.interrompu) throw ConversionArretee{};
+    if (issue.echec) throw ConversionImpossible{*issue.echec};
+    return issue.rapport;
+}
+
+void compteAffichesNonTrouvees(const Contexte& c, const std::string& original, RapportJet& rapport) {
+    const std::string dossier = dossierImages(c);
+    rapport.affichesNonTrouvees = std::ranges::count_if(rapport.fichiers, [&](const std::string& nom) {
+        const std::string affiche = std::string(kDansUnFichier) + nom;
+        return !fichierAffiche(dossier, affiche) && !afficheVoisine(original, affiche);
+    });
+}
+
+std::string convertitEtEchange(const Contexte& c, const std::string& original, const std::string& travail) {
+    RapportJet rapport = litLaBaseJet(c, original, travail);
+    compteAffichesNonTrouvees(c, original, rapport);
     std::string pertes;
     try {
         pertes = garde(original, rapport);
@@ -189,60 +216,40 @@ std::string OuvertureJet::convertit(const std::string& original, const std::stri
                             entreChevrons(nomSeul(conservee)) + ".";
         if (!pertes.empty()) texte += "\nCe qui est perdu est dit dans " + entreChevrons(nomSeul(pertes)) + ".";
         return texte;
-    } catch (const Echec&) {
+    } catch (const ConversionImpossible&) {
         fichiers::supprime(travail);
         if (!pertes.empty()) fichiers::supprime(pertes);
         throw;
     }
 }
 
-RapportJet OuvertureJet::lit(const std::string& original, const std::string& travail) {
-    if (!fichiers::dossierModifiable(fs::path(original).parent_path().string()))
-        throw Echec{"Son dossier n'est pas accessible en écriture."};
-    const auto motDePasse = demandeMotDePasse(original, m_outils.dialogues);
-    if (!motDePasse) throw Arret{};
-    IssueJet issue = passe(original, travail, {.motDePasse = *motDePasse});
-    if (issue.abimee) issue = litCeQuiEstLisible(original, travail, {*motDePasse, true}, *issue.echec);
-    if (issue.interrompu) throw Arret{};
-    if (issue.echec) throw Echec{*issue.echec};
-    return issue.rapport;
+}  // namespace
+
+bool estJet(const std::string& chemin) {
+    return jet::estBaseJet(fichierReel(chemin));
 }
 
-IssueJet OuvertureJet::passe(const std::string& original, const std::string& travail, const jet::Ouverture& ouverture) {
-    m_outils.lblTravail.Caption = "Conversion de la base " + nomSeul(original) + "...";
-    m_outils.progression.Visible = true;
-    IssueJet issue = ConversionJet(m_outils.progression, m_outils.ecran)(original, travail, ouverture);
-    m_outils.progression.Visible = false;
-    m_outils.lblTravail.Caption.clear();
-    return issue;
-}
-
-// It is converted first, so that the question tells what the answer leads to.
-IssueJet OuvertureJet::litCeQuiEstLisible(const std::string& original, const std::string& travail,
-                                          const jet::Ouverture& ouverture, const std::string& raison) {
-    IssueJet issue = passe(original, travail, ouverture);
-    if (issue.abimee) issue.echec = raison;  // nothing is readable
-    if (!issue.estFaite() || accepteLesPertes(original, raison, issue.rapport)) return issue;
-    fichiers::supprime(travail);
-    throw Refus{};
-}
-
-bool OuvertureJet::accepteLesPertes(const std::string& original, const std::string& raison,
-                                    const RapportJet& rapport) const {
-    const std::string question = "La base n'a pas pu être convertie en entier.\n" + raison + "\n\n" +
-                                 rapport.texteDommages() +
-                                 "\nConvertir ce qui est lisible ?\nL'original sera conservé, et la liste des pertes "
-                                 "gardée dans " +
-                                 entreChevrons(nomSeul(nomDesPertes(original))) + ".";
-    return m_outils.dialogues.MsgBox(question, dialogues::kQuestion) == dialogues::kOui;
-}
-
-void OuvertureJet::compteAffichesNonTrouvees(const std::string& original, RapportJet& rapport) const {
-    const std::string dossier = dossierImages(m_outils.stockage, m_outils.chemins);
-    rapport.affichesNonTrouvees = std::ranges::count_if(rapport.fichiers, [&](const std::string& nom) {
-        const std::string affiche = "JPG" + nom;
-        return !fichierAffiche(dossier, affiche) && !afficheVoisine(original, affiche);
-    });
+std::optional<std::string> convertitJet(const Contexte& c, const std::string& chemin) {
+    const std::string original = fichierReel(chemin);
+    if (!accepteLaConversion(c, original)) return std::nullopt;
+    const std::string travail = original + "-conversion.tmp";
+    try {
+        const fichiers::Verrou verrou(original);
+        if (!verrou.estPris())
+            throw ConversionImpossible{"Le fichier ne peut pas être lu, ou un autre programme le convertit déjà."};
+        exigeNomLibre(original);
+        nettoieLeTravail(travail);
+        return convertitEtEchange(c, original, travail);
+    } catch (const ConversionArretee&) {
+        c.dialogues.MsgBox("La conversion a été arrêtée. Le fichier " + original + " n'a pas été modifié.",
+                           dialogues::kInformation);
+    } catch (const PertesRefusees&) {
+    } catch (const ConversionImpossible& echec) {
+        c.dialogues.MsgBox(
+            "La base n'a pas pu être convertie.\n" + echec.texte + "\nLe fichier " + original + " n'a pas été modifié.",
+            dialogues::kCritique);
+    }
+    return std::nullopt;
 }
 
 }  // namespace db

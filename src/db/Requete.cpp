@@ -19,12 +19,11 @@ std::string texteErreurRequete(NumeroErreur numero) {
     return "Erreur (" + std::to_string(static_cast<int>(numero)) + ") : Etablissement de requête";
 }
 
-dao::Recordset ouvreRequete(dao::Database& base, const std::string& enonce, NumeroErreur numero,
-                            dialogues::Dialogues& dialogues) {
+dao::Recordset ouvreRequete(const Contexte& c, const std::string& enonce, NumeroErreur numero) {
     try {
-        return base.OpenRecordset(enonce);
+        return c.base.base.OpenRecordset(enonce);
     } catch (const dao::ErreurDao& erreur) {
-        dialogues.MsgBox(texteErreurRequete(numero), dialogues::kCritique);
+        c.dialogues.MsgBox(texteErreurRequete(numero), dialogues::kCritique);
         throw RequeteEchouee(erreur);
     }
 }

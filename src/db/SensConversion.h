@@ -58,7 +58,7 @@ class VersLaBase final : public SensConversion {
         bool reste = false;  // it lies beside the base
     };
     void releveUsages();
-    void releve(const std::string& affiche);
+    void releve(const std::string& nom);
     [[nodiscard]] std::optional<Source> cherche(const std::string& nom) const;
     [[nodiscard]] bool estNomme(const std::string& nom) const;
     void supprimeSiStocke(const dao::Recordset& films, std::vector<std::string>& noms) const;

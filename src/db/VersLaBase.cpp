@@ -7,11 +7,9 @@ namespace db {
 
 namespace {
 
-constexpr std::string_view kFichier = "JPG";
-
 // The file's name in a value that names one.
 std::string nomDans(std::string_view affiche) {
-    return affiche.starts_with(kFichier) ? nomDansLeDossier(affiche) : std::string();
+    return affiche.starts_with(kDansUnFichier) ? nomDansLeDossier(affiche) : std::string();
 }
 
 // A file that went meanwhile is passed over as those that were not there.
@@ -60,7 +58,7 @@ void VersLaBase::releve(const std::string& nom) {
 // In the images folder, else where it came with the base.
 std::optional<VersLaBase::Source> VersLaBase::cherche(const std::string& nom) const {
     if (const auto place = fichiers::situeDans(m_dossier, nom)) return Source{*place, false};
-    const auto voisine = afficheVoisine(m_base.nom(), std::string(kFichier) + nom);
+    const auto voisine = afficheVoisine(m_base.nom(), std::string(kDansUnFichier) + nom);
     return voisine ? std::optional(Source{*voisine, true}) : std::nullopt;
 }
 

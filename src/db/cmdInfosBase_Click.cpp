@@ -12,13 +12,13 @@ std::string titres(long nombre) {
 
 }  // namespace
 
-void cmdInfosBase_Click(Base& base, dialogues::Dialogues& dialogues) {
-    const auto compte = [&](const char* enonce) { return base.base.OpenRecordset(enonce).RecordCount(); };
+void cmdInfosBase_Click(const Contexte& c) {
+    const auto compte = [&](const char* enonce) { return c.base.base.OpenRecordset(enonce).RecordCount(); };
     const long externes = compte("SELECT titre FROM films where Affiche like 'JPG*' order by titre");
     const long internes = compte("SELECT titre FROM films where Affiche like 'STO*' order by titre");
-    dialogues.MsgBox(titres(externes) + " ayant un lien sur un fichier externe\n" + titres(internes) +
-                         " ayant un lien sur un fichier interne",
-                     dialogues::kInformation);
+    c.dialogues.MsgBox(titres(externes) + " ayant un lien sur un fichier externe\n" + titres(internes) +
+                           " ayant un lien sur un fichier interne",
+                       dialogues::kInformation);
 }
 
 }  // namespace db

@@ -1,9 +1,15 @@
 #include "db/cmdMajBase_Click.h"
 
-#include "db/Affiches.h"
+#include "db/DossierImages.h"
+#include "db/Requete.h"
+#include "db/SensConversion.h"
+#include "db/cmdCompacter_Click.h"
 #include "platform/fichiers/Fichiers.h"
 
 #include <algorithm>
+#include <memory>
+#include <optional>
+#include <string>
 
 namespace db {
 
@@ -13,63 +19,33 @@ namespace {
 constexpr long kFilmsParLot = 1000;
 constexpr std::chrono::milliseconds kDureeDUnLot{1000};
 
-}  // namespace
+using Empechement = std::optional<std::string>;  // what to tell the user
 
-void cmdMajBase_Click::operator()() {
-    RapportConversion rapport;
-    const Echec echec = convertit(rapport);
-    if (echec) m_outils.dialogues.MsgBox(*echec, dialogues::kCritique);
-    if (rapport.crees > 0 && !echec) m_cmdCompacter();
-    if (const std::string texte = rapport.texte(); !texte.empty())
-        m_outils.dialogues.MsgBox(texte, dialogues::kInformation);
-    m_rafraichissement.AffichageApresModification();
+std::unique_ptr<SensConversion> sensVoulu(const Contexte& c, const std::string& dossier) {
+    if (c.stockage.dansLaBase()) return std::make_unique<VersLaBase>(c.base.base, dossier);
+    return std::make_unique<VersLeDossier>(c.base.base, dossier);
 }
 
-std::unique_ptr<SensConversion> cmdMajBase_Click::sens(const std::string& dossier) const {
-    if (m_outils.stockage.dansLaBase()) return std::make_unique<VersLaBase>(m_outils.base.base, dossier);
-    return std::make_unique<VersLeDossier>(m_outils.base.base, dossier);
-}
-
-// The films that need nothing are done from the start.
-cmdMajBase_Click::Echec cmdMajBase_Click::convertit(RapportConversion& rapport) {
-    if (auto refus = refusDossierImages(m_outils.stockage, m_outils.chemins)) return refus;
-    const std::string dossier = dossierImages(m_outils.stockage, m_outils.chemins);
-    fichiers::creeDossier(dossier);
-    const auto sensVoulu = sens(dossier);
-    sensVoulu->reprend();
-    dao::Recordset films = m_outils.base.base.OpenRecordset(sensVoulu->enonce());
-    m_outils.progression.Max = std::max(1L, m_outils.base.films.RecordCount());  // of 0 the bar would never end
-    m_outils.progression.Value = m_outils.progression.Max - films.RecordCount();
-    if (films.Eof()) return std::nullopt;
-    if (!fichiers::dossierModifiable(dossier))
-        return "Le dossier des images " + dossier + " n'est pas accessible en écriture !";
-    return convertitTout(*sensVoulu, films, rapport);
-}
-
-cmdMajBase_Click::Echec cmdMajBase_Click::convertitTout(SensConversion& sens, dao::Recordset& films,
-                                                        RapportConversion& rapport) {
-    const ecran::Travail travail(m_outils.ecran);
-    const long aConvertir = sens.aConvertir(films);
-    Echec echec;
-    try {
-        while (!films.Eof() && convertitLot(sens, films, rapport)) {
-        }
-    } catch (const EchecConversion& raison) {
-        echec = raison.texte;
-    } catch (const dao::ErreurDao& erreur) {
-        echec = "Erreur " + std::to_string(erreur.numero) + " : " + erreur.description;
+// False when the user asked to stop. A film that someone else deleted meanwhile is passed over.
+bool convertitFilms(const Contexte& c, SensConversion& sens, dao::Recordset& films, RapportConversion& lot) {
+    const auto fin = c.montre() + kDureeDUnLot;
+    bool continuer = true;
+    for (long rang = 0; continuer && !films.Eof() && rang < kFilmsParLot && c.montre() < fin; ++rang) {
+        (void)saufSupprimee([&] { lot += sens.convertit(films); });
+        films.MoveNext();
+        ++c.travaux.ProgressBar2.Value;
+        continuer = c.ecran.respire();
     }
-    if (echec || !films.Eof()) rapport.restants = std::max(0L, aConvertir - rapport.rencontres());
-    return echec;
+    return continuer;
 }
 
-// False when the user asked to stop. A lot that fails leaves nothing, in the base, in the folder nor in the report.
-bool cmdMajBase_Click::convertitLot(SensConversion& sens, dao::Recordset& films, RapportConversion& rapport) {
+// A lot that fails leaves nothing, in the base, in the folder nor in the report.
+bool convertitLot(const Contexte& c, SensConversion& sens, dao::Recordset& films, RapportConversion& rapport) {
     RapportConversion fait;
     bool continuer = false;
     try {
-        dao::Transaction lot(m_outils.base.base);
-        continuer = convertitFilms(sens, films, fait);
+        dao::Transaction lot(c.base.base);
+        continuer = convertitFilms(c, sens, films, fait);
         sens.avantValidation();
         lot.confirme();
     } catch (...) {
@@ -81,21 +57,48 @@ bool cmdMajBase_Click::convertitLot(SensConversion& sens, dao::Recordset& films,
     return continuer;
 }
 
-// A film that someone else deleted meanwhile is passed over.
-bool cmdMajBase_Click::convertitFilms(SensConversion& sens, dao::Recordset& films, RapportConversion& lot) {
-    const auto fin = m_outils.montre() + kDureeDUnLot;
-    bool continuer = true;
-    for (long rang = 0; continuer && !films.Eof() && rang < kFilmsParLot && m_outils.montre() < fin; ++rang) {
-        try {
-            lot += sens.convertit(films);
-        } catch (const dao::ErreurDao& erreur) {
-            if (erreur.numero != dao::kErreurEnregistrementSupprime) throw;
+Empechement convertitTout(const Contexte& c, SensConversion& sens, dao::Recordset& films, RapportConversion& rapport) {
+    const ecran::Travail travail(c.ecran);
+    const long aConvertir = sens.aConvertir(films);
+    Empechement echec;
+    try {
+        while (!films.Eof() && convertitLot(c, sens, films, rapport)) {
         }
-        films.MoveNext();
-        ++m_outils.progression.Value;
-        continuer = m_outils.ecran.respire();
+    } catch (const EchecConversion& raison) {
+        echec = raison.texte;
+    } catch (const dao::ErreurDao& erreur) {
+        echec = erreur.texte();
     }
-    return continuer;
+    if (echec || !films.Eof()) rapport.restants = std::max(0L, aConvertir - rapport.rencontres());
+    return echec;
+}
+
+// The films that need nothing are done from the start.
+Empechement convertitLesAffiches(const Contexte& c, RapportConversion& rapport) {
+    if (auto refus = refusDossierImages(c)) return refus;
+    const std::string dossier = dossierImages(c);
+    fichiers::creeDossier(dossier);
+    const auto sens = sensVoulu(c, dossier);
+    sens->reprend();
+    dao::Recordset films = c.base.base.OpenRecordset(sens->enonce());
+    ecran::Progression& progression = c.travaux.ProgressBar2;
+    progression.Max = std::max(1L, c.base.films.RecordCount());  // of 0 the bar would never end
+    progression.Value = progression.Max - films.RecordCount();
+    if (films.Eof()) return std::nullopt;
+    if (!fichiers::dossierModifiable(dossier))
+        return "Le dossier des images " + dossier + " n'est pas accessible en écriture !";
+    return convertitTout(c, *sens, films, rapport);
+}
+
+}  // namespace
+
+void cmdMajBase_Click(const Contexte& c) {
+    RapportConversion rapport;
+    const Empechement echec = convertitLesAffiches(c, rapport);
+    if (echec) c.dialogues.MsgBox(*echec, dialogues::kCritique);
+    if (rapport.crees > 0 && !echec) cmdCompacter_Click(c);
+    if (const std::string texte = rapport.texte(); !texte.empty()) c.dialogues.MsgBox(texte, dialogues::kInformation);
+    c.rafraichissement.AffichageApresModification();
 }
 
 }  // namespace db

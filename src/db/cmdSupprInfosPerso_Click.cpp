@@ -1,47 +1,46 @@
 #include "db/cmdSupprInfosPerso_Click.h"
 
+#include "db/Requete.h"
 #include "util/Nombres.h"
 
 namespace db {
 
-void cmdSupprInfosPerso_Click::operator()() {
-    dao::Recordset possedes = m_base.base.OpenRecordset("SELECT * FROM Personnel order by titre2;");
-    if (possedes.RecordCount() == 0) {
-        m_dialogues.MsgBox("Aucun titre personnel !", dialogues::kExclamation);
-        return;
-    }
-    if (!confirme()) return;
-    const long supprimes = supprime(possedes);
-    m_rafraichissement.AfficheNbTitres();
-    m_rafraichissement.AffichageApresModification();
-    m_rafraichissement.RaffraichitBoitesDeroulantes();
-    m_dialogues.MsgBox("Appartenance de " + util::phraseCompte(supprimes, "# titre", "# titres") + " supprimée.",
-                       dialogues::kInformation);
-}
+namespace {
 
-bool cmdSupprInfosPerso_Click::confirme() {
-    return m_dialogues.MsgBox(
+bool confirmeLaSuppression(const Contexte& c) {
+    return c.dialogues.MsgBox(
                "Vous allez supprimer tout ce qui concerne les titres personnels (réservations, prêts, nom de fichiers, "
                "rangement...)\nVoulez-vous continuer ?",
                dialogues::kQuestion, "Suppression des titres personnels") == dialogues::kOui;
 }
 
-// A holding that someone else deleted meanwhile is not counted.
-long cmdSupprInfosPerso_Click::supprime(dao::Recordset& possedes) {
-    dao::Transaction ensemble(m_base.base);
+// Answers how many; a holding that someone else deleted meanwhile is not counted.
+long supprimeTout(const Contexte& c, dao::Recordset& possedes) {
+    dao::Transaction ensemble(c.base.base);
     const long nombre = possedes.RecordCount();
     long supprimes = 0;
     possedes.MoveFirst();
-    for (long rang = 0; rang < nombre; ++rang, possedes.MoveNext()) {
-        try {
-            possedes.Delete();
-            ++supprimes;
-        } catch (const dao::ErreurDao& erreur) {
-            if (erreur.numero != dao::kErreurEnregistrementSupprime) throw;
-        }
-    }
+    for (long rang = 0; rang < nombre; ++rang, possedes.MoveNext())
+        if (saufSupprimee([&] { possedes.Delete(); })) ++supprimes;
     ensemble.confirme();
     return supprimes;
+}
+
+}  // namespace
+
+void cmdSupprInfosPerso_Click(const Contexte& c) {
+    dao::Recordset possedes = c.base.base.OpenRecordset("SELECT * FROM Personnel order by titre2;");
+    if (possedes.RecordCount() == 0) {
+        c.dialogues.MsgBox("Aucun titre personnel !", dialogues::kExclamation);
+        return;
+    }
+    if (!confirmeLaSuppression(c)) return;
+    const long supprimes = supprimeTout(c, possedes);
+    c.rafraichissement.AfficheNbTitres();
+    c.rafraichissement.AffichageApresModification();
+    c.rafraichissement.RaffraichitBoitesDeroulantes();
+    c.dialogues.MsgBox("Appartenance de " + util::phraseCompte(supprimes, "# titre", "# titres") + " supprimée.",
+                       dialogues::kInformation);
 }
 
 }  // namespace db
