@@ -1,14 +1,17 @@
 #include "browse/AffichageApresModification.h"
 
-#include "browse/ZoneRecherche.h"
+#include "browse/AfficheAccueil.h"
+#include "browse/CreeRequeteAffichage.h"
+#include "browse/ListesDeChoix.h"
 
 namespace browse {
 
-void AffichageApresModification::operator()() {
-    m_afficheAccueil();
-    const bool recherche = !m_liste.critereRecherche.empty() && m_liste.ChoixZone.Text == kTexteZoneRecherche;
-    m_creeRequeteAffichage(m_liste.ChoixZone.ListIndex, m_liste.ChoixTri.ListIndex,
-                           recherche ? m_liste.critereRecherche : "");
+void AffichageApresModification(const Contexte& c) {
+    AfficheAccueil(c);
+    const EtatListe& liste = c.liste;
+    const bool recherche = !liste.critereRecherche.empty() && liste.ChoixZone.Text == kTexteZoneRecherche;
+    CreeRequeteAffichage(c, liste.ChoixZone.ListIndex, liste.ChoixTri.ListIndex,
+                         recherche ? liste.critereRecherche : "");
 }
 
 }  // namespace browse

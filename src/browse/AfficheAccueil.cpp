@@ -4,11 +4,11 @@
 
 namespace browse {
 
-void AfficheAccueil::operator()() {
-    const bool dejaLa = m_panneaux.framePresentation.Visible;
-    CacheFiche(m_panneaux);
-    m_panneaux.montre(m_panneaux.framePresentation);
-    if (!dejaLa) m_ecran.rafraichit();
+void AfficheAccueil(const Contexte& c) {
+    const bool dejaLa = c.panneaux.framePresentation.Visible;
+    CacheFiche(c.panneaux);
+    c.panneaux.montre(c.panneaux.framePresentation);
+    if (!dejaLa) c.ecran.rafraichit();
 }
 
 }  // namespace browse

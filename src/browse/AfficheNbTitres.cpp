@@ -4,9 +4,9 @@
 
 namespace browse {
 
-void AfficheNbTitres::operator()() {
-    m_liste.Label9[0].Caption = util::phraseCompte(m_base.films.RecordCount(), "# titre", "# titres");
-    m_liste.Label9[1].Caption = util::phraseCompte(m_base.personnel.RecordCount(), "# personnel", "# personnels");
+void AfficheNbTitres(const Contexte& c) {
+    c.liste.Label9[0].Caption = util::phraseCompte(c.base.films.RecordCount(), "# titre", "# titres");
+    c.liste.Label9[1].Caption = util::phraseCompte(c.base.personnel.RecordCount(), "# personnel", "# personnels");
 }
 
 }  // namespace browse

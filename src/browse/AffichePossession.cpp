@@ -24,6 +24,23 @@ ChampsPossession lis(const dao::Recordset& possession) {
     return champs;
 }
 
+void retientLesFichiers(FilmCourant& film) {
+    for (std::size_t i = 0; i < film.fichiers.size(); ++i) {
+        film.fichiers[i] = film.possession.Text10[i];
+        if (!film.fichiers[i].empty()) film.fichiersPresents = true;
+    }
+}
+
+void nommeLesFichiers(EtatFiche& fiche, const FilmCourant& film) {
+    fiche.captionFichiers = film.titre;
+    fiche.cheminsFichiers = film.fichiers;
+    for (std::size_t i = 0; i < film.fichiers.size(); ++i) {
+        const std::string nom = fichiers::nomDeFichier(film.fichiers[i]);
+        fiche.Command1[i].Enabled = !film.fichiers[i].empty();
+        fiche.Command1[i].Caption = nom.empty() ? "Fichier " + std::to_string(i + 1) : nom;
+    }
+}
+
 }  // namespace
 
 void montrePossession(EtatFiche& fiche) {
@@ -32,35 +49,18 @@ void montrePossession(EtatFiche& fiche) {
     fiche.cmdRaffraichirListe.Visible = possede;
 }
 
-void AffichePossession::operator()() {
-    m_film.fichiersPresents = false;
-    m_film.fichiers = {};
-    dao::Recordset possession = db::ouvreRequete(m_base.base, db::enoncePossession(m_film.titre, m_film.realisateur),
-                                                 db::NumeroErreur::AfficheFiche, m_dialogues);
-    m_fiche.cmdValiderInfosPossessions.Visible = false;
-    m_film.possession = possession.Eof() ? ChampsPossession() : lis(possession);
-    ecritChampsPossession(m_fiche, m_film.possession);
-    montrePossession(m_fiche);
-    retientLesFichiers();
-    m_fiche.cmdFichiersFilm.Visible = m_film.fichiersPresents;
-    nommeLesFichiers();
-}
-
-void AffichePossession::retientLesFichiers() {
-    for (std::size_t i = 0; i < m_film.fichiers.size(); ++i) {
-        m_film.fichiers[i] = m_film.possession.Text10[i];
-        if (!m_film.fichiers[i].empty()) m_film.fichiersPresents = true;
-    }
-}
-
-void AffichePossession::nommeLesFichiers() {
-    m_fiche.captionFichiers = m_film.titre;
-    m_fiche.cheminsFichiers = m_film.fichiers;
-    for (std::size_t i = 0; i < m_film.fichiers.size(); ++i) {
-        const std::string nom = fichiers::nomDeFichier(m_film.fichiers[i]);
-        m_fiche.Command1[i].Enabled = !m_film.fichiers[i].empty();
-        m_fiche.Command1[i].Caption = nom.empty() ? "Fichier " + std::to_string(i + 1) : nom;
-    }
+void AffichePossession(const Contexte& c) {
+    FilmCourant& film = c.film;
+    film.fichiersPresents = false;
+    film.fichiers = {};
+    const dao::Recordset possession = db::ouvreRequete(c, db::enoncePossession(film), db::NumeroErreur::AfficheFiche);
+    c.fiche.cmdValiderInfosPossessions.Visible = false;
+    film.possession = possession.Eof() ? ChampsPossession() : lis(possession);
+    ecritChampsPossession(c.fiche, film.possession);
+    montrePossession(c.fiche);
+    retientLesFichiers(film);
+    c.fiche.cmdFichiersFilm.Visible = film.fichiersPresents;
+    nommeLesFichiers(c.fiche, film);
 }
 
 }  // namespace browse

@@ -18,55 +18,52 @@ std::string cheminVoulu(std::string_view affiche, const std::string& dossier, co
            (nom.empty() ? std::string(affiche.substr(std::min(db::kTaillePrefixe, affiche.size()), kNomMax)) : nom);
 }
 
-}  // namespace
-
-void AfficheTemporaire::efface() {
-    fichiers::supprime(m_chemins.afficheTmp);
-    m_attendue = false;
-}
-
-void AfficheTemporaire::depuis(std::string_view affiche) {
-    efface();
-    if (affiche.empty()) return;
-    if (!db::estDansLaBase(affiche))
-        depuisFichier(affiche);
-    else if (affiche.size() > db::kTaillePrefixe)
-        depuisOctets(affiche.substr(db::kTaillePrefixe));
-}
-
-// In the images folder, else where it came with the base.
-std::optional<fichiers::Place> AfficheTemporaire::cherche(std::string_view affiche, const std::string& dossier) const {
-    const auto fichier = db::fichierAffiche(dossier, affiche);
-    return fichier ? fichier : db::afficheVoisine(m_chemins.base, affiche);
-}
-
-void AfficheTemporaire::depuisFichier(std::string_view affiche) {
-    const std::string dossier = db::dossierImages(m_stockage, m_chemins);
-    const std::string chemin = cheminVoulu(affiche, dossier, m_stockage);
-    const auto fichier = cherche(affiche, dossier);
+void depuisFichier(const Contexte& c, std::string_view affiche) {
+    const std::string dossier = db::dossierImages(c);
+    const std::string chemin = cheminVoulu(affiche, dossier, c.stockage);
+    auto fichier = db::fichierAffiche(dossier, affiche);
+    if (!fichier) fichier = db::afficheVoisine(c.chemins.base, affiche);  // where it came with the base
     if (!fichier) {
-        m_dialogues.MsgBox("Le fichier image n'existe plus (" + chemin + ") !", dialogues::kExclamation);
+        c.dialogues.MsgBox("Le fichier image n'existe plus (" + chemin + ") !", dialogues::kExclamation);
         return;
     }
-    if (const auto octets = fichiers::litSansLien(fichier->chemin, db::kTailleMaxImage)) return depuisOctets(*octets);
-    m_attendue = true;
-    m_avis.montre("L'affiche n'a pas pu être lue (" + chemin + ").");
+    if (const auto octets = fichiers::litSansLien(fichier->chemin, db::kTailleMaxImage))
+        return ecritAfficheTemporaire(c, *octets);
+    c.film.afficheAttendue = true;
+    c.avis.montre("L'affiche n'a pas pu être lue (" + chemin + ").");
+}
+
+}  // namespace
+
+void effaceAfficheTemporaire(const Contexte& c) {
+    fichiers::supprime(c.chemins.afficheTmp);
+    c.film.afficheAttendue = false;
+}
+
+void prepareAfficheTemporaire(const Contexte& c, std::string_view affiche) {
+    effaceAfficheTemporaire(c);
+    if (affiche.empty()) return;
+    if (!db::estDansLaBase(affiche))
+        depuisFichier(c, affiche);
+    else if (affiche.size() > db::kTaillePrefixe)
+        ecritAfficheTemporaire(c, affiche.substr(db::kTaillePrefixe));
 }
 
 // "Tmp" may have gone since the start: it is made again.
-void AfficheTemporaire::depuisOctets(std::string_view octets) {
-    efface();
-    m_attendue = true;
-    if (fichiers::ecrit(m_chemins.afficheTmp, octets)) return;
-    if (fichiers::assureDossierPrive(m_chemins.dossierTmp) && fichiers::ecrit(m_chemins.afficheTmp, octets)) return;
+void ecritAfficheTemporaire(const Contexte& c, std::string_view octets) {
+    effaceAfficheTemporaire(c);
+    c.film.afficheAttendue = true;
+    const db::Chemins& chemins = c.chemins;
+    if (fichiers::ecrit(chemins.afficheTmp, octets)) return;
+    if (fichiers::assureDossierPrive(chemins.dossierTmp) && fichiers::ecrit(chemins.afficheTmp, octets)) return;
     const std::string raison = fichiers::raisonDeLEchec();
-    fichiers::supprime(m_chemins.afficheTmp);  // what was begun of it
-    m_avis.montre("L'affiche ne peut pas être montrée : " + m_chemins.dossierTmp + " n'a pas pu être écrit (" + raison +
+    fichiers::supprime(chemins.afficheTmp);  // what was begun of it
+    c.avis.montre("L'affiche ne peut pas être montrée : " + chemins.dossierTmp + " n'a pas pu être écrit (" + raison +
                   ").");
 }
 
-std::optional<std::string> AfficheTemporaire::octets() const {
-    return fichiers::litSansLien(m_chemins.afficheTmp, db::kTailleMaxImage);
+std::optional<std::string> litAfficheTemporaire(const Contexte& c) {
+    return fichiers::litSansLien(c.chemins.afficheTmp, db::kTailleMaxImage);
 }
 
 }  // namespace browse

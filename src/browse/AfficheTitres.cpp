@@ -16,10 +16,6 @@ namespace {
 constexpr std::string_view kHorsTri = " Hors tri !";
 constexpr std::size_t kOctetsParTitre = 24;  // a usual title's length, to reserve the tree's text once
 
-// The heading's column of each sort; sorts 0 and 1 have none.
-constexpr std::array<std::string_view, 9> kChamps{"",        "",      "Annee", "Realisateur", "Genre",
-                                                  "Origine", "Duree", "Note",  "Support"};
-
 // 1 to 26 for a title that begins with a letter, accented or not, 0 for any other.
 std::size_t rangDeLettre(std::string_view titre) {
     const bool ascii = titre.empty() || static_cast<unsigned char>(titre.front()) < 0x80;
@@ -78,45 +74,45 @@ class GroupesParValeur {
     const std::string m_cleVide = dao::cleDeComparaison("");
 };
 
-}  // namespace
-
-void AfficheTitres::operator()(int tri) {
-    vide();
-    const long lignes = m_base.liste.RecordCount();
-    m_liste.Frame1.Caption = "Liste de films (" + util::phraseCompte(lignes, "# titre", "# titres") + ")";
-    if (lignes < 1) return;
-    m_liste.TreeView1.Nodes.reserve(static_cast<std::size_t>(lignes),
-                                    static_cast<std::size_t>(lignes) * kOctetsParTitre);
-    remplit(tri);
-    if (m_liste.AffStats.Value == 1) AffStats_Click();
-}
-
-void AfficheTitres::vide() {
-    m_liste.TreeView1.Nodes.Clear();
-    m_liste.TreeView1.SelectedItem = 0;
-    m_liste.TreeView1.coches.clear();
-}
-
-void AfficheTitres::remplit(int tri) {
-    Arbre& arbre = m_liste.TreeView1.Nodes;
-    dao::Recordset& liste = m_base.liste;
+void remplit(Arbre& arbre, dao::Recordset& liste, const Tri& tri) {
     GroupesParLettre lettres(arbre);
     GroupesParValeur valeurs(arbre);
     const dao::Colonne titres = liste.colonne("Titre");
-    const dao::Colonne champ = liste.colonne(kChamps.at(static_cast<std::size_t>(tri)));
+    const dao::Colonne champ = liste.colonne(tri.champ);
     std::uint32_t position = 0;
     for (liste.MoveFirst(); !liste.Eof(); liste.MoveNext()) {
         // A view holds until the next one is asked for: the heading first, then the title.
-        int groupe = tri > kTriTitre2 ? valeurs.groupe(liste.vue(champ)) : 0;
+        int groupe = tri.groupes == Groupes::Valeur ? valeurs.groupe(liste.vue(champ)) : 0;
         const std::string_view titre = liste.vue(titres);
-        if (tri == kTriTitre1) groupe = lettres.groupe(titre);
+        if (tri.groupes == Groupes::Lettre) groupe = lettres.groupe(titre);
         arbre.ajouteFilm(groupe, ++position, titre);
     }
 }
 
+}  // namespace
+
+void AfficheTitres(const Contexte& c, int tri) {
+    videLesTitres(c);
+    const long lignes = c.base.liste.RecordCount();
+    c.liste.Frame1.Caption = "Liste de films (" + util::phraseCompte(lignes, "# titre", "# titres") + ")";
+    if (lignes < 1) return;
+    Arbre& arbre = c.liste.TreeView1.Nodes;
+    const auto films = static_cast<std::size_t>(lignes);
+    arbre.reserve(films, films * kOctetsParTitre);
+    remplit(arbre, c.base.liste, triDe(tri));
+    if (c.liste.AffStats.Value == 1) AffStats_Click(c);
+}
+
+void videLesTitres(const Contexte& c) {
+    VueArbre& vue = c.liste.TreeView1;
+    vue.Nodes.Clear();
+    vue.SelectedItem = 0;
+    vue.coches.clear();
+}
+
 // Cut to one decimal in whole numbers: a quotient of its own would make 28.9 of 29.
-void AfficheTitres::AffStats_Click() {
-    Arbre& arbre = m_liste.TreeView1.Nodes;
+void AffStats_Click(const Contexte& c) {
+    Arbre& arbre = c.liste.TreeView1.Nodes;
     const std::string separateur = systeme::separateurDecimal();
     std::size_t films = 0;
     for (const std::int32_t noeud : arbre.enfants(0))
@@ -125,7 +121,7 @@ void AfficheTitres::AffStats_Click() {
         if (!arbre.estGroupe(noeud)) return;  // a flat list
         const std::size_t siens = arbre.enfants(noeud).size();
         const auto dixiemes = films == 0 ? 0 : siens * 1000 / films;
-        const bool montre = m_liste.AffStats.Value == 1 && siens != 0;
+        const bool montre = c.liste.AffStats.Value == 1 && siens != 0;
         const std::string pourcentage = util::texteDuNombre(static_cast<double>(dixiemes) / 10, separateur);
         arbre.changeSuiteGroupe(noeud, montre ? " (" + pourcentage + " %)" : "");
     }

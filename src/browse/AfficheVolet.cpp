@@ -1,19 +1,30 @@
 #include "browse/AfficheVolet.h"
 
+#include "browse/ChargeAffiche.h"
+
 namespace browse {
 
-void AfficheVolet::operator()(int mode) {
-    if (!m_fiche.cmdGeneralites.Visible) mode = kVoletLesDeux;
+void AfficheVolet(const Contexte& c, int mode) {
+    EtatFiche& fiche = c.fiche;
+    if (!fiche.cmdGeneralites.Visible) mode = kVoletLesDeux;
     const bool autresInfos = mode == kVoletAutresInfos || mode == kVoletLesDeux;
     const bool generalites = mode == kVoletGeneralites || mode == kVoletLesDeux;
-    for (ecran::Cadre& cadre : m_fiche.frameAutresInfos)
+    for (ecran::Cadre& cadre : fiche.frameAutresInfos)
         cadre.Visible = autresInfos;
-    for (ecran::Cadre& cadre : m_fiche.frameGeneralites)
+    for (ecran::Cadre& cadre : fiche.frameGeneralites)
         cadre.Visible = generalites;
-    if (autresInfos) m_demandes.boutonParDefaut = "cmdAutresInfos";
-    m_fiche.cmdGeneralites.FontBold = generalites;
-    m_fiche.cmdAutresInfos.FontBold = !generalites;
-    if (m_fiche.Image1.vide) m_chargeAffiche();
+    if (autresInfos) c.demandes.boutonParDefaut = "cmdAutresInfos";
+    fiche.cmdGeneralites.FontBold = generalites;
+    fiche.cmdAutresInfos.FontBold = !generalites;
+    if (fiche.Image1.vide) ChargeAffiche(c);
+}
+
+void cmdGeneralites_Click(const Contexte& c) {
+    AfficheVolet(c, kVoletGeneralites);
+}
+
+void cmdAutresInfos_Click(const Contexte& c) {
+    AfficheVolet(c, kVoletAutresInfos);
 }
 
 }  // namespace browse

@@ -1,30 +1,15 @@
 #include "browse/ChargeAffiche.h"
 
+#include "browse/AfficheTemporaire.h"
 #include "util/Nombres.h"
 
 #include <algorithm>
 
 namespace browse {
 
-void ChargeAffiche::operator()() {
-    m_fiche.Label12.Caption = "Chargement de l'image...";
-    m_fiche.Label12.Visible = true;
-    m_ecran.rafraichit();
-    const auto octets = m_affiche.octets();
-    auto taille = m_images.charge(octets.value_or(""));
-    if (taille && (taille->largeur <= 0 || taille->hauteur <= 0)) taille.reset();
-    if (taille) {
-        place(*taille);
-        m_fiche.Label12.Visible = false;
-    } else {
-        m_fiche.Label12.Caption = octets ? kImageIllisible : m_affiche.estAttendue() ? kImageNonMontree : kPasDImage;
-        m_fiche.Image1.Visible = false;
-    }
-    if (m_suivi) m_suivi->afficheChargee(taille);
-}
+namespace {
 
-void ChargeAffiche::place(const ecran::TailleImage& taille) {
-    ecran::Image& image = m_fiche.Image1;
+void place(ecran::Image& image, const ecran::TailleImage& taille) {
     const double largeur = taille.largeur, hauteur = taille.hauteur;
     image.Width = std::min(kLargeurAffiche, util::arrondiPair(largeur / (hauteur / kHauteurAffiche)));
     image.Height = std::min(kHauteurAffiche, util::arrondiPair(hauteur / (largeur / kLargeurAffiche)));
@@ -33,6 +18,26 @@ void ChargeAffiche::place(const ecran::TailleImage& taille) {
     image.vide = false;
     image.Visible = true;
     ++image.numero;
+}
+
+}  // namespace
+
+void ChargeAffiche(const Contexte& c) {
+    ecran::Etiquette& statut = c.fiche.Label12;
+    statut.Caption = "Chargement de l'image...";
+    statut.Visible = true;
+    c.ecran.rafraichit();
+    const auto octets = litAfficheTemporaire(c);
+    auto taille = c.images.charge(octets.value_or(""));
+    if (taille && (taille->largeur <= 0 || taille->hauteur <= 0)) taille.reset();
+    if (taille) {
+        place(c.fiche.Image1, *taille);
+        statut.Visible = false;
+    } else {
+        statut.Caption = octets ? kImageIllisible : c.film.afficheAttendue ? kImageNonMontree : kPasDImage;
+        c.fiche.Image1.Visible = false;
+    }
+    if (c.suiviAffiche) c.suiviAffiche->afficheChargee(taille);
 }
 
 }  // namespace browse

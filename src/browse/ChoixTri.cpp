@@ -1,9 +1,11 @@
 #include "browse/ChoixTri.h"
 
+#include "browse/AffichageApresModification.h"
+
 namespace browse {
 
-void ChoixTri::Click() {
-    if (!m_liste.occupe && m_liste.ChoixTri.ListIndex != -1) m_affichageApresModification();
+void ChoixTri_Click(const Contexte& c) {
+    if (!c.liste.occupe && c.liste.ChoixTri.ListIndex != -1) AffichageApresModification(c);
 }
 
 }  // namespace browse

@@ -1,19 +1,20 @@
 #include "browse/ChoixZone.h"
 
-#include "browse/ZoneRecherche.h"
+#include "browse/AffichageApresModification.h"
+#include "browse/ListesDeChoix.h"
 
 namespace browse {
 
-void ChoixZone::Click() {
-    if (!m_liste.occupe) m_affichageApresModification();
+void ChoixZone_Click(const Contexte& c) {
+    if (!c.liste.occupe) AffichageApresModification(c);
 }
 
-void ChoixZone::DropDown() {
-    quitteZoneRecherche(m_liste, kZoneMesFilms);
+void ChoixZone_DropDown(const Contexte& c) {
+    quitteZoneRecherche(c.liste, kZoneMesFilms);
 }
 
-void ChoixZone::CloseUp() {
-    nommeCeQuiEstMontre(m_liste);
+void ChoixZone_CloseUp(const Contexte& c) {
+    nommeCeQuiEstMontre(c.liste);
 }
 
 }  // namespace browse

@@ -1,15 +1,22 @@
 #include "browse/CreeEtAfficheRecherche.h"
 
-#include "browse/Occupe.h"
-#include "browse/ZoneRecherche.h"
+#include "browse/CreeRequeteAffichage.h"
+#include "browse/ListesDeChoix.h"
 
 namespace browse {
 
-void CreeEtAfficheRecherche::operator()() {
-    const Occupe occupe(m_liste);
-    m_liste.ChoixTri.selectionne(kTriTitre2);
-    choisitZoneRecherche(m_liste);
-    m_creeRequeteAffichage(m_liste.zoneRecherche, m_liste.ChoixTri.ListIndex, m_liste.critereRecherche);
+void CreeEtAfficheRecherche(const Contexte& c) {
+    EtatListe& liste = c.liste;
+    const Occupe occupe(liste);
+    liste.ChoixTri.selectionne(kTriTitre2);
+    choisitZoneRecherche(liste);
+    CreeRequeteAffichage(c, liste.zoneRecherche, liste.ChoixTri.ListIndex, liste.critereRecherche);
+}
+
+void montreAjoutsDuJour(const Contexte& c, const std::string& date) {
+    c.liste.critereRecherche = "DateAjout = \"" + date + "\"";
+    c.liste.zoneRecherche = kZoneTous;
+    CreeEtAfficheRecherche(c);
 }
 
 }  // namespace browse

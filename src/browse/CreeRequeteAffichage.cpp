@@ -1,7 +1,8 @@
 #include "browse/CreeRequeteAffichage.h"
 
+#include "browse/AfficheTitres.h"
+#include "browse/ListesDeChoix.h"
 #include "browse/TexteRequete.h"
-#include "browse/ZoneRecherche.h"
 #include "db/Requete.h"
 
 namespace browse {
@@ -12,42 +13,49 @@ constexpr const char* kTriParSupportImpossible =
     "Le tri par support n'est pas possible pour ce cas-là : il faut que la recherche soit sur les titres possédés (Mes "
     "Films).";
 
-}  // namespace
-
-void CreeRequeteAffichage::operator()(int zone, int tri, const std::string& condition) {
-    oublieLeFilmCourant();
-    if (zone == -1) return;
-    if (zone == kZoneRecherche) zone = m_liste.zoneRecherche;
-    if (tri < kTriTitre1 || tri > kTriSupport) return;
-    if (tri == kTriSupport && (zone == kZoneTous || zone == kZoneNonPossedes)) {
-        m_dialogues.MsgBox(kTriParSupportImpossible, dialogues::kExclamation);
-        return nommeCeQuiEstMontre(m_liste);
-    }
-    m_base.liste = ouvre(construitRequete(zone, tri, condition));
-    m_liste.triDeLArbre = tri;
-    m_liste.zoneDeLArbre = condition.empty() ? zone : kZoneRecherche;
-    try {
-        m_afficheTitres(tri);
-    } catch (const dao::ErreurDao& erreur) {
-        m_dialogues.MsgBox(db::texteErreurRequete(db::NumeroErreur::CreeRequeteAffichage), dialogues::kCritique);
-        throw db::RequeteEchouee(erreur);
-    }
-}
-
 // The old listing goes only once the new one stands: the tree's nodes lead to it.
-dao::Recordset CreeRequeteAffichage::ouvre(const std::string& requete) {
+dao::Recordset ouvre(const Contexte& c, const std::string& requete) {
     try {
-        return db::ouvreRequete(m_base.base, requete, db::NumeroErreur::CreeRequeteAffichage, m_dialogues);
+        return db::ouvreRequete(c, requete, db::NumeroErreur::CreeRequeteAffichage);
     } catch (const db::RequeteEchouee&) {
-        nommeCeQuiEstMontre(m_liste);
+        nommeCeQuiEstMontre(c.liste);
         throw;
     }
 }
 
-void CreeRequeteAffichage::apresReouverture(const std::function<void()>& relit) {
-    const int avant = m_liste.TreeView1.Nodes.generation();
+void oublieLeFilmCourant(const Contexte& c) {
+    c.film = FilmCourant{};
+    c.liste.noeudChoisi = -1;
+    c.liste.cleCliquee.clear();
+}
+
+}  // namespace
+
+void CreeRequeteAffichage(const Contexte& c, int zone, int tri, const std::string& condition) {
+    oublieLeFilmCourant(c);
+    if (zone == -1) return;
+    if (zone == kZoneRecherche) zone = c.liste.zoneRecherche;
+    if (!estUnTri(tri)) return;
+    if (!seTrie(zone, tri)) {
+        c.dialogues.MsgBox(kTriParSupportImpossible, dialogues::kExclamation);
+        return nommeCeQuiEstMontre(c.liste);
+    }
+    c.base.liste = ouvre(c, construitRequete(zone, tri, condition));
+    c.liste.triDeLArbre = tri;
+    c.liste.zoneDeLArbre = condition.empty() ? zone : kZoneRecherche;
+    try {
+        AfficheTitres(c, tri);
+    } catch (const dao::ErreurDao& erreur) {
+        c.dialogues.MsgBox(db::texteErreurRequete(db::NumeroErreur::CreeRequeteAffichage), dialogues::kCritique);
+        throw db::RequeteEchouee(erreur);
+    }
+}
+
+void apresReouverture(const Contexte& c, const std::function<void()>& relit) {
+    const Arbre& arbre = c.liste.TreeView1.Nodes;
+    const int avant = arbre.generation();
     const auto videLAncien = [&] {
-        if (m_liste.TreeView1.Nodes.generation() == avant) m_afficheTitres.vide();
+        if (arbre.generation() == avant) videLesTitres(c);
     };
     try {
         relit();
@@ -58,16 +66,17 @@ void CreeRequeteAffichage::apresReouverture(const std::function<void()>& relit) 
     videLAncien();
 }
 
-void CreeRequeteAffichage::apresChangementDeBase() {
-    quitteZoneRecherche(m_liste, m_liste.zoneRecherche);
-    m_liste.critereRecherche.clear();
-    apresReouverture([this] { (*this)(m_liste.ChoixZone.ListIndex, m_liste.ChoixTri.ListIndex); });
+void apresChangementDeBase(const Contexte& c) {
+    quitteZoneRecherche(c.liste, c.liste.zoneRecherche);
+    c.liste.critereRecherche.clear();
+    apresReouverture(c, [&c] { CreeRequeteAffichage(c, c.liste.ChoixZone.ListIndex, c.liste.ChoixTri.ListIndex); });
 }
 
-void CreeRequeteAffichage::oublieLeFilmCourant() {
-    m_film = FilmCourant{};
-    m_liste.noeudChoisi = -1;
-    m_liste.cleCliquee.clear();
+void puisVersLaListe(const Contexte& c, const std::function<void()>& commande) {
+    const Arbre& arbre = c.liste.TreeView1.Nodes;
+    const int avant = arbre.generation();
+    commande();
+    if (arbre.generation() != avant) c.demandes.focus = "TreeView1";
 }
 
 }  // namespace browse

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "browse/Arbre.h"
+#include "browse/ZonesEtTris.h"
 #include "platform/ecran/Controles.h"
 
 #include <array>
@@ -8,9 +9,6 @@
 #include <string>
 
 namespace browse {
-
-inline constexpr int kZoneMesFilms = 0, kZoneTous = 1, kZonePretes = 3, kZoneNonPossedes = 5, kZoneRecherche = 6;
-inline constexpr int kTriTitre1 = 0, kTriTitre2 = 1, kTriGenre = 4, kTriNote = 7, kTriSupport = 8;
 
 // TreeView1: the nodes, and what the user and the program did to them.
 struct VueArbre : ecran::Controle {

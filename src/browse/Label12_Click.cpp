@@ -1,9 +1,15 @@
 #include "browse/Label12_Click.h"
 
+#include "browse/AfficheFiche.h"
 #include "db/AfficheVoisine.h"
 #include "db/Affiches.h"
 #include "db/EnonceFilm.h"
+#include "db/LotAffiches.h"
 #include "platform/fichiers/Fichiers.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace browse {
 
@@ -11,64 +17,44 @@ namespace {
 
 constexpr std::string_view kSansImage = "Pas d'image";
 
-}  // namespace
+using Echec = std::optional<std::string>;  // what to tell the user
 
-void Label12_Click::operator()() {
-    if (!m_film.estUnFilm() || m_fiche.Label12.Caption.find(kSansImage) == std::string::npos) return;
-    const std::string image = choisit();
-    if (image.empty()) return;
-    if (const Echec echec = attache(image))
-        m_dialogues.MsgBox(*echec, dialogues::kCritique);
-    else
-        m_afficheFiche();
-}
-
-std::string Label12_Click::choisit() {
-    const std::string image = m_dialogues.choisitFichier(
-        {.titre = "Choix de l'image associée au film", .filtre = "Fichiers JPEG|*.jpg", .dossier = m_chemins.dossier});
+// The file, empty when there is none to take.
+std::string choisit(const Contexte& c) {
+    const std::string image = c.dialogues.choisitFichier(
+        {.titre = "Choix de l'image associée au film", .filtre = "Fichiers JPEG|*.jpg", .dossier = c.chemins.dossier});
     if (image.empty()) return {};
     if (!fichiers::existe(image)) {
-        m_dialogues.MsgBox("Le fichier indiqué est inexistant !", dialogues::kExclamation);
+        c.dialogues.MsgBox("Le fichier indiqué est inexistant !", dialogues::kExclamation);
         return {};
     }
-    if (m_stockage.dansLaBase() && fichiers::longueur(image) > db::kTailleMaxAffiche) {
-        m_dialogues.MsgBox("Image trop grande pour tenir en base !", dialogues::kExclamation);
+    if (c.stockage.dansLaBase() && fichiers::longueur(image) > db::kTailleMaxAffiche) {
+        c.dialogues.MsgBox("Image trop grande pour tenir en base !", dialogues::kExclamation);
         return {};
     }
     return image;
 }
 
-Label12_Click::Echec Label12_Click::attache(const std::string& image) {
-    const bool dansLaBase = m_stockage.dansLaBase();
-    const auto octets = fichiers::lit(image, dansLaBase ? db::kTailleMaxAffiche : db::kTailleMaxImage);
-    if (!octets) return "Le fichier " + image + " n'a pas pu être lu.";
-    if (!dansLaBase)
-        if (auto refus = db::refusDossierImages(m_stockage, m_chemins)) return refus;
-    db::LotAffiches lot(m_base.base, db::dossierImages(m_stockage, m_chemins), db::LotAffiches::Inconnus::Ecrases);
-    try {
-        return enregistre(lot, *octets);
-    } catch (const dao::ErreurDao& erreur) {
-        lot.apresAnnulation();
-        return "Erreur " + std::to_string(erreur.numero) + " : " + erreur.description;
-    } catch (const db::EchecConversion& echec) {
-        lot.apresAnnulation();
-        return echec.texte;
-    }
+std::string pose(const db::CleFilm& film, db::LotAffiches& lot, const std::string& octets,
+                 const std::string& actuelle) {
+    fichiers::creeDossier(lot.dossier());  // a folder that cannot be made takes no file either
+    return lot.pose(db::nomFichierAffiche(film.titre, film.realisateur), octets, actuelle);
 }
 
 // The row waits for the file: a base that refuses leaves the file that stood there, a file that cannot be written leaves
 // the row. What the film has got since it was shown stays its poster.
-Label12_Click::Echec Label12_Click::enregistre(db::LotAffiches& lot, const std::string& octets) {
-    dao::Transaction ensemble(m_base.base);
-    dao::Recordset film = m_base.base.OpenRecordset(db::enonceFilm(m_film.titre, m_film.realisateur));
+Echec enregistre(const Contexte& c, db::LotAffiches& lot, const std::string& octets) {
+    dao::Database& base = c.base.base;
+    dao::Transaction ensemble(base);
+    dao::Recordset film = base.OpenRecordset(db::enonceFilm(c.film));
     if (film.Eof()) return std::nullopt;
     const std::string actuelle = film.texte("Affiche");
     const bool enBase = db::estDansLaBase(actuelle) && actuelle.size() > db::kTaillePrefixe;
-    if (enBase || db::fichierAffiche(lot.dossier(), actuelle) || db::afficheVoisine(m_base.base.nom(), actuelle))
+    if (enBase || db::fichierAffiche(lot.dossier(), actuelle) || db::afficheVoisine(base.nom(), actuelle))
         return "Ce film a déjà une affiche : elle est gardée.";
     film.Edit();
-    film.assigne("Affiche", m_stockage.dansLaBase() ? db::valeurAfficheDansLaBase(octets)
-                                                    : db::valeurAfficheFichier(pose(lot, octets, actuelle)));
+    film.assigne("Affiche", c.stockage.dansLaBase() ? db::valeurAfficheDansLaBase(octets)
+                                                    : db::valeurAfficheFichier(pose(c.film, lot, octets, actuelle)));
     film.Update();
     lot.avantValidation();
     ensemble.confirme();
@@ -76,9 +62,34 @@ Label12_Click::Echec Label12_Click::enregistre(db::LotAffiches& lot, const std::
     return std::nullopt;
 }
 
-std::string Label12_Click::pose(db::LotAffiches& lot, const std::string& octets, const std::string& actuelle) const {
-    fichiers::creeDossier(lot.dossier());  // a folder that cannot be made takes no file either
-    return lot.pose(db::nomFichierAffiche(m_film.titre, m_film.realisateur), octets, actuelle);
+Echec attache(const Contexte& c, const std::string& image) {
+    const bool dansLaBase = c.stockage.dansLaBase();
+    const auto octets = fichiers::lit(image, dansLaBase ? db::kTailleMaxAffiche : db::kTailleMaxImage);
+    if (!octets) return "Le fichier " + image + " n'a pas pu être lu.";
+    if (!dansLaBase)
+        if (auto refus = db::refusDossierImages(c)) return refus;
+    db::LotAffiches lot(c.base.base, db::dossierImages(c), db::LotAffiches::Inconnus::Ecrases);
+    try {
+        return enregistre(c, lot, *octets);
+    } catch (const dao::ErreurDao& erreur) {
+        lot.apresAnnulation();
+        return erreur.texte();
+    } catch (const db::EchecConversion& echec) {
+        lot.apresAnnulation();
+        return echec.texte;
+    }
+}
+
+}  // namespace
+
+void Label12_Click(const Contexte& c) {
+    if (!c.film.estUnFilm() || c.fiche.Label12.Caption.find(kSansImage) == std::string::npos) return;
+    const std::string image = choisit(c);
+    if (image.empty()) return;
+    if (const Echec echec = attache(c, image))
+        c.dialogues.MsgBox(*echec, dialogues::kCritique);
+    else
+        AfficheFiche(c);
 }
 
 }  // namespace browse

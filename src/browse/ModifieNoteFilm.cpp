@@ -7,17 +7,16 @@
 
 namespace browse {
 
-void ModifieNoteFilm::operator()(int note) {
-    dao::Recordset films = db::ouvreRequete(m_base.base, db::enonceFilmNote(m_film.titre, m_film.realisateur),
-                                            db::NumeroErreur::ModifieNoteFilm, m_dialogues);
+void ModifieNoteFilm(const Contexte& c, int note) {
+    dao::Recordset films = db::ouvreRequete(c, db::enonceFilmNote(c.film), db::NumeroErreur::ModifieNoteFilm);
     if (films.Eof()) {
-        m_dialogues.MsgBox("Film non trouvé !", dialogues::kExclamation);
+        c.dialogues.MsgBox("Film non trouvé !", dialogues::kExclamation);
         return;
     }
     films.Edit();
     films.assigne("Note", note == 0 ? dao::Valeur() : dao::Valeur(note));
     films.Update();
-    m_fiche.lblNote.Caption = texteDeLaNote(note);
+    c.fiche.lblNote.Caption = texteDeLaNote(note);
 }
 
 std::string texteDeLaNote(double note) {

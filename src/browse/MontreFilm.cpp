@@ -1,38 +1,41 @@
 #include "browse/MontreFilm.h"
 
+#include "browse/AffichageApresModification.h"
+#include "browse/SelectionneTitre.h"
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
-#include "platform/dao/Comparaison.h"
 
 namespace browse {
 
-bool MontreFilm::operator()(const std::string& titre, const std::string& realisateur) {
-    if (!existe(titre, realisateur)) return false;
-    if (dansLaListe(titre, realisateur)) return true;
-    listeTousLesFilms();
-    return dansLaListe(titre, realisateur);
-}
-
-bool MontreFilm::dansLaListe(const std::string& titre, const std::string& realisateur) {
-    m_selectionneTitre(titre, realisateur);
-    return estCourant(titre, realisateur);
-}
-
-bool MontreFilm::existe(const std::string& titre, const std::string& realisateur) {
-    return db::ouvreRequete(m_base.base, db::enonceFilm(titre, realisateur), db::NumeroErreur::AfficheFiche,
-                            m_dialogues)
-               .RecordCount() > 0;
-}
-
-bool MontreFilm::estCourant(const std::string& titre, const std::string& realisateur) const {
-    return m_film.estUnFilm() && dao::egalJet(m_film.titre, titre) && dao::egalJet(m_film.realisateur, realisateur);
-}
+namespace {
 
 // The sort stays, but for the one that takes owned films only.
-void MontreFilm::listeTousLesFilms() {
-    m_liste.ChoixZone.selectionne(kZoneTous);
-    if (m_liste.ChoixTri.ListIndex == kTriSupport) m_liste.ChoixTri.selectionne(kTriTitre1);
-    m_affichageApresModification();
+void listeTousLesFilms(const Contexte& c) {
+    c.liste.ChoixZone.selectionne(kZoneTous);
+    if (c.liste.ChoixTri.ListIndex == kTriSupport) c.liste.ChoixTri.selectionne(kTriTitre1);
+    AffichageApresModification(c);
+}
+
+}  // namespace
+
+bool MontreFilm(const Contexte& c, const db::CleFilm& film) {
+    if (!filmExiste(c, film)) return false;
+    if (montreDansLaListe(c, film)) return true;
+    listeTousLesFilms(c);
+    return montreDansLaListe(c, film);
+}
+
+bool montreDansLaListe(const Contexte& c, const db::CleFilm& film) {
+    SelectionneTitre(c, film);
+    return filmEstCourant(c, film);
+}
+
+bool filmExiste(const Contexte& c, const db::CleFilm& film) {
+    return db::ouvreRequete(c, db::enonceFilm(film), db::NumeroErreur::AfficheFiche).RecordCount() > 0;
+}
+
+bool filmEstCourant(const Contexte& c, const db::CleFilm& film) {
+    return c.film.estUnFilm() && db::memeFilm(c.film, film);
 }
 
 }  // namespace browse

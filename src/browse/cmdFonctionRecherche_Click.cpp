@@ -1,12 +1,14 @@
 #include "browse/cmdFonctionRecherche_Click.h"
 
+#include "browse/AfficheAccueil.h"
+
 namespace browse {
 
-void cmdFonctionRecherche_Click::operator()() {
-    m_afficheAccueil();
-    m_panneaux.montre(m_panneaux.frameRecherche);
-    m_demandes.focus = "Text2";
-    m_demandes.boutonParDefaut = "cmdRecherche";
+void cmdFonctionRecherche_Click(const Contexte& c) {
+    AfficheAccueil(c);
+    c.panneaux.montre(c.panneaux.frameRecherche);
+    c.demandes.focus = "Text2";
+    c.demandes.boutonParDefaut = "cmdRecherche";
 }
 
 }  // namespace browse

@@ -1,14 +1,17 @@
 #include "browse/lblRealisateur_Click.h"
 
+#include "browse/cmdFonctionRecherche_Click.h"
+#include "browse/cmdRecherche_Click.h"
+
 namespace browse {
 
-void lblRealisateur_Click::operator()() {
-    m_cmdFonctionRecherche();
-    m_recherche.Text2.Text = m_film.realisateur;
-    for (ecran::CaseACocher& champ : m_recherche.ZoneRecherche)
+void lblRealisateur_Click(const Contexte& c) {
+    cmdFonctionRecherche_Click(c);
+    c.recherche.Text2.Text = c.film.realisateur;
+    for (ecran::CaseACocher& champ : c.recherche.ZoneRecherche)
         champ.Value = 0;
-    m_recherche.ZoneRecherche[1].Value = 1;
-    m_cmdRecherche();
+    c.recherche.ZoneRecherche[1].Value = 1;
+    cmdRecherche_Click(c);
 }
 
 }  // namespace browse

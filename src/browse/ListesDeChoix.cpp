@@ -1,6 +1,4 @@
-#include "browse/ZoneRecherche.h"
-
-#include "browse/Occupe.h"
+#include "browse/ListesDeChoix.h"
 
 #include <algorithm>
 #include <vector>
