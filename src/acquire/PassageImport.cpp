@@ -3,7 +3,7 @@
 #include "acquire/ProgressionVisible.h"
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
-#include "edit/AjoutePossession.h"
+#include "edit/LignePossession.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/Texte.h"
 
@@ -119,7 +119,7 @@ void PassageImport::enregistre(const FicheFilm& fiche, const std::string& nom) {
     if (!examen.manque.empty()) m_rapport.affichesManquantes.push_back(examen.manque);
     remplitSaisie(fiche);
     const AfficheImportee affiche = examen.affiche.value_or(AfficheImportee());
-    edit::FilmPret film{.affiche = affiche.valeur, .sort = edit::SortAffiche::Aucune, .ancien = {}};
+    edit::FilmPret film{.affiche = affiche.valeur, .devenir = edit::DevenirAffiche::Aucune, .ancien = {}};
     m_outils.enregistrement.ecrit(film, fiche.resume, m_choix.date);
     if (m_choix.possedes)
         edit::ajoutePossession(m_outils.base.personnel, fiche.titre, fiche.realisateur, m_choix.support);

@@ -1,44 +1,67 @@
 #include "edit/Command13_Click.h"
 
+#include "db/Requete.h"
 #include "edit/TitreCite.h"
+#include "edit/TitreDejaExistant.h"
 
 #include <cstddef>
 
 namespace edit {
 
-void ModesAjout::Command13_Click(int indice) {
-    for (std::size_t i = 0; i < m_ajout.Command13.size(); ++i)
-        m_ajout.Command13[i].FontBold = static_cast<int>(i) == indice;
-    m_ajout.cmdAjoutFilm.Caption = "Ajouter";
-    m_ajout.Label5.Caption = "-";
-    m_ajout.frameAjoutAuto.Visible = false;
-    m_ajout.Frame13.Visible = false;
-    m_ajout.frameImportBase.Visible = indice == 2;
-    if (indice == 0) ouvreAjoutAutomatique();
-    if (indice == 1) ouvreSaisie();
+namespace {
+
+// What the catalogue knows of one field; nothing that was typed in the list stays.
+void remplit(const Contexte& c, ecran::Liste& liste, const char* enonce, const char* champ) {
+    liste.Clear();
+    dao::Recordset valeurs = db::ouvreRequete(c, enonce, db::NumeroErreur::Command13);
+    for (; !valeurs.Eof(); valeurs.MoveNext())
+        liste.AddItem(valeurs.texte(champ));
 }
 
-void ModesAjout::passeEnCorrection(const std::string& titre) {
-    m_ajout.cmdAjoutFilm.Caption = "Modifier";
-    m_ajout.Label5.Caption = "Correction de " + titreCite(titre);
+// Genre, origin (with its two blanks), production.
+void remplitListesDeSaisie(const Contexte& c) {
+    remplit(c, c.ajout.Combo2, "SELECT DISTINCT genre FROM films where genre<>\"\" ORDER BY Genre ASC ;", "Genre");
+    remplit(c, c.ajout.Combo3, "SELECT DISTINCT origine  FROM films where origine<>\"\" ORDER BY origine ASC ;",
+            "origine");
+    remplit(c, c.ajout.Combo4, "SELECT DISTINCT production FROM films where production<>\"\" ORDER BY production ASC ;",
+            "production");
 }
 
-void ModesAjout::ouvreAjoutAutomatique() {
-    m_ajout.frameAjoutAuto.Visible = true;
-    m_ajout.Label5.Caption = "Ajout automatique de fiches de films";
-    m_demandes.focus = "txtRechInternet";
-    m_doublons.prepare();  // better while the page opens than after "Ajouter"
+void ouvreAjoutAutomatique(const Contexte& c) {
+    c.ajout.frameAjoutAuto.Visible = true;
+    c.ajout.Label5.Caption = "Ajout automatique de fiches de films";
+    c.demandes.focus = "txtRechInternet";
+    prepareTitreDejaExistant(c);  // better while the page opens than after "Ajouter"
 }
 
-void ModesAjout::ouvreSaisie() {
-    m_ajout.Frame13.Visible = true;
-    for (ecran::ZoneTexte& zone : m_ajout.Text3)
+void ouvreSaisie(const Contexte& c) {
+    c.ajout.Frame13.Visible = true;
+    for (ecran::ZoneTexte& zone : c.ajout.Text3)
         zone.Text.clear();
-    m_ajout.txtResume.Text.clear();
-    m_ajout.lblImage.Caption.clear();
-    m_demandes.focus = "Text3_0";
-    m_listes.remplit();
-    m_doublons.prepare();  // better while the page opens than after "Ajouter"
+    c.ajout.txtResume.Text.clear();
+    c.ajout.lblImage.Caption.clear();
+    c.demandes.focus = "Text3_0";
+    remplitListesDeSaisie(c);
+    prepareTitreDejaExistant(c);  // better while the page opens than after "Ajouter"
+}
+
+}  // namespace
+
+void Command13_Click(const Contexte& c, int indice) {
+    for (std::size_t i = 0; i < c.ajout.Command13.size(); ++i)
+        c.ajout.Command13[i].FontBold = static_cast<int>(i) == indice;
+    c.ajout.cmdAjoutFilm.Caption = "Ajouter";
+    c.ajout.Label5.Caption = "-";
+    c.ajout.frameAjoutAuto.Visible = false;
+    c.ajout.Frame13.Visible = false;
+    c.ajout.frameImportBase.Visible = indice == 2;
+    if (indice == 0) ouvreAjoutAutomatique(c);
+    if (indice == 1) ouvreSaisie(c);
+}
+
+void passeEnCorrection(const Contexte& c, const std::string& titre) {
+    c.ajout.cmdAjoutFilm.Caption = "Modifier";
+    c.ajout.Label5.Caption = "Correction de " + titreCite(titre);
 }
 
 }  // namespace edit

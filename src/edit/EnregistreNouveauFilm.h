@@ -10,7 +10,7 @@
 namespace edit {
 
 // What became of the poster of a stored film.
-enum class SortAffiche {
+enum class DevenirAffiche {
     Aucune,       // no path was given, or the film was modified: its poster stays
     Enregistree,  // in the base, or copied into the images folder
     TropGrande,   // kTailleMaxAffiche bytes or more, with posters in the base
@@ -20,7 +20,7 @@ enum class SortAffiche {
 // A film about to be written: all that reads files or may show a box has been done.
 struct FilmPret {
     dao::Valeur affiche;
-    SortAffiche sort = SortAffiche::Aucune;
+    DevenirAffiche devenir = DevenirAffiche::Aucune;
     dao::Recordset ancien;  // the row to rewrite; closed where a row is to be added
 };
 
@@ -34,8 +34,8 @@ class EnregistrementFilm {
 
     // Adds, or in modify mode (caption of cmdAjoutFilm) rewrites the current film, or adds it when it is no longer found.
     // `image` may be empty. Throws ErreurDao, and db::EchecConversion when the poster's file could not be written.
-    SortAffiche EnregistreNouveauFilm(const std::string& image, const std::string& resume,
-                                      const std::string& dateAjout);
+    DevenirAffiche EnregistreNouveauFilm(const std::string& image, const std::string& resume,
+                                         const std::string& dateAjout);
 
     // The same in two steps, for who writes more in the same transaction: only the second belongs inside it.
     [[nodiscard]] FilmPret prepare(const std::string& image);  // throws db::RequeteEchouee after its message
@@ -46,8 +46,6 @@ class EnregistrementFilm {
     void apresAnnulation();  // nothing of the posters is left
 
   private:
-    void prepareAffiche(FilmPret& film, const std::string& image);
-    static void afficheDansLaBase(FilmPret& film, const std::string& image);
     void afficheEnFichier(FilmPret& film, const std::string& image);
     void ecritChamps(dao::Recordset& films, const std::string& resume) const;
 

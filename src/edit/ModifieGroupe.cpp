@@ -1,70 +1,43 @@
 #include "edit/ModifieGroupe.h"
 
+#include "browse/CreeRequeteAffichage.h"
+#include "browse/RaffraichitBoitesDeroulantes.h"
 #include "db/EnonceFilm.h"
+#include "edit/LigneDuNoeud.h"
 #include "edit/LongueursChamps.h"
+#include "edit/RemontreFilm.h"
+#include "edit/TravailParLots.h"
+#include "platform/dao/LigneSupprimee.h"
 #include "util/Texte.h"
+
+#include <iterator>
 
 namespace edit {
 
-void RenommageGroupe::RenommerGenreFilms_Click() {
-    if (!groupeChoisi()) return;
-    std::string genre, support;
-    RecupereInfosGroupeSelectionne(genre, support);
-    ModifieGroupe("Genre", m_outils.dialogues.InputBox("Entrez le nom du nouveau genre", "Modifier le genre", genre),
-                  false);
+namespace {
+
+bool groupeChoisi(const Contexte& c) {
+    const browse::VueArbre& vue = c.liste.TreeView1;
+    return vue.SelectedItem >= 1 && vue.SelectedItem <= vue.Nodes.Count() && vue.Nodes.estGroupe(vue.SelectedItem);
 }
 
-void RenommageGroupe::RenommeSupportFilms_Click() {
-    if (!groupeChoisi()) return;
-    std::string genre, support;
-    RecupereInfosGroupeSelectionne(genre, support);
-    ModifieGroupe("Support",
-                  m_outils.dialogues.InputBox("Entrez le nom du nouveau support", "Modifier le support", support),
-                  true);
+const std::vector<std::int32_t>& enfants(const Contexte& c) {
+    return c.liste.TreeView1.Nodes.enfants(c.liste.TreeView1.SelectedItem);
 }
 
-void RenommageGroupe::RecupereInfosGroupeSelectionne(std::string& genre, std::string& support) {
-    genre.clear();
-    support.clear();
-    if (!groupeChoisi() || enfants().empty()) return;
-    vaSur(enfants().front());
-    try {
-        support = m_base.liste.texte("Support");
-        genre = m_base.liste.texte("Genre");
-    } catch (const dao::ErreurDao& erreur) {
-        if (erreur.numero != dao::kErreurEnregistrementSupprime) throw;
-    }
-}
-
-void RenommageGroupe::ModifieGroupe(const std::string& champ, const std::string& valeur, bool personnel) {
-    if (valeur.empty() || !groupeChoisi()) return;
-    const std::string nouvelle = util::coupe(valeur, personnel ? kLongueurSupport : kLongueurGenre);
-    if (const auto introuvable = renomme(champ, nouvelle, personnel))
-        m_outils.dialogues.MsgBox("Infos personnelles sur le titre \"" + introuvable->titre + "\" de " +
-                                      introuvable->realisateur + " non trouvées !\r\nProcessus arrêté.",
-                                  dialogues::kExclamation);
-    const browse::FilmCourant courant = m_film;  // the refresh forgets it
-    m_suites.affichageApresModification();
-    if (courant.estUnFilm())
-        m_suites.selectionneTitre(courant.titre, courant.realisateur);
-    else
-        m_suites.selectionneTitre.groupe(nouvelle);
-    if (personnel) m_suites.boites.RaffraichitBoitesDeroulantes();
-}
-
-// Answers the film that stopped it.
-std::optional<RenommageGroupe::Film> RenommageGroupe::renomme(const std::string& champ, const std::string& valeur,
-                                                              bool personnel) {
-    const std::vector<std::int32_t>& films = enfants();
-    const auto nombre = static_cast<long>(films.size());
-    std::optional<Film> introuvable;
-    TravailParLots travail(m_outils, db::NumeroErreur::ModifieGroupe, nombre);
-    travail.execute(nombre, [&](long rang) -> TravailParLots::Pas {
-        Film film = lis(films[static_cast<std::size_t>(rang)]);
-        dao::Recordset ligne = travail.ouvre(personnel ? db::enoncePossession(film.titre, film.realisateur)
-                                                       : db::enonceFilmModifie(film.titre, film.realisateur));
+// Answers the film that stopped it. Of a film that is gone the tree still knows the title.
+std::optional<db::CleFilm> renomme(const Contexte& c, const std::string& champ, const std::string& valeur,
+                                   bool personnel) {
+    const std::vector<std::int32_t>& noeuds = enfants(c);
+    std::optional<db::CleFilm> introuvable;
+    TravailParLots travail(c, db::NumeroErreur::ModifieGroupe, std::ssize(noeuds));
+    travail.execute(std::ssize(noeuds), [&](long rang) -> TravailParLots::Pas {
+        const int noeud = noeuds[rang];
+        const db::CleFilm film =
+            filmDuNoeud(c, noeud).value_or(db::CleFilm{std::string(c.liste.TreeView1.Nodes.Text(noeud)), ""});
+        dao::Recordset ligne = travail.ouvre(personnel ? db::enoncePossession(film) : db::enonceFilmModifie(film));
         if (ligne.Eof()) {
-            introuvable = std::move(film);
+            introuvable = film;
             return {0, true};
         }
         ligne.Edit();
@@ -76,29 +49,59 @@ std::optional<RenommageGroupe::Film> RenommageGroupe::renomme(const std::string&
     return introuvable;
 }
 
-bool RenommageGroupe::groupeChoisi() const {
-    const browse::VueArbre& vue = m_liste.TreeView1;
-    return vue.SelectedItem >= 1 && vue.SelectedItem <= vue.Nodes.Count() && vue.Nodes.estGroupe(vue.SelectedItem);
+struct Renommage {
+    const char *champ, *question, *titre;
+    bool personnel;
+};
+
+void demandeEtRenomme(const Contexte& c, const Renommage& renommage) {
+    if (!groupeChoisi(c)) return;
+    std::string genre, support;
+    RecupereInfosGroupeSelectionne(c, genre, support);
+    const std::string& actuel = renommage.personnel ? support : genre;
+    ModifieGroupe(c, renommage.champ, c.dialogues.InputBox(renommage.question, renommage.titre, actuel),
+                  renommage.personnel);
 }
 
-const std::vector<std::int32_t>& RenommageGroupe::enfants() const {
-    return m_liste.TreeView1.Nodes.enfants(m_liste.TreeView1.SelectedItem);
+}  // namespace
+
+void RenommerGenreFilms_Click(const Contexte& c) {
+    browse::puisVersLaListe(c, [&c] {
+        demandeEtRenomme(c, {"Genre", "Entrez le nom du nouveau genre", "Modifier le genre", false});
+    });
 }
 
-void RenommageGroupe::vaSur(std::int32_t noeud) {
-    m_base.liste.MoveFirst();
-    m_base.liste.Move(static_cast<long>(m_liste.TreeView1.Nodes.position(noeud)) - 1);
+void RenommeSupportFilms_Click(const Contexte& c) {
+    browse::puisVersLaListe(c, [&c] {
+        demandeEtRenomme(c, {"Support", "Entrez le nom du nouveau support", "Modifier le support", true});
+    });
 }
 
-// Of a film that is gone the tree still knows the title.
-RenommageGroupe::Film RenommageGroupe::lis(std::int32_t noeud) {
-    vaSur(noeud);
-    try {
-        return {m_base.liste.texte("Titre"), m_base.liste.texte("Realisateur")};
-    } catch (const dao::ErreurDao& erreur) {
-        if (erreur.numero != dao::kErreurEnregistrementSupprime) throw;
+void RecupereInfosGroupeSelectionne(const Contexte& c, std::string& genre, std::string& support) {
+    genre.clear();
+    support.clear();
+    if (!groupeChoisi(c) || enfants(c).empty()) return;
+    vaSurLaLigne(c, enfants(c).front());
+    dao::siPresente([&] {
+        support = c.base.liste.texte("Support");
+        genre = c.base.liste.texte("Genre");
+    });
+}
+
+void ModifieGroupe(const Contexte& c, const std::string& champ, const std::string& valeur, bool personnel) {
+    if (valeur.empty() || !groupeChoisi(c)) return;
+    const std::string nouvelle = util::coupe(valeur, personnel ? kLongueurSupport : kLongueurGenre);
+    if (const auto introuvable = renomme(c, champ, nouvelle, personnel))
+        c.dialogues.MsgBox("Infos personnelles sur le titre \"" + introuvable->titre + "\" de " +
+                               introuvable->realisateur + " non trouvées !\r\nProcessus arrêté.",
+                           dialogues::kExclamation);
+    if (c.film.estUnFilm()) {
+        remontreFilm(c);
+    } else {
+        browse::AffichageApresModification(c);
+        browse::SelectionneGroupe(c, nouvelle);
     }
-    return {std::string(m_liste.TreeView1.Nodes.Text(noeud)), ""};
+    if (personnel) browse::RaffraichitBoitesDeroulantes(c);
 }
 
 }  // namespace edit

@@ -3,31 +3,40 @@
 #include "browse/AffichePossession.h"
 #include "platform/fichiers/Fichiers.h"
 
+#include <iterator>
 #include <string>
 
 namespace edit {
 
-void SaisiePossession::Option1_Click() {
-    attendValidation();
-    browse::montrePossession(m_fiche);
+namespace {
+
+void attendValidation(const Contexte& c) {
+    c.fiche.cmdValiderInfosPossessions.Visible = true;
 }
 
-void SaisiePossession::Combo7_Change() {
-    attendValidation();
+}  // namespace
+
+void Option1_Click(const Contexte& c) {
+    attendValidation(c);
+    browse::montrePossession(c.fiche);
 }
 
-void SaisiePossession::Text10_Change() {
-    attendValidation();
+void Combo7_Change(const Contexte& c, int) {
+    attendValidation(c);
 }
 
-void SaisiePossession::Command2_Click(std::size_t indice) {
-    if (indice >= m_fiche.Command2.size()) return;
-    std::string& fichier = m_fiche.Text10[indice].Text;
-    const std::string choisi = m_dialogues.choisitFichier(
+void Text10_Change(const Contexte& c, int) {
+    attendValidation(c);
+}
+
+void Command2_Click(const Contexte& c, int indice) {
+    if (indice < 0 || indice >= std::ssize(c.fiche.Command2)) return;
+    std::string& fichier = c.fiche.Text10[indice].Text;
+    const std::string choisi = c.dialogues.choisitFichier(
         {"Ajouter un fichier à la fiche du film", "Tous types de fichiers|*.*", fichiers::dossierDe(fichier)});
     if (choisi.empty()) return;
     fichier = choisi;
-    attendValidation();
+    attendValidation(c);
 }
 
 }  // namespace edit

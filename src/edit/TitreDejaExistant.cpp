@@ -5,23 +5,21 @@
 
 namespace edit {
 
-std::string requeteTitreDejaExistant(const std::string& titre, const std::string& realisateur) {
-    return "SELECT * FROM films WHERE titre =" + util::entreGuillemets(titre) +
-           " AND Realisateur =  " + util::entreGuillemets(realisateur) + "ORDER BY Titre ASC ;";
+std::string requeteTitreDejaExistant(const db::CleFilm& film) {
+    return "SELECT * FROM films WHERE titre =" + util::entreGuillemets(film.titre) +
+           " AND Realisateur =  " + util::entreGuillemets(film.realisateur) + "ORDER BY Titre ASC ;";
 }
 
 // A base that cannot be read is told of when the question is asked.
-void Doublons::prepare() const {
+void prepareTitreDejaExistant(const Contexte& c) {
     try {
-        m_base.base.prepareLesRecherches("Films");
+        c.base.base.prepareLesRecherches("Films");
     } catch (const dao::ErreurDao&) {
     }
 }
 
-bool Doublons::TitreDejaExistant(const std::string& titre, const std::string& realisateur) const {
-    return db::ouvreRequete(m_base.base, requeteTitreDejaExistant(titre, realisateur),
-                            db::NumeroErreur::TitreDejaExistant, m_dialogues)
-               .RecordCount() >= 1;
+bool TitreDejaExistant(const Contexte& c, const db::CleFilm& film) {
+    return db::ouvreRequete(c, requeteTitreDejaExistant(film), db::NumeroErreur::TitreDejaExistant).RecordCount() >= 1;
 }
 
 }  // namespace edit

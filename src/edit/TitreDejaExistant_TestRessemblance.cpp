@@ -25,10 +25,8 @@ class RealisateursProches {
     std::unordered_map<std::string, bool> m_connus;
 };
 
-std::string film(std::string_view titre, std::string_view realisateur) {
-    std::string texte(titre);
-    if (!realisateur.empty()) texte.append(" de ").append(realisateur);
-    return texte;
+std::string nomme(const db::CleFilm& film) {
+    return film.realisateur.empty() ? film.titre : film.titre + " de " + film.realisateur;
 }
 
 }  // namespace
@@ -40,31 +38,28 @@ bool ressemble(const util::CompteLettres& gauche, const util::CompteLettres& dro
            util::similarite(gauche, droite) > kSeuilRessemblance;
 }
 
-std::string questionRessemblance(std::string_view titre, std::string_view realisateur, std::string_view ancienTitre,
-                                 std::string_view ancienRealisateur) {
-    return "Le nouveau titre ajouté (" + film(titre, realisateur) + ") ressemble beaucoup \n" +
-           " à un autre existant déjà dans la base (" + film(ancienTitre, ancienRealisateur) + ").\n\n" +
+std::string questionRessemblance(const db::CleFilm& film, const db::CleFilm& ancien) {
+    return "Le nouveau titre ajouté (" + nomme(film) + ") ressemble beaucoup \n" +
+           " à un autre existant déjà dans la base (" + nomme(ancien) + ").\n\n" +
            "Souhaitez-vous malgré tout l'ajouter ?";
 }
 
-dao::Recordset ouvreFilmsParTitre(db::Base& base, dialogues::Dialogues& dialogues) {
-    return db::ouvreRequete(base.base, "SELECT * FROM films ORDER BY Titre ASC ;", db::NumeroErreur::TestRessemblance,
-                            dialogues);
+dao::Recordset ouvreFilmsParTitre(const Contexte& c) {
+    return db::ouvreRequete(c, "SELECT * FROM films ORDER BY Titre ASC ;", db::NumeroErreur::TestRessemblance);
 }
 
-bool Ressemblances::TitreDejaExistant_TestRessemblance(const std::string& titre, const std::string& realisateur,
-                                                       const std::function<void()>& avantQuestion) {
-    dao::Recordset films = ouvreFilmsParTitre(m_base, m_dialogues);
+bool TitreDejaExistant_TestRessemblance(const Contexte& c, const db::CleFilm& film,
+                                        const std::function<void()>& avantQuestion) {
+    dao::Recordset films = ouvreFilmsParTitre(c);
     const dao::Colonne colonneTitre = films.colonne("Titre"), colonneRealisateur = films.colonne("Realisateur");
-    const util::CompteLettres lettres = util::compteLettres(titre);
-    RealisateursProches realisateurProche(realisateur);
+    const util::CompteLettres lettres = util::compteLettres(film.titre);
+    RealisateursProches realisateurProche(film.realisateur);
     for (; !films.Eof(); films.MoveNext()) {
         if (!realisateurProche(films.vue(colonneRealisateur))) continue;
         if (!ressemble(lettres, util::compteLettres(films.vue(colonneTitre)))) continue;
-        const std::string question =
-            questionRessemblance(titre, realisateur, films.texte("Titre"), films.texte("Realisateur"));
+        const std::string question = questionRessemblance(film, {films.texte("Titre"), films.texte("Realisateur")});
         if (avantQuestion) avantQuestion();
-        if (m_dialogues.MsgBox(question, dialogues::kQuestion) != dialogues::kOui) return true;
+        if (c.dialogues.MsgBox(question, dialogues::kQuestion) != dialogues::kOui) return true;
     }
     return false;
 }

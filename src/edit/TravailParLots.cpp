@@ -1,17 +1,19 @@
 #include "edit/TravailParLots.h"
 
+#include "platform/dao/LigneSupprimee.h"
+
 namespace edit {
 
-TravailParLots::TravailParLots(const OutilsTravail& outils, db::NumeroErreur numero, long total)
-    : m_outils(outils), m_numero(numero), m_travail(std::in_place, outils.ecran) {
-    m_outils.progression.Max = total;
-    m_outils.progression.Value = 0;
-    m_outils.progression.Visible = true;
+TravailParLots::TravailParLots(const db::Contexte& c, db::NumeroErreur numero, long total)
+    : m_c(c), m_numero(numero), m_travail(std::in_place, c.ecran) {
+    m_c.travaux.ProgressBar3.Max = total;
+    m_c.travaux.ProgressBar3.Value = 0;
+    m_c.travaux.ProgressBar3.Visible = true;
 }
 
 dao::Recordset TravailParLots::ouvre(const std::string& enonce) {
     try {
-        return m_outils.base.OpenRecordset(enonce);
+        return m_c.base.base.OpenRecordset(enonce);
     } catch (const dao::ErreurDao&) {
         throw EnonceRefuse{};
     }
@@ -22,7 +24,7 @@ bool TravailParLots::execute(long nombre, const Etape& etape) {
         for (long rang = 0; rang < nombre && !m_fini;)
             rang = executeLot(rang, nombre, etape);
     } catch (const dao::ErreurDao& erreur) {
-        m_echec = {"Erreur " + std::to_string(erreur.numero) + " : " + erreur.description};
+        m_echec = {erreur.texte()};
     } catch (const EnonceRefuse&) {
         m_echec = {db::texteErreurRequete(m_numero), dialogues::kCritique};
     }
@@ -32,15 +34,15 @@ bool TravailParLots::execute(long nombre, const Etape& etape) {
 
 // Answers the step that comes after the lot.
 long TravailParLots::executeLot(long debut, long nombre, const Etape& etape) {
-    dao::Transaction lot(m_outils.base);
-    const auto fin = m_outils.montre() + kDuree;
+    dao::Transaction lot(m_c.base.base);
+    const auto fin = m_c.montre() + kDuree;
     long rang = debut, faits = 0;
     do {
         const Pas pas = executePas(rang++, etape);
         faits += pas.faits;
-        ++m_outils.progression.Value;
-        m_fini = pas.dernier || !m_outils.ecran.respire();
-    } while (!m_fini && rang < nombre && rang - debut < kPas && m_outils.montre() < fin);
+        ++m_c.travaux.ProgressBar3.Value;
+        m_fini = pas.dernier || !m_c.ecran.respire();
+    } while (!m_fini && rang < nombre && rang - debut < kPas && m_c.montre() < fin);
     lot.confirme();
     m_faits += faits;
     return rang;
@@ -48,18 +50,15 @@ long TravailParLots::executeLot(long debut, long nombre, const Etape& etape) {
 
 // A row that someone else deleted meanwhile needs no more work.
 TravailParLots::Pas TravailParLots::executePas(long rang, const Etape& etape) {
-    try {
-        return etape(rang);
-    } catch (const dao::ErreurDao& erreur) {
-        if (erreur.numero != dao::kErreurEnregistrementSupprime) throw;
-    }
-    return {};
+    Pas pas;
+    dao::siPresente([&] { pas = etape(rang); });
+    return pas;
 }
 
 void TravailParLots::termine() {
-    m_outils.progression.Visible = false;
+    m_c.travaux.ProgressBar3.Visible = false;
     m_travail.reset();
-    if (m_echec) m_outils.dialogues.MsgBox(m_echec->texte, m_echec->style);
+    if (m_echec) m_c.dialogues.MsgBox(m_echec->texte, m_echec->style);
     m_echec.reset();
 }
 

@@ -1,10 +1,18 @@
 #include "edit/cmdAjoutFilm_Click.h"
 
+#include "browse/AffichageApresModification.h"
+#include "browse/AfficheNbTitres.h"
+#include "browse/CreeEtAfficheRecherche.h"
+#include "browse/MontreFilm.h"
+#include "browse/SelectionneTitre.h"
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
-#include "edit/AjoutePossession.h"
+#include "edit/Command13_Click.h"
+#include "edit/EnregistreNouveauFilm.h"
+#include "edit/LignePossession.h"
 #include "edit/LongueursChamps.h"
 #include "edit/TitreCite.h"
+#include "edit/TitreDejaExistant.h"
 #include "platform/dao/Comparaison.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/Texte.h"
@@ -12,6 +20,52 @@
 namespace edit {
 
 namespace {
+
+// A name that the base holds for the same one is none: the film would be its own duplicate.
+bool changeDeNom(const Contexte& c, const db::CleFilm& film) {
+    const auto change = [](const std::string& nouveau, const std::string& ancien) {
+        return util::majuscules(nouveau) != util::majuscules(ancien) && !dao::egalJet(nouveau, ancien);
+    };
+    return change(film.titre, c.film.titre) || change(film.realisateur, c.film.realisateur);
+}
+
+// Empty: the entry is accepted.
+std::string motifDeRefus(const Contexte& c, const db::CleFilm& film) {
+    if (film.titre.empty()) return "Le titre du film est obligatoire !";
+    if (film.realisateur.empty()) return "Le réalisateur du film est obligatoire !";
+    if ((!c.ajout.modeModifier() || changeDeNom(c, film)) && TitreDejaExistant(c, film))
+        return "Un film ayant le même titre et du même réalisateur existe déjà !";
+    return "";
+}
+
+std::string motifDeRefusAffiche(const Contexte& c, const std::string& chemin) {
+    if (chemin.empty()) return "";
+    const std::int64_t taille = fichiers::longueur(chemin);
+    if (taille < 0) return "Le fichier indiqué est inexistant !";
+    if (!c.stockage.dansLaBase()) return db::refusDossierImages(c).value_or("");
+    return taille > db::kTailleMaxAffiche ? "Image trop grande pour tenir en base !" : "";
+}
+
+// On the page, and on the sheet's own label until the next film is shown.
+void annonceAffiche(const Contexte& c, const std::string& chemin) {
+    c.ajout.lblImage.Caption = chemin;
+    c.fiche.Label12.Caption = chemin;
+}
+
+// Asked again until the choice can be taken; none is a choice too.
+std::string choisitAffiche(const Contexte& c) {
+    for (;;) {
+        annonceAffiche(c, "");
+        const std::string chemin = c.dialogues.choisitFichier(
+            {"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", db::dossierImages(c)});
+        const std::string motif = motifDeRefusAffiche(c, chemin);
+        if (motif.empty()) {
+            annonceAffiche(c, chemin);
+            return chemin;
+        }
+        c.dialogues.MsgBox(motif, dialogues::kExclamation);
+    }
+}
 
 // What there is to know of a holding, in a few words; empty when it holds nothing.
 std::string decris(const dao::Recordset& possession) {
@@ -28,172 +82,126 @@ std::string decris(const dao::Recordset& possession) {
     return texte;
 }
 
-}  // namespace
-
-void cmdAjoutFilm_Click::operator()() {
-    const Identite film{util::coupe(m_outils.ajout.Text3[0].Text, kLongueurTitre),
-                        util::coupe(m_outils.ajout.Text3[1].Text, kLongueurRealisateur)};
-    if (const std::string motif = motifDeRefus(film); !motif.empty()) {
-        m_outils.dialogues.MsgBox(motif, dialogues::kExclamation);
-        return;
-    }
-    if (m_outils.ajout.modeModifier())
-        modifie(film);
-    else
-        ajoute(film);
+void renomme(dao::Recordset& possession, const db::CleFilm& film) {
+    possession.Edit();
+    nommeFilmPossede(possession, film);
+    possession.Update();
 }
 
-std::string cmdAjoutFilm_Click::motifDeRefus(const Identite& film) const {
-    if (film.titre.empty()) return "Le titre du film est obligatoire !";
-    if (film.realisateur.empty()) return "Le réalisateur du film est obligatoire !";
-    if ((!m_outils.ajout.modeModifier() || changeDeNom(film)) &&
-        m_outils.doublons.TitreDejaExistant(film.titre, film.realisateur))
-        return "Un film ayant le même titre et du même réalisateur existe déjà !";
-    return "";
-}
-
-// A name that the base holds for the same one is none: the film would be its own duplicate.
-bool cmdAjoutFilm_Click::changeDeNom(const Identite& film) const {
-    const auto change = [](const std::string& nouveau, const std::string& ancien) {
-        return util::majuscules(nouveau) != util::majuscules(ancien) && !dao::egalJet(nouveau, ancien);
-    };
-    return change(film.titre, m_outils.courant.titre) || change(film.realisateur, m_outils.courant.realisateur);
-}
-
-void cmdAjoutFilm_Click::ajoute(const Identite& film) {
-    const std::string affiche = choisitAffiche();
-    const std::string date = m_outils.horloge.dateDuJour();
-    Ajout ajout;
-    try {
-        ajout = enregistre(film, affiche, date);
-    } catch (const db::EchecConversion& echec) {
-        m_outils.enregistrement.apresAnnulation();
-        m_outils.dialogues.MsgBox(echec.texte, dialogues::kExclamation);
-        return;
-    } catch (...) {
-        m_outils.enregistrement.apresAnnulation();
-        throw;
-    }
-    if (m_suites.stockee) m_suites.stockee();
-    annonce(film, ajout);
-    montreLeFilmAjoute(film, date);
-}
-
-// Film, holding and poster, or none of them: the user then still has the page filled.
-cmdAjoutFilm_Click::Ajout cmdAjoutFilm_Click::enregistre(const Identite& film, const std::string& affiche,
-                                                         const std::string& date) {
-    FilmPret pret = m_outils.enregistrement.prepare(affiche);
-    if (pret.sort == SortAffiche::Illisible)
-        throw db::EchecConversion{"L'image n'a pas pu être lue (" + affiche + ") !"};
-    dao::Recordset orpheline = db::ouvreRequete(m_outils.base.base, db::enoncePossession(film.titre, film.realisateur),
-                                                db::NumeroErreur::cmdAjoutFilm, m_outils.dialogues);
-    dao::Transaction transaction(m_outils.base.base);
-    m_outils.enregistrement.ecrit(pret, m_outils.ajout.txtResume.Text, date);
-    Ajout ajout{possede(film, orpheline), pret.sort};
-    m_outils.enregistrement.avantValidation();
-    transaction.confirme();
-    m_outils.enregistrement.apresValidation();
-    return ajout;
-}
-
-std::string cmdAjoutFilm_Click::possede(const Identite& film, dao::Recordset& orpheline) {
+// The holding of the film; one that no film had any more becomes its own, as it stands, and is described.
+std::string possede(const Contexte& c, const db::CleFilm& film, dao::Recordset& orpheline) {
     if (orpheline.RecordCount() < 1) {
-        ajoutePossession(m_outils.base.personnel, film.titre, film.realisateur);
+        ajoutePossession(c.base.personnel, film);
         return "";
     }
     std::string description = decris(orpheline);
-    orpheline.Edit();
-    nommeFilmPossede(orpheline, film.titre, film.realisateur);
-    orpheline.Update();
+    renomme(orpheline, film);
     return description;
 }
 
-void cmdAjoutFilm_Click::annonce(const Identite& film, const Ajout& ajout) {
+// What is told of a film that was stored.
+struct Ajout {
+    std::string possession;  // the holding it took over, described; "" when it has one of its own
+    DevenirAffiche affiche = DevenirAffiche::Aucune;
+};
+
+// Film, holding and poster, or none of them: the user then still has the page filled. Throws db::EchecConversion when the
+// poster cannot be stored.
+Ajout enregistre(const Contexte& c, EnregistrementFilm& enregistrement, const db::CleFilm& film,
+                 const std::string& affiche, const std::string& date) {
+    FilmPret pret = enregistrement.prepare(affiche);
+    if (pret.devenir == DevenirAffiche::Illisible)
+        throw db::EchecConversion{"L'image n'a pas pu être lue (" + affiche + ") !"};
+    dao::Recordset orpheline = db::ouvreRequete(c, db::enoncePossession(film), db::NumeroErreur::cmdAjoutFilm);
+    dao::Transaction transaction(c.base.base);
+    enregistrement.ecrit(pret, c.ajout.txtResume.Text, date);
+    Ajout ajout{possede(c, film, orpheline), pret.devenir};
+    enregistrement.avantValidation();
+    transaction.confirme();
+    enregistrement.apresValidation();
+    return ajout;
+}
+
+void annonce(const Contexte& c, const db::CleFilm& film, const Ajout& ajout) {
     std::string texte = titreCite(film.titre) + " ajouté";
-    if (ajout.affiche == SortAffiche::TropGrande) texte += ", sans son affiche, trop grande pour tenir en base";
+    if (ajout.affiche == DevenirAffiche::TropGrande) texte += ", sans son affiche, trop grande pour tenir en base";
     if (!ajout.possession.empty()) texte += ", avec la possession que ce titre avait déjà (" + ajout.possession + ")";
-    m_suites.avis.montre(texte + ".", {{"Afficher", [suites = m_suites, film] {
-                                            if (!suites.montreFilm(film.titre, film.realisateur))
-                                                suites.avis.montre(titreCite(film.titre) + " n'est plus dans la base.");
-                                        }}});
-}
-
-// Asked again until the choice can be taken; none is a choice too.
-std::string cmdAjoutFilm_Click::choisitAffiche() {
-    for (;;) {
-        annonceAffiche("");
-        const std::string chemin =
-            m_outils.dialogues.choisitFichier({"Choix de l'image associée au film", "Fichiers JPEG|*.jpg",
-                                               db::dossierImages(m_outils.stockage, m_outils.chemins)});
-        const std::string motif = motifDeRefusAffiche(chemin);
-        if (motif.empty()) {
-            annonceAffiche(chemin);
-            return chemin;
-        }
-        m_outils.dialogues.MsgBox(motif, dialogues::kExclamation);
-    }
-}
-
-std::string cmdAjoutFilm_Click::motifDeRefusAffiche(const std::string& chemin) const {
-    if (chemin.empty()) return "";
-    const std::int64_t taille = fichiers::longueur(chemin);
-    if (taille < 0) return "Le fichier indiqué est inexistant !";
-    if (m_outils.stockage.dansLaBase() && taille > db::kTailleMaxAffiche)
-        return "Image trop grande pour tenir en base !";
-    if (!m_outils.stockage.dansLaBase())
-        return db::refusDossierImages(m_outils.stockage, m_outils.chemins).value_or("");
-    return "";
-}
-
-// On the page, and on the sheet's own label until the next film is shown.
-void cmdAjoutFilm_Click::annonceAffiche(const std::string& chemin) {
-    m_outils.ajout.lblImage.Caption = chemin;
-    m_outils.fiche.Label12.Caption = chemin;
+    c.avis.montre(texte + ".", {{"Afficher", [c, film] {
+                                     if (!browse::MontreFilm(c, film))
+                                         c.avis.montre(titreCite(film.titre) + " n'est plus dans la base.");
+                                 }}});
 }
 
 // Its sheet is ready behind the page, which waits for the next film.
-void cmdAjoutFilm_Click::montreLeFilmAjoute(const Identite& film, const std::string& date) {
-    const browse::PanneauxFiges laPageReste(m_suites.panneaux);
-    m_suites.liste.critereRecherche = "DateAjout = \"" + date + "\"";
-    m_suites.liste.zoneRecherche = browse::kZoneTous;
-    m_suites.creeEtAfficheRecherche();
-    m_suites.selectionneTitre(film.titre, film.realisateur);
-    m_suites.afficheNbTitres();
-    m_suites.modes.Command13_Click(1);
+void montreLeFilmAjoute(const Contexte& c, const db::CleFilm& film, const std::string& date) {
+    const browse::PanneauxFiges laPageReste(c.panneaux);
+    browse::montreAjoutsDuJour(c, date);
+    browse::SelectionneTitre(c, film);
+    browse::AfficheNbTitres(c);
+    Command13_Click(c, 1);
 }
 
-void cmdAjoutFilm_Click::modifie(const Identite& film) {
-    FilmPret pret = m_outils.enregistrement.prepare("");
-    dao::Recordset possession =
-        db::ouvreRequete(m_outils.base.base, db::enoncePossession(m_outils.courant.titre, m_outils.courant.realisateur),
-                         db::NumeroErreur::cmdAjoutFilm, m_outils.dialogues);
-    {
-        dao::Transaction transaction(m_outils.base.base);
-        m_outils.enregistrement.ecrit(pret, m_outils.ajout.txtResume.Text, m_outils.horloge.dateDuJour());
-        if (possession.RecordCount() > 0) {
-            possession.Edit();
-            nommeFilmPossede(possession, film.titre, film.realisateur);
-            possession.Update();
-        }
-        transaction.confirme();
+void ajoute(const Contexte& c, const db::CleFilm& film) {
+    const std::string affiche = choisitAffiche(c);
+    const std::string date = c.horloge.dateDuJour();
+    EnregistrementFilm enregistrement(c);
+    Ajout ajout;
+    try {
+        ajout = enregistre(c, enregistrement, film, affiche, date);
+    } catch (const db::EchecConversion& echec) {
+        enregistrement.apresAnnulation();
+        c.dialogues.MsgBox(echec.texte, dialogues::kExclamation);
+        return;
+    } catch (...) {
+        enregistrement.apresAnnulation();
+        throw;
     }
-    if (m_suites.stockee) m_suites.stockee();
-    remontre(film);
-    m_suites.afficheNbTitres();  // a film that had gone was added again
+    c.accompagnement.filmStocke();
+    annonce(c, film, ajout);
+    montreLeFilmAjoute(c, film, date);
 }
 
 // The sheet takes the place of the page at once; only a film that the listing lacks leaves the presentation there.
-void cmdAjoutFilm_Click::remontre(const Identite& film) {
-    browse::EtatPanneaux& panneaux = m_suites.panneaux;
+void remontre(const Contexte& c, const db::CleFilm& film) {
     try {
-        const browse::PanneauxFiges jusquALaFiche(panneaux);
-        m_suites.affichageApresModification();
+        const browse::PanneauxFiges jusquALaFiche(c.panneaux);
+        browse::AffichageApresModification(c);
     } catch (...) {
-        panneaux.montre(panneaux.framePresentation);
+        c.panneaux.montre(c.panneaux.framePresentation);
         throw;
     }
-    m_suites.selectionneTitre(film.titre, film.realisateur);
-    if (!m_outils.courant.estUnFilm()) panneaux.montre(panneaux.framePresentation);
+    browse::SelectionneTitre(c, film);
+    if (!c.film.estUnFilm()) c.panneaux.montre(c.panneaux.framePresentation);
+}
+
+void modifie(const Contexte& c, const db::CleFilm& film) {
+    EnregistrementFilm enregistrement(c);
+    FilmPret pret = enregistrement.prepare("");
+    dao::Recordset possession = db::ouvreRequete(c, db::enoncePossession(c.film), db::NumeroErreur::cmdAjoutFilm);
+    {
+        dao::Transaction transaction(c.base.base);
+        enregistrement.ecrit(pret, c.ajout.txtResume.Text, c.horloge.dateDuJour());
+        if (possession.RecordCount() > 0) renomme(possession, film);
+        transaction.confirme();
+    }
+    c.accompagnement.filmStocke();
+    remontre(c, film);
+    browse::AfficheNbTitres(c);  // a film that had gone was added again
+}
+
+}  // namespace
+
+void cmdAjoutFilm_Click(const Contexte& c) {
+    const db::CleFilm film{util::coupe(c.ajout.Text3[0].Text, kLongueurTitre),
+                           util::coupe(c.ajout.Text3[1].Text, kLongueurRealisateur)};
+    if (const std::string motif = motifDeRefus(c, film); !motif.empty()) {
+        c.dialogues.MsgBox(motif, dialogues::kExclamation);
+        return;
+    }
+    if (c.ajout.modeModifier())
+        modifie(c, film);
+    else
+        ajoute(c, film);
 }
 
 }  // namespace edit

@@ -1,21 +1,20 @@
 #include "edit/cmdModifieNote_Click.h"
 
+#include "browse/ModifieNoteFilm.h"
+#include "edit/RemontreFilm.h"
 #include "util/Nombres.h"
 #include "util/Texte.h"
 
 namespace edit {
 
-void Notation::cmdModifieNote_Click() {
-    if (!m_film.estUnFilm()) return;
+void cmdModifieNote_Click(const Contexte& c) {
+    if (!c.film.estUnFilm()) return;
     const std::optional<int> note =
-        noteDemandee(m_dialogues.InputBox("Quelle note (entre 1 et 10) voulez vous attribuer au film \"" +
-                                          m_film.titre + "\" de " + m_film.realisateur + " ?"));
+        noteDemandee(c.dialogues.InputBox("Quelle note (entre 1 et 10) voulez vous attribuer au film \"" +
+                                          c.film.titre + "\" de " + c.film.realisateur + " ?"));
     if (!note) return;
-    m_modifieNoteFilm(*note);
-    if (m_liste.ChoixTri.ListIndex != browse::kTriNote) return;
-    const std::string titre = m_film.titre, realisateur = m_film.realisateur;  // the refresh forgets them
-    m_suites.affichageApresModification();
-    m_suites.selectionneTitre(titre, realisateur);
+    browse::ModifieNoteFilm(c, *note);
+    if (c.liste.ChoixTri.ListIndex == browse::kTriNote) remontreFilm(c);
 }
 
 std::optional<int> noteDemandee(std::string_view reponse) {

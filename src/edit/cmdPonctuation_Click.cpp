@@ -1,5 +1,7 @@
 #include "edit/cmdPonctuation_Click.h"
 
+#include "browse/AffichageApresModification.h"
+#include "edit/TravailParLots.h"
 #include "platform/dao/Comparaison.h"
 #include "util/Capitales.h"
 #include "util/Sql.h"
@@ -34,22 +36,11 @@ long corrigeEnsemble(TravailParLots& travail, const std::string& titre) {
     return corrigeToutes(travail.ouvre("SELECT titre FROM films WHERE titre =" + texte), "titre");
 }
 
-}  // namespace
-
-void CorrectionTitres::cmdPonctuation_Click() {
-    if (m_outils.dialogues.MsgBox("Êtes-vous sûr(e) de vouloir corriger tous les titres de la base ?",
-                                  dialogues::kQuestion) != dialogues::kOui)
-        return;
-    const long modifies = corrigeTout();
-    if (modifies > 0) rafraichit();
-    m_outils.dialogues.MsgBox(rapportTitresModifies(modifies), dialogues::kInformation);
-}
-
-long CorrectionTitres::corrigeTout() {
+long corrigeTout(const Contexte& c) {
     constexpr auto kNumero = db::NumeroErreur::cmdPonctuation;
-    dao::Recordset films = db::ouvreRequete(m_base.base, kTitresDesFilms, kNumero, m_outils.dialogues);
-    dao::Recordset possedes = db::ouvreRequete(m_base.base, kTitresPossedes, kNumero, m_outils.dialogues);
-    TravailParLots travail(m_outils, kNumero, films.RecordCount() + possedes.RecordCount());
+    dao::Recordset films = db::ouvreRequete(c, kTitresDesFilms, kNumero);
+    dao::Recordset possedes = db::ouvreRequete(c, kTitresPossedes, kNumero);
+    TravailParLots travail(c, kNumero, films.RecordCount() + possedes.RecordCount());
     const bool tous = travail.execute(films.RecordCount(), [&](long rang) -> TravailParLots::Pas {
         if (rang > 0) films.MoveNext();
         const std::string titre = films.texte("titre"), corrigee = util::metEnCapitales(titre);
@@ -67,10 +58,21 @@ long CorrectionTitres::corrigeTout() {
 }
 
 // The user stays where the button is.
-void CorrectionTitres::rafraichit() {
-    const browse::EtatPanneaux panneaux = m_panneaux;
-    m_suites.affichageApresModification();
-    m_panneaux = panneaux;
+void rafraichit(const Contexte& c) {
+    const browse::EtatPanneaux panneaux = c.panneaux;
+    browse::AffichageApresModification(c);
+    c.panneaux = panneaux;
+}
+
+}  // namespace
+
+void cmdPonctuation_Click(const Contexte& c) {
+    if (c.dialogues.MsgBox("Êtes-vous sûr(e) de vouloir corriger tous les titres de la base ?", dialogues::kQuestion) !=
+        dialogues::kOui)
+        return;
+    const long modifies = corrigeTout(c);
+    if (modifies > 0) rafraichit(c);
+    c.dialogues.MsgBox(rapportTitresModifies(modifies), dialogues::kInformation);
 }
 
 std::string rapportTitresModifies(long nombre) {

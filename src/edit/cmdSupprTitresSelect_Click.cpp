@@ -1,40 +1,22 @@
 #include "edit/cmdSupprTitresSelect_Click.h"
 
+#include "browse/AffichageApresModification.h"
+#include "browse/AfficheNbTitres.h"
+#include "browse/RaffraichitBoitesDeroulantes.h"
 #include "db/EnonceFilm.h"
-#include "edit/SupprimePossession.h"
+#include "edit/LigneDuNoeud.h"
+#include "edit/LignePossession.h"
+#include "edit/TravailParLots.h"
 #include "util/Nombres.h"
+
+#include <iterator>
+#include <vector>
 
 namespace edit {
 
-void MultiSuppression::cmdMultiSuppress_Click() {
-    m_controles.panneaux.montre(m_controles.panneaux.frameMultiSuppression);
-    m_controles.demandes.focus = m_controles.Option4[1].Value ? "Option4_1" : "Option4_0";
-}
+namespace {
 
-void MultiSuppression::range() {
-    if (!m_controles.liste.TreeView1.Checkboxes) return;
-    ecran::choisit(m_controles.Option4, 0);
-    Option4_Click();
-}
-
-void MultiSuppression::Option4_Click() {
-    const bool active = m_controles.Option4[1].Value;
-    m_controles.liste.TreeView1.Checkboxes = active;
-    m_controles.cmdSupprTitresSelect.Visible = active;
-}
-
-void MultiSuppression::cmdSupprTitresSelect_Click() {
-    const std::vector<int> noeuds = filmsCoches();
-    if (noeuds.empty()) {
-        m_outils.dialogues.MsgBox("Aucun film n'a été coché !", dialogues::kExclamation);
-        return;
-    }
-    if (m_outils.dialogues.MsgBox(questionSuppression(noeuds.size()), dialogues::kQuestion) != dialogues::kOui) return;
-    montre(supprime(lis(noeuds)));
-}
-
-std::vector<int> MultiSuppression::filmsCoches() const {
-    const browse::VueArbre& vue = m_controles.liste.TreeView1;
+std::vector<int> filmsCoches(const browse::VueArbre& vue) {
     std::vector<int> noeuds;
     for (const int noeud : vue.coches)
         if (noeud >= 1 && noeud <= vue.Nodes.Count() && !vue.Nodes.estGroupe(noeud)) noeuds.push_back(noeud);
@@ -43,28 +25,26 @@ std::vector<int> MultiSuppression::filmsCoches() const {
 
 // All of them before the first deletion: of two films of the same names, the one deleted for the other leaves its slot
 // unreadable. A film that is gone already is passed over.
-std::vector<MultiSuppression::Film> MultiSuppression::lis(const std::vector<int>& noeuds) {
-    std::vector<Film> films;
-    for (const int noeud : noeuds) {
-        m_base.liste.MoveFirst();
-        m_base.liste.Move(static_cast<long>(m_controles.liste.TreeView1.Nodes.position(noeud)) - 1);
-        try {
-            films.push_back({m_base.liste.texte("Titre"), m_base.liste.texte("Realisateur")});
-        } catch (const dao::ErreurDao& erreur) {
-            if (erreur.numero != dao::kErreurEnregistrementSupprime) throw;
-        }
-    }
+std::vector<db::CleFilm> lis(const Contexte& c, const std::vector<int>& noeuds) {
+    std::vector<db::CleFilm> films;
+    for (const int noeud : noeuds)
+        if (auto film = filmDuNoeud(c, noeud)) films.push_back(std::move(*film));
     return films;
 }
 
-MultiSuppression::Supprimes MultiSuppression::supprime(const std::vector<Film>& films) {
-    const bool possede = m_controles.fiche.Option1[1].Value;
+struct Supprimes {
+    long films = 0;
+    bool possessions = false;
+};
+
+Supprimes supprime(const Contexte& c, const std::vector<db::CleFilm>& films) {
+    const bool possede = c.fiche.Option1[1].Value;
     Supprimes supprimes;
-    TravailParLots travail(m_outils, db::NumeroErreur::cmdSupprTitresSelect, static_cast<long>(films.size()));
-    travail.execute(static_cast<long>(films.size()), [&](long rang) -> TravailParLots::Pas {
-        const Film& film = films[static_cast<std::size_t>(rang)];
-        if (possede && supprimePossession(m_base.base, film.titre, film.realisateur)) supprimes.possessions = true;
-        dao::Recordset trouves = travail.ouvre(db::enonceFilmModifie(film.titre, film.realisateur));
+    TravailParLots travail(c, db::NumeroErreur::cmdSupprTitresSelect, std::ssize(films));
+    travail.execute(std::ssize(films), [&](long rang) -> TravailParLots::Pas {
+        const db::CleFilm& film = films[rang];
+        if (possede && supprimePossession(c.base.base, film)) supprimes.possessions = true;
+        dao::Recordset trouves = travail.ouvre(db::enonceFilmModifie(film));
         if (trouves.Eof()) return {};
         trouves.Delete();
         return {1};
@@ -75,13 +55,42 @@ MultiSuppression::Supprimes MultiSuppression::supprime(const std::vector<Film>& 
 }
 
 // The panel stays: the user may have more to tick.
-void MultiSuppression::montre(const Supprimes& supprimes) {
-    m_controles.liste.Frame1.Caption = "Liste des titres";
-    m_suites.afficheNbTitres();
-    m_suites.affichageApresModification();
-    if (supprimes.possessions) m_suites.boites.RaffraichitBoitesDeroulantes();
-    m_outils.dialogues.MsgBox(util::phraseCompte(supprimes.films, "# titre supprimé.", "# titres supprimés."),
-                              dialogues::kInformation);
+void montre(const Contexte& c, const Supprimes& supprimes) {
+    c.liste.Frame1.Caption = "Liste des titres";
+    browse::AfficheNbTitres(c);
+    browse::AffichageApresModification(c);
+    if (supprimes.possessions) browse::RaffraichitBoitesDeroulantes(c);
+    c.dialogues.MsgBox(util::phraseCompte(supprimes.films, "# titre supprimé.", "# titres supprimés."),
+                       dialogues::kInformation);
+}
+
+}  // namespace
+
+void cmdMultiSuppress_Click(const Contexte& c) {
+    c.panneaux.montre(c.panneaux.frameMultiSuppression);
+    c.demandes.focus = c.multiSuppression.Option4[1].Value ? "Option4_1" : "Option4_0";
+}
+
+void rangeMultiSuppression(const Contexte& c) {
+    if (!c.liste.TreeView1.Checkboxes) return;
+    ecran::choisit(c.multiSuppression.Option4, 0);
+    Option4_Click(c);
+}
+
+void Option4_Click(const Contexte& c) {
+    const bool active = c.multiSuppression.Option4[1].Value;
+    c.liste.TreeView1.Checkboxes = active;
+    c.multiSuppression.cmdSupprTitresSelect.Visible = active;
+}
+
+void cmdSupprTitresSelect_Click(const Contexte& c) {
+    const std::vector<int> noeuds = filmsCoches(c.liste.TreeView1);
+    if (noeuds.empty()) {
+        c.dialogues.MsgBox("Aucun film n'a été coché !", dialogues::kExclamation);
+        return;
+    }
+    if (c.dialogues.MsgBox(questionSuppression(noeuds.size()), dialogues::kQuestion) != dialogues::kOui) return;
+    montre(c, supprime(c, lis(c, noeuds)));
 }
 
 std::string questionSuppression(std::size_t nombre) {

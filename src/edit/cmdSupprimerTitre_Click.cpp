@@ -1,39 +1,31 @@
 #include "edit/cmdSupprimerTitre_Click.h"
 
+#include "browse/AfficheAccueil.h"
+#include "browse/AfficheNbTitres.h"
+#include "browse/RaffraichitBoitesDeroulantes.h"
 #include "browse/RetireNoeud.h"
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
-#include "edit/SupprimePossession.h"
+#include "edit/LignePossession.h"
+#include "edit/cmdSupprTitresSelect_Click.h"
 
 #include <charconv>
 
 namespace edit {
 
-void SuppressionTitre::cmdSupprimerTitre_Click() {
-    if (!m_film.estUnFilm()) return;
-    if (m_dialogues.MsgBox("Voulez-vous vraiment supprimer ce titre ?", dialogues::kQuestion) != dialogues::kOui)
-        return;
-    const Supprimes supprimes = supprime();
-    if (supprimes.film)
-        retireDeLArbre();
-    else
-        m_dialogues.MsgBox("Titre non trouvé !", dialogues::kExclamation);
-    m_film = {};
-    m_suites.liste.noeudChoisi = -1;
-    m_suites.liste.Frame1.Caption = "Liste des titres";
-    m_suites.afficheAccueil();
-    m_suites.afficheNbTitres();
-    if (supprimes.possession) m_suites.boites.RaffraichitBoitesDeroulantes();
-}
+namespace {
+
+struct Supprimes {
+    bool film = false;
+    bool possession = false;
+};
 
 // The film's statement is opened first: its failure shows a box, which has no place in a transaction.
-SuppressionTitre::Supprimes SuppressionTitre::supprime() {
+Supprimes supprime(const Contexte& c) {
     Supprimes supprimes;
-    dao::Recordset films = db::ouvreRequete(m_base.base, db::enonceFilmModifie(m_film.titre, m_film.realisateur),
-                                            db::NumeroErreur::cmdSupprimerTitre, m_dialogues);
-    dao::Transaction ensemble(m_base.base);
-    if (m_fiche.Option1[1].Value)
-        supprimes.possession = supprimePossession(m_base.base, m_film.titre, m_film.realisateur);
+    dao::Recordset films = db::ouvreRequete(c, db::enonceFilmModifie(c.film), db::NumeroErreur::cmdSupprimerTitre);
+    dao::Transaction ensemble(c.base.base);
+    if (c.fiche.Option1[1].Value) supprimes.possession = supprimePossession(c.base.base, c.film);
     supprimes.film = !films.Eof();
     if (supprimes.film) films.Delete();
     ensemble.confirme();
@@ -41,11 +33,29 @@ SuppressionTitre::Supprimes SuppressionTitre::supprime() {
 }
 
 // The film's own node: a tick moves the highlight without showing a sheet.
-void SuppressionTitre::retireDeLArbre() {
+void retireDeLArbre(const Contexte& c) {
     std::uint32_t position = 0;
-    std::from_chars(m_film.cle.data() + 1, m_film.cle.data() + m_film.cle.size(), position);
-    const int noeud = m_suites.liste.TreeView1.Nodes.noeudDuFilm(position);
-    if (noeud != 0) browse::retireNoeud(m_suites.liste, noeud);
+    std::from_chars(c.film.cle.data() + 1, c.film.cle.data() + c.film.cle.size(), position);
+    const int noeud = c.liste.TreeView1.Nodes.noeudDuFilm(position);
+    if (noeud != 0) browse::retireNoeud(c.liste, noeud);
+}
+
+}  // namespace
+
+void cmdSupprimerTitre_Click(const Contexte& c) {
+    if (!c.film.estUnFilm()) return;
+    if (c.dialogues.MsgBox(questionSuppression(1), dialogues::kQuestion) != dialogues::kOui) return;
+    const Supprimes supprimes = supprime(c);
+    if (supprimes.film)
+        retireDeLArbre(c);
+    else
+        c.dialogues.MsgBox("Titre non trouvé !", dialogues::kExclamation);
+    c.film = {};
+    c.liste.noeudChoisi = -1;
+    c.liste.Frame1.Caption = "Liste des titres";
+    browse::AfficheAccueil(c);
+    browse::AfficheNbTitres(c);
+    if (supprimes.possession) browse::RaffraichitBoitesDeroulantes(c);
 }
 
 }  // namespace edit

@@ -1,45 +1,22 @@
 #include "edit/cmdValiderInfosPossessions_Click.h"
 
+#include "browse/AfficheNbTitres.h"
+#include "browse/RaffraichitBoitesDeroulantes.h"
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
 #include "edit/LongueursChamps.h"
+#include "edit/RemontreFilm.h"
 #include "util/Texte.h"
 
 namespace edit {
 
-void cmdValiderInfosPossessions_Click::operator()() {
-    if (!m_courant.estUnFilm()) return;
-    const std::string titre = m_courant.titre, realisateur = m_courant.realisateur;  // the refresh forgets them
-    enregistre();
-    if (m_suites.stockee) m_suites.stockee();
-    m_suites.affichageApresModification();
-    m_suites.selectionneTitre(titre, realisateur);
-    m_suites.afficheNbTitres();
-    m_suites.boites.RaffraichitBoitesDeroulantes();
-}
+namespace {
 
-void cmdValiderInfosPossessions_Click::enregistre() {
-    dao::Recordset possession =
-        db::ouvreRequete(m_base.base, db::enoncePossession(m_courant.titre, m_courant.realisateur),
-                         db::NumeroErreur::cmdValiderInfosPossessions, m_dialogues);
-    const bool possede = possession.RecordCount() > 0;
-    if (m_fiche.Option1[0].Value) {
-        if (possede) possession.Delete();
-        return;
-    }
-    if (possede)
-        possession.Edit();
-    else
-        possession.AddNew();
-    ecritChamps(possession);
-    possession.Update();
-}
-
-void cmdValiderInfosPossessions_Click::ecritChamps(dao::Recordset& possession) const {
-    const auto& zones = m_fiche.Text10;
-    const auto& listes = m_fiche.Combo7;
-    possession.assigne("Titre2", m_courant.titre);
-    possession.assigne("Realisateur2", m_courant.realisateur);
+void ecritChamps(dao::Recordset& possession, const Contexte& c) {
+    const auto& zones = c.fiche.Text10;
+    const auto& listes = c.fiche.Combo7;
+    possession.assigne("Titre2", c.film.titre);
+    possession.assigne("Realisateur2", c.film.realisateur);
     possession.assigne("Rangement", zones[3].Text);
     possession.assigne("Fichier1", zones[0].Text);
     possession.assigne("Fichier2", zones[1].Text);
@@ -49,6 +26,35 @@ void cmdValiderInfosPossessions_Click::ecritChamps(dao::Recordset& possession) c
     possession.assigne("Date", zones[6].Text);
     possession.assigne("Support", util::coupe(listes[2].Text, kLongueurSupport));
     possession.assigne("Divers", util::coupe(zones[4].Text, kLongueurDivers));
+}
+
+void enregistre(const Contexte& c) {
+    dao::Recordset possession =
+        db::ouvreRequete(c, db::enoncePossession(c.film), db::NumeroErreur::cmdValiderInfosPossessions);
+    const bool possede = possession.RecordCount() > 0;
+    if (c.fiche.Option1[0].Value) {
+        if (possede) possession.Delete();
+        return;
+    }
+    if (possede)
+        possession.Edit();
+    else
+        possession.AddNew();
+    ecritChamps(possession, c);
+    possession.Update();
+}
+
+}  // namespace
+
+void cmdValiderInfosPossessions_Click(const Contexte& c) {
+    if (c.film.estUnFilm()) {
+        enregistre(c);
+        c.accompagnement.possessionStockee();
+        remontreFilm(c);
+        browse::AfficheNbTitres(c);
+        browse::RaffraichitBoitesDeroulantes(c);
+    }
+    c.demandes.focus = "TreeView1";
 }
 
 }  // namespace edit
