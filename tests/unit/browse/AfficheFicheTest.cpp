@@ -1,4 +1,7 @@
 #include "Fenetre.h"
+#include "browse/AfficheVolet.h"
+#include "browse/ChargeAffiche.h"
+#include "browse/ModifieNoteFilm.h"
 #include "db/Affiches.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/Texte.h"
@@ -72,7 +75,7 @@ TEST_F(AfficheFicheTest, OldRatingsAreBroughtToTheNewScale) {
 TEST_F(AfficheFicheTest, ARatingNeedsItsFilm) {
     film.titre = "Parti";
     dialogues.attendMsgBox("Film non trouvé !", 48);
-    modifieNoteFilm(5);
+    ModifieNoteFilm(c, 5);
     EXPECT_EQ(fiche.lblNote.Caption, "");
 }
 
@@ -192,7 +195,7 @@ TEST_F(AfficheFicheTest, PostersFillTheirBoxAndKeepTheirShape) {
     dossier.ecrit("Tmp/ImageTMP.jpg", kJpeg);
     for (const auto& [taille, largeur, hauteur, gauche, haut] : cas) {
         images.taille = taille;
-        chargeAffiche();
+        ChargeAffiche(c);
         EXPECT_EQ(fiche.Image1.Width, largeur);
         EXPECT_EQ(fiche.Image1.Height, hauteur);
         EXPECT_EQ(fiche.Image1.Left, gauche);
@@ -245,7 +248,7 @@ TEST_F(AfficheFicheTest, TheUserStaysOnThePageThatWasOpen) {
     montreFilm("A");
     EXPECT_TRUE(fiche.frameGeneralites[1].Visible && fiche.cmdGeneralites.FontBold);
     EXPECT_FALSE(fiche.frameAutresInfos[0].Visible || fiche.cmdAutresInfos.FontBold);
-    afficheVolet(browse::kVoletAutresInfos);
+    AfficheVolet(c, browse::kVoletAutresInfos);
     EXPECT_EQ(demandes.boutonParDefaut, "cmdAutresInfos");
     clique("B");
     EXPECT_TRUE(fiche.frameAutresInfos[1].Visible && fiche.cmdAutresInfos.FontBold);
@@ -260,7 +263,7 @@ TEST_F(AfficheFicheTest, AHeadingAndADeletedFilmShowThePresentation) {
     montre(browse::kZoneTous, browse::kTriTitre1);
     clique("Avatar");
     fiche.Text10[3].Text = "Salon";
-    EXPECT_EQ(arbre.MouseUp(2), browse::MenuArbre::Film);
+    EXPECT_EQ(TreeView1_MouseUp(c, 2), browse::MenuArbre::Film);
     EXPECT_EQ(fiche.Text10[3].Text, "Salon") << "the menu of the film shown reads nothing again";
     clique("A");
     EXPECT_TRUE(panneaux.framePresentation.Visible);
@@ -271,7 +274,7 @@ TEST_F(AfficheFicheTest, AHeadingAndADeletedFilmShowThePresentation) {
     EXPECT_TRUE(panneaux.framePresentation.Visible);
     EXPECT_FALSE(panneaux.frameFiche.Visible);
     EXPECT_EQ(film.titre, "");  // no command reaches the film shown before
-    EXPECT_EQ(arbre.MouseUp(2), browse::MenuArbre::Aucun);
+    EXPECT_EQ(TreeView1_MouseUp(c, 2), browse::MenuArbre::Aucun);
 }
 
 }  // namespace

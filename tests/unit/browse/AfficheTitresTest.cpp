@@ -1,4 +1,7 @@
 #include "Fenetre.h"
+#include "browse/AfficheTitres.h"
+#include "browse/SelectionneTitre.h"
+#include "browse/cmdRecherche_Click.h"
 #include "platform/systeme/Horloge.h"
 
 namespace {
@@ -81,7 +84,7 @@ TEST_F(AfficheTitresTest, TickingStatisticsChangesTheHeadingsAlone) {
     liste.TreeView1.coches = {3};
     const auto bascule = [&](int valeur) {
         liste.AffStats.Value = valeur;
-        afficheTitres.AffStats_Click();
+        AffStats_Click(c);
         return std::string(liste.TreeView1.Nodes.Text(1));
     };
     EXPECT_EQ(bascule(1), "Drame (100 %)");
@@ -107,33 +110,33 @@ TEST_F(AfficheTitresTest, HugeFieldsAreListedShownAndSearched) {
     montre(browse::kZoneTous, browse::kTriGenre);
     EXPECT_EQ(liste.TreeView1.Nodes.enfants(0).size(), 1U);
     EXPECT_EQ(liste.TreeView1.Nodes.Text(3), longue);
-    arbre.NodeClick(3);
+    TreeView1_NodeClick(c, 3);
     EXPECT_EQ(fiche.Label1[0].Caption, longue);
     EXPECT_EQ(fiche.lblInfosActeurs.Caption.size(), distribution.size() + 1);
     EXPECT_TRUE(fiche.Option1[1].Value);
-    selectionneTitre("ZORRO", longue);  // nobody, after a comparison with everyone
+    SelectionneTitre(c, {"ZORRO", longue});  // nobody, after a comparison with everyone
     EXPECT_EQ(film.titre, longue);
     montre(browse::kZoneMesFilms, browse::kTriTitre1);
     EXPECT_EQ(titres(), Lignes{longue});
     recherche.Text2.Text = std::string(1'000'000, 'E') + "f";
     recherche.ZoneRecherche[3].Value = 1;
-    cmdRecherche();
+    cmdRecherche_Click(c);
     EXPECT_TRUE(titres().empty());
     recherche.Text2.Text = "eeE;OE";
     recherche.ZoneRecherche[0].Value = 0;
-    cmdRecherche();
+    cmdRecherche_Click(c);
     EXPECT_EQ(titres(), Lignes{longue});
 }
 
 TEST_F(AfficheTitresTest, TicksStayOnFilms) {
     ajouteFilm("Avatar");
     montre(browse::kZoneTous, browse::kTriTitre1);
-    arbre.NodeCheck(2, true);
+    TreeView1_NodeCheck(c, 2, true);
     EXPECT_EQ(liste.TreeView1.coches, std::set<int>{2});
     dialogues.attendMsgBox("Choisissez un titre plutôt qu'une catégorie.", 48);
-    arbre.NodeCheck(1, true);
+    TreeView1_NodeCheck(c, 1, true);
     EXPECT_EQ(liste.TreeView1.coches, std::set<int>{2});
-    arbre.NodeCheck(2, false);
+    TreeView1_NodeCheck(c, 2, false);
     EXPECT_TRUE(liste.TreeView1.coches.empty());
 }
 
@@ -141,14 +144,14 @@ TEST_F(AfficheTitresTest, TheRightButtonAsksForTheMenuOfItsNode) {
     ajouteFilm("Avatar", {{"Genre", "Drame"}, {"Realisateur", "R"}});
     possede("Avatar", "R", {{"Support", "DVD"}});
     using browse::MenuArbre;
-    EXPECT_EQ(arbre.MouseUp(0), MenuArbre::Aucun);
+    EXPECT_EQ(TreeView1_MouseUp(c, 0), MenuArbre::Aucun);
     const std::pair<int, MenuArbre> cas[]{{browse::kTriGenre, MenuArbre::Genre},
                                           {browse::kTriSupport, MenuArbre::Support},
                                           {browse::kTriTitre1, MenuArbre::Aucun}};
     for (const auto& [tri, menu] : cas) {
         montre(browse::kZoneMesFilms, tri);
-        EXPECT_EQ(arbre.MouseUp(1), menu) << tri;
-        EXPECT_EQ(arbre.MouseUp(2), MenuArbre::Film);
+        EXPECT_EQ(TreeView1_MouseUp(c, 1), menu) << tri;
+        EXPECT_EQ(TreeView1_MouseUp(c, 2), MenuArbre::Film);
         EXPECT_EQ(film.titre, "Avatar");  // the click's work first
         EXPECT_EQ(liste.cleCliquee, "K1");
     }

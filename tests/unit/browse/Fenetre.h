@@ -34,10 +34,10 @@ class Fenetre : public ::testing::Test, protected doubles::MachineDEssai {
         base.films = base.base.OpenRecordset("Films");
         base.personnel = base.base.OpenRecordset("Personnel");
         base.liste = base.base.OpenRecordset("Films");
-        for (const char* zone : {"Mes films", "Tous les films", "Mes films non prêtés", "Mes films prêtés",
-                                 "Mes films réservés", "Films non possédés"})
-            liste.ChoixZone.AddItem(zone);
-        liste.ChoixTri.Items.assign(9, "Tri");
+        for (const browse::Zone& zone : browse::kZones)
+            liste.ChoixZone.AddItem(zone.legende);
+        for (const browse::Tri& tri : browse::kTris)
+            liste.ChoixTri.AddItem(tri.legende);
         choisit(browse::kZoneTous, browse::kTriTitre2);
     }
 

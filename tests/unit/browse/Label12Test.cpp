@@ -7,7 +7,6 @@ namespace {
 // A film without a poster, shown, and the choice of a picture for it.
 class Label12Test : public Fenetre {
   protected:
-    browse::Label12_Click commande{base, film, fiche, stockage, chemins, afficheFiche, dialogues};
     const std::string image = "\xFF\xD8 une image";
 
     void SetUp() override {
@@ -23,7 +22,7 @@ class Label12Test : public Fenetre {
     }
     void attache(const std::string& reponse) {
         choisitImage(reponse);
-        commande();
+        Label12_Click(c);
         dialogues.verifie();
     }
     [[nodiscard]] std::string affiche(const char* titre = "Le \"\"titre\"\" : 1") {
@@ -38,7 +37,7 @@ TEST_F(Label12Test, ThePosterGoesIntoTheBaseAndIsShown) {
     EXPECT_EQ(dossier.lit("Tmp/ImageTMP.jpg"), image);
     EXPECT_TRUE(fiche.Image1.Visible);
     EXPECT_EQ(film.titre, "Le \"titre\" : 1");
-    commande();  // the film has one now: no box
+    Label12_Click(c);  // the film has one now: no box
     EXPECT_EQ(affiche("Un autre"), "JPGautre.jpg");
 }
 
@@ -74,7 +73,7 @@ TEST_F(Label12Test, APosterThatTheFilmHasIsNeverReplaced) {
             const std::string avant = affiche();
             choisitImage(choix);
             dialogues.attendMsgBox("Ce film a déjà une affiche : elle est gardée.", dialogues::kCritique);
-            commande();
+            Label12_Click(c);
             dialogues.verifie();
             EXPECT_EQ(affiche(), avant);
         }
@@ -97,7 +96,7 @@ TEST_F(Label12Test, AFolderThatCannotTakeItLeavesTheFilm) {
         stockage.Text4.Text = place;
         choisitImage(dossier.ecrit("choix.jpg", image));
         dialogues.attendMsgBox(message, dialogues::kCritique);
-        commande();
+        Label12_Click(c);
         EXPECT_EQ(affiche(), "");
         EXPECT_FALSE(base.base.enTransaction());
     }
@@ -121,10 +120,10 @@ TEST_F(Label12Test, WhatCannotBeTakenIsRefused) {
     attache("");
     choisitImage(dossier.chemin("absent.jpg"));
     dialogues.attendMsgBox("Le fichier indiqué est inexistant !", dialogues::kExclamation);
-    commande();
+    Label12_Click(c);
     choisitImage(dossier.ecrit("grande.jpg", std::string(230001, 'x')));
     dialogues.attendMsgBox("Image trop grande pour tenir en base !", dialogues::kExclamation);
-    commande();
+    Label12_Click(c);
     EXPECT_EQ(affiche(), "");
     attache(dossier.ecrit("juste.jpg", std::string(230000, 'x')));
     EXPECT_EQ(affiche().size(), 230003U);
@@ -138,7 +137,7 @@ TEST_F(Label12Test, ALockedBaseLeavesTheFileThatStands) {
     choisitImage(dossier.ecrit("choix.jpg", image));
     dialogues.attendMsgBox("Erreur 3260 : Mise à jour impossible : la base est verrouillée par un autre programme.",
                            dialogues::kCritique);
-    commande();
+    Label12_Click(c);
     EXPECT_EQ(dossier.lit("Images/Le titre  1 - R.jpg"), "l'ancienne");
 }
 

@@ -1,4 +1,9 @@
 #include "Fenetre.h"
+#include "browse/ChoixTri.h"
+#include "browse/ChoixZone.h"
+#include "browse/CreeRequeteAffichage.h"
+#include "browse/SelectionneTitre.h"
+#include "browse/cmdRecherche_Click.h"
 #include "db/Requete.h"
 
 namespace {
@@ -27,7 +32,7 @@ class RechercheTest : public Fenetre {
         for (std::size_t i = 0; i < champs.size(); ++i)
             recherche.ZoneRecherche[i].Value = champs[i];
         ecran::choisit(recherche.TypeFilm, portee);
-        cmdRecherche();
+        cmdRecherche_Click(c);
     }
 };
 
@@ -42,12 +47,12 @@ TEST_F(RechercheTest, SortBySupportIsRefusedWhereFilmsHaveNoneAndTheTreeStays) {
         EXPECT_EQ(liste.triDeLArbre, browse::kTriGenre);
         EXPECT_EQ(liste.ChoixTri.ListIndex, browse::kTriGenre);  // the lists name what is shown
         EXPECT_EQ(liste.ChoixZone.Text, "Tous les films");
-        affichageApresModification();  // and the next refresh is not refused again
+        AffichageApresModification(c);  // and the next refresh is not refused again
     }
     montre(browse::kZoneMesFilms, browse::kTriSupport);
     attendRefus();
     liste.ChoixZone.selectionne(browse::kZoneNonPossedes);
-    choixZone.Click();  // the zone that the sort refuses
+    ChoixZone_Click(c);  // the zone that the sort refuses
     EXPECT_EQ(liste.ChoixZone.Text, "Mes films");
     EXPECT_EQ(liste.ChoixTri.ListIndex, browse::kTriSupport);
     EXPECT_EQ(titres().size(), 2U);
@@ -57,7 +62,7 @@ TEST_F(RechercheTest, ARefusedSortOfASearchLeavesTheSearchNamedAndShown) {
     cherche("199", {0, 0, 1, 0}, 2);
     attendRefus();
     liste.ChoixTri.selectionne(browse::kTriSupport);
-    choixTri.Click();
+    ChoixTri_Click(c);
     EXPECT_EQ(liste.ChoixTri.ListIndex, browse::kTriTitre2);
     EXPECT_EQ(liste.ChoixZone.Text, "Recherche");
     EXPECT_EQ(titres(), (Titres{"Clair", "Été \"bleu\""}));
@@ -65,15 +70,15 @@ TEST_F(RechercheTest, ARefusedSortOfASearchLeavesTheSearchNamedAndShown) {
 
 TEST_F(RechercheTest, AnotherBaseEndsTheSearchInTheZoneItWasMadeIn) {
     cherche("199", {0, 0, 1, 0}, 2);
-    creeRequeteAffichage.apresChangementDeBase();
+    apresChangementDeBase(c);
     EXPECT_EQ(liste.ChoixZone.Text, "Films non possédés");
     EXPECT_EQ(liste.ChoixZone.ListCount(), 6);
     EXPECT_EQ(liste.critereRecherche, "");
     EXPECT_EQ(titres(), (Titres{"Clair", "Été \"bleu\""}));
     cherche("199", {0, 0, 1, 0}, 0);
-    choixZone.DropDown();  // left, but not for another zone yet
+    ChoixZone_DropDown(c);  // left, but not for another zone yet
     liste.ChoixZone.selectionne(browse::kZoneTous);
-    creeRequeteAffichage.apresChangementDeBase();
+    apresChangementDeBase(c);
     EXPECT_EQ(titres().size(), 4U);
     EXPECT_EQ(liste.critereRecherche, "");
 }
@@ -81,11 +86,11 @@ TEST_F(RechercheTest, AnotherBaseEndsTheSearchInTheZoneItWasMadeIn) {
 TEST_F(RechercheTest, AReopenedBaseLeavesNoNodeOfTheOldListing) {
     montre(browse::kZoneTous, browse::kTriTitre2);
     dialogues.attendMsgBox("Erreur (1) : Etablissement de requête", 16);
-    EXPECT_THROW(creeRequeteAffichage.apresReouverture(
-                     [&] { creeRequeteAffichage(browse::kZoneTous, browse::kTriGenre, "ceci n'est pas"); }),
-                 db::RequeteEchouee);
+    EXPECT_THROW(
+        apresReouverture(c, [&] { CreeRequeteAffichage(c, browse::kZoneTous, browse::kTriGenre, "ceci n'est pas"); }),
+        db::RequeteEchouee);
     EXPECT_EQ(liste.TreeView1.Nodes.Count(), 0);
-    creeRequeteAffichage.apresReouverture([&] { affichageApresModification(); });
+    apresReouverture(c, [&] { AffichageApresModification(c); });
     EXPECT_EQ(titres().size(), 4U);
 }
 
@@ -103,18 +108,18 @@ TEST_F(RechercheTest, ALockedBaseIsSaidToBeLocked) {
     EXPECT_EQ(liste.ChoixTri.ListIndex, browse::kTriTitre2);
     EXPECT_EQ(titres().size(), 4U);
     autre.Execute("ROLLBACK");
-    affichageApresModification();
+    AffichageApresModification(c);
 }
 
 TEST_F(RechercheTest, AListingThatFailsTellsItAndTheTreeStillFindsItsFilms) {
     montre(browse::kZoneTous, browse::kTriTitre2);
     dialogues.attendMsgBox("Erreur (1) : Etablissement de requête", 16);
-    EXPECT_THROW(creeRequeteAffichage(browse::kZoneTous, browse::kTriGenre, "ceci n'est pas"), db::RequeteEchouee);
+    EXPECT_THROW(CreeRequeteAffichage(c, browse::kZoneTous, browse::kTriGenre, "ceci n'est pas"), db::RequeteEchouee);
     EXPECT_EQ(liste.triDeLArbre, browse::kTriTitre2);
     clique("Clair");
     EXPECT_EQ(film.titre, "Clair");
-    creeRequeteAffichage(browse::kZoneTous, 9);  // neither a zone nor a sort of the lists: nothing is rebuilt
-    creeRequeteAffichage(-1, browse::kTriGenre);
+    CreeRequeteAffichage(c, browse::kZoneTous, 9);  // neither a zone nor a sort of the lists: nothing is rebuilt
+    CreeRequeteAffichage(c, -1, browse::kTriGenre);
     EXPECT_EQ(titres().size(), 4U);
     EXPECT_EQ(film.titre, "");
     EXPECT_EQ(liste.noeudChoisi, -1);
@@ -123,41 +128,41 @@ TEST_F(RechercheTest, AListingThatFailsTellsItAndTheTreeStillFindsItsFilms) {
 TEST_F(RechercheTest, TheSearchStaysUnderAnotherSortAndGoesWithAnotherZone) {
     cherche("199", {0, 0, 1, 0}, 2);
     liste.ChoixTri.selectionne(browse::kTriTitre1);
-    choixTri.Click();
+    ChoixTri_Click(c);
     EXPECT_EQ(arbreEnTexte(), (Titres{"TC=C", ">K1=Clair", "TE=E", ">K2=Été \"bleu\""}));
-    choixZone.DropDown();
+    ChoixZone_DropDown(c);
     EXPECT_EQ(liste.ChoixZone.ListCount(), 6);
     EXPECT_EQ(liste.ChoixZone.Text, "Mes films");
     EXPECT_EQ(titres(), (Titres{"Clair", "Été \"bleu\""}));  // until a zone is picked
     liste.ChoixZone.selectionne(browse::kZoneTous);
-    choixZone.Click();
+    ChoixZone_Click(c);
     EXPECT_EQ(titres().size(), 4U);
     EXPECT_NE(liste.critereRecherche, "");
 }
 
 TEST_F(RechercheTest, ChangesTheProgramMakesRaiseNothing) {
     liste.occupe = true;
-    choixZone.Click();
-    choixTri.Click();
+    ChoixZone_Click(c);
+    ChoixTri_Click(c);
     liste.occupe = false;
     liste.ChoixTri.selectionne(-1);
-    choixTri.Click();
+    ChoixTri_Click(c);
     EXPECT_EQ(liste.TreeView1.Nodes.generation(), 0);
 }
 
 TEST_F(RechercheTest, AFilmIsSelectedByBothItsTexts) {
     ajouteFilm("Bleu", {{"Realisateur", "Un autre"}});
     montre(browse::kZoneTous, browse::kTriTitre1);
-    selectionneTitre("BLEU ", "un autre");
+    SelectionneTitre(c, {"BLEU ", "un autre"});
     EXPECT_EQ(film.realisateur, "Un autre");
     EXPECT_EQ(liste.TreeView1.Nodes.Text(liste.TreeView1.SelectedItem), "Bleu");
     EXPECT_TRUE(panneaux.frameFiche.Visible);
-    selectionneTitre(film.titre, film.realisateur);  // its own fields, which showing a sheet rewrites
+    SelectionneTitre(c, film);  // its own fields, which showing a sheet rewrites
     EXPECT_EQ(film.realisateur, "Un autre");
-    selectionneTitre("Bleu", "personne");
+    SelectionneTitre(c, {"Bleu", "personne"});
     EXPECT_EQ(film.realisateur, "Un autre");
     choisit(browse::kZoneMesFilms, browse::kTriTitre1);
-    selectionneTitre("Rouge", "K");
+    SelectionneTitre(c, {"Rouge", "K"});
     EXPECT_EQ(film.titre, "Bleu");
 }
 
