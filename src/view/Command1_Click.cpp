@@ -5,7 +5,7 @@
 #include "platform/systeme/LigneDeCommande.h"
 #include "util/Texte.h"
 #include "view/ChercheFichier.h"
-#include "view/EchecLancement.h"
+#include "view/LanceFichier.h"
 
 namespace view {
 
@@ -27,32 +27,41 @@ std::vector<std::string> motsDe(const std::string& logiciel) {
     return mots && !mots->empty() ? *mots : std::vector<std::string>{logiciel};
 }
 
-}  // namespace
-
-void Command1_Click::operator()(int indice) {
-    if (indice == kFermer) {
-        m_etat.Visible = false;
-        return;
-    }
-    const std::string& fichier = m_film.fichiers.at(static_cast<std::size_t>(indice));
-    if (!fichier.empty()) ouvre(fichier);
+void refuse(const Contexte& c, const std::string& texte) {
+    c.dialogues.MsgBox(texte, dialogues::kCritique);
 }
 
-void Command1_Click::ouvre(const std::string& fichier) {
-    const std::string logiciel = m_extensions.logiciel(fichiers::extension(fichier));
-    const auto chemin = chercheFichier(fichiers::cheminTape(fichier, ""), m_volumes.liste());
-    if (!chemin) return refuse("Le fichier " + montrable(fichier) + " n'a pas été trouvé !");
-    if (logiciel == kLogicielParDefaut)
-        m_lanceFichier("\"" + *chemin + "\"", false, "open", "", "", "2", false);
-    else
-        lance(logiciel, *chemin);
-}
-
-void Command1_Click::lance(const std::string& logiciel, const std::string& chemin) {
+void lance(const Contexte& c, const std::string& logiciel, const std::string& chemin) {
     systeme::Commande commande{motsDe(logiciel), ""};
     commande.arguments.push_back(chemin);
-    const systeme::Lancement issue = m_programmes.lance(commande);
-    if (issue != systeme::Lancement::Fait) refuse(texteEchecLancement(issue, logiciel));
+    const systeme::Lancement issue = c.programmes.lance(commande);
+    if (issue != systeme::Lancement::Fait) refuse(c, texteEchecLancement(issue, logiciel));
+}
+
+void ouvre(const Contexte& c, const std::string& fichier) {
+    const std::string logiciel = c.extensions.logiciel(fichiers::extension(fichier));
+    const auto chemin = chercheFichier(fichiers::cheminTape(fichier, ""), c.volumes.liste());
+    if (!chemin) return refuse(c, "Le fichier " + montrable(fichier) + " n'a pas été trouvé !");
+    if (logiciel == kLogicielParDefaut)
+        LanceFichier(c, "\"" + *chemin + "\"", false, "open", "", "", "2", false);
+    else
+        lance(c, logiciel, *chemin);
+}
+
+}  // namespace
+
+void cmdFichiersFilm_Click(const Contexte& c) {
+    c.fichiers.Visible = true;
+    ++c.fichiers.presentations;
+}
+
+void Command1_Click(const Contexte& c, int indice) {
+    if (indice == kFermer) {
+        c.fichiers.Visible = false;
+        return;
+    }
+    const std::string& fichier = c.film.fichiers.at(static_cast<std::size_t>(indice));
+    if (!fichier.empty()) ouvre(c, fichier);
 }
 
 }  // namespace view

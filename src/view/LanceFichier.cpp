@@ -3,7 +3,6 @@
 #include "platform/fichiers/Fichiers.h"
 #include "platform/systeme/LigneDeCommande.h"
 #include "util/Texte.h"
-#include "view/EchecLancement.h"
 
 #include <chrono>
 
@@ -12,6 +11,7 @@ namespace view {
 namespace {
 
 constexpr std::chrono::milliseconds kEntreDeuxSouffles{50};
+constexpr const char* kManqueDeMemoire = "Le système manque de mémoire pour exécuter le fichier.";
 
 // A path and what follows it: `"/films/L'été.avi" -x` or the path alone, without quotes.
 struct Designation {
@@ -30,69 +30,88 @@ bool estUnProgramme(const std::string& extension) {
     return extension == "EXE" || extension == "COM" || extension == "PIF";
 }
 
-}  // namespace
-
-bool LanceFichier::operator()(const std::string& fichier, bool existence, const std::string& /*verbe*/,
-                              const std::string& parametres, const std::string& dossier, const std::string& /*mode*/,
-                              bool attente) {
-    const Designation designe = designation(fichier);
-    if (existence && !fichiers::existe(designe.chemin))
-        return refuse("Fichier " + fichier + " inexistant !", dialogues::kCritique);
-    const std::string chemin = fichiers::trouve(designe.chemin).value_or(designe.chemin);
-    const std::string lieu = dossier.empty() ? fichiers::dossierDe(chemin) : designation(dossier).chemin;
-    if (!estUnProgramme(util::majuscules(fichiers::extension(chemin)))) return ouvreDocument(chemin, lieu, attente);
-
-    const auto suite = systeme::decoupe(parametres.empty() ? designe.suite : parametres);
-    if (!suite)
-        return refuse("Un guillemet n'est pas fermé dans les paramètres de " + chemin + ".", dialogues::kCritique);
-    systeme::Commande commande{{chemin}, lieu};
-    commande.arguments.insert(commande.arguments.end(), suite->begin(), suite->end());
-    return lanceProgramme(commande, attente);
+const char* raison(systeme::Lancement issue) {
+    switch (issue) {
+        case systeme::Lancement::Introuvable:
+            return " : il est introuvable.";
+        case systeme::Lancement::Interdit:
+            return " : son exécution n'est pas permise.";
+        case systeme::Lancement::PasUnProgramme:
+            return " : ce n'est pas un programme que cette machine sait exécuter.";
+        default:
+            return ".";
+    }
 }
 
-bool LanceFichier::ouvreDocument(const std::string& chemin, const std::string& dossier, bool attente) {
+bool refuse(const db::Contexte& c, const std::string& texte, int style) {
+    c.dialogues.MsgBox(texte, style);
+    return false;
+}
+
+bool ouvreDocument(const db::Contexte& c, const std::string& chemin, const std::string& dossier, bool attente) {
     if (attente)
-        return refuse("L'attente de la fin d'exécution d'un document n'est pas gérée !", dialogues::kExclamation);
-    switch (m_documents.ouvreFichier(chemin, dossier)) {
+        return refuse(c, "L'attente de la fin d'exécution d'un document n'est pas gérée !", dialogues::kExclamation);
+    switch (c.documents.ouvreFichier(chemin, dossier)) {
         case systeme::Ouverture::Faite:
             return true;
         case systeme::Ouverture::SansMemoire:
-            return refuse(kManqueDeMemoire, dialogues::kCritique);
+            return refuse(c, kManqueDeMemoire, dialogues::kCritique);
         case systeme::Ouverture::SansAssociation:
-            return refuse("Le fichier à lancer est de type " + util::majuscules(fichiers::extension(chemin)) +
+            return refuse(c,
+                          "Le fichier à lancer est de type " + util::majuscules(fichiers::extension(chemin)) +
                               " mais aucune application n'est associée.",
                           dialogues::kExclamation);
         case systeme::Ouverture::Echouee:
             break;
     }
-    return refuse("Le fichier " + chemin + " n'a pas pu être ouvert.", dialogues::kCritique);
+    return refuse(c, "Le fichier " + chemin + " n'a pas pu être ouvert.", dialogues::kCritique);
 }
 
-bool LanceFichier::lanceProgramme(const systeme::Commande& commande, bool attente) {
-    if (!attente) {
-        const systeme::Lancement issue = m_programmes.lance(commande);
-        return issue == systeme::Lancement::Fait ||
-               refuse(texteEchecLancement(issue, commande.arguments.front()), dialogues::kCritique);
-    }
-    const systeme::ProgrammeLance lance = m_programmes.lancePourAttendre(commande);
-    if (!lance.enCours)
-        return refuse(texteEchecLancement(lance.issue, commande.arguments.front()), dialogues::kCritique);
-    return attendsFin(*lance.enCours);
-}
-
-bool LanceFichier::attendsFin(systeme::ProgrammeEnCours& programme) {
-    const ecran::Travail travail(m_ecran);
+bool attendsFin(const db::Contexte& c, systeme::ProgrammeEnCours& programme) {
+    const ecran::Travail travail(c.ecran);
     while (!programme.attendsFin(kEntreDeuxSouffles)) {
-        if (m_ecran.respire()) continue;
+        if (c.ecran.respire()) continue;
         programme.termine();
         return false;
     }
     return true;
 }
 
-bool LanceFichier::refuse(const std::string& texte, int style) {
-    m_dialogues.MsgBox(texte, style);
-    return false;
+bool lanceProgramme(const db::Contexte& c, const systeme::Commande& commande, bool attente) {
+    const auto echec = [&](systeme::Lancement issue) {
+        return refuse(c, texteEchecLancement(issue, commande.arguments.front()), dialogues::kCritique);
+    };
+    if (!attente) {
+        const systeme::Lancement issue = c.programmes.lance(commande);
+        return issue == systeme::Lancement::Fait || echec(issue);
+    }
+    const systeme::ProgrammeLance lance = c.programmes.lancePourAttendre(commande);
+    return lance.enCours ? attendsFin(c, *lance.enCours) : echec(lance.issue);
+}
+
+}  // namespace
+
+bool LanceFichier(const db::Contexte& c, const std::string& fichier, bool existence, const std::string& /*verbe*/,
+                  const std::string& parametres, const std::string& dossier, const std::string& /*mode*/,
+                  bool attente) {
+    const Designation designe = designation(fichier);
+    if (existence && !fichiers::existe(designe.chemin))
+        return refuse(c, "Fichier " + fichier + " inexistant !", dialogues::kCritique);
+    const std::string chemin = fichiers::trouve(designe.chemin).value_or(designe.chemin);
+    const std::string lieu = dossier.empty() ? fichiers::dossierDe(chemin) : designation(dossier).chemin;
+    if (!estUnProgramme(util::majuscules(fichiers::extension(chemin)))) return ouvreDocument(c, chemin, lieu, attente);
+
+    const auto suite = systeme::decoupe(parametres.empty() ? designe.suite : parametres);
+    if (!suite)
+        return refuse(c, "Un guillemet n'est pas fermé dans les paramètres de " + chemin + ".", dialogues::kCritique);
+    systeme::Commande commande{{chemin}, lieu};
+    commande.arguments.insert(commande.arguments.end(), suite->begin(), suite->end());
+    return lanceProgramme(c, commande, attente);
+}
+
+std::string texteEchecLancement(systeme::Lancement issue, const std::string& programme) {
+    if (issue == systeme::Lancement::SansMemoire) return kManqueDeMemoire;
+    return "Le programme " + programme + " n'a pas pu être lancé" + raison(issue);
 }
 
 }  // namespace view

@@ -19,4 +19,7 @@ namespace view {
 bool LanceFichier(const db::Contexte& c, const std::string& fichier, bool existence, const std::string& verbe,
                   const std::string& parametres, const std::string& dossier, const std::string& mode, bool attente);
 
+// Why that program was not started, for the user.
+[[nodiscard]] std::string texteEchecLancement(systeme::Lancement issue, const std::string& programme);
+
 }  // namespace view

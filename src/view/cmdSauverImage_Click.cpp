@@ -5,22 +5,19 @@
 
 namespace view {
 
-std::string cmdSauverImage_Click(const browse::EtatFiche& fiche, const db::Chemins& chemins,
-                                 dialogues::Dialogues& dialogues) {
+std::string cmdSauverImage_Click(const Contexte& c) {
     static constexpr const char* kTitre = "Sauvegarde affiche JPG";
-    std::string destination = db::demandeCheminAEcrire(dialogues,
-                                                       {.invite = "Entrez un chemin de destination",
-                                                        .titre = kTitre,
-                                                        .defaut = fiche.captionAffiche + ".jpg",
-                                                        .extension = ".jpg"},
-                                                       chemins);
+    std::string destination = db::demandeCheminAEcrire(c, {.invite = "Entrez un chemin de destination",
+                                                           .titre = kTitre,
+                                                           .defaut = c.fiche.captionAffiche + ".jpg",
+                                                           .extension = ".jpg"});
     if (destination.empty()) return {};
-    const auto image = fichiers::litSansLien(chemins.afficheTmp);
+    const auto image = fichiers::litSansLien(c.chemins.afficheTmp);
     if (!image || !fichiers::remplace(destination, *image)) {
-        dialogues.MsgBox("Erreur lors de la sauvegarde.", dialogues::kCritique, kTitre);
+        c.dialogues.MsgBox("Erreur lors de la sauvegarde.", dialogues::kCritique, kTitre);
         return {};
     }
-    dialogues.MsgBox("Fichier sauvegardé.", dialogues::kInformation, kTitre);
+    c.dialogues.MsgBox("Fichier sauvegardé.", dialogues::kInformation, kTitre);
     return destination;
 }
 
