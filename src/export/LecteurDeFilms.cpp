@@ -1,6 +1,6 @@
 #include "export/LecteurDeFilms.h"
 
-#include "platform/dao/ErreurDao.h"
+#include "platform/dao/LigneSupprimee.h"
 
 namespace exportation {
 
@@ -18,13 +18,12 @@ LecteurDeFilms::LecteurDeFilms(dao::Recordset& titres)
                 {titres.colonne("Divers"), &FilmDeLaListe::divers},
                 {titres.colonne("Support"), &FilmDeLaListe::support}}} {}
 
-const FilmDeLaListe* LecteurDeFilms::lit() try {
-    for (const Champ& champ : m_champs)
-        m_film.*champ.valeur = m_titres.vue(champ.colonne);
-    return &m_film;
-} catch (const dao::ErreurDao& erreur) {
-    if (erreur.numero != dao::kErreurEnregistrementSupprime) throw;
-    return nullptr;
+const FilmDeLaListe* LecteurDeFilms::lit() {
+    const bool presente = dao::siPresente([this] {
+        for (const Champ& champ : m_champs)
+            m_film.*champ.valeur = m_titres.vue(champ.colonne);
+    });
+    return presente ? &m_film : nullptr;
 }
 
 }  // namespace exportation

@@ -1,6 +1,7 @@
 #include "export/ListeDesTitres.h"
 
 #include "db/CheminAEcrire.h"
+#include "view/LanceFichier.h"
 
 namespace exportation {
 
@@ -13,17 +14,43 @@ std::string requeteListe(std::string_view clauseOrderBy) {
         .append(" ;");
 }
 
-std::string demandeFichierListe(dialogues::Dialogues& dialogues, const db::Chemins& chemins,
-                                std::string_view extension) {
+std::string demandeFichierListe(const db::Contexte& c, std::string_view extension) {
     std::string fichier = db::demandeCheminAEcrire(
-        dialogues,
-        {.invite = "Entrez le chemin et le nom du fichier à créer (sans l'extension)..\nExemple : C:\\FILMS",
-         .titre = kTitreListe,
-         .defaut = "",
-         .extension = std::string(extension),
-         .extensionAjoutee = true},
-        chemins);
+        c, {.invite = "Entrez le chemin et le nom du fichier à créer (sans l'extension)..\nExemple : C:\\FILMS",
+            .titre = kTitreListe,
+            .defaut = "",
+            .extension = std::string(extension),
+            .extensionAjoutee = true});
     return fichier.empty() ? fichier : fichier.append(extension);
+}
+
+Avancement::Avancement(const db::Contexte& c, long total, ecran::Etiquette* pourCent)
+    : m_c(c), m_travail(c.ecran), m_pourCent(pourCent) {
+    ecran::Progression& barre = m_c.travaux.ProgressBar3;
+    barre.Max = total;
+    barre.Value = 0;
+    barre.Visible = true;
+}
+
+Avancement::~Avancement() {
+    m_c.travaux.ProgressBar3.Visible = false;
+}
+
+bool Avancement::avance() {
+    ecran::Progression& barre = m_c.travaux.ProgressBar3;
+    ++barre.Value;
+    if (m_pourCent) m_pourCent->Caption = std::to_string(barre.Value * 100 / barre.Max);
+    return m_c.ecran.respire();
+}
+
+bool parcourtLesFilms(dao::Recordset& titres, Avancement& avancement,
+                      const std::function<void(const FilmDeLaListe&)>& recoit) {
+    LecteurDeFilms lecteur(titres);
+    for (; !titres.Eof(); titres.MoveNext()) {
+        if (const FilmDeLaListe* film = lecteur.lit()) recoit(*film);
+        if (!avancement.avance()) return false;
+    }
+    return true;
 }
 
 }  // namespace exportation

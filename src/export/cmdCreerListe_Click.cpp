@@ -1,10 +1,14 @@
 #include "export/cmdCreerListe_Click.h"
 
 #include "db/Requete.h"
-#include "export/Avancement.h"
-#include "export/LecteurDeFilms.h"
+#include "export/CreeFichierRTF.h"
+#include "export/DernierExport.h"
 #include "export/ListeDesTitres.h"
 #include "export/TexteListe.h"
+#include "view/LanceFichier.h"
+
+#include <optional>
+#include <string>
 
 namespace exportation {
 
@@ -15,52 +19,43 @@ constexpr const char* kQuestionRTF =
 constexpr const char* kQuestionTri =
     "Souhaitez-vous trier les titres par genre ?\n\nDans le cas contraire, un simple tri alphanumérique sera appliqué.";
 
+// Nothing when the user stopped.
+std::optional<std::string> texteDeLaListe(const Contexte& c, dao::Recordset& titres, bool parGenre) {
+    Avancement avancement(c, titres.RecordCount());
+    TexteListe liste(parGenre);
+    const auto ajoute = [&](const FilmDeLaListe& film) { liste.ajoute(film); };
+    return parcourtLesFilms(titres, avancement, ajoute) ? std::optional(liste.texte()) : std::nullopt;
+}
+
+void creeFichierTexte(const Contexte& c, const std::string& clause, bool parGenre) {
+    dao::Recordset titres = db::ouvreRequete(c, requeteListe(clause), db::NumeroErreur::cmdCreerListe);
+    if (titres.RecordCount() == 0) {
+        c.dialogues.MsgBox(kAucunTitre, dialogues::kExclamation);
+        return;
+    }
+    const std::string fichier = demandeFichierListe(c, ".txt");
+    if (fichier.empty()) return;
+    const auto liste = texteDeLaListe(c, titres, parGenre);
+    if (!liste || !ecritExport(c, fichier, *liste)) return;
+    c.dialogues.MsgBox("Le fichier texte " + fichier +
+                           " a été créé.\nLes séparateurs de champs étant des tabulations, réglez-les avec votre "
+                           "traitement de texte.",
+                       dialogues::kInformation, kTitreListe);
+    view::LanceFichier(c, "\"" + fichier + "\"", false, "open", "", "", "2", false);
+}
+
 }  // namespace
 
-void cmdCreerListe_Click::operator()() {
-    const auto demande = [this](const char* question) {
-        return m_outils.dialogues.MsgBox(question, dialogues::kQuestion);
-    };
+void cmdCreerListe_Click(const Contexte& c) {
+    const auto demande = [&](const char* question) { return c.dialogues.MsgBox(question, dialogues::kQuestion); };
     const bool enRTF = demande(kQuestionRTF) == dialogues::kOui;
     const int reponseTri = demande(kQuestionTri);
     const bool parGenre = reponseTri == dialogues::kOui;
     const std::string clause = parGenre ? "genre asc, titre asc" : "titre2 asc";
     if (enRTF)
-        m_creeFichierRTF(clause, reponseTri);
+        CreeFichierRTF(c, clause, reponseTri);
     else
-        creeFichierTexte(clause, parGenre);
-}
-
-void cmdCreerListe_Click::creeFichierTexte(const std::string& clause, bool parGenre) {
-    dialogues::Dialogues& boites = m_outils.dialogues;
-    dao::Recordset titres =
-        db::ouvreRequete(m_outils.base.base, requeteListe(clause), db::NumeroErreur::cmdCreerListe, boites);
-    if (titres.RecordCount() == 0) {
-        boites.MsgBox(kAucunTitre, dialogues::kExclamation);
-        return;
-    }
-    const std::string fichier = demandeFichierListe(boites, m_outils.chemins, ".txt");
-    if (fichier.empty()) return;
-    const auto liste = texte(titres, parGenre);
-    if (!liste || !m_dernierExport.ecrit(fichier, *liste)) return;
-    boites.MsgBox("Le fichier texte " + fichier +
-                      " a été créé.\nLes séparateurs de champs étant des tabulations, réglez-les avec votre traitement "
-                      "de texte.",
-                  dialogues::kInformation, kTitreListe);
-    m_lanceFichier("\"" + fichier + "\"", false, "open", "", "", "2", false);
-}
-
-std::optional<std::string> cmdCreerListe_Click::texte(dao::Recordset& titres, bool parGenre) {
-    const ecran::Travail travail(m_outils.ecran);
-    Avancement avancement(m_outils.progression, titres.RecordCount());
-    TexteListe liste(parGenre);
-    LecteurDeFilms lecteur(titres);
-    for (; !titres.Eof(); titres.MoveNext()) {
-        if (const FilmDeLaListe* film = lecteur.lit()) liste.ajoute(*film);
-        avancement.avance();
-        if (!m_outils.ecran.respire()) return std::nullopt;
-    }
-    return liste.texte();
+        creeFichierTexte(c, clause, parGenre);
 }
 
 }  // namespace exportation
