@@ -1,6 +1,5 @@
 #include "acquire/AdresseRecherche.h"
 
-#include "acquire/SiteMovieCovers.h"
 #include "util/Texte.h"
 
 namespace acquire {

@@ -4,6 +4,9 @@
 
 namespace acquire {
 
+// The site of the sheets, searched by the downloader and opened by the logo.
+inline constexpr const char* kSiteMovieCovers = "http://www.moviecovers.com";
+
 // What a web search is about, in the order of OptionTelecharge.
 enum class Critere { Titre, Realisateur, Acteur, Annee };
 

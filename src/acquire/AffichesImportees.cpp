@@ -6,26 +6,23 @@
 
 namespace acquire {
 
-AffichesImportees::AffichesImportees(dao::Database& base, db::EtatStockage& stockage, const db::Chemins& chemins)
-    : m_stockage(stockage),
-      m_chemins(chemins),
-      m_lot(base, stockage.dansLaBase() ? "" : db::dossierImages(stockage, chemins)) {}
+AffichesImportees::AffichesImportees(const db::Contexte& c)
+    : m_c(c), m_lot(c.base.base, c.stockage.dansLaBase() ? "" : db::dossierImages(c)) {}
 
 void AffichesImportees::prepareDossier() {
     if (std::exchange(m_dossierPret, true) || dansLaBase()) return;
-    if (const auto refus = db::refusDossierImages(m_stockage, m_chemins)) throw db::EchecConversion{*refus};
-    const std::string dossier = db::dossierImages(m_stockage, m_chemins);
+    if (const auto refus = db::refusDossierImages(m_c)) throw db::EchecConversion{*refus};
+    const std::string dossier = db::dossierImages(m_c);
     fichiers::creeDossier(dossier);
     if (!fichiers::dossierModifiable(dossier))
         throw db::EchecConversion{"Le dossier des images " + dossier + " n'est pas accessible en écriture !"};
 }
 
-std::optional<AfficheImportee> AffichesImportees::place(const std::string& titre, const std::string& realisateur,
-                                                        std::string_view octets, bool tientDansLaBase,
-                                                        std::string_view actuelle) {
+std::optional<AfficheImportee> AffichesImportees::place(const db::CleFilm& film, std::string_view octets,
+                                                        bool tientDansLaBase, std::string_view actuelle) {
     if (!dansLaBase()) {
         prepareDossier();
-        const std::string nom = m_lot.pose(db::nomFichierAffiche(titre, realisateur), octets, actuelle);
+        const std::string nom = m_lot.pose(db::nomFichierAffiche(film.titre, film.realisateur), octets, actuelle);
         return AfficheImportee{db::valeurAfficheFichier(nom), 0};
     }
     if (!tientDansLaBase) return std::nullopt;
@@ -33,7 +30,7 @@ std::optional<AfficheImportee> AffichesImportees::place(const std::string& titre
 }
 
 bool AffichesImportees::aSonFichier(const std::string& affiche) const {
-    return db::fichierAffiche(db::dossierImages(m_stockage, m_chemins), affiche).has_value();
+    return db::fichierAffiche(db::dossierImages(m_c), affiche).has_value();
 }
 
 }  // namespace acquire

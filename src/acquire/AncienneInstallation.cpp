@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string_view>
 #include <vector>
 
 namespace acquire {
@@ -18,7 +17,6 @@ constexpr const char* kReglages = "Ambrelis.ini";
 constexpr std::size_t kLigneImages = 2;
 constexpr std::size_t kLigneBase = 6;
 constexpr std::int64_t kTailleMaxReglages = 1 << 20;  // bytes
-constexpr std::string_view kSeparateurs = "/\\";
 
 std::string ligne(const std::vector<std::string>& lignes, std::size_t numero) {
     return numero <= lignes.size() ? lignes[numero - 1] : "";
@@ -32,20 +30,10 @@ std::optional<std::string> siCEstLui(const std::string& chemin, Examen examen) {
 }
 
 // What the settings name, or nothing.
-std::optional<std::string> nomme(const std::string& dossier, std::string_view chemin, Examen examen) {
-    while (!chemin.empty() && kSeparateurs.find(chemin.back()) != std::string_view::npos)
-        chemin.remove_suffix(1);
+std::optional<std::string> nomme(const std::string& dossier, const std::string& chemin, Examen examen) {
     if (chemin.starts_with('/'))
-        if (const auto trouve = siCEstLui(std::string(chemin), examen)) return trouve;
-    if (chemin.size() >= 2 && chemin[1] == ':') chemin.remove_prefix(2);  // a drive
-    while (!chemin.empty()) {
-        const std::size_t fin = chemin.find_first_of(kSeparateurs);
-        if (fin != 0)
-            if (const auto trouve = siCEstLui(dossier + std::string(chemin), examen)) return trouve;
-        if (fin == std::string_view::npos) break;
-        chemin.remove_prefix(fin + 1);
-    }
-    return std::nullopt;
+        if (auto trouve = siCEstLui(chemin, examen)) return trouve;
+    return fichiers::trouveParLaFin(dossier, chemin, examen);
 }
 
 // An ordinary file: a pipe would never end.

@@ -1,6 +1,6 @@
 #include "acquire/ConfigurationRapatrix.h"
 
-#include "acquire/SiteMovieCovers.h"
+#include "acquire/AdresseRecherche.h"
 #include "util/Texte.h"
 
 #include <algorithm>

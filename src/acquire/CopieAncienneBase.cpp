@@ -25,8 +25,7 @@ std::filesystem::file_time_type dateDe(const std::string& chemin) {
 
 }  // namespace
 
-CopieAncienneBase::CopieAncienneBase(std::string copie, ecran::Progression& progression, ecran::Ecran& ecran)
-    : m_copie(std::move(copie)), m_progression(progression), m_ecran(ecran) {
+CopieAncienneBase::CopieAncienneBase(const Contexte& c) : m_c(c) {
     efface();
 }
 
@@ -54,7 +53,7 @@ CopieAncienneBase::Issue CopieAncienneBase::ouvre(const std::string& original, c
 }
 
 CopieAncienneBase::Issue CopieAncienneBase::convertit(const std::string& original, const jet::Ouverture& ouverture) {
-    const db::IssueJet issue = db::ConversionJet(m_progression, m_ecran)(original, m_copie, ouverture);
+    const db::IssueJet issue = db::ConversionJet(m_c.ajout.ProgressBar1, m_c.ecran)(original, m_copie, ouverture);
     m_abimee = issue.abimee;
     m_rapport = issue.rapport;
     if (issue.echec) return echoue(*issue.echec);
@@ -74,11 +73,12 @@ CopieAncienneBase::Issue CopieAncienneBase::copie(const std::string& original) {
 
 bool CopieAncienneBase::copieFichier(const std::string& de, const std::string& vers) {
     const std::int64_t total = std::max<std::int64_t>(fichiers::longueur(de), 1);
-    m_progression.Max = kPourCent;
-    m_progression.Value = 0;
+    ecran::Progression& barre = m_c.ajout.ProgressBar1;
+    barre.Max = kPourCent;
+    barre.Value = 0;
     return fichiers::copie(de, vers, [&](std::int64_t octets) {
-        m_progression.Value = std::min(static_cast<long>(octets * kPourCent / total), kPourCent);
-        m_interrompue = !m_ecran.respire();
+        barre.Value = std::min(static_cast<long>(octets * kPourCent / total), kPourCent);
+        m_interrompue = !m_c.ecran.respire();
         return !m_interrompue;
     });
 }

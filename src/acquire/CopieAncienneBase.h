@@ -1,9 +1,7 @@
 #pragma once
 
+#include "acquire/Contexte.h"
 #include "db/RapportJet.h"
-#include "platform/dao/Database.h"
-#include "platform/ecran/Controles.h"
-#include "platform/ecran/Ecran.h"
 #include "platform/jet/LecteurJet.h"
 
 #include <optional>
@@ -15,8 +13,8 @@ namespace acquire {
 // goes with its owner. The original is only read.
 class CopieAncienneBase {
   public:
-    // What stands at `copie` is a working copy that was left there.
-    CopieAncienneBase(std::string copie, ecran::Progression& progression, ecran::Ecran& ecran);
+    // `c` outlives it. A working copy that was left in "Tmp" goes; ProgressBar1 shows how far the new one is.
+    explicit CopieAncienneBase(const Contexte& c);
     CopieAncienneBase(const CopieAncienneBase&) = delete;
     CopieAncienneBase& operator=(const CopieAncienneBase&) = delete;
     ~CopieAncienneBase();
@@ -37,9 +35,8 @@ class CopieAncienneBase {
     [[nodiscard]] Issue echoue(std::string raison);
     void efface();
 
-    std::string m_copie;
-    ecran::Progression& m_progression;
-    ecran::Ecran& m_ecran;
+    const Contexte& m_c;
+    std::string m_copie = m_c.chemins.dossierTmp + "/Ancienne.mdb";
     dao::Database m_base;
     std::string m_echec;
     db::RapportJet m_rapport;

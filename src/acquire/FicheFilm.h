@@ -1,5 +1,7 @@
 #pragma once
 
+#include "db/CleFilm.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,11 +11,9 @@ namespace acquire {
 inline constexpr const char* kNonDefini = "Non défini";
 
 // What a .FILM sheet says: its first nine lines, by position, each cut to its column except the summary, so that a line
-// of any length does no harm.
-struct FicheFilm {
+// of any length does no harm. Its title, in the house capitals, and its director are never empty.
+struct FicheFilm : db::CleFilm {
     std::string premiereLigne;  // the title as the sheet writes it
-    std::string titre;          // in the house capitals; never empty
-    std::string realisateur;    // never empty
     std::string annee, origine, genre, duree, acteurs, resume, production;
 };
 

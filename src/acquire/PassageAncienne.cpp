@@ -18,20 +18,17 @@ constexpr const char* kChampsFilms[] = {"Titre",   "Realisateur", "Annee",      
 constexpr const char* kChampsPersonnel[] = {"Titre2", "Realisateur2", "Rangement", "Fichier1", "Fichier2", "Fichier3",
                                             "Pret",   "Reserve",      "Date",      "Divers",   "Support"};
 constexpr const char* kAffiche = "Affiche";
-constexpr std::string_view kFichier = "JPG";
 
-std::string cleDuFilm(std::string_view titre, std::string_view realisateur) {
-    return dao::cleDeComparaison(titre) + '\0' + dao::cleDeComparaison(realisateur);
+std::string cleDuFilm(const db::CleFilm& film) {
+    return dao::cleDeComparaison(film.titre) + '\0' + dao::cleDeComparaison(film.realisateur);
 }
 
 // Hands the film of each row.
 template <typename Recoit>
 void parcourt(dao::Recordset& lignes, const char* titre, const char* realisateur, Recoit recoit) {
     const dao::Colonne titres = lignes.colonne(titre), realisateurs = lignes.colonne(realisateur);
-    for (; !lignes.Eof(); lignes.MoveNext()) {
-        const std::string lu(lignes.vue(titres));
-        recoit(cleDuFilm(lu, lignes.vue(realisateurs)));
-    }
+    for (; !lignes.Eof(); lignes.MoveNext())
+        recoit(cleDuFilm({std::string(lignes.vue(titres)), std::string(lignes.vue(realisateurs))}));
 }
 
 void exigeChamps(const dao::Recordset& lignes, std::span<const char* const> champs) {
@@ -48,13 +45,13 @@ void copieChamps(dao::Recordset& de, dao::Recordset& vers, std::span<const char*
 
 }  // namespace
 
-PassageAncienne::PassageAncienne(const OutilsAncienne& outils, dao::Database& ancienne, std::string dossierImages)
-    : m_outils(outils),
+PassageAncienne::PassageAncienne(const Contexte& c, dao::Database& ancienne, std::string dossierImages)
+    : m_c(c),
       m_films(ancienne.OpenRecordset("SELECT * FROM Films ;")),
       m_possessions(ancienne.OpenRecordset("SELECT * FROM Personnel ;")),
       m_dossierImages(std::move(dossierImages)),
-      m_lot(outils.base.base, outils.montre),
-      m_affiches(outils.base.base, outils.stockage, outils.chemins) {
+      m_lot(c),
+      m_affiches(c) {
     exigeChamps(m_films, kChampsFilms);
     exigeChamps(m_films, {&kAffiche, 1});
     exigeChamps(m_possessions, kChampsPersonnel);
@@ -65,7 +62,7 @@ void PassageAncienne::execute() {
         reprendTout();
         return;
     } catch (const dao::ErreurDao& erreur) {
-        m_echec = {"Erreur " + std::to_string(erreur.numero) + " : " + erreur.description, dialogues::kSimple};
+        m_echec = {erreur.texte(), dialogues::kSimple};
     } catch (const db::EchecConversion& echec) {
         m_echec = {echec.texte, dialogues::kCritique};
     }
@@ -77,17 +74,17 @@ void PassageAncienne::execute() {
 void PassageAncienne::reprendTout() {
     m_affiches.prepareDossier();
     releve();
-    m_outils.ajout.ProgressBar1.Max = std::max(1L, m_films.RecordCount() + static_cast<long>(m_aReprendre.size()));
-    m_outils.ajout.ProgressBar1.Value = 0;
+    m_c.ajout.ProgressBar1.Max = std::max(1L, m_films.RecordCount() + static_cast<long>(m_aReprendre.size()));
+    m_c.ajout.ProgressBar1.Value = 0;
     reprendFilms();
     if (!m_rapport.interrompu) reprendOrphelines();
     confirmeLot();
 }
 
 void PassageAncienne::releve() {
-    dao::Recordset films = m_outils.base.base.OpenRecordset("SELECT Titre, Realisateur FROM Films ;");
+    dao::Recordset films = m_c.base.base.OpenRecordset("SELECT Titre, Realisateur FROM Films ;");
     parcourt(films, "Titre", "Realisateur", [this](std::string cle) { m_connus.insert(std::move(cle)); });
-    dao::Recordset possessions = m_outils.base.base.OpenRecordset("SELECT Titre2, Realisateur2 FROM Personnel ;");
+    dao::Recordset possessions = m_c.base.base.OpenRecordset("SELECT Titre2, Realisateur2 FROM Personnel ;");
     parcourt(possessions, "Titre2", "Realisateur2", [this](std::string cle) { m_possedes.insert(std::move(cle)); });
     long rang = 0;
     parcourt(m_possessions, "Titre2", "Realisateur2",
@@ -103,9 +100,9 @@ void PassageAncienne::reprendFilms() {
 
 // Of a film that was there, and is not possessed or has no poster, the holding or the poster is taken too.
 void PassageAncienne::reprendFilm() {
-    const std::string titre = m_films.texte("Titre"), realisateur = m_films.texte("Realisateur");
-    const std::string cle = cleDuFilm(titre, realisateur);
-    m_outils.ajout.lblProgression.Caption = titre;
+    const db::CleFilm film = filmCourant();
+    const std::string cle = cleDuFilm(film);
+    m_c.ajout.lblProgression.Caption = film.titre;
     if (m_connus.insert(cle).second) {
         ajouteFilm();
         static_cast<void>(reprendPossession(cle));
@@ -113,8 +110,12 @@ void PassageAncienne::reprendFilm() {
     } else {
         ++m_rapport.dejaPresents;
         if (reprendPossession(cle)) ++m_rapport.possessions;
-        completeAffiche(titre, realisateur);
+        completeAffiche(film);
     }
+}
+
+db::CleFilm PassageAncienne::filmCourant() const {
+    return {m_films.texte("Titre"), m_films.texte("Realisateur")};
 }
 
 void PassageAncienne::ajouteFilm() {
@@ -122,7 +123,7 @@ void PassageAncienne::ajouteFilm() {
     const dao::Valeur ancienne = m_films.valeur(kAffiche);
     const std::string texte = ancienne.texte();
     const auto reprise = reprendAffiche(texte, "");
-    dao::Recordset& films = m_outils.base.films;
+    dao::Recordset& films = m_c.base.films;
     films.AddNew();
     copieChamps(m_films, films, kChampsFilms);
     films.assigne(kAffiche, reprise ? reprise->valeur : ancienne);
@@ -132,19 +133,19 @@ void PassageAncienne::ajouteFilm() {
 }
 
 // A film without its poster names none, or names the one of the previous installation, which is not here.
-void PassageAncienne::completeAffiche(const std::string& titre, const std::string& realisateur) {
-    dao::Recordset film = m_outils.base.base.OpenRecordset(db::enonceFilm(titre, realisateur));
-    if (film.Eof()) return;
-    const std::string presente = film.texte(kAffiche);
-    if (!presente.empty() && (!presente.starts_with(kFichier) || m_affiches.aSonFichier(presente))) return;
+void PassageAncienne::completeAffiche(const db::CleFilm& film) {
+    dao::Recordset fiche = m_c.base.base.OpenRecordset(db::enonceFilm(film));
+    if (fiche.Eof()) return;
+    const std::string presente = fiche.texte(kAffiche);
+    if (!presente.empty() && (!presente.starts_with(db::kDansUnFichier) || m_affiches.aSonFichier(presente))) return;
     const std::string ancienne = m_films.texte(kAffiche);
     if (ancienne.empty() || (!presente.empty() && presente != ancienne)) return;
     m_lot.commence();
     const auto reprise = reprendAffiche(ancienne, presente);
     if (!reprise) return;
-    film.Edit();
-    film.assigne(kAffiche, reprise->valeur);
-    film.Update();
+    fiche.Edit();
+    fiche.assigne(kAffiche, reprise->valeur);
+    fiche.Update();
     ++m_rapport.affiches;
     m_lot.compteFiche(reprise->octets);
 }
@@ -159,7 +160,7 @@ bool PassageAncienne::reprendPossession(const std::string& cle) {
     m_lot.commence();
     m_possessions.MoveFirst();
     m_possessions.Move(rang);
-    dao::Recordset& personnel = m_outils.base.personnel;
+    dao::Recordset& personnel = m_c.base.personnel;
     personnel.AddNew();
     copieChamps(m_possessions, personnel, kChampsPersonnel);
     personnel.Update();
@@ -187,7 +188,7 @@ std::optional<AfficheImportee> PassageAncienne::reprendAffiche(const std::string
         if (m_affiches.dansLaBase()) return AfficheImportee{dao::Valeur::octets(ancienne), ancienne.size()};
         return place(contenu, true, actuelle);
     }
-    if (!ancienne.starts_with(kFichier)) return std::nullopt;
+    if (!ancienne.starts_with(db::kDansUnFichier)) return std::nullopt;
     const auto octets = litImage(ancienne);
     if (!octets) return std::nullopt;
     return place(*octets, static_cast<std::int64_t>(octets->size()) <= db::kTailleMaxAffiche, actuelle);
@@ -203,16 +204,15 @@ std::optional<std::string> PassageAncienne::litImage(const std::string& ancienne
 
 std::optional<AfficheImportee> PassageAncienne::place(std::string_view octets, bool tientDansLaBase,
                                                       std::string_view actuelle) {
-    auto placee =
-        m_affiches.place(m_films.texte("Titre"), m_films.texte("Realisateur"), octets, tientDansLaBase, actuelle);
+    auto placee = m_affiches.place(filmCourant(), octets, tientDansLaBase, actuelle);
     if (!placee) ++m_rapport.tropGrandes;
     return placee;
 }
 
 bool PassageAncienne::poursuit() {
-    ++m_outils.ajout.ProgressBar1.Value;
+    ++m_c.ajout.ProgressBar1.Value;
     if (m_lot.estPlein()) confirmeLot();
-    m_rapport.interrompu = !m_outils.ecran.respire();
+    m_rapport.interrompu = !m_c.ecran.respire();
     return !m_rapport.interrompu;
 }
 

@@ -1,17 +1,10 @@
 #pragma once
 
 #include "acquire/AffichesImportees.h"
+#include "acquire/Contexte.h"
 #include "acquire/LotImport.h"
 #include "acquire/RapportAncienne.h"
-#include "db/Base.h"
-#include "db/Chemins.h"
-#include "db/EtatStockage.h"
-#include "edit/EtatAjout.h"
-#include "platform/dialogues/Dialogues.h"
-#include "platform/ecran/Ecran.h"
-#include "platform/systeme/Montre.h"
 
-#include <chrono>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,17 +12,6 @@
 #include <unordered_set>
 
 namespace acquire {
-
-// What the import of a previous installation works on. All of it outlives the import.
-struct OutilsAncienne {
-    db::Base& base;
-    const db::Chemins& chemins;
-    edit::EtatAjout& ajout;
-    db::EtatStockage& stockage;
-    dialogues::Dialogues& dialogues;
-    ecran::Ecran& ecran;
-    systeme::Montre montre = std::chrono::steady_clock::now;
-};
 
 // One passage over the base of a previous installation: adds the films and holdings that the open base does not have,
 // every field as it is, each film with its holding and with its poster where new posters go. A poster that is not found
@@ -46,8 +28,8 @@ class PassageAncienne {
         int style;
     };
 
-    // Throws dao::ErreurDao where the previous base lacks a table or a field.
-    PassageAncienne(const OutilsAncienne& outils, dao::Database& ancienne, std::string dossierImages);
+    // `c` and the base outlive it. Throws dao::ErreurDao where the previous base lacks a table or a field.
+    PassageAncienne(const Contexte& c, dao::Database& ancienne, std::string dossierImages);
 
     void execute();
     [[nodiscard]] const RapportAncienne& rapport() const { return m_acquis; }
@@ -62,7 +44,8 @@ class PassageAncienne {
     void reprendFilm();
     void ajouteFilm();
     [[nodiscard]] bool reprendPossession(const std::string& cle);
-    void completeAffiche(const std::string& titre, const std::string& realisateur);
+    void completeAffiche(const db::CleFilm& film);
+    [[nodiscard]] db::CleFilm filmCourant() const;  // of m_films
     // The current film's poster in its new place; nothing when it stays where it was.
     [[nodiscard]] std::optional<AfficheImportee> reprendAffiche(const std::string& ancienne, std::string_view actuelle);
     [[nodiscard]] std::optional<std::string> litImage(const std::string& ancienne);
@@ -72,7 +55,7 @@ class PassageAncienne {
     [[nodiscard]] bool poursuit();
     void confirmeLot();
 
-    OutilsAncienne m_outils;
+    const Contexte& m_c;
     dao::Recordset m_films;        // of the previous installation
     dao::Recordset m_possessions;  // likewise
     std::string m_dossierImages;   // likewise

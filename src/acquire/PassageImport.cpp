@@ -4,6 +4,8 @@
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
 #include "edit/LignePossession.h"
+#include "edit/TitreDejaExistant.h"
+#include "edit/TitreDejaExistant_TestRessemblance.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/Texte.h"
 
@@ -18,12 +20,8 @@ constexpr std::chrono::milliseconds kEntreDeuxSouffles{50};
 
 }  // namespace
 
-PassageImport::PassageImport(const OutilsImport& outils, const ChoixImport& choix, const std::string& dossier)
-    : m_outils(outils),
-      m_choix(choix),
-      m_dossier(dossier),
-      m_lot(outils.base.base, outils.montre),
-      m_affiches(outils.base.base, outils.stockage, outils.chemins) {}
+PassageImport::PassageImport(const Contexte& c, const ChoixImport& choix, const std::string& dossier)
+    : m_c(c), m_choix(choix), m_dossier(dossier), m_lot(c), m_affiches(c), m_enregistrement(c) {}
 
 RapportImport PassageImport::execute() {
     std::string echec;
@@ -35,13 +33,13 @@ RapportImport PassageImport::execute() {
         style = dialogues::kCritique;
         gardeLeLotEntier();
     } catch (const dao::ErreurDao& erreur) {
-        echec = "Erreur " + std::to_string(erreur.numero) + " : " + erreur.description;
+        echec = erreur.texte();
     } catch (const db::RequeteEchouee&) {  // already shown
     }
     m_lot.abandonne();
     m_affiches.apresAnnulation();
     noteCeQuiReste();
-    if (!echec.empty()) m_outils.dialogues.MsgBox(echec, style);
+    if (!echec.empty()) m_c.dialogues.MsgBox(echec, style);
     return m_acquis;
 }
 
@@ -61,14 +59,14 @@ void PassageImport::noteCeQuiReste() {
 }
 
 void PassageImport::importeTout() {
-    const ecran::Travail travail(m_outils.ecran);
-    const ProgressionVisible progression(m_outils.ajout, static_cast<long>(m_dossier.fiches().size()));
-    m_outils.ajout.cmdAjoutFilm.Caption = "Ajouter";
-    if (m_choix.testeRessemblance) m_lettres = edit::LettresDuCatalogue::de(m_outils.base, m_outils.dialogues);
+    const ecran::Travail travail(m_c.ecran);
+    const ProgressionVisible progression(m_c.ajout, static_cast<long>(m_dossier.fiches().size()));
+    m_c.ajout.cmdAjoutFilm.Caption = "Ajouter";
+    if (m_choix.testeRessemblance) m_lettres = edit::LettresDuCatalogue::de(m_c);
     for (const std::string& nom : m_dossier.fiches()) {
         importe(nom);
         ++m_lues;
-        ++m_outils.ajout.ProgressBar1.Value;
+        ++m_c.ajout.ProgressBar1.Value;
         const bool plein = m_lot.estPlein();
         if (plein) confirmeLot();
         if ((plein || doitRespirer()) && !respire()) break;
@@ -82,9 +80,9 @@ void PassageImport::importe(const std::string& nom) {
         m_rapport.fichesIllisibles.push_back(m_dossier.chemin(nom));
         return;
     }
-    m_outils.ajout.lblProgression.Caption = fiche->premiereLigne;
+    m_c.ajout.lblProgression.Caption = fiche->premiereLigne;
     m_lot.commence();  // the checks of one lot share what they read
-    if (m_outils.doublons.TitreDejaExistant(fiche->titre, fiche->realisateur)) {
+    if (edit::TitreDejaExistant(m_c, *fiche)) {
         completeAffiche(*fiche, nom);
         m_rapport.titresRefuses.push_back(fiche->titre);
     } else if (estTropProche(*fiche)) {
@@ -95,14 +93,13 @@ void PassageImport::importe(const std::string& nom) {
 }
 
 bool PassageImport::estTropProche(const FicheFilm& fiche) {
-    return m_lettres && m_lettres->aUnProche(fiche.titre, fiche.realisateur) &&
-           m_outils.ressemblances.TitreDejaExistant_TestRessemblance(fiche.titre, fiche.realisateur,
-                                                                     [this] { confirmeLot(); });
+    return m_lettres && m_lettres->aUnProche(fiche) &&
+           edit::TitreDejaExistant_TestRessemblance(m_c, fiche, [this] { confirmeLot(); });
 }
 
 void PassageImport::completeAffiche(const FicheFilm& fiche, const std::string& nom) {
     if (!m_dossier.trouveAffiche(nom)) return;
-    dao::Recordset film = m_outils.base.base.OpenRecordset(db::enonceFilm(fiche.titre, fiche.realisateur));
+    dao::Recordset film = m_c.base.base.OpenRecordset(db::enonceFilm(fiche));
     if (film.Eof() || !film.texte("Affiche").empty()) return;
     const Examen examen = placeAffiche(fiche, nom);
     if (!examen.affiche) return;
@@ -120,16 +117,15 @@ void PassageImport::enregistre(const FicheFilm& fiche, const std::string& nom) {
     remplitSaisie(fiche);
     const AfficheImportee affiche = examen.affiche.value_or(AfficheImportee());
     edit::FilmPret film{.affiche = affiche.valeur, .devenir = edit::DevenirAffiche::Aucune, .ancien = {}};
-    m_outils.enregistrement.ecrit(film, fiche.resume, m_choix.date);
-    if (m_choix.possedes)
-        edit::ajoutePossession(m_outils.base.personnel, fiche.titre, fiche.realisateur, m_choix.support);
-    if (m_lettres) m_lettres->ajoute(fiche.titre, fiche.realisateur);
+    m_enregistrement.ecrit(film, fiche.resume, m_choix.date);
+    if (m_choix.possedes) edit::ajoutePossession(m_c.base.personnel, fiche, m_choix.support);
+    if (m_lettres) m_lettres->ajoute(fiche);
     ++m_rapport.ajoutes;
     m_lot.compteFiche(fiche.resume.size() + affiche.octets);
 }
 
 void PassageImport::remplitSaisie(const FicheFilm& fiche) {
-    edit::EtatAjout& saisie = m_outils.ajout;
+    edit::EtatAjout& saisie = m_c.ajout;
     saisie.Text3[0].Text = fiche.titre;
     saisie.Text3[1].Text = fiche.realisateur;
     saisie.Text3[2].Text = fiche.annee;
@@ -151,7 +147,7 @@ PassageImport::Examen PassageImport::placeAffiche(const FicheFilm& fiche, const 
     if (!octets) return {std::nullopt, *chemin + " (illisible) "};
     const bool tientDansLaBase = static_cast<std::int64_t>(octets->size()) < db::kTailleMaxAffiche;
     if (m_affiches.dansLaBase() && !tientDansLaBase) return {};
-    const auto affiche = m_affiches.place(fiche.titre, fiche.realisateur, *octets, tientDansLaBase);
+    const auto affiche = m_affiches.place(fiche, *octets, tientDansLaBase);
     return {affiche, affiche ? "" : tropGrande};
 }
 
@@ -164,12 +160,12 @@ void PassageImport::confirmeLot() {
 }
 
 bool PassageImport::doitRespirer() const {
-    return m_outils.montre() - m_dernierSouffle >= kEntreDeuxSouffles;
+    return m_c.montre() - m_dernierSouffle >= kEntreDeuxSouffles;
 }
 
 bool PassageImport::respire() {
-    const bool continuer = m_outils.ecran.respire();
-    m_dernierSouffle = m_outils.montre();
+    const bool continuer = m_c.ecran.respire();
+    m_dernierSouffle = m_c.montre();
     return continuer;
 }
 

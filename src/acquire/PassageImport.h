@@ -1,20 +1,13 @@
 #pragma once
 
 #include "acquire/AffichesImportees.h"
+#include "acquire/Contexte.h"
 #include "acquire/DossierFiches.h"
 #include "acquire/FicheFilm.h"
 #include "acquire/LotImport.h"
 #include "acquire/RapportImport.h"
-#include "db/Base.h"
-#include "db/EtatStockage.h"
 #include "edit/EnregistreNouveauFilm.h"
-#include "edit/EtatAjout.h"
 #include "edit/LettresDuCatalogue.h"
-#include "edit/TitreDejaExistant.h"
-#include "edit/TitreDejaExistant_TestRessemblance.h"
-#include "platform/dialogues/Dialogues.h"
-#include "platform/ecran/Ecran.h"
-#include "platform/systeme/Montre.h"
 
 #include <chrono>
 #include <cstddef>
@@ -22,20 +15,6 @@
 #include <string>
 
 namespace acquire {
-
-// What an import stores films with. All of it outlives the import.
-struct OutilsImport {
-    db::Base& base;
-    const db::Chemins& chemins;
-    edit::EtatAjout& ajout;
-    db::EtatStockage& stockage;
-    edit::EnregistrementFilm& enregistrement;
-    edit::Doublons& doublons;
-    edit::Ressemblances& ressemblances;
-    dialogues::Dialogues& dialogues;
-    ecran::Ecran& ecran;
-    systeme::Montre montre = std::chrono::steady_clock::now;
-};
 
 // What the user answered before the import.
 struct ChoixImport {
@@ -51,7 +30,8 @@ struct ChoixImport {
 // in the report. A film that is there already without a poster is given the one beside its sheet.
 class PassageImport {
   public:
-    PassageImport(const OutilsImport& outils, const ChoixImport& choix, const std::string& dossier);
+    // `c` outlives it.
+    PassageImport(const Contexte& c, const ChoixImport& choix, const std::string& dossier);
 
     // Runs it to its end, to the user's stop, or to the base's failure, which it has shown.
     [[nodiscard]] RapportImport execute();
@@ -75,11 +55,12 @@ class PassageImport {
     [[nodiscard]] bool doitRespirer() const;
     [[nodiscard]] bool respire();  // false when the user stops
 
-    OutilsImport m_outils;
+    const Contexte& m_c;
     ChoixImport m_choix;
     DossierFiches m_dossier;
     LotImport m_lot;
     AffichesImportees m_affiches;
+    edit::EnregistrementFilm m_enregistrement;
     std::optional<edit::LettresDuCatalogue> m_lettres;  // where resemblances are tested
     RapportImport m_rapport;
     RapportImport m_acquis;  // the report as it was when the last lot was stored

@@ -1,53 +1,56 @@
 #include "acquire/cmdAjoutAuto_Click.h"
 
 #include "acquire/CompteFilmsRepertoire.h"
+#include "acquire/PassageImport.h"
 #include "acquire/cmdParcourir2_Click.h"
+#include "browse/AfficheNbTitres.h"
+#include "browse/CreeEtAfficheRecherche.h"
+#include "browse/CreeRequeteAffichage.h"
+#include "browse/RaffraichitBoitesDeroulantes.h"
 
 namespace acquire {
 
-void ImportFiches::cmdAjoutAuto_Click() {
-    importe([](RapportImport&) {});
-}
+namespace {
 
-void ImportFiches::importe(const Rangement& range) {
-    const std::string dossier = dossierDesFiches(m_outils.ajout, m_outils.chemins);
-    const long nombre = CompteFilmsRepertoire(dossier);
-    montreNombreDeFiches(m_outils.ajout, m_outils.chemins);
-    if (nombre == 0) {
-        m_outils.dialogues.MsgBox("Aucun fichier .film trouvé !", dialogues::kExclamation);
-        return;
-    }
-    const ChoixImport choix = demandeChoix(nombre);
-    RapportImport rapport = PassageImport(m_outils, choix, dossier).execute();
-    range(rapport);
-    montreNombreDeFiches(m_outils.ajout, m_outils.chemins);
-    m_outils.dialogues.montre(rapport.texte());
-    montreAjoutsDuJour(choix.date);
-}
-
-ChoixImport ImportFiches::demandeChoix(long nombre) {
-    dialogues::Dialogues& boites = m_outils.dialogues;
+ChoixImport demandeChoix(const Contexte& c, long nombre) {
     ChoixImport choix;
-    choix.possedes = boites.MsgBox(questionPossession(nombre), dialogues::kQuestion) == dialogues::kOui;
+    choix.possedes = c.dialogues.MsgBox(questionPossession(nombre), dialogues::kQuestion) == dialogues::kOui;
     if (choix.possedes)
-        choix.support = boites.InputBox(
+        choix.support = c.dialogues.InputBox(
             "Vous pouvez indiquer le nom du support qui sera attribué à tous les films ajoutés (DVD, K7...)",
             "Nom du support");
     choix.testeRessemblance =
-        boites.MsgBox(
+        c.dialogues.MsgBox(
             "Souhaitez-vous que le logiciel vérifie si les nouveaux titres ajoutés ressemblent à d'autres "
             "titres déjà présents en base ?",
             dialogues::kQuestion) == dialogues::kOui;
-    choix.date = m_horloge.dateDuJour();
+    choix.date = c.horloge.dateDuJour();
     return choix;
 }
 
-void ImportFiches::montreAjoutsDuJour(const std::string& date) {
-    m_suites.liste.critereRecherche = "DateAjout = \"" + date + "\"";
-    m_suites.liste.zoneRecherche = browse::kZoneTous;
-    m_suites.creeEtAfficheRecherche();
-    m_suites.afficheNbTitres();
-    m_suites.boites.RaffraichitBoitesDeroulantes();  // the batch may have brought a new support
+}  // namespace
+
+void cmdAjoutAuto_Click(const Contexte& c) {
+    if (!remplaceCheminWindows(c)) return;
+    browse::puisVersLaListe(c, [&c] { importeFiches(c, [](RapportImport&) {}); });
+}
+
+void importeFiches(const Contexte& c, const std::function<void(RapportImport&)>& range) {
+    const std::string dossier = dossierDesFiches(c);
+    const long nombre = CompteFilmsRepertoire(dossier);
+    montreNombreDeFiches(c);
+    if (nombre == 0) {
+        c.dialogues.MsgBox("Aucun fichier .film trouvé !", dialogues::kExclamation);
+        return;
+    }
+    const ChoixImport choix = demandeChoix(c, nombre);
+    RapportImport rapport = PassageImport(c, choix, dossier).execute();
+    range(rapport);
+    montreNombreDeFiches(c);
+    c.dialogues.montre(rapport.texte());
+    browse::montreAjoutsDuJour(c, choix.date);
+    browse::AfficheNbTitres(c);
+    browse::RaffraichitBoitesDeroulantes(c);  // the batch may have brought a new support
 }
 
 std::string questionPossession(long nombre) {

@@ -6,34 +6,33 @@
 
 namespace acquire {
 
-void ChoixDossierFiches::cmdParcourir2_Click() {
-    const std::string dossier =
-        m_dialogues.choisitDossier("Dossier des fiches de films", dossierDesFiches(m_ajout, m_chemins));
+void cmdParcourir2_Click(const Contexte& c) {
+    const std::string dossier = c.dialogues.choisitDossier("Dossier des fiches de films", dossierDesFiches(c));
     if (dossier.empty()) return;
-    m_ajout.txtCheminAjoutAuto.Text = dossier;
-    montreNombreDeFiches(m_ajout, m_chemins);
+    c.ajout.txtCheminAjoutAuto.Text = dossier;
+    montreNombreDeFiches(c);
 }
 
-bool ChoixDossierFiches::remplaceCheminWindows() {
-    const std::string& dossier = m_ajout.txtCheminAjoutAuto.Text;
-    if (fichiers::estCheminWindows(dossier)) cmdParcourir2_Click();
+void txtCheminAjoutAuto_Change(const Contexte& c) {
+    montreNombreDeFiches(c);
+}
+
+bool remplaceCheminWindows(const Contexte& c) {
+    const std::string& dossier = c.ajout.txtCheminAjoutAuto.Text;
+    if (fichiers::estCheminWindows(dossier)) cmdParcourir2_Click(c);
     return !fichiers::estCheminWindows(dossier);
 }
 
-void ChoixDossierFiches::txtCheminAjoutAuto_Change() {
-    montreNombreDeFiches(m_ajout, m_chemins);
+std::string dossierDesFiches(const Contexte& c) {
+    return fichiers::cheminTape(c.ajout.txtCheminAjoutAuto.Text, c.chemins.dossier);
 }
 
-std::string dossierDesFiches(const edit::EtatAjout& ajout, const db::Chemins& chemins) {
-    return fichiers::cheminTape(ajout.txtCheminAjoutAuto.Text, chemins.dossier);
-}
-
-void montreNombreDeFiches(edit::EtatAjout& ajout, const db::Chemins& chemins) {
-    const std::string dossier = dossierDesFiches(ajout, chemins);
-    ajout.lblNbFilms.Caption = dossier.empty() ? ""
-                               : !fichiers::dossierExiste(dossier)
-                                   ? "Ce dossier n'existe pas."
-                                   : texteNombreDeFiches(CompteFilmsRepertoire(dossier));
+void montreNombreDeFiches(const Contexte& c) {
+    const std::string dossier = dossierDesFiches(c);
+    c.ajout.lblNbFilms.Caption = dossier.empty() ? ""
+                                 : !fichiers::dossierExiste(dossier)
+                                     ? "Ce dossier n'existe pas."
+                                     : texteNombreDeFiches(CompteFilmsRepertoire(dossier));
 }
 
 }  // namespace acquire

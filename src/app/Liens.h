@@ -1,6 +1,6 @@
 #pragma once
 
-#include "acquire/SiteMovieCovers.h"
+#include "acquire/AdresseRecherche.h"
 #include "platform/dialogues/Dialogues.h"
 #include "platform/systeme/Documents.h"
 

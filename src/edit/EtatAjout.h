@@ -3,6 +3,7 @@
 #include "platform/ecran/Controles.h"
 
 #include <array>
+#include <string>
 
 namespace edit {
 
@@ -27,6 +28,7 @@ struct EtatAjout {
     // Page of the import of a previous installation.
     ecran::Cadre frameImportBase;
     ecran::Bouton cmdImporterBase;
+    std::string dossierAncienneVersion;  // last chosen, where the next choice begins
 
     // Manual page. Text3: 0 title, 1 director, 2 year, 3 duration, 4 actors.
     std::array<ecran::ZoneTexte, 5> Text3;
