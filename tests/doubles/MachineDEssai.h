@@ -36,8 +36,12 @@ struct MachineDEssai {
     db::EtatStockage stockage;
     RafraichissementNote rafraichissement;
 
-    db::Contexte machine{dialogues, ecranMuet, images, horloge, documents, programmes,       volumes,        avis,
-                         demandes,  travaux,   base,   chemins, stockage,  rafraichissement, montre.montre()};
+    // The same machine with other boxes.
+    [[nodiscard]] db::Contexte avec(dialogues::Dialogues& boites) {
+        return {boites,   ecranMuet, images, horloge, documents, programmes,       volumes,        avis,
+                demandes, travaux,   base,   chemins, stockage,  rafraichissement, montre.montre()};
+    }
+    db::Contexte machine = avec(dialogues);
 
     MachineDEssai() = default;
     MachineDEssai(const MachineDEssai&) = delete;

@@ -1,6 +1,6 @@
 #include "db/Affiches.h"
 #include "db/Option3_Click.h"
-#include "doubles/DossierTemporaire.h"
+#include "doubles/MachineDEssai.h"
 #include "doubles/Temoin.h"
 #include "util/NomsFichiers.h"
 #include "util/Texte.h"
@@ -56,37 +56,33 @@ TEST(AffichesTest, NumberedNamesComeAndGo) {
     EXPECT_TRUE(coupe.size() <= 255 && util::estUtf8(coupe) && coupe.ends_with("é.jpg")) << coupe;
 }
 
-class DossierImagesTest : public testing::Test {
+class DossierImagesTest : public testing::Test, protected doubles::MachineDEssai {
   protected:
-    doubles::DossierTemporaire dossier;
-    db::Chemins chemins = db::Chemins::depuis(dossier.chemin("Programme"));
-    db::EtatStockage etat;
-
     void SetUp() override {
         for (const char* nom : {"Programme/Tmp", "Programme/Films/Images", "Bases/Vieilles", "Maison"})
             std::filesystem::create_directories(dossier.chemin(nom));
+        chemins = db::Chemins::depuis(dossier.chemin("Programme"));
         chemins.base = dossier.chemin("Bases/Films.mdb");
     }
     std::string utilise(const std::string& texte) {
-        etat.Text4.Text = texte;
-        return db::dossierImages(etat, chemins);
+        stockage.Text4.Text = texte;
+        return db::dossierImages(machine);
     }
 };
 
 TEST_F(DossierImagesTest, TheStorageChoiceBringsItsFolder) {
-    db::Option3_Click clic(etat, chemins);
-    ecran::choisit(etat.Option3, 1);
-    clic();
+    ecran::choisit(stockage.Option3, 1);
+    db::Option3_Click(machine);
     EXPECT_TRUE(std::filesystem::is_directory(dossier.chemin("Programme/Images")));
-    EXPECT_EQ(etat.Text4.Text, dossier.chemin("Programme/Images/"));
-    EXPECT_TRUE(etat.Text4.Enabled && etat.cmdParcourir.Enabled);
-    ecran::choisit(etat.Option3, 0);
-    etat.Text4.Text = R"(D:\Affiches)";
-    clic();
-    EXPECT_EQ(etat.Text4.Text, R"(D:\Affiches)");
-    EXPECT_FALSE(etat.Text4.Enabled || etat.cmdParcourir.Enabled);
+    EXPECT_EQ(stockage.Text4.Text, dossier.chemin("Programme/Images/"));
+    EXPECT_TRUE(stockage.Text4.Enabled && stockage.cmdParcourir.Enabled);
+    ecran::choisit(stockage.Option3, 0);
+    stockage.Text4.Text = R"(D:\Affiches)";
+    db::Option3_Click(machine);
+    EXPECT_EQ(stockage.Text4.Text, R"(D:\Affiches)");
+    EXPECT_FALSE(stockage.Text4.Enabled || stockage.cmdParcourir.Enabled);
     EXPECT_EQ(utilise(""), dossier.chemin("Programme/Images/"));
-    EXPECT_EQ(etat.Text4.Text, dossier.chemin("Programme/Images"));
+    EXPECT_EQ(stockage.Text4.Text, dossier.chemin("Programme/Images"));
 }
 
 TEST_F(DossierImagesTest, IsOneSureFolderFromTheRoot) {
@@ -103,7 +99,7 @@ TEST_F(DossierImagesTest, IsOneSureFolderFromTheRoot) {
                {R"(C:\..\..\Vieilles)", "Bases/Vieilles/"}};
     for (const auto& [texte, attendu] : cas) {
         EXPECT_EQ(utilise(texte), dossier.chemin(attendu)) << texte;
-        EXPECT_EQ(util::avecSeparateur(etat.Text4.Text), dossier.chemin(attendu)) << "kept so by the settings";
+        EXPECT_EQ(util::avecSeparateur(stockage.Text4.Text), dossier.chemin(attendu)) << "kept so by the settings";
     }
 }
 
@@ -113,15 +109,15 @@ TEST_F(DossierImagesTest, WhatLeadsNowhereOrIntoTmpIsRefused) {
          {R"(D:\Affiches)"s, R"(\\nas\x)"s, "http://a/b"s, "C:"s, "Tmp"s, chemins.dossierTmp + "/sous/dossier", "lien"s,
           "a/../Tmp/"s, std::string("a\0b", 3), std::string(5'000'000, 'x')}) {
         EXPECT_EQ(utilise(texte), "") << texte.substr(0, 80);
-        EXPECT_EQ(etat.Text4.Text, texte);
+        EXPECT_EQ(stockage.Text4.Text, texte);
     }
-    etat.Text4.Text = R"(D:\Affiches)";
-    EXPECT_EQ(db::refusDossierImages(etat, chemins),
+    stockage.Text4.Text = R"(D:\Affiches)";
+    EXPECT_EQ(db::refusDossierImages(machine),
               R"(Le dossier des images D:\Affiches n'existe pas sur cet ordinateur : choisissez-en un autre !)");
     std::filesystem::remove(chemins.dossierTmp);  // away, it is made again, and emptied all the same
     EXPECT_EQ(utilise("Tmp/x"), "");
-    etat.Text4.Text = "Tmpete";
-    EXPECT_EQ(db::refusDossierImages(etat, chemins), std::nullopt);
+    stockage.Text4.Text = "Tmpete";
+    EXPECT_EQ(db::refusDossierImages(machine), std::nullopt);
 }
 
 }  // namespace

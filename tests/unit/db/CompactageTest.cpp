@@ -1,4 +1,5 @@
 #include "Entretien.h"
+#include "db/cmdCompacter_Click.h"
 #include "db/cmdInfosBase_Click.h"
 #include "db/cmdSupprInfosPerso_Click.h"
 
@@ -12,146 +13,144 @@ namespace {
 
 class EntretienTest : public AvecEntretien {
   protected:
-    [[nodiscard]] std::string chemin() const { return installation.chemins.base; }
     // A base that compaction makes smaller, with one holding of each kind.
     void remplit() {
-        dao::Transaction ensemble(entretien->base.base);
+        dao::Transaction ensemble(base.base);
         for (int rang = 0; rang < 200; ++rang)
-            entretien->ajoute("Film " + std::to_string(rang), "R",
-                              db::valeurAfficheDansLaBase(std::string(20000, 'x')));
-        entretien->ajoute("L'\"été\"", "D\"R", dao::Valeur());
-        entretien->possede("L'\"été\"", "D\"R");
-        entretien->possede("Film 3", "R");
-        entretien->possede("Film 3", "Un autre");
-        entretien->possede("Renommé", "R");
+            ajoute("Film " + std::to_string(rang), "R", db::valeurAfficheDansLaBase(std::string(20000, 'x')));
+        ajoute("L'\"été\"", "D\"R", dao::Valeur());
+        possede("L'\"été\"", "D\"R");
+        possede("Film 3", "R");
+        possede("Film 3", "Un autre");
+        possede("Renommé", "R");
         ensemble.confirme();
-        entretien->base.base.Execute("DELETE FROM Films WHERE id BETWEEN 10 AND 150");
+        base.base.Execute("DELETE FROM Films WHERE id BETWEEN 10 AND 150");
     }
     void compacte(const std::string& texte, int style = dialogues::kInformation) {
         dialogues.attendMsgBox(texte, style);
-        entretien->cmdCompacter();
+        db::cmdCompacter_Click(c);
         dialogues.verifie();
     }
     [[nodiscard]] std::vector<std::string> possedes() {
-        return entretien->valeurs("SELECT * FROM Personnel ORDER BY Titre2", "Titre2");
+        return valeurs("SELECT * FROM Personnel ORDER BY Titre2", "Titre2");
     }
 };
 
 TEST_F(EntretienTest, CompactionShrinksTheFileAndKeepsEveryRow) {
     remplit();
-    const auto avant = std::filesystem::file_size(chemin());
-    const auto lignes = entretien->valeurs("SELECT * FROM films ORDER BY titre", "id");
-    installation.dossier.ecrit("temp.tmp", "a rest of before");
+    const auto avant = std::filesystem::file_size(chemins.base);
+    const auto lignes = valeurs("SELECT * FROM films ORDER BY titre", "id");
+    dossier.ecrit("temp.tmp", "a rest of before");
     compacte("Compactage effectué.");
-    EXPECT_LT(std::filesystem::file_size(chemin()), avant / 2);
-    EXPECT_EQ(entretien->valeurs("SELECT * FROM films ORDER BY titre", "id"), lignes);
-    EXPECT_EQ(entretien->affiches().at(1), "STO" + std::string(20000, 'x'));
+    EXPECT_LT(std::filesystem::file_size(chemins.base), avant / 2);
+    EXPECT_EQ(valeurs("SELECT * FROM films ORDER BY titre", "id"), lignes);
+    EXPECT_EQ(affiches().at(1), "STO" + std::string(20000, 'x'));
     EXPECT_EQ(possedes(), (std::vector<std::string>{"Film 3", "L'\"été\""}));
-    EXPECT_FALSE(installation.dossier.existe("temp.tmp"));
-    EXPECT_EQ(entretien->rafraichissement.appels,
-              (std::vector<std::string>{"AfficheNbTitres", "AffichageApresModification"}));
+    EXPECT_FALSE(dossier.existe("temp.tmp"));
+    EXPECT_EQ(rafraichissement.appels, (std::vector<std::string>{"AfficheNbTitres", "AffichageApresModification"}));
 }
 
 TEST_F(EntretienTest, AHoldingIsNoOrphanWhereNullStandsForTheEmptyText) {
     const std::string longue(5'000'000, 'x');
-    entretien->base.base.Execute(
+    base.base.Execute(
         "INSERT INTO Films (Titre, Realisateur) VALUES ('a', NULL), ('b', ''), (NULL, 'c'), (NULL, NULL), ('d', 'D');"
         "INSERT INTO Personnel (Titre2, Realisateur2) VALUES ('A', ''), ('B', NULL), ('', 'C'), (NULL, NULL), "
         "('d', NULL), ('e', NULL)");
-    entretien->ajoute(longue, longue, dao::Valeur());
-    entretien->possede(longue + " ", longue);
-    entretien->possede(longue, longue + "x");
+    ajoute(longue, longue, dao::Valeur());
+    possede(longue + " ", longue);
+    possede(longue, longue + "x");
     compacte("Compactage effectué.");
     EXPECT_EQ(possedes(), (std::vector<std::string>{"", "", "A", "B", longue + " "}));
-    EXPECT_EQ(entretien->base.films.RecordCount(), 6);
+    EXPECT_EQ(base.films.RecordCount(), 6);
 }
 
 TEST_F(EntretienTest, ABaseElsewhereIsCompactedWhereItLies) {
-    entretien.reset();
-    installation.dossier.ecrit("ailleurs/mes films.mdb", installation.dossier.lit("Films.mdb"));
-    std::filesystem::remove(chemin());
-    std::filesystem::create_symlink("ailleurs/mes films.mdb", chemin());
-    installation.dossier.ecrit("temp.tmp", "of no concern");
-    entretien.emplace(installation, dialogues);
+    base.ferme();
+    dossier.ecrit("ailleurs/mes films.mdb", dossier.lit("Films.mdb"));
+    std::filesystem::remove(chemins.base);
+    std::filesystem::create_symlink("ailleurs/mes films.mdb", chemins.base);
+    dossier.ecrit("temp.tmp", "of no concern");
+    db::ouvreLaBase(c);
     remplit();
     compacte("Compactage effectué.");
-    EXPECT_TRUE(std::filesystem::is_symlink(chemin()));
-    EXPECT_EQ(entretien->base.films.RecordCount(), 60);
-    EXPECT_EQ(installation.dossier.lit("temp.tmp"), "of no concern");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(installation.dossier.chemin("ailleurs")), {}), 1);
+    EXPECT_TRUE(std::filesystem::is_symlink(chemins.base));
+    EXPECT_EQ(base.films.RecordCount(), 60);
+    EXPECT_EQ(dossier.lit("temp.tmp"), "of no concern");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(chemin("ailleurs")), {}), 1);
 }
 
 TEST_F(EntretienTest, ABaseInUseElsewhereStaysOpen) {
     remplit();
-    const std::string octets = installation.dossier.lit("Films.mdb");
-    dao::Database autre = dao::DBEngine::OpenDatabase(chemin());
+    const std::string octets = dossier.lit("Films.mdb");
+    dao::Database autre = dao::DBEngine::OpenDatabase(chemins.base);
     autre.BeginTrans();
-    compacte("Le compactage n'a pas pu être effectué.\nImpossible d'utiliser « " + chemin() +
+    compacte("Le compactage n'a pas pu être effectué.\nImpossible d'utiliser « " + chemins.base +
                  " » : le fichier est déjà utilisé.",
              dialogues::kCritique);
-    EXPECT_EQ(installation.dossier.lit("Films.mdb"), octets);
+    EXPECT_EQ(dossier.lit("Films.mdb"), octets);
     EXPECT_EQ(possedes().size(), 4U);
-    EXPECT_TRUE(entretien->base.liste.estOuvert());
+    EXPECT_TRUE(base.liste.estOuvert());
     autre.Rollback();
     compacte("Compactage effectué.");
 }
 
 TEST_F(EntretienTest, AFullDiskLeavesTheBase) {
     remplit();
-    entretien.reset();
-    const std::string octets = installation.dossier.lit("Films.mdb");
+    base.ferme();
+    const std::string octets = dossier.lit("Films.mdb");
     DialoguesMuets muets;
     EXPECT_TRUE(executeAilleurs(std::nullopt, [&] {
-        Entretien ailleurs(installation, muets);
+        const db::Contexte ailleurs = avec(muets);
+        db::ouvreLaBase(ailleurs);
         const doubles::DisquePlein disque(500000);
-        ailleurs.cmdCompacter();
+        db::cmdCompacter_Click(ailleurs);
         const bool dit = muets.textes.size() == 1 &&
                          muets.textes[0].starts_with("Le compactage n'a pas pu être effectué.\nErreur de disque");
-        _exit(dit && ailleurs.possedeEncore() ? 0 : 1);
+        _exit(dit && base.personnel.RecordCount() > 0 ? 0 : 1);
     }));
-    EXPECT_EQ(installation.dossier.lit("Films.mdb"), octets);
-    EXPECT_FALSE(installation.dossier.existe("temp.tmp"));
+    EXPECT_EQ(dossier.lit("Films.mdb"), octets);
+    EXPECT_FALSE(dossier.existe("temp.tmp"));
 }
 
 TEST_F(EntretienTest, KilledAtAnyMomentTheOldOrTheNewBaseOpens) {
     remplit();
-    const auto attendus = entretien->affiches();
-    const std::string fragmentee = installation.dossier.lit("Films.mdb");
+    const auto attendus = affiches();
+    const std::string fragmentee = dossier.lit("Films.mdb");
     const auto compacteAilleurs = [&](std::optional<unsigned> delai) {
-        entretien.reset();
-        installation.dossier.ecrit("Films.mdb", fragmentee);
+        base.ferme();
+        dossier.ecrit("Films.mdb", fragmentee);
         const auto debut = std::chrono::steady_clock::now();
         executeAilleurs(delai, [&] {
             DialoguesMuets muets;
-            Entretien ailleurs(installation, muets);
-            ailleurs.cmdCompacter();
+            const db::Contexte ailleurs = avec(muets);
+            db::ouvreLaBase(ailleurs);
+            db::cmdCompacter_Click(ailleurs);
         });
         return std::chrono::steady_clock::now() - debut;
     };
     const auto duree = std::chrono::duration_cast<std::chrono::microseconds>(compacteAilleurs(std::nullopt)).count();
-    EXPECT_LT(std::filesystem::file_size(chemin()), fragmentee.size());
+    EXPECT_LT(std::filesystem::file_size(chemins.base), fragmentee.size());
     std::mt19937 hasard(7);
     for (int mort = 0; mort < 30 && !HasFailure(); ++mort) {
         compacteAilleurs(std::uniform_int_distribution<unsigned>(0, static_cast<unsigned>(duree))(hasard));
-        entretien.emplace(installation, dialogues);
-        EXPECT_EQ(entretien->affiches(), attendus);
+        db::ouvreLaBase(c);
+        EXPECT_EQ(affiches(), attendus);
         EXPECT_GE(possedes().size(), 2U);
     }
 }
 
 TEST_F(EntretienTest, ThePostersAreCountedByTheirPlace) {
-    entretien->ajoute("a", "", "JPGa.jpg");
-    entretien->ajoute("b", "", "JPGb.jpg");
-    entretien->ajoute("c", "", db::valeurAfficheDansLaBase(std::string("\xFF\0", 2)));
-    entretien->ajoute("d", "", dao::Valeur());
+    ajoute("a", "", "JPGa.jpg");
+    ajoute("b", "", "JPGb.jpg");
+    ajoute("c", "", db::valeurAfficheDansLaBase(std::string("\xFF\0", 2)));
+    ajoute("d", "", dao::Valeur());
     dialogues.attendMsgBox(
         "Il y a 2 titres ayant un lien sur un fichier externe\nIl y a 1 titre ayant un lien sur un fichier interne",
         dialogues::kInformation);
-    db::cmdInfosBase_Click(entretien->base, dialogues);
+    db::cmdInfosBase_Click(c);
 }
 
 TEST_F(EntretienTest, TheHoldingsGoWhenTheUserAgrees) {
-    db::cmdSupprInfosPerso_Click commande{entretien->base, entretien->rafraichissement, dialogues};
     const auto demande = [&](int reponse) {
         dialogues.attendMsgBox(
             "Vous allez supprimer tout ce qui concerne les titres personnels (réservations, prêts, nom de fichiers, "
@@ -159,15 +158,15 @@ TEST_F(EntretienTest, TheHoldingsGoWhenTheUserAgrees) {
             dialogues::kQuestion, reponse, "Suppression des titres personnels");
     };
     dialogues.attendMsgBox("Aucun titre personnel !", dialogues::kExclamation);
-    commande();
-    entretien->possede("a", "");
+    db::cmdSupprInfosPerso_Click(c);
+    possede("a", "");
     demande(dialogues::kNon);
-    commande();
+    db::cmdSupprInfosPerso_Click(c);
     EXPECT_EQ(possedes().size(), 1U);
-    EXPECT_TRUE(entretien->rafraichissement.appels.empty());
+    EXPECT_TRUE(rafraichissement.appels.empty());
     demande(dialogues::kOui);
     dialogues.attendMsgBox("Appartenance de 1 titre supprimée.", dialogues::kInformation);
-    commande();
+    db::cmdSupprInfosPerso_Click(c);
     EXPECT_TRUE(possedes().empty());
 }
 

@@ -1,7 +1,6 @@
 #include "Entretien.h"
 #include "db/OuvertureJet.h"
 #include "doubles/CollectionJet.h"
-#include "doubles/DialoguesScript.h"
 #include "platform/fichiers/Verrou.h"
 #include "util/Texte.h"
 
@@ -20,23 +19,14 @@ namespace fs = std::filesystem;
 
 constexpr int kFilms = 30;
 
-class OuvertureJetTest : public ::testing::Test {
+class OuvertureJetTest : public ::testing::Test, protected doubles::MachineDEssai {
   protected:
-    doubles::DossierTemporaire dossier;
-    doubles::DialoguesScript dialogues;
-    doubles::EcranMuet ecran;
-    ecran::Progression progression;
-    ecran::Etiquette lblTravail;
-    db::EtatStockage stockage;
-    const db::Chemins chemins = db::Chemins::depuis(dossier.chemin("Programme"));
-    db::OuvertureJet ouvertureJet{{progression, lblTravail, ecran, dialogues, stockage, chemins}};
-    DialoguesMuets consentants;  // and their opening, for what is killed or repeated
-    db::OuvertureJet ouverture{{progression, lblTravail, ecran, consentants, stockage, chemins}};
-    const std::string base = dossier.chemin("Films.mdb");
+    DialoguesMuets consentants;  // and their machine, for what is killed or repeated
+    const db::Contexte sansQuestion = avec(consentants);
+    const std::string fichier = dossier.chemin("Films.mdb");
 
     void SetUp() override {
         dossier.ecrit("Films.mdb", doubles::collectionJet(kFilms).octets());
-        progression.Visible = false;
         consentants.reponse = dialogues::kOui;
     }
     static long films(const std::string& chemin) {
@@ -57,11 +47,11 @@ class OuvertureJetTest : public ::testing::Test {
     // How many films of the base are, in every field, among those.
     [[nodiscard]] long filmsIntacts(const std::multiset<std::string>& attendus) const {
         std::vector<std::string> communs;
-        std::ranges::set_intersection(attendus, contenuDesFilms(base), std::back_inserter(communs));
+        std::ranges::set_intersection(attendus, contenuDesFilms(fichier), std::back_inserter(communs));
         return static_cast<long>(communs.size());
     }
     void demande(int reponse, const std::string& suite = "", const std::string& autreNom = "Films (Jet).mdb") {
-        dialogues.attendMsgBox("Le fichier " + base +
+        dialogues.attendMsgBox("Le fichier " + fichier +
                                    " est une base Jet (Access). Voulez-vous la convertir pour l'ouvrir ?\n"
                                    "L'original sera conservé sous le nom « " +
                                    autreNom + " »." + suite,
@@ -73,10 +63,10 @@ class OuvertureJetTest : public ::testing::Test {
         const auto avant = dossier.contenu();
         demande(dialogues::kOui);
         dialogues.attendMsgBox(
-            "La base n'a pas pu être convertie.\n" + raison + "\nLe fichier " + base + " n'a pas été modifié.", 16);
-        EXPECT_EQ(ouvertureJet(base), std::nullopt);
+            "La base n'a pas pu être convertie.\n" + raison + "\nLe fichier " + fichier + " n'a pas été modifié.", 16);
+        EXPECT_EQ(db::convertitJet(machine, fichier), std::nullopt);
         EXPECT_TRUE(dossier.contenu() == avant);
-        EXPECT_FALSE(progression.Visible);
+        EXPECT_FALSE(travaux.ProgressBar3.Visible);
         dialogues.verifie();
     }
 };
@@ -88,65 +78,65 @@ TEST_F(OuvertureJetTest, TheResultTakesTheNameAndTheOriginalStandsBeside) {
     dossier.ecrit("Films.ldb", "");
     fs::create_symlink("Films.mdb", dossier.chemin("Films (Jet 3).mdb"));
     fs::create_symlink("Films.mdb", dossier.chemin("Lien.mdb"));
-    ecran.pendantSouffle = [this] {
-        EXPECT_TRUE(progression.Visible);
-        EXPECT_EQ(lblTravail.Caption, "Conversion de la base Films.mdb...");
+    ecranMuet.pendantSouffle = [this] {
+        EXPECT_TRUE(travaux.ProgressBar3.Visible);
+        EXPECT_EQ(travaux.lblTravail.Caption, "Conversion de la base Films.mdb...");
     };
     demande(dialogues::kOui,
             "\nLe fichier « Films.ldb » indique qu'un autre programme l'utilise peut-être : fermez-le d'abord.",
             "Films (Jet 4).mdb");
-    EXPECT_TRUE(db::OuvertureJet::estJet(dossier.chemin("LIEN.MDB")));
-    EXPECT_EQ(ouvertureJet(dossier.chemin("LIEN.MDB")),
+    EXPECT_TRUE(db::estJet(dossier.chemin("LIEN.MDB")));
+    EXPECT_EQ(db::convertitJet(machine, dossier.chemin("LIEN.MDB")),
               "La base a été convertie.\n30 films, 2 possessions, 30 affiches dans la base.\n"
               "Table non reprise : Notes diverses.\nChamp non repris : Films.Format.\nL'original est conservé sous le "
               "nom « Films (Jet 4).mdb ».");
     EXPECT_EQ(dossier.lit("Films (Jet 4).mdb"), octets);
     EXPECT_EQ(dossier.lit("Films (Jet).mdb") + dossier.lit("films (JET 2).mdb"), "une lettreune autre");
     EXPECT_EQ(films(dossier.chemin("Lien.mdb")), kFilms);
-    EXPECT_FALSE(db::OuvertureJet::estJet(base));
-    EXPECT_FALSE(progression.Visible);
+    EXPECT_FALSE(db::estJet(fichier));
+    EXPECT_FALSE(travaux.ProgressBar3.Visible);
 }
 
 // Nobody may link to another's file that he cannot write: it is kept as a copy, as where the file system knows no links.
 TEST_F(OuvertureJetTest, WhereNoLinkCanBeMadeACopyIsKept) {
     const std::string octets = dossier.lit("Films.mdb");
-    fs::last_write_time(base, fs::file_time_type::clock::now() - std::chrono::hours(24 * 365 * 20));
-    const auto date = fs::last_write_time(base);
-    fs::permissions(base, fs::perms{0444});
-    ASSERT_EQ(chown(base.c_str(), geteuid() == 0 ? 65534 : geteuid(), getegid()), 0);
+    fs::last_write_time(fichier, fs::file_time_type::clock::now() - std::chrono::hours(24 * 365 * 20));
+    const auto date = fs::last_write_time(fichier);
+    fs::permissions(fichier, fs::perms{0444});
+    ASSERT_EQ(chown(fichier.c_str(), geteuid() == 0 ? 65534 : geteuid(), getegid()), 0);
     const SansPrivileges ordinaire;
     demande(dialogues::kOui);
-    EXPECT_TRUE(ouvertureJet(base));
+    EXPECT_TRUE(db::convertitJet(machine, fichier));
     EXPECT_EQ(dossier.lit("Films (Jet).mdb"), octets);
     EXPECT_EQ(fs::last_write_time(dossier.chemin("Films (Jet).mdb")), date);
-    EXPECT_EQ(films(base), kFilms);
+    EXPECT_EQ(films(fichier), kFilms);
     EXPECT_EQ(dossier.contenu().size(), 2u);
 }
 
 // The moment between the original's other name and the exchange.
 TEST_F(OuvertureJetTest, WhatAKilledConversionLeftServesOrGoes) {
     const std::string octets = dossier.lit("Films.mdb");
-    fs::create_hard_link(base, dossier.chemin("Films (Jet).mdb"));
+    fs::create_hard_link(fichier, dossier.chemin("Films (Jet).mdb"));
     for (const std::string& reste : {std::string(), std::string(8192, '\0')}) {
         dossier.ecrit("Films.mdb-conversion.tmp", reste);
         demande(dialogues::kOui);
-        EXPECT_TRUE(ouvertureJet(base));
+        EXPECT_TRUE(db::convertitJet(machine, fichier));
         EXPECT_EQ(dossier.lit("Films (Jet).mdb"), octets);
-        EXPECT_EQ(films(base), kFilms);
+        EXPECT_EQ(films(fichier), kFilms);
         EXPECT_EQ(dossier.contenu().size(), 2u);
-        fs::rename(dossier.chemin("Films (Jet).mdb"), base);
+        fs::rename(dossier.chemin("Films (Jet).mdb"), fichier);
     }
 }
 
 TEST_F(OuvertureJetTest, WhatStandsInTheWayIsNamed) {
     dossier.ecrit("Films.mdb-journal", "");
-    refuse("Le fichier « " + base + "-journal » appartient à une autre base. Déplacez-le, puis recommencez.");
-    fs::remove(base + "-journal");
+    refuse("Le fichier « " + fichier + "-journal » appartient à une autre base. Déplacez-le, puis recommencez.");
+    fs::remove(fichier + "-journal");
     dossier.ecrit("Films.mdb-conversion.tmp", "une lettre");
-    refuse("Le fichier « " + base + "-conversion.tmp » gêne la conversion. Déplacez-le, puis recommencez.");
-    fs::remove(base + "-conversion.tmp");
+    refuse("Le fichier « " + fichier + "-conversion.tmp » gêne la conversion. Déplacez-le, puis recommencez.");
+    fs::remove(fichier + "-conversion.tmp");
     {
-        const fichiers::Verrou autre(base);
+        const fichiers::Verrou autre(fichier);
         refuse("Le fichier ne peut pas être lu, ou un autre programme le convertit déjà.");
     }
     fs::permissions(dossier.chemin(), fs::perms{0555});
@@ -186,7 +176,7 @@ TEST_F(OuvertureJetTest, OfADamagedBaseWhatIsReadableIsConvertedAndTheRestTold) 
                                    "\nConvertir ce qui est lisible ?\nL'original sera conservé, et la liste des pertes "
                                    "gardée dans « Films (pertes).txt ».",
                                36, reponse);
-        return ouvertureJet(base);
+        return db::convertitJet(machine, fichier);
     };
     EXPECT_EQ(interroge(dialogues::kNon), std::nullopt);
     EXPECT_TRUE(dossier.contenu() == (std::map<std::string, std::string>{{"Films.mdb", abimee}}));
@@ -197,8 +187,8 @@ TEST_F(OuvertureJetTest, OfADamagedBaseWhatIsReadableIsConvertedAndTheRestTold) 
     EXPECT_TRUE(rapport->ends_with("\nCe qui est perdu est dit dans « Films (pertes).txt »."));
     EXPECT_EQ(dossier.lit("Films (Jet).mdb"), abimee);
     EXPECT_EQ(util::remplace(dossier.lit("Films (pertes).txt"), "\n\n", "\n"),
-              "Ce qui n'a pas pu être lu de la base " + base + " :\n" + pertes);
-    dao::Database ouverte = dao::DBEngine::OpenDatabase(base);
+              "Ce qui n'a pas pu être lu de la base " + fichier + " :\n" + pertes);
+    dao::Database ouverte = dao::DBEngine::OpenDatabase(fichier);
     dao::Recordset lus = ouverte.OpenRecordset("Films");
     EXPECT_EQ(lus.valeur("Affiche"), dao::Valeur::octets("STO" + doubles::imageJet(0)));
     lus.MoveNext();
@@ -219,8 +209,8 @@ TEST_F(OuvertureJetTest, WhateverIsDamagedIsRefusedOrTold) {
     std::vector<std::size_t> longues;
     for (std::size_t page = 0; page < entiere.size(); page += 4096)
         if (entiere.compare(page + 4, 4, "LVAL") == 0) longues.push_back(page);
-    ASSERT_TRUE(ouverture(base));
-    const auto attendus = contenuDesFilms(base);
+    ASSERT_TRUE(db::convertitJet(sansQuestion, fichier));
+    const auto attendus = contenuDesFilms(fichier);
     fs::remove(dossier.chemin("Films (Jet).mdb"));
     int refusees = 0, entieres = 0, partielles = 0;
     for (int essai = 0; essai < 40; ++essai) {
@@ -232,9 +222,9 @@ TEST_F(OuvertureJetTest, WhateverIsDamagedIsRefusedOrTold) {
             abimee[longues[hasard() % longues.size()] + hasard() % (essai % 4 == 2 ? 40 : 4096)] =
                 static_cast<char>(hasard());
         dossier.ecrit("Films.mdb", abimee);
-        if (!db::OuvertureJet::estJet(base)) continue;
+        if (!db::estJet(fichier)) continue;
         consentants.textes.clear();
-        if (!ouverture(base)) {
+        if (!db::convertitJet(sansQuestion, fichier)) {
             ++refusees;
             EXPECT_TRUE(dossier.contenu() == (std::map<std::string, std::string>{{"Films.mdb", abimee}}));
             EXPECT_TRUE(consentants.textes.back().starts_with("La base n'a pas pu être convertie.\n"));
@@ -249,7 +239,7 @@ TEST_F(OuvertureJetTest, WhateverIsDamagedIsRefusedOrTold) {
         if (essai % 4 > 1) {
             EXPECT_GE(filmsIntacts(attendus), kFilms - 8);
         }
-        EXPECT_TRUE(films(base) == kFilms || pertes.find("Films") != std::string::npos) << pertes;
+        EXPECT_TRUE(films(fichier) == kFilms || pertes.find("Films") != std::string::npos) << pertes;
         fs::remove(dossier.chemin("Films (Jet).mdb"));
         fs::remove(dossier.chemin("Films (pertes).txt"));
     }
@@ -263,18 +253,18 @@ TEST_F(OuvertureJetTest, APasswordIsAskedForUntilItIsTheRightOne) {
     protegee.motDePasse = "Été";
     protegee.jourDeCreation = 37987.5;
     dossier.ecrit("Films.mdb", protegee.octets());
-    const std::string invite = "La base " + base + " est protégée par un mot de passe. Quel est-il ?";
+    const std::string invite = "La base " + fichier + " est protégée par un mot de passe. Quel est-il ?";
     demande(dialogues::kOui);
     dialogues.attendInputBox(invite, "été");
     dialogues.attendMsgBox("Ce mot de passe n'est pas celui de la base.", 48);
     dialogues.attendInputBox(invite, "");  // cancelled
-    dialogues.attendMsgBox("La conversion a été arrêtée. Le fichier " + base + " n'a pas été modifié.", 64);
-    EXPECT_EQ(ouvertureJet(base), std::nullopt);
+    dialogues.attendMsgBox("La conversion a été arrêtée. Le fichier " + fichier + " n'a pas été modifié.", 64);
+    EXPECT_EQ(db::convertitJet(machine, fichier), std::nullopt);
     EXPECT_EQ(dossier.lit("Films.mdb"), protegee.octets());
     demande(dialogues::kOui);
     dialogues.attendInputBox(invite, "Été");
-    EXPECT_TRUE(ouvertureJet(base));
-    EXPECT_EQ(films(base), kFilms);
+    EXPECT_TRUE(db::convertitJet(machine, fichier));
+    EXPECT_EQ(films(fichier), kFilms);
 }
 
 // The images folder comes first, then "Images" beside the base, then the base's own folder.
@@ -287,12 +277,14 @@ TEST_F(OuvertureJetTest, PostersInFilesThatStandNowhereAreCounted) {
     dossier.ecrit("Images/b.jpg", "x");
     dossier.ecrit("c.jpg", "x");
     fs::create_directory(dossier.chemin("Images/d"));
-    fs::create_symlink(base, dossier.chemin("Images/perdue.jpg"));
+    fs::create_symlink(fichier, dossier.chemin("Images/perdue.jpg"));
     stockage.Text4.Text = dossier.chemin("Choisi");
     demande(dialogues::kOui);
-    EXPECT_TRUE(ouvertureJet(base).value_or("").starts_with(
-        "La base a été convertie.\n7 films, 0 possession, 0 affiche dans la base.\n3 affiches n'ont pas été trouvées : "
-        "leurs fichiers ne sont ni dans le dossier des images, ni à côté de la base.\n"));
+    EXPECT_TRUE(db::convertitJet(machine, fichier)
+                    .value_or("")
+                    .starts_with("La base a été convertie.\n7 films, 0 possession, 0 affiche dans la base.\n3 affiches "
+                                 "n'ont pas été trouvées : "
+                                 "leurs fichiers ne sont ni dans le dossier des images, ni à côté de la base.\n"));
 }
 
 TEST_F(OuvertureJetTest, AFullDiskLeavesAllAsItWas) {
@@ -300,7 +292,9 @@ TEST_F(OuvertureJetTest, AFullDiskLeavesAllAsItWas) {
     for (const rlim_t place : {0, 4096, 60000, 250000}) {
         EXPECT_TRUE(executeAilleurs(std::nullopt, [&] {
             const doubles::DisquePlein disque(place);
-            if (ouverture(base) || !consentants.textes.back().ends_with(" n'a pas été modifié.")) _exit(1);
+            if (db::convertitJet(sansQuestion, fichier) ||
+                !consentants.textes.back().ends_with(" n'a pas été modifié."))
+                _exit(1);
         })) << place;
         EXPECT_TRUE(dossier.contenu() == avant) << place;
     }
@@ -312,15 +306,15 @@ TEST_F(OuvertureJetTest, KilledAnywhereNothingIsLost) {
     const std::string octets = dossier.lit("Films.mdb");
     std::minstd_rand hasard(3);
     for (int essai = 0; essai < 12; ++essai) {
-        executeAilleurs(hasard() % 250000, [&] { (void)ouverture(base); });
-        if (db::OuvertureJet::estJet(base)) {
+        executeAilleurs(hasard() % 250000, [&] { (void)db::convertitJet(sansQuestion, fichier); });
+        if (db::estJet(fichier)) {
             EXPECT_EQ(dossier.lit("Films.mdb"), octets);
-            ASSERT_TRUE(ouverture(base)) << consentants.textes.back();
+            ASSERT_TRUE(db::convertitJet(sansQuestion, fichier)) << consentants.textes.back();
         }
-        EXPECT_EQ(films(base), kFilms);
+        EXPECT_EQ(films(fichier), kFilms);
         EXPECT_EQ(dossier.lit("Films (Jet).mdb"), octets);
         EXPECT_EQ(dossier.contenu().size(), 2u);
-        fs::rename(dossier.chemin("Films (Jet).mdb"), base);
+        fs::rename(dossier.chemin("Films (Jet).mdb"), fichier);
     }
 }
 

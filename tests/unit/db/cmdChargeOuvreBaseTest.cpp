@@ -1,9 +1,6 @@
 #include "Installation.h"
-#include "RafraichissementNote.h"
 #include "db/cmdChargeOuvreBase_Click.h"
 #include "doubles/CollectionJet.h"
-#include "doubles/DialoguesScript.h"
-#include "doubles/EcranMuet.h"
 
 #include <filesystem>
 
@@ -11,49 +8,33 @@
 
 namespace {
 
-class cmdChargeOuvreBaseTest : public ::testing::Test {
+class cmdChargeOuvreBaseTest : public ::testing::Test, protected Installation {
   protected:
-    Installation installation;
-    db::Base base;
-    doubles::DialoguesScript dialogues;
-    RafraichissementNote rafraichissement;
-    db::OuvertureBase ouvertureBase{base, installation.chemins, dialogues};
-    doubles::EcranMuet ecran;
-    ecran::Progression progression;
-    ecran::Etiquette lblTravail;
-    db::EtatStockage stockage;
-    db::OuvertureJet ouvertureJet{{progression, lblTravail, ecran, dialogues, stockage, installation.chemins}};
-    db::cmdChargeOuvreBase_Click commande{base,         installation.chemins, ouvertureBase,
-                                          ouvertureJet, rafraichissement,     dialogues};
-
     void SetUp() override {
-        installation.creeBase("Films.mdb");
-        installation.ajouteFilm("Films.mdb", "Le film ouvert");
-        ouvertureBase();
+        creeBase("Films.mdb");
+        ajouteFilm("Films.mdb", "Le film ouvert");
+        db::ouvreLaBase(c);
     }
-    std::string chemin(std::string_view nom) const { return installation.dossier.chemin(nom); }
-
     void choisit(const std::string& reponse) {
-        dialogues.attendFichier({"Ouvrir/Créer une base de données", "Fichiers de base de données|*.mdb",
-                                 installation.dossier.chemin(), true},
-                                reponse);
+        dialogues.attendFichier(
+            {"Ouvrir/Créer une base de données", "Fichiers de base de données|*.mdb", dossier.chemin(), true}, reponse);
     }
     void demandeCreation(const std::string& nom, int reponse) {
         dialogues.attendMsgBox("Le fichier " + nom + " n'existe pas. Voulez-vous le créer ?", 36, reponse);
     }
     void rienNAChange() {
-        commande();
+        db::cmdChargeOuvreBase_Click(c);
         EXPECT_TRUE(rafraichissement.appels.empty());
-        EXPECT_EQ(installation.chemins.base, chemin("Films.mdb"));
-        EXPECT_EQ(Installation::premierTitre(base), "Le film ouvert");
+        EXPECT_EQ(chemins.base, chemin("Films.mdb"));
+        EXPECT_EQ(premierTitre(), "Le film ouvert");
         dialogues.verifie();
     }
     void aChangePour(const std::string& nom) {
-        commande();
+        db::cmdChargeOuvreBase_Click(c);
         const std::vector<std::string> attendus{"AfficheAccueil", "reconstruitListe", "RaffraichitBoitesDeroulantes",
                                                 "AfficheNbTitres"};
         EXPECT_EQ(rafraichissement.appels, attendus);
-        EXPECT_EQ(installation.chemins.base, nom);
+        EXPECT_EQ(chemins.base, nom);
     }
 };
 
@@ -70,15 +51,15 @@ TEST_F(cmdChargeOuvreBaseTest, ItsFourRefusalsChangeNothing) {
     demandeCreation(chemin("Autre.mdb"), dialogues::kOui);
     dialogues.attendMsgBox("Le fichier modèle n'a pas été trouvé (" + chemin("Modele.dat") + ").", 48);
     rienNAChange();
-    EXPECT_FALSE(installation.dossier.existe("Autre.mdb"));
+    EXPECT_FALSE(dossier.existe("Autre.mdb"));
 }
 
 TEST_F(cmdChargeOuvreBaseTest, AFileThatIsNoBaseLeavesTheOpenOne) {
-    installation.dossier.ecrit("lettre.mdb", "Ce fichier est une lettre.");
+    dossier.ecrit("lettre.mdb", "Ce fichier est une lettre.");
     choisit(chemin("lettre.mdb"));
     dialogues.attendMsgBox("Erreur (22) : Ouverture de la base (Lecture seule/Fichier manquant ?)", 16);
     rienNAChange();
-    EXPECT_EQ(installation.dossier.lit("lettre.mdb"), "Ce fichier est une lettre.");
+    EXPECT_EQ(dossier.lit("lettre.mdb"), "Ce fichier est une lettre.");
 }
 
 TEST_F(cmdChargeOuvreBaseTest, ABaseThatCannotBeMadeLeavesTheOpenOne) {
@@ -88,12 +69,12 @@ TEST_F(cmdChargeOuvreBaseTest, ABaseThatCannotBeMadeLeavesTheOpenOne) {
     dialogues.attendMsgBox("Le fichier " + nom + " n'a pas pu être créé.", 16);
     rienNAChange();
 
-    installation.dossier.ecrit("Modele.dat", "abîmé");
+    dossier.ecrit("Modele.dat", "abîmé");
     choisit(chemin("Neuve.mdb"));
     demandeCreation(chemin("Neuve.mdb"), dialogues::kOui);
     dialogues.attendMsgBox("Le fichier modèle n'est pas une base utilisable (" + chemin("Modele.dat") + ").", 16);
     rienNAChange();
-    EXPECT_FALSE(installation.dossier.existe("Neuve.mdb"));
+    EXPECT_FALSE(dossier.existe("Neuve.mdb"));
 }
 
 TEST_F(cmdChargeOuvreBaseTest, WhatWouldBeEmptiedOrCouldNotBeNamedIsRefused) {
@@ -101,7 +82,7 @@ TEST_F(cmdChargeOuvreBaseTest, WhatWouldBeEmptiedOrCouldNotBeNamedIsRefused) {
     choisit(chemin("Tmp/Neuve"));
     dialogues.attendMsgBox(db::kBaseDansTmp, 48);
     rienNAChange();
-    installation.creeBase("Sur deux\nlignes.mdb");
+    creeBase("Sur deux\nlignes.mdb");
     choisit(chemin("Sur deux\nlignes.mdb"));
     dialogues.attendMsgBox(
         "Le chemin de ce fichier contient un saut de ligne : Ambrelis ne pourrait pas le retenir. Renommez le fichier "
@@ -114,32 +95,32 @@ TEST_F(cmdChargeOuvreBaseTest, WhatWouldBeEmptiedOrCouldNotBeNamedIsRefused) {
 // The base of the settings is the user's until he opens another one, the open one included.
 TEST_F(cmdChargeOuvreBaseTest, OpeningABaseForgetsTheAbsentOne) {
     for (const char* nom : {"Films.mdb", "Autre.mdb"}) {
-        installation.chemins.baseAbsente = "/disque/Collection.mdb";
-        if (!installation.dossier.existe(nom)) installation.creeBase(nom);
+        chemins.baseAbsente = "/disque/Collection.mdb";
+        if (!dossier.existe(nom)) creeBase(nom);
         choisit(chemin(nom));
-        commande();
-        EXPECT_EQ(installation.chemins.baseARetenir(), chemin(nom));
+        db::cmdChargeOuvreBase_Click(c);
+        EXPECT_EQ(chemins.baseARetenir(), chemin(nom));
     }
 }
 
 TEST_F(cmdChargeOuvreBaseTest, AnEndingInCapitalsIsKept) {
-    installation.creeBase("Voisin.MDB");
-    installation.ajouteFilm("Voisin.MDB", "Le film du voisin");
+    creeBase("Voisin.MDB");
+    ajouteFilm("Voisin.MDB", "Le film du voisin");
     choisit(chemin("Voisin.MDB"));
     aChangePour(chemin("Voisin.MDB"));
-    EXPECT_EQ(Installation::premierTitre(base), "Le film du voisin");
+    EXPECT_EQ(premierTitre(), "Le film du voisin");
 }
 
 // It is converted while the open base still is: whatever prevents it leaves that one.
 TEST_F(cmdChargeOuvreBaseTest, AJetBaseIsConvertedAndOpened) {
-    const std::string nom = installation.dossier.ecrit("Ancienne.mdb", doubles::collectionJet(2).octets());
+    const std::string nom = dossier.ecrit("Ancienne.mdb", doubles::collectionJet(2).octets());
     const std::string question = "Le fichier " + nom +
                                  " est une base Jet (Access). Voulez-vous la convertir pour l'ouvrir ?\nL'original "
                                  "sera conservé sous le nom « Ancienne (Jet).mdb ».";
     choisit(nom);
     dialogues.attendMsgBox(question, 36, dialogues::kOui);
     dialogues.attendMsgBox("La conversion a été arrêtée. Le fichier " + nom + " n'a pas été modifié.", 64);
-    ecran.arretApres = 1;
+    ecranMuet.arretApres = 1;
     rienNAChange();
     choisit(nom);
     dialogues.attendMsgBox(question, 36, dialogues::kOui);
@@ -147,9 +128,9 @@ TEST_F(cmdChargeOuvreBaseTest, AJetBaseIsConvertedAndOpened) {
         "La base a été convertie.\n2 films, 2 possessions, 2 affiches dans la base.\nTable non reprise : Notes "
         "diverses.\nChamp non repris : Films.Format.\nL'original est conservé sous le nom « Ancienne (Jet).mdb ».",
         64);
-    ecran.arretApres = 0;
+    ecranMuet.arretApres = 0;
     aChangePour(nom);
-    EXPECT_EQ(Installation::premierTitre(base), "Été 0");
+    EXPECT_EQ(premierTitre(), "Été 0");
 }
 
 }  // namespace
