@@ -5,6 +5,7 @@
 #include "browse/AfficheTemporaire.h"
 #include "browse/AfficheVolet.h"
 #include "browse/CacheFiche.h"
+#include "browse/LigneDuNoeud.h"
 #include "browse/ModifieNoteFilm.h"
 #include "db/Affiches.h"
 #include "db/Requete.h"
@@ -57,12 +58,11 @@ void remplitNote(const Contexte& c) {
     }
 }
 
-void remplit(const Contexte& c, std::uint32_t position) {
+void remplit(const Contexte& c, int noeud) {
     CacheFiche(c.panneaux);
     videImages(c);
-    dao::Recordset& liste = c.base.liste;
-    liste.MoveFirst();
-    liste.Move(static_cast<long>(position) - 1);
+    vaSurLaLigne(c, noeud);
+    const dao::Recordset& liste = c.base.liste;
     const std::string affiche = liste.texte("Affiche");
     c.film.titre = liste.texte("Titre");
     c.film.realisateur = liste.texte("Realisateur");
@@ -85,7 +85,7 @@ void AfficheFiche(const Contexte& c) {
     c.film.cle = arbre.Key(noeud);
     if (arbre.estGroupe(noeud)) return AfficheAccueil(c);
     try {
-        remplit(c, arbre.position(noeud));
+        remplit(c, noeud);
     } catch (const dao::ErreurDao& erreur) {
         abandonne(c);
         if (erreur.numero != dao::kErreurEnregistrementSupprime) throw;

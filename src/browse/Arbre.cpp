@@ -18,25 +18,21 @@ void Arbre::reserve(std::size_t films, std::size_t octetsDeTexte) {
 }
 
 int Arbre::ajouteGroupe(std::string cle, std::string texte) {
-    Noeud nouveau;
-    nouveau.rang = static_cast<std::uint32_t>(m_racine.size());
-    nouveau.texte = static_cast<std::uint32_t>(m_groupes.size());
+    const auto rangDuTexte = static_cast<std::uint32_t>(m_groupes.size());
     const std::size_t taille = texte.size();
     m_groupes.push_back({std::move(cle), std::move(texte), taille, {}});
-    m_noeuds.push_back(nouveau);
-    m_racine.push_back(Count());
-    return Count();
+    return ajoute({.texte = rangDuTexte}, m_racine);
 }
 
 int Arbre::ajouteFilm(int groupe, std::uint32_t position, std::string_view titre) {
-    std::vector<std::int32_t>& freres = enfantsDe(groupe);
-    Noeud nouveau;
-    nouveau.position = position;
-    nouveau.parent = static_cast<std::uint32_t>(groupe);
-    nouveau.rang = static_cast<std::uint32_t>(freres.size());
-    nouveau.texte = static_cast<std::uint32_t>(m_titres.size());
+    const auto debut = static_cast<std::uint32_t>(m_titres.size());
     m_titres += titre;
+    return ajoute({.position = position, .parent = groupe, .texte = debut}, enfantsDe(groupe));
+}
+
+int Arbre::ajoute(const Noeud& nouveau, std::vector<std::int32_t>& freres) {
     m_noeuds.push_back(nouveau);
+    m_noeuds.back().rang = static_cast<std::int32_t>(freres.size());
     freres.push_back(Count());
     return Count();
 }
@@ -45,15 +41,16 @@ void Arbre::retire(int indice) {
     const Noeud parti = noeud(indice);
     const auto octets = static_cast<std::uint32_t>(Text(indice).size());
     m_titres.erase(parti.texte, octets);
-    std::vector<std::int32_t>& freres = enfantsDe(static_cast<int>(parti.parent));
+    std::vector<std::int32_t>& freres = enfantsDe(parti.parent);
     freres.erase(freres.begin() + parti.rang);
-    for (std::size_t rang = parti.rang; rang < freres.size(); ++rang)
-        --m_noeuds[static_cast<std::size_t>(freres[rang] - 1)].rang;
+    for (auto suivant = freres.begin() + parti.rang; suivant != freres.end(); ++suivant)
+        --noeud(*suivant).rang;
 
     m_noeuds.erase(m_noeuds.begin() + (indice - 1));
-    for (std::size_t i = static_cast<std::size_t>(indice - 1); i < m_noeuds.size(); ++i) {
-        if (m_noeuds[i].position != 0) m_noeuds[i].texte -= octets;
-        if (static_cast<int>(m_noeuds[i].parent) > indice) --m_noeuds[i].parent;
+    for (int suivant = indice; suivant <= Count(); ++suivant) {
+        Noeud& decale = noeud(suivant);
+        if (decale.position != 0) decale.texte -= octets;
+        if (decale.parent > indice) --decale.parent;
     }
     const auto remonte = [indice](std::vector<std::int32_t>& indices) {
         for (std::int32_t& autre : indices)

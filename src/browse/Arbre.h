@@ -30,10 +30,8 @@ class Arbre {
     void changeSuiteGroupe(int indice, std::string_view suite);
     [[nodiscard]] std::string_view texteDuGroupe(int indice) const;                            // without what follows
     [[nodiscard]] std::uint32_t position(int indice) const { return noeud(indice).position; }  // 0 for a heading
-    [[nodiscard]] int Parent(int indice) const { return static_cast<int>(noeud(indice).parent); }  // 0: the root
-    [[nodiscard]] int rang(int indice) const {
-        return static_cast<int>(noeud(indice).rang);
-    }                                                                          // among its siblings, from 0
+    [[nodiscard]] int Parent(int indice) const { return noeud(indice).parent; }                // 0: the root
+    [[nodiscard]] int rang(int indice) const { return noeud(indice).rang; }    // among its siblings, from 0
     [[nodiscard]] const std::vector<std::int32_t>& enfants(int indice) const;  // of a heading, or of the root (0)
 
     [[nodiscard]] int noeudDuFilm(std::uint32_t position) const;  // 0: none has that position
@@ -44,8 +42,8 @@ class Arbre {
   private:
     struct Noeud {
         std::uint32_t position = 0;
-        std::uint32_t parent = 0;
-        std::uint32_t rang = 0;
+        std::int32_t parent = 0;
+        std::int32_t rang = 0;
         std::uint32_t texte = 0;  // films: offset into m_titres; headings: index into m_groupes
     };
     struct Groupe {
@@ -55,6 +53,8 @@ class Arbre {
     };
     [[nodiscard]] std::vector<std::int32_t>& enfantsDe(int indice);
     [[nodiscard]] const Noeud& noeud(int indice) const { return m_noeuds[static_cast<std::size_t>(indice - 1)]; }
+    [[nodiscard]] Noeud& noeud(int indice) { return m_noeuds[static_cast<std::size_t>(indice - 1)]; }
+    int ajoute(const Noeud& nouveau, std::vector<std::int32_t>& freres);
 
     std::vector<Noeud> m_noeuds;
     std::vector<Groupe> m_groupes;

@@ -9,10 +9,11 @@ namespace browse {
 
 namespace {
 
-// The sort stays, but for the one that takes owned films only.
+// The sort stays, where all films have it.
 void listeTousLesFilms(const Contexte& c) {
     c.liste.ChoixZone.selectionne(kZoneTous);
-    if (c.liste.ChoixTri.ListIndex == kTriSupport) c.liste.ChoixTri.selectionne(kTriTitre1);
+    const int tri = c.liste.ChoixTri.ListIndex;
+    if (estUnTri(tri) && !seTrie(kZoneTous, tri)) c.liste.ChoixTri.selectionne(kTriTitre1);
     AffichageApresModification(c);
 }
 

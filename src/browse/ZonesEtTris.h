@@ -15,7 +15,7 @@ struct Zone {
     bool sansPossession = false;         // its films need not be owned
 };
 
-inline constexpr std::string_view kTriPersonnel = ", Titre2 ASC";
+inline constexpr std::string_view kCleTitre2 = ", Titre2 ASC";
 inline constexpr std::string_view kJointure =
     "FROM Films INNER JOIN Personnel ON (Films.Titre = Personnel.Titre2 AND Films.realisateur=Personnel.realisateur2)";
 
@@ -24,15 +24,15 @@ inline constexpr std::string_view kJointure =
 inline constexpr std::array<Zone, 6> kZones{{
     {"Mes films", "*",
      "FROM Films INNER JOIN Personnel ON Films.Titre = Personnel.Titre2 AND Films.realisateur=Personnel.realisateur2",
-     "", kTriPersonnel},
-    {"Tous les films", "*", "FROM Films", "", "", true},
-    {"Mes films non prêtés", "*", kJointure, R"(Pret="")", kTriPersonnel},
-    {"Mes films prêtés", "*", kJointure, R"(Pret<>"")", kTriPersonnel},
-    {"Mes films réservés", "*", kJointure, R"(Reserve<>"")", kTriPersonnel},
+     "", kCleTitre2},
+    {"Tous les films", "*", "FROM Films", "", "", /*sansPossession=*/true},
+    {"Mes films non prêtés", "*", kJointure, R"(Pret="")", kCleTitre2},
+    {"Mes films prêtés", "*", kJointure, R"(Pret<>"")", kCleTitre2},
+    {"Mes films réservés", "*", kJointure, R"(Reserve<>"")", kCleTitre2},
     {"Films non possédés", "DISTINCTROW *",
      "FROM Films LEFT JOIN Personnel ON (Films.Realisateur = Personnel.Realisateur2) AND (Films.Titre = "
      "Personnel.Titre2)",
-     "((Personnel.Titre2) Is Null)", kTriPersonnel, true},
+     "((Personnel.Titre2) Is Null)", kCleTitre2, /*sansPossession=*/true},
 }};
 inline constexpr int kZoneMesFilms = 0, kZoneTous = 1, kZonePretes = 3, kZoneNonPossedes = 5;
 inline constexpr int kZoneRecherche = static_cast<int>(kZones.size());  // "Recherche", added after them
@@ -57,7 +57,7 @@ inline constexpr std::array<Tri, 9> kTris{{
     {"Tri par origine", "Origine"},
     {"Tri par durée", "Duree"},
     {"Tri par notation", "Note"},
-    {"Tri par support", "Support", Groupes::Valeur, true},
+    {"Tri par support", "Support", Groupes::Valeur, /*exigePossession=*/true},
 }};
 inline constexpr int kTriTitre1 = 0, kTriTitre2 = 1, kTriGenre = 4, kTriNote = 7, kTriSupport = 8;
 

@@ -1,9 +1,9 @@
 #include "edit/ModifieGroupe.h"
 
 #include "browse/CreeRequeteAffichage.h"
+#include "browse/LigneDuNoeud.h"
 #include "browse/RaffraichitBoitesDeroulantes.h"
 #include "db/EnonceFilm.h"
-#include "edit/LigneDuNoeud.h"
 #include "edit/LongueursChamps.h"
 #include "edit/RemontreFilm.h"
 #include "edit/TravailParLots.h"

@@ -2,9 +2,9 @@
 
 #include "browse/AffichageApresModification.h"
 #include "browse/AfficheNbTitres.h"
+#include "browse/LigneDuNoeud.h"
 #include "browse/RaffraichitBoitesDeroulantes.h"
 #include "db/EnonceFilm.h"
-#include "edit/LigneDuNoeud.h"
 #include "edit/LignePossession.h"
 #include "edit/TravailParLots.h"
 #include "util/Nombres.h"

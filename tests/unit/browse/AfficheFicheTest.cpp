@@ -153,6 +153,8 @@ TEST_F(AfficheFicheTest, APosterThatTmpCannotTakeIsToldAndNotOfferedToBeReplaced
     EXPECT_TRUE(etatAvis.frameAvis.Visible);
     EXPECT_EQ(etatAvis.lblAvis.Caption, "L'affiche ne peut pas être montrée : " + chemins.dossierTmp +
                                             " n'a pas pu être écrit (Disque plein/Lecture seule ?).");
+    AfficheVolet(c, browse::kVoletAutresInfos);  // which loads it again
+    EXPECT_EQ(fiche.Label12.Caption, "L'affiche ne peut pas être montrée");
     montreFilm("Sans");
     EXPECT_EQ(fiche.Label12.Caption, kPasDImage);
 }

@@ -3,6 +3,7 @@
 #include "browse/ChoixZone.h"
 #include "browse/CreeRequeteAffichage.h"
 #include "browse/SelectionneTitre.h"
+#include "browse/SuitesDeLaBase.h"
 #include "browse/cmdRecherche_Click.h"
 #include "db/Requete.h"
 
@@ -90,8 +91,10 @@ TEST_F(RechercheTest, AReopenedBaseLeavesNoNodeOfTheOldListing) {
         apresReouverture(c, [&] { CreeRequeteAffichage(c, browse::kZoneTous, browse::kTriGenre, "ceci n'est pas"); }),
         db::RequeteEchouee);
     EXPECT_EQ(liste.TreeView1.Nodes.Count(), 0);
-    apresReouverture(c, [&] { AffichageApresModification(c); });
+    panneaux.montre(panneaux.frameListeFonctions);
+    browse::SuitesDeLaBase(c).AffichageApresModification();
     EXPECT_EQ(titres().size(), 4U);
+    EXPECT_TRUE(panneaux.frameListeFonctions.Visible) << "the panel whose command reopened it stays";
 }
 
 TEST_F(RechercheTest, ALockedBaseIsSaidToBeLocked) {

@@ -1,8 +1,8 @@
-#include "edit/LigneDuNoeud.h"
+#include "browse/LigneDuNoeud.h"
 
 #include "platform/dao/LigneSupprimee.h"
 
-namespace edit {
+namespace browse {
 
 void vaSurLaLigne(const Contexte& c, int noeud) {
     c.base.liste.MoveFirst();
@@ -16,4 +16,4 @@ std::optional<db::CleFilm> filmDuNoeud(const Contexte& c, int noeud) {
     return film;
 }
 
-}  // namespace edit
+}  // namespace browse
