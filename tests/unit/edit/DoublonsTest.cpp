@@ -1,40 +1,38 @@
-#include "doubles/DialoguesScript.h"
 #include "edit/LettresDuCatalogue.h"
 #include "edit/TitreDejaExistant.h"
 #include "edit/TitreDejaExistant_TestRessemblance.h"
-#include "unit/edit/BaseDEssai.h"
+#include "unit/edit/FenetreEdition.h"
 
 namespace {
 
-struct DoublonsTest : testing::Test {
-    doubles::BaseDEssai essai;
-    doubles::DialoguesScript dialogues;
-    edit::Doublons doublons{essai.base, dialogues};
-    edit::Ressemblances ressemblances{essai.base, dialogues};
+class DoublonsTest : public FenetreEdition {
+  protected:
+    void ajouteFilmDe(const std::string& titre, const std::string& realisateur) {
+        ajouteFilm(titre.c_str(), {{"Realisateur", realisateur}});
+    }
 };
 
 TEST_F(DoublonsTest, findsAFilmByTitleAndDirectorAsTheBaseComparesThem) {
-    essai.ajouteFilm("\"10\"", "Blake Edwards");
-    essai.ajouteFilm("Note", "L'Œuvre");
-    EXPECT_TRUE(doublons.TitreDejaExistant("\"10\"", "Blake Edwards"));
-    EXPECT_TRUE(doublons.TitreDejaExistant("note", "L'oeuvre "));
-    EXPECT_FALSE(doublons.TitreDejaExistant("10", "Blake Edwards"));
-    EXPECT_FALSE(doublons.TitreDejaExistant("Note", "Blake Edwards"));
+    ajouteFilmDe("\"10\"", "Blake Edwards");
+    ajouteFilmDe("Note", "L'Œuvre");
+    EXPECT_TRUE(TitreDejaExistant(c, {"\"10\"", "Blake Edwards"}));
+    EXPECT_TRUE(TitreDejaExistant(c, {"note", "L'oeuvre "}));
+    EXPECT_FALSE(TitreDejaExistant(c, {"10", "Blake Edwards"}));
+    EXPECT_FALSE(TitreDejaExistant(c, {"Note", "Blake Edwards"}));
 }
 
 TEST_F(DoublonsTest, showsEachResemblingFilmUntilOneIsRefused) {
-    essai.ajouteFilm("Solaris", "Andreï Tarkovski");
-    essai.ajouteFilm("Solaris", "Steven Soderbergh");
-    essai.ajouteFilm("Solarise", "Andrei Tarkovski");
-    essai.ajouteFilm("Un solaris", "Andreï Tarkovsky");
+    ajouteFilmDe("Solaris", "Andreï Tarkovski");
+    ajouteFilmDe("Solaris", "Steven Soderbergh");
+    ajouteFilmDe("Solarise", "Andrei Tarkovski");
+    ajouteFilmDe("Un solaris", "Andreï Tarkovsky");
     const std::string debut =
         "Le nouveau titre ajouté (Solaris ! de Andreï Tarkovski) ressemble beaucoup \n à un autre "
         "existant déjà dans la base (";
     const std::string fin = ").\n\nSouhaitez-vous malgré tout l'ajouter ?";
     int avantQuestion = 0;
     const auto teste = [&] {
-        return ressemblances.TitreDejaExistant_TestRessemblance("Solaris !", "Andreï Tarkovski",
-                                                                [&] { ++avantQuestion; });
+        return TitreDejaExistant_TestRessemblance(c, {"Solaris !", "Andreï Tarkovski"}, [&] { ++avantQuestion; });
     };
     dialogues.attendMsgBox(debut + "Solaris de Andreï Tarkovski" + fin, dialogues::kQuestion, dialogues::kOui);
     dialogues.attendMsgBox(debut + "Solarise de Andrei Tarkovski" + fin, dialogues::kQuestion, dialogues::kOui);
@@ -44,7 +42,7 @@ TEST_F(DoublonsTest, showsEachResemblingFilmUntilOneIsRefused) {
     dialogues.attendMsgBox(debut + "Solarise de Andrei Tarkovski" + fin, dialogues::kQuestion, dialogues::kNon);
     EXPECT_TRUE(teste());
     EXPECT_EQ(avantQuestion, 5);
-    EXPECT_EQ(edit::questionRessemblance("A", "", "B", ""),
+    EXPECT_EQ(edit::questionRessemblance({"A", ""}, {"B", ""}),
               "Le nouveau titre ajouté (A) ressemble beaucoup \n à un autre existant déjà dans la base (B" + fin);
 }
 
@@ -52,32 +50,30 @@ TEST_F(DoublonsTest, callsAlikeOnlyWhatIsAboveEightyPerCentOnBothSides) {
     const std::string a8 = "aaaaaaaabb", a8Proche = "aaaaaaaacc";                                      // 80 %
     const std::string a17 = std::string(17, 'a') + "bbbb", a17Proche = std::string(17, 'a') + "cccc";  // 81 %
     struct Cas {
-        std::string titre, realisateur, ancienTitre, ancienRealisateur;
+        db::CleFilm nouveau, ancien;
         bool proche;
     };
-    for (const Cas& cas : {Cas{a8, "Méliès", a8Proche, "Melies", false}, Cas{a17, "Méliès", a17Proche, "Melies", true},
-                           Cas{"Z", a8, "z", a8Proche, false}, Cas{"Z", a17, "z", a17Proche, true},
-                           Cas{"Z", "", "Z", "", false}, Cas{"", "R", "", "R", false}}) {
-        doubles::BaseDEssai seule;
-        seule.ajouteFilm(cas.ancienTitre, cas.ancienRealisateur);
+    for (const Cas& cas :
+         {Cas{{a8, "Méliès"}, {a8Proche, "Melies"}, false}, Cas{{a17, "Méliès"}, {a17Proche, "Melies"}, true},
+          Cas{{"Z", a8}, {"z", a8Proche}, false}, Cas{{"Z", a17}, {"z", a17Proche}, true},
+          Cas{{"Z", ""}, {"Z", ""}, false}, Cas{{"", "R"}, {"", "R"}, false}}) {
+        base.base.Execute("DELETE FROM Films");
+        ajouteFilmDe(cas.ancien.titre, cas.ancien.realisateur);
         if (cas.proche)
-            dialogues.attendMsgBox(
-                edit::questionRessemblance(cas.titre, cas.realisateur, cas.ancienTitre, cas.ancienRealisateur),
-                dialogues::kQuestion, dialogues::kNon);
-        edit::Ressemblances test(seule.base, dialogues);
-        EXPECT_EQ(test.TitreDejaExistant_TestRessemblance(cas.titre, cas.realisateur), cas.proche) << cas.titre;
-        const auto lettres = edit::LettresDuCatalogue::de(seule.base, dialogues);
-        EXPECT_EQ(lettres.aUnProche(cas.titre, cas.realisateur), cas.proche) << cas.titre;
+            dialogues.attendMsgBox(edit::questionRessemblance(cas.nouveau, cas.ancien), dialogues::kQuestion,
+                                   dialogues::kNon);
+        EXPECT_EQ(TitreDejaExistant_TestRessemblance(c, cas.nouveau), cas.proche) << cas.nouveau.titre;
+        EXPECT_EQ(edit::LettresDuCatalogue::de(c).aUnProche(cas.nouveau), cas.proche) << cas.nouveau.titre;
     }
 }
 
 TEST_F(DoublonsTest, lettersOfTheCatalogueFollowWhatABatchAdds) {
-    essai.ajouteFilm("Alien", "Ridley Scott");
-    auto lettres = edit::LettresDuCatalogue::de(essai.base, dialogues);
-    EXPECT_FALSE(lettres.aUnProche("Solaris", "Ridley Scott"));
-    lettres.ajoute("Solarise", "Ridley Scot");
-    EXPECT_TRUE(lettres.aUnProche("Solaris", "Ridley Scott"));
-    EXPECT_TRUE(lettres.aUnProche("aliens", "Scott Ridley"));
+    ajouteFilmDe("Alien", "Ridley Scott");
+    auto lettres = edit::LettresDuCatalogue::de(c);
+    EXPECT_FALSE(lettres.aUnProche({"Solaris", "Ridley Scott"}));
+    lettres.ajoute({"Solarise", "Ridley Scot"});
+    EXPECT_TRUE(lettres.aUnProche({"Solaris", "Ridley Scott"}));
+    EXPECT_TRUE(lettres.aUnProche({"aliens", "Scott Ridley"}));
 }
 
 }  // namespace

@@ -6,11 +6,14 @@
 #include <string>
 #include <vector>
 
-// Remembers what the commands tell the room above.
+// Shows the function panel as the application does, and remembers what it is told.
 struct AccompagnementNote final : edit::Accompagnement {
-    int voletMontre = 0, filmsStockes = 0, possessionsStockees = 0;
+    explicit AccompagnementNote(browse::EtatPanneaux& lesPanneaux) : panneaux(lesPanneaux) {}
 
-    void montreVoletAjout() override { ++voletMontre; }
+    browse::EtatPanneaux& panneaux;
+    int filmsStockes = 0, possessionsStockees = 0;
+
+    void montreVoletAjout() override { panneaux.montre(panneaux.frameListeFonctions); }
     void filmStocke() override { ++filmsStockes; }
     void possessionStockee() override { ++possessionsStockees; }
 };
@@ -20,10 +23,20 @@ class FenetreEdition : public Fenetre {
   protected:
     edit::EtatAjout ajout;
     edit::EtatMultiSuppression multiSuppression;
-    AccompagnementNote accompagnement;
+    AccompagnementNote accompagnement{panneaux};
     edit::Contexte edition{fenetre, ajout, multiSuppression, accompagnement};
     const edit::Contexte& c = edition;
 
+    void saisis(const std::string& titre, const std::string& realisateur) {
+        ajout.Text3[0].Text = titre;
+        ajout.Text3[1].Text = realisateur;
+    }
     std::vector<std::string> titresDesFilms() { return colonne("Films", "Titre"); }
     std::vector<std::string> titresPossedes() { return colonne("Personnel", "Titre2"); }
+    static std::string repete(const std::string& texte, int fois) {
+        std::string resultat;
+        while (fois-- > 0)
+            resultat += texte;
+        return resultat;
+    }
 };

@@ -1,3 +1,4 @@
+#include "browse/ModifieNoteFilm.h"
 #include "edit/ModifieGroupe.h"
 #include "edit/cmdModifieNote_Click.h"
 #include "unit/edit/FenetreEdition.h"
@@ -10,9 +11,6 @@ using testing::ElementsAre;
 
 class NotesEtGroupesTest : public FenetreEdition {
   protected:
-    edit::Notation notation{liste, film, modifieNoteFilm, suites, dialogues};
-    edit::RenommageGroupe renommage{base, liste, film, outils(), suites};
-
     void attendNote(const std::string& reponse) {
         dialogues.attendInputBox("Quelle note (entre 1 et 10) voulez vous attribuer au film \"L'a\"b\" de R ?",
                                  reponse);
@@ -35,11 +33,11 @@ TEST_F(NotesEtGroupesTest, AnAnswerFromOneToTenIsRoundedAnEmptyOneClears) {
     } cas[] = {{"3", "3"},   {"0", "3"},   {"11", "3"},  {"0.9", "3"},   {"10,1", "3"}, {"bien", "3"},
                {" ", "3"},   {"-5", "3"},  {"7.5", "8"}, {"6.5", "6"},   {"7,5", "8"},  {" 9 sur 10", "9"},
                {"1,4", "1"}, {"10", "10"}, {"", ""},     {"9,99", "10"}, {"", ""}};
-    for (const auto& c : cas) {
-        attendNote(c.reponse);
-        notation.cmdModifieNote_Click();
-        EXPECT_THAT(colonne("Films", "Note"), ElementsAre(c.note)) << c.reponse;
-        EXPECT_EQ(fiche.lblNote.Caption, browse::texteDeLaNote(*c.note ? std::stod(c.note) : 0));
+    for (const auto& [reponse, note] : cas) {
+        attendNote(reponse);
+        cmdModifieNote_Click(c);
+        EXPECT_THAT(colonne("Films", "Note"), ElementsAre(note)) << reponse;
+        EXPECT_EQ(fiche.lblNote.Caption, browse::texteDeLaNote(*note ? std::stod(note) : 0));
         EXPECT_TRUE(panneaux.frameFiche.Visible);
     }
     EXPECT_TRUE(base.base.OpenRecordset("Films").valeur("Note").estNull());
@@ -51,28 +49,30 @@ TEST_F(NotesEtGroupesTest, AGenreIsRenamedUnderItsHeadingOnly) {
     ajouteFilm("Zorro", {{"Realisateur", "R"}, {"Genre", "Western"}});
     montre(browse::kZoneTous, browse::kTriGenre);  // a listing without Support
     clique("Drame");
-    for (const char* sansEffet : {"", "Comédie dramatique"}) {
-        attendGenre(sansEffet, "Drame");
-        renommage.RenommerGenreFilms_Click();
-    }
+    attendGenre("", "Drame");
+    RenommerGenreFilms_Click(c);
+    EXPECT_EQ(demandes.focus, "");
+    attendGenre("Comédie dramatique", "Drame");
+    RenommerGenreFilms_Click(c);
+    EXPECT_EQ(demandes.focus, "TreeView1") << "the list was filled anew";
     EXPECT_THAT(colonne("Films", "Genre"), ElementsAre("Comédie dramatique", "Comédie dramatique", "Western"));
     EXPECT_THAT(arbreEnTexte(),
                 ElementsAre("T1=Comédie dramatique", ">K1=Avatar", ">K2=Brazil", "T2=Western", ">K3=Zorro"));
     EXPECT_EQ(liste.TreeView1.SelectedItem, noeud("Comédie dramatique"));
     EXPECT_EQ(liste.TreeView1.aOuvrir, noeud("Comédie dramatique"));
     clique("Avatar");
-    renommage.RenommerGenreFilms_Click();  // a film is selected, no heading
+    RenommerGenreFilms_Click(c);  // a film is selected, no heading
     clique("Western");
     attendGenre(std::string(39, 'x') + "éé", "Western");
-    renommage.RenommerGenreFilms_Click();
+    RenommerGenreFilms_Click(c);
     EXPECT_EQ(colonne("Films", "Genre").back(), std::string(39, 'x') + "é");
     EXPECT_EQ(liste.TreeView1.Nodes.Text(liste.TreeView1.SelectedItem), std::string(39, 'x') + "é");
     liste.AffStats.Value = 1;
-    affichageApresModification();
-    arbre.NodeClick(1);
+    AffichageApresModification(c);
+    TreeView1_NodeClick(c, 1);
     attendGenre("XXX", "Comédie dramatique");
     ajouteFilm("Fargo", {{"Realisateur", "R"}, {"Genre", "xxx"}});
-    renommage.RenommerGenreFilms_Click();  // the heading of the same name for the base, where it stands now
+    RenommerGenreFilms_Click(c);  // the heading of the same name for the base, where it stands now
     EXPECT_EQ(liste.TreeView1.Nodes.enfants(liste.TreeView1.SelectedItem).size(), 3U);
     EXPECT_EQ(liste.TreeView1.aOuvrir, liste.TreeView1.SelectedItem);
 }
@@ -92,7 +92,7 @@ TEST_F(NotesEtGroupesTest, ARenamingStopsAtTheFirstFilmWithoutAHolding) {
     clique("DVD");
     attendSupport("Disque bleu", "DVD");
     dialogues.attendMsgBox("Infos personnelles sur le titre \"L'a\"b\" de R non trouvées !\r\nProcessus arrêté.", 48);
-    renommage.RenommeSupportFilms_Click();
+    RenommeSupportFilms_Click(c);
     EXPECT_THAT(colonne("Personnel", "Support"), ElementsAre("Disque bleu", "Disque bleu", "DVD", "DVD"));
     EXPECT_THAT(titres(), ElementsAre("Alien", "Brazil", "Zorro"));
     EXPECT_THAT(fiche.Combo7[2].Items, ElementsAre("Disque bleu", "DVD"));
@@ -105,13 +105,13 @@ TEST_F(NotesEtGroupesTest, AHeadingWithoutFilmsRenamesNothingAndAStopKeepsWhatIs
     clique("Drame");
     ecranMuet.arretApres = 2;
     attendGenre("Noir", "Drame");
-    renommage.RenommerGenreFilms_Click();
+    RenommerGenreFilms_Click(c);
     EXPECT_THAT(colonne("Films", "Genre"), ElementsAre("Noir", "Noir", "Drame"));
     EXPECT_EQ(ecranMuet.debuts, ecranMuet.fins);
     clique("Drame");
     liste.TreeView1.Nodes.retire(noeud("Zorro"));
     attendGenre("Gai", "");
-    renommage.RenommerGenreFilms_Click();
+    RenommerGenreFilms_Click(c);
     EXPECT_THAT(colonne("Films", "Genre"), ElementsAre("Noir", "Noir", "Drame"));
 }
 

@@ -14,13 +14,11 @@ using testing::ElementsAre;
 
 class PonctuationTest : public FenetreEdition {
   protected:
-    edit::CorrectionTitres correction{base, panneaux, outils(), suites};
-
     void corrige(const std::string& rapport) {
         dialogues.attendMsgBox("Êtes-vous sûr(e) de vouloir corriger tous les titres de la base ?", 36,
                                dialogues::kOui);
         dialogues.attendMsgBox(rapport, 64);
-        correction.cmdPonctuation_Click();
+        cmdPonctuation_Click(c);
     }
     void ajouteAvecPossession(const std::string& titre, const char* titre2) {
         ajouteFilm(titre.c_str(), {{"Realisateur", "R"}});
@@ -40,7 +38,7 @@ TEST_F(PonctuationTest, EveryTitleIsCorrectedOnceAndOwnedFilmsStillMatch) {
     base.base.Execute("INSERT INTO Films(Titre) VALUES (NULL)");
     montre(browse::kZoneMesFilms, browse::kTriTitre2);
     dialogues.attendMsgBox("Êtes-vous sûr(e) de vouloir corriger tous les titres de la base ?", 36, dialogues::kNon);
-    correction.cmdPonctuation_Click();
+    cmdPonctuation_Click(c);
     EXPECT_EQ(titresDesFilms()[0], "le PARRAIN II");
 
     panneaux.montre(panneaux.frameListeFonctions);
@@ -66,10 +64,10 @@ TEST_F(PonctuationTest, AStopAnywhereKeepsOwnedFilmsMatching) {
         corrige(arret == 1 ? "Un titre modifié." : arret <= 3 ? "3 titres modifiés." : "4 titres modifiés.");
         EXPECT_EQ(possedes(), 6) << arret;
         EXPECT_EQ(ecranMuet.debuts, ecranMuet.fins);
-        EXPECT_FALSE(progression.Visible);
+        EXPECT_FALSE(travaux.ProgressBar3.Visible);
         base.base.Execute("DELETE FROM Films; DELETE FROM Personnel");
     }
-    EXPECT_EQ(progression.Max, 8);
+    EXPECT_EQ(travaux.ProgressBar3.Max, 8);
 }
 
 TEST_F(PonctuationTest, AFailureUndoesItsLotAndIsTold) {
@@ -81,7 +79,7 @@ TEST_F(PonctuationTest, AFailureUndoesItsLotAndIsTold) {
     dialogues.attendMsgBox(
         "Erreur 3022 : La modification contredit une règle de la base (UNIQUE constraint failed: Films.Titre).");
     dialogues.attendMsgBox("Aucun titre modifié.", 64);
-    correction.cmdPonctuation_Click();
+    cmdPonctuation_Click(c);
     EXPECT_THAT(titresDesFilms(), ElementsAre("alien", "zorro", "Zorro"));
     EXPECT_FALSE(base.base.enTransaction());
 }
@@ -104,7 +102,7 @@ TEST_F(PonctuationTest, RealTitlesAreCorrectedOnceForAll) {
     const auto modifies =
         std::count_if(brutes.begin(), brutes.end(), [](const auto& t) { return t != util::metEnCapitales(t); });
     dialogues.attendMsgBox(edit::rapportTitresModifies(modifies), 64);
-    correction.cmdPonctuation_Click();
+    cmdPonctuation_Click(c);
     EXPECT_EQ(possedes(), avant);
     corrige("Aucun titre modifié.");
 }

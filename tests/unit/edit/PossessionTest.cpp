@@ -1,6 +1,6 @@
 #include "edit/SaisiePossession.h"
 #include "edit/cmdValiderInfosPossessions_Click.h"
-#include "unit/browse/Fenetre.h"
+#include "unit/edit/FenetreEdition.h"
 
 #include <gmock/gmock.h>
 
@@ -9,22 +9,17 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class Possession : public Fenetre {
+class Possession : public FenetreEdition {
   protected:
-    edit::BoitesDeroulantes boites{base, fiche, dialogues};
-    edit::SaisiePossession saisie{fiche, dialogues};
-    edit::cmdValiderInfosPossessions_Click valider{
-        base, fiche, film, {affichageApresModification, selectionneTitre, afficheNbTitres, boites}, dialogues};
-
     void SetUp() override {
-        Fenetre::SetUp();
+        FenetreEdition::SetUp();
         ajouteFilm("Alien", {{"Realisateur", "Ridley \"R\" Scott"}});
         ajouteFilm("Solaris", {{"Realisateur", "Tarkovski"}});
         montre(browse::kZoneTous, browse::kTriTitre2);
     }
     void choisit1(std::size_t option) {
         ecran::choisit(fiche.Option1, option);
-        saisie.Option1_Click();
+        Option1_Click(c);
     }
     dao::Valeur lu(const char* champ) { return base.base.OpenRecordset("Personnel").valeur(champ); }
 };
@@ -38,7 +33,7 @@ TEST_F(Possession, isWrittenFromThePanelAndDeletedWithIt) {
     fiche.Combo7[0].Text = "Zoé";
     fiche.Combo7[1].Text = "Paul";
     fiche.Combo7[2].Text = std::string(19, 's') + "👨‍👩‍👧" + "s";
-    valider();
+    cmdValiderInfosPossessions_Click(c);
     const std::vector<std::pair<const char*, std::string>> attendus{
         {"Titre2", "Alien"},
         {"Realisateur2", "Ridley \"R\" Scott"},
@@ -59,24 +54,33 @@ TEST_F(Possession, isWrittenFromThePanelAndDeletedWithIt) {
     EXPECT_FALSE(fiche.cmdValiderInfosPossessions.Visible);
     EXPECT_TRUE(fiche.cmdFichiersFilm.Visible);
     EXPECT_THAT(fiche.Combo7[0].Items, ElementsAre("Zoé"));
+    EXPECT_EQ(accompagnement.possessionsStockees, 1);
 
     fiche.Text10[3].Text = "Salon";
-    valider();
+    cmdValiderInfosPossessions_Click(c);
     EXPECT_EQ(base.personnel.RecordCount(), 1);
     EXPECT_EQ(lu("Rangement"), dao::Valeur("Salon"));
 
     choisit1(0);
-    valider();
+    cmdValiderInfosPossessions_Click(c);
     EXPECT_EQ(base.personnel.RecordCount(), 0);
     EXPECT_EQ(liste.Label9[1].Caption, "0 personnel");
     EXPECT_THAT(fiche.Combo7[0].Items, IsEmpty());
-    valider();  // not owned already
+    cmdValiderInfosPossessions_Click(c);  // not owned already
 
     choisit1(1);
     fiche.Text10[3].Text = "Cave";
-    valider();
+    cmdValiderInfosPossessions_Click(c);
     EXPECT_EQ(lu("Rangement"), dao::Valeur("Cave"));
     EXPECT_EQ(lu("Pret"), dao::Valeur(""));
+}
+
+TEST_F(Possession, isNotStoredWithoutAFilmAndTheKeysGoToTheListAllTheSame) {
+    ecran::choisit(fiche.Option1, 1);
+    cmdValiderInfosPossessions_Click(c);
+    EXPECT_EQ(base.personnel.RecordCount(), 0);
+    EXPECT_EQ(accompagnement.possessionsStockees, 0);
+    EXPECT_EQ(demandes.focus, "TreeView1");
 }
 
 TEST_F(Possession, isToBeValidatedOnlyOnceTheUserChangedSomething) {
@@ -90,10 +94,10 @@ TEST_F(Possession, isToBeValidatedOnlyOnceTheUserChangedSomething) {
     const auto parcourt = [this](const std::string& reponse) {
         dialogues.attendFichier({"Ajouter un fichier à la fiche du film", "Tous types de fichiers|*.*", "/films/"},
                                 reponse);
-        saisie.Command2_Click(1);
+        Command2_Click(c, 1);
     };
-    change([&] { saisie.Combo7_Change(); }, true);
-    change([&] { saisie.Text10_Change(); }, true);
+    change([&] { Combo7_Change(c, 0); }, true);
+    change([&] { Text10_Change(c, 3); }, true);
     change([&] { parcourt(""); }, false);
     EXPECT_EQ(fiche.Text10[1].Text, "/films/Solaris.avi");
     change([&] { parcourt("/ailleurs/absent"); }, true);

@@ -1,3 +1,5 @@
+#include "browse/RaffraichitBoitesDeroulantes.h"
+#include "edit/TravailParLots.h"
 #include "edit/cmdSupprTitresSelect_Click.h"
 #include "edit/cmdSupprimerTitre_Click.h"
 #include "unit/edit/FenetreEdition.h"
@@ -13,15 +15,9 @@ constexpr const char* kQuestionSimple = "Voulez-vous vraiment supprimer ce titre
 
 class SuppressionTest : public FenetreEdition {
   protected:
-    std::array<ecran::BoutonOption, 2> Option4;
-    ecran::Bouton cmdSupprTitresSelect;
-    edit::SuppressionTitre suppression{base, fiche, film, {liste, afficheAccueil, afficheNbTitres, boites}, dialogues};
-    edit::MultiSuppression multi{
-        base, {liste, fiche, panneaux, Option4, cmdSupprTitresSelect, demandes}, outils(), suites};
-
     void coche(const std::vector<std::string>& textes) {
         for (const std::string& texte : textes)
-            arbre.NodeCheck(noeud(texte), true);
+            TreeView1_NodeCheck(c, noeud(texte), true);
     }
     void interditDeSupprimer(const std::string& titre) {
         base.base.Execute(
@@ -40,18 +36,18 @@ TEST_F(SuppressionTest, AnOwnedFilmGoesWithItsHoldingAndItsNode) {
     ajouteFilm("Le \"Été\"", {{"Realisateur", "L'a\"b"}});
     ajouteFilm("Zorro", {{"Realisateur", "R"}});
     possede("Le \"Été\"", "L'a\"b", {{"Support", "DVD"}});
-    boites.RaffraichitBoitesDeroulantes();
+    RaffraichitBoitesDeroulantes(c);
     montre(browse::kZoneTous, browse::kTriTitre1);
-    arbre.NodeCheck(noeud("Zorro"), true);
+    TreeView1_NodeCheck(c, noeud("Zorro"), true);
     clique("Le \"Été\"");
     liste.TreeView1.SelectedItem = noeud("Avatar");  // a tick moved the highlight, not the sheet
     dialogues.attendMsgBox(kQuestionSimple, 36, dialogues::kNon);
-    suppression.cmdSupprimerTitre_Click();
+    cmdSupprimerTitre_Click(c);
     EXPECT_EQ(titresDesFilms().size(), 3U);
     EXPECT_TRUE(panneaux.frameFiche.Visible);
 
     dialogues.attendMsgBox(kQuestionSimple, 36, dialogues::kOui);
-    suppression.SupprFilm_Click();
+    cmdSupprimerTitre_Click(c);
     EXPECT_THAT(titresDesFilms(), ElementsAre("Avatar", "Zorro"));
     EXPECT_THAT(titresPossedes(), IsEmpty());
     EXPECT_THAT(arbreEnTexte(), ElementsAre("TA=A", ">K1=Avatar", "TL=L", "TZ=Z", ">K3=Zorro"));
@@ -63,7 +59,7 @@ TEST_F(SuppressionTest, AnOwnedFilmGoesWithItsHoldingAndItsNode) {
     EXPECT_THAT(fiche.Combo7[2].Items, IsEmpty());
     EXPECT_TRUE(panneaux.framePresentation.Visible);
 
-    suppression.cmdSupprimerTitre_Click();  // no film is current any more: no question
+    cmdSupprimerTitre_Click(c);  // no film is current any more: no question
     clique("Zorro");
     EXPECT_EQ(film.titre, "Zorro");
 }
@@ -75,7 +71,7 @@ TEST_F(SuppressionTest, TheLastFilmLeavesItsHeadingUntilTheNextListing) {
     clique("Avatar");
     ecran::choisit(fiche.Option1, 0);  // shown as not owned: the holding stays
     dialogues.attendMsgBox(kQuestionSimple, 36, dialogues::kOui);
-    suppression.cmdSupprimerTitre_Click();
+    cmdSupprimerTitre_Click(c);
     EXPECT_THAT(arbreEnTexte(), ElementsAre("TA=A"));
     EXPECT_THAT(titresPossedes(), ElementsAre("Avatar"));
     montre(browse::kZoneTous, browse::kTriTitre1);
@@ -89,7 +85,7 @@ TEST_F(SuppressionTest, AFilmThatIsGoneIsToldAndItsNodeStays) {
     retire("Avatar");
     dialogues.attendMsgBox(kQuestionSimple, 36, dialogues::kOui);
     dialogues.attendMsgBox("Titre non trouvé !", 48);
-    suppression.cmdSupprimerTitre_Click();
+    cmdSupprimerTitre_Click(c);
     EXPECT_EQ(liste.TreeView1.Nodes.Count(), 1);
     EXPECT_TRUE(panneaux.framePresentation.Visible);
 }
@@ -101,7 +97,7 @@ TEST_F(SuppressionTest, ABaseThatCannotDeleteKeepsFilmAndHolding) {
     montre(browse::kZoneTous, browse::kTriTitre2);
     clique("Avatar");
     dialogues.attendMsgBox(kQuestionSimple, 36, dialogues::kOui);
-    EXPECT_THROW(suppression.cmdSupprimerTitre_Click(), dao::ErreurDao);
+    EXPECT_THROW(cmdSupprimerTitre_Click(c), dao::ErreurDao);
     EXPECT_THAT(titresDesFilms(), ElementsAre("Avatar"));
     EXPECT_THAT(titresPossedes(), ElementsAre("Avatar"));
     EXPECT_FALSE(base.base.enTransaction());
@@ -119,13 +115,13 @@ TEST_F(SuppressionTest, AHoldingThatCannotGoKeepsItsFilm) {
     montre(browse::kZoneTous, browse::kTriTitre2);
     clique("Zorro");
     dialogues.attendMsgBox(kQuestionSimple, 36, dialogues::kOui);
-    EXPECT_THROW(suppression.cmdSupprimerTitre_Click(), dao::ErreurDao);
+    EXPECT_THROW(cmdSupprimerTitre_Click(c), dao::ErreurDao);
     coche({"Zorro"});
     dialogues.attendMsgBox("Voulez-vous vraiment supprimer ce titre ?", 36, dialogues::kOui);
     dialogues.attendMsgBox(
         "Erreur 3022 : La modification contredit une règle de la base (FOREIGN KEY constraint failed).");
     dialogues.attendMsgBox("0 titre supprimé.", 64);
-    multi.cmdSupprTitresSelect_Click();
+    cmdSupprTitresSelect_Click(c);
     EXPECT_THAT(titresDesFilms(), ElementsAre("Avatar", "Zorro"));
     EXPECT_THAT(titresPossedes(), ElementsAre("Avatar", "Zorro"));
 }
@@ -138,11 +134,11 @@ TEST_F(SuppressionTest, TheOwnershipOnTheScreenDecidesForEveryTickedFilm) {
         }
         montre(browse::kZoneMesFilms, browse::kTriTitre1);
         coche({"Avatar", "Zorro"});
-        multi.cmdMultiSuppress_Click();
+        cmdMultiSuppress_Click(c);
         ecran::choisit(fiche.Option1, possedeALEcran ? 1 : 0);
         dialogues.attendMsgBox("Voulez-vous vraiment supprimer ces 2 titres ?", 36, dialogues::kOui);
         dialogues.attendMsgBox("2 titres supprimés.", 64);
-        multi.cmdSupprTitresSelect_Click();
+        cmdSupprTitresSelect_Click(c);
         EXPECT_THAT(titresDesFilms(), ElementsAre("Brazil"));
         EXPECT_EQ(titresPossedes().size(), possedeALEcran ? 1U : 3U);
         EXPECT_THAT(titres(), ElementsAre("Brazil"));
@@ -158,12 +154,12 @@ TEST_F(SuppressionTest, FilmsThatAreGoneAreNotCountedAndTwinsGoBoth) {
     ajouteFilm("Avatar", {{"Realisateur", "R"}, {"Annee", "1980"}});  // listed before its elder twin
     montre(browse::kZoneTous, 2);
     for (int i = 1; i <= liste.TreeView1.Nodes.Count(); ++i)
-        if (liste.TreeView1.Nodes.Text(i) == "Avatar") arbre.NodeCheck(i, true);
+        if (liste.TreeView1.Nodes.Text(i) == "Avatar") TreeView1_NodeCheck(c, i, true);
     coche({"Zorro"});
     retire("Zorro");
     dialogues.attendMsgBox("Voulez-vous vraiment supprimer ces 3 titres ?", 36, dialogues::kOui);
     dialogues.attendMsgBox("2 titres supprimés.", 64);
-    multi.cmdSupprTitresSelect_Click();
+    cmdSupprTitresSelect_Click(c);
     EXPECT_THAT(titresDesFilms(), ElementsAre("Alien"));
 }
 
@@ -173,12 +169,12 @@ TEST_F(SuppressionTest, AStopKeepsWhatWasDeletedAndAFailureDeletesNothing) {
     montre(browse::kZoneTous, browse::kTriTitre2);
     coche({"Alien", "Brazil", "Casino"});
     ecranMuet.arretApres = 2;
-    ecranMuet.pendantSouffle = [this] { EXPECT_TRUE(progression.Visible && progression.Max == 3); };
+    ecranMuet.pendantSouffle = [this] { EXPECT_TRUE(travaux.ProgressBar3.Visible && travaux.ProgressBar3.Max == 3); };
     dialogues.attendMsgBox("Voulez-vous vraiment supprimer ces 3 titres ?", 36, dialogues::kOui);
     dialogues.attendMsgBox("2 titres supprimés.", 64);
-    multi.cmdSupprTitresSelect_Click();
+    cmdSupprTitresSelect_Click(c);
     EXPECT_THAT(titresDesFilms(), ElementsAre("Casino", "Zorro"));
-    EXPECT_FALSE(progression.Visible);
+    EXPECT_FALSE(travaux.ProgressBar3.Visible);
     EXPECT_EQ(ecranMuet.soufflesHorsTravail, 0);
 
     ecranMuet.arretApres = 0;
@@ -190,18 +186,18 @@ TEST_F(SuppressionTest, AStopKeepsWhatWasDeletedAndAFailureDeletesNothing) {
     dialogues.attendMsgBox(
         "Erreur 3022 : La modification contredit une règle de la base (FOREIGN KEY constraint failed).");
     dialogues.attendMsgBox("0 titre supprimé.", 64);
-    multi.cmdSupprTitresSelect_Click();
+    cmdSupprTitresSelect_Click(c);
     EXPECT_THAT(titresDesFilms(), ElementsAre("Casino", "Zorro"));
 
     // What took a lot's time is stored before what follows.
     montre(browse::kZoneTous, browse::kTriTitre2);
     coche({"Casino", "Zorro"});
-    ecranMuet.pendantSouffle = [this] { horloge.avance(edit::TravailParLots::kDuree); };
+    ecranMuet.pendantSouffle = [this] { MachineDEssai::montre.avance(edit::TravailParLots::kDuree); };
     dialogues.attendMsgBox("Voulez-vous vraiment supprimer ces 2 titres ?", 36, dialogues::kOui);
     dialogues.attendMsgBox(
         "Erreur 3022 : La modification contredit une règle de la base (FOREIGN KEY constraint failed).");
     dialogues.attendMsgBox("1 titre supprimé.", 64);
-    multi.cmdSupprTitresSelect_Click();
+    cmdSupprTitresSelect_Click(c);
     EXPECT_THAT(titresDesFilms(), ElementsAre("Zorro"));
 }
 

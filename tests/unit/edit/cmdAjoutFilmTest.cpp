@@ -1,8 +1,8 @@
 #include "db/EnonceFilm.h"
-#include "doubles/HorlogeFixe.h"
+#include "edit/Command13_Click.h"
 #include "edit/cmdAjoutFilm_Click.h"
 #include "edit/cmdModifierTitre_Click.h"
-#include "unit/browse/Fenetre.h"
+#include "unit/edit/FenetreEdition.h"
 
 #include <gmock/gmock.h>
 
@@ -13,55 +13,15 @@ using testing::IsEmpty;
 
 const std::string kDoublon = "Un film ayant le même titre et du même réalisateur existe déjà !";
 
-std::string repete(const std::string& texte, int fois) {
-    std::string resultat;
-    while (fois-- > 0)
-        resultat += texte;
-    return resultat;
-}
-
-// Shows the function panel as the application does.
-struct VoletDEssai final : edit::VoletAjout {
-    explicit VoletDEssai(browse::EtatPanneaux& lesPanneaux) : panneaux(lesPanneaux) {}
-    void montreVoletAjout() override { panneaux.montre(panneaux.frameListeFonctions); }
-    browse::EtatPanneaux& panneaux;
-};
-
-class cmdAjoutFilm : public Fenetre {
+class cmdAjoutFilm : public FenetreEdition {
   protected:
-    edit::EtatAjout ajout;
-    doubles::HorlogeFixe horloge;
-    VoletDEssai volet{panneaux};
-    edit::ListesDeSaisie listes{base, ajout, dialogues};
-    edit::Doublons doublons{base, dialogues};
-    edit::ModesAjout modes{ajout, demandes, listes, doublons};
-    edit::EnregistrementFilm enregistrement{base, ajout, stockage, chemins, film, dialogues};
-    browse::MontreFilm montreFilm{base, liste, film, affichageApresModification, selectionneTitre, dialogues};
-    edit::cmdModifierTitre_Click cmdModifierTitre{base, ajout, film, volet, modes, avis, dialogues};
-    edit::cmdAjoutFilm_Click commande{
-        {base, ajout, fiche, stockage, chemins, film, enregistrement, doublons, dialogues, horloge},
-        {liste,
-         affichageApresModification,
-         selectionneTitre,
-         creeEtAfficheRecherche,
-         afficheNbTitres,
-         montreFilm,
-         panneaux,
-         modes,
-         avis,
-         {}}};
-
-    void saisis(const std::string& titre, const std::string& realisateur) {
-        ajout.Text3[0].Text = titre;
-        ajout.Text3[1].Text = realisateur;
-    }
     void ouvreSaisie(const std::string& titre, const std::string& realisateur) {
-        modes.Command13_Click(1);
+        Command13_Click(c, 1);
         saisis(titre, realisateur);
     }
     void modifie(const char* noeud, const std::string& titre, const std::string& realisateur) {
         clique(noeud);
-        cmdModifierTitre();
+        cmdModifierTitre_Click(c);
         saisis(titre, realisateur);
     }
     void attendChoix(const std::string& reponse) {
@@ -86,23 +46,23 @@ TEST_F(cmdAjoutFilm, asksForThePosterUntilItCanBeTaken) {
     attendChoix(grande);
     attendRefus("Image trop grande pour tenir en base !");
     attendChoix(bonne);
-    commande();
+    cmdAjoutFilm_Click(c);
     EXPECT_EQ(images.courante, octets) << "the new film's sheet is ready, with its poster";
 
     // The dialog takes one byte more than the base does.
     saisis("Second", "R");
     attendChoix(limite);
-    commande();
+    cmdAjoutFilm_Click(c);
     EXPECT_EQ(etatAvis.lblAvis.Caption, "« Second » ajouté, sans son affiche, trop grande pour tenir en base.");
     saisis("Troisième", "R");
     attendChoix("");
-    commande();
+    cmdAjoutFilm_Click(c);
 
     // No limit for files.
     ecran::choisit(stockage.Option3, 1);
     saisis("Quatrième", "R");
     attendChoix(grande);
-    commande();
+    cmdAjoutFilm_Click(c);
     EXPECT_THAT(colonne("Films", "Affiche"), ElementsAre("STO" + octets, "", "", "JPGQuatrième - R.jpg"));
     EXPECT_EQ(dossier.lit("Images/Quatrième - R.jpg").size(), 230001u);
 }
@@ -116,17 +76,18 @@ TEST_F(cmdAjoutFilm, addsNothingWhenThePosterCannotBeStored) {
                             image);
     attendRefus("Le fichier image " + stockage.Text4.Text +
                 "/Alien - R.jpg n'a pas pu être écrit (Disque plein/Lecture seule ?)");
-    commande();
+    cmdAjoutFilm_Click(c);
     EXPECT_THAT(colonne("Films", "Affiche"), IsEmpty());
     EXPECT_EQ(base.personnel.RecordCount(), 0);
     EXPECT_EQ(ajout.Text3[0].Text, "Alien") << "the page stays filled";
+    EXPECT_EQ(accompagnement.filmsStockes, 0);
 
     // A base that refuses takes the poster's file back.
     stockage.Text4.Text = dossier.chemin("Images");
     dao::Database autre = dao::DBEngine::OpenDatabase(chemins.base);
     autre.BeginTrans();
     attendChoix(image);
-    EXPECT_THROW(commande(), dao::ErreurDao);
+    EXPECT_THROW(cmdAjoutFilm_Click(c), dao::ErreurDao);
     EXPECT_TRUE(std::filesystem::is_empty(dossier.chemin("Images")));
 }
 
@@ -134,13 +95,14 @@ TEST_F(cmdAjoutFilm, addsTheFilmWithItsHoldingAndShowsTheDay) {
     ajouteFilm("Hier", {{"Realisateur", "R"}, {"DateAjout", "20/11/2026"}});
     ajouteFilm("Non possédé", {{"Realisateur", "R"}, {"DateAjout", "21/11/2026"}});
     const std::string titre = repete("é", 99) + "👨‍👩‍👧", realisateur = repete("É", 100);
-    volet.montreVoletAjout();
+    accompagnement.montreVoletAjout();
     ouvreSaisie(titre + "coupé", realisateur + "coupé");
     ajout.Text3[2].Text = "19795";
     ajout.Combo2.Text = "Péplum";
     ajout.txtResume.Text = "Un \"résumé\"";
     attendChoix("");
-    commande();
+    cmdAjoutFilm_Click(c);
+    EXPECT_EQ(accompagnement.filmsStockes, 1);
     EXPECT_THAT(titres(), ElementsAre(titre, "Non possédé"));
     EXPECT_EQ(liste.critereRecherche, "DateAjout = \"21/11/2026\"");
     EXPECT_EQ(liste.zoneRecherche, browse::kZoneTous);
@@ -170,22 +132,22 @@ TEST_F(cmdAjoutFilm, addsTheFilmWithItsHoldingAndShowsTheDay) {
     EXPECT_EQ(liste.ChoixZone.ListIndex, browse::kZoneTous);
     saisis(titre + "autre", realisateur);
     attendRefus(kDoublon);
-    commande();
+    cmdAjoutFilm_Click(c);
 }
 
 TEST_F(cmdAjoutFilm, takesOverTheHoldingThatAFilmOfThatNameLeft) {
     possede("L'ŒUVRE ", "Clouzot", {{"Support", "DVD"}, {"Pret", "Zoé"}, {"Fichier2", "/films/oeuvre.avi"}});
     possede("Rien noté", "Clouzot");
-    volet.montreVoletAjout();
+    accompagnement.montreVoletAjout();
     ouvreSaisie("L'œuvre", "Clouzot");
     attendChoix("");
-    commande();
+    cmdAjoutFilm_Click(c);
     EXPECT_EQ(etatAvis.lblAvis.Caption,
               "« L'œuvre » ajouté, avec la possession que ce titre avait déjà (DVD, prêté à "
               "Zoé, oeuvre.avi).");
     ouvreSaisie("Rien noté", "Clouzot");
     attendChoix("");
-    commande();
+    cmdAjoutFilm_Click(c);
     EXPECT_EQ(etatAvis.lblAvis.Caption, "« Rien noté » ajouté.");
     EXPECT_THAT(colonne("Personnel", "Titre2"), ElementsAre("L'œuvre", "Rien noté"));
     EXPECT_THAT(colonne("Personnel", "Support"), ElementsAre("DVD", ""));
@@ -210,7 +172,7 @@ TEST_F(cmdAjoutFilm, correctsTheFilmWithItsHoldingAndShowsItAgain) {
     montre(browse::kZoneMesFilms, browse::kTriGenre);
 
     clique(titre);
-    cmdModifierTitre();
+    cmdModifierTitre_Click(c);
     EXPECT_TRUE(panneaux.frameListeFonctions.Visible && ajout.Frame13.Visible && ajout.modeModifier());
     EXPECT_FALSE(panneaux.frameFiche.Visible);
     std::vector<std::string> saisie;
@@ -223,8 +185,9 @@ TEST_F(cmdAjoutFilm, correctsTheFilmWithItsHoldingAndShowsItAgain) {
     EXPECT_EQ(ajout.Label5.Caption, "Correction de « " + titre + " »");
 
     saisis("Le Mystère Picasso" + repete("!", 100), "H.-G. Clouzot");
-    commande();
+    cmdAjoutFilm_Click(c);
     const std::string nouveau = "Le Mystère Picasso" + repete("!", 82);
+    EXPECT_EQ(accompagnement.filmsStockes, 1);
     EXPECT_EQ(filmChoisi(), nouveau + "/" + nouveau);
     EXPECT_TRUE(panneaux.frameFiche.Visible);
     EXPECT_EQ(fiche.Combo7[0].Text, "Zoé");
@@ -243,7 +206,7 @@ TEST_F(cmdAjoutFilm, testsForADuplicateOnlyWhatIsMoreThanAChangeOfCase) {
     ajouteFilm("Alien", {{"Realisateur", "Ridley Scott"}});
     montre(browse::kZoneTous, browse::kTriTitre2);
     modifie("été", "Été", "ZURLINI");
-    commande();
+    cmdAjoutFilm_Click(c);
     EXPECT_EQ(filmChoisi(), "Été/Été");
     EXPECT_EQ(base.personnel.RecordCount(), 0);  // a modification makes no holding
 
@@ -251,16 +214,16 @@ TEST_F(cmdAjoutFilm, testsForADuplicateOnlyWhatIsMoreThanAChangeOfCase) {
     ajouteFilm("L'oeuvre", {{"Realisateur", "Clouzot "}});
     montre(browse::kZoneTous, browse::kTriTitre2);
     modifie("L'oeuvre", "L'œuvre", "Clouzot");
-    commande();
+    cmdAjoutFilm_Click(c);
     EXPECT_EQ(filmChoisi(), "L'œuvre/L'œuvre");
 
     modifie("Été", "alien", "ridley SCOTT");
     attendRefus(kDoublon);
-    commande();
+    cmdAjoutFilm_Click(c);
     EXPECT_TRUE(panneaux.frameListeFonctions.Visible && ajout.modeModifier());
     saisis("Été", "");
     attendRefus("Le réalisateur du film est obligatoire !");
-    commande();
+    cmdAjoutFilm_Click(c);
     EXPECT_THAT(colonne("Films", "Realisateur"), ElementsAre("ZURLINI", "Zurlini", "Ridley Scott", "Clouzot"));
 }
 
@@ -269,13 +232,13 @@ TEST_F(cmdAjoutFilm, addsAFilmThatWentWhileItWasBeingCorrected) {
     montre(browse::kZoneTous, browse::kTriTitre2);
     modifie("Alien", "Aliens", "James Cameron");
     base.base.Execute("DELETE FROM Films");
-    commande();
+    cmdAjoutFilm_Click(c);
     EXPECT_THAT(colonne("Films", "Titre"), ElementsAre("Aliens"));
     EXPECT_EQ(filmChoisi(), "Aliens/Aliens");
 
     // Gone before the page opens: it is named there all the same.
     base.base.Execute("DELETE FROM Films");
-    cmdModifierTitre();
+    cmdModifierTitre_Click(c);
     EXPECT_EQ(ajout.Text3[0].Text + "/" + ajout.Text3[1].Text, "Aliens/James Cameron");
     EXPECT_EQ(etatAvis.lblAvis.Caption, "« Aliens » n'est plus dans la base : « Modifier » l'ajoutera de nouveau.");
 }
@@ -284,7 +247,7 @@ TEST_F(cmdAjoutFilm, opensNoCorrectionWithoutAFilm) {
     ajouteFilm("", {{"Realisateur", ""}, {"Genre", "Drame"}});
     montre(browse::kZoneTous, browse::kTriGenre);
     clique("Drame");
-    cmdModifierTitre();
+    cmdModifierTitre_Click(c);
     EXPECT_FALSE(panneaux.frameListeFonctions.Visible || ajout.modeModifier());
 }
 
@@ -295,20 +258,20 @@ TEST_F(cmdAjoutFilm, leavesBothRowsAsTheyWereWhenOneCannotBeWritten) {
     montre(browse::kZoneTous, browse::kTriTitre2);
     base.base.Execute("CREATE UNIQUE INDEX obstacle ON Personnel(Titre2)");  // the second row is refused
     modifie("Alien", "Aliens", "James Cameron");
-    EXPECT_THROW(commande(), dao::ErreurDao);
+    EXPECT_THROW(cmdAjoutFilm_Click(c), dao::ErreurDao);
     ouvreSaisie("Aliens", "James Cameron");
     attendChoix("");
-    EXPECT_THROW(commande(), dao::ErreurDao);
+    EXPECT_THROW(cmdAjoutFilm_Click(c), dao::ErreurDao);
     EXPECT_FALSE(base.base.enTransaction());
     EXPECT_THAT(colonne("Films", "Titre"), ElementsAre("Alien"));
-    EXPECT_THAT(colonne(db::enonceFilm("Alien", "Ridley Scott"), "Genre"), ElementsAre("Horreur"));
+    EXPECT_THAT(colonne(db::enonceFilm({"Alien", "Ridley Scott"}), "Genre"), ElementsAre("Horreur"));
     EXPECT_THAT(colonne("Personnel", "Titre2"), ElementsAre("Alien", "Aliens"));
     EXPECT_EQ(base.films.RecordCount(), 1);
 
     // The entry is still there, to be stored once the base takes it again.
     base.base.Execute("DROP INDEX obstacle");
     attendChoix("");
-    commande();
+    cmdAjoutFilm_Click(c);
     EXPECT_THAT(colonne("Personnel", "Realisateur2"), ElementsAre("Ridley Scott", "Un autre", "James Cameron"));
     EXPECT_THAT(titres(), ElementsAre("Aliens"));
 }
