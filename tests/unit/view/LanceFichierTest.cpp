@@ -1,13 +1,8 @@
-#include "doubles/DialoguesScript.h"
-#include "doubles/DocumentsEnregistres.h"
-#include "doubles/EcranMuet.h"
-#include "doubles/ProgrammesSimules.h"
 #include "doubles/Temoin.h"
-#include "doubles/VolumesSimules.h"
+#include "unit/view/FenetreVue.h"
 #include "view/ChercheFichier.h"
 #include "view/Command1_Click.h"
-
-#include <gtest/gtest.h>
+#include "view/LanceFichier.h"
 
 using doubles::Temoin;
 using systeme::Lancement;
@@ -55,26 +50,17 @@ TEST(ChercheFichier, TriesWhatFollowsTheVolumeOnEveryOther) {
 
 namespace {
 
-class Lanceur : public testing::Test {
+class Lanceur : public testing::Test, protected doubles::MachineDEssai {
   protected:
-    doubles::DialoguesScript boites;
-    doubles::DocumentsEnregistres documents;
-    doubles::EcranMuet ecran;
-    doubles::ProgrammesSimules programmes;
-    doubles::DossierTemporaire dossier;
-    view::LanceFichier lance{programmes, documents, boites, ecran};
-
-    bool document(const std::string& chemin) { return lance(chemin, false, "open", "", "", "2", false); }
+    bool lance(const std::string& fichier, bool existence, const std::string& parametres, const std::string& ou,
+               bool attente) {
+        return view::LanceFichier(machine, fichier, existence, "open", parametres, ou, "2", attente);
+    }
+    bool document(const std::string& chemin) { return lance(chemin, false, "", "", false); }
 };
 
-class FichiersDuFilm : public Lanceur {
+class FichiersDuFilm : public FenetreVue {
   protected:
-    view::EtatFichiers etat{true, 1};
-    browse::FilmCourant film;
-    view::TableExtensions extensions;
-    doubles::VolumesSimules volumes;
-    view::Command1_Click clique{etat, film, extensions, volumes, programmes, lance, boites};
-
     void SetUp() override { volumes.volumes = {{dossier.chemin("usb")}, {dossier.chemin("disque")}}; }
 };
 
@@ -90,10 +76,10 @@ TEST_F(Lanceur, OpensADocumentThroughTheDesktopAndNeverAsAProgram) {
 }
 
 TEST_F(Lanceur, TellsWhyADocumentWasNotOpened) {
-    boites.attendMsgBox("L'attente de la fin d'exécution d'un document n'est pas gérée !", dialogues::kExclamation);
-    EXPECT_FALSE(lance("/a/b.avi", false, "open", "", "", "2", true));
-    boites.attendMsgBox("Fichier /a/absent.avi inexistant !", dialogues::kCritique);
-    EXPECT_FALSE(lance("/a/absent.avi", true, "open", "", "", "2", false));
+    dialogues.attendMsgBox("L'attente de la fin d'exécution d'un document n'est pas gérée !", dialogues::kExclamation);
+    EXPECT_FALSE(lance("/a/b.avi", false, "", "", true));
+    dialogues.attendMsgBox("Fichier /a/absent.avi inexistant !", dialogues::kCritique);
+    EXPECT_FALSE(lance("/a/absent.avi", true, "", "", false));
     EXPECT_TRUE(documents.fichiers.empty());
     const std::pair<Ouverture, std::pair<const char*, int>> cas[] = {
         {Ouverture::SansMemoire, {"Le système manque de mémoire pour exécuter le fichier.", 16}},
@@ -102,28 +88,29 @@ TEST_F(Lanceur, TellsWhyADocumentWasNotOpened) {
         {Ouverture::Echouee, {"Le fichier /a/b.avi n'a pas pu être ouvert.", 16}}};
     for (const auto& [issue, boite] : cas) {
         documents.issue = issue;
-        boites.attendMsgBox(boite.first, boite.second);
+        dialogues.attendMsgBox(boite.first, boite.second);
         EXPECT_FALSE(document("\"/a/b.avi\""));
     }
 }
 
 TEST_F(Lanceur, RunsAProgramWithItsParametersInItsFolder) {
     const std::string chemin = dossier.ecrit("Le Rapatrix/Rapatrix.exe", "MZ");
-    EXPECT_TRUE(lance(dossier.chemin("le rapatrix\\rapatrix.EXE"), true, "open", "-x \"L'été $HOME\"", "", "1", false));
+    EXPECT_TRUE(lance(dossier.chemin("le rapatrix\\rapatrix.EXE"), true, "-x \"L'été $HOME\"", "", false));
     EXPECT_EQ(programmes.lances.at(0).arguments, (Mots{chemin, "-x", "L'été $HOME"}));
     EXPECT_EQ(programmes.lances[0].dossier, dossier.chemin("Le Rapatrix/"));
-    EXPECT_TRUE(lance("\"" + chemin + "\" -y", false, "", "", "/tmp", "2", true));
+    EXPECT_TRUE(lance("\"" + chemin + "\" -y", false, "", "/tmp", true));
     EXPECT_EQ(programmes.attendus.at(0).arguments, (Mots{chemin, "-y"}));
     EXPECT_EQ(programmes.attendus[0].dossier, "/tmp");
     EXPECT_TRUE(documents.fichiers.empty());
-    boites.attendMsgBox("Un guillemet n'est pas fermé dans les paramètres de " + chemin + ".", dialogues::kCritique);
-    EXPECT_FALSE(lance(chemin, false, "open", "\"oubli", "", "2", false));
+    dialogues.attendMsgBox("Un guillemet n'est pas fermé dans les paramètres de " + chemin + ".", dialogues::kCritique);
+    EXPECT_FALSE(lance(chemin, false, "\"oubli", "", false));
     programmes.issue = Lancement::PasUnProgramme;
     for (const bool attente : {false, true}) {
-        boites.attendMsgBox("Le programme " + chemin +
-                                " n'a pas pu être lancé : ce n'est pas un programme que cette machine sait exécuter.",
-                            dialogues::kCritique);
-        EXPECT_FALSE(lance(chemin, false, "open", "", "", "2", attente));
+        dialogues.attendMsgBox(
+            "Le programme " + chemin +
+                " n'a pas pu être lancé : ce n'est pas un programme que cette machine sait exécuter.",
+            dialogues::kCritique);
+        EXPECT_FALSE(lance(chemin, false, "", "", attente));
     }
 }
 
@@ -131,13 +118,20 @@ TEST_F(Lanceur, BreathesWhileItWaitsAndTheUserMayEndIt) {
     const std::string chemin = dossier.chemin("dormeur.exe");
     std::filesystem::copy_file(Temoin::programme(), chemin);
     systeme::ProgrammesSysteme vrais;
-    view::LanceFichier reel{vrais, documents, boites, ecran};
-    EXPECT_TRUE(reel(chemin, true, "open", "finit", "", "2", true));
-    ecran.souffles = 0;
-    ecran.arretApres = 3;
-    EXPECT_FALSE(reel(chemin, true, "open", "dort", "", "2", true)) << "it would never end by itself";
-    EXPECT_EQ(ecran.souffles, 3);
-    EXPECT_EQ(ecran.soufflesHorsTravail, 0);
+    programmes.vrais = &vrais;
+    EXPECT_TRUE(lance(chemin, true, "finit", "", true));
+    ecranMuet.souffles = 0;
+    ecranMuet.arretApres = 3;
+    EXPECT_FALSE(lance(chemin, true, "dort", "", true)) << "it would never end by itself";
+    EXPECT_EQ(ecranMuet.souffles, 3);
+    EXPECT_EQ(ecranMuet.soufflesHorsTravail, 0);
+}
+
+TEST_F(FichiersDuFilm, HaveAWindowThatComesToTheFrontEachTime) {
+    cmdFichiersFilm_Click(c);
+    EXPECT_TRUE(fichiers.Visible && fichiers.presentations == 2);
+    Command1_Click(c, 3);
+    EXPECT_FALSE(fichiers.Visible);
 }
 
 TEST_F(FichiersDuFilm, AreFoundOnTheVolumeWhereTheyNowAre) {
@@ -145,16 +139,16 @@ TEST_F(FichiersDuFilm, AreFoundOnTheVolumeWhereTheyNowAre) {
     const std::string ete = dossier.ecrit("disque/films/L'été.avi", "film");
     const std::string autre = dossier.ecrit("usb/b/c.mkv", "film");
     for (const int indice : {0, 1, 2})
-        clique(indice);
+        Command1_Click(c, indice);
     EXPECT_EQ(documents.fichiers, (Mots{ete, autre})) << "the third is empty";
     const std::string premier = dossier.ecrit("usb/Films/L'Été.AVI", "film");
-    clique(0);
+    Command1_Click(c, 0);
     EXPECT_EQ(documents.fichiers.back(), premier) << "the first volume wins";
 
     const std::string personnel = std::getenv("HOME") ? std::getenv("HOME") : "/";
     setenv("HOME", dossier.chemin("usb").c_str(), 1);
     film.fichiers[2] = "~/b/c.mkv";
-    clique(2);
+    Command1_Click(c, 2);
     setenv("HOME", personnel.c_str(), 1);
     EXPECT_EQ(documents.fichiers.back(), autre);
 }
@@ -165,9 +159,10 @@ TEST_F(FichiersDuFilm, WhatIsNowhereOrOnASilentVolumeOrAFolderIsNotFound) {
     volumes.volumes.push_back({dossier.chemin("disquette"), false});
     film.fichiers = {"A:\\a.avi", dossier.chemin("usb/absent.avi"), "dossier.avi"};
     for (const int indice : {0, 1, 2}) {
-        boites.attendMsgBox("Le fichier " + film.fichiers[static_cast<std::size_t>(indice)] + " n'a pas été trouvé !",
-                            dialogues::kCritique);
-        clique(indice);
+        dialogues.attendMsgBox(
+            "Le fichier " + film.fichiers[static_cast<std::size_t>(indice)] + " n'a pas été trouvé !",
+            dialogues::kCritique);
+        Command1_Click(c, indice);
     }
     EXPECT_TRUE(documents.fichiers.empty() && programmes.lances.empty());
 }
@@ -178,8 +173,8 @@ TEST_F(FichiersDuFilm, APathOfMegabytesIsLookedForNowhereAndShortenedInItsMessag
         debut += "..\\";
     while (film.fichiers[0].size() < 5'000'000)
         film.fichiers[0] += "..\\";
-    boites.attendMsgBox("Le fichier " + debut + ".… n'a pas été trouvé !", dialogues::kCritique);
-    clique(0);
+    dialogues.attendMsgBox("Le fichier " + debut + ".… n'a pas été trouvé !", dialogues::kCritique);
+    Command1_Click(c, 0);
 }
 
 TEST_F(FichiersDuFilm, OpenWithTheProgramOfTheirExtension) {
@@ -191,14 +186,14 @@ TEST_F(FichiersDuFilm, OpenWithTheProgramOfTheirExtension) {
     extensions.lignes[2] = {"vob", view::kLogicielParDefaut};
     film.fichiers = {nom, "-x.mkv", "a.vob"};
     for (const int indice : {0, 1, 2})
-        clique(indice);
+        Command1_Click(c, indice);
     EXPECT_EQ(programmes.lances.at(0).arguments, (Mots{"/usr/bin/lecteur", "--plein-écran", "--titre=Un été", film1}));
     EXPECT_EQ(programmes.lances.at(1).arguments, (Mots{logiciel, mkv})) << "a whole path, blanks included";
     EXPECT_EQ(documents.fichiers, Mots{vob});
 
     extensions.lignes[0][1] = R"(C:\Program Files\lecteur.exe)";
     programmes.issue = Lancement::Introuvable;
-    boites.attendMsgBox(R"(Le programme C:\Program Files\lecteur.exe n'a pas pu être lancé : il est introuvable.)",
-                        dialogues::kCritique);
-    clique(0);
+    dialogues.attendMsgBox(R"(Le programme C:\Program Files\lecteur.exe n'a pas pu être lancé : il est introuvable.)",
+                           dialogues::kCritique);
+    Command1_Click(c, 0);
 }

@@ -1,4 +1,4 @@
-#include "unit/browse/Fenetre.h"
+#include "unit/view/FenetreVue.h"
 #include "view/TouchesAffiche.h"
 #include "view/cmdRemplacerImage_Click.h"
 #include "view/cmdSauverImage_Click.h"
@@ -10,23 +10,10 @@ namespace {
 constexpr int kT = view::kTwipsParPixel, kF1 = 112, kPagePrecedente = 33, kPageSuivante = 34;
 const std::string kJpeg = "\xFF\xD8";  // how a picture begins
 
-class Visionneuse : public Fenetre {
+class Visionneuse : public FenetreVue {
   protected:
-    view::EtatAffiche etat;
-    view::Visionneuse visionneuse{etat, chemins};
-    browse::ChargeAffiche charge{fiche, afficheTemporaire, images, ecranMuet, &visionneuse};
-    browse::AfficheVolet volet{fiche, demandes, charge};
-    browse::AfficheFiche affiche{
-        base,           liste, fiche, panneaux, film, images, afficheTemporaire, affichePossession, modifieNoteFilm,
-        afficheAccueil, volet};
-    browse::TreeView1 titresDeLArbre{liste, affiche, dialogues};
-    view::TouchesAffiche touches{visionneuse, liste, film, affiche, demandes};
-    view::cmdRemplacerImage_Click remplacer{base,   stockage,          chemins, film,
-                                            images, afficheTemporaire, charge,  dialogues};
-
     void montreTitre(std::string_view titre) {
-        for (int i = 1; i <= liste.TreeView1.Nodes.Count(); ++i)
-            if (liste.TreeView1.Nodes.Text(i) == titre) titresDeLArbre.NodeClick(i);
+        clique(titre);
         ASSERT_EQ(film.titre, titre);
         visionneuse.montre();
     }
@@ -34,23 +21,23 @@ class Visionneuse : public Fenetre {
 };
 
 TEST_F(Visionneuse, IsDraggedAsFarAsThereIsSomethingToUncover) {
-    etat.largeurEcran = etat.hauteurEcran = 500 * kT;
+    affiche.largeurEcran = affiche.hauteurEcran = 500 * kT;
     chargeTaille(1000, 1000);
-    const int barre = etat.HScroll1.Height;
-    visionneuse.deplace(-100 * kT, -200 * kT);
-    EXPECT_EQ(etat.Picture1.Left, -100 * kT);
-    EXPECT_EQ(etat.Picture1.Top, barre - 200 * kT);
-    EXPECT_EQ(etat.HScroll1.Value, 20);
-    visionneuse.deplace(-9000 * kT, -9000 * kT);
-    EXPECT_EQ(etat.Picture1.Left, -500 * kT);
-    EXPECT_EQ(etat.Picture1.Top, 500 * kT - barre - 1000 * kT) << "its foot on the lower edge";
-    etat.HScroll1.Value = 100;
-    visionneuse.HScroll1_Change();
-    visionneuse.deplace(0, kT);
-    EXPECT_EQ(etat.Picture1.Top, barre - 999 * kT) << "from where the bar had brought it";
+    const int barre = affiche.HScroll1.Height;
+    deplaceAffiche(c, -100 * kT, -200 * kT);
+    EXPECT_EQ(affiche.Picture1.Left, -100 * kT);
+    EXPECT_EQ(affiche.Picture1.Top, barre - 200 * kT);
+    EXPECT_EQ(affiche.HScroll1.Value, 20);
+    deplaceAffiche(c, -9000 * kT, -9000 * kT);
+    EXPECT_EQ(affiche.Picture1.Left, -500 * kT);
+    EXPECT_EQ(affiche.Picture1.Top, 500 * kT - barre - 1000 * kT) << "its foot on the lower edge";
+    affiche.HScroll1.Value = 100;
+    HScroll1_Change(c);
+    deplaceAffiche(c, 0, kT);
+    EXPECT_EQ(affiche.Picture1.Top, barre - 999 * kT) << "from where the bar had brought it";
     chargeTaille(100, 100);
-    visionneuse.deplace(-50, -50);
-    EXPECT_EQ(etat.Picture1.Top, barre) << "all of it is seen";
+    deplaceAffiche(c, -50, -50);
+    EXPECT_EQ(affiche.Picture1.Top, barre) << "all of it is seen";
 }
 
 // Headings stand between the titles, and one at the end has lost its last film.
@@ -65,61 +52,71 @@ TEST_F(Visionneuse, StepsFromTitleToTitleOverTheHeadings) {
     ASSERT_TRUE(noeuds.estGroupe(noeuds.Count()));
     montreTitre("Alien");
 
-    touches.Picture1_KeyDown(kPageSuivante);
+    Picture1_KeyDown(c, kPageSuivante);
     EXPECT_EQ(film.titre, "Été");
     EXPECT_EQ(liste.TreeView1.SelectedItem, liste.noeudChoisi);
     EXPECT_EQ(fiche.captionAffiche, "Été");
     EXPECT_EQ(dossier.lit("Tmp/ImageTMP.jpg"), kJpeg + "Été");
-    EXPECT_TRUE(etat.Visible);
+    EXPECT_TRUE(affiche.Visible);
     EXPECT_EQ(demandes.focus, "HScroll1");
-    EXPECT_EQ(etat.presentations, 2);
+    EXPECT_EQ(affiche.presentations, 2);
 
-    touches.HScroll1_KeyDown(kPageSuivante);
-    EXPECT_FALSE(etat.Visible) << "no title below";
+    HScroll1_KeyDown(c, kPageSuivante);
+    EXPECT_FALSE(affiche.Visible) << "no title below";
     EXPECT_EQ(film.titre, "Été") << "and the sheet's film stays the current one";
     visionneuse.montre();
-    touches.HScroll1_KeyDown(kPagePrecedente);
+    HScroll1_KeyDown(c, kPagePrecedente);
     EXPECT_EQ(film.titre, "Alien");
-    EXPECT_TRUE(etat.Visible);
-    touches.HScroll1_KeyDown(kPagePrecedente);
-    EXPECT_FALSE(etat.Visible) << "only headings above";
+    EXPECT_TRUE(affiche.Visible);
+    HScroll1_KeyDown(c, kPagePrecedente);
+    EXPECT_FALSE(affiche.Visible) << "only headings above";
 }
 
 TEST_F(Visionneuse, StepsStayHiddenWhereThereIsNothingToShow) {
     for (const int touche : {kPageSuivante, kPagePrecedente}) {
         visionneuse.montre();
-        touches.Picture1_KeyDown(touche);
-        EXPECT_FALSE(etat.Visible) << "empty tree " << touche;
+        Picture1_KeyDown(c, touche);
+        EXPECT_FALSE(affiche.Visible) << "empty tree " << touche;
     }
     ajouteFilm("Un", {{"Realisateur", "R"}});
     ajouteFilm("Deux", {{"Realisateur", "R"}});
     montre(browse::kZoneTous, browse::kTriTitre2);
     montreTitre("Deux");
     base.base.Execute("DELETE FROM Films WHERE Titre = 'Un'");
-    touches.HScroll1_KeyDown(kPageSuivante);
-    EXPECT_FALSE(etat.Visible) << "deleted meanwhile";
+    HScroll1_KeyDown(c, kPageSuivante);
+    EXPECT_FALSE(affiche.Visible) << "deleted meanwhile";
     EXPECT_FALSE(film.estUnFilm());
 }
 
 TEST_F(Visionneuse, KeysHideOrLeadToTheBar) {
     struct Cas {
-        void (view::TouchesAffiche::*touche)(int);
+        void (*touche)(const view::Contexte&, int);
         int code;
         bool visible;
         const char* focus;
     };
-    using Touches = view::TouchesAffiche;
     for (const Cas& cas :
-         {Cas{&Touches::Picture1_KeyDown, kF1, false, ""}, Cas{&Touches::Form_KeyDown, kF1, false, ""},
-          Cas{&Touches::HScroll1_KeyDown, kF1, true, ""}, Cas{&Touches::Picture1_KeyDown, 32, true, ""},
-          Cas{&Touches::Picture1_KeyDown, 35, true, "HScroll1"}, Cas{&Touches::Picture1_KeyDown, 40, true, "HScroll1"},
-          Cas{&Touches::Picture1_KeyDown, 41, true, ""}, Cas{&Touches::Form_KeyDown, 40, true, ""}}) {
+         {Cas{view::Picture1_KeyDown, kF1, false, ""}, Cas{view::frmAffiche_KeyDown, kF1, false, ""},
+          Cas{view::HScroll1_KeyDown, kF1, true, ""}, Cas{view::Picture1_KeyDown, 32, true, ""},
+          Cas{view::Picture1_KeyDown, 35, true, "HScroll1"}, Cas{view::Picture1_KeyDown, 40, true, "HScroll1"},
+          Cas{view::Picture1_KeyDown, 41, true, ""}, Cas{view::frmAffiche_KeyDown, 40, true, ""}}) {
         visionneuse.montre();
         demandes.focus.clear();
-        (touches.*cas.touche)(cas.code);
-        EXPECT_EQ(etat.Visible, cas.visible) << cas.code;
+        cas.touche(c, cas.code);
+        EXPECT_EQ(affiche.Visible, cas.visible) << cas.code;
         EXPECT_EQ(demandes.focus, cas.focus) << cas.code;
     }
+}
+
+TEST_F(Visionneuse, IsShownByAPictureAloneAndHiddenByAClick) {
+    fiche.Image1.vide = true;
+    Image1_Click(c);
+    EXPECT_FALSE(affiche.Visible);
+    fiche.Image1.vide = false;
+    Image1_Click(c);
+    EXPECT_TRUE(affiche.Visible);
+    Picture1_Click(c);
+    EXPECT_FALSE(affiche.Visible);
 }
 
 TEST_F(Visionneuse, TellsWhyThereIsNoPicture) {
@@ -127,10 +124,10 @@ TEST_F(Visionneuse, TellsWhyThereIsNoPicture) {
     ajouteFilm("Abîmée", {{"Realisateur", "R"}, {"Affiche", dao::Valeur::octets("STOrien")}});
     montre(browse::kZoneTous, browse::kTriTitre2);
     montreTitre("Sans");
-    EXPECT_EQ(etat.lblTaille.Caption, "Pas d'image");
+    EXPECT_EQ(affiche.lblTaille.Caption, "Pas d'image");
     montreTitre("Abîmée");
-    EXPECT_EQ(etat.lblTaille.Caption, "Image illisible ou trop grande");
-    EXPECT_TRUE(etat.Picture1.vide);
+    EXPECT_EQ(affiche.lblTaille.Caption, "Image illisible ou trop grande");
+    EXPECT_TRUE(affiche.Picture1.vide);
 }
 
 TEST_F(Visionneuse, SavesThePosterWhereTheUserSays) {
@@ -143,7 +140,7 @@ TEST_F(Visionneuse, SavesThePosterWhereTheUserSays) {
             dialogues.attendMsgBox("Fichier sauvegardé.", 64, dialogues::kOk, kTitre);
         else if (!reponse.empty())
             dialogues.attendMsgBox("Erreur lors de la sauvegarde.", 16, dialogues::kOk, kTitre);
-        const std::string fichier = view::cmdSauverImage_Click(fiche, chemins, dialogues);
+        const std::string fichier = cmdSauverImage_Click(c);
         dialogues.verifie();
         return fichier;
     };
@@ -165,8 +162,8 @@ class Remplacement : public Visionneuse {
             ajouteFilm("A/B",
                        {{"Realisateur", realisateur}, {"Affiche", dao::Valeur::octets("STO" + kJpeg + "vieille")}});
         montre(browse::kZoneTous, browse::kTriTitre2);
-        titresDeLArbre.NodeClick(1);
-        if (film.realisateur == "L'autre") titresDeLArbre.NodeClick(2);
+        TreeView1_NodeClick(c, 1);
+        if (film.realisateur == "L'autre") TreeView1_NodeClick(c, 2);
     }
     void choisit(const std::string& chemin) {
         dialogues.attendFichier({"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", chemins.dossier}, chemin);
@@ -174,7 +171,7 @@ class Remplacement : public Visionneuse {
     void refuse(const std::string& chemin, const std::string& message) {
         choisit(chemin);
         dialogues.attendMsgBox(message, dialogues::kExclamation);
-        remplacer();
+        cmdRemplacerImage_Click(c);
         dialogues.verifie();
         EXPECT_EQ(colonne("Moi \"\"je\"\": R"), "STO" + kJpeg + "vieille") << message;
         EXPECT_EQ(dossier.lit("Tmp/ImageTMP.jpg"), kJpeg + "vieille") << message;
@@ -190,7 +187,7 @@ TEST_F(Remplacement, KeepsTheNewPosterAsTheStorageSays) {
     const std::string nouvelle = kJpeg + "nouvelle";
     const std::string chemin = dossier.ecrit("choisie.jpg", nouvelle);
     choisit(chemin);
-    remplacer();
+    cmdRemplacerImage_Click(c);
     EXPECT_EQ(colonne("Moi \"\"je\"\": R"), "STO" + nouvelle);
     EXPECT_EQ(film.affiche, "STO");
     EXPECT_EQ(dossier.lit("Tmp/ImageTMP.jpg"), nouvelle);
@@ -198,15 +195,15 @@ TEST_F(Remplacement, KeepsTheNewPosterAsTheStorageSays) {
     ecran::choisit(stockage.Option3, 1);
     const std::string large = kJpeg + std::string(300000, 'x');
     choisit(dossier.ecrit("choisie.jpg", large));
-    remplacer();
+    cmdRemplacerImage_Click(c);
     EXPECT_EQ(colonne("Moi \"\"je\"\": R"), "JPGMoi je R - AB.jpg") << "the director first";
     EXPECT_EQ(dossier.lit("Images/Moi je R - AB.jpg"), large);
     EXPECT_EQ(film.affiche, "JPGMoi je R - AB.jpg");
 
     choisit(dossier.chemin("Images/Moi je R - AB.jpg"));  // its own file, then the temporary one
-    remplacer();
+    cmdRemplacerImage_Click(c);
     choisit(chemins.afficheTmp);
-    remplacer();
+    cmdRemplacerImage_Click(c);
     EXPECT_EQ(dossier.lit("Images/Moi je R - AB.jpg"), large);
     EXPECT_EQ(dossier.lit("Tmp/ImageTMP.jpg"), large);
     EXPECT_EQ(colonne("L'autre"), "STO" + kJpeg + "vieille") << "the other film of that title";
@@ -219,7 +216,7 @@ TEST_F(Remplacement, NoOtherFilmsPosterChanges) {
     base.base.Execute("UPDATE Films SET Affiche = 'JPGMoi je R - AB.jpg' WHERE Realisateur = 'L''autre'");
     const auto remplace = [&](const std::string& octets) {
         choisit(dossier.ecrit("choisie.jpg", kJpeg + octets));
-        remplacer();
+        cmdRemplacerImage_Click(c);
         return colonne("Moi \"\"je\"\": R");
     };
     EXPECT_EQ(remplace("1"), "JPGMoi je R - AB (2).jpg");
@@ -233,7 +230,7 @@ TEST_F(Remplacement, NoOtherFilmsPosterChanges) {
 
 TEST_F(Remplacement, ARefusedOneLeavesEverythingAsItWas) {
     choisit("");
-    remplacer();
+    cmdRemplacerImage_Click(c);
     refuse(dossier.chemin("absente.jpg"), "Image inexistante !");
     std::filesystem::create_directory(dossier.chemin("x.jpg"));
     refuse(dossier.chemin("x.jpg"), "Image inexistante !");
@@ -253,7 +250,7 @@ TEST_F(Remplacement, ARefusedOneLeavesEverythingAsItWas) {
     base.base.Execute("DELETE FROM Films WHERE Realisateur LIKE 'Moi%'");
     choisit(dossier.chemin("bonne.jpg"));
     dialogues.attendMsgBox("Film non trouvé !", dialogues::kExclamation);
-    remplacer();
+    cmdRemplacerImage_Click(c);
 }
 
 }  // namespace
