@@ -1,12 +1,8 @@
-#include "doubles/DialoguesScript.h"
-#include "doubles/DocumentsEnregistres.h"
-#include "doubles/EcranMuet.h"
-#include "doubles/ProgrammesSimules.h"
 #include "export/ListeDesTitres.h"
 #include "export/TexteFiche.h"
 #include "export/cmdCreeFichierTxt_Click.h"
 #include "export/cmdCreerListe_Click.h"
-#include "unit/edit/BaseDEssai.h"
+#include "unit/export/FenetreExport.h"
 
 #include <filesystem>
 
@@ -27,162 +23,139 @@ INSERT INTO Personnel (Titre2, Realisateur2, Rangement, Divers, Support) VALUES
   ('Dites "33"', 'Léonce Perret', '', 'a', 'K7');
 )";
 
-struct Commandes : testing::Test {
+class Commandes : public FenetreExport {
+  protected:
     Commandes() {
         film.cle = "K1";
         film.titre = "Alien : \"le\" 8e/passager";
     }
     void attendQuestions(int enRTF, int parGenre) {
-        boites.attendMsgBox(
+        dialogues.attendMsgBox(
             "Souhaitez-vous créer un fichier RTF (texte riche) ?\n\nDans le cas contraire, un simple fichier texte "
             "sera "
             "créé.",
             dialogues::kQuestion, enRTF);
-        boites.attendMsgBox(
+        dialogues.attendMsgBox(
             "Souhaitez-vous trier les titres par genre ?\n\nDans le cas contraire, un simple tri alphanumérique sera "
             "appliqué.",
             dialogues::kQuestion, parGenre);
     }
-    void attendNom(const std::string& reponse) {
-        boites.attendInputBox("Entrez le chemin et le nom du fichier à créer (sans l'extension)..\nExemple : C:\\FILMS",
-                              reponse, exportation::kTitreListe);
-    }
     void attendFiche(const std::string& reponse) {
-        boites.attendInputBox("Entrez le chemin de destination du fichier texte.", reponse, "Créer un fichier texte",
-                              "Alien : \"le\" 8e/passager.txt");
+        dialogues.attendInputBox("Entrez le chemin de destination du fichier texte.", reponse, "Créer un fichier texte",
+                                 "Alien : \"le\" 8e/passager.txt");
     }
-
-    doubles::BaseDEssai essai;
-    const doubles::DossierTemporaire& dossier = essai.dossier;
-    db::Chemins chemins = db::Chemins::depuis(dossier.chemin());
-    doubles::DialoguesScript boites;
-    doubles::EcranMuet ecran;
-    doubles::DocumentsEnregistres documents;
-    doubles::ProgrammesSimules programmes;
-    exportation::EtatNom nom;
-    ecran::EtatAvis etat;
-    ecran::Avis avis{etat};
-    ecran::Progression progression;
-    browse::EtatFiche fiche;
-    browse::FilmCourant film;
-    view::LanceFichier lanceFichier{programmes, documents, boites, ecran};
-    exportation::DernierExport dernier{avis, lanceFichier, documents, boites};
-    exportation::CreeFichierRTF rtf{essai.base, chemins, nom, progression, ecran, boites, dernier, lanceFichier};
-    exportation::cmdCreeFichierTxt_Click cmdCreeFichierTxt{film, fiche, chemins, dernier, boites};
-    exportation::cmdCreerListe_Click cmdCreerListe{
-        {essai.base, chemins, boites, ecran, progression}, rtf, dernier, lanceFichier};
 };
 
 TEST_F(Commandes, TheSheetGoesExactlyWhereTheUserSays) {
     fiche.Text1.Text = "Été";
     attendFiche(dossier.chemin("Été.fiche"));
-    boites.attendMsgBox("Fichier créé !", dialogues::kInformation, dialogues::kOk, "Créer un fichier texte");
-    cmdCreeFichierTxt();
+    dialogues.attendMsgBox("Fichier créé !", dialogues::kInformation, dialogues::kOk, "Créer un fichier texte");
+    cmdCreeFichierTxt_Click(c);
     EXPECT_EQ(dossier.lit("Été.fiche"), exportation::texteFiche(film.titre, fiche));
-    EXPECT_EQ(etat.lblAvis.Caption, "Fichier créé : " + dossier.chemin("Été.fiche"));
+    EXPECT_EQ(etatAvis.lblAvis.Caption, "Fichier créé : " + dossier.chemin("Été.fiche"));
     avis.cmdAvis_Click(0);
     avis.cmdAvis_Click(1);
     EXPECT_THAT(documents.fichiers, ElementsAre(dossier.chemin("Été.fiche"), dossier.chemin()));
     documents.issue = systeme::Ouverture::SansAssociation;
-    boites.attendMsgBox("Le dossier " + dossier.chemin() + " n'a pas pu être ouvert.", dialogues::kExclamation);
+    dialogues.attendMsgBox("Le dossier " + dossier.chemin() + " n'a pas pu être ouvert.", dialogues::kExclamation);
     avis.cmdAvis_Click(1);
-    EXPECT_TRUE(etat.frameAvis.Visible);
+    EXPECT_TRUE(etatAvis.frameAvis.Visible);
 }
 
 // A path of Windows is no name of a file here: it asks for a place, and given up it can be typed again.
 TEST_F(Commandes, ANameAloneLandsInTheProgramFolderAndAPathOfWindowsAsksForAPlace) {
     const auto cree = [this](const char* fichier) {
-        boites.attendMsgBox("Fichier créé !", dialogues::kInformation, dialogues::kOk, "Créer un fichier texte");
-        cmdCreeFichierTxt();
+        dialogues.attendMsgBox("Fichier créé !", dialogues::kInformation, dialogues::kOk, "Créer un fichier texte");
+        cmdCreeFichierTxt_Click(c);
         EXPECT_EQ(dossier.lit(fichier), exportation::texteFiche(film.titre, fiche));
-        EXPECT_EQ(etat.lblAvis.Caption, "Fichier créé : " + dossier.chemin(fichier));
+        EXPECT_EQ(etatAvis.lblAvis.Caption, "Fichier créé : " + dossier.chemin(fichier));
     };
     attendFiche("Été.txt");
     cree("Été.txt");
     dialogues::DemandeFichier place{"Créer un fichier texte", "Fichiers TXT|*.txt", "", true, "Alien.txt"};
     attendFiche("C:\\Mes films\\Alien.txt");
-    boites.attendFichier(place, "");
-    boites.attendInputBox("Entrez le chemin de destination du fichier texte.", "D:/Alien.txt", "Créer un fichier texte",
-                          "C:\\Mes films\\Alien.txt");
-    boites.attendFichier(place, dossier.chemin("choisi.txt"));
+    dialogues.attendFichier(place, "");
+    dialogues.attendInputBox("Entrez le chemin de destination du fichier texte.", "D:/Alien.txt",
+                             "Créer un fichier texte", "C:\\Mes films\\Alien.txt");
+    dialogues.attendFichier(place, dossier.chemin("choisi.txt"));
     cree("choisi.txt");
 
-    essai.base.base.Execute(kFilms);
+    base.base.Execute(kFilms);
     attendQuestions(kNon, kNon);
     attendNom("C:\\FILMS");
     place = {exportation::kTitreListe, "Fichiers TXT|*.txt", "", true, "FILMS.txt"};
-    boites.attendFichier(place, dossier.chemin("FILMS.txt"));
-    boites.attendMsgBox("Le fichier texte " + dossier.chemin("FILMS.txt") +
-                            " a été créé.\nLes séparateurs de champs étant des tabulations, réglez-les avec votre "
-                            "traitement de texte.",
-                        dialogues::kInformation, dialogues::kOk, exportation::kTitreListe);
-    cmdCreerListe();
+    dialogues.attendFichier(place, dossier.chemin("FILMS.txt"));
+    dialogues.attendMsgBox("Le fichier texte " + dossier.chemin("FILMS.txt") +
+                               " a été créé.\nLes séparateurs de champs étant des tabulations, réglez-les avec votre "
+                               "traitement de texte.",
+                           dialogues::kInformation, dialogues::kOk, exportation::kTitreListe);
+    cmdCreerListe_Click(c);
     EXPECT_THAT(documents.fichiers, ElementsAre(dossier.chemin("FILMS.txt")));
     EXPECT_FALSE(dossier.existe("C:\\FILMS.txt") || dossier.existe("FILMS.txt.txt"));
 }
 
 TEST_F(Commandes, ASheetWithoutANameOrAPlaceBringsNoMoreBox) {
     attendFiche("");
-    cmdCreeFichierTxt();
-    EXPECT_FALSE(etat.frameAvis.Visible);
+    cmdCreeFichierTxt_Click(c);
+    EXPECT_FALSE(etatAvis.frameAvis.Visible);
     dossier.ecrit("x/y.txt", "avant");
     attendFiche(dossier.chemin("x"));
-    cmdCreeFichierTxt();
-    EXPECT_EQ(etat.lblAvis.Caption, "Le fichier " + dossier.chemin("x") + " n'a pas pu être écrit.");
-    EXPECT_FALSE(etat.cmdAvis[0].Visible || etat.cmdAvis[1].Visible);
+    cmdCreeFichierTxt_Click(c);
+    EXPECT_EQ(etatAvis.lblAvis.Caption, "Le fichier " + dossier.chemin("x") + " n'a pas pu être écrit.");
+    EXPECT_FALSE(etatAvis.cmdAvis[0].Visible || etatAvis.cmdAvis[1].Visible);
     EXPECT_EQ(dossier.lit("x/y.txt"), "avant");
     film = {};
-    cmdCreeFichierTxt();  // no film is shown: nothing to write
+    cmdCreeFichierTxt_Click(c);  // no film is shown: nothing to write
 }
 
 TEST_F(Commandes, TheListHoldsTheOwnedTitlesInTheirOrder) {
-    essai.base.base.Execute(kFilms);
+    base.base.Execute(kFilms);
     const std::string perret = "\tDites \"33\"\tLéonce Perret\t", ete = "\tÉté violent\tValerio Zurlini\t",
                       oedipe = "\tŒdipe roi\tPier Paolo Pasolini\t";
     attendQuestions(kNon, kNon);
     attendNom(dossier.chemin("Films.2026"));
-    boites.attendMsgBox("Le fichier texte " + dossier.chemin("Films.2026.txt") +
-                            " a été créé.\nLes séparateurs de champs étant des tabulations, réglez-les avec votre "
-                            "traitement de texte.",
-                        dialogues::kInformation, dialogues::kOk, exportation::kTitreListe);
-    ecran.pendantSouffle = [this] { EXPECT_TRUE(progression.Visible && progression.Max == 3); };
-    cmdCreerListe();
+    dialogues.attendMsgBox("Le fichier texte " + dossier.chemin("Films.2026.txt") +
+                               " a été créé.\nLes séparateurs de champs étant des tabulations, réglez-les avec votre "
+                               "traitement de texte.",
+                           dialogues::kInformation, dialogues::kOk, exportation::kTitreListe);
+    ecranMuet.pendantSouffle = [this] { EXPECT_TRUE(travaux.ProgressBar3.Visible && travaux.ProgressBar3.Max == 3); };
+    cmdCreerListe_Click(c);
     EXPECT_EQ(dossier.lit("Films.2026.txt"), "Il y a 3 titres personnels\r\n\r\n 1. " + perret +
                                                  "\t1933\t\ta\tK7\r\n 2. " + ete + "drame\t1959\t\t\t\r\n 3. " +
                                                  oedipe + "Drame\t1967\tÉtagère\tprêté\tDVD\r\n");
     EXPECT_THAT(documents.fichiers, ElementsAre(dossier.chemin("Films.2026.txt")));
-    EXPECT_EQ(ecran.souffles, 3);
-    EXPECT_EQ(ecran.soufflesHorsTravail, 0);
-    EXPECT_FALSE(progression.Visible);
+    EXPECT_EQ(ecranMuet.souffles, 3);
+    EXPECT_EQ(ecranMuet.soufflesHorsTravail, 0);
+    EXPECT_FALSE(travaux.ProgressBar3.Visible);
 }
 
 TEST_F(Commandes, TheListRefusesInItsOrderAndReplacesNothingByHalf) {
     attendQuestions(kNon, kNon);
-    boites.attendMsgBox("Aucun titre personnel !", dialogues::kExclamation);
-    cmdCreerListe();  // the file is not asked for
+    dialogues.attendMsgBox("Aucun titre personnel !", dialogues::kExclamation);
+    cmdCreerListe_Click(c);  // the file is not asked for
     attendQuestions(kOui, kOui);
     attendNom(dossier.chemin("liste"));
-    boites.attendMsgBox("Aucun titre personnel !", dialogues::kExclamation);
-    cmdCreerListe();
+    dialogues.attendMsgBox("Aucun titre personnel !", dialogues::kExclamation);
+    cmdCreerListe_Click(c);
 
-    essai.base.base.Execute(kFilms);
+    base.base.Execute(kFilms);
     dossier.ecrit("liste.txt", "avant");
     attendQuestions(kNon, kNon);
     attendNom("");
-    cmdCreerListe();
+    cmdCreerListe_Click(c);
     attendQuestions(kNon, kNon);
     attendNom(dossier.chemin("liste"));
-    ecran.arretApres = ecran.souffles + 2;
-    cmdCreerListe();  // stopped
-    ecran.arretApres = 0;
+    ecranMuet.arretApres = ecranMuet.souffles + 2;
+    cmdCreerListe_Click(c);  // stopped
+    ecranMuet.arretApres = 0;
     EXPECT_EQ(dossier.lit("liste.txt"), "avant");
-    EXPECT_FALSE(etat.frameAvis.Visible || progression.Visible);
+    EXPECT_FALSE(etatAvis.frameAvis.Visible || travaux.ProgressBar3.Visible);
     std::filesystem::create_directory(dossier.chemin("dossier.txt"));
     attendQuestions(kNon, kNon);
     attendNom(dossier.chemin("dossier"));
-    cmdCreerListe();
+    cmdCreerListe_Click(c);
     EXPECT_THAT(documents.fichiers, IsEmpty());
-    EXPECT_EQ(ecran.debuts, ecran.fins);
+    EXPECT_EQ(ecranMuet.debuts, ecranMuet.fins);
 }
 
 }  // namespace

@@ -1,11 +1,6 @@
 #include "db/Requete.h"
-#include "doubles/DialoguesScript.h"
-#include "doubles/DocumentsEnregistres.h"
-#include "doubles/EcranMuet.h"
-#include "doubles/ProgrammesSimules.h"
 #include "export/CreeFichierRTF.h"
-#include "unit/edit/BaseDEssai.h"
-#include "view/LanceFichier.h"
+#include "unit/export/FenetreExport.h"
 
 #include <filesystem>
 #include <set>
@@ -21,41 +16,24 @@ using testing::IsEmpty;
 constexpr const char* kParTitre = "titre2 asc";
 constexpr const char* kParGenre = "genre asc, titre asc";
 
-class CreeFichierRTFTest : public testing::Test, public doubles::BaseDEssai {
+class CreeFichierRTFTest : public FenetreExport {
   protected:
-    doubles::DialoguesScript boites;
-    doubles::EcranMuet ecran;
-    doubles::ProgrammesSimules programmes;
-    doubles::DocumentsEnregistres documents;
-    view::LanceFichier lanceFichier{programmes, documents, boites, ecran};
-    db::Chemins chemins = db::Chemins::depuis(dossier.chemin(""));
-    exportation::EtatNom nom;
-    ecran::Progression progression;
-    ecran::EtatAvis etatAvis;
-    ecran::Avis avis{etatAvis};
-    exportation::DernierExport dernier{avis, lanceFichier, documents, boites};
-    exportation::CreeFichierRTF creeFichierRTF{base, chemins, nom, progression, ecran, boites, dernier, lanceFichier};
+    static constexpr const char* kRealisateur = "Ada Verrières";
 
-    void possede(const std::string& titre, const Champs& film, const Champs& possession = {}) {
-        Champs champs{{"Titre", titre}, {"Realisateur", "Ada Verrières"}};
-        champs.insert(champs.end(), film.begin(), film.end());
-        ajoute(base.films, champs);
-        champs = {{"Titre2", titre}, {"Realisateur2", "Ada Verrières"}};
-        champs.insert(champs.end(), possession.begin(), possession.end());
-        ajoute(base.personnel, champs);
-    }
-    void attendFichier(const std::string& reponse) {
-        boites.attendInputBox("Entrez le chemin et le nom du fichier à créer (sans l'extension)..\nExemple : C:\\FILMS",
-                              reponse, "Créer la liste des titres");
+    void possede(const char* titre, Ligne champs, const Ligne& possession = {}) {
+        champs.emplace_back("Realisateur", kRealisateur);
+        ajouteFilm(titre, champs);
+        Fenetre::possede(titre, kRealisateur, possession);
     }
     [[nodiscard]] std::string noms() const { return nom.lblNom1.Caption + nom.lblNom2.Caption; }
     [[nodiscard]] std::string liste() const { return dossier.lit("Été.rtf"); }
-    // All that stands in the folder but the base.
+    // All that stands in the folder but the base and "Tmp".
     [[nodiscard]] std::set<std::string> fichiersFaits() const {
         std::set<std::string> resultat;
         for (const auto& entree : std::filesystem::directory_iterator(dossier.chemin("")))
             resultat.insert(entree.path().filename());
-        resultat.erase("Films.mdb");
+        for (const char* autre : {"Films.mdb", "Tmp"})
+            resultat.erase(autre);
         return resultat;
     }
 };
@@ -64,11 +42,11 @@ TEST_F(CreeFichierRTFTest, TheOwnedTitlesAreWrittenAndOpened) {
     possede("L'œuvre", {{"Genre", "Drame"}, {"Resume", "Un résumé\nsur deux lignes \"et\" {plus}"}},
             {{"Support", "DVD"}});
     possede("Été", {{"Genre", "Comédie"}, {"Affiche", "STO\xFF\xD8"}});
-    ajouteFilm("Pas à moi", "R");
+    ajouteFilm("Pas à moi", {{"Realisateur", "R"}});
     dossier.ecrit("tmp.rtf", "d'une autre fois");
-    attendFichier(dossier.chemin("Été"));
-    boites.attendMsgBox("Le fichier RTF a été créé.", dialogues::kInformation);
-    EXPECT_EQ(creeFichierRTF(kParGenre, dialogues::kOui), dossier.chemin("Été.rtf"));
+    attendNom(dossier.chemin("Été"));
+    dialogues.attendMsgBox("Le fichier RTF a été créé.", dialogues::kInformation);
+    EXPECT_EQ(CreeFichierRTF(c, kParGenre, dialogues::kOui), dossier.chemin("Été.rtf"));
     EXPECT_THAT(documents.fichiers, ElementsAre(dossier.chemin("Été.rtf")));
     EXPECT_THAT(fichiersFaits(), ElementsAre("Été.rtf"));
     EXPECT_THAT(liste(),
@@ -81,29 +59,29 @@ TEST_F(CreeFichierRTFTest, TheOwnedTitlesAreWrittenAndOpened) {
 }
 
 TEST_F(CreeFichierRTFTest, TheNameIsAskedForBeforeTheTitlesAreLookedFor) {
-    attendFichier("");
-    EXPECT_EQ(creeFichierRTF(kParTitre, dialogues::kNon), "");
-    attendFichier(dossier.chemin("Été"));
-    boites.attendMsgBox("Aucun titre personnel !", dialogues::kExclamation);
-    EXPECT_EQ(creeFichierRTF(kParTitre, dialogues::kNon), "");
+    attendNom("");
+    EXPECT_EQ(CreeFichierRTF(c, kParTitre, dialogues::kNon), "");
+    attendNom(dossier.chemin("Été"));
+    dialogues.attendMsgBox("Aucun titre personnel !", dialogues::kExclamation);
+    EXPECT_EQ(CreeFichierRTF(c, kParTitre, dialogues::kNon), "");
     EXPECT_THAT(fichiersFaits(), IsEmpty());
-    attendFichier(dossier.chemin("Été"));
-    boites.attendMsgBox("Erreur (26) : Etablissement de requête", dialogues::kCritique);
-    EXPECT_THROW(creeFichierRTF("rien asc", dialogues::kNon), db::RequeteEchouee);
+    attendNom(dossier.chemin("Été"));
+    dialogues.attendMsgBox("Erreur (26) : Etablissement de requête", dialogues::kCritique);
+    EXPECT_THROW(CreeFichierRTF(c, "rien asc", dialogues::kNon), db::RequeteEchouee);
 }
 
 TEST_F(CreeFichierRTFTest, TheProgramNameShowsHowFarItIs) {
     for (const char* titre : {"A", "B", "C"})
         possede(titre, {});
     std::vector<std::string> vus;
-    ecran.pendantSouffle = [&] { vus.push_back(noms()); };
-    attendFichier(dossier.chemin("Été"));
-    boites.attendMsgBox("Le fichier RTF a été créé.", dialogues::kInformation);
-    creeFichierRTF(kParTitre, dialogues::kNon);
+    ecranMuet.pendantSouffle = [&] { vus.push_back(noms()); };
+    attendNom(dossier.chemin("Été"));
+    dialogues.attendMsgBox("Le fichier RTF a été créé.", dialogues::kInformation);
+    CreeFichierRTF(c, kParTitre, dialogues::kNon);
     EXPECT_THAT(vus, ElementsAre("33%", "66%", "100%", "Formatagedes genres", "Formatagedes titres",
                                  "Formatagedes réalisateurs", "Formatagedes durées", "Formatagedes acteurs",
                                  "Formatagedes résumés"));
-    EXPECT_EQ(ecran.soufflesHorsTravail, 0);
+    EXPECT_EQ(ecranMuet.soufflesHorsTravail, 0);
 }
 
 TEST_F(CreeFichierRTFTest, StoppedOrRefusedTheOldListStands) {
@@ -111,16 +89,16 @@ TEST_F(CreeFichierRTFTest, StoppedOrRefusedTheOldListStands) {
     possede("B", {});
     dossier.ecrit("Été.rtf", "l'ancienne");
     for (const int souffle : {1, 4}) {  // among the films, then between two pairs of tags
-        ecran.souffles = 0;
-        ecran.arretApres = souffle;
-        attendFichier(dossier.chemin("Été"));
-        EXPECT_EQ(creeFichierRTF(kParTitre, dialogues::kNon), "");
-        EXPECT_EQ(ecran.souffles, souffle);
+        ecranMuet.souffles = 0;
+        ecranMuet.arretApres = souffle;
+        attendNom(dossier.chemin("Été"));
+        EXPECT_EQ(CreeFichierRTF(c, kParTitre, dialogues::kNon), "");
+        EXPECT_EQ(ecranMuet.souffles, souffle);
         EXPECT_EQ(noms(), "Ambrelis");
     }
-    ecran.arretApres = 0;
-    attendFichier(dossier.chemin("nulle part/Été"));
-    EXPECT_EQ(creeFichierRTF(kParTitre, dialogues::kNon), "");
+    ecranMuet.arretApres = 0;
+    attendNom(dossier.chemin("nulle part/Été"));
+    EXPECT_EQ(CreeFichierRTF(c, kParTitre, dialogues::kNon), "");
     EXPECT_EQ(noms(), "Ambrelis");
     EXPECT_EQ(liste(), "l'ancienne");
     EXPECT_THAT(fichiersFaits(), ElementsAre("Été.rtf"));
@@ -130,12 +108,12 @@ TEST_F(CreeFichierRTFTest, StoppedOrRefusedTheOldListStands) {
 TEST_F(CreeFichierRTFTest, AFilmDeletedMeanwhileIsLeftOut) {
     for (const char* titre : {"A", "B", "C"})
         possede(titre, {});
-    ecran.pendantSouffle = [&] {
-        if (ecran.souffles == 1) base.base.OpenRecordset("SELECT * FROM Films WHERE Titre = \"B\"").Delete();
+    ecranMuet.pendantSouffle = [&] {
+        if (ecranMuet.souffles == 1) base.base.OpenRecordset("SELECT * FROM Films WHERE Titre = \"B\"").Delete();
     };
-    attendFichier(dossier.chemin("Été"));
-    boites.attendMsgBox("Le fichier RTF a été créé.", dialogues::kInformation);
-    creeFichierRTF(kParTitre, dialogues::kNon);
+    attendNom(dossier.chemin("Été"));
+    dialogues.attendMsgBox("Le fichier RTF a été créé.", dialogues::kInformation);
+    CreeFichierRTF(c, kParTitre, dialogues::kNon);
     EXPECT_THAT(liste(),
                 testing::AllOf(HasSubstr(" A\\cf1"), testing::Not(HasSubstr(" B\\cf1")), HasSubstr(" C\\cf1")));
 }
