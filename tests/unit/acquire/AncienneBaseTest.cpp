@@ -1,13 +1,11 @@
+#include "acquire/AncienneInstallation.h"
 #include "acquire/ImporterAncienneBase.h"
+#include "acquire/LotImport.h"
 #include "db/ConversionJet.h"
 #include "doubles/CollectionJet.h"
-#include "doubles/DialoguesScript.h"
-#include "doubles/EcranMuet.h"
-#include "doubles/MontreFixe.h"
 #include "doubles/Mort.h"
 #include "parcours/Photo.h"
-#include "unit/db/RafraichissementNote.h"
-#include "unit/edit/BaseDEssai.h"
+#include "unit/acquire/FenetreAcquisition.h"
 
 #include <filesystem>
 
@@ -17,8 +15,7 @@
 namespace {
 
 using namespace std::string_literals;
-using doubles::BaseDEssai;
-using Lignes = std::vector<BaseDEssai::Champs>;
+using Lignes = std::vector<Ligne>;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -29,23 +26,13 @@ constexpr const char* kDossier = "Dossier de la précédente version";
 constexpr const char* kImages = "Mes affiches/";
 
 // An open base, and a previous installation with a base of ours and two pictures.
-struct AncienneBaseTest : testing::Test {
-    BaseDEssai essai;
+class AncienneBaseTest : public FenetreAcquisition {
+  protected:
     doubles::DossierTemporaire ancienne;
-    doubles::DialoguesScript dialogues;
-    doubles::EcranMuet ecran;
-    doubles::MontreFixe montre;
-    RafraichissementNote rafraichissement;
-    edit::EtatAjout ajout;
-    db::EtatStockage stockage;
-    db::Chemins chemins = db::Chemins::depuis(essai.dossier.chemin());
-    acquire::ImportAncienneBase import{{essai.base, chemins, ajout, stockage, dialogues, ecran, montre.montre()},
-                                       rafraichissement};
     std::string initial;  // folder that the box opens in
     std::string images = ancienne.chemin(kImages);
 
     AncienneBaseTest() {
-        std::filesystem::create_directory(chemins.dossierTmp);
         ancienne.ecrit("AMBRELIS.INI",
                        "1\r\nC:\\Vid\xE9o\\Mes Affiches\\\r\n 9000\r\n 6000\r\n 2\r\nC:\\Vid\xE9o\\FILMS.MDB\r\n");
         ancienne.ecrit(kImages + std::string("Été - R.jpg"), "image d'été");
@@ -56,22 +43,22 @@ struct AncienneBaseTest : testing::Test {
         const std::string chemin = ancienne.chemin("Films.mdb");
         std::filesystem::remove(chemin);
         dao::DBEngine::CreateDatabase(chemin, db::schema());
-        dao::Database base = dao::DBEngine::OpenDatabase(chemin);
-        remplit(base, films, possessions);
+        dao::Database ouverte = dao::DBEngine::OpenDatabase(chemin);
+        remplit(ouverte, films, possessions);
     }
-    static void remplit(dao::Database& base, const Lignes& films, const Lignes& possessions) {
-        dao::Transaction ensemble(base);
-        dao::Recordset lesFilms = base.OpenRecordset("Films"), lesPossessions = base.OpenRecordset("Personnel");
+    static void remplit(dao::Database& cible, const Lignes& films, const Lignes& possessions) {
+        dao::Transaction ensemble(cible);
+        dao::Recordset lesFilms = cible.OpenRecordset("Films"), lesPossessions = cible.OpenRecordset("Personnel");
         for (const auto& film : films)
-            BaseDEssai::ajoute(lesFilms, film);
+            ajoute(lesFilms, film);
         for (const auto& possession : possessions)
-            BaseDEssai::ajoute(lesPossessions, possession);
+            ajoute(lesPossessions, possession);
         ensemble.confirme();
     }
-    static BaseDEssai::Champs film(const std::string& titre, const dao::Valeur& affiche = {}) {
+    static Ligne film(const std::string& titre, const dao::Valeur& affiche = {}) {
         return {{"Titre", titre}, {"Realisateur", "R"}, {"Affiche", affiche}};
     }
-    static BaseDEssai::Champs possession(const std::string& titre, const std::string& support = "") {
+    static Ligne possession(const std::string& titre, const std::string& support = "") {
         return {{"Titre2", titre}, {"Realisateur2", "R"}, {"Support", support}};
     }
     // So many films, each owned and with its own poster in the old base.
@@ -84,9 +71,9 @@ struct AncienneBaseTest : testing::Test {
         anciens(films, possessions);
     }
 
-    void attendChoix(const std::string& dossier) {
+    void attendChoix(const std::string& choisi) {
         dialogues.attendMsgBox(kQuestion, dialogues::kQuestion, dialogues::kOui);
-        dialogues.attendDossier(kDossier, std::exchange(initial, dossier), dossier);
+        dialogues.attendDossier(kDossier, std::exchange(initial, choisi), choisi);
     }
     void attendAccord(int reponse = dialogues::kOui) {
         dialogues.attendMsgBox(origine() + "\n\nSouhaitez-vous importer cette base ?", dialogues::kQuestion, reponse);
@@ -100,15 +87,15 @@ struct AncienneBaseTest : testing::Test {
         attendChoix(ancienne.chemin());
         attendAccord();
         dialogues.attendMsgBox(rapport + "\n" + origine(), dialogues::kInformation);
-        import.Command13_Click();
+        proposeImportAncienneBase(c);
         dialogues.verifie();
         EXPECT_EQ(ancienne.contenu(), avant);
         EXPECT_TRUE(std::filesystem::is_empty(chemins.dossierTmp));
-        EXPECT_EQ(ecran.soufflesHorsTravail, 0);
-        EXPECT_FALSE(ajout.ProgressBar1.Visible || essai.base.base.enTransaction());
+        EXPECT_EQ(ecranMuet.soufflesHorsTravail, 0);
+        EXPECT_FALSE(ajout.ProgressBar1.Visible || base.base.enTransaction());
     }
-    [[nodiscard]] parcours::Photo photo() const { return parcours::Photo(essai.dossier.chemin("Films.mdb")); }
-    [[nodiscard]] std::string image(const std::string& nom) { return essai.dossier.lit("Images/" + nom); }
+    [[nodiscard]] parcours::Photo photo() const { return parcours::Photo(chemins.base); }
+    [[nodiscard]] std::string image(const std::string& nom) { return dossier.lit("Images/" + nom); }
 };
 
 TEST_F(AncienneBaseTest, FindsTheBaseAndThePosters) {
@@ -128,9 +115,9 @@ TEST_F(AncienneBaseTest, FindsTheBaseAndThePosters) {
     };
     for (const auto& un : cas) {
         ancienne.ecrit("AMBRELIS.INI", "0\r\n" + un.images + "\r\n0\r\n0\r\n0\r\n" + un.base + "\r\n");
-        std::string dossier = ancienne.chemin();
-        dossier.pop_back();
-        const auto trouvee = acquire::AncienneInstallation::dans(dossier);
+        std::string lieu = ancienne.chemin();
+        lieu.pop_back();
+        const auto trouvee = acquire::AncienneInstallation::dans(lieu);
         EXPECT_EQ(trouvee.dossierImages, ancienne.chemin(un.imagesVues)) << un.images;
         EXPECT_EQ(trouvee.base, un.baseVue.starts_with('/') ? un.baseVue : ancienne.chemin(un.baseVue)) << un.base;
     }
@@ -138,30 +125,30 @@ TEST_F(AncienneBaseTest, FindsTheBaseAndThePosters) {
 
     // What is named and is not there; a file is no folder, nor a folder or a pipe a file.
     ASSERT_EQ(mkfifo(ancienne.chemin("tube.mdb").c_str(), 0600), 0);
-    for (const auto& [lesImages, base] :
+    for (const auto& [lesImages, ancienneBase] :
          {std::pair("C:\\", "C:\\Ambrelis\\Partie.mdb"), {"Films.mdb", "Images"}, {"/nulle/part", "tube.mdb"}}) {
-        ancienne.ecrit("AMBRELIS.INI", "0\r\n"s + lesImages + "\r\n0\r\n0\r\n0\r\n" + base + "\r\n");
+        ancienne.ecrit("AMBRELIS.INI", "0\r\n"s + lesImages + "\r\n0\r\n0\r\n0\r\n" + ancienneBase + "\r\n");
         const auto trouvee = acquire::AncienneInstallation::dans(ancienne.chemin());
         EXPECT_EQ(trouvee.base + trouvee.dossierImages, "");
-        EXPECT_EQ(trouvee.baseAbsente, base);
+        EXPECT_EQ(trouvee.baseAbsente, ancienneBase);
         EXPECT_EQ(trouvee.imagesAbsentes, lesImages);
     }
 }
 
 TEST_F(AncienneBaseTest, CarriesEveryFieldAsItIs) {
     const std::string longTitre = "L'œuvre \"10\" " + std::string(200, 'o');
-    const BaseDEssai::Champs complet{{"Titre", longTitre},
-                                     {"Realisateur", "Agnès Varda"},
-                                     {"Annee", "vers 1983"},
-                                     {"Origine", dao::Valeur()},
-                                     {"Genre", ""},
-                                     {"Duree", "2H13 environ"},
-                                     {"Acteurs", std::string(300, 'a')},
-                                     {"Resume", "Un été.\r\nUn hiver."},
-                                     {"Note", 85},
-                                     {"DateAjout", "12/03/2004"},
-                                     {"Affiche", dao::Valeur::octets("STO" + std::string(300000, '\0'))}};
-    const BaseDEssai::Champs possede{
+    const Ligne complet{{"Titre", longTitre},
+                        {"Realisateur", "Agnès Varda"},
+                        {"Annee", "vers 1983"},
+                        {"Origine", dao::Valeur()},
+                        {"Genre", ""},
+                        {"Duree", "2H13 environ"},
+                        {"Acteurs", std::string(300, 'a')},
+                        {"Resume", "Un été.\r\nUn hiver."},
+                        {"Note", 85},
+                        {"DateAjout", "12/03/2004"},
+                        {"Affiche", dao::Valeur::octets("STO" + std::string(300000, '\0'))}};
+    const Ligne possede{
         {"Titre2", longTitre}, {"Realisateur2", "Agnès Varda"}, {"Fichier2", "D:\\Films\\x.avi"}, {"Pret", "Zoé"},
         {"Date", "hier"},      {"Divers", std::string(80, 'd')}};
     anciens({complet, film("Été", "JPGÉTÉ - R.jpg"), film("Grande", "JPGgrande.jpg"), film("Sans", "JPGsans.jpg"),
@@ -169,7 +156,7 @@ TEST_F(AncienneBaseTest, CarriesEveryFieldAsItIs) {
             {possede});
     importe("5 films ajoutés, dont 1 possédé.\n1 image non trouvée.\n1 image trop grande pour la base.");
     EXPECT_THAT(photo().depuis(parcours::Photo(ancienne.chemin("Films.mdb"))), ElementsAre("*Films : Été de R"));
-    const auto affiches = essai.colonne("Films", "Affiche");
+    const auto affiches = colonne("Films", "Affiche");
     EXPECT_THAT(std::vector(affiches.begin() + 1, affiches.end()),
                 ElementsAre("STOimage d'été", "JPGgrande.jpg", "JPGsans.jpg", "autre chose"));
     EXPECT_THAT(rafraichissement.appels,
@@ -177,7 +164,7 @@ TEST_F(AncienneBaseTest, CarriesEveryFieldAsItIs) {
 }
 
 TEST_F(AncienneBaseTest, AddsOnlyWhatIsNotThere) {
-    remplit(essai.base.base, {film("ALIEN "), film("Solaris"), film("Cœur")}, {possession("Solaris", "VHS")});
+    remplit(base.base, {film("ALIEN "), film("Solaris"), film("Cœur")}, {possession("Solaris", "VHS")});
     anciens({film("Alien"),
              film("Solaris"),
              film("Été"),
@@ -190,9 +177,9 @@ TEST_F(AncienneBaseTest, AddsOnlyWhatIsNotThere) {
     importe(
         "3 films ajoutés, dont 1 possédé.\n4 films déjà présents.\n2 films déjà présents sont maintenant "
         "possédés.\n1 possession reprise sans fiche de film.");
-    EXPECT_THAT(essai.colonne("Films", "Titre"), ElementsAre("ALIEN ", "Solaris", "Cœur", "Été", "Seul", "Seul"));
-    EXPECT_THAT(essai.colonne("Personnel", "Titre2"), ElementsAre("Solaris", "alien", "été", "Coeur", "Perdu"));
-    EXPECT_THAT(essai.colonne("Personnel", "Support"), ElementsAre("VHS", "DVD", "K7", "CD", "CD"));
+    EXPECT_THAT(colonne("Films", "Titre"), ElementsAre("ALIEN ", "Solaris", "Cœur", "Été", "Seul", "Seul"));
+    EXPECT_THAT(colonne("Personnel", "Titre2"), ElementsAre("Solaris", "alien", "été", "Coeur", "Perdu"));
+    EXPECT_THAT(colonne("Personnel", "Support"), ElementsAre("VHS", "DVD", "K7", "CD", "CD"));
 
     const parcours::Photo avant = photo();
     importe("0 film ajouté.\n7 films déjà présents.");
@@ -202,16 +189,16 @@ TEST_F(AncienneBaseTest, AddsOnlyWhatIsNotThere) {
 
 TEST_F(AncienneBaseTest, PutsThePostersInTheFolderOfNewOnes) {
     ecran::choisit(stockage.Option3, 1);
-    essai.dossier.ecrit("Images/Prise - R.jpg", "une autre image");
-    essai.dossier.ecrit("Images/Entame - R.jpg", "ent");  // what an import that was killed has left
-    std::filesystem::create_directories(essai.dossier.chemin("Images/Bloquée - R.jpg"));
+    dossier.ecrit("Images/Prise - R.jpg", "une autre image");
+    dossier.ecrit("Images/Entame - R.jpg", "ent");  // what an import that was killed has left
+    std::filesystem::create_directories(dossier.chemin("Images/Bloquée - R.jpg"));
     anciens(
         {film("Été", "JPGété - r.JPG"), film("Grande", "JPGgrande.JPG"), film("Dedans", dao::Valeur::octets("STOd")),
          film("Ded:ans", dao::Valeur::octets("STOd")), film("Prise", dao::Valeur::octets("STOp")),
          film("Entame", dao::Valeur::octets("STOentame")), film("Bloquée", "JPGgrande.JPG"), film("Sans", "JPG")},
         {});
     importe("8 films ajoutés.\n1 image non trouvée.");
-    EXPECT_THAT(essai.colonne("Films", "Affiche"),
+    EXPECT_THAT(colonne("Films", "Affiche"),
                 ElementsAre("JPGÉté - R.jpg", "JPGGrande - R.jpg", "JPGDedans - R.jpg", "JPGDedans - R.jpg",
                             "JPGPrise - R (2).jpg", "JPGEntame - R.jpg", "JPGBloquée - R (2).jpg", "JPG"));
     EXPECT_EQ(image("Été - R.jpg") + image("Dedans - R.jpg") + image("Prise - R.jpg") + image("Entame - R.jpg"),
@@ -220,39 +207,39 @@ TEST_F(AncienneBaseTest, PutsThePostersInTheFolderOfNewOnes) {
 }
 
 TEST_F(AncienneBaseTest, RefusesWhatCannotBeImported) {
-    const std::string base = ancienne.chemin("Films.mdb"), ici = essai.dossier.chemin("Tmp/..");
-    const auto refuse = [&](const std::string& dossier, const std::string& message) {
-        attendChoix(dossier);
+    const std::string ancienneBase = ancienne.chemin("Films.mdb"), ici = dossier.chemin("Tmp/..");
+    const auto refuse = [&](const std::string& lieu, const std::string& message) {
+        attendChoix(lieu);
         dialogues.attendMsgBox(message, dialogues::kExclamation);
-        import.Command13_Click();
+        proposeImportAncienneBase(c);
     };
     const auto illisible = [&](const std::string& raison) {
         attendChoix(ancienne.chemin());
         attendAccord();
-        dialogues.attendMsgBox("La base " + base + " n'a pas pu être lue.\n" + raison, dialogues::kCritique);
-        import.Command13_Click();
+        dialogues.attendMsgBox("La base " + ancienneBase + " n'a pas pu être lue.\n" + raison, dialogues::kCritique);
+        proposeImportAncienneBase(c);
     };
     dialogues.attendMsgBox(kQuestion, dialogues::kQuestion, dialogues::kNon);
-    import.Command13_Click();
+    proposeImportAncienneBase(c);
     attendChoix("");
-    import.Command13_Click();
+    proposeImportAncienneBase(c);
     ancienne.ecrit("AMBRELIS.INI", "");
     refuse(ancienne.chemin(), "Aucune base de données n'a été trouvée dans le dossier " + ancienne.chemin() + ".");
     refuse(ici, "Le dossier " + ici + " est celui d'Ambrelis : choisissez celui de la version précédente.");
-    std::filesystem::create_symlink(chemins.base, base);
-    refuse(ancienne.chemin(), "La base " + base + " est celle qui est ouverte : il n'y a rien à importer.");
-    std::filesystem::remove(base);
+    std::filesystem::create_symlink(chemins.base, ancienneBase);
+    refuse(ancienne.chemin(), "La base " + ancienneBase + " est celle qui est ouverte : il n'y a rien à importer.");
+    std::filesystem::remove(ancienneBase);
     images = "";
     ancienne.ecrit("Films.mdb", "ni l'une ni l'autre");
     illisible("Ce fichier n'est pas une base, ou il est endommagé.");
-    std::filesystem::remove(base);
-    dao::DBEngine::CreateDatabase(base, "CREATE TABLE Films (Titre TEXT)");
+    std::filesystem::remove(ancienneBase);
+    dao::DBEngine::CreateDatabase(ancienneBase, "CREATE TABLE Films (Titre TEXT)");
     illisible("La table « Personnel » n'existe pas dans la base.");
     doubles::BaseJet jet;
     jet.table("Films", {{"Titre"}});
     ancienne.ecrit("Films.mdb", jet.octets());
     illisible("Le champ « Realisateur » manque dans la table « Films ».");
-    EXPECT_THAT(essai.colonne("Films", "Titre"), IsEmpty());
+    EXPECT_THAT(colonne("Films", "Titre"), IsEmpty());
     EXPECT_THAT(rafraichissement.appels, IsEmpty());
     EXPECT_TRUE(std::filesystem::is_empty(chemins.dossierTmp));
 }
@@ -260,8 +247,8 @@ TEST_F(AncienneBaseTest, RefusesWhatCannotBeImported) {
 // What the settings name and is not there is asked for; nothing else is taken for it.
 TEST_F(AncienneBaseTest, AsksForWhatIsNotWhereTheSettingsSay) {
     anciens({film("Été", "JPGÉté - R.jpg")}, {});
-    const auto reglages = [&](const std::string& lesImages, const std::string& base) {
-        ancienne.ecrit("AMBRELIS.INI", "1\n" + lesImages + "\n\n\n\n" + base + "\n");
+    const auto reglages = [&](const std::string& lesImages, const std::string& ancienneBase) {
+        ancienne.ecrit("AMBRELIS.INI", "1\n" + lesImages + "\n\n\n\n" + ancienneBase + "\n");
     };
     const auto demandeBase = [&](int reponse) {
         attendChoix(ancienne.chemin());
@@ -270,10 +257,11 @@ TEST_F(AncienneBaseTest, AsksForWhatIsNotWhereTheSettingsSay) {
             "\nSouhaitez-vous indiquer où elle se trouve ?",
             dialogues::kQuestion, reponse);
     };
-    const auto choisitBase = [&](const std::string& base) {
+    const auto choisitBase = [&](const std::string& ancienneBase) {
         demandeBase(dialogues::kOui);
         dialogues.attendFichier(
-            {"Base de la précédente version", "Fichiers de base de données|*.mdb", ancienne.chemin(), false}, base);
+            {"Base de la précédente version", "Fichiers de base de données|*.mdb", ancienne.chemin(), false},
+            ancienneBase);
     };
     const auto demandeImages = [&](int reponse) {
         dialogues.attendMsgBox(
@@ -283,18 +271,18 @@ TEST_F(AncienneBaseTest, AsksForWhatIsNotWhereTheSettingsSay) {
     };
     reglages("E:\\Affiches", "D:\\Séries.mdb");
     demandeBase(dialogues::kNon);
-    import.Command13_Click();
+    proposeImportAncienneBase(c);
     choisitBase("");
-    import.Command13_Click();
+    proposeImportAncienneBase(c);
     choisitBase(ancienne.chemin("absente.mdb"));
     dialogues.attendMsgBox("Le fichier indiqué est inexistant !", dialogues::kExclamation);
-    import.Command13_Click();
+    proposeImportAncienneBase(c);
     choisitBase(ancienne.chemin("Films.mdb"));
     demandeImages(dialogues::kNon);
     images = "";
     attendAccord(dialogues::kNon);
-    import.Command13_Click();
-    EXPECT_EQ(essai.base.films.RecordCount(), 0);
+    proposeImportAncienneBase(c);
+    EXPECT_EQ(base.films.RecordCount(), 0);
 
     reglages("E:\\Affiches", "");
     attendChoix(ancienne.chemin());
@@ -303,8 +291,8 @@ TEST_F(AncienneBaseTest, AsksForWhatIsNotWhereTheSettingsSay) {
     dialogues.attendDossier("Dossier des images de la précédente version", ancienne.chemin(), images);
     attendAccord();
     dialogues.attendMsgBox("1 film ajouté.\n" + origine(), dialogues::kInformation);
-    import.Command13_Click();
-    EXPECT_THAT(essai.colonne("Films", "Affiche"), ElementsAre("STOimage d'été"));
+    proposeImportAncienneBase(c);
+    EXPECT_THAT(colonne("Films", "Affiche"), ElementsAre("STOimage d'été"));
 }
 
 // A picture that was not there at first is given to its film by a later import, which changes no other poster.
@@ -312,8 +300,8 @@ TEST_F(AncienneBaseTest, ASecondPassFillsThePostersThatAreMissing) {
     for (const std::size_t option : {0, 1}) {
         ecran::choisit(stockage.Option3, option);
         const std::string p = std::to_string(option);
-        remplit(essai.base.base, {film("Nu" + p), film("Autre" + p, "JPGà moi.jpg"), film("Vu" + p, "JPGvu.jpg")}, {});
-        essai.dossier.ecrit("Images/vu.jpg", "la mienne");
+        remplit(base.base, {film("Nu" + p), film("Autre" + p, "JPGà moi.jpg"), film("Vu" + p, "JPGvu.jpg")}, {});
+        dossier.ecrit("Images/vu.jpg", "la mienne");
         anciens({film("Nu" + p, "JPGété - r.jpg"), film("Autre" + p, "JPGété - r.jpg"), film("Vu" + p, "JPGvu.jpg"),
                  film("Absent" + p, "JPGabsent" + p + ".jpg")},
                 {});
@@ -323,7 +311,7 @@ TEST_F(AncienneBaseTest, ASecondPassFillsThePostersThatAreMissing) {
         importe("0 film ajouté.\n4 films déjà présents.\n1 image ajoutée à un film déjà présent.");
         importe("0 film ajouté.\n4 films déjà présents.");
     }
-    EXPECT_THAT(essai.colonne("Films", "Affiche"),
+    EXPECT_THAT(colonne("Films", "Affiche"),
                 ElementsAre("STOimage d'été", "JPGà moi.jpg", "JPGvu.jpg", "STOretrouvée", "JPGNu1 - R.jpg",
                             "JPGà moi.jpg", "JPGvu.jpg", "JPGAbsent1 - R.jpg"));
     EXPECT_EQ(image("Nu1 - R.jpg") + image("Absent1 - R.jpg") + image("vu.jpg"), "image d'étéretrouvéela mienne");
@@ -346,7 +334,7 @@ TEST_F(AncienneBaseTest, ReadsNoPictureOutsideItsFolder) {
     attendues.push_back("STOimage d'été");
     anciens(films, {});
     importe("11 films ajoutés.\n10 images non trouvées.");
-    EXPECT_EQ(essai.colonne("Films", "Affiche"), attendues);
+    EXPECT_EQ(colonne("Films", "Affiche"), attendues);
 }
 
 // The losses are told first, and kept beside the open base: nothing is written to the previous installation.
@@ -356,16 +344,17 @@ TEST_F(AncienneBaseTest, OfAProtectedAndDamagedJetBaseTakesWhatIsReadable) {
     std::string abimee = jet.octets();
     const std::size_t longue = abimee.find(std::string("\x01\x01\0\0LVAL", 8));
     ancienne.ecrit("Films.mdb", abimee.replace(longue, 1, 1, '\0'));
-    const std::string base = ancienne.chemin("Films.mdb"), pertes = essai.dossier.chemin("Films (pertes).txt");
+    const std::string ancienneBase = ancienne.chemin("Films.mdb"), pertes = dossier.chemin("Films (pertes).txt");
     const std::string detail =
         "- Ligne 1 (« Été 0 », Agnès Varda), champ « Resume » : un renvoi mène à une page "
         "étrangère.\n";
     const auto jusquALaQuestion = [&](int reponse) {
         attendChoix(ancienne.chemin());
         attendAccord();
-        dialogues.attendInputBox("La base " + base + " est protégée par un mot de passe. Quel est-il ?", "secret");
+        dialogues.attendInputBox("La base " + ancienneBase + " est protégée par un mot de passe. Quel est-il ?",
+                                 "secret");
         dialogues.attendMsgBox(
-            "La base " + base +
+            "La base " + ancienneBase +
                 " n'a pas pu être lue.\nLa base est endommagée : table \"films\", ligne 1, champ \"Resume\" : un "
                 "renvoi "
                 "mène à une page étrangère.\n\nCe qui est lisible : 3 films, 2 possessions, 3 affiches dans la "
@@ -375,8 +364,8 @@ TEST_F(AncienneBaseTest, OfAProtectedAndDamagedJetBaseTakesWhatIsReadable) {
             dialogues::kQuestion, reponse);
     };
     jusquALaQuestion(dialogues::kNon);
-    import.Command13_Click();
-    EXPECT_THAT(essai.colonne("Films", "Titre"), IsEmpty());
+    proposeImportAncienneBase(c);
+    EXPECT_THAT(colonne("Films", "Titre"), IsEmpty());
     EXPECT_FALSE(std::filesystem::exists(pertes));
     jusquALaQuestion(dialogues::kOui);
     dialogues.attendMsgBox(
@@ -384,34 +373,34 @@ TEST_F(AncienneBaseTest, OfAProtectedAndDamagedJetBaseTakesWhatIsReadable) {
         "Films.Format.\n" +
             origine(),
         dialogues::kInformation);
-    import.Command13_Click();
-    EXPECT_THAT(essai.colonne("Films", "Titre"), ElementsAre("Été 0", "Été 1", "Été 2"));
-    EXPECT_THAT(essai.dossier.lit("Films (pertes).txt"), testing::HasSubstr(detail));
+    proposeImportAncienneBase(c);
+    EXPECT_THAT(colonne("Films", "Titre"), ElementsAre("Été 0", "Été 1", "Été 2"));
+    EXPECT_THAT(dossier.lit("Films (pertes).txt"), testing::HasSubstr(detail));
     EXPECT_EQ(ancienne.lit("Films.mdb"), abimee);
     EXPECT_TRUE(std::filesystem::is_empty(chemins.dossierTmp));
-    EXPECT_EQ(ecran.soufflesHorsTravail, 0);
+    EXPECT_EQ(ecranMuet.soufflesHorsTravail, 0);
     dialogues.verifie();
     attendChoix(ancienne.chemin());
     attendAccord();
-    dialogues.attendInputBox("La base " + base + " est protégée par un mot de passe. Quel est-il ?", "");
-    import.Command13_Click();
+    dialogues.attendInputBox("La base " + ancienneBase + " est protégée par un mot de passe. Quel est-il ?", "");
+    proposeImportAncienneBase(c);
 }
 
 TEST_F(AncienneBaseTest, StoppedKeepsWhatWasAddedAndGoesOnNextTime) {
     nombreuxFilms(40);
     const std::string suite = "\nL'import a été interrompu : relancez-le pour ajouter le reste.";
-    ecran.arretApres = 1;
+    ecranMuet.arretApres = 1;
     importe("0 film ajouté." + suite);  // while the base is being read
     EXPECT_THAT(rafraichissement.appels, IsEmpty());
-    ecran.souffles = 0;
-    ecran.arretApres = 1000;
-    ecran.pendantSouffle = [&] {
+    ecranMuet.souffles = 0;
+    ecranMuet.arretApres = 1000;
+    ecranMuet.pendantSouffle = [&] {
         EXPECT_TRUE(ajout.ProgressBar1.Visible);
-        if (ajout.lblProgression.Caption == "Film 9") ecran.arretApres = ecran.souffles;
+        if (ajout.lblProgression.Caption == "Film 9") ecranMuet.arretApres = ecranMuet.souffles;
     };
     importe("10 films ajoutés, dont 10 possédés." + suite);
-    ecran.arretApres = 0;
-    ecran.pendantSouffle = nullptr;
+    ecranMuet.arretApres = 0;
+    ecranMuet.pendantSouffle = nullptr;
     importe("30 films ajoutés, dont 30 possédés.\n10 films déjà présents.");
     EXPECT_THAT(photo().depuis(parcours::Photo(ancienne.chemin("Films.mdb"))), IsEmpty());
 }
@@ -420,22 +409,22 @@ TEST_F(AncienneBaseTest, AFailureLeavesWholeLotsAndNoFileOfTheLotThatFailed) {
     const int lot = acquire::LotImport::kFiches;
     nombreuxFilms(lot + 20);
     ecran::choisit(stockage.Option3, 1);
-    ecran.pendantSouffle = [&] {  // the second lot meets a folder that is gone
-        if (ajout.ProgressBar1.Value == lot + 10) std::filesystem::remove_all(essai.dossier.chemin("Images"));
+    ecranMuet.pendantSouffle = [&] {  // the second lot meets a folder that is gone
+        if (ajout.ProgressBar1.Value == lot + 10) std::filesystem::remove_all(dossier.chemin("Images"));
     };
     attendChoix(ancienne.chemin());
     attendAccord();
-    const std::string chemin = essai.dossier.chemin("Images/Film " + std::to_string(lot + 10) + " - R.jpg");
+    const std::string chemin = dossier.chemin("Images/Film " + std::to_string(lot + 10) + " - R.jpg");
     dialogues.attendMsgBox("Le fichier image " + chemin + " n'a pas pu être écrit (Disque plein/Lecture seule ?)",
                            dialogues::kCritique);
     dialogues.attendMsgBox(std::to_string(lot) + " films ajoutés, dont " + std::to_string(lot) +
                                " possédés.\nL'import a été interrompu : relancez-le pour ajouter le reste.\n" +
                                origine(),
                            dialogues::kInformation);
-    import.Command13_Click();
-    EXPECT_EQ(essai.base.films.RecordCount(), lot);
-    EXPECT_EQ(essai.base.personnel.RecordCount(), lot);
-    EXPECT_FALSE(essai.dossier.existe("Images"));
+    proposeImportAncienneBase(c);
+    EXPECT_EQ(base.films.RecordCount(), lot);
+    EXPECT_EQ(base.personnel.RecordCount(), lot);
+    EXPECT_FALSE(dossier.existe("Images"));
 }
 
 // Each film that was stored has its holding and its poster; the next import adds the others.
@@ -444,22 +433,22 @@ TEST_F(AncienneBaseTest, KilledAnywhereItLosesNothing) {
     nombreuxFilms(lot + 30);
     ecran::choisit(stockage.Option3, 1);
     for (const int mort : {20, lot + 10}) {
-        essai.base.ferme();
+        base.ferme();
         EXPECT_TRUE(doubles::meurtEnRoute([&] {
-            essai.ouvre();
-            ecran.pendantSouffle = [&] {
+            ouvre();
+            ecranMuet.pendantSouffle = [&] {
                 if (ajout.ProgressBar1.Value == mort) doubles::meurs();
             };
             attendChoix(ancienne.chemin());
             attendAccord();
-            import.Command13_Click();
+            proposeImportAncienneBase(c);
         }));
-        essai.ouvre();
-        EXPECT_EQ(essai.base.films.RecordCount(), mort > lot ? lot : 0);
-        EXPECT_EQ(essai.base.personnel.RecordCount(), essai.base.films.RecordCount());
+        ouvre();
+        EXPECT_EQ(base.films.RecordCount(), mort > lot ? lot : 0);
+        EXPECT_EQ(base.personnel.RecordCount(), base.films.RecordCount());
     }
     importe("30 films ajoutés, dont 30 possédés.\n" + std::to_string(lot) + " films déjà présents.");
-    for (const std::string& affiche : essai.colonne("Films", "Affiche")) {
+    for (const std::string& affiche : colonne("Films", "Affiche")) {
         const std::string nom = affiche.substr(3);
         EXPECT_EQ("Film " + image(nom) + " - R.jpg", nom);
     }
@@ -473,18 +462,18 @@ TEST_F(AncienneBaseTest, TakesInRealJetInstallations) {
     for (const char* nom : {"Films-97", "Films-2000", "Films-2003-index", "Films-2003-remaniee"}) {
         std::filesystem::copy_file(donnees / (nom + std::string(".mdb")), ancienne.chemin("Films.mdb"),
                                    std::filesystem::copy_options::overwrite_existing);
-        const std::string temoin = essai.dossier.chemin("temoin.mdb");
+        const std::string temoin = dossier.chemin("temoin.mdb");
         ecran::Progression progression;
-        const db::IssueJet issue = db::ConversionJet(progression, ecran)(ancienne.chemin("Films.mdb"), temoin);
+        const db::IssueJet issue = db::ConversionJet(progression, ecranMuet)(ancienne.chemin("Films.mdb"), temoin);
         ASSERT_TRUE(issue.estFaite()) << nom;
         const parcours::Photo attendue(temoin);
         std::filesystem::remove(temoin);
         for (const std::size_t option : {0, 1}) {
-            essai.base.ferme();
+            base.ferme();
             std::filesystem::remove(chemins.base);
-            std::filesystem::remove_all(essai.dossier.chemin("Images"));
+            std::filesystem::remove_all(dossier.chemin("Images"));
             dao::DBEngine::CreateDatabase(chemins.base, db::schema());
-            essai.ouvre();
+            ouvre();
             ecran::choisit(stockage.Option3, option);
             importe(
                 "42 films ajoutés, dont 20 possédés.\n1 possession reprise sans fiche de film.\n1 image non trouvée." +

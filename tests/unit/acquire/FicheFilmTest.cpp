@@ -1,8 +1,8 @@
 #include "acquire/FicheFilm.h"
 #include "acquire/RapportImport.h"
 #include "acquire/cmdParcourir2_Click.h"
-#include "doubles/DialoguesScript.h"
 #include "doubles/Temoin.h"
+#include "unit/acquire/FenetreAcquisition.h"
 
 #include <filesystem>
 #include <string>
@@ -101,15 +101,13 @@ TEST(RapportImport, tellsOnlyWhatThereIs) {
                           "\nAlien\nLe Bon, La Brute\n- Fiche illisible :\n/f/c.film");
 }
 
-TEST(ChoixDossierFiches, countsTheSheetsOfTheFolderChosenOrTyped) {
-    const doubles::DossierTemporaire dossier, personnel;
-    doubles::DialoguesScript dialogues;
-    edit::EtatAjout ajout;
-    const db::Chemins chemins = db::Chemins::depuis(dossier.chemin());
-    acquire::ChoixDossierFiches choix(ajout, chemins, dialogues);
+class ChoixDossierFiches : public FenetreAcquisition {};
+
+TEST_F(ChoixDossierFiches, countsTheSheetsOfTheFolderChosenOrTyped) {
+    const doubles::DossierTemporaire personnel;
     const auto choisit = [&](const std::string& reponse) {
         dialogues.attendDossier("Dossier des fiches de films", ajout.txtCheminAjoutAuto.Text, reponse);
-        choix.cmdParcourir2_Click();
+        cmdParcourir2_Click(c);
         return ajout.lblNbFilms.Caption;
     };
     std::filesystem::create_directory(dossier.chemin("dossier.film"));
@@ -124,7 +122,7 @@ TEST(ChoixDossierFiches, countsTheSheetsOfTheFolderChosenOrTyped) {
 
     const auto tape = [&](const std::string& texte) {
         ajout.txtCheminAjoutAuto.Text = texte;
-        choix.txtCheminAjoutAuto_Change();
+        txtCheminAjoutAuto_Change(c);
         return ajout.lblNbFilms.Caption;
     };
     const doubles::Environnement chezSoi({{"HOME", personnel.chemin()}});
@@ -135,11 +133,11 @@ TEST(ChoixDossierFiches, countsTheSheetsOfTheFolderChosenOrTyped) {
     EXPECT_EQ(tape("Fiches/a.film"), "Ce dossier n'existe pas.");
     EXPECT_EQ(tape(""), "");
 
-    EXPECT_TRUE(choix.remplaceCheminWindows());
+    EXPECT_TRUE(remplaceCheminWindows(c));
     ajout.txtCheminAjoutAuto.Text = "D:\\Fiches";
     for (const std::string& reponse : {std::string(), dossier.chemin()}) {
         dialogues.attendDossier("Dossier des fiches de films", "D:\\Fiches", reponse);
-        EXPECT_EQ(choix.remplaceCheminWindows(), !reponse.empty());
+        EXPECT_EQ(remplaceCheminWindows(c), !reponse.empty());
     }
     EXPECT_EQ(ajout.txtCheminAjoutAuto.Text, dossier.chemin());
 }

@@ -1,7 +1,10 @@
 #include "acquire/CompteFilmsRepertoire.h"
+#include "acquire/DossierFiches.h"
+#include "acquire/LotImport.h"
 #include "doubles/DisquePlein.h"
 #include "doubles/Mort.h"
-#include "unit/acquire/ImportDEssai.h"
+#include "edit/TitreDejaExistant_TestRessemblance.h"
+#include "unit/acquire/FenetreAcquisition.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -19,9 +22,8 @@ using dialogues::kOui;
 using dialogues::kQuestion;
 using testing::ElementsAre;
 
-using doubles::kQuestionRessemblance;
-
-struct ImportTest : doubles::ImportDEssai {
+class ImportTest : public FenetreAcquisition {
+  protected:
     doubles::DossierTemporaire fiches;
 
     ImportTest() { ajout.txtCheminAjoutAuto.Text = fiches.chemin(); }
@@ -37,19 +39,22 @@ struct ImportTest : doubles::ImportDEssai {
     void importe(long nombre, const std::string& rapport, bool possede = false, bool ressemblance = false) {
         attendQuestions(nombre, possede, ressemblance, "DVD");
         dialogues.attendMsgBox(rapport, kInformation);
-        import.cmdAjoutAuto_Click();
+        cmdAjoutAuto_Click(c);
         dialogues.verifie();
     }
-    std::size_t nombre(const std::string& table) { return essai.colonne(table, "id").size(); }
+    std::size_t nombre(const std::string& table) { return colonne(table, "id").size(); }
 };
 
 TEST_F(ImportTest, asksNothingWithoutASheet) {
     fiches.ecrit("lisezmoi.txt", "Alien");
-    for (const std::string& dossier : {fiches.chemin(), std::string(), fiches.chemin("absent")}) {
-        ajout.txtCheminAjoutAuto.Text = dossier;
+    for (const std::string& lieu : {fiches.chemin(), std::string(), fiches.chemin("absent")}) {
+        ajout.txtCheminAjoutAuto.Text = lieu;
         dialogues.attendMsgBox("Aucun fichier .film trouvé !", kExclamation);
-        import.cmdAjoutAuto_Click();
+        cmdAjoutAuto_Click(c);
     }
+    ajout.txtCheminAjoutAuto.Text = "D:\\Fiches";  // leads nowhere here: another is asked for
+    dialogues.attendDossier("Dossier des fiches de films", "D:\\Fiches", "");
+    cmdAjoutAuto_Click(c);
 }
 
 TEST_F(ImportTest, wordsTheOwnedQuestionByTheNumberOfSheets) {
@@ -69,22 +74,22 @@ TEST_F(ImportTest, storesASheetWithItsPosterAndItsHolding) {
     ajout.txtCheminAjoutAuto.Text.pop_back();  // a folder without its final separator
     attendQuestions(1, true, false, "un support de plus de vingt");
     dialogues.attendMsgBox("1 film ajouté.", kInformation);
-    import.cmdAjoutAuto_Click();
+    cmdAjoutAuto_Click(c);
 
-    const doubles::BaseDEssai::Champs film{{"Titre", "L'Été \"10\""},
-                                           {"Realisateur", "Jean Becker"},
-                                           {"Annee", "1983"},
-                                           {"Origine", "France"},
-                                           {"Genre", "Drame"},
-                                           {"Duree", "2H13"},
-                                           {"Acteurs", "Adjani"},
-                                           {"Resume", "Un été."},
-                                           {"Production", "Capac"},
-                                           {"DateAjout", "21/11/2026"},
-                                           {"Affiche", dao::Valeur::octets("STOpas une image")}};
-    for (const auto& [champ, valeur] : film)
-        EXPECT_EQ(essai.film(champ), valeur) << champ;
-    dao::Recordset possession = essai.base.base.OpenRecordset("Personnel");
+    const Ligne attendus{{"Titre", "L'Été \"10\""},
+                         {"Realisateur", "Jean Becker"},
+                         {"Annee", "1983"},
+                         {"Origine", "France"},
+                         {"Genre", "Drame"},
+                         {"Duree", "2H13"},
+                         {"Acteurs", "Adjani"},
+                         {"Resume", "Un été."},
+                         {"Production", "Capac"},
+                         {"DateAjout", "21/11/2026"},
+                         {"Affiche", dao::Valeur::octets("STOpas une image")}};
+    for (const auto& [champ, valeur] : attendus)
+        EXPECT_EQ(base.base.OpenRecordset("Films").valeur(champ), valeur) << champ;
+    dao::Recordset possession = base.base.OpenRecordset("Personnel");
     EXPECT_EQ(possession.texte("Titre2"), "L'Été \"10\"");
     EXPECT_EQ(possession.texte("Realisateur2"), "Jean Becker");
     EXPECT_EQ(possession.texte("Support"), "un support de plus d");
@@ -95,6 +100,7 @@ TEST_F(ImportTest, storesASheetWithItsPosterAndItsHolding) {
     EXPECT_EQ(ajout.lblNbFilms.Caption, "Un fichier .FILM trouvé.");
     EXPECT_FALSE(ajout.lblProgression.Visible || ajout.ProgressBar1.Visible);
     EXPECT_EQ(liste.critereRecherche, "DateAjout = \"21/11/2026\"");
+    EXPECT_EQ(demandes.focus, "TreeView1");
     EXPECT_EQ(liste.ChoixZone.Text, "Recherche");
     EXPECT_EQ(liste.TreeView1.Nodes.Text(liste.TreeView1.Nodes.Count()), "L'Été \"10\"");
     EXPECT_THAT(fiche.Combo7[2].Items, ElementsAre("un support de plus d"));
@@ -119,7 +125,7 @@ TEST_F(ImportTest, reportsMissingAndTooLargePostersAndKeepsSilentAtTheLimit) {
     importe(4, "4 films ajoutés.\n- Image manquante :\n" + fiches.chemin("230001.jpg") +
                    " (trop grande pour la base) , " + fiches.chemin("sans.jpg"));
     std::vector<std::size_t> tailles;
-    for (const std::string& affiche : essai.colonne("SELECT * FROM films ORDER BY Titre ASC ;", "Affiche"))
+    for (const std::string& affiche : colonne("SELECT * FROM films ORDER BY Titre ASC ;", "Affiche"))
         tailles.push_back(affiche.size());
     EXPECT_THAT(tailles, ElementsAre(3 + 229999u, 0u, 0u, 0u));
 
@@ -133,13 +139,13 @@ TEST_F(ImportTest, reportsMissingAndTooLargePostersAndKeepsSilentAtTheLimit) {
                    fiches.chemin("sans.jpg") +
                    " (trop grande) \n- Déjà existant : \n229999, 230000\n1 image ajoutée à un "
                    "film déjà présent.");
-    EXPECT_EQ(std::filesystem::file_size(essai.dossier.chemin("Images/Autre - R.jpg")), 230001u);
-    EXPECT_EQ(std::filesystem::file_size(essai.dossier.chemin("Images/230000 - R.jpg")), 230000u);
-    EXPECT_THAT(essai.colonne("SELECT * FROM films WHERE titre =\"encore\"", "Affiche"), ElementsAre(""));
+    EXPECT_EQ(std::filesystem::file_size(dossier.chemin("Images/Autre - R.jpg")), 230001u);
+    EXPECT_EQ(std::filesystem::file_size(dossier.chemin("Images/230000 - R.jpg")), 230000u);
+    EXPECT_THAT(colonne("SELECT * FROM films WHERE titre =\"encore\"", "Affiche"), ElementsAre(""));
 }
 
 TEST_F(ImportTest, refusesWhatIsAlreadyThereAndWhatTheUserFindsTooClose) {
-    essai.ajouteFilm("Solaris", "Andreï Tarkovski");
+    ajouteFilm("Solaris", {{"Realisateur", "Andreï Tarkovski"}});
     int rang = 0;  // the fifth is close to one of the same batch
     for (const char* texte : {"SOLARIS\nandreï tarkovski", "Solarise\nAndreï Tarkovski", "Solari\nAndreï Tarkovski",
                               "Alien\nRidley Scott", "Aliens\nRidley Scott", "", "\n\n1999"})
@@ -148,13 +154,13 @@ TEST_F(ImportTest, refusesWhatIsAlreadyThereAndWhatTheUserFindsTooClose) {
     for (const auto& [nouveau, ancien, reponse, par] : {std::tuple("Solarise", "Solaris", kNon, "Andreï Tarkovski"),
                                                         {"Solari", "Solaris", kOui, "Andreï Tarkovski"},
                                                         {"Aliens", "Alien", kNon, "Ridley Scott"}})
-        dialogues.attendMsgBox(edit::questionRessemblance(nouveau, par, ancien, par), kQuestion, reponse);
+        dialogues.attendMsgBox(edit::questionRessemblance({nouveau, par}, {ancien, par}), kQuestion, reponse);
     dialogues.attendMsgBox("3 films ajoutés.\n4 films non ajoutés car déjà dans la base.\n- Image manquante :\n" +
                                fiches.chemin("3.jpg") + ", " + fiches.chemin("4.jpg") + ", " + fiches.chemin("6.jpg") +
                                "\n- Déjà existant : \nSolaris, Solarise, Aliens, Non défini",
                            kInformation);
-    import.cmdAjoutAuto_Click();
-    EXPECT_THAT(essai.colonne("Films", "Titre"), ElementsAre("Solaris", "Solari", "Alien", "Non défini"));
+    cmdAjoutAuto_Click(c);
+    EXPECT_THAT(colonne("Films", "Titre"), ElementsAre("Solaris", "Solari", "Alien", "Non défini"));
     EXPECT_EQ(nombre("Personnel"), 3u);
 }
 
@@ -181,40 +187,39 @@ TEST_F(ImportTest, aPosterThatCannotBeWrittenEndsIt) {
     ecritFiches(20);
     fiches.ecrit("f0010.jpg", std::string(2 << 20, 'x'));
     ecran::choisit(stockage.Option3, 1);
-    const std::string images = essai.dossier.ecrit("Images", "");  // a file stands where the folder should be
+    const std::string lesImages = dossier.ecrit("Images", "");  // a file stands where the folder should be
     const auto importeEtEchoue = [&](const std::string& echec, const std::string& rapport) {
         attendQuestions(20, true, false, "DVD");
         dialogues.attendMsgBox(echec, dialogues::kCritique);
         dialogues.attendMsgBox(rapport, kInformation);
-        import.cmdAjoutAuto_Click();
+        cmdAjoutAuto_Click(c);
         dialogues.verifie();
     };
-    importeEtEchoue("Le dossier des images " + images + "/ n'est pas accessible en écriture !",
+    importeEtEchoue("Le dossier des images " + lesImages + "/ n'est pas accessible en écriture !",
                     "0 film ajouté.\nL'import a été interrompu : relancez-le pour ajouter les 20 fiches qui restent.");
-    std::filesystem::remove(images);
+    std::filesystem::remove(lesImages);
     {
         const doubles::DisquePlein disque(1 << 20);
         importeEtEchoue(
-            "Le fichier image " + images + "/Film F0010 - R.jpg n'a pas pu être écrit (Disque plein)",
+            "Le fichier image " + lesImages + "/Film F0010 - R.jpg n'a pas pu être écrit (Disque plein)",
             "10 films ajoutés.\nL'import a été interrompu : relancez-le pour ajouter les 10 fiches qui restent.");
     }
-    EXPECT_FALSE(std::filesystem::exists(images + "/Film F0010 - R.jpg"));
+    EXPECT_FALSE(std::filesystem::exists(lesImages + "/Film F0010 - R.jpg"));
     EXPECT_EQ(nombre("Personnel"), 10u);
     std::string deja = "Film F0000";
     for (int i = 1; i < 10; ++i)
         deja += ", Film F000" + std::to_string(i);
     importe(20, "10 films ajoutés.\n10 films non ajoutés car déjà dans la base.\n- Déjà existant : \n" + deja);
-    for (const std::string& affiche : essai.colonne("Films", "Affiche"))
-        EXPECT_TRUE(std::filesystem::exists(images + "/" + affiche.substr(3))) << affiche;
+    for (const std::string& affiche : colonne("Films", "Affiche"))
+        EXPECT_TRUE(std::filesystem::exists(lesImages + "/" + affiche.substr(3))) << affiche;
 }
 
 TEST_F(ImportTest, aFilmThatIsThereWithoutAPosterIsGivenIt) {
     for (const std::size_t option : {0, 1}) {
         ecran::choisit(stockage.Option3, option);
         const std::string sans = "Sans " + std::to_string(option), avec = "Avec " + std::to_string(option);
-        doubles::BaseDEssai::ajoute(essai.base.films, {{"Titre", sans}, {"Realisateur", "R"}, {"Resume", "Ancien"}});
-        doubles::BaseDEssai::ajoute(essai.base.films,
-                                    {{"Titre", avec}, {"Realisateur", "R"}, {"Affiche", "JPGautre.jpg"}});
+        ajoute(base.films, {{"Titre", sans}, {"Realisateur", "R"}, {"Resume", "Ancien"}});
+        ajoute(base.films, {{"Titre", avec}, {"Realisateur", "R"}, {"Affiche", "JPGautre.jpg"}});
         fiches.ecrit("1.film", sans + "\nR");
         fiches.ecrit("1.jpg", "image");
         fiches.ecrit("2.film", avec + "\nR");
@@ -222,29 +227,29 @@ TEST_F(ImportTest, aFilmThatIsThereWithoutAPosterIsGivenIt) {
         importe(2, "0 film ajouté.\n2 films non ajoutés car déjà dans la base.\n- Déjà existant : \n" + sans + ", " +
                        avec + "\n1 image ajoutée à un film déjà présent.");
     }
-    EXPECT_THAT(essai.colonne("Films", "Affiche"),
+    EXPECT_THAT(colonne("Films", "Affiche"),
                 ElementsAre("STOimage", "JPGautre.jpg", "JPGSans 1 - R.jpg", "JPGautre.jpg"));
-    EXPECT_EQ(essai.dossier.lit("Images/Sans 1 - R.jpg"), "image");
-    EXPECT_EQ(essai.colonne("Films", "Resume")[0], "Ancien");
+    EXPECT_EQ(dossier.lit("Images/Sans 1 - R.jpg"), "image");
+    EXPECT_EQ(colonne("Films", "Resume")[0], "Ancien");
 }
 
 TEST_F(ImportTest, showsItsProgressAndLeavesWhatWasAddedWhenStopped) {
     ecritFiches(300);
     std::vector<std::string> legendes;
-    ecran.pendantSouffle = [&] {
+    ecranMuet.pendantSouffle = [&] {
         legendes.push_back(ajout.lblProgression.Caption + " " + std::to_string(ajout.ProgressBar1.Value) + "/" +
                            std::to_string(ajout.ProgressBar1.Max));
         EXPECT_TRUE(ajout.lblProgression.Visible && ajout.ProgressBar1.Visible);
     };
-    ecran.arretApres = 1;
+    ecranMuet.arretApres = 1;
     importe(300, "1 film ajouté.\nL'import a été interrompu : relancez-le pour ajouter les 299 fiches qui restent.",
             true);
     EXPECT_THAT(legendes, ElementsAre("Film f0000 1/300"));
-    EXPECT_THAT(essai.colonne("Personnel", "Titre2"), ElementsAre("Film F0000"));
-    EXPECT_EQ(ecran.soufflesHorsTravail, 0);
-    EXPECT_EQ(ecran.debuts, ecran.fins);
+    EXPECT_THAT(colonne("Personnel", "Titre2"), ElementsAre("Film F0000"));
+    EXPECT_EQ(ecranMuet.soufflesHorsTravail, 0);
+    EXPECT_EQ(ecranMuet.debuts, ecranMuet.fins);
 
-    ecran.arretApres = 0;
+    ecranMuet.arretApres = 0;
     importe(300, "299 films ajoutés.\n1 film non ajouté car déjà dans la base.\n- Déjà existant : \nFilm F0000", true);
     EXPECT_EQ(nombre("Films"), 300u);
     EXPECT_EQ(nombre("Personnel"), 300u);
@@ -252,11 +257,11 @@ TEST_F(ImportTest, showsItsProgressAndLeavesWhatWasAddedWhenStopped) {
 
 TEST_F(ImportTest, storesWhatTookALotsTimeHoweverFewTheSheets) {
     ecritFiches(4);
-    dao::Database autre = dao::DBEngine::OpenDatabase(essai.dossier.chemin("Films.mdb"));
+    dao::Database autre = dao::DBEngine::OpenDatabase(chemins.base);
     std::vector<long> lus;  // by another program
-    ecran.pendantSouffle = [&] {
+    ecranMuet.pendantSouffle = [&] {
         lus.push_back(autre.OpenRecordset("Films").RecordCount());
-        montre.avance(acquire::LotImport::kDuree);
+        MachineDEssai::montre.avance(acquire::LotImport::kDuree);
     };
     importe(4, "4 films ajoutés.");
     EXPECT_THAT(lus, ElementsAre(0, 2));
@@ -265,12 +270,12 @@ TEST_F(ImportTest, storesWhatTookALotsTimeHoweverFewTheSheets) {
 TEST_F(ImportTest, toldOfTheBasesFailureReportsWhatIsStored) {
     ecritFiches(acquire::LotImport::kFiches + 20);
     // After the first lot, another program holds the base.
-    dao::Database autre = dao::DBEngine::OpenDatabase(essai.dossier.chemin("Films.mdb"));
+    dao::Database autre = dao::DBEngine::OpenDatabase(chemins.base);
     dao::Recordset films = autre.OpenRecordset("Films");
-    ecran.pendantSouffle = [&] {
+    ecranMuet.pendantSouffle = [&] {
         if (ajout.ProgressBar1.Value != acquire::LotImport::kFiches) return;
         autre.BeginTrans();
-        doubles::BaseDEssai::ajoute(films, {{"Titre", "Autre"}});
+        ajoute(films, {{"Titre", "Autre"}});
     };
     attendQuestions(acquire::LotImport::kFiches + 20, true, false, "DVD");
     dialogues.attendMsgBox("Erreur 3260 : Mise à jour impossible : la base est verrouillée par un autre programme.");
@@ -278,11 +283,11 @@ TEST_F(ImportTest, toldOfTheBasesFailureReportsWhatIsStored) {
         std::to_string(acquire::LotImport::kFiches) +
             " films ajoutés.\nL'import a été interrompu : relancez-le pour ajouter les 20 fiches qui restent.",
         kInformation);
-    import.cmdAjoutAuto_Click();
+    cmdAjoutAuto_Click(c);
     autre.Rollback();
     EXPECT_EQ(nombre("Films"), std::size_t{acquire::LotImport::kFiches});
     EXPECT_EQ(nombre("Personnel"), std::size_t{acquire::LotImport::kFiches});
-    EXPECT_FALSE(essai.base.base.enTransaction());
+    EXPECT_FALSE(base.base.enTransaction());
     films.Close();
 }
 
@@ -294,16 +299,16 @@ TEST_F(ImportTest, killedMidwayKeepsWholeFilmsWithTheirHoldings) {
         std::size_t restent;
     };
     for (const Cas& cas : {Cas{1, 0}, Cas{acquire::LotImport::kFiches, acquire::LotImport::kFiches}}) {
-        essai.base.ferme();
+        base.ferme();
         EXPECT_TRUE(doubles::meurtEnRoute([&] {
-            essai.ouvre();
-            ecran.pendantSouffle = [&] {
+            ouvre();
+            ecranMuet.pendantSouffle = [&] {
                 if (ajout.ProgressBar1.Value >= cas.fiche) doubles::meurs();
             };
             attendQuestions(600, true, false, "DVD");
-            import.cmdAjoutAuto_Click();
+            cmdAjoutAuto_Click(c);
         }));
-        essai.ouvre();
+        ouvre();
         EXPECT_EQ(nombre("Films"), cas.restent);
         EXPECT_EQ(nombre("Personnel"), cas.restent);
     }
@@ -315,9 +320,9 @@ TEST_F(ImportTest, takesInARealFolder) {
     std::filesystem::copy(donnees, fiches.chemin());
     // 43 sheets; 9 without a poster, 3 posters too large by one byte, 3 of exactly the limit.
     std::string attendu;
-    const acquire::DossierFiches dossier(fiches.chemin());
-    for (const std::string& nom : dossier.fiches()) {
-        const std::string affiche = dossier.cheminAffiche(nom);
+    const acquire::DossierFiches reelles(fiches.chemin());
+    for (const std::string& nom : reelles.fiches()) {
+        const std::string affiche = reelles.cheminAffiche(nom);
         const bool existe = std::filesystem::exists(affiche);
         if (existe && std::filesystem::file_size(affiche) <= 230000) continue;
         attendu += (attendu.empty() ? "" : ", ") + affiche + (existe ? " (trop grande pour la base) " : "");
@@ -325,12 +330,12 @@ TEST_F(ImportTest, takesInARealFolder) {
     importe(43, "43 films ajoutés.\n- Image manquante :\n" + attendu, true, true);
     EXPECT_EQ(nombre("Personnel"), 43u);
     std::size_t affiches = 0;
-    for (const std::string& affiche : essai.colonne("Films", "Affiche"))
+    for (const std::string& affiche : colonne("Films", "Affiche"))
         affiches += affiche.empty() ? 0 : 1;
     EXPECT_EQ(affiches, 28u);
-    EXPECT_THAT(essai.colonne("SELECT * FROM films WHERE titre =\"le parrain II\"", "Realisateur"),
+    EXPECT_THAT(colonne("SELECT * FROM films WHERE titre =\"le parrain II\"", "Realisateur"),
                 ElementsAre("Non défini"));
-    EXPECT_THAT(essai.colonne("SELECT * FROM films WHERE Realisateur =\"Joseph \"\"McG\"\" McGinty Nichol\"", "Titre"),
+    EXPECT_THAT(colonne("SELECT * FROM films WHERE Realisateur =\"Joseph \"\"McG\"\" McGinty Nichol\"", "Titre"),
                 ElementsAre("Charlie Et Ses Drôles De Dames"));
 }
 

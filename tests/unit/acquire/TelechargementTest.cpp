@@ -2,12 +2,11 @@
 #include "acquire/ConfigurationRapatrix.h"
 #include "acquire/FichesRecues.h"
 #include "acquire/cmdTelecharge_Click.h"
-#include "doubles/DocumentsEnregistres.h"
 #include "doubles/Rapatrix.h"
 #include "platform/fichiers/Fichiers.h"
-#include "unit/acquire/ImportDEssai.h"
+#include "unit/acquire/FenetreAcquisition.h"
 #include "util/Texte.h"
-#include "view/EchecLancement.h"
+#include "view/LanceFichier.h"
 
 #include <gmock/gmock.h>
 
@@ -57,42 +56,31 @@ TEST(ConfigurationRapatrix, IsWrittenByteForByte) {
 }
 
 // A search handed to the stand-in of the downloader, a real program.
-struct TelechargementTest : doubles::ImportDEssai {
-    systeme::ProgrammesSysteme programmes;
-    doubles::DocumentsEnregistres documents;
-    view::LanceFichier lanceFichier{programmes, documents, dialogues, ecran};
-    ecran::CaseACocher chkLancerConnexion;
-    ecran::Etiquette lblTravail;
-    ecran::Progression barre;
-    ecran::Demandes demandes;
-    std::optional<acquire::Telechargement> telechargement{outils()};
+class TelechargementTest : public FenetreAcquisition {
+  protected:
+    systeme::ProgrammesSysteme vrais;
 
-    acquire::OutilsTelechargement outils() {
-        return {ajout,   chkLancerConnexion, {lblTravail, barre}, chemins, lanceFichier, import, dialogues, ecran,
-                demandes};
-    }
+    TelechargementTest() { programmes.vrais = &vrais; }
 
-    const doubles::DossierTemporaire& dossier() { return essai.dossier; }
     void cherche(const std::string& texte) {
         ajout.txtRechInternet.Text = texte;
-        telechargement->cmdTelecharge_Click();
+        cmdTelecharge_Click(c);
         dialogues.verifie();
     }
     // The same, the program standing in another folder.
     void chercheDepuis(const std::string& autreDossier, const std::string& texte) {
         chemins = db::Chemins::depuis(autreDossier);
-        telechargement.emplace(outils());
         cherche(texte);
     }
     std::vector<std::string> restes() { return fichiers::listeFichiers(chemins.dossierTmp); }
 };
 
 TEST_F(TelechargementTest, ImportsWhatTheDownloaderLeftEvenIfItFailsAndCleansBehindIt) {
-    const doubles::Rapatrix rapatrix(dossier(), "le rapatrix/RAPATRIX.EXE");
-    dossier().ecrit("Tmp/ancienne.film", "Ancienne");
-    dossier().ecrit("Tmp/ImageTMP.jpg", "");
-    dossier().ecrit("Tmp/RechFilms.tmp", "une ancienne configuration, bien plus longue " + std::string(4000, 'x'));
-    dossier().ecrit("Tmp/autre.txt", "");
+    const doubles::Rapatrix rapatrix(dossier, "le rapatrix/RAPATRIX.EXE");
+    dossier.ecrit("Tmp/ancienne.film", "Ancienne");
+    dossier.ecrit("Tmp/ImageTMP.jpg", "");
+    dossier.ecrit("Tmp/RechFilms.tmp", "une ancienne configuration, bien plus longue " + std::string(4000, 'x'));
+    dossier.ecrit("Tmp/autre.txt", "");
     ecran::choisit(ajout.OptionTelecharge, 1);
     chkLancerConnexion.Value = 1;
     attendQuestions(2, true, false, "DVD");
@@ -102,36 +90,36 @@ TEST_F(TelechargementTest, ImportsWhatTheDownloaderLeftEvenIfItFailsAndCleansBeh
     const std::string configurationAttendue = configuration("http://www.moviecovers.com/multicrit.html?real=un+echec",
                                                             util::vers1252(chemins.dossierTmp), "O");
     EXPECT_EQ(rapatrix.recu(), "[" + chemins.dossierTmp + "/RechFilms.tmp]\n" + configurationAttendue);
-    EXPECT_THAT(essai.colonne("Films", "Titre"), ElementsAre("Le Cercle Rouge", "L'Été"));
-    EXPECT_THAT(essai.colonne("Films", "Affiche"), ElementsAre("STO\xFF\xD8 une affiche", ""));
-    EXPECT_THAT(essai.colonne("Personnel", "Support"), ElementsAre("DVD", "DVD"));
+    EXPECT_THAT(colonne("Films", "Titre"), ElementsAre("Le Cercle Rouge", "L'Été"));
+    EXPECT_THAT(colonne("Films", "Affiche"), ElementsAre("STO\xFF\xD8 une affiche", ""));
+    EXPECT_THAT(colonne("Personnel", "Support"), ElementsAre("DVD", "DVD"));
     EXPECT_THAT(restes(), ElementsAre("autre.txt", "ImageTMP.jpg"));  // the film on the sheet keeps its poster
-    EXPECT_FALSE(dossier().existe(acquire::kDossierAImporter));
+    EXPECT_FALSE(dossier.existe(acquire::kDossierAImporter));
     EXPECT_EQ(ajout.txtCheminAjoutAuto.Text, chemins.dossierTmp);
     EXPECT_TRUE(demandes.premierPlan);
-    EXPECT_EQ(demandes.focus, "txtRechInternet");
-    EXPECT_EQ(ecran.soufflesHorsTravail, 0);
+    EXPECT_EQ(demandes.focus, "TreeView1") << "where the films added are to be seen";
+    EXPECT_EQ(ecranMuet.soufflesHorsTravail, 0);
 }
 
 TEST_F(TelechargementTest, TheFolderMayBearAnySign) {
-    const std::string etrange = dossier().chemin("L'\"ami\" $(touch recu) \\n; #1/");
-    const doubles::Rapatrix rapatrix(dossier(), "L'\"ami\" $(touch recu) \\n; #1/Le Rapatrix/Rapatrix.exe");
+    const std::string etrange = dossier.chemin("L'\"ami\" $(touch recu) \\n; #1/");
+    const doubles::Rapatrix rapatrix(dossier, "L'\"ami\" $(touch recu) \\n; #1/Le Rapatrix/Rapatrix.exe");
     chercheDepuis(etrange, "rien");
     EXPECT_TRUE(rapatrix.recu().starts_with("[" + etrange + "Tmp/RechFilms.tmp]\n"));
 }
 
 TEST_F(TelechargementTest, OneThatIsNotThereOrCannotBeRunIsToldAndLeavesNothing) {
-    dossier().ecrit("Tmp/ancienne.film", "Ancienne");
+    dossier.ecrit("Tmp/ancienne.film", "Ancienne");
     cherche("  ");
-    telechargement->ouvrePage();
+    ouvrePageTelechargement(c);
     EXPECT_TRUE(ajout.lblRapatrix.Visible);
-    EXPECT_THAT(ajout.lblRapatrix.Caption, testing::HasSubstr(dossier().chemin("Le Rapatrix/")));
+    EXPECT_THAT(ajout.lblRapatrix.Caption, testing::HasSubstr(dossier.chemin("Le Rapatrix/")));
     dialogues.attendMsgBox("Le logiciel 'Le Rapatrix' n'a pas été trouvé !", kExclamation);
     cherche("Alien");
     EXPECT_THAT(restes(), ElementsAre("ancienne.film"));
     EXPECT_FALSE(demandes.premierPlan);
 
-    const std::string programme = dossier().ecrit("Le Rapatrix/Rapatrix.exe", "MZ");
+    const std::string programme = dossier.ecrit("Le Rapatrix/Rapatrix.exe", "MZ");
     dialogues.attendMsgBox(view::texteEchecLancement(systeme::Lancement::Interdit, programme), dialogues::kCritique);
     cherche("Alien");
     EXPECT_THAT(restes(), IsEmpty());
@@ -140,8 +128,8 @@ TEST_F(TelechargementTest, OneThatIsNotThereOrCannotBeRunIsToldAndLeavesNothing)
 
 // A sheet that was neither added nor refused waits outside "Tmp" with its poster, and the next click goes on with it.
 TEST_F(TelechargementTest, WhatWasNeitherAddedNorRefusedIsKept) {
-    const doubles::Rapatrix rapatrix(dossier());
-    const std::string attente = dossier().chemin(acquire::kDossierAImporter);
+    const doubles::Rapatrix rapatrix(dossier);
+    const std::string attente = dossier.chemin(acquire::kDossierAImporter);
     const auto rapport = [&](const std::string& debut, int fiches) {
         const std::string nombre = std::to_string(fiches);
         return debut +
@@ -152,10 +140,10 @@ TEST_F(TelechargementTest, WhatWasNeitherAddedNorRefusedIsKept) {
                " dans " + attente + ".";
     };
     {  // another program holds the base
-        dao::Database autre = dao::DBEngine::OpenDatabase(dossier().chemin("Films.mdb"));
+        dao::Database autre = dao::DBEngine::OpenDatabase(dossier.chemin("Films.mdb"));
         const dao::Transaction verrou(autre);
         dao::Recordset films = autre.OpenRecordset("Films");
-        doubles::BaseDEssai::ajoute(films, {{"Titre", "Autre"}});
+        ajoute(films, {{"Titre", "Autre"}});
         attendQuestions(2, false, false);
         dialogues.attendMsgBox(
             "Erreur 3260 : Mise à jour impossible : la base est verrouillée par un autre programme.");
@@ -166,58 +154,62 @@ TEST_F(TelechargementTest, WhatWasNeitherAddedNorRefusedIsKept) {
     EXPECT_EQ(ajout.txtCheminAjoutAuto.Text, attente);
     EXPECT_EQ(ajout.lblNbFilms.Caption, "2 fichiers .FILM trouvés.");
 
-    ecran.pendantSouffle = [&] {
-        if (ajout.ProgressBar1.Visible) ecran.arretApres = 1;
+    ecranMuet.pendantSouffle = [&] {
+        if (ajout.ProgressBar1.Visible) ecranMuet.arretApres = 1;
     };
     attendQuestions(2, false, false);
     dialogues.attendMsgBox(rapport("1 film ajouté.", 1), kInformation);
     cherche("deux");
     EXPECT_THAT(fichiers::listeFichiers(attente), ElementsAre("1.FILM", "1.JPG", "2 (2).film", "2.film"));
-    EXPECT_EQ(dossier().lit("À importer/1.JPG"), "\xFF\xD8 une affiche");
+    EXPECT_EQ(dossier.lit("À importer/1.JPG"), "\xFF\xD8 une affiche");
     EXPECT_THAT(restes(), IsEmpty());
 
-    ecran.pendantSouffle = nullptr;
-    ecran.arretApres = 0;
+    ecranMuet.pendantSouffle = nullptr;
+    ecranMuet.arretApres = 0;
     attendQuestions(3, false, false);
     dialogues.attendMsgBox("1 film ajouté.\n2 films non ajoutés car déjà dans la base.\n- Image manquante :\n" +
                                attente + "/2 (2).jpg\n- Déjà existant : \nLe Cercle Rouge, L'Été",
                            kInformation);
-    import.cmdAjoutAuto_Click();
+    cmdAjoutAuto_Click(c);
 }
 
 TEST_F(TelechargementTest, WhatTheUserStopsIsImportedOnlyIfHeWants) {
-    const doubles::Rapatrix rapatrix(dossier());
+    const doubles::Rapatrix rapatrix(dossier);
     std::string pendant;
-    ecran.pendantSouffle = [&] {
-        if (ecran.souffles == 1) pendant = lblTravail.Caption + std::to_string(barre.Visible && barre.Max == 0);
-        ecran.arretApres = rapatrix.aRecu() ? 1 : 0;
+    ecranMuet.pendantSouffle = [&] {
+        if (ecranMuet.souffles == 1)
+            pendant = travaux.lblTravail.Caption +
+                      std::to_string(travaux.ProgressBar3.Visible && travaux.ProgressBar3.Max == 0);
+        ecranMuet.arretApres = rapatrix.aRecu() ? 1 : 0;
     };
     dialogues.attendMsgBox(kArrete, kQuestion, kNon);
     cherche("attente");
-    EXPECT_EQ(pendant + std::to_string(barre.Visible) + lblTravail.Caption, "'Le Rapatrix' recherche les fiches…10");
-    EXPECT_TRUE(essai.colonne("Films", "Titre").empty());
+    EXPECT_EQ(pendant + std::to_string(travaux.ProgressBar3.Visible) + travaux.lblTravail.Caption,
+              "'Le Rapatrix' recherche les fiches…10");
+    EXPECT_TRUE(colonne("Films", "Titre").empty());
     EXPECT_THAT(restes(), IsEmpty());
+    EXPECT_EQ(demandes.focus, "txtRechInternet") << "for the next search";
 
-    std::filesystem::remove(dossier().chemin("Le Rapatrix/recu"));
+    std::filesystem::remove(dossier.chemin("Le Rapatrix/recu"));
     dialogues.attendMsgBox(kArrete, kQuestion, kOui);
     attendQuestions(1, false, false);
     dialogues.attendMsgBox("1 film ajouté.", kInformation);
     cherche("attente");
-    EXPECT_THAT(essai.colonne("Films", "Titre"), ElementsAre("Le Cercle Rouge"));
+    EXPECT_THAT(colonne("Films", "Titre"), ElementsAre("Le Cercle Rouge"));
     EXPECT_THAT(restes(), IsEmpty());
 }
 
 TEST_F(TelechargementTest, WhatTheDownloaderCannotReadIsRefused) {
-    const doubles::Rapatrix rapatrix(dossier());
+    const doubles::Rapatrix rapatrix(dossier);
     dialogues.attendMsgBox("Le site de MovieCovers ne connaît pas tous les caractères de cette recherche.",
                            kExclamation);
     cherche("東京物語");
     dialogues.attendMsgBox(
         "'Le Rapatrix' ne sait pas écrire dans le répertoire d'Ambrelis, dont le nom contient des caractères qu'il ne "
         "connaît pas :\n" +
-            dossier().chemin("Łódź/"),
+            dossier.chemin("Łódź/"),
         kExclamation);
-    chercheDepuis(dossier().chemin("Łódź"), "Alien");
+    chercheDepuis(dossier.chemin("Łódź"), "Alien");
     EXPECT_FALSE(rapatrix.aRecu());
     EXPECT_THAT(restes(), IsEmpty());
 }

@@ -30,15 +30,19 @@ class Fenetre : public ::testing::Test, protected doubles::MachineDEssai {
     void SetUp() override {
         std::filesystem::create_directory(chemins.dossierTmp);
         dao::DBEngine::CreateDatabase(chemins.base, db::schema());
-        base.base = dao::DBEngine::OpenDatabase(chemins.base);
-        base.films = base.base.OpenRecordset("Films");
-        base.personnel = base.base.OpenRecordset("Personnel");
-        base.liste = base.base.OpenRecordset("Films");
+        ouvre();
         for (const browse::Zone& zone : browse::kZones)
             liste.ChoixZone.AddItem(zone.legende);
         for (const browse::Tri& tri : browse::kTris)
             liste.ChoixTri.AddItem(tri.legende);
         choisit(browse::kZoneTous, browse::kTriTitre2);
+    }
+
+    void ouvre() {
+        base.base = dao::DBEngine::OpenDatabase(chemins.base);
+        base.films = base.base.OpenRecordset("Films");
+        base.personnel = base.base.OpenRecordset("Personnel");
+        base.liste = base.base.OpenRecordset("Films");
     }
 
     static void ajoute(dao::Recordset& table, const Ligne& ligne) {
