@@ -1,31 +1,34 @@
 #include "app/BaseAbsente.h"
 
+#include "app/Saisies.h"
+#include "db/cmdChargeOuvreBase_Click.h"
 #include "platform/fichiers/Fichiers.h"
 
 namespace app {
 
 void BaseAbsente::annonce() {
-    montre("La base " + m_chemins.baseAbsente + " est introuvable : " + m_chemins.base + " est ouverte à sa place.");
+    montre("La base " + m_c.chemins.baseAbsente + " est introuvable : " + m_c.chemins.base +
+           " est ouverte à sa place.");
 }
 
 void BaseAbsente::suisLaBase() {
-    if (m_chemins.baseAbsente.empty() && m_numero == m_etat.numero) m_avis.retire();
+    if (m_c.chemins.baseAbsente.empty() && m_numero == m_c.etats.avis.numero) m_c.avis.retire();
 }
 
 void BaseAbsente::montre(const std::string& texte) {
-    m_avis.montre(texte, {{"Réessayer", [this] { reessaie(); }, true},
-                          {"Garder celle-ci", [this] { m_chemins.baseAbsente.clear(); }}});
-    m_numero = m_etat.numero;
+    m_c.avis.montre(texte, {{"Réessayer", [this] { reessaie(); }, true},
+                            {"Garder celle-ci", [this] { m_c.chemins.baseAbsente.clear(); }}});
+    m_numero = m_c.etats.avis.numero;
 }
 
 void BaseAbsente::reessaie() {
-    const std::string absente = m_chemins.baseAbsente;
+    const std::string absente = m_c.chemins.baseAbsente;
     if (absente.empty()) return;
-    if (fichiers::existe(absente))
-        m_ouvre(absente);
-    else
+    if (!fichiers::existe(absente))
         montre("La base " + absente +
                " est toujours introuvable. Branchez le disque où elle se trouve, puis réessayez.");
+    else if (m_c.saisies.abandonneTout())
+        db::changeDeBase(m_c, absente);
 }
 
 }  // namespace app

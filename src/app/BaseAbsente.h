@@ -1,9 +1,7 @@
 #pragma once
 
-#include "db/Chemins.h"
-#include "platform/ecran/Avis.h"
+#include "app/Contexte.h"
 
-#include <functional>
 #include <string>
 
 namespace app {
@@ -13,10 +11,7 @@ namespace app {
 // himself.
 class BaseAbsente {
   public:
-    // `ouvre` opens that base instead of the open one.
-    BaseAbsente(db::Chemins& chemins, ecran::Avis& avis, const ecran::EtatAvis& etat,
-                std::function<void(const std::string&)> ouvre)
-        : m_chemins(chemins), m_avis(avis), m_etat(etat), m_ouvre(std::move(ouvre)) {}
+    explicit BaseAbsente(const Contexte& c) : m_c(c) {}  // which outlives it
 
     void annonce();
     // The user may have opened a base: a notice that is not true any more goes.
@@ -26,10 +21,7 @@ class BaseAbsente {
     void montre(const std::string& texte);
     void reessaie();
 
-    db::Chemins& m_chemins;
-    ecran::Avis& m_avis;
-    const ecran::EtatAvis& m_etat;
-    std::function<void(const std::string&)> m_ouvre;
+    const Contexte& m_c;
     int m_numero = 0;  // of the last notice shown here
 };
 

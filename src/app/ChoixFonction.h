@@ -1,40 +1,23 @@
 #pragma once
 
-#include "app/EtatFonctions.h"
-#include "app/LogicielsExternes.h"
-#include "browse/AfficheAccueil.h"
-#include "browse/EtatPanneaux.h"
-#include "edit/Command13_Click.h"
-#include "edit/VoletAjout.h"
+#include "app/Contexte.h"
 
 namespace app {
 
-// Shows one of the three function panels in the place of the film sheet.
-class ChoixFonction final : public edit::VoletAjout {
-  public:
-    ChoixFonction(EtatFonctions& fonctions, browse::EtatPanneaux& panneaux, browse::AfficheAccueil& afficheAccueil,
-                  edit::ModesAjout& modesAjout, LogicielsExternes& logiciels)
-        : m_fonctions(fonctions),
-          m_panneaux(panneaux),
-          m_afficheAccueil(afficheAccueil),
-          m_modesAjout(modesAjout),
-          m_logiciels(logiciels) {}
+// Each shows one of the three function panels in the place of the film sheet.
+void ChoixFonction1_Divers(const Contexte& c);  // adding films, opened on the automatic page
+void ChoixFonction2_Outils(const Contexte& c);
+void ChoixFonction3_Config(const Contexte& c);
 
-    void ChoixFonction1_Divers();  // adding films, opened on the automatic page
-    void ChoixFonction2_Outils();
-    void ChoixFonction3_Config();
-    void cmdConfig_Click(int indice);
-    void montreVoletAjout() override { montre(m_fonctions.frameDivers); }  // whatever its page
+// The buttons that lead there: those of the window's bar, and those of the two pages behind one of them.
+void cmdAfficherFonctions_Click(const Contexte& c);
+void cmdConfigurer_Click(const Contexte& c);
+void cmdConfig_Click(const Contexte& c, int indice);
 
-  private:
-    void montre(const ecran::Cadre& panneau);
-    void metEnGras(std::size_t bouton);
+// The buttons at the top of the add panel: 0 automatic import and web search, 1 manual entry, 2 a previous installation,
+// which it proposes at once.
+void Command13_Click(const Contexte& c, int indice);
 
-    EtatFonctions& m_fonctions;
-    browse::EtatPanneaux& m_panneaux;
-    browse::AfficheAccueil& m_afficheAccueil;
-    edit::ModesAjout& m_modesAjout;
-    LogicielsExternes& m_logiciels;
-};
+void montreVoletAjout(const Contexte& c);  // adding films, whatever its page
 
 }  // namespace app

@@ -11,18 +11,14 @@ class Saisies;
 
 // What the commands that join several rooms work with. It is each room's context too, so that every command of the
 // program can be handed this one.
-struct Contexte {
+struct Contexte : acquire::Contexte {
     Etats& etats;
-    acquire::Contexte acquisition;  // and, as such, that of edit, browse and db
     view::Contexte vue;
     exportation::Contexte sorties;
     view::TableExtensions& extensions;
     Saisies& saisies;
+    const bool& arbreRelu;  // the tree was filled anew since the gesture that the running command answers
 
-    operator const acquire::Contexte&() const { return acquisition; }
-    operator const edit::Contexte&() const { return acquisition; }
-    operator const browse::Contexte&() const { return acquisition; }
-    operator const db::Contexte&() const { return acquisition; }
     operator const view::Contexte&() const { return vue; }
     operator const exportation::Contexte&() const { return sorties; }
 };

@@ -1,32 +1,41 @@
 #include "app/Demarrage.h"
 
-#include "app/APropos.h"
-#include "app/TextesAide.h"
+#include "app/Aide.h"
+#include "app/Extensions.h"
+#include "browse/AfficheNbTitres.h"
+#include "browse/ChoixTri.h"
+#include "browse/ChoixZone.h"
+#include "browse/RaffraichitBoitesDeroulantes.h"
+#include "browse/ZonesEtTris.h"
+#include "db/DossierImages.h"
+#include "db/Option3_Click.h"
+#include "db/OuvertureBase.h"
+#include "db/OuvertureJet.h"
 #include "db/Requete.h"
+#include "db/cmdChargeOuvreBase_Click.h"
 #include "platform/fichiers/Fichiers.h"
+#include "platform/fichiers/Restes.h"
 #include "platform/systeme/FinDuProgramme.h"
 #include "util/Texte.h"
+
+#include <filesystem>
+#include <set>
+#include <system_error>
 
 namespace app {
 
 namespace {
-
-constexpr const char* kZones[] = {"Mes films",        "Tous les films",     "Mes films non prêtés",
-                                  "Mes films prêtés", "Mes films réservés", "Films non possédés"};
-constexpr const char* kTris[] = {"Tri par titre - 1",   "Tri par titre - 2 ", "Tri par année",
-                                 "Tri par réalisateur", "Tri par genre",      "Tri par origine",
-                                 "Tri par durée",       "Tri par notation",   "Tri par support"};
 
 const std::string kDossierInutilisable =
     "Le nom du répertoire d'Ambrelis n'est pas écrit en UTF-8 : le programme ne peut pas y travailler. Renommez-le, "
     "puis "
     "recommencez.\n";
 
-template <typename Textes>
-void remplit(ecran::Liste& liste, const Textes& textes) {
+template <typename Lignes>
+void remplit(ecran::Liste& liste, const Lignes& lignes) {
     liste.Clear();
-    for (const char* texte : textes)
-        liste.AddItem(texte);
+    for (const auto& ligne : lignes)
+        liste.AddItem(std::string(ligne.legende));
 }
 
 }  // namespace
@@ -34,67 +43,82 @@ void remplit(ecran::Liste& liste, const Textes& textes) {
 void Demarrage::execute() {
     prendsInstance();
     verifieDossier();
-    m_etats.menu = MenuContextuel::Aucun;
+    m_c.etats.menu = MenuContextuel::Aucun;
     verifieModele();
     litReglages();
-    m_etats.fonctions.Label13.Caption = texteVersion();
+    m_c.etats.fonctions.Label13.Caption = texteVersion();
     ouvreLaBase();
-    remplit(m_etats.liste.ChoixZone, kZones);
-    remplit(m_etats.liste.ChoixTri, kTris);
+    remplit(m_c.liste.ChoixZone, browse::kZones);
+    remplit(m_c.liste.ChoixTri, browse::kTris);
     choisitTriEtZone();
     litExtensions();
-    metTextesAide(m_etats.fonctions);
-    poursuit([this] { m_suites.rafraichissement.AfficheNbTitres(); });
+    metTextesAide(m_c.etats.fonctions);
+    poursuit([this] { browse::AfficheNbTitres(m_c); });
 }
 
 void Demarrage::acheve() {
-    poursuit([this] { m_suites.rafraichissement.RaffraichitBoitesDeroulantes(); });
+    poursuit([this] { browse::RaffraichitBoitesDeroulantes(m_c); });
+    effaceRestes();
+}
+
+// From the folders that the program writes to: its own, "Tmp", the images' and the base's. Nothing else goes.
+void Demarrage::effaceRestes() {
+    const db::EtatStockage montre = m_c.stockage;
+    const std::string images = db::dossierImages(m_c);
+    m_c.stockage = montre;  // the folder stays named as it is
+    std::error_code ignoree;
+    const auto base =
+        std::filesystem::weakly_canonical(m_c.chemins.base, ignoree);  // beside the file, not beside a link
+    for (const std::string& dossier : std::set<std::string>{m_c.chemins.dossier, m_c.chemins.dossierTmp + "/", images,
+                                                            fichiers::dossierDe(base.string())})
+        fichiers::supprimeRestes(dossier);
 }
 
 void Demarrage::prendsInstance() {
-    if (!m_instance.prends(m_chemins.dossier)) throw systeme::FinDuProgramme{};
+    if (!m_instance.prends(m_c.chemins.dossier)) throw systeme::FinDuProgramme{};
 }
 
 void Demarrage::verifieDossier() {
-    if (!util::estUtf8(m_chemins.dossier)) refuse(kDossierInutilisable + m_chemins.dossier);
-    fichiers::assureDossierPrive(m_chemins.dossierTmp);
-    const std::string essai = m_chemins.dossierTmp + "/tmp.tmp";
+    if (!util::estUtf8(m_c.chemins.dossier)) refuse(kDossierInutilisable + m_c.chemins.dossier);
+    fichiers::assureDossierPrive(m_c.chemins.dossierTmp);
+    const std::string essai = m_c.chemins.dossierTmp + "/tmp.tmp";
     if (!fichiers::ecrit(essai, "")) refuse("Le répertoire d'Ambrelis doit être en lecture-écriture");
     fichiers::supprime(essai);
 }
 
 void Demarrage::verifieModele() {
-    if (!fichiers::existe(m_chemins.modele)) refuse("Le fichier " + m_chemins.modele + " n'existe pas.");
+    if (!fichiers::existe(m_c.chemins.modele)) refuse("Le fichier " + m_c.chemins.modele + " n'existe pas.");
 }
 
 void Demarrage::litReglages() {
-    if (!fichiers::existe(m_chemins.reglages)) fichiers::ecrit(m_chemins.reglages, "");
-    const std::optional<Reglages> lus = chargeReglages(m_chemins.reglages, m_chemins.dossier);
+    if (!fichiers::existe(m_c.chemins.reglages)) fichiers::ecrit(m_c.chemins.reglages, "");
+    const std::optional<Reglages> lus = chargeReglages(m_c.chemins.reglages, m_c.chemins.dossier);
     m_reglagesLus = lus.has_value();
     if (lus)
         applique(*lus);
     else
-        m_dialogues.MsgBox("Les réglages n'ont pas pu être lus (" + m_chemins.reglages + ").", dialogues::kExclamation);
+        m_c.dialogues.MsgBox("Les réglages n'ont pas pu être lus (" + m_c.chemins.reglages + ").",
+                             dialogues::kExclamation);
     activeStockage();
 }
 
 void Demarrage::applique(const Reglages& reglages) {
-    ecran::choisit(m_etats.stockage.Option3, static_cast<std::size_t>(reglages.stockage));
-    m_etats.stockage.Text4.Text = reglages.dossierImages;
-    m_etats.frmPrincipal.Width = reglages.largeur;
-    m_etats.frmPrincipal.Height = reglages.hauteur;
+    ecran::choisit(m_c.stockage.Option3, static_cast<std::size_t>(reglages.stockage));
+    m_c.stockage.Text4.Text = reglages.dossierImages;
+    m_c.etats.frmPrincipal.Width = reglages.largeur;
+    m_c.etats.frmPrincipal.Height = reglages.hauteur;
     m_triEnregistre = reglages.tri;
     m_baseNommee = !reglages.base.empty();
-    if (m_baseNommee) m_chemins.base = reglages.base;
-    m_etats.fonctions.chkLancerConnexion.Value = reglages.lancerConnexion ? 1 : 0;
-    m_etats.liste.AffStats.Value = reglages.statistiques ? 1 : 0;
+    if (m_baseNommee) m_c.chemins.base = reglages.base;
+    m_c.etats.fonctions.chkLancerConnexion.Value = reglages.lancerConnexion ? 1 : 0;
+    m_c.liste.AffStats.Value = reglages.statistiques ? 1 : 0;
 }
 
 // A folder of posters is made only where posters go to one.
 void Demarrage::activeStockage() {
-    if (!m_etats.stockage.dansLaBase()) return m_suites.option3();
-    m_etats.stockage.Text4.Enabled = false;
-    m_etats.stockage.cmdParcourir.Enabled = false;
+    if (!m_c.stockage.dansLaBase()) return db::Option3_Click(m_c);
+    m_c.stockage.Text4.Enabled = false;
+    m_c.stockage.cmdParcourir.Enabled = false;
 }
 
 // Where none opens, the program ends.
@@ -103,45 +127,45 @@ void Demarrage::ouvreLaBase() {
         ouvreCelleDesReglages();
         ditLaquelleEstOuverte();
     } catch (const systeme::FinDuProgramme&) {
-        if (!m_suites.cmdChargeOuvreBase.ouvreUneAutre()) throw;
+        if (!db::ouvreUneAutreBase(m_c)) throw;
     }
 }
 
 // A Jet base that was not converted fails to open.
 void Demarrage::ouvreCelleDesReglages() {
-    m_baseCreee = m_suites.ouvertureBase.assureLeFichier();
+    m_baseCreee = db::assureLeFichier(m_c);
     std::optional<std::string> conversion;
-    if (db::OuvertureJet::estJet(m_chemins.base)) conversion = m_suites.ouvertureJet(m_chemins.base);
-    m_suites.ouvertureBase();
-    if (conversion) m_dialogues.MsgBox(*conversion, dialogues::kInformation);
+    if (db::estJet(m_c.chemins.base)) conversion = db::convertitJet(m_c, m_c.chemins.base);
+    db::ouvreLaBase(m_c);
+    if (conversion) m_c.dialogues.MsgBox(*conversion, dialogues::kInformation);
 }
 
 // An empty collection in the place of the user's own is never opened without a word.
 void Demarrage::ditLaquelleEstOuverte() {
-    if (!m_chemins.baseAbsente.empty())
-        m_suites.baseAbsente.annonce();
+    if (!m_c.chemins.baseAbsente.empty())
+        m_baseAbsente.annonce();
     else if (m_baseCreee && m_baseNommee)
-        m_suites.avis.montre("La base " + m_chemins.base + " n'existait plus : une base vide a été créée à sa place.");
+        m_c.avis.montre("La base " + m_c.chemins.base + " n'existait plus : une base vide a été créée à sa place.");
 }
 
 // The sort first, then the zone; each selection raises its change event. Without a zone the first one lists nothing.
 void Demarrage::choisitTriEtZone() {
-    ecran::Liste& tri = m_etats.liste.ChoixTri;
+    ecran::Liste& tri = m_c.liste.ChoixTri;
     tri.selectionne(m_triEnregistre < tri.ListCount() ? m_triEnregistre : 0);
-    poursuit([this] { m_suites.choixTri.Click(); });
-    m_etats.liste.ChoixZone.selectionne(browse::kZoneMesFilms);
-    poursuit([this] { m_suites.choixZone.Click(); });
+    poursuit([this] { browse::ChoixTri_Click(m_c); });
+    m_c.liste.ChoixZone.selectionne(browse::kZoneMesFilms);
+    poursuit([this] { browse::ChoixZone_Click(m_c); });
 }
 
 void Demarrage::litExtensions() {
-    const std::string chemin = m_chemins.dansDossier(kFichierExtensions);
+    const std::string chemin = m_c.chemins.dansDossier(kFichierExtensions);
     const auto lignes = fichiers::litLignes(chemin, 2 * TableExtensions::kLignesLues);
     if (!lignes) refuse("Le fichier 'Extensions.txt' est absent.");
-    auto& [extensions, programmes] = m_etats.fonctions.Combo6;
+    auto& [extensions, programmes] = m_c.etats.fonctions.Combo6;
     extensions.Clear();
-    const std::size_t nombre = app::litExtensions(*lignes, m_extensions);
+    const std::size_t nombre = app::litExtensions(*lignes, m_c.extensions);
     for (std::size_t i = 0; i < nombre; ++i)
-        extensions.AddItem(m_extensions.lignes[i][0]);
+        extensions.AddItem(m_c.extensions.lignes[i][0]);
     programmes.AddItem(kLogicielParDefaut);
     programmes.selectionne(programmes.ListCount() - 1);
     if (nombre > 0) extensions.selectionne(0);
@@ -152,12 +176,12 @@ void Demarrage::poursuit(const std::function<void()>& etape) {
         etape();
     } catch (const db::RequeteEchouee&) {
     } catch (const dao::ErreurDao& erreur) {
-        m_dialogues.MsgBox("Erreur " + std::to_string(erreur.numero) + " : " + erreur.description);
+        m_c.dialogues.MsgBox(erreur.texte());
     }
 }
 
 void Demarrage::refuse(const std::string& message) {
-    m_dialogues.MsgBox(message, dialogues::kCritique);
+    m_c.dialogues.MsgBox(message, dialogues::kCritique);
     throw systeme::FinDuProgramme{};
 }
 

@@ -1,18 +1,8 @@
 #pragma once
 
 #include "app/BaseAbsente.h"
-#include "app/Etats.h"
-#include "app/Extensions.h"
+#include "app/Contexte.h"
 #include "app/Reglages.h"
-#include "browse/ChoixTri.h"
-#include "browse/ChoixZone.h"
-#include "db/Chemins.h"
-#include "db/Option3_Click.h"
-#include "db/OuvertureBase.h"
-#include "db/OuvertureJet.h"
-#include "db/Rafraichissement.h"
-#include "db/cmdChargeOuvreBase_Click.h"
-#include "platform/dialogues/Dialogues.h"
 #include "platform/systeme/InstanceUnique.h"
 
 #include <functional>
@@ -23,31 +13,14 @@ namespace app {
 // The start-up: checks the program folder, reads the settings, opens the base and fills the window.
 class Demarrage {
   public:
-    // What the sequence calls out to.
-    struct Suites {
-        db::Option3_Click& option3;
-        db::OuvertureBase& ouvertureBase;
-        db::OuvertureJet& ouvertureJet;
-        db::cmdChargeOuvreBase_Click& cmdChargeOuvreBase;
-        BaseAbsente& baseAbsente;
-        ecran::Avis& avis;
-        browse::ChoixTri& choixTri;
-        browse::ChoixZone& choixZone;
-        db::Rafraichissement& rafraichissement;
-    };
-
-    Demarrage(Etats& etats, db::Chemins& chemins, TableExtensions& extensions, systeme::InstanceUnique& instance,
-              dialogues::Dialogues& dialogues, const Suites& suites)
-        : m_etats(etats),
-          m_chemins(chemins),
-          m_extensions(extensions),
-          m_instance(instance),
-          m_dialogues(dialogues),
-          m_suites(suites) {}
+    // All of it outlives the start.
+    Demarrage(const Contexte& c, systeme::InstanceUnique& instance, BaseAbsente& baseAbsente)
+        : m_c(c), m_instance(instance), m_baseAbsente(baseAbsente) {}
 
     // Throws systeme::FinDuProgramme at the first check that fails, after its message if it has one.
     void execute();
-    // What no page shows before the window is there, and takes its time: the drop-down lists of the holdings.
+    // What no page shows before the window is there, and takes its time: the drop-down lists of the holdings, and the
+    // removal of what killed runs left of files that they were writing.
     void acheve();
     // False when the settings file stands there and could not be read.
     [[nodiscard]] bool reglagesLus() const { return m_reglagesLus; }
@@ -66,14 +39,12 @@ class Demarrage {
     void litExtensions();
     // A base that opens and cannot be listed does not end the program: another one can be opened.
     void poursuit(const std::function<void()>& etape);
+    void effaceRestes();
     [[noreturn]] void refuse(const std::string& message);
 
-    Etats& m_etats;
-    db::Chemins& m_chemins;
-    TableExtensions& m_extensions;
+    const Contexte& m_c;
     systeme::InstanceUnique& m_instance;
-    dialogues::Dialogues& m_dialogues;
-    Suites m_suites;
+    BaseAbsente& m_baseAbsente;
     int m_triEnregistre = 0;
     bool m_reglagesLus = false;
     bool m_baseNommee = false;  // by the settings

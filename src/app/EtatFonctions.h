@@ -21,9 +21,6 @@ struct EtatFonctions {
         cmdCreerListe;
     // Configuration.
     ecran::Bouton cmdMajBase;
-    ecran::Progression ProgressBar2;  // conversion of the posters
-    ecran::Progression ProgressBar3;  // work over many films, or of another program; visible while it lasts
-    ecran::Etiquette lblTravail;      // what that work is, where it says so
     ecran::CaseACocher chkLancerConnexion;
     std::array<ecran::Liste, 2> Combo6;  // extensions, programs
     ecran::Bouton cmdParcourirLogiciel, cmdSupprExtension, cmdAjoutExtension;
@@ -31,16 +28,6 @@ struct EtatFonctions {
 
     ecran::Etiquette Label13;  // version
     ecran::Etiquette Label4;   // link to the program's own page
-
-    // Deletion by ticking.
-    std::array<ecran::BoutonOption, 2> Option4;  // off, on
-    ecran::Bouton cmdSupprTitresSelect;
-
-    EtatFonctions() {
-        ProgressBar3.Visible = false;
-        ecran::choisit(Option4, 0);
-        cmdSupprTitresSelect.Visible = false;
-    }
 };
 
 // Window size in twips (15 are one logical pixel); 0: the designed size.

@@ -6,7 +6,9 @@
 #include "browse/EtatPanneaux.h"
 #include "browse/EtatRecherche.h"
 #include "db/EtatStockage.h"
+#include "db/EtatTravaux.h"
 #include "edit/EtatAjout.h"
+#include "edit/EtatMultiSuppression.h"
 #include "export/EtatNom.h"
 #include "platform/ecran/Avis.h"
 #include "platform/ecran/Ecran.h"
@@ -26,7 +28,9 @@ struct Etats {
     browse::EtatPanneaux panneaux;
     browse::EtatFiche fiche;
     db::EtatStockage stockage;
+    db::EtatTravaux travaux;
     edit::EtatAjout ajout;
+    edit::EtatMultiSuppression multiSuppression;
     EtatFonctions fonctions;
     view::EtatAffiche affiche;
     view::EtatFichiers fichiers;

@@ -1,5 +1,7 @@
 #include "app/Extensions.h"
 
+#include "platform/fichiers/Fichiers.h"
+
 #include <algorithm>
 
 namespace app {
@@ -29,6 +31,14 @@ std::string texteExtensions(const TableExtensions& table, std::size_t nombre) {
     for (std::size_t i = 0; i < std::min(nombre, TableExtensions::kLignes); ++i)
         texte += table.lignes[i][0] + '\n' + table.lignes[i][1] + '\n';
     return texte;
+}
+
+void enregistreExtensions(const Contexte& c) {
+    const std::string chemin = c.chemins.dansDossier(kFichierExtensions);
+    const auto nombre = static_cast<std::size_t>(c.etats.fonctions.Combo6[0].ListCount());
+    if (!fichiers::remplace(chemin, texteExtensions(c.extensions, nombre)))
+        c.dialogues.MsgBox("La liste des logiciels externes n'a pas pu être enregistrée (" + chemin + ").",
+                           dialogues::kCritique);
 }
 
 }  // namespace app

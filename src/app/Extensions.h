@@ -1,6 +1,6 @@
 #pragma once
 
-#include "view/TableExtensions.h"
+#include "app/Contexte.h"
 
 #include <cstddef>
 #include <string>
@@ -18,5 +18,8 @@ using view::TableExtensions;
 
 // The file's text for the first `nombre` rows; the table has no row beyond its sixteenth.
 [[nodiscard]] std::string texteExtensions(const TableExtensions& table, std::size_t nombre);
+
+// Replaces the file by the table's rows, as many as there are extensions to choose; tells the user when it cannot be.
+void enregistreExtensions(const Contexte& c);
 
 }  // namespace app

@@ -1,9 +1,10 @@
 #include "app/LogicielsExternes.h"
 
-#include "app/EnregistreExtensions.h"
+#include "app/Extensions.h"
 #include "platform/fichiers/Fichiers.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace app {
 
@@ -28,118 +29,124 @@ bool peutFinirUnNom(const std::string& extension) {
            extension.find("\u00A0") == std::string::npos;
 }
 
+// The rows of the table that have an extension to choose them by.
+std::size_t nombre(const Contexte& c) {
+    return std::min(static_cast<std::size_t>(c.etats.fonctions.Combo6[0].ListCount()), TableExtensions::kLignes);
+}
+
+// None without an extension.
+std::array<std::string, 2>* ligneChoisie(const Contexte& c) {
+    const auto choisie = static_cast<std::size_t>(c.etats.fonctions.Combo6[0].ListIndex);
+    return choisie < nombre(c) ? &c.extensions.lignes[choisie] : nullptr;
+}
+
+std::optional<int> placeDe(const Contexte& c, const std::string& extension) {
+    const std::size_t ligne = c.extensions.ligneDe(extension);
+    return ligne < nombre(c) ? std::optional(static_cast<int>(ligne)) : std::nullopt;
+}
+
+// Why it cannot be added, empty if it can.
+std::string refus(const Contexte& c, const std::string& extension) {
+    if (extension.empty()) return "Tapez d'abord une extension, par exemple avi.";
+    if (!peutFinirUnNom(extension))
+        return "Une extension s'écrit sans espace, sans point et sans \"/\", par exemple avi.";
+    if (placeDe(c, extension)) return "L'extension \"" + extension + "\" est déjà dans la liste.";
+    return nombre(c) < TableExtensions::kLignesLues ? "" : kTropDExtensions;
+}
+
+// The table was changed: shows and keeps it.
+void changee(const Contexte& c) {
+    montreLogiciels(c);
+    enregistreExtensions(c);
+}
+
+void donneLogiciel(const Contexte& c, const std::string& programme) {
+    auto* ligne = ligneChoisie(c);
+    if (!ligne || (*ligne)[1] == programme) return;
+    (*ligne)[1] = programme;
+    changee(c);
+}
+
+// An extension that is there already is shown, with its program.
+void refuse(const Contexte& c, const std::string& extension, const std::string& raison) {
+    if (const auto place = placeDe(c, extension)) {
+        c.etats.fonctions.Combo6[0].selectionne(*place);
+        montreLogiciels(c);
+    }
+    c.dialogues.MsgBox(raison, dialogues::kExclamation);
+    c.demandes.focus = "txtNouvelleExtension";
+}
+
 }  // namespace
 
-void LogicielsExternes::montre() {
-    auto& [extensions, programmes] = m_etat.Combo6;
+void montreLogiciels(const Contexte& c) {
+    EtatFonctions& fonctions = c.etats.fonctions;
+    auto& [extensions, programmes] = fonctions.Combo6;
     programmes.Clear();
-    for (std::size_t i = 0; i < nombre(); ++i) {
-        const std::string& programme = m_table.lignes[i][1];
+    for (std::size_t i = 0; i < nombre(c); ++i) {
+        const std::string& programme = c.extensions.lignes[i][1];
         const auto& connus = programmes.Items;
         if (!estParDefaut(programme) && std::find(connus.begin(), connus.end(), programme) == connus.end())
             programmes.AddItem(programme);
     }
     programmes.AddItem(kLogicielParDefaut);
-    const auto* ligne = ligneChoisie();
+    const auto* ligne = ligneChoisie(c);
     const auto choisi =
         ligne ? std::find(programmes.Items.begin(), programmes.Items.end(), (*ligne)[1]) : programmes.Items.end();
     programmes.selectionne(choisi == programmes.Items.end() ? programmes.ListCount() - 1
                                                             : static_cast<int>(choisi - programmes.Items.begin()));
-    extensions.Enabled = nombre() > 0;
-    programmes.Enabled = m_etat.cmdParcourirLogiciel.Enabled = m_etat.cmdSupprExtension.Enabled = ligne != nullptr;
+    extensions.Enabled = nombre(c) > 0;
+    programmes.Enabled = fonctions.cmdParcourirLogiciel.Enabled = fonctions.cmdSupprExtension.Enabled =
+        ligne != nullptr;
 }
 
-void LogicielsExternes::Combo6_Click(int indice) {
+void Combo6_Click(const Contexte& c, int indice) {
     if (indice == 0)
-        montre();
+        montreLogiciels(c);
     else
-        donneLogiciel(m_etat.Combo6[1].Text);
+        donneLogiciel(c, c.etats.fonctions.Combo6[1].Text);
 }
 
-void LogicielsExternes::cmdParcourirLogiciel_Click() {
-    const auto* ligne = ligneChoisie();
+void cmdParcourirLogiciel_Click(const Contexte& c) {
+    const auto* ligne = ligneChoisie(c);
     if (!ligne) return;
     const std::string& actuel = (*ligne)[1];
     const std::string dossier = fichiers::existe(actuel) ? fichiers::dossierDe(actuel) : kDossierLogiciels;
     const std::string choisi =
-        m_dialogues.choisitFichier({"Logiciel des fichiers " + (*ligne)[0], "Tous les fichiers|*.*", dossier, false});
+        c.dialogues.choisitFichier({"Logiciel des fichiers " + (*ligne)[0], "Tous les fichiers|*.*", dossier, false});
     if (choisi.empty()) return;
     if (!fichiers::executable(choisi) || !tientSurUneLigne(choisi))
-        m_dialogues.MsgBox("Ce fichier n'est pas un logiciel qui peut être lancé :\n" + choisi,
+        c.dialogues.MsgBox("Ce fichier n'est pas un logiciel qui peut être lancé :\n" + choisi,
                            dialogues::kExclamation);
     else
-        donneLogiciel(choisi);
+        donneLogiciel(c, choisi);
 }
 
-void LogicielsExternes::cmdAjoutExtension_Click() {
-    const std::string extension = extensionTapee(m_etat.txtNouvelleExtension.Text);
-    if (const std::string texte = refus(extension); !texte.empty()) return refuse(extension, texte);
-    ecran::Liste& extensions = m_etat.Combo6[0];
-    m_table.lignes[nombre()] = {extension, kLogicielParDefaut};
+void cmdAjoutExtension_Click(const Contexte& c) {
+    const std::string extension = extensionTapee(c.etats.fonctions.txtNouvelleExtension.Text);
+    if (const std::string texte = refus(c, extension); !texte.empty()) return refuse(c, extension, texte);
+    ecran::Liste& extensions = c.etats.fonctions.Combo6[0];
+    c.extensions.lignes[nombre(c)] = {extension, kLogicielParDefaut};
     extensions.AddItem(extension);
     extensions.selectionne(extensions.ListCount() - 1);
-    m_etat.txtNouvelleExtension.Text.clear();
-    changee();
-    m_demandes.focus = "cmdParcourirLogiciel";
+    c.etats.fonctions.txtNouvelleExtension.Text.clear();
+    changee(c);
+    c.demandes.focus = "cmdParcourirLogiciel";
 }
 
-// An extension that is there already is shown, with its program.
-void LogicielsExternes::refuse(const std::string& extension, const std::string& raison) {
-    if (const auto place = placeDe(extension)) {
-        m_etat.Combo6[0].selectionne(*place);
-        montre();
-    }
-    m_dialogues.MsgBox(raison, dialogues::kExclamation);
-    m_demandes.focus = "txtNouvelleExtension";
-}
-
-void LogicielsExternes::cmdSupprExtension_Click() {
-    auto* ligne = ligneChoisie();
+void cmdSupprExtension_Click(const Contexte& c) {
+    auto* ligne = ligneChoisie(c);
     if (!ligne) return;
-    if (m_dialogues.MsgBox("Retirer l'extension \"" + (*ligne)[0] +
+    if (c.dialogues.MsgBox("Retirer l'extension \"" + (*ligne)[0] +
                                "\" de la liste ?\nSes fichiers s'ouvriront avec le logiciel par défaut.",
                            dialogues::kQuestion) != dialogues::kOui)
         return;
-    ecran::Liste& extensions = m_etat.Combo6[0];
-    std::rotate(ligne, ligne + 1, m_table.lignes.data() + nombre());
-    m_table.lignes[nombre() - 1] = {};
+    ecran::Liste& extensions = c.etats.fonctions.Combo6[0];
+    std::rotate(ligne, ligne + 1, c.extensions.lignes.data() + nombre(c));
+    c.extensions.lignes[nombre(c) - 1] = {};
     extensions.Items.erase(extensions.Items.begin() + extensions.ListIndex);
     extensions.selectionne(std::min(extensions.ListIndex, extensions.ListCount() - 1));
-    changee();
-}
-
-std::size_t LogicielsExternes::nombre() const {
-    return std::min(static_cast<std::size_t>(m_etat.Combo6[0].ListCount()), TableExtensions::kLignes);
-}
-
-std::array<std::string, 2>* LogicielsExternes::ligneChoisie() {
-    const auto choisie = static_cast<std::size_t>(m_etat.Combo6[0].ListIndex);
-    return choisie < nombre() ? &m_table.lignes[choisie] : nullptr;
-}
-
-std::optional<int> LogicielsExternes::placeDe(const std::string& extension) const {
-    const std::size_t ligne = m_table.ligneDe(extension);
-    return ligne < nombre() ? std::optional(static_cast<int>(ligne)) : std::nullopt;
-}
-
-std::string LogicielsExternes::refus(const std::string& extension) const {
-    if (extension.empty()) return "Tapez d'abord une extension, par exemple avi.";
-    if (!peutFinirUnNom(extension))
-        return "Une extension s'écrit sans espace, sans point et sans \"/\", par exemple avi.";
-    if (placeDe(extension)) return "L'extension \"" + extension + "\" est déjà dans la liste.";
-    return nombre() < TableExtensions::kLignesLues ? "" : kTropDExtensions;
-}
-
-void LogicielsExternes::donneLogiciel(const std::string& programme) {
-    auto* ligne = ligneChoisie();
-    if (!ligne || (*ligne)[1] == programme) return;
-    (*ligne)[1] = programme;
-    changee();
-}
-
-void LogicielsExternes::changee() {
-    montre();
-    enregistreExtensions(m_table, nombre(), m_chemins, m_dialogues);
+    changee(c);
 }
 
 std::string extensionTapee(const std::string& texte) {

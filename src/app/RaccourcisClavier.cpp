@@ -1,60 +1,72 @@
 #include "app/RaccourcisClavier.h"
 
+#include "app/ChoixFonction.h"
+#include "app/Saisies.h"
+#include "browse/AfficheAccueil.h"
+#include "browse/AfficheVolet.h"
+#include "edit/Command13_Click.h"
+#include "edit/cmdAjoutFilm_Click.h"
+#include "edit/cmdModifierTitre_Click.h"
+#include "edit/cmdSupprimerTitre_Click.h"
+#include "edit/cmdValiderInfosPossessions_Click.h"
+
 namespace app {
 
-void RaccourcisClavier::QuittePanneau() {
-    browse::EtatPanneaux& panneaux = m_montre.panneaux;
+void QuittePanneau(const Contexte& c) {
+    browse::EtatPanneaux& panneaux = c.panneaux;
     const bool coche = panneaux.frameMultiSuppression.Visible;
     if (!coche && (panneaux.frameFiche.Visible || panneaux.framePresentation.Visible)) {
-        m_montre.demandes.focus = "TreeView1";
+        c.demandes.focus = "TreeView1";
         return;
     }
-    if (!m_gestes.saisies.abandonnePage()) return;
-    m_montre.demandes.focus = "TreeView1";
+    if (!c.saisies.abandonnePage()) return;
+    c.demandes.focus = "TreeView1";
     panneaux.montreAucun();
-    if (!m_montre.film.estUnFilm()) return m_gestes.afficheAccueil();
+    if (!c.film.estUnFilm()) return browse::AfficheAccueil(c);
     panneaux.montre(panneaux.frameFiche);
-    const bool generalites = m_montre.fiche.frameGeneralites[0].Visible;
-    m_gestes.afficheVolet(generalites ? browse::kVoletGeneralites : browse::kVoletAutresInfos);
+    const bool generalites = c.fiche.frameGeneralites[0].Visible;
+    browse::AfficheVolet(c, generalites ? browse::kVoletGeneralites : browse::kVoletAutresInfos);
 }
 
-void RaccourcisClavier::SaisieManuelle() {
-    Saisies& saisies = m_gestes.saisies;
-    if (saisies.pageEnSuspens() && !m_montre.ajout.modeModifier()) {
-        m_montre.demandes.focus = "Text3_0";
+void SaisieManuelle(const Contexte& c) {
+    if (c.saisies.pageEnSuspens() && !c.ajout.modeModifier()) {
+        c.demandes.focus = "Text3_0";
         return;
     }
-    if (!saisies.pageMontree() && saisies.reprendAjout()) return;
-    if (!saisies.abandonnePage()) return;
-    m_gestes.volet.montreVoletAjout();
-    m_gestes.modes.Command13_Click(1);
-    saisies.retient();
+    if (!c.saisies.pageMontree() && c.saisies.reprendAjout()) return;
+    if (!c.saisies.abandonnePage()) return;
+    montreVoletAjout(c);
+    edit::Command13_Click(c, 1);
+    c.saisies.retient();
 }
 
-// A correction that was begun goes on.
-void RaccourcisClavier::Modifie() {
-    if (m_gestes.saisies.pageEnSuspens() && m_montre.ajout.modeModifier()) {
-        m_montre.demandes.focus = "Text3_0";
+void cmdModifierTitre_Click(const Contexte& c) {
+    if (c.saisies.pageEnSuspens() && c.ajout.modeModifier()) {
+        c.demandes.focus = "Text3_0";
         return;
     }
-    if (!m_montre.film.estUnFilm()) return;
-    m_gestes.modifie();
-    m_gestes.saisies.retient();
+    if (!c.film.estUnFilm()) return;
+    edit::cmdModifierTitre_Click(c);
+    c.saisies.retient();
 }
 
-void RaccourcisClavier::ModifieFilmAffiche() {
-    if (m_montre.panneaux.frameFiche.Visible) Modifie();
+void ModifieFilmAffiche(const Contexte& c) {
+    if (c.panneaux.frameFiche.Visible) cmdModifierTitre_Click(c);
 }
 
-void RaccourcisClavier::SupprimeFilmAffiche() {
-    if (m_montre.panneaux.frameFiche.Visible) m_gestes.supprime.cmdSupprimerTitre_Click();
+void SupprimeFilmAffiche(const Contexte& c) {
+    if (c.panneaux.frameFiche.Visible) edit::cmdSupprimerTitre_Click(c);
 }
 
-void RaccourcisClavier::Valide() {
-    if (m_gestes.saisies.pageMontree())
-        m_gestes.ajoute();
-    else if (m_montre.panneaux.frameFiche.Visible && m_montre.fiche.cmdValiderInfosPossessions.Visible)
-        m_gestes.valide();
+void ValideSaisie(const Contexte& c) {
+    if (c.saisies.pageMontree())
+        edit::cmdAjoutFilm_Click(c);
+    else if (c.panneaux.frameFiche.Visible && c.fiche.cmdValiderInfosPossessions.Visible)
+        edit::cmdValiderInfosPossessions_Click(c);
+}
+
+void MontreTouches(const Contexte& c) {
+    c.dialogues.MsgBox(texteTouches(), dialogues::kInformation);
 }
 
 std::string texteTouches() {

@@ -1,7 +1,11 @@
 #include "app/Saisies.h"
 
+#include "app/ChoixFonction.h"
 #include "browse/AffichePossession.h"
+#include "browse/AfficheVolet.h"
+#include "browse/MontreFilm.h"
 #include "db/Requete.h"
+#include "edit/Command13_Click.h"
 #include "edit/LongueursChamps.h"
 #include "edit/TitreCite.h"
 #include "platform/systeme/FinDuProgramme.h"
@@ -27,6 +31,10 @@ std::string texteDeLaPossession(const std::string& titre) {
 
 }  // namespace
 
+void Saisies::montreVoletAjout() {
+    app::montreVoletAjout(m_c);
+}
+
 void Saisies::surveille(const std::function<void()>& commande) {
     Avant depart = avant();
     m_filmStocke = m_possessionStockee = false;
@@ -42,8 +50,8 @@ void Saisies::surveille(const std::function<void()>& commande) {
 }
 
 bool Saisies::pageMontree() const {
-    return m_montre.panneaux.frameListeFonctions.Visible && m_montre.fonctions.frameDivers.Visible &&
-           m_montre.ajout.Frame13.Visible;
+    return m_c.panneaux.frameListeFonctions.Visible && m_c.etats.fonctions.frameDivers.Visible &&
+           m_c.ajout.Frame13.Visible;
 }
 
 bool Saisies::abandonnePage() {
@@ -53,11 +61,11 @@ bool Saisies::abandonnePage() {
 bool Saisies::abandonneTout() {
     if (pageEnSuspens()) return abandonnePage();
     return !avant().saisie.possession ||
-           demandeAbandon("La possession de " + edit::titreCite(m_montre.film.titre) + " n'est pas validée.");
+           demandeAbandon("La possession de " + edit::titreCite(m_c.film.titre) + " n'est pas validée.");
 }
 
 bool Saisies::demandeAbandon(const std::string& quoi) {
-    return m_dialogues.MsgBox(quoi + "\nVoulez-vous abandonner votre saisie ?", dialogues::kQuestion) ==
+    return m_c.dialogues.MsgBox(quoi + "\nVoulez-vous abandonner votre saisie ?", dialogues::kQuestion) ==
            dialogues::kOui;
 }
 
@@ -67,24 +75,24 @@ bool Saisies::reprendAjout() {
     });
     if (derniere == m_laissees.rend()) return false;
     const int numero = derniere->numero;
-    if (m_proposee == numero && m_montre.avis.numero == m_avis) m_gestes.avis.retire();
+    if (m_proposee == numero && m_c.etats.avis.numero == m_avis) m_c.avis.retire();
     reprend(numero);
     return true;
 }
 
 void Saisies::oublie() {
-    if (m_montre.avis.numero != m_avis) return;
+    if (m_c.etats.avis.numero != m_avis) return;
     std::erase_if(m_laissees, [this](const Laissee& laissee) { return laissee.numero == m_proposee; });
 }
 
 Saisies::Textes Saisies::textes() const {
-    const edit::EtatAjout& ajout = m_montre.ajout;
+    const edit::EtatAjout& ajout = m_c.ajout;
     return {ajout.Text3[0].Text, ajout.Text3[1].Text, ajout.Text3[2].Text, ajout.Text3[3].Text, ajout.Text3[4].Text,
             ajout.Combo2.Text,   ajout.Combo3.Text,   ajout.Combo4.Text,   ajout.txtResume.Text};
 }
 
 void Saisies::ecrit(const Textes& textes) {
-    edit::EtatAjout& ajout = m_montre.ajout;
+    edit::EtatAjout& ajout = m_c.ajout;
     std::size_t rang = 0;
     for (ecran::ZoneTexte& zone : ajout.Text3)
         zone.Text = textes[rang++];
@@ -96,13 +104,13 @@ void Saisies::ecrit(const Textes& textes) {
 }
 
 Saisies::Avant Saisies::avant() const {
-    const browse::FilmCourant& film = m_montre.film;
-    Avant depart{{}, {film.titre, film.realisateur}, pageMontree(), m_montre.avis.numero};
+    const browse::FilmCourant& film = m_c.film;
+    Avant depart{{}, film, pageMontree(), m_c.etats.avis.numero};
     if (pageEnSuspens())
         depart.saisie.page = Page{textes(), m_retenus,
-                                  m_montre.ajout.modeModifier() ? std::optional<Identite>(depart.film) : std::nullopt};
-    if (film.estUnFilm() && m_montre.fiche.cmdValiderInfosPossessions.Visible)
-        if (const auto saisis = browse::champsPossession(m_montre.fiche); saisis != film.possession)
+                                  m_c.ajout.modeModifier() ? std::optional<db::CleFilm>(depart.film) : std::nullopt};
+    if (film.estUnFilm() && m_c.fiche.cmdValiderInfosPossessions.Visible)
+        if (const auto saisis = browse::champsPossession(m_c.fiche); saisis != film.possession)
             depart.saisie.possession = Possession{depart.film, saisis, film.possession};
     return depart;
 }
@@ -126,35 +134,33 @@ void Saisies::apres(Avant depart) {
 }
 
 bool Saisies::pageGardee(const Page& page) {
-    if (!pageMontree() || textes() != page.saisis || m_montre.ajout.modeModifier() != page.corrige.has_value())
-        return false;
-    browse::FilmCourant& film = m_montre.film;
-    if (page.corrige && (film.titre != page.corrige->titre || film.realisateur != page.corrige->realisateur)) {
-        film = {};  // a refresh forgot it; the page still corrects it
-        film.titre = page.corrige->titre;
-        film.realisateur = page.corrige->realisateur;
-    }
+    if (!pageMontree() || textes() != page.saisis || m_c.ajout.modeModifier() != page.corrige.has_value()) return false;
+    // A refresh may have forgotten the film that the page still corrects.
+    if (page.corrige && m_c.film != *page.corrige) rendCourant(*page.corrige);
     return true;
 }
 
 bool Saisies::possessionGardee(const Possession& possession) {
-    const auto& [titre, realisateur] = possession.film;
-    if (m_gestes.montreFilm.estCourant(titre, realisateur)) {
-        if (!m_montre.fiche.cmdValiderInfosPossessions.Visible) remet(possession);
+    if (browse::filmEstCourant(m_c, possession.film)) {
+        if (!m_c.fiche.cmdValiderInfosPossessions.Visible) remet(possession);
         return true;
     }
     try {
-        return !m_gestes.montreFilm.existe(titre, realisateur);  // deleted with it
-    } catch (const db::RequeteEchouee&) {                        // told; the base may be read again later
+        return !browse::filmExiste(m_c, possession.film);  // deleted with it
+    } catch (const db::RequeteEchouee&) {                  // told; the base may be read again later
         return false;
     }
 }
 
+void Saisies::rendCourant(const db::CleFilm& film) {
+    m_c.film = {};
+    static_cast<db::CleFilm&>(m_c.film) = film;
+}
+
 // What the user changed, over what the base now holds.
 void Saisies::remet(const Possession& possession) {
-    browse::EtatFiche& fiche = m_montre.fiche;
-    browse::ecritChampsPossession(fiche,
-                                  browse::reporteSaisie(possession.lus, possession.saisis, m_montre.film.possession));
+    browse::EtatFiche& fiche = m_c.fiche;
+    browse::ecritChampsPossession(fiche, browse::reporteSaisie(possession.lus, possession.saisis, m_c.film.possession));
     fiche.cmdValiderInfosPossessions.Visible = true;
     browse::montrePossession(fiche);
 }
@@ -173,26 +179,25 @@ void Saisies::laisse(Saisie saisie) {
 
 // Offers again what was set aside, where the user comes back to it and the line has gone on to something else.
 void Saisies::rappelle(const Avant& depart) {
-    const ecran::EtatAvis& avis = m_montre.avis;
+    const ecran::EtatAvis& avis = m_c.etats.avis;
     if (avis.numero != depart.avis || (avis.frameAvis.Visible && avis.numero == m_avis)) return;
     const bool pageOuverte = pageMontree() && !depart.page && !pageEnSuspens();
-    const browse::FilmCourant& film = m_montre.film;
-    const bool autreFilm = film.titre != depart.film.titre || film.realisateur != depart.film.realisateur;
+    const browse::FilmCourant& film = m_c.film;
+    const bool autreFilm = film != depart.film;
     for (auto laissee = m_laissees.rbegin(); laissee != m_laissees.rend(); ++laissee) {
         const auto& [page, possession] = laissee->saisie;
         if (pageOuverte && page)
             return propose(laissee->numero, texteDeLaPage(page->corrige ? page->corrige->titre : page->saisis[0],
                                                           page->corrige.has_value()));
-        if (autreFilm && possession &&
-            m_gestes.montreFilm.estCourant(possession->film.titre, possession->film.realisateur))
+        if (autreFilm && possession && browse::filmEstCourant(m_c, possession->film))
             return propose(laissee->numero, texteDeLaPossession(possession->film.titre));
     }
 }
 
 void Saisies::propose(int numero, const std::string& texte) {
-    m_gestes.avis.montre(texte, {{"Reprendre", [this, numero] { reprend(numero); }}});
+    m_c.avis.montre(texte, {{"Reprendre", [this, numero] { reprend(numero); }}});
     m_proposee = numero;
-    m_avis = m_montre.avis.numero;
+    m_avis = m_c.etats.avis.numero;
 }
 
 void Saisies::reprend(int numero) {
@@ -211,34 +216,31 @@ void Saisies::reprend(int numero) {
 }
 
 void Saisies::reprendPage(const Page& page) {
-    std::optional<Identite> corrige = page.corrige;
-    if (corrige && !m_gestes.montreFilm.existe(corrige->titre, corrige->realisateur)) corrige.reset();
-    if (corrige && !m_gestes.montreFilm.estCourant(corrige->titre, corrige->realisateur) &&
-        !m_gestes.montreFilm.dansLaListe(corrige->titre, corrige->realisateur)) {
-        m_montre.film = {};  // the listing lacks it: it is corrected without a sheet
-        m_montre.liste.noeudChoisi = -1;
-        m_montre.film.titre = corrige->titre;
-        m_montre.film.realisateur = corrige->realisateur;
+    std::optional<db::CleFilm> corrige = page.corrige;
+    if (corrige && !browse::filmExiste(m_c, *corrige)) corrige.reset();
+    if (corrige && !browse::filmEstCourant(m_c, *corrige) && !browse::montreDansLaListe(m_c, *corrige)) {
+        rendCourant(*corrige);  // the listing lacks it: it is corrected without a sheet
+        m_c.liste.noeudChoisi = -1;
     }
-    m_gestes.volet.montreVoletAjout();
-    m_gestes.modes.Command13_Click(1);
+    montreVoletAjout();
+    edit::Command13_Click(m_c, 1);
     retient();
     if (corrige) {
-        m_gestes.modes.passeEnCorrection(corrige->titre);
+        edit::passeEnCorrection(m_c, corrige->titre);
         m_retenus = page.retenus;
     }
     ecrit(page.saisis);
     if (page.corrige && !corrige)
-        m_gestes.avis.montre(edit::titreCite(page.corrige->titre) +
-                             " n'est plus dans la base : sa fiche est reprise pour être ajoutée.");
+        m_c.avis.montre(edit::titreCite(page.corrige->titre) +
+                        " n'est plus dans la base : sa fiche est reprise pour être ajoutée.");
 }
 
 // False when the film is gone.
 bool Saisies::reprendPossession(const Possession& possession) {
-    if (!m_gestes.montreFilm(possession.film.titre, possession.film.realisateur)) return false;
+    if (!browse::MontreFilm(m_c, possession.film)) return false;
     remet(possession);
-    m_gestes.afficheVolet(browse::kVoletAutresInfos);
-    m_montre.demandes.focus = possession.saisis.possede ? "Combo7_2" : "Option1_0";
+    browse::AfficheVolet(m_c, browse::kVoletAutresInfos);
+    m_c.demandes.focus = possession.saisis.possede ? "Combo7_2" : "Option1_0";
     return true;
 }
 

@@ -1,12 +1,6 @@
 #pragma once
 
-#include "app/EtatFonctions.h"
-#include "browse/AfficheVolet.h"
-#include "browse/EtatPanneaux.h"
-#include "browse/MontreFilm.h"
-#include "edit/Command13_Click.h"
-#include "edit/VoletAjout.h"
-#include "platform/ecran/Avis.h"
+#include "app/Contexte.h"
 
 #include <array>
 #include <functional>
@@ -19,35 +13,17 @@ namespace app {
 // What the user is typing and has not stored: the page of entry, and the holdings of the current film. What a command
 // drops of it is set aside, told in the notice line and brought back whole by "Reprendre"; what it merely reads again
 // stays as it was typed.
-class Saisies {
+class Saisies final : public edit::Accompagnement {
   public:
-    // All of it outlives the window's commands.
-    struct Montre {
-        const EtatFonctions& fonctions;
-        const browse::EtatPanneaux& panneaux;
-        browse::EtatFiche& fiche;
-        browse::EtatListe& liste;
-        edit::EtatAjout& ajout;
-        browse::FilmCourant& film;
-        ecran::EtatAvis& avis;
-        ecran::Demandes& demandes;
-    };
-    struct Gestes {
-        edit::VoletAjout& volet;
-        edit::ModesAjout& modes;
-        browse::MontreFilm& montreFilm;
-        browse::AfficheVolet& afficheVolet;
-        ecran::Avis& avis;
-    };
-    Saisies(const Montre& montre, const Gestes& gestes, dialogues::Dialogues& dialogues)
-        : m_montre(montre), m_gestes(gestes), m_dialogues(dialogues) {}
+    explicit Saisies(const Contexte& c) : m_c(c) {}  // which outlives it
 
-    // Runs a command that may hide, fill or read again what is being typed.
+    // Runs a command, which may hide, fill or read again what is being typed.
     void surveille(const std::function<void()>& commande);
 
     void retient() { m_retenus = textes(); }  // the page of entry was just filled: it holds nothing that would be lost
-    void filmStocke() { m_filmStocke = true; }  // by the command that runs
-    void possessionStockee() { m_possessionStockee = true; }
+    void montreVoletAjout() override;
+    void filmStocke() override { m_filmStocke = true; }  // by the command that runs
+    void possessionStockee() override { m_possessionStockee = true; }
 
     [[nodiscard]] bool pageMontree() const;
     [[nodiscard]] bool pageEnSuspens() const { return pageMontree() && textes() != m_retenus; }
@@ -60,15 +36,12 @@ class Saisies {
 
   private:
     using Textes = std::array<std::string, 9>;
-    struct Identite {
-        std::string titre, realisateur;
-    };
     struct Page {
         Textes saisis, retenus;
-        std::optional<Identite> corrige;  // none: a new film
+        std::optional<db::CleFilm> corrige;  // none: a new film
     };
     struct Possession {
-        Identite film;
+        db::CleFilm film;
         browse::ChampsPossession saisis, lus;
     };
     struct Saisie {
@@ -77,7 +50,7 @@ class Saisies {
     };
     struct Avant {
         Saisie saisie;
-        Identite film;
+        db::CleFilm film;
         bool page = false;
         int avis = 0;
     };
@@ -88,6 +61,7 @@ class Saisies {
     void apres(Avant avant);
     [[nodiscard]] bool pageGardee(const Page& page);
     [[nodiscard]] bool possessionGardee(const Possession& possession);
+    void rendCourant(const db::CleFilm& film);
     void remet(const Possession& possession);
     void laisse(Saisie saisie);
     void rappelle(const Avant& avant);
@@ -101,9 +75,7 @@ class Saisies {
         int numero;
         Saisie saisie;
     };
-    Montre m_montre;
-    Gestes m_gestes;
-    dialogues::Dialogues& m_dialogues;
+    const Contexte& m_c;
     Textes m_retenus;
     std::vector<Laissee> m_laissees;  // the last one last
     int m_numero = 0;                 // of the last one

@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QLineEdit>
+#include <type_traits>
 
 namespace ui {
 
@@ -22,21 +23,30 @@ struct Atelier {
 
     [[nodiscard]] app::Etats& etats() const { return session.etats; }
 
-    // A click of the user on the button runs that command of the session.
-    void auClic(QAbstractButton* bouton, void (app::Session::*procedure)()) const {
-        QObject::connect(bouton, &QAbstractButton::clicked, &commande,
-                         [s = &session, c = &commande, procedure] { c->execute([=] { (s->*procedure)(); }); });
-    }
-    void auClic(QAbstractButton* bouton, void (app::Session::*procedure)(int), int indice) const {
-        QObject::connect(
-            bouton, &QAbstractButton::clicked, &commande,
-            [s = &session, c = &commande, procedure, indice] { c->execute([=] { (s->*procedure)(indice); }); });
-    }
-    // The same for a text that the user types.
-    void aLaFrappe(QLineEdit* zone, void (app::Session::*procedure)(int), int indice) const {
-        QObject::connect(zone, &QLineEdit::textEdited, &commande, [s = &session, c = &commande, procedure, indice] {
-            c->execute([=] { (s->*procedure)(indice); });
+    // Runs, in answer to a gesture of the user's, a command of any room or a procedure of the session.
+    template <typename Procedure, typename... Arguments>
+    Commande::Issue execute(Procedure procedure, Arguments... arguments) const {
+        return commande.execute([&] {
+            if constexpr (std::is_member_function_pointer_v<Procedure>)
+                (session.*procedure)(arguments...);
+            else
+                session.execute(procedure, arguments...);
         });
+    }
+    // What runs it when a signal is raised, whatever the signal says.
+    template <typename Procedure, typename... Arguments>
+    [[nodiscard]] auto reponse(Procedure procedure, Arguments... arguments) const {
+        return [atelier = *this, procedure, arguments...] { atelier.execute(procedure, arguments...); };
+    }
+    // A click of the user on the button.
+    template <typename Procedure, typename... Arguments>
+    void auClic(QAbstractButton* bouton, Procedure procedure, Arguments... arguments) const {
+        QObject::connect(bouton, &QAbstractButton::clicked, &commande, reponse(procedure, arguments...));
+    }
+    // A text that the user types.
+    template <typename Procedure, typename... Arguments>
+    void aLaFrappe(QLineEdit* zone, Procedure procedure, Arguments... arguments) const {
+        QObject::connect(zone, &QLineEdit::textEdited, &commande, reponse(procedure, arguments...));
     }
 };
 

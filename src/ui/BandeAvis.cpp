@@ -1,5 +1,6 @@
 #include "ui/BandeAvis.h"
 
+#include "app/Commandes.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 
@@ -16,11 +17,11 @@ BandeAvis::BandeAvis(const Atelier& atelier, QWidget* parent)
     for (std::size_t i = 0; i < etat.cmdAvis.size(); ++i) {
         auto* action = nomme(new BoutonLien, "cmdAvis", i);
         atelier.liaison.lie(etat.cmdAvis[i], action);
-        atelier.auClic(action, &app::Session::cmdAvis_Click, static_cast<int>(i));
+        atelier.auClic(action, app::cmdAvis_Click, static_cast<int>(i));
         ligne->addWidget(action);
     }
     auto* fermer = bouton<BoutonLien>("cmdFermerAvis", tr("Fermer"), tr("Retirer cette ligne"));
-    atelier.auClic(fermer, &app::Session::cmdFermerAvis_Click);
+    atelier.auClic(fermer, app::cmdFermerAvis_Click);
     ligne->addWidget(fermer);
     ligne->setContentsMargins(kGrand, kPetit, kGrand, kPetit);
     ligne->setStretch(0, 1);

@@ -46,11 +46,11 @@ void BandeTravail::montre() {
 
 void BandeTravail::suis(const app::Etats& etats) {
     if (!isVisible()) return;
-    const bool ajout = etats.ajout.ProgressBar1.Visible, autre = etats.fonctions.ProgressBar3.Visible;
+    const bool ajout = etats.ajout.ProgressBar1.Visible, autre = etats.travaux.ProgressBar3.Visible;
     const ecran::Progression& progression = ajout   ? etats.ajout.ProgressBar1
-                                            : autre ? etats.fonctions.ProgressBar3
-                                                    : etats.fonctions.ProgressBar2;
-    const std::string& texte = ajout ? etats.ajout.lblProgression.Caption : etats.fonctions.lblTravail.Caption;
+                                            : autre ? etats.travaux.ProgressBar3
+                                                    : etats.travaux.ProgressBar2;
+    const std::string& texte = ajout ? etats.ajout.lblProgression.Caption : etats.travaux.lblTravail.Caption;
     const bool ailleurs = ajout ? seVoitDansSonPanneau("ProgressBar1") : !autre && seVoitDansSonPanneau("ProgressBar2");
     m_texte->setText(ailleurs ? tr("Travail en cours…") : QString::fromStdString(texte));
     m_progression->setVisible(!ailleurs);

@@ -1,5 +1,8 @@
 #include "ui/BarreFonctions.h"
 
+#include "app/Aide.h"
+#include "app/ChoixFonction.h"
+#include "browse/cmdFonctionRecherche_Click.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/Icones.h"
@@ -40,11 +43,11 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
         fonction("cmdAide", tr("À propos"), Pictogramme::Aide, tr("À propos d'Ambrelis (F1 pour les touches)"));
     auto* sortie =
         fonction("cmdStop", tr("&Quitter"), Pictogramme::Sortie, tr("Enregistrer les réglages et quitter (Ctrl+Q)"));
-    atelier.auClic(recherche, &app::Session::cmdFonctionRecherche_Click);
-    atelier.auClic(ajout, &app::Session::cmdAfficherFonctions_Click);
-    atelier.auClic(outils, &app::Session::cmdConfigurer_Click);
-    atelier.auClic(site, &app::Session::Image3_Click);
-    atelier.auClic(aide, &app::Session::cmdAide_Click);
+    atelier.auClic(recherche, browse::cmdFonctionRecherche_Click);
+    atelier.auClic(ajout, app::cmdAfficherFonctions_Click);
+    atelier.auClic(outils, app::cmdConfigurer_Click);
+    atelier.auClic(site, app::Image3_Click);
+    atelier.auClic(aide, app::cmdAide_Click);
     atelier.auClic(sortie, &app::Session::cmdStop_Click);
 
     // Progress shown in its place is two words, and short ones do not move what follows.

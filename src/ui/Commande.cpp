@@ -34,7 +34,7 @@ Commande::Issue Commande::protege(const std::function<void()>& corps) {
     } catch (const db::RequeteEchouee& echec) {  // its message was shown
         if (m_suites.expliqueEchec) m_suites.expliqueEchec(echec.raison);
     } catch (const dao::ErreurDao& erreur) {
-        annonce("Erreur " + std::to_string(erreur.numero) + " : " + erreur.description);
+        annonce(erreur.texte());
     } catch (const std::bad_alloc&) {
         annonce("La mémoire manque pour terminer cette commande.");
     } catch (const std::exception& erreur) {

@@ -1,10 +1,13 @@
 #include "ui/FenetreAffiche.h"
 
+#include "app/Commandes.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/Couleurs.h"
 #include "ui/Icones.h"
 #include "ui/ImageAffiche.h"
+#include "view/TouchesAffiche.h"
+#include "view/cmdRemplacerImage_Click.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -68,10 +71,6 @@ FenetreAffiche::FenetreAffiche(const Atelier& atelier, QWidget* parent)
     });
 }
 
-void FenetreAffiche::execute(const std::function<void(app::Session&)>& corps) {
-    m_atelier.commande.execute([&] { corps(m_atelier.session); });
-}
-
 // --- state and widgets -------------------------------------------------------------------------------------------
 
 void FenetreAffiche::lit() {
@@ -119,21 +118,21 @@ void FenetreAffiche::boutons() {
         un->move(gauche, (pixels(etat().HScroll1.Height) - kCoteBouton) / 2);
         gauche += kCoteBouton + kSerre;
     }
-    m_atelier.auClic(sauver, &app::Session::cmdSauverImage_Click);
-    m_atelier.auClic(remplacer, &app::Session::cmdRemplacerImage_Click);
+    m_atelier.auClic(sauver, app::cmdSauverImage_Click);
+    m_atelier.auClic(remplacer, view::cmdRemplacerImage_Click);
 }
 
 void FenetreAffiche::ecoute() {
-    connect(m_image, &ImageAffiche::cliquee, this, [this] { execute(&app::Session::Picture1_Click); });
+    connect(m_image, &ImageAffiche::cliquee, this, m_atelier.reponse(view::Picture1_Click));
     connect(m_image, &ImageAffiche::glissee, this, [this](const QPoint& de) {
         const QPoint twips = de * view::kTwipsParPixel;
-        execute([=](app::Session& session) { session.deplaceAffiche(twips.x(), twips.y()); });
+        m_atelier.execute(view::deplaceAffiche, twips.x(), twips.y());
     });
     connect(m_image, &ImageAffiche::touche, this,
-            [this](int code) { execute([=](app::Session& session) { session.Picture1_KeyDown(code); }); });
+            [this](int code) { m_atelier.execute(view::Picture1_KeyDown, code); });
     connect(m_barre, &BarreAffiche::touche, this,
-            [this](int code) { execute([=](app::Session& session) { session.HScroll1_KeyDown(code); }); });
-    connect(m_barre, &QScrollBar::valueChanged, this, [this] { execute(&app::Session::HScroll1_Change); });
+            [this](int code) { m_atelier.execute(view::HScroll1_KeyDown, code); });
+    connect(m_barre, &QScrollBar::valueChanged, this, m_atelier.reponse(view::HScroll1_Change));
 }
 
 // --- places ------------------------------------------------------------------------------------------------------
@@ -201,7 +200,7 @@ void FenetreAffiche::suisTaille() {
         QTimer::singleShot(0, this, [this] { suisTaille(); });
         return;
     }
-    execute([=](app::Session& session) { session.frmAffiche_Resize(largeur, hauteur); });
+    m_atelier.execute(view::frmAffiche_Resize, largeur, hauteur);
 }
 
 // --- events ------------------------------------------------------------------------------------------------------
@@ -224,20 +223,20 @@ void FenetreAffiche::paintEvent(QPaintEvent*) {
 void FenetreAffiche::keyPressEvent(QKeyEvent* evenement) {
     const int code = codeWindows(*evenement);
     if (code == 0) return QWidget::keyPressEvent(evenement);
-    execute([=](app::Session& session) { session.frmAffiche_KeyDown(code); });
+    m_atelier.execute(view::frmAffiche_KeyDown, code);
 }
 
 void FenetreAffiche::wheelEvent(QWheelEvent* evenement) {
     QPointF pas = evenement->pixelDelta();
     if (pas.isNull()) pas = QPointF(evenement->angleDelta()) / QWheelEvent::DefaultDeltasPerStep * kPasMolette;
     const QPoint twips = (pas * view::kTwipsParPixel).toPoint();
-    execute([=](app::Session& session) { session.deplaceAffiche(twips.x(), twips.y()); });
+    m_atelier.execute(view::deplaceAffiche, twips.x(), twips.y());
 }
 
 // Closed, it is only hidden; the program ends with its main window.
 void FenetreAffiche::closeEvent(QCloseEvent* evenement) {
     if (m_atelier.commande.enCours()) return evenement->ignore();
-    execute(&app::Session::Picture1_Click);
+    m_atelier.execute(view::Picture1_Click);
     evenement->accept();
 }
 

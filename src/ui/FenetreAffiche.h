@@ -28,7 +28,6 @@ class FenetreAffiche final : public QWidget {
     class LienAffiche;
 
     [[nodiscard]] view::EtatAffiche& etat() const { return m_atelier.etats().affiche; }
-    void execute(const std::function<void(app::Session&)>& corps);
     void lit();
     void ecrit();
     void compose();

@@ -1,6 +1,7 @@
 #include "ui/FenetreFichiers.h"
 
 #include "ui/Composition.h"
+#include "view/Command1_Click.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -42,7 +43,7 @@ FenetreFichiers::FenetreFichiers(const Atelier& atelier, QWidget* parent)
     boite->addSpacing(kMoyen);
     auto* fermer = nomme(new QPushButton(tr("Fermer")), "Command1", kFermer);
     fermer->setAutoDefault(true);
-    m_atelier.auClic(fermer, &app::Session::Command1_Click, kFermer);
+    m_atelier.auClic(fermer, view::Command1_Click, kFermer);
     boite->addWidget(fermer, 0, Qt::AlignRight);
     setFixedWidth(kLargeur);
     m_atelier.liaison.apresEcriture([this] { suisLeFilm(); });
@@ -54,7 +55,7 @@ QPushButton* FenetreFichiers::boutonFichier(std::size_t indice) {
     bouton->setEnabled(false);
     bouton->setAutoDefault(true);  // Enter opens it
     m_atelier.liaison.lie(m_atelier.etats().fiche.Command1[indice], bouton);
-    m_atelier.auClic(bouton, &app::Session::Command1_Click, static_cast<int>(indice));
+    m_atelier.auClic(bouton, view::Command1_Click, static_cast<int>(indice));
     return bouton;
 }
 
@@ -85,7 +86,7 @@ void FenetreFichiers::presente() {
 // Closed, it is only hidden; the program ends with its main window.
 void FenetreFichiers::closeEvent(QCloseEvent* evenement) {
     if (m_atelier.commande.enCours()) return evenement->ignore();
-    m_atelier.commande.execute([this] { m_atelier.session.Command1_Click(kFermer); });
+    m_atelier.execute(view::Command1_Click, kFermer);
     evenement->accept();
 }
 

@@ -1,5 +1,6 @@
 #include "ui/FenetrePrincipale.h"
 
+#include "app/Commandes.h"
 #include "ui/BandeAvis.h"
 #include "ui/BandeTravail.h"
 #include "ui/BarreFonctions.h"
@@ -119,7 +120,7 @@ void FenetrePrincipale::completePanneaux() {
     // The windows that follow the film. The viewer is composed when it first opens.
     new FenetreAffiche(m_atelier, this);
     new FenetreFichiers(m_atelier, this);
-    m_atelier.commande.execute([this] { m_atelier.session.Form_Activate(); });
+    m_atelier.execute(&app::Session::Form_Activate);
 }
 
 // Tab goes from the list to the panel beside it, and only then to the lines below, which were there first.
@@ -143,7 +144,7 @@ void FenetrePrincipale::suitLesCommandes() {
     connect(&m_atelier.commande, &Commande::terminee, this, &FenetrePrincipale::executeDemandes);
     connect(m_liste->titres(), &VueTitres::menuDemande, this, [this](int indice, const QPoint& endroit) {
         m_endroitMenu = endroit;
-        m_atelier.commande.execute([=, this] { m_atelier.session.TreeView1_MouseUpDroit(indice); });
+        m_atelier.execute(app::TreeView1_MouseUpDroit, indice);
     });
 }
 
@@ -208,7 +209,7 @@ void FenetrePrincipale::tiensALEcran() {
 void FenetrePrincipale::suisLargeur() {
     const bool deuxPages = width() >= kLargeurDeuxPages;
     if (deuxPages == m_deuxPages) return;
-    const auto issue = m_atelier.commande.execute([=, this] { m_atelier.session.Form_Resize(deuxPages); });
+    const auto issue = m_atelier.execute(&app::Session::Form_Resize, deuxPages);
     if (issue != Commande::Issue::Refusee) m_deuxPages = deuxPages;
 }
 

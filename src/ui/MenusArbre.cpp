@@ -1,6 +1,12 @@
 #include "ui/MenusArbre.h"
 
+#include "app/RaccourcisClavier.h"
+#include "edit/ModifieGroupe.h"
+#include "edit/cmdSupprimerTitre_Click.h"
+#include "export/cmdCreeFichierTxt_Click.h"
+
 #include <QMenu>
+#include <functional>
 
 namespace ui {
 
@@ -9,7 +15,7 @@ namespace {
 struct Entree {
     const char* nom;
     QString texte;
-    void (app::Session::*procedure)();  // none: greyed until its command exists
+    std::function<void()> reponse;
 };
 
 QMenu* menu(const Atelier& atelier, QWidget* fenetre, const char* nom, std::initializer_list<Entree> entrees) {
@@ -18,11 +24,7 @@ QMenu* menu(const Atelier& atelier, QWidget* fenetre, const char* nom, std::init
     for (const Entree& entree : entrees) {
         QAction* action = resultat->addAction(entree.texte);
         action->setObjectName(QLatin1String(entree.nom));
-        action->setEnabled(entree.procedure != nullptr);
-        QObject::connect(action, &QAction::triggered, &atelier.commande,
-                         [s = &atelier.session, c = &atelier.commande, procedure = entree.procedure] {
-                             c->execute([=] { (s->*procedure)(); });
-                         });
+        QObject::connect(action, &QAction::triggered, &atelier.commande, entree.reponse);
     }
     return resultat;
 }
@@ -32,15 +34,16 @@ QMenu* menu(const Atelier& atelier, QWidget* fenetre, const char* nom, std::init
 MenusArbre::MenusArbre(const Atelier& atelier, QWidget* fenetre)
     : m_film(menu(
           atelier, fenetre, "MenuClicDroitFilm",
-          {{"ModifieFilm", QWidget::tr("&Modifier le film…\tF2"), &app::Session::ModifieFilm_Click},
-           {"SupprFilm", QWidget::tr("&Supprimer le film…\tSuppr"), &app::Session::SupprFilm_Click},
-           {"GenereFichierTxt", QWidget::tr("&Générer un fichier texte…"), &app::Session::GenereFichierTxt_Click}})),
-      m_support(menu(
-          atelier, fenetre, "MenuClicDroitSupport",
-          {{"RenommeSupportFilms", QWidget::tr("&Renommer le support…"), &app::Session::RenommeSupportFilms_Click}})),
-      m_genre(menu(
-          atelier, fenetre, "MenuClicDroitGenre",
-          {{"RenommerGenreFilms", QWidget::tr("&Renommer le genre…"), &app::Session::RenommerGenreFilms_Click}})) {}
+          {{"ModifieFilm", QWidget::tr("&Modifier le film…\tF2"), atelier.reponse(app::cmdModifierTitre_Click)},
+           {"SupprFilm", QWidget::tr("&Supprimer le film…\tSuppr"), atelier.reponse(edit::cmdSupprimerTitre_Click)},
+           {"GenereFichierTxt", QWidget::tr("&Générer un fichier texte…"),
+            atelier.reponse(exportation::cmdCreeFichierTxt_Click)}})),
+      m_support(menu(atelier, fenetre, "MenuClicDroitSupport",
+                     {{"RenommeSupportFilms", QWidget::tr("&Renommer le support…"),
+                       atelier.reponse(edit::RenommeSupportFilms_Click)}})),
+      m_genre(menu(atelier, fenetre, "MenuClicDroitGenre",
+                   {{"RenommerGenreFilms", QWidget::tr("&Renommer le genre…"),
+                     atelier.reponse(edit::RenommerGenreFilms_Click)}})) {}
 
 void MenusArbre::montre(app::MenuContextuel demande, const QPoint& endroit) {
     switch (demande) {

@@ -1,5 +1,6 @@
 #include "ui/PanneauAccueil.h"
 
+#include "app/ChoixFonction.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/Couleurs.h"
@@ -75,7 +76,7 @@ QWidget* PanneauAccueil::premiersPas(const Atelier& atelier) {
                   "le dossier « samples », livré avec le programme, en contient de toutes prêtes.")));
     auto* commencer =
         bouton<BoutonAccent>("cmdCommencer", tr("Ajouter des &films"), tr("Ouvrir la page d'ajout de films"));
-    atelier.auClic(commencer, &app::Session::cmdAfficherFonctions_Click);
+    atelier.auClic(commencer, app::cmdAfficherFonctions_Click);
     boite->addSpacing(kSerre);
     boite->addWidget(commencer, 0, Qt::AlignHCenter);
     cadre->setLayout(boite);

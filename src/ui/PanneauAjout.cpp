@@ -1,5 +1,10 @@
 #include "ui/PanneauAjout.h"
 
+#include "acquire/ImporterAncienneBase.h"
+#include "acquire/cmdAjoutAuto_Click.h"
+#include "acquire/cmdParcourir2_Click.h"
+#include "acquire/cmdTelecharge_Click.h"
+#include "app/ChoixFonction.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/PanneauSaisie.h"
@@ -40,7 +45,7 @@ PanneauAjout::PanneauAjout(const Atelier& atelier, QWidget* parent) : QWidget(pa
 void PanneauAjout::keyPressEvent(QKeyEvent* evenement) {
     const bool valide = evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter;
     if (!valide || !m_rechercheInternet->hasFocus()) return QWidget::keyPressEvent(evenement);
-    m_atelier.commande.execute([this] { m_atelier.session.txtRechInternet_KeyDown(kToucheEntree, 0); });
+    m_atelier.execute(acquire::txtRechInternet_KeyDown, kToucheEntree, 0);
 }
 
 QLayout* PanneauAjout::manieres(const Atelier& atelier) {
@@ -54,7 +59,7 @@ QLayout* PanneauAjout::manieres(const Atelier& atelier) {
         onglet->setToolTip(textes[i].second);
         onglet->setAutoDefault(true);
         atelier.liaison.lie(atelier.etats().ajout.Command13[i], onglet);
-        atelier.auClic(onglet, &app::Session::Command13_Click, static_cast<int>(i));
+        atelier.auClic(onglet, app::Command13_Click, static_cast<int>(i));
         boite->addWidget(onglet);
     }
     boite->addStretch();
@@ -85,7 +90,7 @@ QLayout* PanneauAjout::fiches(const Atelier& atelier) {
     atelier.liaison.lie(ajout.cmdAjoutAuto, lancer);
     atelier.liaison.lie(ajout.lblProgression, titre);
     atelier.liaison.lie(ajout.ProgressBar1, progression);
-    atelier.auClic(lancer, &app::Session::cmdAjoutAuto_Click);
+    atelier.auClic(lancer, acquire::cmdAjoutAuto_Click);
 
     auto* boite = section(atelier, Aide::Fiches);
     boite->addSpacing(kSerre);
@@ -104,13 +109,12 @@ QLayout* PanneauAjout::dossierDesFiches(const Atelier& atelier) {
     auto* parcourir = bouton("cmdParcourir2", tr("&Parcourir…"), tr("Choisir le dossier des fiches"));
     atelier.liaison.lie(ajout.txtCheminAjoutAuto, chemin);
     atelier.liaison.lie(ajout.cmdParcourir2, parcourir);
-    atelier.auClic(parcourir, &app::Session::cmdParcourir2_Click);
+    atelier.auClic(parcourir, acquire::cmdParcourir2_Click);
     auto* repos = new QTimer(this);
     repos->setSingleShot(true);
     repos->setInterval(kReposDeLaFrappe);
     connect(chemin, &QLineEdit::textEdited, repos, qOverload<>(&QTimer::start));
-    connect(repos, &QTimer::timeout, &atelier.commande,
-            [s = &atelier.session, c = &atelier.commande] { c->execute([=] { s->txtCheminAjoutAuto_Change(); }); });
+    connect(repos, &QTimer::timeout, &atelier.commande, atelier.reponse(acquire::txtCheminAjoutAuto_Change));
     auto* ligne = rangee({chemin});
     ligne->addWidget(parcourir);
     auto* boite = colonne(kSerre);
@@ -127,7 +131,7 @@ QLayout* PanneauAjout::internet(const Atelier& atelier) {
         bouton("cmdTelecharge", tr("Télé&charger…"), tr("Chercher ces films sur le site de MovieCovers (Entrée)"));
     atelier.liaison.lie(ajout.txtRechInternet, texte);
     atelier.liaison.lie(ajout.cmdTelecharge, telecharger);
-    atelier.auClic(telecharger, &app::Session::cmdTelecharge_Click);
+    atelier.auClic(telecharger, acquire::cmdTelecharge_Click);
     auto* groupe = new QWidget;
     auto* options = rangee({}, kLarge);
     for (std::size_t i = 0; i < 4; ++i) {
@@ -155,7 +159,7 @@ QWidget* PanneauAjout::pageAncienneVersion(const Atelier& atelier) {
     auto* importer = bouton<BoutonAccent>("cmdImporterBase", tr("Choisir le dossier de cette &version…"),
                                           tr("Le dossier où se trouvent sa base et ses images"));
     atelier.liaison.lie(ajout.cmdImporterBase, importer);
-    atelier.auClic(importer, &app::Session::cmdImporterBase_Click);
+    atelier.auClic(importer, acquire::ImporterAncienneBase);
     auto* boite = section(
         tr("Reprendre les films d'une installation précédente"),
         tr("Ses films, ce que vous en possédez et leurs images sont ajoutés à la base ouverte. L'installation "

@@ -1,5 +1,10 @@
 #include "ui/PanneauConfig.h"
 
+#include "app/Aide.h"
+#include "app/Commandes.h"
+#include "app/LogicielsExternes.h"
+#include "db/Option3_Click.h"
+#include "db/cmdMajBase_Click.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/Infobulles.h"
@@ -35,7 +40,7 @@ QLayout* PanneauConfig::images(const Atelier& atelier) {
         auto* option = nomme(new QRadioButton(textes[i]), "Option3", i);
         option->setToolTip(tr("Où vont les affiches des nouveaux films"));
         atelier.liaison.lie(stockage.Option3[i], option);
-        atelier.auClic(option, &app::Session::Option3_Click);
+        atelier.auClic(option, db::Option3_Click);
         boite->addWidget(option, 0, Qt::AlignLeft);
     }
     auto* dossier = nomme(new QLineEdit, "Text4");
@@ -48,9 +53,9 @@ QLayout* PanneauConfig::images(const Atelier& atelier) {
     atelier.liaison.lie(stockage.Text4, dossier);
     atelier.liaison.lie(stockage.cmdParcourir, parcourir);
     atelier.liaison.lie(fonctions.cmdMajBase, convertir);
-    atelier.liaison.lie(fonctions.ProgressBar2, progression);
-    atelier.auClic(parcourir, &app::Session::cmdParcourir_Click);
-    atelier.auClic(convertir, &app::Session::cmdMajBase_Click);
+    atelier.liaison.lie(atelier.etats().travaux.ProgressBar2, progression);
+    atelier.auClic(parcourir, app::cmdParcourir_Click);
+    atelier.auClic(convertir, db::cmdMajBase_Click);
     auto* choix = colonne(kSerre);
     choix->addWidget(legende(tr("&Dossier des images"), dossier));
     choix->addLayout(rangee({dossier, parcourir}));
@@ -67,8 +72,8 @@ QLayout* PanneauConfig::logiciels(const Atelier& atelier) {
     auto* supprimer = bouton("cmdSupprExtension", tr("Suppri&mer"), tr("Retirer l'extension de la liste"));
     atelier.liaison.lie(fonctions.cmdParcourirLogiciel, choisir);
     atelier.liaison.lie(fonctions.cmdSupprExtension, supprimer);
-    atelier.auClic(choisir, &app::Session::cmdParcourirLogiciel_Click);
-    atelier.auClic(supprimer, &app::Session::cmdSupprExtension_Click);
+    atelier.auClic(choisir, app::cmdParcourirLogiciel_Click);
+    atelier.auClic(supprimer, app::cmdSupprExtension_Click);
     auto* programmes = listeLogiciels(atelier, 1);
     atelier.liaison.apresEcriture([programmes] { programmes->setToolTip(enInfobulle(programmes->currentText())); });
 
@@ -89,9 +94,7 @@ ListeDeroulante* PanneauConfig::listeLogiciels(const Atelier& atelier, int indic
     liste->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     liste->setMinimumContentsLength(8);
     atelier.liaison.lie(atelier.etats().fonctions.Combo6[static_cast<std::size_t>(indice)], liste);
-    QObject::connect(
-        liste, &QComboBox::activated, &atelier.commande,
-        [s = &atelier.session, c = &atelier.commande, indice] { c->execute([=] { s->Combo6_Click(indice); }); });
+    QObject::connect(liste, &QComboBox::activated, &atelier.commande, atelier.reponse(app::Combo6_Click, indice));
     return liste;
 }
 
@@ -103,7 +106,7 @@ QLayout* PanneauConfig::nouvelleExtension(const Atelier& atelier) {
     auto* ajouter = bouton("cmdAjoutExtension", tr("&Ajouter"), tr("Ajouter cette extension à la liste (Entrée)"));
     atelier.liaison.lie(fonctions.txtNouvelleExtension, texte);
     atelier.liaison.lie(fonctions.cmdAjoutExtension, ajouter);
-    atelier.auClic(ajouter, &app::Session::cmdAjoutExtension_Click);
+    atelier.auClic(ajouter, app::cmdAjoutExtension_Click);
     QObject::connect(texte, &QLineEdit::returnPressed, ajouter, &QAbstractButton::click);
     auto* boite = colonne(kSerre);
     boite->addWidget(legende(tr("&Nouvelle extension"), texte));
@@ -119,7 +122,7 @@ QLayout* PanneauConfig::programme(const Atelier& atelier) {
     page->setToolTip(tr("Lire le guide du programme dans le navigateur"));
     atelier.liaison.lie(fonctions.chkLancerConnexion, connexion);
     atelier.liaison.lie(fonctions.Label4, page);
-    atelier.auClic(page, &app::Session::Label4_Click);
+    atelier.auClic(page, app::Label4_Click);
     auto* boite = section(tr("Internet"), tr("Le téléchargement des fiches est confié à un programme compagnon."));
     boite->addWidget(connexion, 0, Qt::AlignLeft);
     boite->addLayout(aGauche({page}));

@@ -1,10 +1,16 @@
 #include "ui/PanneauFiche.h"
 
+#include "app/Commandes.h"
+#include "browse/AfficheVolet.h"
+#include "browse/lblRealisateur_Click.h"
+#include "edit/cmdModifieNote_Click.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/Icones.h"
 #include "ui/PanneauPossession.h"
 #include "ui/VueAffiche.h"
+#include "view/Command1_Click.h"
+#include "view/TouchesAffiche.h"
 
 #include <QResizeEvent>
 #include <QScrollArea>
@@ -92,7 +98,7 @@ QLayout* PanneauFiche::entete() {
     m_atelier.liaison.lie(fiche.Label1[0], titre);
     m_atelier.liaison.lie(fiche.Label1[1], ligne);
     m_atelier.liaison.lie(fiche.lblRealisateur, realisateur);
-    m_atelier.auClic(realisateur, &app::Session::lblRealisateur_Click);
+    m_atelier.auClic(realisateur, browse::lblRealisateur_Click);
 
     auto* boite = colonne(2);
     boite->addWidget(titre);
@@ -110,8 +116,8 @@ QLayout* PanneauFiche::onglets() {
     auto* autres = bouton<BoutonOnglet>("cmdAutresInfos", tr("Autres infor&mations"), tr("Votre exemplaire"));
     m_atelier.liaison.lie(fiche.cmdGeneralites, generalites);
     m_atelier.liaison.lie(fiche.cmdAutresInfos, autres);
-    m_atelier.auClic(generalites, &app::Session::cmdGeneralites_Click);
-    m_atelier.auClic(autres, &app::Session::cmdAutresInfos_Click);
+    m_atelier.auClic(generalites, browse::cmdGeneralites_Click);
+    m_atelier.auClic(autres, browse::cmdAutresInfos_Click);
     return rangee({generalites, autres}, kSerre);
 }
 
@@ -122,8 +128,7 @@ QLayout* PanneauFiche::colonneAffiche() {
     nomme(m_affiche->image(), "Image1", tr("Affiche du film"));
     nomme(m_affiche->statut(), "Label12");
     m_affiche->image()->setToolTip(tr("Voir l'affiche en grand"));
-    connect(m_affiche->image(), &VueAffiche::cliquee, &m_atelier.commande,
-            [a = m_atelier] { a.commande.execute([s = &a.session] { s->Image1_Click(); }); });
+    connect(m_affiche->image(), &VueAffiche::cliquee, &m_atelier.commande, m_atelier.reponse(view::Image1_Click));
     auto* note = nomme((new Etiquette)->avecPolice(1.0, QFont::DemiBold), "lblNote");
     note->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     auto* noter = bouton("cmdModifieNote", tr("&Noter…"), tr("Donner une note de 1 à 10"));
@@ -133,10 +138,9 @@ QLayout* PanneauFiche::colonneAffiche() {
     m_atelier.liaison.lie(fiche.lblNote, note);
     m_atelier.liaison.lie(fiche.cmdModifieNote, noter);
     m_atelier.liaison.lie(fiche.cmdFichiersFilm, fichiers);
-    connect(m_affiche, &CadreAffiche::statutClique, &m_atelier.commande,
-            [a = m_atelier] { a.commande.execute([s = &a.session] { s->Label12_Click(); }); });
-    m_atelier.auClic(noter, &app::Session::cmdModifieNote_Click);
-    m_atelier.auClic(fichiers, &app::Session::cmdFichiersFilm_Click);
+    connect(m_affiche, &CadreAffiche::statutClique, &m_atelier.commande, m_atelier.reponse(app::Label12_Click));
+    m_atelier.auClic(noter, edit::cmdModifieNote_Click);
+    m_atelier.auClic(fichiers, view::cmdFichiersFilm_Click);
 
     auto* boite = colonne(kMoyen);
     boite->addWidget(m_affiche);

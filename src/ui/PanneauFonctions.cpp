@@ -1,5 +1,6 @@
 #include "ui/PanneauFonctions.h"
 
+#include "app/ChoixFonction.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/PanneauAjout.h"
@@ -53,7 +54,7 @@ QWidget* PanneauFonctions::onglets(const Atelier& atelier) {
         onglet->setToolTip(infobulles[i]);
         onglet->setAutoDefault(true);
         atelier.liaison.lie(atelier.etats().fonctions.cmdConfig[i], onglet);
-        atelier.auClic(onglet, &app::Session::cmdConfig_Click, static_cast<int>(i));
+        atelier.auClic(onglet, app::cmdConfig_Click, static_cast<int>(i));
         boite->addWidget(onglet);
     }
     boite->addStretch();

@@ -1,5 +1,9 @@
 #include "ui/PanneauListe.h"
 
+#include "app/Commandes.h"
+#include "browse/AfficheTitres.h"
+#include "browse/ChoixTri.h"
+#include "browse/ChoixZone.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 
@@ -31,17 +35,14 @@ QLayout* PanneauListe::choix() {
     m_atelier.liaison.lie(liste.ChoixTri, tri);
     m_atelier.liaison.lie(liste.AffStats, statistiques);
 
-    const auto execute = [this](void (app::Session::*procedure)()) {
-        m_atelier.commande.execute([session = &m_atelier.session, procedure] { (session->*procedure)(); });
-    };
-    connect(zone, &ListeDeroulante::vaSOuvrir, this, [=] { execute(&app::Session::ChoixZone_DropDown); });
-    connect(zone, &ListeDeroulante::sEstFermee, this, [=, this] {
+    connect(zone, &ListeDeroulante::vaSOuvrir, this, m_atelier.reponse(browse::ChoixZone_DropDown));
+    connect(zone, &ListeDeroulante::sEstFermee, this, [this] {
         const auto& etat = m_atelier.etats().liste;
-        if (etat.ChoixZone.ListIndex != etat.zoneDeLArbre) execute(&app::Session::ChoixZone_CloseUp);
+        if (etat.ChoixZone.ListIndex != etat.zoneDeLArbre) m_atelier.execute(browse::ChoixZone_CloseUp);
     });
-    connect(zone, &QComboBox::activated, this, [=] { execute(&app::Session::ChoixZone_Click); });
-    connect(tri, &QComboBox::activated, this, [=] { execute(&app::Session::ChoixTri_Click); });
-    m_atelier.auClic(statistiques, &app::Session::AffStats_Click);
+    connect(zone, &QComboBox::activated, this, m_atelier.reponse(browse::ChoixZone_Click));
+    connect(tri, &QComboBox::activated, this, m_atelier.reponse(browse::ChoixTri_Click));
+    m_atelier.auClic(statistiques, browse::AffStats_Click);
 
     auto* boite = colonne();
     boite->addLayout(champ(tr("&Zone"), zone));
@@ -81,14 +82,13 @@ QLayout* PanneauListe::comptes() {
 }
 
 void PanneauListe::suisLesGestes() {
-    connect(m_titres, &VueTitres::noeudChoisi, this, [this](int indice) {
-        m_atelier.commande.execute([=, this] { m_atelier.session.TreeView1_NodeClick(indice); });
-    });
+    connect(m_titres, &VueTitres::noeudChoisi, this,
+            [this](int indice) { m_atelier.execute(app::TreeView1_NodeClick, indice); });
     connect(&m_titres->modele(), &ModeleArbre::coche, this, [this](int indice, bool cochee) {
         m_atelier.commande.execute([=, this] {
             auto& coches = m_atelier.etats().liste.TreeView1.coches;
             cochee ? static_cast<void>(coches.insert(indice)) : static_cast<void>(coches.erase(indice));
-            m_atelier.session.TreeView1_NodeCheck(indice, cochee);
+            m_atelier.session.execute(app::TreeView1_NodeCheck, indice, cochee);
         });
     });
 }

@@ -1,5 +1,12 @@
 #include "ui/PanneauOutils.h"
 
+#include "app/Commandes.h"
+#include "db/cmdCompacter_Click.h"
+#include "db/cmdInfosBase_Click.h"
+#include "db/cmdSupprInfosPerso_Click.h"
+#include "edit/cmdPonctuation_Click.h"
+#include "edit/cmdSupprTitresSelect_Click.h"
+#include "export/cmdCreerListe_Click.h"
 #include "ui/Composition.h"
 #include "ui/Sections.h"
 
@@ -24,13 +31,13 @@ PanneauOutils::PanneauOutils(const Atelier& atelier, QWidget* parent) : QWidget(
     atelier.liaison.lie(fonctions.cmdCreerListe, liste);
     atelier.liaison.lie(fonctions.cmdSupprInfosPerso, effacer);
     atelier.liaison.lie(fonctions.cmdMultiSuppress, plusieurs);
-    atelier.auClic(ouvrir, &app::Session::cmdChargeOuvreBase_Click);
-    atelier.auClic(infos, &app::Session::cmdInfosBase_Click);
-    atelier.auClic(compacter, &app::Session::cmdCompacter_Click);
-    atelier.auClic(effacer, &app::Session::cmdSupprInfosPerso_Click);
-    atelier.auClic(ponctuation, &app::Session::cmdPonctuation_Click);
-    atelier.auClic(liste, &app::Session::cmdCreerListe_Click);
-    atelier.auClic(plusieurs, &app::Session::cmdMultiSuppress_Click);
+    atelier.auClic(ouvrir, app::cmdChargeOuvreBase_Click);
+    atelier.auClic(infos, db::cmdInfosBase_Click);
+    atelier.auClic(compacter, db::cmdCompacter_Click);
+    atelier.auClic(effacer, db::cmdSupprInfosPerso_Click);
+    atelier.auClic(ponctuation, edit::cmdPonctuation_Click);
+    atelier.auClic(liste, exportation::cmdCreerListe_Click);
+    atelier.auClic(plusieurs, edit::cmdMultiSuppress_Click);
 
     auto* base =
         section(tr("Base de données"), tr("Tous les films sont dans un seul fichier .mdb, que vous pouvez changer."));

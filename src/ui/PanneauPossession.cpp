@@ -1,5 +1,11 @@
 #include "ui/PanneauPossession.h"
 
+#include "app/RaccourcisClavier.h"
+#include "browse/RaffraichitBoitesDeroulantes.h"
+#include "edit/SaisiePossession.h"
+#include "edit/cmdSupprimerTitre_Click.h"
+#include "edit/cmdValiderInfosPossessions_Click.h"
+#include "export/cmdCreeFichierTxt_Click.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/ListeDeSaisie.h"
@@ -43,9 +49,9 @@ QLayout* PanneauPossession::choix() {
     m_atelier.liaison.lie(fiche.Option1[0], nonPossede);
     m_atelier.liaison.lie(fiche.Option1[1], possede);
     m_atelier.liaison.lie(fiche.cmdValiderInfosPossessions, valider);
-    m_atelier.auClic(nonPossede, &app::Session::Option1_Click);
-    m_atelier.auClic(possede, &app::Session::Option1_Click);
-    m_atelier.auClic(valider, &app::Session::cmdValiderInfosPossessions_Click);
+    m_atelier.auClic(nonPossede, edit::Option1_Click);
+    m_atelier.auClic(possede, edit::Option1_Click);
+    m_atelier.auClic(valider, edit::cmdValiderInfosPossessions_Click);
     QSizePolicy politique = valider->sizePolicy();
     politique.setRetainSizeWhenHidden(true);  // what is below stays in its place while the user types
     valider->setSizePolicy(politique);
@@ -79,7 +85,7 @@ QWidget* PanneauPossession::exemplaire() {
     auto* actualiser = bouton("cmdRaffraichirListe", tr("A&ctualiser les listes"),
                               tr("Relire les supports et les personnes déjà notés"));
     m_atelier.liaison.lie(fiche.cmdRaffraichirListe, actualiser);
-    m_atelier.auClic(actualiser, &app::Session::cmdRaffraichirListe_Click);
+    m_atelier.auClic(actualiser, browse::RaffraichitBoitesDeroulantes);
     grille->addWidget(actualiser, 4, 0, 1, 2, Qt::AlignLeft);
     grille->setColumnStretch(0, 1);
     grille->setColumnStretch(1, 1);
@@ -90,7 +96,7 @@ QWidget* PanneauPossession::exemplaire() {
 QWidget* PanneauPossession::texte(std::size_t indice, const QString& nom) {
     auto* zone = nomme(new QLineEdit, "Text10", indice, nom);
     m_atelier.liaison.lie(m_atelier.etats().fiche.Text10[indice], zone);
-    m_atelier.aLaFrappe(zone, &app::Session::Text10_Change, static_cast<int>(indice));
+    m_atelier.aLaFrappe(zone, edit::Text10_Change, static_cast<int>(indice));
     return zone;
 }
 
@@ -98,10 +104,8 @@ QWidget* PanneauPossession::liste(std::size_t indice) {
     auto* choix = nomme(listeDeSaisie(), "Combo7", indice);
     m_atelier.liaison.lie(m_atelier.etats().fiche.Combo7[indice], choix);
     const int numero = static_cast<int>(indice);
-    m_atelier.aLaFrappe(choix->lineEdit(), &app::Session::Combo7_Change, numero);
-    connect(choix, &QComboBox::activated, this, [this, numero] {
-        m_atelier.commande.execute([this, numero] { m_atelier.session.Combo7_Change(numero); });
-    });
+    m_atelier.aLaFrappe(choix->lineEdit(), edit::Combo7_Change, numero);
+    connect(choix, &QComboBox::activated, this, m_atelier.reponse(edit::Combo7_Change, numero));
     return choix;
 }
 
@@ -112,7 +116,7 @@ QLayout* PanneauPossession::fichier(std::size_t indice) {
     choisir->setAutoDefault(true);
     choisir->setMaximumWidth(44);
     m_atelier.liaison.lie(m_atelier.etats().fiche.Command2[indice], choisir);
-    m_atelier.auClic(choisir, &app::Session::Command2_Click, static_cast<int>(indice));
+    m_atelier.auClic(choisir, edit::Command2_Click, static_cast<int>(indice));
     QWidget* chemin = texte(indice, nom);
     return rangee({legende(QStringLiteral("&%1").arg(indice + 1), chemin), chemin, choisir});
 }
@@ -125,9 +129,9 @@ PanneauActions::PanneauActions(const Atelier& atelier, QWidget* parent) : QWidge
     atelier.liaison.lie(fiche.cmdModifierTitre, modifier);
     atelier.liaison.lie(fiche.cmdSupprimerTitre, supprimer);
     atelier.liaison.lie(fiche.cmdCreeFichierTxt, texte);
-    atelier.auClic(modifier, &app::Session::cmdModifierTitre_Click);
-    atelier.auClic(supprimer, &app::Session::cmdSupprimerTitre_Click);
-    atelier.auClic(texte, &app::Session::cmdCreeFichierTxt_Click);
+    atelier.auClic(modifier, app::cmdModifierTitre_Click);
+    atelier.auClic(supprimer, edit::cmdSupprimerTitre_Click);
+    atelier.auClic(texte, exportation::cmdCreeFichierTxt_Click);
     auto* boite = colonne(kPetit);
     boite->addWidget(filetHorizontal());
     auto* boutons = rangee({modifier, supprimer, texte});

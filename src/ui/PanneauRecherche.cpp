@@ -1,5 +1,6 @@
 #include "ui/PanneauRecherche.h"
 
+#include "browse/cmdRecherche_Click.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/Sections.h"
@@ -21,7 +22,7 @@ PanneauRecherche::PanneauRecherche(const Atelier& atelier, QWidget* parent) : QW
                                         tr("Montrer les films trouvés dans la liste (Entrée)"));
     atelier.liaison.lie(recherche.Text2, texte);
     atelier.liaison.lie(recherche.cmdRecherche, lancer);
-    atelier.auClic(lancer, &app::Session::cmdRecherche_Click);
+    atelier.auClic(lancer, browse::cmdRecherche_Click);
 
     auto* contenu = section(atelier, Aide::Recherche, 1.5);
     contenu->setSpacing(kGrand);

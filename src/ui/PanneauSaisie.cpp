@@ -1,5 +1,6 @@
 #include "ui/PanneauSaisie.h"
 
+#include "edit/cmdAjoutFilm_Click.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/ListeDeSaisie.h"
@@ -23,7 +24,7 @@ PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(
     m_atelier.liaison.lie(ajout.txtResume, resume);
     m_atelier.liaison.lie(ajout.lblImage, image);
     m_atelier.liaison.lie(ajout.cmdAjoutFilm, ajouter);
-    m_atelier.auClic(ajouter, &app::Session::cmdAjoutFilm_Click);
+    m_atelier.auClic(ajouter, edit::cmdAjoutFilm_Click);
 
     auto* grille = new QGridLayout(this);
     grille->setContentsMargins(0, 0, 0, 0);

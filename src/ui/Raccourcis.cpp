@@ -1,5 +1,8 @@
 #include "ui/Raccourcis.h"
 
+#include "app/Commandes.h"
+#include "app/RaccourcisClavier.h"
+#include "browse/cmdFonctionRecherche_Click.h"
 #include "ui/PanneauFiche.h"
 #include "ui/VueTitres.h"
 
@@ -7,6 +10,7 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QShortcut>
+#include <functional>
 
 namespace ui {
 
@@ -24,20 +28,17 @@ void demandeMenu() {
 }  // namespace
 
 Raccourcis::Raccourcis(const Atelier& atelier, QWidget* fenetre) : m_atelier(atelier), m_fenetre(fenetre) {
-    const std::pair<QKeySequence, void (app::Session::*)()> touches[] = {
-        {Qt::CTRL | Qt::Key_F, &app::Session::cmdFonctionRecherche_Click},
-        {Qt::CTRL | Qt::Key_N, &app::Session::SaisieManuelle},
-        {Qt::CTRL | Qt::Key_O, &app::Session::cmdChargeOuvreBase_Click},
-        {Qt::CTRL | Qt::Key_Q, &app::Session::cmdStop_Click},
-        {Qt::CTRL | Qt::Key_Return, &app::Session::ValideSaisie},
-        {Qt::CTRL | Qt::Key_Enter, &app::Session::ValideSaisie},
-        {Qt::Key_F2, &app::Session::ModifieFilmAffiche}};
-    for (const auto& [touche, procedure] : touches) {
+    const std::pair<QKeySequence, std::function<void()>> touches[] = {
+        {Qt::CTRL | Qt::Key_F, atelier.reponse(browse::cmdFonctionRecherche_Click)},
+        {Qt::CTRL | Qt::Key_N, atelier.reponse(app::SaisieManuelle)},
+        {Qt::CTRL | Qt::Key_O, atelier.reponse(app::cmdChargeOuvreBase_Click)},
+        {Qt::CTRL | Qt::Key_Q, atelier.reponse(&app::Session::cmdStop_Click)},
+        {Qt::CTRL | Qt::Key_Return, atelier.reponse(app::ValideSaisie)},
+        {Qt::CTRL | Qt::Key_Enter, atelier.reponse(app::ValideSaisie)},
+        {Qt::Key_F2, atelier.reponse(app::ModifieFilmAffiche)}};
+    for (const auto& [touche, reponse] : touches) {
         auto* raccourci = new QShortcut(touche, fenetre);
-        QObject::connect(raccourci, &QShortcut::activated, &atelier.commande,
-                         [s = &atelier.session, c = &atelier.commande, procedure = procedure] {
-                             c->execute([=] { (s->*procedure)(); });
-                         });
+        QObject::connect(raccourci, &QShortcut::activated, &atelier.commande, reponse);
     }
     QObject::connect(new QShortcut(Qt::SHIFT | Qt::Key_F10, fenetre), &QShortcut::activated, fenetre, demandeMenu);
 }
@@ -45,17 +46,16 @@ Raccourcis::Raccourcis(const Atelier& atelier, QWidget* fenetre) : m_atelier(ate
 // Esc closes a list and Del takes a letter away first: only what the controls leave comes here.
 bool Raccourcis::prends(const QKeyEvent& evenement) const {
     if (evenement.modifiers() & ~Qt::KeypadModifier) return false;
-    app::Session& session = m_atelier.session;
     if (evenement.key() == Qt::Key_Escape) {
-        m_atelier.commande.execute([&] { session.QuittePanneau(); });
+        m_atelier.execute(app::QuittePanneau);
         return true;
     }
     if (evenement.key() == Qt::Key_F1) {  // no shortcut: the poster viewer has its own F1
-        m_atelier.commande.execute([&] { session.MontreTouches(); });
+        m_atelier.execute(app::MontreTouches);
         return true;
     }
     if (evenement.key() != Qt::Key_Delete || !surLeFilm()) return false;
-    m_atelier.commande.execute([&] { session.SupprimeFilmAffiche(); });
+    m_atelier.execute(app::SupprimeFilmAffiche);
     return true;
 }
 

@@ -1,6 +1,6 @@
-#include "app/TextesAide.h"
+#include "app/Aide.h"
 
-#include "app/EtatFonctions.h"
+#include "acquire/AdresseRecherche.h"
 
 namespace app {
 
@@ -33,7 +33,38 @@ constexpr std::array<Aide, 10> kAides{{
      "Activez la fonction, cochez les titres à supprimer et cliquez sur 'suppression'."},
 }};
 
+void ouvre(const Contexte& c, const std::string& adresse) {
+    if (!c.documents.ouvre(adresse))
+        c.dialogues.MsgBox("Le navigateur n'a pas pu être ouvert (" + adresse + ").", dialogues::kExclamation);
+}
+
 }  // namespace
+
+void cmdAide_Click(const Contexte& c) {
+    c.dialogues.MsgBox(texteAPropos(), dialogues::kInformation);
+}
+
+void Image3_Click(const Contexte& c) {
+    ouvre(c, acquire::kSiteMovieCovers);
+}
+
+void Label4_Click(const Contexte& c) {
+    ouvre(c, c.chemins.dansDossier(kGuide));
+}
+
+std::string texteAPropos() {
+    return "Ambrelis\n"
+           "\n"
+           "Freeware permettant de gérer sa vidéothèque personnelle.  L'ajout des titres peut être automatisé\n"
+           "car ils se téléchargent depuis le site de MovieCovers (un clic sur le logo ouvre le site).\n"
+           "\n"
+           "Notes : pour agrandir la fenêtre du logiciel, cliquez sur les bords : \n"
+           "Ambrelis s'adaptera à la taille que vous lui donnez ! ";
+}
+
+std::string texteVersion() {
+    return "v. " AMBRELIS_VERSION;
+}
 
 void metTextesAide(EtatFonctions& etat) {
     for (std::size_t i = 0; i < kAides.size(); ++i) {
