@@ -3,7 +3,13 @@
 
 #include "Mesure.h"
 #include "SansFenetre.h"
+#include "app/ChoixFonction.h"
+#include "browse/ChoixTri.h"
 #include "browse/TexteRequete.h"
+#include "db/Option3_Click.h"
+#include "db/cmdCompacter_Click.h"
+#include "db/cmdMajBase_Click.h"
+#include "edit/cmdAjoutFilm_Click.h"
 #include "platform/dao/DBEngine.h"
 
 #include <algorithm>
@@ -27,24 +33,24 @@ void mesureRecherche(const std::string& dossier, const std::string& texte) {
 
 // A film by hand, without a poster, until the day's additions are listed; then that listing alone.
 void mesureAjout(app::Session& session) {
-    session.Command13_Click(1);
+    session.execute(app::Command13_Click, 1);
     auto& saisie = session.etats.ajout.Text3;
     int numero = 0;
     bench::declare("ajout", bench::meilleureDuree(kPassages, [&] {
                        saisie[0].Text = "Un film ajouté à la main " + std::to_string(++numero);
                        saisie[1].Text = "Ada Verrières";
-                       session.cmdAjoutFilm_Click();
+                       session.execute(edit::cmdAjoutFilm_Click);
                    }));
     if (session.etats.liste.Frame1.Caption != "Liste de films (" + std::to_string(kPassages) + " titres)")
         throw std::runtime_error("listed: " + session.etats.liste.Frame1.Caption);
-    bench::declare("listage", bench::meilleureDuree(kPassages, [&] { session.ChoixTri_Click(); }));
+    bench::declare("listage", bench::meilleureDuree(kPassages, [&] { session.execute(browse::ChoixTri_Click); }));
 }
 
 double convertit(app::Session& session, std::size_t stockage) {
     ecran::choisit(session.etats.stockage.Option3, stockage);
-    session.Option3_Click();
+    session.execute(db::Option3_Click);
     sync();  // what was written before is not part of it
-    return bench::meilleureDuree(1, [&] { session.cmdMajBase_Click(); });
+    return bench::meilleureDuree(1, [&] { session.execute(db::cmdMajBase_Click); });
 }
 
 // Every poster to a folder, with the compaction that belongs to it, and back; then a compaction of the whole.
@@ -54,7 +60,7 @@ void mesureConversion(app::Session& session, const bench::Machine& machine, cons
     bench::declare("vers_base", convertit(session, 0));
     machine.attend(films + " fichiers inclus.");
     sync();
-    bench::declare("compactage", bench::meilleureDuree(1, [&] { session.cmdCompacter_Click(); }));
+    bench::declare("compactage", bench::meilleureDuree(1, [&] { session.execute(db::cmdCompacter_Click); }));
     machine.attend("Compactage effectué.");
 }
 

@@ -3,6 +3,10 @@
 
 #include "Mesure.h"
 #include "SansFenetre.h"
+#include "acquire/cmdAjoutAuto_Click.h"
+#include "app/ChoixFonction.h"
+#include "browse/ChoixTri.h"
+#include "browse/ChoixZone.h"
 
 #include <algorithm>
 
@@ -15,12 +19,12 @@ void mesureListes(app::Session& session, double luAuDepart) {
     for (int zone = 0; zone < liste.ChoixZone.ListCount(); ++zone) {
         liste.ChoixTri.selectionne(browse::kTriTitre1);
         liste.ChoixZone.selectionne(zone);
-        session.ChoixZone_Click();
+        session.execute(browse::ChoixZone_Click);
         const bool possedes = zone != browse::kZoneTous && zone != browse::kZoneNonPossedes;
         for (int tri = 0; tri < (possedes ? liste.ChoixTri.ListCount() : browse::kTriSupport); ++tri) {
             const double avant = bench::octetsLus();
             liste.ChoixTri.selectionne(tri);
-            session.ChoixTri_Click();
+            session.execute(browse::ChoixTri_Click);
             luAuPlus = std::max(luAuPlus, bench::octetsLus() - avant);
         }
     }
@@ -28,10 +32,10 @@ void mesureListes(app::Session& session, double luAuDepart) {
 }
 
 void mesureImport(app::Session& session, const bench::Machine& machine, const std::string& fiches) {
-    session.Command13_Click(0);
+    session.execute(app::Command13_Click, 0);
     session.etats.ajout.txtCheminAjoutAuto.Text = fiches;
     const double depart = bench::maintenant();
-    session.cmdAjoutAuto_Click();
+    session.execute(acquire::cmdAjoutAuto_Click);
     bench::declare("import", machine.dialogues.heureDuRapport() - depart);
     bench::declare("import_liste", bench::maintenant() - depart);
     machine.attend("1000 films ajoutés.");

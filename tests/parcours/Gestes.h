@@ -1,6 +1,14 @@
 #pragma once
 
+#include "acquire/cmdAjoutAuto_Click.h"
+#include "acquire/cmdParcourir2_Click.h"
+#include "app/ChoixFonction.h"
+#include "app/Commandes.h"
 #include "browse/Arbre.h"
+#include "browse/ChoixTri.h"
+#include "browse/ChoixZone.h"
+#include "browse/cmdFonctionRecherche_Click.h"
+#include "browse/cmdRecherche_Click.h"
 #include "parcours/Installation.h"
 
 #include <array>
@@ -35,9 +43,9 @@ inline void ecritFiches(const Installation& installation) {
 inline void importe(Execution& execution, const Installation& installation) {
     const std::string dossier = installation.chemin("Fiches");
     doubles::DialoguesScript& boites = execution.boites;
-    execution.session.cmdAfficherFonctions_Click();
+    execution.session.execute(app::cmdAfficherFonctions_Click);
     boites.attendDossier("Dossier des fiches de films", "", dossier);
-    execution.session.cmdParcourir2_Click();
+    execution.session.execute(acquire::cmdParcourir2_Click);
     EXPECT_EQ(execution.etats.ajout.lblNbFilms.Caption, "4 fichiers .FILM trouvés.");
     boites.attendMsgBox(
         "Souhaitez-vous déclarer les 4 films comme étant en votre possession ?\n\nDans le cas contraire, l'ajout sera "
@@ -50,7 +58,7 @@ inline void importe(Execution& execution, const Installation& installation) {
     boites.attendMsgBox(
         "4 films ajoutés.\n- Image manquante :\n" + dossier + "/2.jpg, " + dossier + "/3.jpg, " + dossier + "/4.jpg",
         dialogues::kInformation);
-    execution.session.cmdAjoutAuto_Click();
+    execution.session.execute(acquire::cmdAjoutAuto_Click);
     boites.verifie();
 }
 
@@ -81,30 +89,30 @@ inline int noeud(const app::Etats& etats, std::string_view texte) {
 }
 
 inline void clique(Execution& execution, std::string_view texte) {
-    execution.session.TreeView1_NodeClick(noeud(execution.etats, texte));
+    execution.session.execute(app::TreeView1_NodeClick, noeud(execution.etats, texte));
 }
 
 inline void choisitTri(Execution& execution, int tri) {
     execution.etats.liste.ChoixTri.selectionne(tri);
-    execution.session.ChoixTri_Click();
+    execution.session.execute(browse::ChoixTri_Click);
 }
 
 inline void choisitZone(Execution& execution, int zone) {
-    execution.session.ChoixZone_DropDown();
+    execution.session.execute(browse::ChoixZone_DropDown);
     execution.etats.liste.ChoixZone.selectionne(zone);
-    execution.session.ChoixZone_Click();
+    execution.session.execute(browse::ChoixZone_Click);
 }
 
 // `champs` ticks title, director, year and cast; `portee` is all films, the user's, or those not owned.
 inline void cherche(Execution& execution, const std::string& texte, const std::array<int, 4>& champs = {1, 0, 0, 0},
                     std::size_t portee = 0) {
     browse::EtatRecherche& recherche = execution.etats.recherche;
-    execution.session.cmdFonctionRecherche_Click();
+    execution.session.execute(browse::cmdFonctionRecherche_Click);
     recherche.Text2.Text = texte;
     for (std::size_t i = 0; i < champs.size(); ++i)
         recherche.ZoneRecherche[i].Value = champs[i];
     ecran::choisit(recherche.TypeFilm, portee);
-    execution.session.cmdRecherche_Click();
+    execution.session.execute(browse::cmdRecherche_Click);
 }
 
 // The film of the sheet and the node selected in the tree: "Titre de Realisateur", "" when no sheet is shown.

@@ -1,4 +1,8 @@
+#include "app/Commandes.h"
 #include "db/Requete.h"
+#include "db/cmdCompacter_Click.h"
+#include "edit/SaisiePossession.h"
+#include "edit/cmdValiderInfosPossessions_Click.h"
 #include "parcours/Collectionneur.h"
 
 #include <filesystem>
@@ -35,7 +39,7 @@ class UneBaseDeplacee : public Collectionneur {
         geste();
     }
     void cliqueSur(int indice) {
-        fais([&] { session().TreeView1_NodeClick(indice); });
+        fais([&] { session().execute(app::TreeView1_NodeClick, indice); });
     }
     [[nodiscard]] std::string avis() const {
         const ecran::EtatAvis& etat = execution->etats.avis;
@@ -50,10 +54,10 @@ TEST_F(UneBaseDeplacee, AReplacedBaseIsReopenedWithTheFilmAndWhatWasTyped) {
     cliqueSur(noeud(etats(), "Le Cercle Rouge"));
     EXPECT_EQ(avis(), "");
     etats().fiche.Combo7[0].Text = "Zoé";
-    session().Combo7_Change(0);
+    session().execute(edit::Combo7_Change, 0);
     remplace("A");  // before the film that is shown
     static_cast<void>(changements());
-    fais([&] { session().cmdValiderInfosPossessions_Click(); });
+    fais([&] { session().execute(edit::cmdValiderInfosPossessions_Click); });
     EXPECT_EQ(avis(), rouverte);
     EXPECT_THAT(changements(), ElementsAre("*Personnel : Le Cercle Rouge de Jean-Pierre Melville"));
     EXPECT_EQ(filmMontre(etats()), "Le Cercle Rouge de Jean-Pierre Melville");
@@ -72,10 +76,10 @@ TEST_F(UneBaseDeplacee, AGestureOnTheOldTreeReachesNoFilmOfTheNew) {
     EXPECT_EQ(filmMontre(etats()), "Le Samouraï de Jean-Pierre Melville");
     remplace();
     etats().liste.TreeView1.coches = {1};
-    fais([&] { session().TreeView1_NodeCheck(1, true); });
+    fais([&] { session().execute(app::TreeView1_NodeCheck, 1, true); });
     EXPECT_THAT(etats().liste.TreeView1.coches, IsEmpty());
     remplace();
-    fais([&] { session().TreeView1_MouseUpDroit(1); });
+    fais([&] { session().execute(app::TreeView1_MouseUpDroit, 1); });
     EXPECT_EQ(etats().menu, app::MenuContextuel::Aucun);
     EXPECT_EQ(filmMontre(etats()), "Le Samouraï de Jean-Pierre Melville");  // shown before, and still there
 }
@@ -94,19 +98,19 @@ TEST_F(UneBaseDeplacee, ABaseThatIsGoneIsToldTheListStaysAndTheSettingsNameIt) {
     const std::string attendu = "3024 La base « " + base +
                                 " » n'est plus à sa place : son disque est débranché, ou le fichier a été déplacé, "
                                 "renommé, supprimé ou remplacé.";
-    EXPECT_EQ(echec([&] { session().TreeView1_NodeClick(1); }), attendu);
+    EXPECT_EQ(echec([&] { session().execute(app::TreeView1_NodeClick, 1); }), attendu);
     execution->boites.attendMsgBox("Erreur (1) : Etablissement de requête", dialogues::kCritique);
     EXPECT_THROW(tri(4), db::RequeteEchouee);
     EXPECT_EQ(etats().liste.ChoixTri.ListIndex, 1);
     execution->boites.attendMsgBox("Le compactage n'a pas pu être effectué.\nLe fichier de la base n'existe plus.",
                                    dialogues::kCritique);
-    fais([&] { session().cmdCompacter_Click(); });
+    fais([&] { session().execute(db::cmdCompacter_Click); });
     EXPECT_EQ(arbre(etats()), titres);
     installation.ecrit("Films.mdb", "of another kind");  // nothing that can be opened
-    EXPECT_EQ(echec([&] { session().TreeView1_NodeClick(1); }), attendu);
+    EXPECT_EQ(echec([&] { session().execute(app::TreeView1_NodeClick, 1); }), attendu);
     EXPECT_EQ(arbre(etats()), titres);
     fs::rename(base + ".ailleurs", base);
-    EXPECT_EQ(echec([&] { session().TreeView1_NodeClick(1); }), "");
+    EXPECT_EQ(echec([&] { session().execute(app::TreeView1_NodeClick, 1); }), "");
     fs::rename(base, base + ".ailleurs");
     session().vaCommencer();
     session().Form_Unload();

@@ -1,3 +1,6 @@
+#include "browse/AfficheTitres.h"
+#include "db/cmdInfosBase_Click.h"
+#include "db/cmdSupprInfosPerso_Click.h"
 #include "parcours/Gestes.h"
 
 #include <filesystem>
@@ -37,7 +40,7 @@ TEST_F(UneCollection, IsGroupedByEachSort) {
     choisitTri(execution, 8);
     EXPECT_THAT(arbre(etats), ElementsAre("DVD", "  Été Violent", "  Le Cercle Rouge", "  Le Samouraï", "  Sans Rien"));
     etats.liste.AffStats.Value = 1;
-    session.AffStats_Click();
+    session.execute(browse::AffStats_Click);
     EXPECT_EQ(arbre(etats).front(), "DVD (100 %)");
 }
 
@@ -66,13 +69,13 @@ TEST_F(UneCollection, ItsBaseIsToldOfAndItsHoldingsAreGivenUp) {
     boites.attendMsgBox(
         "Il y a 0 titre ayant un lien sur un fichier externe\nIl y a 1 titre ayant un lien sur un fichier interne",
         dialogues::kInformation);
-    session.cmdInfosBase_Click();
+    session.execute(db::cmdInfosBase_Click);
     boites.attendMsgBox(
         "Vous allez supprimer tout ce qui concerne les titres personnels (réservations, prêts, nom de fichiers, "
         "rangement...)\nVoulez-vous continuer ?",
         dialogues::kQuestion, dialogues::kOui, "Suppression des titres personnels");
     boites.attendMsgBox("Appartenance de 4 titres supprimée.", dialogues::kInformation);
-    session.cmdSupprInfosPerso_Click();
+    session.execute(db::cmdSupprInfosPerso_Click);
     EXPECT_EQ(etats.liste.Label9[1].Caption, "0 personnel");
     EXPECT_THAT(etats.fiche.Combo7[2].Items, ElementsAre());
 }

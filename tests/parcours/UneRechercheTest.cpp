@@ -1,3 +1,11 @@
+#include "app/Commandes.h"
+#include "app/RaccourcisClavier.h"
+#include "db/cmdCompacter_Click.h"
+#include "edit/ModifieGroupe.h"
+#include "edit/cmdAjoutFilm_Click.h"
+#include "edit/cmdModifieNote_Click.h"
+#include "edit/cmdSupprimerTitre_Click.h"
+#include "edit/cmdValiderInfosPossessions_Click.h"
 #include "parcours/Gestes.h"
 #include "parcours/Photo.h"
 
@@ -101,7 +109,7 @@ TEST_F(UneRecherche, AZoneTakesNoFilmWhoseConditionHasNoValue) {
     // Stored again from the sheet, the holding has its values and its zone.
     choisitZone(execution, 0);
     clique(execution, "Muet");
-    session.cmdValiderInfosPossessions_Click();
+    session.execute(edit::cmdValiderInfosPossessions_Click);
     EXPECT_EQ(filmMontre(etats), "Muet de Personne");
     choisitZone(execution, 2);
     EXPECT_THAT(arbre(etats), ElementsAre("M*A*S*H", "Muet", "Orphelin"));
@@ -115,29 +123,29 @@ TEST_F(UneRecherche, AFilmWithoutADirectorIsKeptLikeAnyOther) {
     EXPECT_TRUE(etats.fiche.Option1[1].Value);
     execution.boites.attendInputBox("Quelle note (entre 1 et 10) voulez vous attribuer au film \"Orphelin\" de  ?",
                                     "8");
-    session.cmdModifieNote_Click();
+    session.execute(edit::cmdModifieNote_Click);
     EXPECT_EQ(etats.fiche.lblNote.Caption, "Note : 8/10");
     etats.fiche.Combo7[2].Text = "K7";
-    session.cmdValiderInfosPossessions_Click();
+    session.execute(edit::cmdValiderInfosPossessions_Click);
     execution.boites.attendFichier({"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", installation.chemin()},
                                    installation.ecrit("a.jpg", "\xFF\xD8"));
-    session.Label12_Click();
+    session.execute(app::Label12_Click);
     execution.boites.attendMsgBox("Compactage effectué.", dialogues::kInformation);
-    session.cmdCompacter_Click();
+    session.execute(db::cmdCompacter_Click);
     EXPECT_EQ(etats.liste.Label9[1].Caption, "4 personnels");
     clique(execution, "Orphelin");
     EXPECT_EQ(etats.fiche.Combo7[2].Text, "K7");
     EXPECT_EQ(etats.fiche.lblNote.Caption, "Note : 8/10");
-    session.cmdModifierTitre_Click();
+    session.execute(app::cmdModifierTitre_Click);
     etats.ajout.Text3[1].Text = "Un autre";
-    session.cmdAjoutFilm_Click();
+    session.execute(edit::cmdAjoutFilm_Click);
     EXPECT_EQ(filmMontre(etats), "Orphelin de Un autre");
     EXPECT_TRUE(etats.fiche.Option1[1].Value);
     dao::DBEngine::OpenDatabase(base).Execute("UPDATE Films SET Realisateur=NULL WHERE Titre='Orphelin'");
     choisitZone(execution, 1);
     clique(execution, "Orphelin");
     execution.boites.attendMsgBox("Voulez-vous vraiment supprimer ce titre ?", dialogues::kQuestion, dialogues::kOui);
-    session.cmdSupprimerTitre_Click();
+    session.execute(edit::cmdSupprimerTitre_Click);
     EXPECT_EQ(etats.liste.Label9[0].Caption, "7 titres");
 }
 
@@ -145,9 +153,9 @@ TEST_F(UneRecherche, TheFilmsOutOfTheSortGetTheirGenreTogether) {
     choisitZone(execution, 0);
     choisitTri(execution, 4);
     const Photo avant(base);
-    session.TreeView1_MouseUpDroit(noeud(etats, " Hors tri !"));
+    session.execute(app::TreeView1_MouseUpDroit, noeud(etats, " Hors tri !"));
     execution.boites.attendInputBox("Entrez le nom du nouveau genre", "Inclassable", "Modifier le genre");
-    session.RenommerGenreFilms_Click();
+    session.execute(edit::RenommerGenreFilms_Click);
     EXPECT_THAT(arbre(etats), ElementsAre("Inclassable", "  [Rec", "  M*A*S*H", "  Muet", "  Orphelin"));
     EXPECT_THAT(Photo(base).depuis(avant),
                 testing::UnorderedElementsAre("*Films : [Rec de Jaume Balagueró", "*Films : M*A*S*H de Robert Altman",
@@ -158,15 +166,15 @@ TEST_F(UneRecherche, TheFilmsOutOfTheSortGetTheirGenreTogether) {
 TEST_F(UneRecherche, AFilmThatLeavesTheResultIsCurrentNoMore) {
     cherche(execution, "197", {0, 0, 1, 0});
     clique(execution, "M*A*S*H");
-    session.cmdModifierTitre_Click();
+    session.execute(app::cmdModifierTitre_Click);
     etats.ajout.Text3[2].Text = "1969";
-    session.cmdAjoutFilm_Click();
+    session.execute(edit::cmdAjoutFilm_Click);
     EXPECT_THAT(arbre(etats), ElementsAre("L'Argent de poche"));
     EXPECT_EQ(filmMontre(etats), "");
     const Photo avant(base);
-    session.cmdSupprimerTitre_Click();
-    session.cmdModifieNote_Click();
-    session.cmdValiderInfosPossessions_Click();
+    session.execute(edit::cmdSupprimerTitre_Click);
+    session.execute(edit::cmdModifieNote_Click);
+    session.execute(edit::cmdValiderInfosPossessions_Click);
     EXPECT_THAT(Photo(base).depuis(avant), IsEmpty());
     execution.boites.attendMsgBox(
         "Le tri par support n'est pas possible pour ce cas-là : il faut que la recherche soit sur les titres possédés "

@@ -1,3 +1,16 @@
+#include "app/ChoixFonction.h"
+#include "app/Commandes.h"
+#include "app/RaccourcisClavier.h"
+#include "browse/RaffraichitBoitesDeroulantes.h"
+#include "browse/lblRealisateur_Click.h"
+#include "edit/ModifieGroupe.h"
+#include "edit/SaisiePossession.h"
+#include "edit/cmdAjoutFilm_Click.h"
+#include "edit/cmdModifieNote_Click.h"
+#include "edit/cmdPonctuation_Click.h"
+#include "edit/cmdSupprTitresSelect_Click.h"
+#include "edit/cmdSupprimerTitre_Click.h"
+#include "edit/cmdValiderInfosPossessions_Click.h"
 #include "parcours/Collectionneur.h"
 
 #include <filesystem>
@@ -23,15 +36,15 @@ class UneSession : public Collectionneur {
             {"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", installation.chemin("Images/")}, choix);
     }
     void ouvreSaisie(const std::string& titre, const std::string& realisateur) {
-        session().cmdAfficherFonctions_Click();
-        session().Command13_Click(1);
+        session().execute(app::cmdAfficherFonctions_Click);
+        session().execute(app::Command13_Click, 1);
         etats().ajout.Text3[0].Text = titre;
         etats().ajout.Text3[1].Text = realisateur;
     }
     void saisisPret(const std::string& nom) {
         etats().fiche.Combo7[0].Text = nom;
-        session().Combo7_Change(0);
-        session().cmdValiderInfosPossessions_Click();
+        session().execute(edit::Combo7_Change, 0);
+        session().execute(edit::cmdValiderInfosPossessions_Click);
     }
 
     void importeLesFiches() {
@@ -45,26 +58,26 @@ class UneSession : public Collectionneur {
     void ajouteALaMain() {
         ouvreSaisie("", "");
         attendRefus("Le titre du film est obligatoire !");
-        session().cmdAjoutFilm_Click();
+        session().execute(edit::cmdAjoutFilm_Click);
         ouvreSaisie("le cercle ROUGE", "");
         attendRefus("Le réalisateur du film est obligatoire !");
-        session().cmdAjoutFilm_Click();
+        session().execute(edit::cmdAjoutFilm_Click);
         etats().ajout.Text3[1].Text = "jean-pierre melville";
         attendRefus("Un film ayant le même titre et du même réalisateur existe déjà !");
-        session().cmdAjoutFilm_Click();
+        session().execute(edit::cmdAjoutFilm_Click);
         EXPECT_THAT(changements(), IsEmpty());
 
         ouvreSaisie("Les \"Nouveaux\" Monstres", "Dino Risi");
         EXPECT_THAT(etats().ajout.Combo2.Items, ElementsAre("Drame", "Policier"));
         etats().ajout.Combo2.Text = "Comédie";
         attendAffiche(installation.ecrit("bonne.jpg", "\xFF\xD8 une autre image"));
-        session().cmdAjoutFilm_Click();
+        session().execute(edit::cmdAjoutFilm_Click);
         EXPECT_THAT(changements(), UnorderedElementsAre("+Films : " + kMonstres, "+Personnel : " + kMonstres));
         EXPECT_THAT(etats().ajout.Combo2.Items, ElementsAre("Comédie", "Drame", "Policier"));
 
         ouvreSaisie("le parrain ii", "Francis Ford Coppola");
         attendAffiche("");
-        session().cmdAjoutFilm_Click();
+        session().execute(edit::cmdAjoutFilm_Click);
         EXPECT_EQ(changements().size(), 2U);
         EXPECT_THAT(arbre(etats()), ElementsAre("Été Violent", "Le Cercle Rouge", "le parrain ii", "Le Samouraï",
                                                 "Les \"Nouveaux\" Monstres", "Sans Rien"));
@@ -83,7 +96,7 @@ class UneSession : public Collectionneur {
         clique(*execution, "Les \"Nouveaux\" Monstres");
         EXPECT_EQ(filmMontre(etats()), kMonstres);
         EXPECT_EQ(execution->images.courante, installation.lit("Tmp/ImageTMP.jpg"));
-        session().lblRealisateur_Click();
+        session().execute(browse::lblRealisateur_Click);
         EXPECT_EQ(etats().recherche.Text2.Text, "Dino Risi");
         EXPECT_EQ(arbre(etats()).size(), 1U);
     }
@@ -92,24 +105,24 @@ class UneSession : public Collectionneur {
         zone(0);
         tri(4);
         clique(*execution, "Le Samouraï");
-        session().ModifieFilm_Click();
+        session().execute(app::cmdModifierTitre_Click);
         etats().ajout.Text3[0].Text = "LE CERCLE ROUGE";
         attendRefus("Un film ayant le même titre et du même réalisateur existe déjà !");
-        session().cmdAjoutFilm_Click();
+        session().execute(edit::cmdAjoutFilm_Click);
         EXPECT_THAT(changements(), IsEmpty());
 
         const std::string costello = "Costello \"le Samouraï\" de Jean-Pierre Melville";
         etats().ajout.Text3[0].Text = "Costello \"le Samouraï\"";
         etats().ajout.Combo2.Text = "Drame";
-        session().cmdAjoutFilm_Click();
+        session().execute(edit::cmdAjoutFilm_Click);
         EXPECT_EQ(filmMontre(etats()), costello);
         EXPECT_EQ(groupeChoisi(etats()), "Drame");
         EXPECT_THAT(changements(), UnorderedElementsAre("*Films : " + costello, "*Personnel : " + costello));
 
         const std::string criard = "COSTELLO \"LE SAMOURAÏ\" de Jean-Pierre Melville";
-        session().cmdModifierTitre_Click();
+        session().execute(app::cmdModifierTitre_Click);
         etats().ajout.Text3[0].Text = "COSTELLO \"LE SAMOURAÏ\"";
-        session().cmdAjoutFilm_Click();
+        session().execute(edit::cmdAjoutFilm_Click);
         EXPECT_EQ(filmMontre(etats()), criard);
         EXPECT_THAT(changements(), UnorderedElementsAre("*Films : " + criard, "*Personnel : " + criard));
     }
@@ -139,13 +152,13 @@ class UneSession : public Collectionneur {
         zone(0);
         clique(*execution, "Le Cercle Rouge");
         etats().fiche.Combo7[1].Text = "Zo";
-        session().Combo7_Change(1);
-        session().cmdRaffraichirListe_Click();
+        session().execute(edit::Combo7_Change, 1);
+        session().execute(browse::RaffraichitBoitesDeroulantes);
         EXPECT_EQ(etats().fiche.Combo7[1].Text, "Zo");  // what is being typed stays
         EXPECT_THAT(etats().fiche.Combo7[1].Items, IsEmpty());
         EXPECT_TRUE(etats().fiche.cmdValiderInfosPossessions.Visible);
         etats().fiche.Combo7[1].Text = "Zoé";
-        session().cmdValiderInfosPossessions_Click();
+        session().execute(edit::cmdValiderInfosPossessions_Click);
         EXPECT_EQ(filmMontre(etats()), kRouge);
         EXPECT_EQ(etats().fiche.Combo7[1].Text, "Zoé");
         EXPECT_THAT(etats().fiche.Combo7[1].Items, ElementsAre("Zoé"));
@@ -158,9 +171,9 @@ class UneSession : public Collectionneur {
         zone(0);
         clique(*execution, "Sans Rien");
         ecran::choisit(etats().fiche.Option1, 0);
-        session().Option1_Click();
+        session().execute(edit::Option1_Click);
         EXPECT_FALSE(etats().fiche.framePossession.Visible);
-        session().cmdValiderInfosPossessions_Click();
+        session().execute(edit::cmdValiderInfosPossessions_Click);
         EXPECT_THAT(changements(), ElementsAre("-Personnel : " + kRien));
         EXPECT_EQ(arbre(etats()).size(), 5U);
         EXPECT_EQ(comptes(), "6 titres, 5 personnels");
@@ -168,9 +181,9 @@ class UneSession : public Collectionneur {
         zone(5);
         clique(*execution, "Sans Rien");
         ecran::choisit(etats().fiche.Option1, 1);
-        session().Option1_Click();
+        session().execute(edit::Option1_Click);
         etats().fiche.Combo7[2].Text = "K7 enregistrée à la télé";
-        session().cmdValiderInfosPossessions_Click();
+        session().execute(edit::cmdValiderInfosPossessions_Click);
         EXPECT_THAT(changements(), ElementsAre("+Personnel : " + kRien));
         EXPECT_THAT(arbre(etats()), IsEmpty());
         EXPECT_THAT(etats().fiche.Combo7[2].Items, ElementsAre("DVD", "K7 enregistrée à la "));
@@ -184,7 +197,7 @@ class UneSession : public Collectionneur {
         clique(*execution, "Été Violent");
         for (const char* reponse : {"10", "7,5", "11"}) {
             execution->boites.attendInputBox(question, reponse);
-            session().cmdModifieNote_Click();
+            session().execute(edit::cmdModifieNote_Click);
             EXPECT_EQ(filmMontre(etats()), kEte);
         }
         EXPECT_EQ(etats().fiche.lblNote.Caption, "Note : 8/10");
@@ -195,10 +208,10 @@ class UneSession : public Collectionneur {
 
     void renommeDesGroupes() {
         tri(4);
-        session().TreeView1_MouseUpDroit(noeud(etats(), "Drame"));
+        session().execute(app::TreeView1_MouseUpDroit, noeud(etats(), "Drame"));
         EXPECT_EQ(etats().menu, app::MenuContextuel::MenuClicDroitGenre);
         execution->boites.attendInputBox("Entrez le nom du nouveau genre", "Mélodrame", "Modifier le genre", "Drame");
-        session().RenommerGenreFilms_Click();
+        session().execute(edit::RenommerGenreFilms_Click);
         EXPECT_THAT(changements(), UnorderedElementsAre("*Films : " + kEte,
                                                         "*Films : COSTELLO \"LE SAMOURAÏ\" de Jean-Pierre Melville"));
         EXPECT_THAT(
@@ -207,10 +220,10 @@ class UneSession : public Collectionneur {
                         "Mélodrame", "  COSTELLO \"LE SAMOURAÏ\"", "  Été Violent", "Policier", "  Le Cercle Rouge"));
         zone(0);
         tri(8);
-        session().TreeView1_MouseUpDroit(noeud(etats(), "DVD"));
+        session().execute(app::TreeView1_MouseUpDroit, noeud(etats(), "DVD"));
         EXPECT_EQ(etats().menu, app::MenuContextuel::MenuClicDroitSupport);
         execution->boites.attendInputBox("Entrez le nom du nouveau support", "Blu-ray", "Modifier le support", "DVD");
-        session().RenommeSupportFilms_Click();
+        session().execute(edit::RenommeSupportFilms_Click);
         EXPECT_THAT(changements(),
                     UnorderedElementsAre("*Personnel : " + kEte, "*Personnel : " + kRouge,
                                          "*Personnel : COSTELLO \"LE SAMOURAÏ\" de Jean-Pierre Melville"));
@@ -221,32 +234,32 @@ class UneSession : public Collectionneur {
         tri(4);
         zone(1);
         clique(*execution, "Le Cercle Rouge");  // owned: the holdings of the ticked films go too
-        session().ChoixFonction2_Outils();
-        session().cmdMultiSuppress_Click();
-        ecran::choisit(etats().fonctions.Option4, 1);
-        session().Option4_Click();
-        EXPECT_TRUE(etats().liste.TreeView1.Checkboxes && etats().fonctions.cmdSupprTitresSelect.Visible);
+        session().execute(app::ChoixFonction2_Outils);
+        session().execute(edit::cmdMultiSuppress_Click);
+        ecran::choisit(etats().multiSuppression.Option4, 1);
+        session().execute(edit::Option4_Click);
+        EXPECT_TRUE(etats().liste.TreeView1.Checkboxes && etats().multiSuppression.cmdSupprTitresSelect.Visible);
         attendRefus("Aucun film n'a été coché !");
-        session().cmdSupprTitresSelect_Click();
+        session().execute(edit::cmdSupprTitresSelect_Click);
         attendRefus("Choisissez un titre plutôt qu'une catégorie.");
-        session().TreeView1_NodeCheck(noeud(etats(), "Policier"), true);
-        session().TreeView1_NodeCheck(noeud(etats(), "Le Cercle Rouge"), true);
-        session().TreeView1_NodeCheck(noeud(etats(), "Sans Rien"), true);
+        session().execute(app::TreeView1_NodeCheck, noeud(etats(), "Policier"), true);
+        session().execute(app::TreeView1_NodeCheck, noeud(etats(), "Le Cercle Rouge"), true);
+        session().execute(app::TreeView1_NodeCheck, noeud(etats(), "Sans Rien"), true);
         EXPECT_EQ(filmMontre(etats()), "");  // a tick shows no sheet
         demande("Voulez-vous vraiment supprimer ces 2 titres ?", dialogues::kNon);
-        session().cmdSupprTitresSelect_Click();
+        session().execute(edit::cmdSupprTitresSelect_Click);
         EXPECT_EQ(etats().liste.TreeView1.coches.size(), 2U);
         EXPECT_THAT(changements(), IsEmpty());
 
         demande("Voulez-vous vraiment supprimer ces 2 titres ?", dialogues::kOui);
         execution->boites.attendMsgBox("2 titres supprimés.", dialogues::kInformation);
-        session().cmdSupprTitresSelect_Click();
+        session().execute(edit::cmdSupprTitresSelect_Click);
         EXPECT_THAT(changements(), UnorderedElementsAre("-Films : " + kRouge, "-Personnel : " + kRouge,
                                                         "-Films : " + kRien, "-Personnel : " + kRien));
         EXPECT_EQ(comptes(), "4 titres, 4 personnels");
         EXPECT_TRUE(etats().liste.TreeView1.Checkboxes && etats().liste.TreeView1.coches.empty());
-        ecran::choisit(etats().fonctions.Option4, 0);
-        session().Option4_Click();
+        ecran::choisit(etats().multiSuppression.Option4, 0);
+        session().execute(edit::Option4_Click);
         EXPECT_FALSE(etats().liste.TreeView1.Checkboxes);
     }
 
@@ -254,11 +267,11 @@ class UneSession : public Collectionneur {
         clique(*execution, "Été Violent");
         for (const int reponse : {dialogues::kNon, dialogues::kOui}) {
             demande("Voulez-vous vraiment supprimer ce titre ?", reponse);
-            session().SupprFilm_Click();
+            session().execute(edit::cmdSupprimerTitre_Click);
         }
         EXPECT_THAT(changements(), UnorderedElementsAre("-Films : " + kEte, "-Personnel : " + kEte));
         EXPECT_EQ(comptes(), "3 titres, 3 personnels");
-        session().cmdSupprimerTitre_Click();  // no film is current: nothing to ask
+        session().execute(edit::cmdSupprimerTitre_Click);  // no film is current: nothing to ask
         // The nodes that stay, of a listing where a slot is empty, still lead to their films.
         EXPECT_THAT(arbre(etats()),
                     ElementsAre(" Hors tri !", "  le parrain ii", "Comédie", "  Les \"Nouveaux\" Monstres", "Mélodrame",
@@ -270,11 +283,11 @@ class UneSession : public Collectionneur {
     }
 
     void corrigeLesTitres() {
-        session().ChoixFonction2_Outils();
+        session().execute(app::ChoixFonction2_Outils);
         for (const char* rapport : {"2 titres modifiés.", "Aucun titre modifié."}) {
             demande("Êtes-vous sûr(e) de vouloir corriger tous les titres de la base ?", dialogues::kOui);
             execution->boites.attendMsgBox(rapport, dialogues::kInformation);
-            session().cmdPonctuation_Click();
+            session().execute(edit::cmdPonctuation_Click);
         }
         const std::string parrain = "Le Parrain II de Francis Ford Coppola",
                           costello = "Costello \"Le Samouraï\" de Jean-Pierre Melville";
@@ -294,17 +307,17 @@ class UneSession : public Collectionneur {
         const std::string series = installation.chemin("Séries.mdb");
         execution->boites.attendFichier(demandeBase(installation), installation.chemin("Séries"));
         demande("Le fichier " + series + " n'existe pas. Voulez-vous le créer ?", dialogues::kOui);
-        session().cmdChargeOuvreBase_Click();
+        session().execute(app::cmdChargeOuvreBase_Click);
         EXPECT_EQ(comptes() + filmMontre(etats()), "0 titre, 0 personnel");
         EXPECT_THAT(arbre(etats()), IsEmpty());
         EXPECT_THAT(etats().fiche.Combo7[2].Items, IsEmpty());
-        session().cmdModifieNote_Click();  // the film of the other base is current no more
-        session().cmdSupprimerTitre_Click();
+        session().execute(edit::cmdModifieNote_Click);  // the film of the other base is current no more
+        session().execute(edit::cmdSupprimerTitre_Click);
         arrete();
         demarre();
         EXPECT_EQ(comptes(), "0 titre, 0 personnel");
         execution->boites.attendFichier(demandeBase(installation), installation.chemin("Films.mdb"));
-        session().cmdChargeOuvreBase_Click();
+        session().execute(app::cmdChargeOuvreBase_Click);
         EXPECT_EQ(comptes(), "3 titres, 3 personnels");
         EXPECT_THAT(changements(), IsEmpty());
     }

@@ -1,4 +1,5 @@
 #include "ProgrammeDEssai.h"
+#include "db/cmdSupprInfosPerso_Click.h"
 #include "platform/systeme/DossierProgramme.h"
 #include "ui/FinDemandee.h"
 
@@ -73,7 +74,7 @@ TEST_F(FinDemandee, AQuestionIsLeftWithoutAnAnswer) {
         if (ouverte) raise(SIGTERM);
     });
     veille.start(1);
-    EXPECT_EQ(programme.commande().execute([&] { programme.session().cmdSupprInfosPerso_Click(); }),
+    EXPECT_EQ(programme.commande().execute([&] { programme.session().execute(db::cmdSupprInfosPerso_Click); }),
               ui::Commande::Issue::Echouee);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     estFinie();

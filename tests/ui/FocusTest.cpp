@@ -1,4 +1,5 @@
 #include "ProgrammeDEssai.h"
+#include "edit/ModifieGroupe.h"
 
 #include <QLineEdit>
 #include <QRadioButton>
@@ -37,7 +38,7 @@ TEST_F(Focus, IsInTheListAtTheStartAndWhereTheListChanged) {
     essai.boites.reponse = "Comédie";
     essai.cliqueTitre("Humour");
     essai.trouve("cmdConfigurer").setFocus();
-    essai.programme->commande().execute([&] { essai.programme->session().RenommerGenreFilms_Click(); });
+    essai.programme->commande().execute([&] { essai.programme->session().execute(edit::RenommerGenreFilms_Click); });
     EXPECT_TRUE(essai.arbre().hasFocus()) << "after a renaming";
 
     essai.clique("cmdFonctionRecherche");

@@ -1,3 +1,5 @@
+#include "app/ChoixFonction.h"
+#include "app/Commandes.h"
 #include "parcours/Installation.h"
 
 #include <filesystem>
@@ -76,13 +78,13 @@ TEST(Arret, AFailedChangeOfBaseEndsTheProgramAndWritesNoSettings) {
     app::Session session({machine.boites, ecran, machine.images, machine.horloge, machine.documents, machine.programmes,
                           machine.volumes, installation.chemin()});
     session.Form_Load();
-    session.cmdConfigurer_Click();
+    session.execute(app::cmdConfigurer_Click);
     ecran.installation = &installation;
     machine.boites.attendFichier(
         {"Ouvrir/Créer une base de données", "Fichiers de base de données|*.mdb", installation.chemin(), true}, autre);
     machine.boites.attendMsgBox("Erreur (22) : Ouverture de la base (Lecture seule/Fichier manquant ?)",
                                 dialogues::kCritique);
-    EXPECT_THROW(session.cmdChargeOuvreBase_Click(), systeme::FinDuProgramme);
+    EXPECT_THROW(session.execute(app::cmdChargeOuvreBase_Click), systeme::FinDuProgramme);
     session.Form_Unload();
     EXPECT_EQ(installation.lit("Ambrelis.ini"), "");
 }

@@ -1,3 +1,4 @@
+#include "app/Commandes.h"
 #include "parcours/Installation.h"
 
 #include <filesystem>
@@ -175,7 +176,7 @@ TEST(Demarrage, ABaseWhoseDiskIsGoneIsNamedUntilItIsBack) {
         ASSERT_TRUE(execution.demarre());
         EXPECT_EQ(avis(execution), "La base " + absente + " est introuvable : " + installation.chemin("films.mdb") +
                                        " est ouverte à sa place.");
-        execution.session.cmdAvis_Click(0);
+        execution.session.execute(app::cmdAvis_Click, 0);
         EXPECT_EQ(avis(execution), "La base " + absente +
                                        " est toujours introuvable. Branchez le disque où elle se trouve, puis "
                                        "réessayez.");
@@ -186,7 +187,7 @@ TEST(Demarrage, ABaseWhoseDiskIsGoneIsNamedUntilItIsBack) {
         Execution execution(installation.chemin());
         ASSERT_TRUE(execution.demarre());
         remetFilms(installation, "disque/Ma collection.mdb", "Été violent");
-        execution.session.cmdAvis_Click(0);
+        execution.session.execute(app::cmdAvis_Click, 0);
         EXPECT_EQ(execution.etats.liste.Label9[0].Caption, "1 titre");
         EXPECT_FALSE(execution.etats.avis.frameAvis.Visible) << "it says nothing true any more";
         execution.session.Form_Unload();
@@ -195,7 +196,7 @@ TEST(Demarrage, ABaseWhoseDiskIsGoneIsNamedUntilItIsBack) {
     std::filesystem::remove(absente);
     Execution execution(installation.chemin());
     ASSERT_TRUE(execution.demarre());
-    execution.session.cmdAvis_Click(1);  // the user stays with the other one
+    execution.session.execute(app::cmdAvis_Click, 1);  // the user stays with the other one
     EXPECT_FALSE(execution.etats.avis.frameAvis.Visible);
     execution.session.Form_Unload();
     EXPECT_EQ(installation.lit("Ambrelis.ini"), "0\n\n0\n0\n0\nfilms.mdb\n0\n0\n");

@@ -1,5 +1,9 @@
-#include "app/APropos.h"
-#include "app/Liens.h"
+#include "acquire/AdresseRecherche.h"
+#include "app/Aide.h"
+#include "app/ChoixFonction.h"
+#include "app/Commandes.h"
+#include "browse/ChoixZone.h"
+#include "db/cmdMajBase_Click.h"
 #include "parcours/Installation.h"
 
 #include <gtest/gtest.h>
@@ -25,17 +29,17 @@ TEST(ChoixFonction, OnePanelAtATimeUnderItsBoldButton) {
     Execution execution(installation.chemin());
     app::Session& session = execution.session;
     session.Form_Load();
-    session.cmdAfficherFonctions_Click();
+    session.execute(app::cmdAfficherFonctions_Click);
     EXPECT_EQ(panneaux(session.etats), "Doc-");
     EXPECT_TRUE(session.etats.ajout.frameAjoutAuto.Visible && session.etats.ajout.Command13[0].FontBold);
     EXPECT_EQ(session.etats.demandes.focus, "txtRechInternet");
-    session.cmdConfigurer_Click();
+    session.execute(app::cmdConfigurer_Click);
     EXPECT_EQ(panneaux(session.etats), "dOc0");
-    session.cmdConfig_Click(1);
+    session.execute(app::cmdConfig_Click, 1);
     EXPECT_EQ(panneaux(session.etats), "doC1");
-    session.cmdConfig_Click(0);
+    session.execute(app::cmdConfig_Click, 0);
     EXPECT_EQ(panneaux(session.etats), "dOc0");
-    session.cmdConfig_Click(7);
+    session.execute(app::cmdConfig_Click, 7);
     EXPECT_EQ(panneaux(session.etats), "doC1");
 }
 
@@ -54,11 +58,11 @@ TEST(DossierDesImages, ANameThatIsShortIsTheSameFolderAfterARestartElsewhere) {
         execution.boites.attendMsgBox("Le dossier des images ne peut pas être " + installation.chemin("Tmp/x") +
                                           " : Ambrelis efface ce que contient « Tmp » chaque fois qu'il se ferme.",
                                       dialogues::kExclamation);
-        execution.session.cmdParcourir_Click();
+        execution.session.execute(app::cmdParcourir_Click);
         execution.etats.stockage.Text4.Text = "affiches";
         execution.boites.attendMsgBox("Compactage effectué.", dialogues::kInformation);
         execution.boites.attendMsgBox("1 fichier créé.\r\n", dialogues::kInformation);
-        execution.session.cmdMajBase_Click();
+        execution.session.execute(db::cmdMajBase_Click);
         EXPECT_THROW(execution.session.cmdStop_Click(), systeme::FinDuProgramme);
     }
     EXPECT_EQ(installation.lit("affiches/Été - R.jpg"), affiche);
@@ -67,8 +71,8 @@ TEST(DossierDesImages, ANameThatIsShortIsTheSameFolderAfterARestartElsewhere) {
     Execution execution(installation.chemin());
     ASSERT_TRUE(execution.demarre());
     execution.etats.liste.ChoixZone.selectionne(browse::kZoneTous);
-    execution.session.ChoixZone_Click();
-    execution.session.TreeView1_NodeClick(2);
+    execution.session.execute(browse::ChoixZone_Click);
+    execution.session.execute(app::TreeView1_NodeClick, 2);
     EXPECT_EQ(execution.images.courante, affiche);
     std::filesystem::current_path(ici);
 }
@@ -84,20 +88,21 @@ TEST(APropos, KeepsItsFixedLines) {
     const Installation installation;
     Execution execution(installation.chemin());
     execution.boites.attendMsgBox(texte, dialogues::kInformation);
-    execution.session.cmdAide_Click();
+    execution.session.execute(app::cmdAide_Click);
 }
 
 TEST(Liens, OpenInTheBrowserOrGiveTheirAddress) {
     const Installation installation;
     Execution execution(installation.chemin());
-    execution.session.Image3_Click();
-    execution.session.Label4_Click();
+    execution.session.execute(app::Image3_Click);
+    execution.session.execute(app::Label4_Click);
     EXPECT_EQ(execution.documents.ouverts,
-              (std::vector<std::string>{app::kSiteMovieCovers, installation.chemin("Guide/index.html")}));
+              (std::vector<std::string>{acquire::kSiteMovieCovers, installation.chemin("Guide/index.html")}));
     execution.documents.reussit = false;
-    execution.boites.attendMsgBox(std::string("Le navigateur n'a pas pu être ouvert (") + app::kSiteMovieCovers + ").",
-                                  dialogues::kExclamation);
-    execution.session.Image3_Click();
+    execution.boites.attendMsgBox(
+        std::string("Le navigateur n'a pas pu être ouvert (") + acquire::kSiteMovieCovers + ").",
+        dialogues::kExclamation);
+    execution.session.execute(app::Image3_Click);
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include "app/ChoixFonction.h"
 #include "app/LogicielsExternes.h"
 #include "parcours/Installation.h"
 
@@ -24,16 +25,16 @@ struct LogicielsExternesTest : testing::Test {
         installation.ecrit("Extensions.txt", table);
         execution.emplace(installation.chemin());
         ASSERT_TRUE(execution->demarre());
-        execution->session.cmdConfig_Click(1);
+        execution->session.execute(app::cmdConfig_Click, 1);
     }
     ecran::Liste& liste(std::size_t indice) { return execution->etats.fonctions.Combo6[indice]; }
     void choisit(int indice, int place) {
         liste(static_cast<std::size_t>(indice)).selectionne(place);
-        execution->session.Combo6_Click(indice);
+        execution->session.execute(app::Combo6_Click, indice);
     }
     void ajoute(const std::string& extension) {
         execution->etats.fonctions.txtNouvelleExtension.Text = extension;
-        execution->session.cmdAjoutExtension_Click();
+        execution->session.execute(app::cmdAjoutExtension_Click);
     }
     void refuse(const std::string& extension, const std::string& message) {
         execution->boites.attendMsgBox(message, kExclamation);
@@ -45,7 +46,7 @@ struct LogicielsExternesTest : testing::Test {
         execution->boites.attendMsgBox("Retirer l'extension \"" + extension +
                                            "\" de la liste ?\nSes fichiers s'ouvriront avec le logiciel par défaut.",
                                        kQuestion, reponse);
-        execution->session.cmdSupprExtension_Click();
+        execution->session.execute(app::cmdSupprExtension_Click);
     }
     std::string fichier() { return installation.lit("Extensions.txt"); }
 };
@@ -66,7 +67,7 @@ TEST_F(LogicielsExternesTest, ShowsTheProgramOfEachExtensionAndKeepsEveryChangeA
     const std::string lecteur = installation.ecrit("Mon lecteur d'été", "#!/bin/true\n");
     std::filesystem::permissions(lecteur, std::filesystem::perms::owner_all);
     execution->boites.attendFichier({"Logiciel des fichiers ogm", "Tous les fichiers|*.*", "/usr/bin"}, lecteur);
-    execution->session.cmdParcourirLogiciel_Click();
+    execution->session.execute(app::cmdParcourirLogiciel_Click);
     EXPECT_EQ(liste(1).Text, lecteur);
 
     choisit(0, 0);
@@ -89,12 +90,12 @@ TEST_F(LogicielsExternesTest, ACancelledBoxOrAFileThatCannotRunChangesNothing) {
     const std::string texte = installation.ecrit("notes.txt", "");
     const dialogues::DemandeFichier demande{"Logiciel des fichiers avi", "Tous les fichiers|*.*", "/usr/bin"};
     execution->boites.attendFichier(demande, "");
-    execution->session.cmdParcourirLogiciel_Click();
+    execution->session.execute(app::cmdParcourirLogiciel_Click);
     for (const std::string& choisi : {texte, installation.chemin("absent"), installation.chemin()}) {
         execution->boites.attendFichier(demande, choisi);
         execution->boites.attendMsgBox("Ce fichier n'est pas un logiciel qui peut être lancé :\n" + choisi,
                                        kExclamation);
-        execution->session.cmdParcourirLogiciel_Click();
+        execution->session.execute(app::cmdParcourirLogiciel_Click);
     }
     EXPECT_EQ(liste(1).Text, "/usr/bin/mpv --fs");
     EXPECT_EQ(fichier(), "avi\n/usr/bin/mpv --fs\nmkv\n/usr/bin/vidéo\n");
@@ -144,8 +145,8 @@ TEST_F(LogicielsExternesTest, AnEmptyTableOffersOnlyToAdd) {
     retire("avi");
     EXPECT_THAT(offre(), testing::Each(false));
     EXPECT_EQ(fichier(), "");
-    execution->session.cmdSupprExtension_Click();
-    execution->session.cmdParcourirLogiciel_Click();
+    execution->session.execute(app::cmdSupprExtension_Click);
+    execution->session.execute(app::cmdParcourirLogiciel_Click);
 }
 
 }  // namespace

@@ -1,7 +1,19 @@
+#include "app/ChoixFonction.h"
+#include "app/Commandes.h"
+#include "app/RaccourcisClavier.h"
+#include "browse/AfficheTitres.h"
+#include "browse/AfficheVolet.h"
+#include "browse/cmdFonctionRecherche_Click.h"
+#include "edit/SaisiePossession.h"
+#include "edit/cmdAjoutFilm_Click.h"
+#include "edit/cmdModifieNote_Click.h"
+#include "edit/cmdSupprTitresSelect_Click.h"
+#include "edit/cmdSupprimerTitre_Click.h"
+#include "edit/cmdValiderInfosPossessions_Click.h"
 #include "parcours/Gestes.h"
 
-#include <array>
 #include <functional>
+#include <vector>
 
 #include <gmock/gmock.h>
 
@@ -30,8 +42,8 @@ struct Saisies : testing::Test {
     }
     void clique(const char* texte) { parcours::clique(execution, texte); }
     void commence() {
-        session.Command13_Click(1);
-        session.SaisieManuelle();
+        session.execute(app::Command13_Click, 1);
+        session.execute(app::SaisieManuelle);
         etats.ajout.Text3[0].Text = "L'Été";
         etats.ajout.Combo2.Text = "Comedie";
         etats.ajout.txtResume.Text = "Un\u00a0été\r\nà deux";
@@ -43,11 +55,11 @@ struct Saisies : testing::Test {
     }
     void prete(const std::string& nom) {
         etats.fiche.Combo7[0].Text = nom;
-        session.Combo7_Change(0);
+        session.execute(edit::Combo7_Change, 0);
     }
     void corrige(const char* titre, const char* genre) {
         clique(titre);
-        session.cmdModifierTitre_Click();
+        session.execute(app::cmdModifierTitre_Click);
         etats.ajout.Combo2.Text = genre;
     }
     void enleve(const std::string& titre) {  // as another program would
@@ -64,27 +76,27 @@ struct Saisies : testing::Test {
 
 TEST_F(Saisies, AnEntryThatIsLeftIsToldAndComesBackWhole) {
     const std::vector<std::function<void()>> departs{[&] { clique("Le Samouraï"); },
-                                                     [&] { session.TreeView1_MouseUpDroit(1); },
+                                                     [&] { session.execute(app::TreeView1_MouseUpDroit, 1); },
                                                      [&] { parcours::choisitTri(execution, 4); },
                                                      [&] { parcours::choisitZone(execution, 1); },
-                                                     [&] { session.cmdConfigurer_Click(); },
-                                                     [&] { session.Command13_Click(1); },
-                                                     [&] { session.cmdFonctionRecherche_Click(); }};
+                                                     [&] { session.execute(app::cmdConfigurer_Click); },
+                                                     [&] { session.execute(app::Command13_Click, 1); },
+                                                     [&] { session.execute(browse::cmdFonctionRecherche_Click); }};
     for (std::size_t i = 0; i < departs.size(); ++i) {
         SCOPED_TRACE(i);
         commence();
         departs[i]();
         ASSERT_EQ(avis(), "Saisie de « L'Été » laissée sans être enregistrée.");
-        session.cmdAvis_Click(0);
+        session.execute(app::cmdAvis_Click, 0);
         verifieLaSaisie();
         EXPECT_EQ(avis(), "");
         EXPECT_EQ(etats.ajout.cmdAjoutFilm.Caption, "Ajouter");
         boites.attendMsgBox(kAbandon, dialogues::kQuestion, dialogues::kOui);
-        session.QuittePanneau();  // it is still at stake
-        session.cmdFermerAvis_Click();
+        session.execute(app::QuittePanneau);  // it is still at stake
+        session.execute(app::cmdFermerAvis_Click);
     }
     EXPECT_EQ(avis(), "");
-    session.SaisieManuelle();
+    session.execute(app::SaisieManuelle);
     EXPECT_EQ(etats.ajout.Text3[0].Text, "") << "given up with its notice";
 }
 
@@ -92,10 +104,10 @@ TEST_F(Saisies, ACorrectionComesBackWithItsFilmWhereverTheListingWent) {
     corrige("Le Samouraï", "Drame");
     parcours::cherche(execution, "rouge");  // the listing lacks the film
     EXPECT_EQ(avis(), "Correction de « Le Samouraï » laissée sans être enregistrée.");
-    session.cmdAvis_Click(0);
+    session.execute(app::cmdAvis_Click, 0);
     EXPECT_TRUE(saisieMontree() && etats.ajout.modeModifier());
     EXPECT_EQ(etats.ajout.Label5.Caption, "Correction de « Le Samouraï »");
-    session.cmdAjoutFilm_Click();
+    session.execute(edit::cmdAjoutFilm_Click);
     parcours::choisitZone(execution, 1);
     parcours::choisitTri(execution, 4);
     clique("Le Samouraï");
@@ -103,9 +115,9 @@ TEST_F(Saisies, ACorrectionComesBackWithItsFilmWhereverTheListingWent) {
     EXPECT_EQ(etats.liste.Label9[0].Caption, "4 titres");
 
     corrige("Le Samouraï", "Policier");
-    session.cmdConfigurer_Click();
+    session.execute(app::cmdConfigurer_Click);
     enleve("Le Samouraï");
-    session.cmdAvis_Click(0);
+    session.execute(app::cmdAvis_Click, 0);
     EXPECT_EQ(avis(), "« Le Samouraï » n'est plus dans la base : sa fiche est reprise pour être ajoutée.");
     EXPECT_TRUE(saisieMontree() && !etats.ajout.modeModifier());
     EXPECT_EQ(etats.ajout.Text3[0].Text + "/" + etats.ajout.Combo2.Text, "Le Samouraï/Policier");
@@ -118,26 +130,26 @@ TEST_F(Saisies, HoldingsThatAreLeftComeBackOverWhatTheBaseNowHolds) {
     EXPECT_EQ(avis(), "Possession de « Le Samouraï » non validée.");
     EXPECT_EQ(etats.fiche.Combo7[0].Text, "");
     prete("Paul");
-    session.cmdFonctionRecherche_Click();
-    session.QuittePanneau();
+    session.execute(browse::cmdFonctionRecherche_Click);
+    session.execute(app::QuittePanneau);
     EXPECT_EQ(etats.fiche.Combo7[0].Text, "Paul") << "the sheet comes back as it was";
     clique("Le Samouraï");
     EXPECT_EQ(avis(), "Possession de « Le Cercle Rouge » non validée.");
     parcours::choisitZone(execution, 0);
-    session.cmdFermerAvis_Click();
+    session.execute(app::cmdFermerAvis_Click);
     clique("Le Samouraï");
     EXPECT_EQ(avis(), "Possession de « Le Samouraï » non validée.") << "told again where the user comes back to it";
 
     dao::DBEngine::OpenDatabase(installation.chemin("Films.mdb")).Execute("UPDATE Personnel SET Rangement='Salon'");
     parcours::choisitZone(execution, 3);
-    session.cmdAvis_Click(0);
+    session.execute(app::cmdAvis_Click, 0);
     EXPECT_EQ(parcours::filmMontre(etats), "Le Samouraï de Jean-Pierre Melville");
     EXPECT_EQ(etats.fiche.Combo7[0].Text + "/" + etats.fiche.Text10[3].Text, "Zoé/Salon");
     EXPECT_TRUE(etats.fiche.cmdValiderInfosPossessions.Visible);
 
     parcours::choisitZone(execution, 1);
     enleve("Le Samouraï");
-    session.cmdAvis_Click(0);
+    session.execute(app::cmdAvis_Click, 0);
     EXPECT_EQ(avis(), "« Le Samouraï » n'est plus dans la base : ce qui était noté de sa possession reste de côté.");
     EXPECT_EQ(etats.avis.cmdAvis[0].Caption, "Reprendre");
 }
@@ -148,23 +160,23 @@ TEST_F(Saisies, WhatShowsTheSameFilmKeepsItsHoldings) {
     prete("Zoé");
     const std::string image = installation.ecrit("image.jpg", "\xFF\xD8");
     const std::vector<std::function<void()>> gestes{
-        [&] { session.TreeView1_MouseUpDroit(parcours::noeud(etats, "Le Samouraï")); },
+        [&] { session.execute(app::TreeView1_MouseUpDroit, parcours::noeud(etats, "Le Samouraï")); },
         [&] {
             boites.attendFichier({"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", installation.chemin()},
                                  image);
-            session.Label12_Click();
+            session.execute(app::Label12_Click);
         },
         [&] {
             boites.attendInputBox(
                 "Quelle note (entre 1 et 10) voulez vous attribuer au film \"Le Samouraï\" de "
                 "Jean-Pierre Melville ?",
                 "8");
-            session.cmdModifieNote_Click();
+            session.execute(edit::cmdModifieNote_Click);
             EXPECT_EQ(parcours::groupeChoisi(etats), "8");
         },
         [&] {
             etats.liste.AffStats.Value = 1;
-            session.AffStats_Click();
+            session.execute(browse::AffStats_Click);
         },
         [&] { clique("Le Samouraï"); }};
     for (std::size_t i = 0; i < gestes.size(); ++i) {
@@ -176,30 +188,30 @@ TEST_F(Saisies, WhatShowsTheSameFilmKeepsItsHoldings) {
     }
 
     // The right button beside a begun correction of the film.
-    session.cmdModifierTitre_Click();
+    session.execute(app::cmdModifierTitre_Click);
     etats.ajout.Text3[0].Text = "Le Samourai";
-    session.TreeView1_MouseUpDroit(parcours::noeud(etats, "Le Samouraï"));
+    session.execute(app::TreeView1_MouseUpDroit, parcours::noeud(etats, "Le Samouraï"));
     EXPECT_EQ(etats.menu, app::MenuContextuel::MenuClicDroitFilm);
-    session.AffStats_Click();
-    session.ModifieFilm_Click();
+    session.execute(browse::AffStats_Click);
+    session.execute(app::cmdModifierTitre_Click);
     EXPECT_EQ(etats.ajout.Text3[0].Text, "Le Samourai");
-    session.cmdAjoutFilm_Click();  // the film bears another name, and its holdings are still typed
+    session.execute(edit::cmdAjoutFilm_Click);  // the film bears another name, and its holdings are still typed
     EXPECT_EQ(parcours::filmMontre(etats), "Le Samourai de Jean-Pierre Melville");
     EXPECT_EQ(etats.fiche.Combo7[0].Text, "Zoé");
-    session.cmdValiderInfosPossessions_Click();
+    session.execute(edit::cmdValiderInfosPossessions_Click);
     EXPECT_EQ(avis(), "");
     EXPECT_EQ(etats.fiche.Combo7[0].Text, "Zoé");
 
     prete("Paul");
     boites.attendMsgBox("Voulez-vous vraiment supprimer ce titre ?", dialogues::kQuestion, dialogues::kOui);
-    session.cmdSupprimerTitre_Click();
+    session.execute(edit::cmdSupprimerTitre_Click);
     EXPECT_EQ(avis(), "") << "they went with their film";
 }
 
 TEST_F(Saisies, LeavingTheBaseAsksBeforeAnythingIsDone) {
     commence();
     for (const auto& quitte : {std::function<void()>([&] { session.cmdStop_Click(); }),
-                               std::function<void()>([&] { session.cmdChargeOuvreBase_Click(); }),
+                               std::function<void()>([&] { session.execute(app::cmdChargeOuvreBase_Click); }),
                                std::function<void()>([&] { EXPECT_FALSE(session.Form_QueryUnload()); })}) {
         boites.attendMsgBox(kAbandon, dialogues::kQuestion, dialogues::kNon);
         quitte();
@@ -219,44 +231,44 @@ TEST_F(Saisies, TheNewestComesBackFirstAndTheOthersAreToldAfterIt) {
     clique("Le Samouraï");
     prete("Zoé");
     corrige("Le Cercle Rouge", "Drame");  // the click leaves the holdings
-    session.cmdConfigurer_Click();
+    session.execute(app::cmdConfigurer_Click);
     EXPECT_EQ(avis(), "Correction de « Le Cercle Rouge » laissée sans être enregistrée.");
-    session.cmdAvis_Click(0);
-    session.cmdAjoutFilm_Click();
+    session.execute(app::cmdAvis_Click, 0);
+    session.execute(edit::cmdAjoutFilm_Click);
     EXPECT_EQ(avis(), "");
-    session.SaisieManuelle();
+    session.execute(app::SaisieManuelle);
     verifieLaSaisie();
     boites.attendFichier({"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", installation.chemin("Images/")},
                          "");
     etats.ajout.Text3[1].Text = "Tati";
-    session.cmdAjoutFilm_Click();
+    session.execute(edit::cmdAjoutFilm_Click);
     EXPECT_EQ(avis(), "« L'Été » ajouté.");
     EXPECT_TRUE(saisieMontree());
-    session.QuittePanneau();
+    session.execute(app::QuittePanneau);
     EXPECT_EQ(parcours::filmMontre(etats), "L'Été de Tati");
 }
 
 TEST_F(Saisies, LeavingAPanelGoesBackToTheSheetElseToThePresentation) {
-    session.cmdConfigurer_Click();
-    session.QuittePanneau();
+    session.execute(app::cmdConfigurer_Click);
+    session.execute(app::QuittePanneau);
     EXPECT_TRUE(etats.panneaux.framePresentation.Visible);
 
     parcours::clique(execution, "Le Samouraï");
-    session.cmdAutresInfos_Click();
-    static constexpr std::array<void (app::Session::*)(), 3> kOuvertures{&app::Session::cmdFonctionRecherche_Click,
-                                                                         &app::Session::cmdMultiSuppress_Click,
-                                                                         &app::Session::cmdModifierTitre_Click};
-    for (const auto ouvre : kOuvertures) {
-        std::invoke(ouvre, session);
-        session.QuittePanneau();
+    session.execute(browse::cmdAutresInfos_Click);
+    const std::vector<std::function<void()>> ouvertures{[&] { session.execute(browse::cmdFonctionRecherche_Click); },
+                                                        [&] { session.execute(edit::cmdMultiSuppress_Click); },
+                                                        [&] { session.execute(app::cmdModifierTitre_Click); }};
+    for (const auto& ouvre : ouvertures) {
+        ouvre();
+        session.execute(app::QuittePanneau);
         EXPECT_TRUE(etats.panneaux.frameFiche.Visible && etats.fiche.frameAutresInfos[0].Visible);
         EXPECT_FALSE(etats.panneaux.frameListeFonctions.Visible || etats.panneaux.frameRecherche.Visible);
         EXPECT_EQ(etats.demandes.focus, "TreeView1");
     }
 
-    session.cmdConfigurer_Click();
+    session.execute(app::cmdConfigurer_Click);
     session.Form_Resize(true);
-    session.QuittePanneau();
+    session.execute(app::QuittePanneau);
     EXPECT_TRUE(etats.fiche.frameGeneralites[0].Visible && etats.fiche.frameAutresInfos[0].Visible)
         << "the window grew meanwhile";
     session.Form_Resize(false);
@@ -265,48 +277,48 @@ TEST_F(Saisies, LeavingAPanelGoesBackToTheSheetElseToThePresentation) {
 }
 
 TEST_F(Saisies, WhatWasTypedIsNotLostWithoutAQuestion) {
-    session.SaisieManuelle();
+    session.execute(app::SaisieManuelle);
     EXPECT_EQ(etats.demandes.focus, "Text3_0");
     etats.ajout.Text3[0].Text = "Playtime";
-    session.SaisieManuelle();
+    session.execute(app::SaisieManuelle);
     EXPECT_EQ(etats.ajout.Text3[0].Text, "Playtime") << "the entry that was begun goes on";
     boites.attendMsgBox(kAbandon, dialogues::kQuestion, dialogues::kNon);
-    session.QuittePanneau();
+    session.execute(app::QuittePanneau);
     EXPECT_TRUE(saisieMontree());
     boites.attendMsgBox(kAbandon, dialogues::kQuestion, dialogues::kOui);
-    session.QuittePanneau();
+    session.execute(app::QuittePanneau);
     EXPECT_TRUE(etats.panneaux.framePresentation.Visible);
 
-    session.SaisieManuelle();
+    session.execute(app::SaisieManuelle);
     EXPECT_EQ(etats.ajout.Text3[0].Text, "Playtime");
     etats.ajout.Text3[1].Text = "Jacques Tati";
     boites.attendFichier({"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", installation.chemin("Images/")},
                          "");
-    session.cmdAjoutFilm_Click();
-    session.QuittePanneau();
+    session.execute(edit::cmdAjoutFilm_Click);
+    session.execute(app::QuittePanneau);
     EXPECT_FALSE(saisieMontree()) << "a stored film is no longer at stake";
 
     parcours::clique(execution, "Playtime");
-    session.ModifieFilmAffiche();
+    session.execute(app::ModifieFilmAffiche);
     etats.ajout.Combo2.Text = "Comédie";
     boites.attendMsgBox(kAbandon, dialogues::kQuestion, dialogues::kNon);
-    session.SaisieManuelle();
+    session.execute(app::SaisieManuelle);
     EXPECT_TRUE(etats.ajout.modeModifier());
 }
 
 TEST_F(Saisies, OnlyTheFilmOfAVisibleSheetIsCorrectedOrDeleted) {
     parcours::clique(execution, "Le Samouraï");
-    session.cmdFonctionRecherche_Click();
-    session.ModifieFilmAffiche();
-    session.SupprimeFilmAffiche();
+    session.execute(browse::cmdFonctionRecherche_Click);
+    session.execute(app::ModifieFilmAffiche);
+    session.execute(app::SupprimeFilmAffiche);
     EXPECT_TRUE(etats.panneaux.frameRecherche.Visible);
 
-    session.QuittePanneau();
-    session.ModifieFilmAffiche();
+    session.execute(app::QuittePanneau);
+    session.execute(app::ModifieFilmAffiche);
     EXPECT_EQ(etats.ajout.Text3[0].Text, "Le Samouraï");
-    session.QuittePanneau();
+    session.execute(app::QuittePanneau);
     boites.attendMsgBox("Voulez-vous vraiment supprimer ce titre ?", dialogues::kQuestion, dialogues::kOui);
-    session.SupprimeFilmAffiche();
+    session.execute(app::SupprimeFilmAffiche);
     EXPECT_EQ(etats.liste.Label9[0].Caption, "3 titres");
 }
 
