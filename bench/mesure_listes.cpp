@@ -7,7 +7,11 @@
 #include "Sqlite.h"
 #include "doubles/DocumentsEnregistres.h"
 #include "doubles/EcranMuet.h"
+#include "doubles/HorlogeFixe.h"
+#include "doubles/ImagesSimulees.h"
 #include "doubles/ProgrammesSimules.h"
+#include "doubles/RafraichissementNote.h"
+#include "doubles/VolumesSimules.h"
 #include "export/CreeFichierRTF.h"
 #include "export/LecteurDeFilms.h"
 #include "export/ListeDesTitres.h"
@@ -16,7 +20,6 @@
 #include "export/cmdCreerListe_Click.h"
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
-#include "view/LanceFichier.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -49,20 +52,35 @@ struct Machine {
     explicit Machine(const std::string& dossier) : boites(dossier + "/Liste"), chemins(db::Chemins::depuis(dossier)) {
         base.base = dao::DBEngine::OpenDatabase(dossier + "/Films.mdb");
     }
-    db::Base base;
     DialoguesDeListe boites;
-    db::Chemins chemins;
-    doubles::EcranMuet ecran;
-    doubles::ProgrammesSimules programmes;
+    doubles::EcranMuet ecranMuet;
+    doubles::ImagesSimulees images;
+    doubles::HorlogeFixe horloge;
     doubles::DocumentsEnregistres documents;
-    view::LanceFichier lance{programmes, documents, boites, ecran};
-    ecran::Progression progression;
+    doubles::ProgrammesSimules programmes;
+    doubles::VolumesSimules volumes;
     ecran::EtatAvis etatAvis;
     ecran::Avis avis{etatAvis};
-    exportation::DernierExport dernier{avis, lance, documents, boites};
+    ecran::Demandes demandes;
+    db::EtatTravaux travaux;
+    db::Base base;
+    db::Chemins chemins;
+    db::EtatStockage stockage;
+    doubles::RafraichissementNote rafraichissement;
+    browse::EtatListe liste;
+    browse::EtatRecherche recherche;
+    browse::EtatFiche fiche;
+    browse::EtatPanneaux panneaux;
+    browse::FilmCourant film;
     exportation::EtatNom nom;
-    exportation::CreeFichierRTF creeFichierRTF{base, chemins, nom, progression, ecran, boites, dernier, lance};
-    exportation::cmdCreerListe_Click cmdCreerListe{{base, boites, ecran, progression}, creeFichierRTF, dernier, lance};
+    exportation::Contexte c{{{boites, ecranMuet, images, horloge, documents, programmes, volumes, avis, demandes,
+                              travaux, base, chemins, stockage, rafraichissement},
+                             liste,
+                             recherche,
+                             fiche,
+                             panneaux,
+                             film},
+                            nom};
 };
 
 template <typename Texte>
@@ -103,7 +121,7 @@ void mesureFormatage(const std::string& texteBalise) {
 }
 
 void mesureRtf(Machine& machine) {
-    const std::string fichier = machine.creeFichierRTF(kClause, dialogues::kOui);
+    const std::string fichier = CreeFichierRTF(machine.c, kClause, dialogues::kOui);
     const std::string octets = fichiers::lit(fichier).value();
     const std::string texteBalise = texteDeLaListe<exportation::TexteBalise>(machine, true);
     bench::declare("mo", static_cast<double>(texteBalise.size()) / 1e6);
@@ -116,7 +134,7 @@ void mesureRtf(Machine& machine) {
                 throw std::runtime_error("the floor failed");
         },
         [&] {
-            if (machine.creeFichierRTF(kClause, dialogues::kOui) != fichier)
+            if (CreeFichierRTF(machine.c, kClause, dialogues::kOui) != fichier)
                 throw std::runtime_error("no list was made");
         });
     if (fichiers::lit(fichier).value() != octets) throw std::runtime_error("another list was made");
@@ -138,7 +156,7 @@ std::string texteParSqlite(const bench::Sqlite& base) {
 }
 
 void mesureTexte(Machine& machine, const std::string& dossier) {
-    machine.cmdCreerListe();
+    cmdCreerListe_Click(machine.c);
     const std::string fichier = dossier + "/Liste.txt", octets = fichiers::lit(fichier).value();
     compare(
         "texte",
@@ -147,7 +165,7 @@ void mesureTexte(Machine& machine, const std::string& dossier) {
                 !fichiers::remplace(fichier, octets))
                 throw std::runtime_error("the floor failed");
         },
-        [&] { machine.cmdCreerListe(); });
+        [&] { cmdCreerListe_Click(machine.c); });
     const bench::Sqlite base(dossier + "/Films.mdb");
     compare(
         "texte_sqlite",
@@ -156,7 +174,7 @@ void mesureTexte(Machine& machine, const std::string& dossier) {
             if (taille + 100 < octets.size() || taille > octets.size() + 100 || !fichiers::remplace(fichier, octets))
                 throw std::runtime_error("the floor failed");
         },
-        [&] { machine.cmdCreerListe(); });
+        [&] { cmdCreerListe_Click(machine.c); });
     if (fichiers::lit(fichier).value() != octets) throw std::runtime_error("another list was made");
 }
 
