@@ -4,6 +4,7 @@
 #include "db/EnonceFilm.h"
 #include "platform/dao/Comparaison.h"
 #include "platform/fichiers/Fichiers.h"
+#include "util/Texte.h"
 
 #include <algorithm>
 #include <span>
@@ -35,7 +36,7 @@ void exigeChamps(const dao::Recordset& lignes, std::span<const char* const> cham
     for (const char* champ : champs)
         if (lignes.colonne(champ).rang < 0)
             throw dao::ErreurDao(dao::kErreurChampIntrouvable,
-                                 "Le champ « " + std::string(champ) + " » manque dans la base à importer.");
+                                 "Le champ " + util::entreChevrons(champ) + " manque dans la base à importer.");
 }
 
 void copieChamps(dao::Recordset& de, dao::Recordset& vers, std::span<const char* const> champs) {

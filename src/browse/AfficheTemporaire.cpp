@@ -1,6 +1,5 @@
 #include "browse/AfficheTemporaire.h"
 
-#include "db/AfficheVoisine.h"
 #include "db/Affiches.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/NomsFichiers.h"

@@ -1,7 +1,6 @@
 #include "browse/Label12_Click.h"
 
 #include "browse/AfficheFiche.h"
-#include "db/AfficheVoisine.h"
 #include "db/Affiches.h"
 #include "db/EnonceFilm.h"
 #include "db/LotAffiches.h"

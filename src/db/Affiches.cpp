@@ -4,6 +4,8 @@
 #include "util/Texte.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 namespace db {
 
@@ -66,6 +68,15 @@ std::string nomDansLeDossier(std::string_view affiche) {
 
 std::optional<fichiers::Place> fichierAffiche(const std::string& dossier, std::string_view affiche) {
     return fichiers::situeDans(dossier, nomDansLeDossier(affiche));
+}
+
+std::optional<fichiers::Place> afficheVoisine(const std::string& base, std::string_view affiche) {
+    std::error_code erreur;
+    const std::string reelle = std::filesystem::canonical(base, erreur).string();
+    if (erreur) return std::nullopt;
+    const std::string dossier = fichiers::dossierDe(reelle);
+    const auto trouvee = fichierAffiche(dossier + "Images/", affiche);
+    return trouvee ? trouvee : fichierAffiche(dossier, affiche);
 }
 
 std::optional<std::string> litAffiche(const std::string& dossier, std::string_view affiche, std::int64_t limite) {

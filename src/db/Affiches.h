@@ -36,7 +36,10 @@ inline constexpr std::size_t kTaillePrefixe = 3;
 [[nodiscard]] std::string nomDansLeDossier(std::string_view affiche);
 // The poster's file, an ordinary one which stands in the folder itself; the only way from a value to a file.
 [[nodiscard]] std::optional<fichiers::Place> fichierAffiche(const std::string& dossier, std::string_view affiche);
-// Its bytes; empty when there is no such file, or when it cannot be read or is longer.
+// The same of a poster that came with its base and is not in the images folder: in "Images" beside that base, or right
+// beside it. Such a file is only read.
+[[nodiscard]] std::optional<fichiers::Place> afficheVoisine(const std::string& base, std::string_view affiche);
+// The bytes of one in the folder; empty when there is no such file, or when it cannot be read or is longer.
 [[nodiscard]] std::optional<std::string> litAffiche(const std::string& dossier, std::string_view affiche,
                                                     std::int64_t limite = kTailleMaxImage);
 

@@ -53,7 +53,7 @@ struct Reprise {
     std::string_view nom;
     std::span<const std::string_view> champs;
     const jet::Table* source = nullptr;  // none when a damaged base has lost it
-    std::vector<std::size_t> rangs{};    // of each field in the source's rows
+    std::vector<std::size_t> places{};   // of each field in the source's rows
     long lignes = 0;
     std::uint64_t empreinte = 0;  // of every value, in order
     DommagesJet dommages{.table = std::string(nom)};
@@ -138,7 +138,7 @@ RapportJet Passage::convertit() {
     }
     if (m_abimee) releveLesDommages();
     if (!fichiers::synchronise({m_destination}))
-        throw Echec{"Le fichier " + entreChevrons(m_destination) + " n'a pas pu être enregistré."};
+        throw Echec{"Le fichier " + util::entreChevrons(m_destination) + " n'a pas pu être enregistré."};
     dao::Database base = dao::DBEngine::OpenDatabase(m_destination, true);
     relit(m_films, base, 0, m_films.lignes + m_personnel.lignes);
     relit(m_personnel, base, m_films.lignes, m_films.lignes + m_personnel.lignes);
@@ -147,26 +147,28 @@ RapportJet Passage::convertit() {
     return m_rapport;
 }
 
-std::size_t rang(const jet::Table& table, std::string_view nom) {
+std::size_t placeDuChamp(const jet::Table& table, std::string_view nom) {
     const auto champ =
         std::ranges::find_if(table.champs, [nom](const auto& c) { return util::egalSansCasse(c.nom, nom); });
     return static_cast<std::size_t>(champ - table.champs.begin());
 }
 
 bool aTousLesChamps(const jet::Table& table, const Reprise& reprise) {
-    return std::ranges::all_of(reprise.champs, [&](auto nom) { return rang(table, nom) < table.champs.size(); });
+    return std::ranges::all_of(reprise.champs,
+                               [&](auto nom) { return placeDuChamp(table, nom) < table.champs.size(); });
 }
 
 void Passage::reconnait(Reprise& reprise) {
     reprise.source = m_abimee ? retrouve(reprise) : m_lecteur.table(reprise.nom);
     if (reprise.source == nullptr) {
-        if (!m_abimee) throw Echec{"La table " + entreChevrons(reprise.nom) + " manque.", true};
+        if (!m_abimee) throw Echec{"La table " + util::entreChevrons(reprise.nom) + " manque.", true};
         return reprise.dommages.note("La table est illisible");
     }
     for (const std::string_view nom : reprise.champs) {
-        reprise.rangs.push_back(rang(*reprise.source, nom));
-        if (reprise.rangs.back() == reprise.source->champs.size() && !reprise.source->champs.empty())
-            throw Echec{"Le champ " + entreChevrons(nom) + " manque dans la table " + entreChevrons(reprise.nom) + "."};
+        reprise.places.push_back(placeDuChamp(*reprise.source, nom));
+        if (reprise.places.back() == reprise.source->champs.size() && !reprise.source->champs.empty())
+            throw Echec{"Le champ " + util::entreChevrons(nom) + " manque dans la table " +
+                        util::entreChevrons(reprise.nom) + "."};
     }
     reprise.dommages.annoncees = reprise.source->lignesDeclarees;
 }
@@ -190,7 +192,7 @@ void Passage::releveLeReste() {
     for (const Reprise* reprise : {&m_films, &m_personnel}) {
         if (reprise->source == nullptr) continue;
         for (std::size_t i = 0; i < reprise->source->champs.size(); ++i)
-            if (std::ranges::find(reprise->rangs, i) == reprise->rangs.end())
+            if (std::ranges::find(reprise->places, i) == reprise->places.end())
                 m_rapport.champs.push_back(std::string(reprise->nom) + "." + reprise->source->champs[i].nom);
     }
 }
@@ -205,9 +207,10 @@ void Passage::releveLesDommages() {
 std::string designe(const Reprise& reprise, std::uint32_t numero, jet::Ligne ligne) {
     std::string texte = "Ligne " + std::to_string(numero);
     if (ligne.empty())
-        return reprise.dernierTitre.empty() ? texte : texte + " (après " + entreChevrons(reprise.dernierTitre) + ")";
-    const auto &titre = ligne[reprise.rangs[0]], &realisateur = ligne[reprise.rangs[1]];
-    texte += " (" + entreChevrons(titre.value_or(""));
+        return reprise.dernierTitre.empty() ? texte
+                                            : texte + " (après " + util::entreChevrons(reprise.dernierTitre) + ")";
+    const auto &titre = ligne[reprise.places[0]], &realisateur = ligne[reprise.places[1]];
+    texte += " (" + util::entreChevrons(titre.value_or(""));
     return texte + (realisateur && !realisateur->empty() ? ", " + *realisateur + ")" : ")");
 }
 
@@ -218,11 +221,11 @@ void Passage::notePertes(Reprise& reprise, std::span<const jet::Perte> pertes, j
             ++dommages.lignes;
             dommages.note(designe(reprise, perte.ligne, {}) + " : " + perte.raison);
         } else if (perte.quoi == jet::Perte::Quoi::UnChamp) {
-            const auto champ = std::ranges::find(reprise.rangs, perte.champ);
-            if (champ == reprise.rangs.end()) continue;  // it has no place in a base of ours
-            const std::string_view nom = reprise.champs[static_cast<std::size_t>(champ - reprise.rangs.begin())];
+            const auto champ = std::ranges::find(reprise.places, perte.champ);
+            if (champ == reprise.places.end()) continue;  // it has no place in a base of ours
+            const std::string_view nom = reprise.champs[static_cast<std::size_t>(champ - reprise.places.begin())];
             ++(nom == kAffiche ? dommages.affiches : dommages.champs);
-            dommages.note(designe(reprise, perte.ligne, ligne) + ", champ " + entreChevrons(nom) + " : " +
+            dommages.note(designe(reprise, perte.ligne, ligne) + ", champ " + util::entreChevrons(nom) + " : " +
                           perte.raison);
         } else {
             dommages.note((perte.quoi == jet::Perte::Quoi::UnePage ? "Lignes d'une page : " : "") + perte.raison);
@@ -232,7 +235,7 @@ void Passage::notePertes(Reprise& reprise, std::span<const jet::Perte> pertes, j
 
 jet::Bilan Passage::parcourt(Reprise& reprise, const std::function<void(jet::Ligne)>& reprend) {
     const auto sansCle = [&](const jet::Perte& perte) {
-        const auto cles = std::span(reprise.rangs).first(kChampsCle);
+        const auto cles = std::span(reprise.places).first(kChampsCle);
         return perte.quoi == jet::Perte::Quoi::UnChamp && std::ranges::find(cles, perte.champ) != cles.end();
     };
     const auto partiel = [&](jet::Ligne ligne, std::span<const jet::Perte> pertes) {
@@ -245,7 +248,7 @@ jet::Bilan Passage::parcourt(Reprise& reprise, const std::function<void(jet::Lig
         }
         if (ligne.empty() || cle != pertes.end()) return avance(m_progression.Value), true;
         reprend(ligne);
-        reprise.dernierTitre = ligne[reprise.rangs[0]].value_or("");
+        reprise.dernierTitre = ligne[reprise.places[0]].value_or("");
         return true;
     };
     const auto entier = [&](jet::Ligne ligne) { return reprend(ligne), true; };
@@ -277,8 +280,9 @@ void Passage::copie(Reprise& reprise, dao::Database& base) {
     reprise.dommages.lues = reprise.lignes;
     reprise.dommages.retrouvees = bilan.lignesRetrouvees;
     if (!m_abimee && static_cast<std::uint64_t>(reprise.lignes) != reprise.source->lignesDeclarees)
-        throw Echec{"La table " + entreChevrons(reprise.nom) + " est incomplète : " + std::to_string(reprise.lignes) +
-                        " lignes lues sur " + std::to_string(reprise.source->lignesDeclarees) + " annoncées.",
+        throw Echec{"La table " + util::entreChevrons(reprise.nom) +
+                        " est incomplète : " + std::to_string(reprise.lignes) + " lignes lues sur " +
+                        std::to_string(reprise.source->lignesDeclarees) + " annoncées.",
                     true};
 }
 
@@ -287,7 +291,7 @@ std::size_t Passage::ajoute(Reprise& reprise, dao::Recordset& cible, jet::Ligne 
     std::size_t octets = 0;
     cible.AddNew();
     for (std::size_t i = 0; i < reprise.champs.size(); ++i) {
-        const std::size_t place = reprise.rangs[i];
+        const std::size_t place = reprise.places[i];
         const dao::Valeur valeur = valeurDe(reprise.champs[i], reprise.source->champs[place].nature, ligne[place]);
         if (reprise.champs[i] == kAffiche) compteAffiche(valeur);
         melange(reprise.empreinte, valeur);
@@ -318,7 +322,8 @@ void Passage::relit(const Reprise& reprise, dao::Database& base, long faites, lo
         avance(kAvancementLecture + (kAvancementMax - kAvancementLecture) * ++faites / lignes);
     }
     if (!entiere || empreinte != reprise.empreinte)
-        throw Echec{"La nouvelle base n'est pas identique à l'originale (table " + entreChevrons(reprise.nom) + ")."};
+        throw Echec{"La nouvelle base n'est pas identique à l'originale (table " + util::entreChevrons(reprise.nom) +
+                    ")."};
 }
 
 // Between two rows.
@@ -353,7 +358,7 @@ IssueJet ConversionJet::operator()(const std::string& source, const std::string&
                                    const jet::Ouverture& ouverture) {
     std::error_code ignoree;
     if (fs::exists(fs::symlink_status(destination, ignoree)))
-        return {.rapport = {}, .echec = "Le fichier " + entreChevrons(destination) + " existe déjà."};
+        return {.rapport = {}, .echec = "Le fichier " + util::entreChevrons(destination) + " existe déjà."};
     const ecran::Travail travail(m_ecran);
     m_progression.Max = kAvancementMax;
     m_progression.Value = 0;

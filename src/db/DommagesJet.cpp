@@ -1,8 +1,8 @@
 #include "db/DommagesJet.h"
 
-#include "db/RapportJet.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/Nombres.h"
+#include "util/Texte.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -22,7 +22,7 @@ bool DommagesJet::estEntiere() const {
 }
 
 std::string DommagesJet::texte(std::size_t maximum) const {
-    std::string texte = "Table " + entreChevrons(table) + " : " +
+    std::string texte = "Table " + util::entreChevrons(table) + " : " +
                         util::phraseCompte(lues, "# ligne reprise sur ", "# lignes reprises sur ") +
                         std::to_string(annoncees);
     const auto compte = [&texte](long nombre, const char* singulier, const char* pluriel) {

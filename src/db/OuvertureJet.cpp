@@ -1,6 +1,5 @@
 #include "db/OuvertureJet.h"
 
-#include "db/AfficheVoisine.h"
 #include "db/Affiches.h"
 #include "db/ConversionJet.h"
 #include "db/DommagesJet.h"
@@ -10,7 +9,7 @@
 #include "platform/fichiers/Fichiers.h"
 #include "platform/fichiers/Verrou.h"
 #include "platform/jet/LecteurJet.h"
-#include "util/NomsFichiers.h"
+#include "util/Texte.h"
 
 #include <algorithm>
 #include <array>
@@ -94,7 +93,7 @@ void nettoieLeTravail(const std::string& travail) {
     std::error_code ignoree;
     if (!fs::exists(fs::symlink_status(travail, ignoree))) return;
     if (!estInacheve(travail) || !fichiers::supprime(travail))
-        throw ConversionImpossible{"Le fichier " + entreChevrons(travail) +
+        throw ConversionImpossible{"Le fichier " + util::entreChevrons(travail) +
                                    " gêne la conversion. Déplacez-le, puis recommencez."};
     fichiers::supprime(travail + "-journal");
 }
@@ -103,7 +102,7 @@ void nettoieLeTravail(const std::string& travail) {
 void exigeNomLibre(const std::string& original) {
     for (const char* suite : {"-journal", "-wal"})
         if (fichiers::existe(original + suite))
-            throw ConversionImpossible{"Le fichier " + entreChevrons(original + suite) +
+            throw ConversionImpossible{"Le fichier " + util::entreChevrons(original + suite) +
                                        " appartient à une autre base. Déplacez-le, puis recommencez."};
 }
 
@@ -123,7 +122,8 @@ std::string conserve(const std::string& original) {
         if (issue == fichiers::Creation::Echouee) break;
     }
     throw ConversionImpossible{"L'original n'a pas pu être conservé sous le nom " +
-                               entreChevrons(nomSeul(nomConserve(original, 1))) + " (Disque plein/Lecture seule ?)"};
+                               util::entreChevrons(nomSeul(nomConserve(original, 1))) +
+                               " (Disque plein/Lecture seule ?)"};
 }
 
 // The text that tells the losses; none when there are none.
@@ -146,10 +146,10 @@ bool accepteLaConversion(const Contexte& c, const std::string& original) {
     std::string question = "Le fichier " + original +
                            " est une base Jet (Access). Voulez-vous la convertir pour l'ouvrir ?\n" +
                            "L'original sera conservé sous le nom " +
-                           entreChevrons(nomSeul(nomConserve(original, premierNumero(original)))) + ".";
+                           util::entreChevrons(nomSeul(nomConserve(original, premierNumero(original)))) + ".";
     const std::string verrou = fichierDuVerrou(original);
     if (fichiers::existe(verrou))
-        question += "\nLe fichier " + entreChevrons(nomSeul(verrou)) +
+        question += "\nLe fichier " + util::entreChevrons(nomSeul(verrou)) +
                     " indique qu'un autre programme l'utilise peut-être : fermez-le d'abord.";
     return c.dialogues.MsgBox(question, dialogues::kQuestion) == dialogues::kOui;
 }
@@ -160,7 +160,7 @@ bool accepteLesPertes(const Contexte& c, const std::string& original, const std:
                                  rapport.texteDommages() +
                                  "\nConvertir ce qui est lisible ?\nL'original sera conservé, et la liste des pertes "
                                  "gardée dans " +
-                                 entreChevrons(nomSeul(nomDesPertes(original))) + ".";
+                                 util::entreChevrons(nomSeul(nomDesPertes(original))) + ".";
     return c.dialogues.MsgBox(question, dialogues::kQuestion) == dialogues::kOui;
 }
 
@@ -213,8 +213,8 @@ std::string convertitEtEchange(const Contexte& c, const std::string& original, c
         pertes = garde(original, rapport);
         const std::string conservee = echange(travail, original);
         std::string texte = "La base a été convertie.\n" + rapport.texte() + "\nL'original est conservé sous le nom " +
-                            entreChevrons(nomSeul(conservee)) + ".";
-        if (!pertes.empty()) texte += "\nCe qui est perdu est dit dans " + entreChevrons(nomSeul(pertes)) + ".";
+                            util::entreChevrons(nomSeul(conservee)) + ".";
+        if (!pertes.empty()) texte += "\nCe qui est perdu est dit dans " + util::entreChevrons(nomSeul(pertes)) + ".";
         return texte;
     } catch (const ConversionImpossible&) {
         fichiers::supprime(travail);

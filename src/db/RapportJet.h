@@ -8,11 +8,6 @@
 
 namespace db {
 
-// How the sentences of a conversion name a file, a table or a field.
-[[nodiscard]] inline std::string entreChevrons(std::string_view nom) {
-    return "« " + std::string(nom) + " »";
-}
-
 // What a genuine Jet base gave, and what of it has no place in a base of ours.
 struct RapportJet {
     long films = 0;

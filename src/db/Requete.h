@@ -1,7 +1,6 @@
 #pragma once
 
 #include "db/Contexte.h"
-#include "platform/dao/ErreurDao.h"
 
 #include <string>
 
@@ -38,18 +37,6 @@ struct RequeteEchouee {
 };
 
 [[nodiscard]] std::string texteErreurRequete(NumeroErreur numero);
-
-// Does something with a row; false when someone else deleted it meanwhile. Throws whatever else `travail` throws.
-template <typename Travail>
-bool saufSupprimee(Travail travail) {
-    try {
-        travail();
-        return true;
-    } catch (const dao::ErreurDao& erreur) {
-        if (erreur.numero != dao::kErreurEnregistrementSupprime) throw;
-        return false;
-    }
-}
 
 // Opens a statement; on failure shows its message (style 16) and throws RequeteEchouee.
 [[nodiscard]] dao::Recordset ouvreRequete(const Contexte& c, const std::string& enonce, NumeroErreur numero);

@@ -6,10 +6,9 @@ namespace db {
 
 namespace {
 
-// 1097687666 is dao::DBEngine::kIdentifiantApplication. The row ids are declared, since compaction renumbers those that
-// are not; the poster comes last, so that reading the other fields of a row stops before it.
+// The row ids are declared, since compaction renumbers those that are not; the poster comes last, so that reading the
+// other fields of a row stops before it.
 constexpr std::string_view kTables = R"(
-PRAGMA application_id = 1097687666;
 PRAGMA user_version = 1;
 CREATE TABLE Films (
   id INTEGER PRIMARY KEY,

@@ -1,4 +1,3 @@
-#include "db/AfficheVoisine.h"
 #include "db/Affiches.h"
 #include "db/SensConversion.h"
 #include "platform/fichiers/Fichiers.h"

@@ -1,9 +1,9 @@
 #include "db/cmdMajBase_Click.h"
 
 #include "db/DossierImages.h"
-#include "db/Requete.h"
 #include "db/SensConversion.h"
 #include "db/cmdCompacter_Click.h"
+#include "platform/dao/LigneSupprimee.h"
 #include "platform/fichiers/Fichiers.h"
 
 #include <algorithm>
@@ -31,7 +31,7 @@ bool convertitFilms(const Contexte& c, SensConversion& sens, dao::Recordset& fil
     const auto fin = c.montre() + kDureeDUnLot;
     bool continuer = true;
     for (long rang = 0; continuer && !films.Eof() && rang < kFilmsParLot && c.montre() < fin; ++rang) {
-        (void)saufSupprimee([&] { lot += sens.convertit(films); });
+        (void)dao::siPresente([&] { lot += sens.convertit(films); });
         films.MoveNext();
         ++c.travaux.ProgressBar2.Value;
         continuer = c.ecran.respire();

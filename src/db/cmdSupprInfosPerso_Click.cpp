@@ -1,6 +1,6 @@
 #include "db/cmdSupprInfosPerso_Click.h"
 
-#include "db/Requete.h"
+#include "platform/dao/LigneSupprimee.h"
 #include "util/Nombres.h"
 
 namespace db {
@@ -21,7 +21,7 @@ long supprimeTout(const Contexte& c, dao::Recordset& possedes) {
     long supprimes = 0;
     possedes.MoveFirst();
     for (long rang = 0; rang < nombre; ++rang, possedes.MoveNext())
-        if (saufSupprimee([&] { possedes.Delete(); })) ++supprimes;
+        if (dao::siPresente([&] { possedes.Delete(); })) ++supprimes;
     ensemble.confirme();
     return supprimes;
 }

@@ -10,7 +10,7 @@ namespace edit {
 [[nodiscard]] inline std::string titreCite(const std::string& titre) {
     constexpr std::size_t kLongueurCitee = 60;
     const std::string debut = util::coupe(titre, kLongueurCitee);
-    return "« " + debut + (debut.size() < titre.size() ? "…" : "") + " »";
+    return util::entreChevrons(debut + (debut.size() < titre.size() ? "…" : ""));
 }
 
 }  // namespace edit

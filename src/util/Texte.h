@@ -22,6 +22,11 @@ namespace util {
 // The same key for all texts that egalSansCasse calls equal.
 [[nodiscard]] std::string cleSansCasse(std::string_view texte);
 
+// As sentences for the user name something: « Alien ».
+[[nodiscard]] inline std::string entreChevrons(std::string_view nom) {
+    return "« " + std::string(nom) + " »";
+}
+
 // é ë è ê -> e, â à ä -> a, ï î -> i, ô ö -> o, ù ü û -> u, ç -> c; lower-case letters only, nothing else.
 [[nodiscard]] std::string sansAccents(std::string_view texte);
 
