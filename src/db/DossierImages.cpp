@@ -41,30 +41,22 @@ std::optional<std::string> resout(const std::string& texte, const Chemins& chemi
     return fichiers::absolu(avecNosSeparateurs(fichiers::cheminTape(texte, chemins.dossier)));
 }
 
-std::optional<std::string> refus(EtatStockage& stockage, const Chemins& chemins) {
-    std::string& texte = stockage.Text4.Text;
-    if (texte.empty()) texte = chemins.dansDossier("Images");
-    const auto resolu = resout(texte, chemins);
+}  // namespace
+
+std::optional<std::string> refusDossierImages(const Contexte& c) {
+    std::string& texte = c.stockage.Text4.Text;
+    if (texte.empty()) texte = c.chemins.dansDossier("Images");
+    const auto resolu = resout(texte, c.chemins);
     if (!resolu)
         return "Le dossier des images " + texte.substr(0, kCheminMax) +
                " n'existe pas sur cet ordinateur : choisissez-en un autre !";
-    if (auto dansTmp = refusDansTmp(*resolu, chemins)) return dansTmp;
+    if (auto refus = refusDansTmp(*resolu, c.chemins)) return refus;
     texte = *resolu;
     return std::nullopt;
 }
 
-}  // namespace
-
-std::optional<std::string> refusDossierImages(const Contexte& c) {
-    return refus(c.stockage, c.chemins);
-}
-
 std::string dossierImages(const Contexte& c) {
-    return dossierImages(c.stockage, c.chemins);
-}
-
-std::string dossierImages(EtatStockage& stockage, const Chemins& chemins) {
-    return refus(stockage, chemins) ? "" : util::avecSeparateur(stockage.Text4.Text);
+    return refusDossierImages(c) ? "" : util::avecSeparateur(c.stockage.Text4.Text);
 }
 
 std::optional<std::string> refusDansTmp(const std::string& dossier, const Chemins& chemins) {

@@ -13,8 +13,6 @@ namespace db {
 // Its path from the root, with a final separator; Text4 then says so too, so that the settings name the same folder
 // wherever the program is started from. Empty when Text4 leads to no folder that posters could be in.
 [[nodiscard]] std::string dossierImages(const Contexte& c);
-// The same of other settings than the window's, or of a copy of these that is to change in their place.
-[[nodiscard]] std::string dossierImages(EtatStockage& stockage, const Chemins& chemins);
 
 // Why it is no folder for posters, to be told before anything is written; nothing when it is one, there or to be made.
 [[nodiscard]] std::optional<std::string> refusDossierImages(const Contexte& c);
