@@ -8,6 +8,8 @@
 
 namespace exportation {
 
+inline constexpr const char* kPoliceListe = "Arial";
+
 // A pair of tags, "<t>" and "</t>", and what it does to the text between them. What it does not name stays as it is.
 struct Balise {
     char lettre;
@@ -17,10 +19,15 @@ struct Balise {
     std::optional<texteriche::Alignement> alignement;
     bool gras = false, italique = false;  // true: sets it
 
-    [[nodiscard]] texteriche::Style appliqueeA(texteriche::Style style) const;
+    [[nodiscard]] texteriche::Style appliqueeA(texteriche::Style style) const {
+        style.police = kPoliceListe;
+        style.taille = taille;
+        style.couleur = couleur.value_or(style.couleur);
+        style.gras |= gras;
+        style.italique |= italique;
+        return style;
+    }
 };
-
-inline constexpr const char* kPoliceListe = "Arial";
 
 // In the order in which they are applied.
 inline constexpr std::array<Balise, 6> kBalises{{

@@ -3,6 +3,7 @@
 #include "export/Balises.h"
 #include "platform/texteriche/TexteRiche.h"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -28,10 +29,14 @@ class MiseEnForme {
 
   private:
     class Passe;
+    using Style = std::uint8_t;  // place in m_styles: pairs applied once each make two to their number, at most
+    static_assert(kBalises.size() < 8);
+
+    [[nodiscard]] Style styleAvec(const Balise& balise, Style style);
 
     std::string m_texte;
     std::vector<texteriche::Style> m_styles{texteriche::Style{}};
-    std::vector<texteriche::Passage> m_passages;
+    std::vector<Style> m_stylesDesOctets;
     std::vector<texteriche::Alignement> m_alignements;
 };
 
