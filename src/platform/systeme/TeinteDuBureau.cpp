@@ -26,22 +26,17 @@ std::string adresseDuBus() {
     const char* dossier = std::getenv("XDG_RUNTIME_DIR");
     std::error_code faute;
     if (!dossier || !std::filesystem::is_socket(std::string(dossier) + "/bus", faute)) return {};
-    char* echappe = g_dbus_address_escape_value((std::string(dossier) + "/bus").c_str());
-    std::string resultat = std::string("unix:path=") + echappe;
-    g_free(echappe);
-    return resultat;
+    g_autofree char* echappe = g_dbus_address_escape_value((std::string(dossier) + "/bus").c_str());
+    return std::string("unix:path=") + echappe;
 }
 
 // The number in however many variants it comes.
 Teinte teinteLue(GVariant* valeur) {
-    g_variant_ref(valeur);
-    while (g_variant_is_of_type(valeur, G_VARIANT_TYPE_VARIANT)) {
-        GVariant* dedans = g_variant_get_variant(valeur);
-        g_variant_unref(valeur);
-        valeur = dedans;
+    if (g_variant_is_of_type(valeur, G_VARIANT_TYPE_VARIANT)) {
+        g_autoptr(GVariant) dedans = g_variant_get_variant(valeur);
+        return teinteLue(dedans);
     }
     const guint32 numero = g_variant_is_of_type(valeur, G_VARIANT_TYPE_UINT32) ? g_variant_get_uint32(valeur) : 0;
-    g_variant_unref(valeur);
     return numero == 1 ? Teinte::Sombre : numero == 2 ? Teinte::Claire : Teinte::SansSouhait;
 }
 
@@ -92,13 +87,10 @@ void TeinteDuBureau::Suivi::connecte(GObject*, GAsyncResult* resultat, gpointer 
 
 void TeinteDuBureau::Suivi::lue(GObject* bus, GAsyncResult* resultat, gpointer donnees) {
     const Tenu suivi = reprend(donnees);
-    GVariant* reponse = g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), resultat, nullptr);
+    g_autoptr(GVariant) reponse = g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), resultat, nullptr);
     if (!reponse) return suivi->repond(Teinte::SansSouhait);
-    GVariant* valeur = g_variant_get_child_value(reponse, 0);
-    const Teinte teinte = teinteLue(valeur);
-    g_variant_unref(valeur);
-    g_variant_unref(reponse);
-    suivi->repond(teinte);
+    g_autoptr(GVariant) valeur = g_variant_get_child_value(reponse, 0);
+    suivi->repond(teinteLue(valeur));
 }
 
 void TeinteDuBureau::Suivi::change(GDBusConnection*, const gchar*, const gchar*, const gchar*, const gchar*,
@@ -106,10 +98,9 @@ void TeinteDuBureau::Suivi::change(GDBusConnection*, const gchar*, const gchar*,
     const Tenu suivi = static_cast<std::weak_ptr<Suivi>*>(donnees)->lock();
     if (!suivi || !g_variant_is_of_type(valeurs, G_VARIANT_TYPE("(ssv)"))) return;
     const gchar* nom = nullptr;
-    GVariant* valeur = nullptr;
+    g_autoptr(GVariant) valeur = nullptr;
     g_variant_get(valeurs, "(&s&sv)", nullptr, &nom, &valeur);
     if (std::string_view(nom) == kTeinte) suivi->repond(teinteLue(valeur));
-    g_variant_unref(valeur);
 }
 
 TeinteDuBureau::TeinteDuBureau(std::function<void(Teinte)> suite) : m_suivi(std::make_shared<Suivi>()) {
