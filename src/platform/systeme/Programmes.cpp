@@ -1,18 +1,17 @@
 #include "platform/systeme/Programmes.h"
 
+#include "platform/systeme/Processus.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <sstream>
-#include <utility>
 
 #include <fcntl.h>
 #include <limits.h>
-#include <poll.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 extern "C" {  // glibc 2.36 forgets to say so
@@ -112,57 +111,21 @@ class Depart {
     std::vector<char*> m_pointeurs;
 };
 
-// Both ends of a pipe through which a started process tells what failed.
-class Tube {
-  public:
-    Tube() : m_erreur(pipe2(m_bouts.data(), O_CLOEXEC) == 0 ? 0 : errno) {}
-    Tube(const Tube&) = delete;
-    Tube& operator=(const Tube&) = delete;
-    ~Tube() {
-        for (const int bout : m_bouts)
-            if (bout >= 0) close(bout);
+// What failed on the way to the program, 0 when nothing did: waits until the other side has closed the pipe, by its start
+// or by its end.
+int erreurRecue(Tube& tube) {
+    tube.fermeEcriture();
+    int erreur = 0;
+    while (read(tube.lecture(), &erreur, sizeof erreur) < 0 && errno == EINTR) {
     }
-
-    [[nodiscard]] int erreur() const { return m_erreur; }
-    [[nodiscard]] int ecriture() const { return m_bouts[1]; }
-    // What came through, 0 when nothing did: waits until the other side has closed it, by its start or by its end.
-    [[nodiscard]] int recu() {
-        close(std::exchange(m_bouts[1], -1));
-        int erreur = 0;
-        while (read(m_bouts[0], &erreur, sizeof erreur) < 0 && errno == EINTR) {
-        }
-        return erreur;
-    }
-
-  private:
-    std::array<int, 2> m_bouts{-1, -1};
-    int m_erreur;
-};
-
-void recueille(pid_t processus) {
-    while (waitpid(processus, nullptr, 0) < 0 && errno == EINTR) {
-    }
+    return erreur;
 }
 
-// The process in between ends at once and is waited for here, so that nobody has to wait for the program itself and none
-// stays behind as a zombie.
 int lanceDetache(const Depart& depart) {
     Tube tube;
     if (tube.erreur() != 0) return tube.erreur();
-    const pid_t relais = fork();
-    if (relais < 0) return errno;
-    if (relais == 0) {
-        setsid();
-        const pid_t programme = fork();
-        if (programme == 0) depart.devient(tube.ecriture());
-        if (programme < 0) {
-            const int erreur = errno;
-            [[maybe_unused]] const ssize_t ignore = write(tube.ecriture(), &erreur, sizeof erreur);
-        }
-        _exit(0);
-    }
-    recueille(relais);
-    return tube.recu();
+    const int erreur = detache([&] { depart.devient(tube.ecriture()); });
+    return erreur != 0 ? erreur : erreurRecue(tube);
 }
 
 // A child of ours, first of a group of its own, seen through a descriptor that becomes readable at its end. It is only
@@ -179,14 +142,7 @@ class Enfant final : public ProgrammeEnCours {
     }
 
     bool attendsFin(std::chrono::milliseconds auPlus) override {
-        const auto limite = std::chrono::steady_clock::now() + auPlus;
-        for (;;) {
-            pollfd attendu{m_descripteur, POLLIN, 0};
-            const int prets = poll(&attendu, 1, static_cast<int>(auPlus.count()));
-            if (prets >= 0 || errno != EINTR) return prets > 0;
-            auPlus = std::max(std::chrono::milliseconds(0), std::chrono::duration_cast<std::chrono::milliseconds>(
-                                                                limite - std::chrono::steady_clock::now()));
-        }
+        return devientLisible(m_descripteur, std::chrono::steady_clock::now() + auPlus);
     }
 
     void termine() override {
@@ -221,7 +177,7 @@ ProgrammeLance ProgrammesSysteme::lancePourAttendre(const Commande& commande) {
         setsid();
         depart.devient(tube.ecriture());
     }
-    int erreur = tube.recu();
+    int erreur = erreurRecue(tube);
     const int descripteur = erreur == 0 ? pidfd_open(processus, 0) : -1;
     if (descripteur >= 0) return {Lancement::Fait, std::make_unique<Enfant>(processus, descripteur)};
     if (erreur == 0) {

@@ -1,18 +1,16 @@
 #include "platform/systeme/Volumes.h"
 
+#include "platform/systeme/Processus.h"
 #include "platform/systeme/TableMontages.h"
 
 #include <array>
-#include <cerrno>
 #include <fstream>
 #include <iterator>
 #include <memory>
 
 #include <fcntl.h>
-#include <poll.h>
 #include <sys/statfs.h>
 #include <sys/syscall.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace systeme {
@@ -39,44 +37,22 @@ constexpr unsigned kViePlusLongue = 60;  // seconds
     _exit(0);
 }
 
-// A question asked to one volume. The process that asks is nobody's child, so nobody has to wait for it either.
+// A question asked to one volume.
 class Question {
   public:
     explicit Question(const std::string& racine) {
-        std::array<int, 2> tube{};
-        if (pipe2(tube.data(), O_CLOEXEC) != 0) return;
-        m_lecture = tube[0];
-        const pid_t relais = fork();
-        if (relais == 0) {
-            setsid();
-            const pid_t sondeur = fork();
-            if (sondeur == 0) sonde(racine.c_str(), tube[1]);
-            _exit(0);
-        }
-        close(tube[1]);
-        while (relais > 0 && waitpid(relais, nullptr, 0) < 0 && errno == EINTR) {
-        }
-    }
-    Question(const Question&) = delete;
-    Question& operator=(const Question&) = delete;
-    ~Question() {
-        if (m_lecture >= 0) close(m_lecture);
+        if (m_tube.erreur() == 0) static_cast<void>(detache([&] { sonde(racine.c_str(), m_tube.ecriture()); }));
+        m_tube.fermeEcriture();
     }
 
     [[nodiscard]] bool obtientReponse(Temps::time_point limite) const {
-        if (m_lecture < 0) return false;
-        pollfd attendu{m_lecture, POLLIN, 0};
-        for (;;) {
-            const auto reste = std::chrono::duration_cast<std::chrono::milliseconds>(limite - Temps::now()).count();
-            const int prets = poll(&attendu, 1, reste > 0 ? static_cast<int>(reste) : 0);
-            if (prets < 0 && errno == EINTR) continue;
-            char signe = 0;
-            return prets > 0 && read(m_lecture, &signe, 1) == 1;
-        }
+        char signe = 0;
+        return m_tube.erreur() == 0 && devientLisible(m_tube.lecture(), limite) &&
+               read(m_tube.lecture(), &signe, 1) == 1;
     }
 
   private:
-    int m_lecture = -1;
+    Tube m_tube;
 };
 
 }  // namespace
