@@ -51,7 +51,9 @@ struct Place {
 // Writes in place: for working files, which need not survive. A link that stands there goes, and what it leads to stays as
 // it is; a folder that is reached by a link is not written in.
 bool ecrit(const std::string& chemin, std::string_view octets);
-// Replaces a whole file safely: written beside it, synced, renamed over it. On failure what stood there still stands.
+// Replaces a whole file safely: written beside it, synced, renamed over it. On failure what stood there still stands. Not
+// g_file_set_contents_full: it replaces a link, gives the file other rights, writes over one that the user may not write,
+// fails for names near the longest, and what a killed run of it leaves bears no name of ours and no lock.
 bool remplace(const std::string& chemin, std::string_view octets);
 // Makes a file that was not there. What stood there, were it a folder, stays; a file that could not be written whole goes.
 enum class Creation { Faite, ExisteDeja, Echouee };

@@ -38,7 +38,8 @@ struct ProgrammeLance {
     std::unique_ptr<ProgrammeEnCours> enCours;  // when issue is Fait
 };
 
-// Starts programs. A service, so that tests record what was started.
+// Starts programs. A service, so that tests record what was started. Not GLib's GSubprocess: it hands a file that is no
+// program to a shell, ends the child without what that started, and waits in the main loop, which runs the window's events.
 class Programmes {
   public:
     virtual ~Programmes() = default;
