@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cerrno>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -41,9 +42,11 @@ class Descripteur {
 
     [[nodiscard]] int numero() const { return m_numero; }
     [[nodiscard]] bool estOuvert() const { return m_numero >= 0; }
-    [[nodiscard]] bool estFichier() const {
+    // What the system says of an ordinary file; nothing for any other.
+    [[nodiscard]] std::optional<struct stat> infos() const {
         struct stat infos {};
-        return estOuvert() && fstat(m_numero, &infos) == 0 && S_ISREG(infos.st_mode);
+        if (!estOuvert() || fstat(m_numero, &infos) != 0 || !S_ISREG(infos.st_mode)) return std::nullopt;
+        return infos;
     }
     // False when the system could not take the last bytes.
     bool ferme() {

@@ -165,11 +165,11 @@ bool ecrit(const std::string& chemin, std::string_view octets) {
     if (!dossier.estOuvert()) return false;
     retireLien(dossier.numero(), nom);
     Descripteur fichier(dossier.numero(), nom, O_WRONLY | O_CREAT | O_NOFOLLOW, kDroitsOrdinaires);
-    struct stat infos {};
-    if (!fichier.estFichier() || fstat(fichier.numero(), &infos) != 0) return false;
+    const auto infos = fichier.infos();
+    if (!infos) return false;
     // A new file is not cut: some file systems take a cut one to the disk as soon as it is closed, and its deletion,
     // which every change of poster begins with, would wait for that.
-    if (infos.st_size != 0 && ftruncate(fichier.numero(), 0) != 0) return false;
+    if (infos->st_size != 0 && ftruncate(fichier.numero(), 0) != 0) return false;
     return ecritTout(fichier.numero(), octets) && fichier.ferme();
 }
 
@@ -213,7 +213,7 @@ bool copie(const std::string& de, const std::string& vers, const std::function<b
     const auto source = trouve(de);
     if (!source) return false;
     const Descripteur lue(*source, O_RDONLY);
-    if (!lue.estFichier()) return false;
+    if (!lue.infos()) return false;
     if (memeFichier(*source, vers)) return true;
     FichierNeuf neuf(vers);
     return neuf.estPret() && verse(lue.numero(), neuf.numero(), avance) && neuf.prendLaPlace();

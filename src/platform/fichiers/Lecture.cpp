@@ -18,9 +18,9 @@ std::string cheminLisible(const std::string& chemin) {
 }
 
 std::optional<std::string> litDescripteur(const Descripteur& fichier, std::uint64_t limite) {
-    struct stat infos {};
-    if (fstat(fichier.numero(), &infos) != 0 || !S_ISREG(infos.st_mode)) return std::nullopt;
-    const auto annonce = static_cast<std::uint64_t>(infos.st_size);
+    const auto infos = fichier.infos();
+    if (!infos) return std::nullopt;
+    const auto annonce = static_cast<std::uint64_t>(infos->st_size);
     if (annonce > limite) return std::nullopt;
 
     // The announced size is a hint only: some files of the system say 0, others grow meanwhile.
@@ -50,9 +50,9 @@ std::optional<std::string> litOuvert(const Descripteur& fichier, std::int64_t li
 // The first bytes of a file; of one that is longer, only whole lines.
 std::optional<std::string> litLignesEntieres(const std::string& chemin, std::size_t taille) {
     const Descripteur fichier(cheminLisible(chemin), O_RDONLY);
-    struct stat infos {};
-    if (fstat(fichier.numero(), &infos) != 0 || !S_ISREG(infos.st_mode)) return std::nullopt;
-    const auto annonce = static_cast<std::size_t>(infos.st_size);
+    const auto infos = fichier.infos();
+    if (!infos) return std::nullopt;
+    const auto annonce = static_cast<std::size_t>(infos->st_size);
     std::string octets(std::min(taille, std::max(annonce, kTailleBloc)), '\0');
     const ssize_t lus = litBloc(fichier.numero(), octets.data(), octets.size());
     if (lus < 0) return std::nullopt;

@@ -51,9 +51,9 @@ bool estEnUsage(const Descripteur& fichier, const struct stat& infos, pid_t proc
 
 bool supprimeReste(const std::string& chemin, pid_t processus) {
     const Descripteur fichier(chemin, O_RDONLY | O_NOFOLLOW);
-    struct stat infos {};
-    if (!fichier.estFichier() || fstat(fichier.numero(), &infos) != 0 || infos.st_uid != geteuid()) return false;
-    return !estEnUsage(fichier, infos, processus) && unlink(chemin.c_str()) == 0;
+    const auto infos = fichier.infos();
+    if (!infos || infos->st_uid != geteuid()) return false;
+    return !estEnUsage(fichier, *infos, processus) && unlink(chemin.c_str()) == 0;
 }
 
 }  // namespace
