@@ -26,23 +26,23 @@ bool ajoute(std::vector<std::uint32_t>& liste, std::uint64_t premiere, Octets bi
 
 }  // namespace
 
-std::vector<std::uint32_t> pagesDeLaCarte(Pages& pages, std::uint32_t pointeur) {
-    const Octets ligne = tranche(pages.format(), pages.lit(pointeur >> 8), pointeur & 0xFF).octets;
-    const std::vector<std::uint8_t> carte(ligne.begin(), ligne.end());
-    const std::uint8_t forme = u8(carte, 0);
+std::vector<std::uint32_t> pagesDeLaCarte(Pages& pages, Pointeur carte) {
+    const Octets ligne = tranche(pages.format(), pages.lit(carte.page), carte.rang).octets;
+    const std::vector<std::uint8_t> lue(ligne.begin(), ligne.end());
+    const std::uint8_t forme = u8(lue, 0);
     std::vector<std::uint32_t> liste;
     if (forme == kEnLigne) {
-        const std::uint32_t premiere = u32(carte, 1);
-        ajoute(liste, premiere, Octets(carte).subspan(5), pages.nombre());
+        const std::uint32_t premiere = u32(lue, 1);
+        ajoute(liste, premiere, Octets(lue).subspan(5), pages.nombre());
     } else if (forme == kSurDesPages) {
         const std::uint64_t parPage = (pages.format().taillePage - kDebutBits) * 8;
         std::uint64_t premiere = 0;
-        for (std::size_t place = 1; place + 4 <= carte.size(); place += 4, premiere += parPage) {
-            const std::uint32_t page = u32(carte, place);
+        for (std::size_t place = 1; place + 4 <= lue.size(); place += 4, premiere += parPage) {
+            const std::uint32_t page = u32(lue, place);
             if (page == 0) continue;
-            const Octets lue = pages.lit(page);
-            if (lue[0] != kPageDeCarte) throw Dommage("la carte de ses pages est illisible");
-            if (!ajoute(liste, premiere, lue.subspan(kDebutBits), pages.nombre())) break;
+            const Octets bits = pages.lit(page);
+            if (bits[0] != kPageDeCarte) throw Dommage("la carte de ses pages est illisible");
+            if (!ajoute(liste, premiere, bits.subspan(kDebutBits), pages.nombre())) break;
         }
     } else {
         throw Dommage("la carte de ses pages est illisible");

@@ -30,7 +30,7 @@ Colonne litColonne(const Format& format, Octets octets) {
     Colonne colonne;
     colonne.type = static_cast<Type>(u8(octets, 0));
     colonne.fixe = (u8(octets, places.drapeaux) & kDrapeauFixe) != 0;
-    colonne.rang = u16(octets, places.rang);
+    colonne.numero = u16(octets, places.numero);
     colonne.variable = u16(octets, places.variable);
     colonne.placeFixe = u16(octets, places.fixe);
     colonne.taille = u16(octets, places.taille);
@@ -51,7 +51,7 @@ Definition litDefinition(Pages& pages, std::uint32_t page) {
     Definition definition;
     definition.page = page;
     definition.lignes = u32(octets, places.lignes);
-    definition.carte = u32(octets, places.carte);
+    definition.carte = litPointeur(octets, places.carte);
     definition.colonnesMax = u16(octets, places.variables - 2);
     definition.aDesVariables = u16(octets, places.variables) > 0;
 

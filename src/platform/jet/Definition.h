@@ -30,8 +30,8 @@ struct Colonne {
     std::string nom;
     Type type{};
     bool fixe = false;            // stands at a place of its own in every row; else among the variable fields
-    std::uint16_t rang = 0;       // its bit in a row's Null mask
-    std::uint16_t variable = 0;   // its rank among the variable fields
+    std::uint16_t numero = 0;     // among all fields that the table ever had: its bit in a row's Null mask
+    std::uint16_t variable = 0;   // its number among the variable fields
     std::uint16_t placeFixe = 0;  // counted from after the row's number of fields
     std::uint16_t taille = 0;     // of a fixed field, in bytes
     std::uint8_t echelle = 0;     // digits after a decimal's point
@@ -40,7 +40,7 @@ struct Colonne {
 struct Definition {
     std::uint32_t page = 0;  // its first page, which every data page of the table names
     std::uint32_t lignes = 0;
-    std::uint32_t carte = 0;        // where the map of its data pages stands
+    Pointeur carte;                 // to the map of its data pages
     std::uint16_t colonnesMax = 0;  // of a row: with the fields that the table had once
     bool aDesVariables = false;
     std::vector<Colonne> colonnes;

@@ -208,12 +208,12 @@ Bilan Lecteur::parcourt(const Table& table, const Recepteur& recepteur, std::str
     const auto refuse = [&table](const Perte& perte) {
         throw BaseEndommagee(std::string(kEndommagee) + endroit(table, perte) + " : " + perte.raison + ".");
     };
-    const RecepteurPartiel entier = [&](Ligne ligne, std::span<const Perte> pertes) {
+    const RecepteurPartiel sansPerte = [&](Ligne ligne, std::span<const Perte> pertes) {
         if (!pertes.empty()) refuse(pertes.front());
         return recepteur(ligne);
     };
     try {
-        return Lecture(m_interieur->pages, table, entier, champAffiche, false).execute();
+        return Lecture(m_interieur->pages, table, sansPerte, champAffiche, false).execute();
     } catch (const Dommage& dommage) {
         refuse({Perte::Quoi::LaTable, 0, 0, dommage.what()});
         throw;

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "platform/jet/ErreurJet.h"
-
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,6 +13,25 @@
 // Genuine Jet bases (Access 97, 2000, 2002 and 2003), read exactly as they are and never written to. Whatever the file
 // holds, a call ends in an answer or in an ErreurJet, in memory and time that the size of the file bounds.
 namespace jet {
+
+// What every call of this room throws when it fails. what() is a French sentence for the user: what is wrong with the
+// file (it cannot be read, is no Jet base, asks for a password, is damaged and where). The file is never changed.
+class ErreurJet : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+// The base has a password, and it is not the one given.
+class MotDePasseRefuse : public ErreurJet {
+  public:
+    using ErreurJet::ErreurJet;
+};
+
+// The base can be opened; some place of it is not what it should be. Something of it may be readable.
+class BaseEndommagee : public ErreurJet {
+  public:
+    using ErreurJet::ErreurJet;
+};
 
 // The file says of itself that it is a Jet base (its bytes 4 to 18 are "Standard Jet DB"). False when it cannot be read.
 [[nodiscard]] bool estBaseJet(const std::string& chemin);

@@ -23,9 +23,9 @@ void Reserve::prend(std::uint64_t octets) {
     m_reste -= octets;
 }
 
-void Reserve::marque(std::uint32_t pointeur) {
-    if (m_atteints.at(pointeur)) throw Dommage("des renvois mènent plusieurs fois au même endroit");
-    m_atteints[pointeur] = true;
+void Reserve::marque(Pointeur pointeur) {
+    if (m_atteints.at(place(pointeur))) throw Dommage("des renvois mènent plusieurs fois au même endroit");
+    m_atteints[place(pointeur)] = true;
 }
 
 Tranche tranche(const Format& format, Octets page, std::size_t rang) {
@@ -39,10 +39,10 @@ Tranche tranche(const Format& format, Octets page, std::size_t rang) {
     return lue;
 }
 
-Tranche trancheA(Pages& pages, std::uint32_t pointeur, std::uint32_t proprietaire) {
-    const Octets page = pages.lit(pointeur >> 8);
+Tranche trancheA(Pages& pages, Pointeur pointeur, std::uint32_t proprietaire) {
+    const Octets page = pages.lit(pointeur.page);
     if (!estAuProprietaire(page, proprietaire)) throw Dommage("un renvoi mène à une page étrangère");
-    return tranche(pages.format(), page, pointeur & 0xFF);
+    return tranche(pages.format(), page, pointeur.rang);
 }
 
 void Lignes::suitLaCarte() {
@@ -87,7 +87,7 @@ bool Lignes::entreDans(std::uint32_t numero) {
 }
 
 Octets Lignes::suitLesRenvois(Octets renvoi) {
-    std::uint32_t pointeur = u32(renvoi, 0);
+    Pointeur pointeur = litPointeur(renvoi, 0);
     for (int i = 0; i < kRenvoisMax; ++i) {
         const Tranche ailleurs = trancheA(m_pages, pointeur, m_definition.page);
         m_reserve.prend(ailleurs.octets.size());
@@ -96,7 +96,7 @@ Octets Lignes::suitLesRenvois(Octets renvoi) {
             m_deplacee.assign(ailleurs.octets.begin(), ailleurs.octets.end());
             return m_deplacee;
         }
-        pointeur = u32(ailleurs.octets, 0);
+        pointeur = litPointeur(ailleurs.octets, 0);
     }
     throw Dommage("des renvois tournent en rond");
 }
@@ -151,7 +151,7 @@ void Decoupe::placeLesVariables(bool jet4, std::size_t fin) {
 }
 
 bool Decoupe::bit(const Colonne& colonne) const {
-    return colonne.rang < m_colonnes && (m_masque[colonne.rang / 8] >> colonne.rang % 8 & 1) != 0;
+    return colonne.numero < m_colonnes && (m_masque[colonne.numero / 8] >> colonne.numero % 8 & 1) != 0;
 }
 
 std::optional<Octets> Decoupe::champ(const Colonne& colonne) const {

@@ -15,13 +15,15 @@ namespace jet::interne {
 class Reserve {
   public:
     explicit Reserve(const Pages& pages) : m_reste(2 * pages.taille()), m_atteints(std::size_t{pages.nombre()} << 8) {}
-    void prend(std::uint64_t octets);     // throws Dommage when there is no more
-    void marque(std::uint32_t pointeur);  // of a slot that exists; throws Dommage when it is marked already
-    void libere(std::uint32_t pointeur) { m_atteints[pointeur] = false; }
+    void prend(std::uint64_t octets);  // throws Dommage when there is no more
+    void marque(Pointeur pointeur);    // of a slot that exists; throws Dommage when it is marked already
+    void libere(Pointeur pointeur) { m_atteints[place(pointeur)] = false; }
 
   private:
+    static std::size_t place(Pointeur pointeur) { return std::size_t{pointeur.page} << 8 | pointeur.rang; }
+
     std::uint64_t m_reste;
-    std::vector<bool> m_atteints;  // by page and rank, as pointers are written
+    std::vector<bool> m_atteints;  // one for each pointer that there can be
 };
 
 // Something is wrong with a whole page. The next call goes on after it.
@@ -37,8 +39,8 @@ struct Tranche {
     bool renvoi = false;  // the row stands elsewhere: this is where
 };
 [[nodiscard]] Tranche tranche(const Format& format, Octets page, std::size_t rang);
-// The row that a pointer (page, then rank in the lowest byte) leads to, on a page whose owner is as given.
-[[nodiscard]] Tranche trancheA(Pages& pages, std::uint32_t pointeur, std::uint32_t proprietaire);
+// The row that a pointer leads to, on a page whose owner is as given.
+[[nodiscard]] Tranche trancheA(Pages& pages, Pointeur pointeur, std::uint32_t proprietaire);
 
 // The rows in the order of the pages, then of their slots. A call that throws has passed over what it could not read.
 class Lignes {

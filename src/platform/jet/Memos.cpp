@@ -18,7 +18,7 @@ Octets Memos::lit(Octets champ) {
     if (champ.empty()) return champ;
     const std::uint32_t tete = u32(champ, 0);
     const std::uint32_t longueur = tete & kLongueur;
-    const std::uint32_t pointeur = u32(champ, 4);
+    const Pointeur pointeur = litPointeur(champ, 4);
     const Octets suite = morceau(champ, kTailleTete, champ.size() - kTailleTete);
     if ((tete & kDansLaLigne) != 0) {
         if (suite.size() != longueur) refuse(longueur, suite.size());
@@ -30,34 +30,34 @@ Octets Memos::lit(Octets champ) {
 }
 
 // The pieces of a value that is lost may be another's.
-Octets Memos::suit(std::uint32_t pointeur, std::uint64_t longueur, bool enChaine) {
+Octets Memos::suit(Pointeur pointeur, std::uint64_t longueur, bool enChaine) {
     m_octets.clear();
     m_pieces.clear();
     try {
         rassemble(pointeur, longueur, enChaine);
     } catch (const Dommage&) {
-        for (const std::uint32_t piece : m_pieces)
+        for (const Pointeur piece : m_pieces)
             m_reserve.libere(piece);
         throw;
     }
     return m_octets;
 }
 
-void Memos::rassemble(std::uint32_t pointeur, std::uint64_t longueur, bool enChaine) {
+void Memos::rassemble(Pointeur pointeur, std::uint64_t longueur, bool enChaine) {
     do {
         Octets lue = trancheA(m_pages, pointeur, kProprietaire).octets;
         m_reserve.prend(lue.size());
         m_reserve.marque(pointeur);
         m_pieces.push_back(pointeur);
-        pointeur = 0;
+        pointeur = {};
         if (enChaine) {  // each row starts with the pointer to the next; 0 in the last
-            pointeur = u32(lue, 0);
+            pointeur = litPointeur(lue, 0);
             lue = lue.subspan(4);
             if (lue.empty()) refuse(longueur, m_octets.size());
         }
         m_octets.insert(m_octets.end(), lue.begin(), lue.end());
-    } while (pointeur != 0 && m_octets.size() < longueur);
-    if (pointeur != 0 || m_octets.size() != longueur) refuse(longueur, m_octets.size());
+    } while (pointeur != Pointeur{} && m_octets.size() < longueur);
+    if (pointeur != Pointeur{} || m_octets.size() != longueur) refuse(longueur, m_octets.size());
 }
 
 }  // namespace jet::interne

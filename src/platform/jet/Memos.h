@@ -17,13 +17,13 @@ class Memos {
     [[nodiscard]] Octets lit(Octets champ);
 
   private:
-    [[nodiscard]] Octets suit(std::uint32_t pointeur, std::uint64_t longueur, bool enChaine);
-    void rassemble(std::uint32_t pointeur, std::uint64_t longueur, bool enChaine);
+    [[nodiscard]] Octets suit(Pointeur pointeur, std::uint64_t longueur, bool enChaine);
+    void rassemble(Pointeur pointeur, std::uint64_t longueur, bool enChaine);
 
     Pages& m_pages;
     Reserve& m_reserve;
     std::vector<std::uint8_t> m_octets;
-    std::vector<std::uint32_t> m_pieces;  // where they stand
+    std::vector<Pointeur> m_pieces;  // where they stand
 };
 
 }  // namespace jet::interne

@@ -15,11 +15,11 @@ constexpr std::size_t kTailleJet3 = 20, kTailleJet4 = 40;  // bytes; zeros fill 
 
 // The day the base was made, which hides the password of a Jet 4 base.
 std::array<std::uint8_t, 4> masque(Octets entete) {
-    const double jour = reel64(entete, kPlaceDate);
-    const auto entier = jour > 0 && jour < 1e9 ? static_cast<std::uint32_t>(jour) : 0;
+    const double date = reel64(entete, kPlaceDate);
+    const auto jour = date > 0 && date < 1e9 ? static_cast<std::uint32_t>(date) : 0;
     std::array<std::uint8_t, 4> octets{};
     for (std::size_t i = 0; i < octets.size(); ++i)
-        octets[i] = static_cast<std::uint8_t>(entier >> (8 * i));
+        octets[i] = static_cast<std::uint8_t>(jour >> (8 * i));
     return octets;
 }
 

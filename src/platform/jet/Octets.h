@@ -1,14 +1,20 @@
 #pragma once
 
-#include "platform/jet/Dommage.h"
-
 #include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <stdexcept>
 
 // For this room only: little-endian values out of a page or a piece of one. A place outside of it is damage.
 namespace jet::interne {
+
+// What is wrong at one place of the file, as the end of a French sentence. The reader says which base, table, row and
+// field it is about, in an ErreurJet.
+class Dommage : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
 
 using Octets = std::span<const std::uint8_t>;
 
@@ -41,6 +47,17 @@ inline std::uint32_t u32(Octets octets, std::size_t place) {
 }
 inline double reel64(Octets octets, std::size_t place) {
     return std::bit_cast<double>(entier(octets, place, 8));
+}
+
+// What leads to a row: its page, and its rank among that page's rows.
+struct Pointeur {
+    std::uint32_t page = 0;
+    std::uint8_t rang = 0;
+    friend bool operator==(const Pointeur&, const Pointeur&) = default;
+};
+inline Pointeur litPointeur(Octets octets, std::size_t place) {
+    const std::uint32_t lu = u32(octets, place);
+    return {lu >> 8, static_cast<std::uint8_t>(lu)};
 }
 
 }  // namespace jet::interne

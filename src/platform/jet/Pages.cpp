@@ -1,6 +1,5 @@
 #include "platform/jet/Pages.h"
 
-#include "platform/jet/ErreurJet.h"
 #include "platform/jet/LecteurJet.h"
 #include "platform/jet/MotDePasse.h"
 

@@ -21,7 +21,7 @@ struct Format {
         std::size_t lignes, variables, colonnes, index, carte, debutColonnes, tailleIndex, tailleColonne;
     } table{};
     struct {
-        std::size_t drapeaux, taille, rang, variable, fixe, echelle;
+        std::size_t drapeaux, taille, numero, variable, fixe, echelle;
     } colonne{};
 };
 
