@@ -7,7 +7,7 @@
 
 #include <unicode/normalizer2.h>
 #include <unicode/unistr.h>
-#include <unicode/utf16.h>
+#include <unicode/ustring.h>
 
 namespace util {
 
@@ -25,10 +25,6 @@ constexpr std::array<char16_t, 32> k1252 = {0x20AC, 0x0081, 0x201A, 0x0192, 0x20
                                             0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
                                             0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                             0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-
-UChar32 pointDepuis1252(unsigned char octet) {
-    return octet >= 0x80 && octet < 0xA0 ? k1252[octet - 0x80u] : octet;
-}
 
 char octet1252(UChar32 point) {
     if (point >= 0 && (point < 0x80 || point >= 0xA0) && point <= 0xFF) return static_cast<char>(point);
@@ -56,20 +52,11 @@ std::string depuisUtf16(std::string_view octets, bool petitDabord) {
         const unsigned fort = octet(petitDabord ? i + 1 : i), faible = octet(petitDabord ? i : i + 1);
         return static_cast<char16_t>(fort << 8 | faible);
     };
-    std::string texte;
-    std::size_t i = 0;
-    for (; i + 1 < octets.size(); i += 2) {
-        const char16_t premiere = unite(i);
-        if (!U16_IS_SURROGATE(premiere)) {
-            ajoutePoint(texte, premiere);
-        } else if (U16_IS_SURROGATE_LEAD(premiere) && i + 3 < octets.size() && U16_IS_TRAIL(unite(i + 2))) {
-            ajoutePoint(texte, U16_GET_SUPPLEMENTARY(premiere, unite(i + 2)));
-            i += 2;
-        } else {
-            ajoutePoint(texte, kRemplacement);
-        }
-    }
-    return texte + depuis1252(octets.substr(i));  // an odd last byte is not lost
+    std::u16string unites;
+    unites.reserve(octets.size() / 2);
+    for (std::size_t i = 0; i + 1 < octets.size(); i += 2)
+        unites += unite(i);
+    return util::depuisUtf16(unites) + depuis1252(octets.substr(2 * unites.size()));  // an odd last byte is not lost
 }
 
 std::string depuisUtf32(std::string_view octets, bool petitDabord) {
@@ -115,6 +102,10 @@ bool estUtf8(std::string_view octets) {
     return true;
 }
 
+UChar32 pointDepuis1252(unsigned char octet) {
+    return octet >= 0x80 && octet < 0xA0 ? k1252[octet - 0x80u] : octet;
+}
+
 std::string depuis1252(std::string_view octets) {
     std::string texte;
     texte.reserve(octets.size());
@@ -135,6 +126,25 @@ std::string vers1252(std::string_view texte) {
             octets += octet1252(point.taille == caractere.size() ? point.valeur : pointUnique(caractere));
     }
     return octets;
+}
+
+// By lots: ICU counts in 32 bits.
+std::string depuisUtf16(std::u16string_view unites) {
+    constexpr std::size_t kLot = 1 << 20, kOctetsParUnite = 3;
+    std::string texte;
+    while (!unites.empty()) {
+        std::size_t nombre = std::min(unites.size(), kLot);
+        if (nombre < unites.size() && U16_IS_LEAD(unites[nombre - 1])) --nombre;  // its other half follows
+        const std::size_t debut = texte.size();
+        texte.resize(debut + nombre * kOctetsParUnite);
+        std::int32_t longueur = 0;
+        UErrorCode etat = U_ZERO_ERROR;
+        u_strToUTF8WithSub(texte.data() + debut, static_cast<std::int32_t>(nombre * kOctetsParUnite), &longueur,
+                           unites.data(), static_cast<std::int32_t>(nombre), kRemplacement, nullptr, &etat);
+        texte.resize(debut + static_cast<std::size_t>(longueur));
+        unites.remove_prefix(nombre);
+    }
+    return texte;
 }
 
 std::string decodeTexteExterne(std::string_view octets) {

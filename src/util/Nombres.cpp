@@ -1,5 +1,6 @@
 #include "util/Nombres.h"
 
+#include "util/Ascii.h"
 #include "util/Texte.h"
 
 #include <algorithm>
@@ -21,8 +22,8 @@ int enEntier(double nombre) {
 
 // Does a number start here: digits, or a point and digits? (Words like "inf" and "nan" are no numbers.)
 bool commenceUnNombre(std::string_view texte) {
-    const auto estChiffre = [&](std::size_t i) { return i < texte.size() && texte[i] >= '0' && texte[i] <= '9'; };
-    return estChiffre(0) || (texte.starts_with('.') && estChiffre(1));
+    if (texte.starts_with('.')) texte.remove_prefix(1);
+    return !texte.empty() && estUnChiffre(texte.front());
 }
 
 }  // namespace

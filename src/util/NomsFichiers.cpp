@@ -1,5 +1,7 @@
 #include "util/NomsFichiers.h"
 
+#include "util/Ascii.h"
+
 namespace util {
 
 std::string nettoieNomFichier(std::string_view nom, std::string_view remplacement) {
@@ -11,6 +13,10 @@ std::string nettoieNomFichier(std::string_view nom, std::string_view remplacemen
             resultat += remplacement;
     }
     return resultat;
+}
+
+bool aUneLettreDeLecteur(std::string_view chemin) {
+    return chemin.size() > 1 && estUneLettre(chemin[0]) && chemin[1] == ':';
 }
 
 std::string avecSeparateur(std::string_view dossier) {

@@ -1,5 +1,6 @@
 #include "util/Similarite.h"
 
+#include "util/Ascii.h"
 #include "util/Nombres.h"
 #include "util/Unicode.h"
 
@@ -14,9 +15,9 @@ constexpr std::size_t kBlanc = 26, kChiffres = 27, kAucune = 39;  // kAucune: co
 
 std::size_t caseDe(UChar32 point) {
     const UChar32 lettre = sansAccent(minusculeDe(point));
-    if (lettre >= 'a' && lettre <= 'z') return static_cast<std::size_t>(lettre - 'a');
+    if (estUneMinuscule(lettre)) return static_cast<std::size_t>(lettre - 'a');
     if (lettre == ' ') return kBlanc;
-    if (lettre >= '0' && lettre <= '9') return kChiffres + static_cast<std::size_t>(lettre - '0');
+    if (estUnChiffre(lettre)) return kChiffres + static_cast<std::size_t>(lettre - '0');
     return kAucune;
 }
 

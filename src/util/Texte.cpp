@@ -1,5 +1,6 @@
 #include "util/Texte.h"
 
+#include "util/Ascii.h"
 #include "util/Unicode.h"
 
 #include <unicode/uchar.h>
@@ -31,18 +32,16 @@ bool estMarqueRetiree(UChar32 base, UChar32 marque) {
 }  // namespace
 
 UChar32 minusculeDe(UChar32 point) {
-    if (point < 0x80) return point >= 'A' && point <= 'Z' ? point + 32 : point;
-    return u_tolower(point);
+    return point < 0x80 ? enMinuscule(point) : u_tolower(point);
 }
 
 UChar32 majusculeDe(UChar32 point) {
-    if (point < 0x80) return point >= 'a' && point <= 'z' ? point - 32 : point;
+    if (point < 0x80) return enMajuscule(point);
     return point == kIotaSouscrit ? point : u_toupper(point);
 }
 
 UChar32 casseRepliee(UChar32 point) {
-    if (point < 0x80) return minusculeDe(point);
-    return u_foldCase(point, U_FOLD_CASE_DEFAULT);
+    return point < 0x80 ? enMinuscule(point) : u_foldCase(point, U_FOLD_CASE_DEFAULT);
 }
 
 UChar32 sansAccent(UChar32 point) {

@@ -38,6 +38,8 @@ namespace util {
 // Windows-1252 (81 8D 8F 90 9D as U+0081 and so on) to UTF-8 and back; what 1252 lacks becomes "?".
 [[nodiscard]] std::string depuis1252(std::string_view octets);
 [[nodiscard]] std::string vers1252(std::string_view texte);
+// U+FFFD stands for a half of a character without its other half.
+[[nodiscard]] std::string depuisUtf16(std::u16string_view unites);
 // A text of the outside world: UTF-8 when it starts with a byte order mark (which is dropped) or is valid UTF-8 with
 // characters beyond ASCII; UTF-16 or UTF-32 with their mark; otherwise Windows-1252.
 [[nodiscard]] std::string decodeTexteExterne(std::string_view octets);

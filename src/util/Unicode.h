@@ -4,9 +4,10 @@
 #include <string>
 #include <string_view>
 
+#include <unicode/utf16.h>
 #include <unicode/utf8.h>
 
-// For this room only: text as code points.
+// Text as code points.
 namespace util {
 
 struct PointDeCode {
@@ -31,6 +32,13 @@ inline void ajoutePoint(std::string& texte, UChar32 valeur) {
     texte.append(octets, taille);
 }
 
+inline void ajoutePoint(std::u16string& texte, UChar32 valeur) {
+    char16_t unites[U16_MAX_LENGTH];
+    std::size_t taille = 0;
+    U16_APPEND_UNSAFE(unites, taille, valeur);
+    texte.append(unites, taille);
+}
+
 // `change` gets each code point; bytes that are no UTF-8 pass as they are.
 template <typename Change>
 [[nodiscard]] std::string transforme(std::string_view texte, Change change) {
@@ -46,6 +54,9 @@ template <typename Change>
     }
     return resultat;
 }
+
+// What a byte is in code page 1252, as Texte.h reads it.
+[[nodiscard]] UChar32 pointDepuis1252(unsigned char octet);
 
 // One to one, so that no letter ever becomes two.
 [[nodiscard]] UChar32 minusculeDe(UChar32 point);

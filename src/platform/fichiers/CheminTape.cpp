@@ -22,15 +22,11 @@ std::string dossierPersonnel() {
     return trouve && trouve->pw_dir ? trouve->pw_dir : "";
 }
 
-bool estUneLettre(char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-
 }  // namespace
 
 bool estCheminWindows(std::string_view chemin) {
     const bool lecteur =
-        chemin.size() > 2 && estUneLettre(chemin[0]) && chemin[1] == ':' && (chemin[2] == '\\' || chemin[2] == '/');
+        util::aUneLettreDeLecteur(chemin) && chemin.size() > 2 && (chemin[2] == '\\' || chemin[2] == '/');
     return lecteur || chemin.starts_with("\\\\");
 }
 

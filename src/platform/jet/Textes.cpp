@@ -1,19 +1,17 @@
 #include "platform/jet/Textes.h"
 
 #include "util/Texte.h"
+#include "util/Unicode.h"
 
 #include <array>
 #include <limits>
 #include <string_view>
-
-#include <unicode/ustring.h>
 
 namespace jet::interne {
 
 namespace {
 
 constexpr std::string_view kDebutAffiche = "STO";
-constexpr char16_t kRemplacement = 0xFFFD;
 
 bool estComprime(Octets texte) {
     return texte.size() >= 2 && texte[0] == 0xFF && texte[1] == 0xFE;
@@ -67,33 +65,16 @@ using OctetsDesUnites = std::array<std::uint8_t, std::numeric_limits<char16_t>::
 OctetsDesUnites construitOctetsDesUnites() {
     OctetsDesUnites octets;
     octets.fill('?');
-    std::string tous(256, '\0');
-    for (std::size_t i = 0; i < tous.size(); ++i)
-        tous[i] = static_cast<char>(i);
-    std::array<UChar, 256> caracteres{};
-    UErrorCode etat = U_ZERO_ERROR;
-    const std::string utf8 = util::depuis1252(tous);
-    u_strFromUTF8(caracteres.data(), 256, nullptr, utf8.data(), static_cast<std::int32_t>(utf8.size()), &etat);
-    for (std::size_t i = 0; i < caracteres.size(); ++i)
-        octets[caracteres[i]] = static_cast<std::uint8_t>(i);
+    for (unsigned octet = 0; octet < 256; ++octet)
+        octets[static_cast<std::size_t>(util::pointDepuis1252(static_cast<unsigned char>(octet)))] =
+            static_cast<std::uint8_t>(octet);
     return octets;
 }
 
 }  // namespace
 
 std::string enUtf8(Octets texte, bool jet4) {
-    if (!jet4) return util::depuis1252(brut(texte));
-    const std::u16string source = unites(texte);
-    constexpr std::size_t kUtf8ParUnite = 3;
-    if (source.size() > std::numeric_limits<std::int32_t>::max() / kUtf8ParUnite)
-        throw Dommage("un texte a " + std::to_string(source.size()) + " caractères");
-    std::string utf8(source.size() * kUtf8ParUnite, '\0');
-    std::int32_t longueur = 0;
-    UErrorCode etat = U_ZERO_ERROR;
-    u_strToUTF8WithSub(utf8.data(), static_cast<std::int32_t>(utf8.size()), &longueur, source.data(),
-                       static_cast<std::int32_t>(source.size()), kRemplacement, nullptr, &etat);
-    utf8.resize(static_cast<std::size_t>(longueur));
-    return utf8;
+    return jet4 ? util::depuisUtf16(unites(texte)) : util::depuis1252(brut(texte));
 }
 
 bool estUneAffiche(Octets texte, bool jet4) {
@@ -106,14 +87,14 @@ Affiche enOctets(Octets texte, bool jet4) {
     if (!jet4) return {std::string(brut(texte)), false};
     static const OctetsDesUnites octetsDesUnites = construitOctetsDesUnites();
     Affiche affiche;
-    const auto traduit = [&affiche](std::size_t nombre, auto unite) {
+    const auto traduit = [&affiche](std::size_t nombre, auto uniteA) {
         affiche.octets.resize(nombre);
         char* const octets = affiche.octets.data();  // a char may alias anything: its place is kept at hand
         bool alteree = false;
         for (std::size_t i = 0; i < nombre; ++i) {
-            const std::uint8_t octet = octetsDesUnites[unite(i)];
+            const std::uint8_t octet = octetsDesUnites[uniteA(i)];
             octets[i] = static_cast<char>(octet);
-            alteree |= octet == '?' && unite(i) != u'?';
+            alteree |= octet == '?' && uniteA(i) != u'?';
         }
         affiche.alteree = alteree;
     };

@@ -1,5 +1,7 @@
 #include "platform/systeme/TableMontages.h"
 
+#include "util/Ascii.h"
+
 #include <algorithm>
 #include <array>
 #include <map>
@@ -76,7 +78,7 @@ bool estDuSysteme(const Ligne& ligne) {
 }
 
 bool estUneDisquette(const std::string& source) {
-    return source.starts_with("/dev/fd") && source.size() > 7 && source[7] >= '0' && source[7] <= '9';
+    return source.starts_with("/dev/fd") && source.size() > 7 && util::estUnChiffre(source[7]);
 }
 
 }  // namespace

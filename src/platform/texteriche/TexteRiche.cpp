@@ -1,14 +1,12 @@
 #include "platform/texteriche/TexteRiche.h"
 
 #include "util/Texte.h"
+#include "util/Unicode.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <string_view>
-
-#include <unicode/utf16.h>
-#include <unicode/utf8.h>
 
 namespace texteriche {
 
@@ -173,14 +171,12 @@ std::size_t Redacteur::ecritSpecial(std::string_view texte) {
         if (!finDeRetour) finitParagraphe();
         return 1;
     }
-    UChar32 point = -1;
-    std::size_t taille = 0;
-    U8_NEXT(reinterpret_cast<const unsigned char*>(texte.data()), taille, texte.size(), point);
-    if (point < 0)
+    const util::PointDeCode point = util::litPoint(texte, 0);
+    if (point.valeur < 0)
         ecritCaractere(kCaractereDeRemplacement, "?");
     else
-        ecritCaractere(point, texte.substr(0, taille));
-    return taille;
+        ecritCaractere(point.valeur, texte.substr(0, point.taille));
+    return point.taille;
 }
 
 void Redacteur::ecritCaractere(UChar32 point, std::string_view octets) {
@@ -190,12 +186,11 @@ void Redacteur::ecritCaractere(UChar32 point, std::string_view octets) {
         m_rtf += {'\\', static_cast<char>(point)};
         m_apresMot = false;
     } else if (point >= kFinDesCommandesC1) {
-        std::array<UChar, U16_MAX_LENGTH> unites;
-        int nombre = 0;
+        std::u16string unites;
+        util::ajoutePoint(unites, point);
         const auto repli = static_cast<unsigned char>(point <= 0xFF ? point : util::vers1252(octets).front());
-        U16_APPEND_UNSAFE(unites, nombre, point);
-        for (int i = 0; i < nombre; ++i) {
-            mot("\\u", static_cast<std::int16_t>(unites[static_cast<std::size_t>(i)]));
+        for (const char16_t unite : unites) {
+            mot("\\u", static_cast<std::int16_t>(unite));
             ecritOctet(repli);
         }
         m_apresMot = false;

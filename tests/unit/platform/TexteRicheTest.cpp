@@ -44,6 +44,7 @@ TEST(TexteRiche, EveryCharacterOfUnicodeIsKept) {
 TEST(TexteRiche, WhatIsNoTextDoesNoHarm) {
     const std::string debut = "\\pard\\ql\\f0\\cf1\\fs16";
     EXPECT_EQ(corps(std::string("a\0\x01\x7F\x0B\xC2\x85z", 8)), debut + " az}\r\n");
+    EXPECT_EQ(corps("\xE2\x82"), debut + "\\u-3\\'3f\\u-3\\'3f}\r\n") << "a character cut short: one for each byte";
     EXPECT_EQ(corps("a\xFFz\xC3"), debut + " a\\u-3\\'3fz\\u-3\\'3f}\r\n");
     EXPECT_EQ(corps("\xED\xA0\x80").find("\\u-10240"), std::string::npos);  // half a pair is no character
     EXPECT_EQ(corps(TexteRiche{"abc", {}, {{9, 7}, {2, 0}}, {}}), debut + " abc}\r\n");

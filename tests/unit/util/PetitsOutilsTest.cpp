@@ -16,6 +16,13 @@ TEST(NomsFichiers, OneSeparatorAtTheEnd) {
     EXPECT_EQ(util::avecSeparateur(""), "");
 }
 
+TEST(NomsFichiers, ADriveIsOneLetterAndAColon) {
+    for (const char* chemin : {"C:", "z:\\Films", "D:Films"})
+        EXPECT_TRUE(util::aUneLettreDeLecteur(chemin)) << chemin;
+    for (const char* chemin : {"", "C", "é:", "1:/", "CD:", ":C"})
+        EXPECT_FALSE(util::aUneLettreDeLecteur(chemin)) << chemin;
+}
+
 TEST(Sql, QuotesAreDoubledApostrophesStay) {
     EXPECT_EQ(util::entreGuillemets("L'\"œuvre\""), "\"L'\"\"œuvre\"\"\"");
     EXPECT_EQ(util::entreGuillemets(""), "\"\"");

@@ -138,3 +138,11 @@ TEST(Encodages, OutsideTextIsReadAsWhatItIs) {
     EXPECT_EQ(util::decodeTexteLarge("\0\xC9\0t\0\xE9"s), "Été");
     EXPECT_EQ(util::decodeTexteLarge("a\0bc"s), std::nullopt);
 }
+
+TEST(Encodages, Utf16IsReadWholeWhereverAPairFalls) {
+    EXPECT_EQ(util::depuisUtf16(u"\xD83D"
+                                u"a\xDE00\xD83D"),
+              "\uFFFDa\uFFFD\uFFFD");
+    for (std::size_t avant : {(std::size_t{1} << 20) - 2, (std::size_t{1} << 20) - 1, std::size_t{1} << 20})
+        EXPECT_TRUE(util::depuisUtf16(std::u16string(avant, u'a') + u"😀é") == std::string(avant, 'a') + "😀é") << avant;
+}
