@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::uint8_t kEnLigne = 0, kSurDesPages = 1;
 constexpr std::uint8_t kPageDeCarte = 0x05;
+constexpr const char* kIllisible = "la carte de ses pages est illisible";
 constexpr std::size_t kDebutBits = 4;  // on a map page
 
 // Up to the first page that is not in the file: a crafted map could list a thousand times more of them than there are.
@@ -41,11 +42,11 @@ std::vector<std::uint32_t> pagesDeLaCarte(Pages& pages, Pointeur carte) {
             const std::uint32_t page = u32(lue, place);
             if (page == 0) continue;
             const Octets bits = pages.lit(page);
-            if (bits[0] != kPageDeCarte) throw Dommage("la carte de ses pages est illisible");
+            if (bits[0] != kPageDeCarte) throw Dommage(kIllisible);
             if (!ajoute(liste, premiere, bits.subspan(kDebutBits), pages.nombre())) break;
         }
     } else {
-        throw Dommage("la carte de ses pages est illisible");
+        throw Dommage(kIllisible);
     }
     return liste;
 }

@@ -12,6 +12,9 @@ constexpr std::uint16_t kPlace = 0x1FFF, kSupprimee = 0x8000, kRenvoi = 0x4000;
 constexpr std::size_t kLignesMax = 256;  // a pointer's rank is a byte
 constexpr int kRenvoisMax = 16;          // Jet makes one, and mends it when the row moves again
 
+constexpr const char* kTropCourte = "la ligne est trop courte pour ses champs";
+constexpr const char* kDejaAtteint = "des renvois mènent plusieurs fois au même endroit";
+
 bool estAuProprietaire(Octets page, std::uint32_t proprietaire) {
     return page[0] == kPageDonnees && u32(page, kPlaceProprietaire) == proprietaire;
 }
@@ -19,12 +22,12 @@ bool estAuProprietaire(Octets page, std::uint32_t proprietaire) {
 }  // namespace
 
 void Reserve::prend(std::uint64_t octets) {
-    if (octets > m_reste) throw Dommage("des renvois mènent plusieurs fois au même endroit");
+    if (octets > m_reste) throw Dommage(kDejaAtteint);
     m_reste -= octets;
 }
 
 void Reserve::marque(Pointeur pointeur) {
-    if (m_atteints.at(place(pointeur))) throw Dommage("des renvois mènent plusieurs fois au même endroit");
+    if (m_atteints.at(place(pointeur))) throw Dommage(kDejaAtteint);
     m_atteints[place(pointeur)] = true;
 }
 
@@ -119,7 +122,7 @@ Decoupe::Decoupe(const Format& format, const Definition& definition, Octets lign
     if (m_colonnes > definition.colonnesMax)
         throw Dommage("la ligne annonce " + std::to_string(m_colonnes) + " champs");
     const std::size_t tailleMasque = (m_colonnes + 7) / 8;
-    if (tailleMasque > ligne.size()) throw Dommage("la ligne est trop courte pour ses champs");
+    if (tailleMasque > ligne.size()) throw Dommage(kTropCourte);
     const std::size_t fin = ligne.size() - tailleMasque;
     m_masque = ligne.subspan(fin);
     if (definition.aDesVariables) placeLesVariables(format.jet4, fin);
@@ -127,7 +130,7 @@ Decoupe::Decoupe(const Format& format, const Definition& definition, Octets lign
 
 void Decoupe::placeLesVariables(bool jet4, std::size_t fin) {
     const std::size_t taille = jet4 ? 2 : 1;  // of a place and of the number of places
-    if (fin < taille) throw Dommage("la ligne est trop courte pour ses champs");
+    if (fin < taille) throw Dommage(kTropCourte);
     m_variables = entier(m_ligne, fin - taille, taille);
     if (m_variables > m_colonnes || m_variables + 2 > m_places.size())
         throw Dommage("la ligne annonce " + std::to_string(m_variables) + " champs variables");
@@ -135,7 +138,7 @@ void Decoupe::placeLesVariables(bool jet4, std::size_t fin) {
     // In Jet 3 a place is one byte; before the number stands, for each 256 bytes of the row, the rank of the field from
     // which places lie 256 further. The last of these may stand for nothing.
     std::size_t sauts = jet4 ? 0 : (m_ligne.size() - 1) / 256;
-    if (fin < sauts + (m_variables + 1) * taille) throw Dommage("la ligne est trop courte pour ses champs");
+    if (fin < sauts + (m_variables + 1) * taille) throw Dommage(kTropCourte);
     const std::size_t places = fin - sauts;
     if (sauts > 0 && (places - 1 - m_variables) / 256 < sauts) --sauts;
     std::size_t faits = 0;
@@ -146,8 +149,7 @@ void Decoupe::placeLesVariables(bool jet4, std::size_t fin) {
         if (i > 0 && m_places[i] < m_places[i - 1]) throw Dommage("un champ finit avant son début");
     }
     // A row that was rewritten shorter may have room left there; it never has too little.
-    if (m_places[m_variables] > places - (m_variables + 1) * taille)
-        throw Dommage("la ligne est trop courte pour ses champs");
+    if (m_places[m_variables] > places - (m_variables + 1) * taille) throw Dommage(kTropCourte);
 }
 
 bool Decoupe::bit(const Colonne& colonne) const {

@@ -49,10 +49,14 @@ namespace interne {
 
 namespace {
 
+[[noreturn]] void refuseLaLecture(const std::string& chemin) {
+    throw ErreurJet("La base \"" + chemin + "\" ne peut pas être lue.");
+}
+
 // libmdb would say on the terminal what it cannot open: it is only given what it can.
 void refuseCeQuiNEstPasJet(const std::string& chemin) {
     const auto octets = entete(chemin);
-    if (!octets) throw ErreurJet("La base \"" + chemin + "\" ne peut pas être lue.");
+    if (!octets) refuseLaLecture(chemin);
     if (!aLaSignature(*octets)) throw ErreurJet("Le fichier \"" + chemin + "\" n'est pas une base Access.");
     const auto version = static_cast<unsigned char>((*octets)[kPlaceVersion]);
     if (version > 1)
@@ -91,14 +95,14 @@ Pages::Pages(const std::string& chemin, std::string_view motDePasseDonne) {
     refuseCeQuiNEstPasJet(chemin);
     m_poignee = std::make_unique<Poignee>(chemin);
     const MdbHandle* mdb = m_poignee->mdb;
-    if (!mdb) throw ErreurJet("La base \"" + chemin + "\" ne peut pas être lue.");
+    if (!mdb) refuseLaLecture(chemin);
     m_format = formatDe(*mdb);
     const std::string attendu = motDePasse(Octets(mdb->pg_buf, kTailleEntete), m_format.jet4);
     if (!attendu.empty() && attendu != motDePasseDonne)
         throw MotDePasseRefuse("La base \"" + chemin + "\" est protégée par un mot de passe.");
     std::error_code erreur;
     const std::uintmax_t taille = fs::file_size(chemin, erreur);
-    if (erreur) throw ErreurJet("La base \"" + chemin + "\" ne peut pas être lue.");
+    if (erreur) refuseLaLecture(chemin);
     // A page number has 24 bits wherever one stands.
     m_nombre = static_cast<std::uint32_t>(std::min<std::uintmax_t>(taille / m_format.taillePage, 1u << 24));
 }

@@ -12,6 +12,7 @@ namespace jet::interne {
 namespace {
 
 constexpr std::string_view kDebutAffiche = "STO";
+constexpr const char* kCoupe = "un texte finit au milieu d'un caractère";
 
 bool estComprime(Octets texte) {
     return texte.size() >= 2 && texte[0] == 0xFF && texte[1] == 0xFE;
@@ -35,7 +36,7 @@ std::u16string developpe(Octets texte) {
             unites += unite(texte, i);
             i += 2;
         } else {
-            throw Dommage("un texte finit au milieu d'un caractère");
+            throw Dommage(kCoupe);
         }
     }
     return unites;
@@ -43,7 +44,7 @@ std::u16string developpe(Octets texte) {
 
 // How many units an uncompressed text has.
 std::size_t nombreUnites(Octets texte) {
-    if (texte.size() % 2 != 0) throw Dommage("un texte finit au milieu d'un caractère");
+    if (texte.size() % 2 != 0) throw Dommage(kCoupe);
     return texte.size() / 2;
 }
 
