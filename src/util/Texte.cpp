@@ -3,6 +3,8 @@
 #include "util/Ascii.h"
 #include "util/Unicode.h"
 
+#include <algorithm>
+
 #include <unicode/uchar.h>
 
 namespace util {
@@ -126,6 +128,12 @@ std::string remplace(std::string_view texte, std::string_view cherche, std::stri
         debut = trouve + cherche.size();
     }
     return resultat.append(texte.substr(debut));
+}
+
+std::string_view ligneSuivante(std::string_view texte, std::size_t& place) {
+    const std::size_t debut = place, fin = std::min(texte.find_first_of("\r\n", debut), texte.size());
+    place = fin + (texte.substr(fin).starts_with("\r\n") ? 2 : fin < texte.size() ? 1 : 0);
+    return texte.substr(debut, fin - debut);
 }
 
 bool commencePar(std::string_view texte, std::string_view debut) {

@@ -34,6 +34,9 @@ namespace util {
 [[nodiscard]] bool commencePar(std::string_view texte, std::string_view debut);
 [[nodiscard]] bool finitPar(std::string_view texte, std::string_view fin);
 
+// The line that starts at `place`, which goes on to the next one, behind CR LF, LF or CR.
+[[nodiscard]] std::string_view ligneSuivante(std::string_view texte, std::size_t& place);
+
 [[nodiscard]] bool estUtf8(std::string_view octets);
 // Windows-1252 (81 8D 8F 90 9D as U+0081 and so on) to UTF-8 and back; what 1252 lacks becomes "?".
 [[nodiscard]] std::string depuis1252(std::string_view octets);

@@ -1,12 +1,9 @@
-#include "platform/fichiers/Fichiers.h"
+#include "platform/fichiers/Descripteur.h"
 
 #include <array>
 #include <cerrno>
 
-#include <fcntl.h>
 #include <stdio.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace fichiers {
 
@@ -33,9 +30,9 @@ bool renommeSansEcraser(const std::string& de, const std::string& vers) {
 }
 
 void dateComme(const std::string& chemin, const std::string& modele) {
-    struct stat infos {};
-    if (stat(modele.c_str(), &infos) != 0) return;
-    const std::array<timespec, 2> dates{infos.st_atim, infos.st_mtim};
+    const auto infos = infosDe(modele);
+    if (!infos) return;
+    const std::array<timespec, 2> dates{infos->st_atim, infos->st_mtim};
     utimensat(AT_FDCWD, chemin.c_str(), dates.data(), 0);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/fichiers/Fichiers.h"
+
 #include <cerrno>
 #include <optional>
 #include <string>
@@ -24,6 +26,15 @@ class GardeErreur {
   private:
     int m_erreur = errno;
 };
+
+// What the system says of what a path leads to; nothing where it leads nowhere.
+[[nodiscard]] inline std::optional<struct stat> infosDe(const std::string& chemin) {
+    struct stat infos {};
+    return stat(chemin.c_str(), &infos) == 0 ? std::optional(infos) : std::nullopt;
+}
+[[nodiscard]] inline Identite identiteDe(const struct stat& infos) {
+    return {infos.st_dev, infos.st_ino};
+}
 
 // An open file, closed with its owner.
 class Descripteur {

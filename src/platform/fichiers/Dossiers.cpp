@@ -1,5 +1,4 @@
 #include "platform/fichiers/Descripteur.h"
-#include "platform/fichiers/Fichiers.h"
 #include "util/Texte.h"
 
 #include <algorithm>

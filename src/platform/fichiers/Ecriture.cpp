@@ -1,5 +1,4 @@
 #include "platform/fichiers/Descripteur.h"
-#include "platform/fichiers/Fichiers.h"
 #include "platform/fichiers/Restes.h"
 
 #include <algorithm>
@@ -40,9 +39,8 @@ bool synchroniseFichier(const std::string& chemin) {
 bool synchroniseEnsemble(const std::vector<std::string>& chemins, const std::set<std::string>& dossiers) {
     std::map<dev_t, Descripteur> systemes;
     const auto releve = [&](const std::string& chemin) {
-        struct stat infos {};
-        if (stat(chemin.c_str(), &infos) != 0) return false;
-        return systemes.try_emplace(infos.st_dev, chemin, O_RDONLY).first->second.estOuvert();
+        const auto infos = infosDe(chemin);
+        return infos && systemes.try_emplace(infos->st_dev, chemin, O_RDONLY).first->second.estOuvert();
     };
     if (!std::all_of(chemins.begin(), chemins.end(), releve)) return false;
     for (const std::string& dossier : dossiers)  // where a link stands for the file
@@ -65,11 +63,11 @@ class FichierNeuf {
         : m_cible(ciblePhysique(cible)),
           m_chemin(dossierDe(m_cible) + nomProvisoire()),
           m_fichier(m_chemin, O_WRONLY | O_CREAT | O_EXCL, droitsDe(m_cible)) {
-        struct stat ancien {};
-        if (m_fichier.estOuvert()) marqueEnUsage(m_fichier.numero());
-        if (!m_fichier.estOuvert() || stat(m_cible.c_str(), &ancien) != 0) return;
-        m_refuse = !S_ISREG(ancien.st_mode) || access(m_cible.c_str(), W_OK) != 0 ||
-                   (fchmod(m_fichier.numero(), ancien.st_mode & 07777) != 0 && !ignoreLesDroits(errno));
+        if (!m_fichier.estOuvert()) return;
+        marqueEnUsage(m_fichier.numero());
+        const auto ancien = infosDe(m_cible);
+        m_refuse = ancien && (!S_ISREG(ancien->st_mode) || access(m_cible.c_str(), W_OK) != 0 ||
+                              (fchmod(m_fichier.numero(), ancien->st_mode & 07777) != 0 && !ignoreLesDroits(errno)));
     }
     FichierNeuf(const FichierNeuf&) = delete;
     FichierNeuf& operator=(const FichierNeuf&) = delete;
@@ -93,8 +91,8 @@ class FichierNeuf {
   private:
     // Those of the target from the start: nobody reads meanwhile what the target would not show him.
     static mode_t droitsDe(const std::string& cible) {
-        struct stat ancien {};
-        return stat(cible.c_str(), &ancien) == 0 ? ancien.st_mode & kDroitsOrdinaires : kDroitsOrdinaires;
+        const auto ancien = infosDe(cible);
+        return ancien ? ancien->st_mode & kDroitsOrdinaires : kDroitsOrdinaires;
     }
 
     std::string m_cible;
@@ -116,10 +114,8 @@ bool verse(int source, int cible, const std::function<bool(std::int64_t)>& avanc
 }
 
 bool memeFichier(const std::string& a, const std::string& b) {
-    struct stat infosA {
-    }, infosB{};
-    return stat(a.c_str(), &infosA) == 0 && stat(b.c_str(), &infosB) == 0 && infosA.st_dev == infosB.st_dev &&
-           infosA.st_ino == infosB.st_ino;
+    const auto infosA = infosDe(a), infosB = infosDe(b);
+    return infosA && infosB && identiteDe(*infosA) == identiteDe(*infosB);
 }
 
 // A name that stands for a file which has another one too.

@@ -1,5 +1,4 @@
 #include "platform/fichiers/Descripteur.h"
-#include "platform/fichiers/Fichiers.h"
 #include "util/Texte.h"
 
 #include <cerrno>
@@ -61,18 +60,6 @@ std::optional<std::string> litLignesEntieres(const std::string& chemin, std::siz
     return octets;
 }
 
-// The end of the line that starts at `debut`, and where the next one starts.
-struct FinDeLigne {
-    std::size_t fin;
-    std::size_t suite;
-};
-
-FinDeLigne finDeLigne(std::string_view texte, std::size_t debut) {
-    const std::size_t fin = texte.find_first_of("\r\n", debut);
-    if (fin == std::string_view::npos) return {texte.size(), texte.size()};
-    return {fin, fin + (texte.substr(fin).starts_with("\r\n") ? 2u : 1u)};
-}
-
 }  // namespace
 
 ssize_t litBloc(int descripteur, char* tampon, std::size_t taille) {
@@ -102,29 +89,25 @@ std::optional<std::vector<std::string>> litLignes(const std::string& chemin, std
     if (!octets) return std::nullopt;
     const std::string texte = util::decodeTexteExterne(*octets);
     std::vector<std::string> lignes;
-    for (std::size_t debut = 0; debut < texte.size() && lignes.size() < maximum;) {
-        const FinDeLigne ligne = finDeLigne(texte, debut);
-        lignes.push_back(texte.substr(debut, ligne.fin - debut));
-        debut = ligne.suite;
-    }
+    for (std::size_t place = 0; place < texte.size() && lignes.size() < maximum;)
+        lignes.emplace_back(util::ligneSuivante(texte, place));
     return lignes;
 }
 
 std::optional<Identite> identite(const std::string& chemin) {
-    struct stat infos {};
-    if (stat(cheminLisible(chemin).c_str(), &infos) != 0) return std::nullopt;
-    return Identite(infos.st_dev, infos.st_ino);
+    const auto infos = infosDe(cheminLisible(chemin));
+    return infos ? std::optional(identiteDe(*infos)) : std::nullopt;
 }
 
 std::optional<Place> situe(const std::string& chemin) {
-    struct stat infos {};
     std::string reel = chemin;
-    if (stat(reel.c_str(), &infos) != 0) {
+    auto infos = infosDe(reel);
+    if (!infos) {
         reel = trouve(chemin).value_or("");
-        if (stat(reel.c_str(), &infos) != 0) return std::nullopt;
+        infos = infosDe(reel);
     }
-    if (S_ISDIR(infos.st_mode)) return std::nullopt;
-    return Place{std::move(reel), {infos.st_dev, infos.st_ino}};
+    if (!infos || S_ISDIR(infos->st_mode)) return std::nullopt;
+    return Place{std::move(reel), identiteDe(*infos)};
 }
 
 bool executable(const std::string& chemin) {
@@ -132,8 +115,8 @@ bool executable(const std::string& chemin) {
 }
 
 std::int64_t longueur(const std::string& chemin) {
-    struct stat infos {};
-    return stat(cheminLisible(chemin).c_str(), &infos) == 0 && S_ISREG(infos.st_mode) ? infos.st_size : -1;
+    const auto infos = infosDe(cheminLisible(chemin));
+    return infos && S_ISREG(infos->st_mode) ? infos->st_size : -1;
 }
 
 }  // namespace fichiers

@@ -1,4 +1,4 @@
-#include "platform/fichiers/Fichiers.h"
+#include "platform/fichiers/Descripteur.h"
 #include "util/Texte.h"
 
 #include <algorithm>
@@ -10,7 +10,6 @@
 #include <unordered_map>
 
 #include <dirent.h>
-#include <sys/stat.h>
 
 namespace fichiers {
 
@@ -19,8 +18,7 @@ namespace {
 constexpr std::ptrdiff_t kPartiesMax = 64;  // no path that someone made has more
 
 bool estLa(const std::string& chemin) {
-    struct stat infos {};
-    return !chemin.empty() && stat(chemin.c_str(), &infos) == 0;
+    return infosDe(chemin).has_value();
 }
 
 using NomsParCle = std::unordered_map<std::string, std::vector<std::string>>;  // each list in name order
@@ -46,16 +44,16 @@ std::int64_t nanosecondes(const timespec& instant) {
 class DossiersLus {
   public:
     const NomsParCle& noms(const std::string& dossier) {
-        struct stat infos {};
-        if (stat(dossier.c_str(), &infos) != 0) return m_aucun;
-        const Identite identite(infos.st_dev, infos.st_ino);  // a folder has many paths
-        if (const auto lu = m_lus.find(identite); lu != m_lus.end() && vautEncore(lu->second, infos))
+        const auto infos = infosDe(dossier);
+        if (!infos) return m_aucun;
+        const Identite identite = identiteDe(*infos);  // a folder has many paths
+        if (const auto lu = m_lus.find(identite); lu != m_lus.end() && vautEncore(lu->second, *infos))
             return lu->second.noms;
         if (m_lus.size() >= kMaximum) m_lus.clear();
         struct timespec maintenant {};
         clock_gettime(CLOCK_REALTIME, &maintenant);
         Lu& lu = m_lus[identite];
-        lu = {infos, nanosecondes(maintenant) - nanosecondes(infos.st_mtim) > kMarge, litNoms(dossier)};
+        lu = {*infos, nanosecondes(maintenant) - nanosecondes(infos->st_mtim) > kMarge, litNoms(dossier)};
         return lu.noms;
     }
 
@@ -131,8 +129,11 @@ class Parcours {
     int m_regards = 5000;
 };
 
-bool estOrdinaire(const std::string& chemin, struct stat& infos) {
-    return lstat(chemin.c_str(), &infos) == 0 && S_ISREG(infos.st_mode);
+// The ordinary file that bears this name itself.
+std::optional<Place> placeOrdinaire(std::string chemin) {
+    struct stat infos {};
+    if (lstat(chemin.c_str(), &infos) != 0 || !S_ISREG(infos.st_mode)) return std::nullopt;
+    return Place{std::move(chemin), identiteDe(infos)};
 }
 
 }  // namespace
@@ -149,8 +150,8 @@ std::optional<std::string> trouve(const std::string& chemin) {
 
 bool existe(const std::string& chemin) {
     const auto reel = trouve(chemin);
-    struct stat infos {};
-    return reel && stat(reel->c_str(), &infos) == 0 && !S_ISDIR(infos.st_mode);
+    const auto infos = reel ? infosDe(*reel) : std::nullopt;
+    return infos && !S_ISDIR(infos->st_mode);
 }
 
 std::optional<Place> situeDans(const std::string& dossier, const std::string& nom) {
@@ -158,10 +159,9 @@ std::optional<Place> situeDans(const std::string& dossier, const std::string& no
         nom.find_first_of(std::string_view("/\0", 2)) != std::string::npos)
         return std::nullopt;
     const std::string racine = dossier.ends_with('/') ? dossier : dossier + '/';
-    struct stat infos {};
-    if (estOrdinaire(racine + nom, infos)) return Place{racine + nom, {infos.st_dev, infos.st_ino}};
+    if (auto place = placeOrdinaire(racine + nom)) return place;
     for (const std::string& autre : autresLettres(racine, nom))
-        if (estOrdinaire(racine + autre, infos)) return Place{racine + autre, {infos.st_dev, infos.st_ino}};
+        if (auto place = placeOrdinaire(racine + autre)) return place;
     return std::nullopt;
 }
 
