@@ -16,17 +16,10 @@ namespace {
 constexpr std::size_t kNombreLignes = 9;
 constexpr std::int64_t kTailleMaxFiche = 64 << 20;  // bytes; no sheet comes near it
 
-// The line that starts at `position`, which moves on past its end.
-std::string_view ligneSuivante(std::string_view texte, std::size_t& position) {
-    const std::size_t debut = position, fin = std::min(texte.find_first_of("\r\n", debut), texte.size());
-    position = fin + (texte.substr(fin, 2) == "\r\n" ? 2 : fin < texte.size() ? 1 : 0);
-    return texte.substr(debut, fin - debut);
-}
-
 std::string_view lignesUtiles(std::string_view texte) {
     std::size_t fin = 0;
     for (std::size_t i = 0; i < kNombreLignes; ++i)
-        (void)ligneSuivante(texte, fin);
+        (void)util::ligneSuivante(texte, fin);
     return texte.substr(0, fin);
 }
 
@@ -73,7 +66,7 @@ std::optional<FicheFilm> analyseFiche(std::string_view octets) {
     std::size_t position = 0;
     std::array<std::string_view, kNombreLignes> lignes;
     for (std::string_view& ligne : lignes)
-        ligne = ligneSuivante(*texte, position);
+        ligne = util::ligneSuivante(*texte, position);
     FicheFilm fiche;
     fiche.premiereLigne = util::coupe(lignes[0], edit::kLongueurTitre);
     fiche.titre = ouNonDefini(util::metEnCapitales(fiche.premiereLigne));

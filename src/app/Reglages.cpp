@@ -3,11 +3,11 @@
 #include "platform/fichiers/CheminTape.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/Nombres.h"
+#include "util/NomsFichiers.h"
 #include "util/Texte.h"
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cstdint>
 
 namespace app {
@@ -26,18 +26,16 @@ using Lignes = std::array<std::string, kNombreLignes>;
 Lignes premieresLignes(std::string_view octets) {
     if (util::commencePar(octets, "\xEF\xBB\xBF")) octets.remove_prefix(3);
     Lignes lignes;
+    std::size_t place = 0;
     for (std::string& ligne : lignes) {
-        const std::size_t fin = std::min(octets.find_first_of("\r\n"), octets.size());
-        if (fin <= kCheminMax) ligne = util::decodeTexteExterne(octets.substr(0, fin));
-        octets.remove_prefix(fin);
-        octets.remove_prefix(util::commencePar(octets, "\r\n") ? 2 : octets.empty() ? 0 : 1);
+        const std::string_view lue = util::ligneSuivante(octets, place);
+        if (lue.size() <= kCheminMax) ligne = util::decodeTexteExterne(lue);
     }
     return lignes;
 }
 
 bool estAbsolu(std::string_view chemin) {
-    const bool lecteur = chemin.size() > 1 && chemin[1] == ':' && std::isalpha(static_cast<unsigned char>(chemin[0]));
-    return lecteur || chemin[0] == '/' || chemin[0] == '~' || chemin[0] == '\\' ||
+    return util::aUneLettreDeLecteur(chemin) || chemin[0] == '/' || chemin[0] == '~' || chemin[0] == '\\' ||
            chemin.find("://") != std::string_view::npos;
 }
 

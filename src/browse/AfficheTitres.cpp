@@ -2,6 +2,7 @@
 
 #include "platform/dao/Comparaison.h"
 #include "platform/systeme/Horloge.h"
+#include "util/Ascii.h"
 #include "util/Nombres.h"
 #include "util/Texte.h"
 
@@ -22,8 +23,8 @@ std::size_t rangDeLettre(std::string_view titre) {
     const std::string plie = ascii ? "" : util::sansAccents(util::minuscules(util::coupe(titre, 1)));
     const std::string_view debut = ascii ? titre : std::string_view(plie);
     if (debut.empty()) return 0;
-    const auto lettre = static_cast<unsigned char>(debut.front() | 0x20);  // lower case, for a letter
-    return lettre >= 'a' && lettre <= 'z' ? lettre - 'a' + 1U : 0;
+    const char lettre = util::enMinuscule(debut.front());
+    return util::estUneMinuscule(lettre) ? static_cast<std::size_t>(lettre - 'a') + 1 : 0;
 }
 
 // Headings by first letter: one node a letter, wherever its titles stand.

@@ -5,7 +5,6 @@
 #include "util/NomsFichiers.h"
 
 #include <algorithm>
-#include <cctype>
 
 namespace db {
 
@@ -14,9 +13,7 @@ namespace {
 constexpr std::size_t kCheminMax = 4096;  // bytes; the system's own limit
 
 bool estDeWindows(const std::string& chemin) {
-    const bool lecteur =
-        chemin.size() > 1 && chemin[1] == ':' && std::isalpha(static_cast<unsigned char>(chemin[0])) != 0;
-    return lecteur || chemin.starts_with('\\');
+    return util::aUneLettreDeLecteur(chemin) || chemin.starts_with('\\');
 }
 
 std::optional<std::string> resoutDeWindows(const std::string& chemin, const Chemins& chemins) {

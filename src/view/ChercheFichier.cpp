@@ -1,6 +1,7 @@
 #include "view/ChercheFichier.h"
 
 #include "platform/fichiers/Fichiers.h"
+#include "util/NomsFichiers.h"
 
 #include <algorithm>
 #include <string_view>
@@ -12,10 +13,6 @@ namespace {
 
 constexpr const char* kSeparateurs = "/\\";
 constexpr std::size_t kCheminMax = 4096;  // bytes; the system's own limit
-
-bool estUneLettre(char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
 
 std::string sansSeparateurs(std::string_view chemin) {
     return std::string(chemin.substr(std::min(chemin.find_first_not_of(kSeparateurs), chemin.size())));
@@ -58,7 +55,7 @@ const systeme::Volume* volumeDe(const std::string& chemin, const std::vector<sys
 }
 
 Decoupe decoupe(const std::string& chemin, const std::vector<systeme::Volume>& volumes) {
-    if (chemin.size() > 2 && estUneLettre(chemin[0]) && chemin[1] == ':')
+    if (chemin.size() > 2 && util::aUneLettreDeLecteur(chemin))
         return {{sansSeparateurs(std::string_view(chemin).substr(2))}, nullptr};
     if (chemin.starts_with("\\\\")) return {{sansPremiersNoms(chemin, 2)}, nullptr};
     const systeme::Volume* volume = volumeDe(chemin, volumes);
