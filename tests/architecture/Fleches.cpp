@@ -5,6 +5,7 @@
 #include <map>
 #include <optional>
 #include <regex>
+#include <set>
 
 namespace fs = std::filesystem;
 
@@ -103,15 +104,40 @@ std::vector<std::string> lignes(const std::string& texte) {
     return resultat;
 }
 
-void examine(const fs::path& fichier, const std::string& nom, std::vector<std::string>& fautes) {
+std::string contenu(const fs::path& fichier) {
+    std::ifstream flux(fichier, std::ios::binary);
+    return {std::istreambuf_iterator<char>(flux), {}};
+}
+
+// The commands that app declares: one that bears the name of a lower room's has more around it.
+std::set<std::string> commandesDApp(const std::map<std::string, fs::path>& sources) {
+    static const std::regex declaration(R"((?:^|\n)void (\w+)\(const Contexte& c\b)");
+    std::set<std::string> noms;
+    for (const auto& [nom, fichier] : sources) {
+        if (!nom.starts_with("app/") || !nom.ends_with(".h")) continue;
+        const std::string source = contenu(fichier);
+        for (std::sregex_iterator it(source.begin(), source.end(), declaration), fin; it != fin; ++it)
+            noms.insert(it->str(1));
+    }
+    return noms;
+}
+
+std::string fauteCommande(const std::set<std::string>& commandes, const std::string& ligne) {
+    static const std::regex nom(R"(\b(db|browse|edit|view|acquire|exportation)::(\w+))");
+    for (std::sregex_iterator it(ligne.begin(), ligne.end(), nom), fin; it != fin; ++it)
+        if (commandes.contains(it->str(2))) return it->str() + " has more around it in app";
+    return {};
+}
+
+void examine(const fs::path& fichier, const std::string& nom, const std::set<std::string>& commandes,
+             std::vector<std::string>& fautes) {
     const auto piece = pieceDe(nom);
     if (!piece) {
         fautes.push_back(nom + ":1: stands in no room");
         return;
     }
     static const std::regex inclusion(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"].*)");
-    std::ifstream flux(fichier, std::ios::binary);
-    const std::string source{std::istreambuf_iterator<char>(flux), {}};
+    const std::string source = contenu(fichier);
     const auto brutes = lignes(source);
     const auto nues = lignes(sansTextesNiCommentaires(source));
     for (std::size_t i = 0; i < brutes.size(); ++i) {
@@ -120,8 +146,9 @@ void examine(const fs::path& fichier, const std::string& nom, std::vector<std::s
         std::smatch morceaux;
         const bool estInclusion =
             nue.find('#') != std::string::npos && std::regex_match(brutes[i], morceaux, inclusion);
-        const std::string faute =
+        std::string faute =
             estInclusion ? fauteInclusion(*piece, morceaux.str(1)[0], morceaux.str(2)) : fauteAppel(*piece, nue);
+        if (faute.empty() && *piece == "ui") faute = fauteCommande(commandes, nue);
         if (!faute.empty()) fautes.push_back(nom + ":" + std::to_string(i + 1) + ": " + faute);
     }
 }
@@ -136,9 +163,10 @@ std::vector<std::string> fautes(const fs::path& src) {
             sources[fs::relative(entree.path(), src).generic_string()] = entree.path();
         }
     }
+    const std::set<std::string> commandes = commandesDApp(sources);
     std::vector<std::string> trouvees;
     for (const auto& [nom, fichier] : sources)
-        examine(fichier, nom, trouvees);
+        examine(fichier, nom, commandes, trouvees);
     return trouvees;
 }
 

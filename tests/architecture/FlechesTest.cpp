@@ -72,6 +72,13 @@ TEST_F(Fleches, OnlyTheLibrarysOwnCallsAreProcessCalls) {
                 ElementsAre("ui/L.cpp:1: system() belongs to platform/systeme alone"));
 }
 
+TEST_F(Fleches, TheWindowCallsACommandWithAllThatAppPutsAroundIt) {
+    juge("app/Commandes.h", "void Label12_Click(const Contexte& c);\nvoid Form_Load();\n");
+    EXPECT_THAT(juge("ui/P.cpp", "a.auClic(b, app::Label12_Click);\nc(browse::AffStats_Click);\n"), IsEmpty());
+    EXPECT_THAT(juge("ui/P.cpp", "a.auClic(b, browse::Label12_Click);\n"),
+                ElementsAre("ui/P.cpp:1: browse::Label12_Click has more around it in app"));
+}
+
 TEST_F(Fleches, WhatIsNotWrittenFromARoomIsAFault) {
     EXPECT_THAT(juge("db/B.cpp", "#include \"B.h\"\n#include \"doubles/Dialogues.h\"\n#include \"util/../app/A.h\"\n"),
                 ElementsAre("db/B.cpp:1: \"B.h\" is not written from a room of src/",
