@@ -1,3 +1,4 @@
+#include "acquire/ImporterAncienneBase.h"
 #include "app/ChoixFonction.h"
 #include "app/Commandes.h"
 #include "app/RaccourcisClavier.h"
@@ -206,6 +207,24 @@ TEST_F(Saisies, WhatShowsTheSameFilmKeepsItsHoldings) {
     boites.attendMsgBox("Voulez-vous vraiment supprimer ce titre ?", dialogues::kQuestion, dialogues::kOui);
     session.execute(edit::cmdSupprimerTitre_Click);
     EXPECT_EQ(avis(), "") << "they went with their film";
+}
+
+TEST_F(Saisies, HoldingsAreToldAlsoWhereTheWholeBaseWasReadAnew) {
+    const doubles::DossierTemporaire ancienne;
+    const std::string base = ancienne.ecrit("Films.mdb", installation.lit("Modele.dat"));
+    dao::DBEngine::OpenDatabase(base).Execute("INSERT INTO Films (Titre, Realisateur) VALUES ('Playtime', 'Tati')");
+    clique("Le Samouraï");
+    prete("Zoé");
+    session.execute(app::Command13_Click, 1);
+    boites.attendDossier("Dossier de la précédente version", "", ancienne.chemin());
+    const std::string origine = "Base : " + base + "\nImages : aucun dossier";
+    boites.attendMsgBox(origine + "\n\nSouhaitez-vous importer cette base ?", dialogues::kQuestion, dialogues::kOui);
+    boites.attendMsgBox("1 film ajouté.\n" + origine, dialogues::kInformation);
+    session.execute(acquire::ImporterAncienneBase);
+    boites.verifie();
+    EXPECT_EQ(avis(), "Possession de « Le Samouraï » non validée.");
+    session.execute(app::cmdAvis_Click, 0);
+    EXPECT_EQ(etats.fiche.Combo7[0].Text, "Zoé");
 }
 
 TEST_F(Saisies, LeavingTheBaseAsksBeforeAnythingIsDone) {
