@@ -20,11 +20,25 @@ namespace app {
 
 // What a session owns, and the one context that leads to it.
 struct Session::Rouages {
-    Rouages(const Machine& machine, Etats& etats)
-        : chemins(db::Chemins::depuis(machine.dossierProgramme)),
+    Rouages(const Machine& m, Etats& etats)
+        : chemins(db::Chemins::depuis(m.dossierProgramme)),
           avis(etats.avis),
           visionneuse(etats.affiche, chemins),
-          contexte(contexteDe(machine, etats)) {}
+          fenetre{{m.dialogues, m.ecran, m.images, m.horloge, m.documents, m.programmes, m.volumes, avis,
+                   etats.demandes, etats.travaux, base, chemins, etats.stockage, suites},
+                  etats.liste,
+                  etats.recherche,
+                  etats.fiche,
+                  etats.panneaux,
+                  film,
+                  &visionneuse},
+          contexte{{{fenetre, etats.ajout, etats.multiSuppression, saisies}, etats.fonctions.chkLancerConnexion},
+                   etats,
+                   {fenetre, visionneuse, etats.fichiers, extensions},
+                   {fenetre, etats.nom},
+                   extensions,
+                   saisies,
+                   arbreRelu} {}
 
     bool enMarche = false;                  // between a start that held and the shut-down
     bool arbreRelu = false;                 // since the gesture that the running command answers
@@ -38,37 +52,11 @@ struct Session::Rouages {
     ecran::Avis avis;
     view::Visionneuse visionneuse;
     Saisies saisies{contexte};
-    browse::SuitesDeLaBase suites{contexte};
+    browse::SuitesDeLaBase suites{fenetre};
+    const browse::Contexte fenetre;  // what the others begin with
     const Contexte contexte;
     BaseAbsente baseAbsente{contexte};
     Demarrage demarrage{contexte, instance, baseAbsente};
-
-  private:
-    [[nodiscard]] Contexte contexteDe(const Machine& machine, Etats& etats) {
-        const db::Contexte commun{machine.dialogues,
-                                  machine.ecran,
-                                  machine.images,
-                                  machine.horloge,
-                                  machine.documents,
-                                  machine.programmes,
-                                  machine.volumes,
-                                  avis,
-                                  etats.demandes,
-                                  etats.travaux,
-                                  base,
-                                  chemins,
-                                  etats.stockage,
-                                  suites};
-        const browse::Contexte fenetre{commun,         etats.liste, etats.recherche, etats.fiche,
-                                       etats.panneaux, film,        &visionneuse};
-        return {{{fenetre, etats.ajout, etats.multiSuppression, saisies}, etats.fonctions.chkLancerConnexion},
-                etats,
-                {fenetre, visionneuse, etats.fichiers, extensions},
-                {fenetre, etats.nom},
-                extensions,
-                saisies,
-                arbreRelu};
-    }
 };
 
 Session::Session(const Machine& machine) : m_rouages(std::make_unique<Rouages>(machine, etats)) {}
