@@ -7,6 +7,7 @@
 #include "browse/ChoixTri.h"
 #include "browse/TexteRequete.h"
 #include "db/Option3_Click.h"
+#include "db/Schema.h"
 #include "db/cmdCompacter_Click.h"
 #include "db/cmdMajBase_Click.h"
 #include "edit/cmdAjoutFilm_Click.h"
@@ -23,6 +24,7 @@ constexpr int kPassages = 5;
 // The listing of the search, as its recordset; the tree is not filled from it.
 void mesureRecherche(const std::string& dossier, const std::string& texte) {
     dao::Database base = dao::DBEngine::OpenDatabase(dossier + "/Films.mdb");
+    base.declareCles(db::clesDesTables());
     const std::string enonce = browse::construitRequete(
         browse::kZoneTous, browse::kTriTitre2, browse::construitConditionRecherche(texte, {true, true, true, true}));
     long trouves = 0;

@@ -5,6 +5,7 @@
 
 #include "Mesure.h"
 #include "Sqlite.h"
+#include "db/Schema.h"
 #include "doubles/DocumentsEnregistres.h"
 #include "doubles/EcranMuet.h"
 #include "doubles/HorlogeFixe.h"
@@ -51,6 +52,7 @@ class DialoguesDeListe final : public dialogues::Dialogues {
 struct Machine {
     explicit Machine(const std::string& dossier) : boites(dossier + "/Liste"), chemins(db::Chemins::depuis(dossier)) {
         base.base = dao::DBEngine::OpenDatabase(dossier + "/Films.mdb");
+        base.base.declareCles(db::clesDesTables());
     }
     DialoguesDeListe boites;
     doubles::EcranMuet ecranMuet;

@@ -47,6 +47,7 @@ std::optional<Refus> essaie(const Chemins& chemins, const std::string& chemin, B
     if (chemins.estDansTmp(chemin)) return Refus{kBaseDansTmp, dialogues::kExclamation, "elle est dans le dossier Tmp"};
     try {
         base.base = dao::DBEngine::OpenDatabase(fichiers::trouve(chemin).value_or(chemin));
+        base.base.declareCles(clesDesTables());
     } catch (const dao::ErreurDao& erreur) {
         return Refus{kOuvertureEchouee, dialogues::kCritique, raisonDe(erreur, chemin)};
     }

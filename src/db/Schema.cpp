@@ -56,6 +56,10 @@ std::string_view schema() {
     return texte;
 }
 
+std::vector<dao::Cle> clesDesTables() {
+    return {{"Titre", "Realisateur"}, {"Titre2", "Realisateur2"}};
+}
+
 std::string_view indexDesListes() {
     return kIndex;
 }

@@ -1,8 +1,14 @@
 #pragma once
 
+#include "platform/dao/Database.h"
+
 #include <string_view>
+#include <vector>
 
 namespace db {
+
+// What a film and a holding are found by: for dao::Database::declareCles.
+[[nodiscard]] std::vector<dao::Cle> clesDesTables();
 
 // The statements that make an empty base: the two tables with their published fields, and the plain indexes that the
 // listings read instead of the rows. The template "Modele.dat" is made from it by the build.

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <algorithm>
+#include <string_view>
+
 // The digits and letters of ASCII, whatever the machine's language; any other character is none, and stays as it is.
 namespace util {
 
@@ -31,6 +34,11 @@ template <typename Caractere>
 template <typename Caractere>
 [[nodiscard]] constexpr Caractere enMajuscule(Caractere c) {
     return estUneMinuscule(c) ? static_cast<Caractere>(c - ('a' - 'A')) : c;
+}
+
+[[nodiscard]] inline bool egalSansCasseAscii(std::string_view gauche, std::string_view droite) {
+    return std::equal(gauche.begin(), gauche.end(), droite.begin(), droite.end(),
+                      [](char g, char d) { return enMinuscule(g) == enMinuscule(d); });
 }
 
 }  // namespace util

@@ -2,38 +2,39 @@
 
 #include "platform/dao/Valeur.h"
 
+#include <string>
 #include <string_view>
 
 struct sqlite3_stmt;
+struct sqlite3_value;
 
 namespace dao {
 
-// A value's way into and out of SQLite: text is TEXT, bytes are BLOB, Null is NULL; numbers keep their kind.
+// A value's way into SQLite: text is TEXT, bytes are BLOB, Null is NULL; numbers keep their kind.
 class AccesValeur {
   public:
     static void lie(sqlite3_stmt* requete, int rang, const Valeur& valeur);
-    [[nodiscard]] static Valeur lit(sqlite3_stmt* requete, int colonne);
 };
 
 namespace interne {
 
-// A value seen where it lies, for one passage over many rows. Bytes are seen as text.
+// A value seen where it lies, for one passage over many rows.
 struct ValeurVue {
-    enum class Genre : unsigned char { Nul, Texte, Nombre };
+    enum class Type : unsigned char { Nul, Texte, Octets, Nombre };
 
-    [[nodiscard]] static ValeurVue nulle() { return {}; }
-    [[nodiscard]] static ValeurVue deTexte(std::string_view texte) { return {Genre::Texte, true, texte, 0}; }
-    [[nodiscard]] static ValeurVue deNombre(double nombre) { return {Genre::Nombre, false, {}, nombre}; }
-    [[nodiscard]] bool estNulle() const { return genre == Genre::Nul; }
+    [[nodiscard]] static ValeurVue deTexte(std::string_view texte) { return {Type::Texte, texte, 0}; }
+    [[nodiscard]] bool estNulle() const { return type == Type::Nul; }
+    [[nodiscard]] double enNombre() const;  // a text's longest numeric prefix
 
-    Genre genre = Genre::Nul;
-    bool estTexte = false;  // a text, and not bytes or a number
-    std::string_view texte{};
+    Type type = Type::Nul;
+    std::string_view texte{};  // empty for Null and for a number
     double nombre = 0;
 };
 
-// Seen in the requete's current row; holds until the requete moves.
-[[nodiscard]] ValeurVue vueDeColonne(sqlite3_stmt* requete, int colonne);
+// Holds until the value's statement moves.
+[[nodiscard]] ValeurVue vueDe(sqlite3_value* valeur);
+// The value's text; a number's is made in `tampon`.
+[[nodiscard]] std::string_view texteDe(const ValeurVue& valeur, std::string& tampon);
 // The shortest plain form: "7", "7.5".
 [[nodiscard]] std::string texteDeNombre(double nombre);
 // The longest numeric prefix, 0 without one.

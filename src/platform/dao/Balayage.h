@@ -1,43 +1,28 @@
 #pragma once
 
+#include "platform/dao/Connexion.h"
 #include "platform/dao/Plan.h"
 
 #include <optional>
 #include <string>
-#include <vector>
-
-struct sqlite3_blob;
 
 namespace dao::interne {
 
-// The statement that reads a plan's columns from one of its tables, whole or by row id.
-[[nodiscard]] std::string enonceDeLecture(const TableDuPlan& table, bool parLigne);
-
-// The rows of one table of a plan that pass the table's own filters, in no order.
+// The rows of one table of a plan that meet a condition, in no order: of the whole table, or the one of a row id.
 class Balayage {
   public:
-    Balayage(Connexion& connexion, const TableDuPlan& table, int rangDeTable,
+    Balayage(Connexion& connexion, const TableDuPlan& table, const std::string& condition,
              std::optional<long long> ligne = std::nullopt);
-    Balayage(const Balayage&) = delete;
-    Balayage& operator=(const Balayage&) = delete;
-    ~Balayage();
 
     bool avance();
     [[nodiscard]] long long id() const { return m_requete.entier(0); }
-    [[nodiscard]] const std::vector<ValeurVue>& valeurs() const { return m_valeurs; }  // until the next row
-    [[nodiscard]] long vues() const { return m_vues; }                                 // rows seen, kept or not
+    [[nodiscard]] const Par<RangLu, ValeurVue>& valeurs() const { return m_valeurs; }  // until the next row
 
   private:
-    void litLigne();
-    [[nodiscard]] ValeurVue litDebut(const ColonneLue& lue, int colonne);
-
-    Connexion& m_connexion;
-    const TableDuPlan& m_table;
-    int m_rangDeTable;
+    Table& m_table;
+    bool m_entier;  // every row of the table is met
     Requete m_requete;
-    std::vector<ValeurVue> m_valeurs;
-    std::string m_debut;
-    sqlite3_blob* m_octets = nullptr;
+    Par<RangLu, ValeurVue> m_valeurs;
     long m_vues = 0;
 };
 

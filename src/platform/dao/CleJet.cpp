@@ -1,7 +1,8 @@
 #include "platform/dao/CleJet.h"
 
+#include "platform/dao/Comparaison.h"
 #include "platform/dao/PoidsJet.h"
-#include "platform/dao/Utf8.h"
+#include "util/Unicode.h"
 
 #include <algorithm>
 #include <array>
@@ -9,6 +10,7 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
+#include <utility>
 
 namespace dao::interne {
 
@@ -133,8 +135,14 @@ class CleEnCours {
     std::size_t m_elements = 0;
 };
 
-void ajouteMorceau(const std::u16string& morceau, CleEnCours& cle) {
-    if (morceau.empty()) return;
+// The character at a place, a byte that is no UTF-8 as the Latin-1 character of its value; and its bytes.
+std::pair<char32_t, std::size_t> litCaractere(std::string_view texte, std::size_t rang) {
+    const util::PointDeCode lu = util::litPoint(texte, rang);
+    return {lu.valeur < 0 ? static_cast<std::uint8_t>(texte[rang]) : static_cast<char32_t>(lu.valeur), lu.taille};
+}
+
+void ajouteMorceau(const icu::UnicodeString& morceau, CleEnCours& cle) {
+    if (morceau.isEmpty()) return;
     ElementsDeTexte elements(morceau);
     for (ElementJet element; elements.suivant(element);) {
         cle.reserve(1);
@@ -144,17 +152,17 @@ void ajouteMorceau(const std::u16string& morceau, CleEnCours& cle) {
 
 void ajouteCleLente(std::string_view texte, std::string& cle) {
     CleEnCours enCours(texte.size());
-    std::u16string morceau;
-    while (!texte.empty()) {
-        const CaractereLu lu = litCaractere(texte);
-        texte.remove_prefix(lu.octets);
-        const std::uint8_t signe = signeDe(lu.point);
+    icu::UnicodeString morceau;
+    for (std::size_t rang = 0; rang < texte.size();) {
+        const auto [caractere, octets] = litCaractere(texte, rang);
+        rang += octets;
+        const std::uint8_t signe = signeDe(caractere);
         if (signe == 0) {
-            ecritCaractere(lu.point, morceau);
+            morceau.append(static_cast<UChar32>(caractere));
             continue;
         }
         ajouteMorceau(morceau, enCours);
-        morceau.clear();
+        morceau.remove();
         enCours.signe(signe);
     }
     ajouteMorceau(morceau, enCours);
@@ -168,17 +176,11 @@ bool ajouteCleRapide(std::string_view texte, std::string& cle) {
     while (true) {
         rang += enCours.ajouteSimples(texte.substr(rang));
         if (rang == texte.size()) break;
-        char32_t caractere = static_cast<std::uint8_t>(texte[rang]);
-        std::size_t octets = 1;
-        if (caractere >= 0x80) {
-            const CaractereLu lu = litCaractere(texte.substr(rang));
-            caractere = lu.point;
-            octets = lu.octets;
-        }
+        const auto [caractere, octets] = litCaractere(texte, rang);
         rang += octets;
         const Poids& poids = poidsDe(caractere);
-        if (poids.genre == Poids::Genre::Lent) return false;
-        if (poids.genre == Poids::Genre::Signe) {
+        if (poids.maniere == Poids::Maniere::Lent) return false;
+        if (poids.maniere == Poids::Maniere::Signe) {
             enCours.signe(poids.signe);
             continue;
         }
@@ -208,3 +210,15 @@ std::string cleJetLente(std::string_view texte) {
 }
 
 }  // namespace dao::interne
+
+namespace dao {
+
+bool egalJet(std::string_view gauche, std::string_view droite) {
+    return gauche == droite || interne::cleJet(gauche) == interne::cleJet(droite);
+}
+
+std::string cleDeComparaison(std::string_view texte) {
+    return interne::cleJet(texte);
+}
+
+}  // namespace dao

@@ -1,6 +1,7 @@
 #include "platform/dao/DBEngine.h"
 #include "platform/dao/Erreurs.h"
 #include "platform/dao/Poignee.h"
+#include "util/Sql.h"
 
 #include <filesystem>
 #include <system_error>
@@ -20,13 +21,6 @@ using interne::Poignee;
 constexpr const char* kTables =
     "SELECT name FROM sqlite_schema WHERE type='table' AND rootpage<>0 AND name NOT LIKE 'sqlite~_%' ESCAPE '~'";
 
-std::string guillemets(const std::string& nom) {
-    std::string resultat = "\"";
-    for (const char c : nom)
-        resultat.append(c == '"' ? 2 : 1, c);
-    return resultat + "\"";
-}
-
 // The copy can be read through, and has every row.
 void verifie(Poignee& source, const std::string& destination) {
     Poignee copie(destination, SQLITE_OPEN_READONLY);
@@ -35,7 +29,7 @@ void verifie(Poignee& source, const std::string& destination) {
                  source.textes(kTables) == copie.textes(kTables) &&
                  copie.textes("PRAGMA quick_check(1)") == std::vector<std::string>{"ok"};
     for (const std::string& table : source.textes(kTables))
-        bonne = bonne && memes("SELECT count(*) FROM " + guillemets(table));
+        bonne = bonne && memes("SELECT count(*) FROM " + util::entreGuillemets(table));
     if (!bonne) jette(kErreurFormat, "La copie de la base n'est pas identique à l'originale.");
 }
 
@@ -56,13 +50,13 @@ void efface(const std::string& destination) {
 }  // namespace
 
 void CompactDatabase(const std::string& source, const std::string& destination, const std::function<void()>& ensuite) {
-    const auto base = interne::ouvreBase(source, true);
+    Poignee base = interne::ouvreBase(source, true);
     std::error_code erreur;
     if (fs::exists(destination, erreur)) jette(kErreurFichierExiste, "Le fichier « " + destination + " » existe déjà.");
     try {
-        base->execute("PRAGMA journal_mode=DELETE");  // else the old log would be taken for the copy's
-        base->execute("VACUUM INTO ?1", destination);
-        verifie(*base, destination);
+        base.execute("PRAGMA journal_mode=DELETE");  // else the old log would be taken for the copy's
+        base.prepare("VACUUM INTO ?1").lie(1, destination).execute();
+        verifie(base, destination);
         fs::permissions(destination, fs::status(source).permissions(), erreur);
         synchronise(destination);
         if (ensuite) ensuite();

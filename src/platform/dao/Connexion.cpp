@@ -1,8 +1,9 @@
 #include "platform/dao/Connexion.h"
 
-#include "platform/dao/AccesValeur.h"
 #include "platform/dao/Erreurs.h"
+#include "platform/dao/Fonctions.h"
 #include "platform/dao/Jeu.h"
+#include "util/Ascii.h"
 
 #include <algorithm>
 
@@ -21,98 +22,59 @@ std::optional<std::pair<dev_t, ino_t>> fichierNomme(const std::string& chemin) {
 
 }  // namespace
 
-Requete::~Requete() {
-    sqlite3_reset(m_brute);
-    sqlite3_clear_bindings(m_brute);
+Regard::Regard(Connexion& connexion) : m_connexion(connexion), m_ouvert(!connexion.enTransaction()) {
+    if (m_ouvert) m_connexion.prepare("BEGIN").execute();
 }
 
-Requete& Requete::lie(int rang, long long entier) {
-    sqlite3_bind_int64(m_brute, rang, entier);
-    return *this;
-}
-
-Requete& Requete::lie(int rang, const Valeur& valeur) {
-    AccesValeur::lie(m_brute, rang, valeur);
-    return *this;
-}
-
-bool Requete::avance() {
-    const int code = sqlite3_step(m_brute);
-    if (code == SQLITE_ROW) return true;
-    if (code == SQLITE_DONE) return false;
-    // BEGIN IMMEDIATE counts as writing; what ends a transaction that wrote does not, and its state tells.
-    const bool lit = sqlite3_stmt_readonly(m_brute) != 0 && sqlite3_txn_state(m_base, "main") != SQLITE_TXN_WRITE;
-    jetteSqlite(m_base, code, lit ? Acces::Lecture : Acces::Ecriture);
-}
-
-void Requete::execute() {
-    while (avance()) {
-    }
-}
-
-long long Requete::entier(int colonne) const {
-    return sqlite3_column_int64(m_brute, colonne);
-}
-Valeur Requete::valeur(int colonne) const {
-    return AccesValeur::lit(m_brute, colonne);
-}
-
-Connexion::Connexion(sqlite3* base, std::string nom)
-    : m_base(base), m_nom(std::move(nom)), m_fichier(fichierNomme(m_nom)) {
+// Nothing was written, so nothing can be lost by a failure here.
+Regard::~Regard() {
+    if (!m_ouvert || !m_connexion.enTransaction()) return;
     try {
-        m_versionDuFichier = versionDuFichier();
+        m_connexion.prepare("ROLLBACK").execute();
     } catch (...) {
-        for (const auto& [sql, requete] : m_requetes)
-            sqlite3_finalize(requete);
-        sqlite3_close(m_base);
-        throw;
     }
+}
+
+Connexion::Connexion(Poignee base, std::string nom)
+    : m_base(std::move(base)), m_nom(std::move(nom)), m_fichier(fichierNomme(m_nom)) {
+    inscritFonctions(brute());
+    m_versionDuFichier = versionDuFichier();
 }
 
 Connexion::~Connexion() {
     for (Jeu* jeu : m_jeux)
         jeu->perdLaBase();
-    for (const auto& [sql, requete] : m_requetes)
-        sqlite3_finalize(requete);
-    sqlite3_close(m_base);  // rolls back what was not confirmed
-}
-
-Requete Connexion::prepare(const std::string& sql) {
-    auto& requete = m_requetes[sql];
-    if (requete == nullptr) {
-        const int code = sqlite3_prepare_v3(m_base, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
-                                            &requete, nullptr);
-        if (code != SQLITE_OK) {
-            m_requetes.erase(sql);
-            jetteSqlite(m_base, code, Acces::Lecture);  // only the schema was looked at
-        }
-    }
-    return {m_base, requete};
 }
 
 void Connexion::execute(std::string_view sql) {
-    const int code = sqlite3_exec(m_base, std::string(sql).c_str(), nullptr, nullptr, nullptr);
+    const int code = m_base.essaie(std::string(sql));
     relitLesTables();  // the statements may have changed any of them
     oublieLesLignes();
-    if (code != SQLITE_OK) jetteSqlite(m_base, code, Acces::Ecriture);
+    if (code != SQLITE_OK) jetteSqlite(brute(), code, Acces::Ecriture);
 }
 
 Table& Connexion::table(std::string_view nom) {
     std::string cle(nom);
-    std::transform(cle.begin(), cle.end(), cle.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+    std::transform(cle.begin(), cle.end(), cle.begin(), util::enMinuscule<char>);
     auto trouvee = m_tables.find(cle);
     if (trouvee == m_tables.end()) {
         auto lue = litTable(*this, cle);
         if (lue == nullptr)
             jette(kErreurTableIntrouvable, "La table « " + std::string(nom) + " » n'existe pas dans la base.");
+        lue->adopteCle(m_cles);
         trouvee = m_tables.emplace(std::move(cle), std::move(lue)).first;
     }
     return *trouvee->second;
 }
 
+void Connexion::declareCles(std::vector<Cle> cles) {
+    m_cles = std::move(cles);
+    for (const auto& [nom, table] : m_tables)
+        table->adopteCle(m_cles);
+}
+
 bool Connexion::enTransaction() const {
-    return sqlite3_get_autocommit(m_base) == 0;
+    return sqlite3_get_autocommit(brute()) == 0;
 }
 
 void Connexion::commence() {
@@ -190,11 +152,6 @@ void Connexion::oublieLesLignes() {
         table->suivi.index.oublie();
         table->suivi.ecrites.clear();  // recordsets of an earlier epoch read every value again
     }
-}
-
-long long Connexion::versionDuFichier() {
-    Requete version = prepare("PRAGMA data_version");
-    return version.avance() ? version.entier(0) : 0;
 }
 
 }  // namespace dao::interne

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/dao/Database.h"
+#include "platform/dao/Poignee.h"
 #include "platform/dao/Table.h"
-#include "platform/dao/Valeur.h"
 
 #include <cstdint>
 #include <map>
@@ -10,57 +10,32 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
 #include <sys/types.h>
 
-struct sqlite3;
-struct sqlite3_stmt;
-
 namespace dao::interne {
 
 class Jeu;
 
-// A prepared statement in use: given back, reset, when it goes. Values are bound before the first row is asked for.
-class Requete {
-  public:
-    Requete(sqlite3* base, sqlite3_stmt* brute) : m_base(base), m_brute(brute) {}
-    Requete(const Requete&) = delete;
-    Requete& operator=(const Requete&) = delete;
-    ~Requete();
-
-    Requete& lie(int rang, long long entier);
-    Requete& lie(int rang, const Valeur& valeur);
-    bool avance();  // to the next row, if there is one; throws ErreurDao
-    void execute();
-    [[nodiscard]] long long entier(int colonne) const;
-    [[nodiscard]] Valeur valeur(int colonne) const;
-    [[nodiscard]] sqlite3_stmt* brute() const { return m_brute; }
-
-  private:
-    sqlite3* m_base;
-    sqlite3_stmt* m_brute;
-};
-
 // One open file: its prepared statements, its tables, its transaction, the recordsets that stand on it.
 class Connexion {
   public:
-    Connexion(sqlite3* base, std::string nom);  // takes the base over
+    Connexion(Poignee base, std::string nom);
     Connexion(const Connexion&) = delete;
     Connexion& operator=(const Connexion&) = delete;
     ~Connexion();
 
-    [[nodiscard]] sqlite3* brute() const { return m_base; }
+    [[nodiscard]] sqlite3* brute() const { return m_base.brute(); }
     [[nodiscard]] const std::string& nom() const { return m_nom; }
 
-    // Prepared once for each text. The same text must not be asked for again while it is in use.
-    [[nodiscard]] Requete prepare(const std::string& sql);
+    [[nodiscard]] Requete prepare(const std::string& sql) { return m_base.prepare(sql); }
     void execute(std::string_view sql);  // any statements, prepared for this once
 
     // Throws ErreurDao 3078. The table lives as long as the connection.
     [[nodiscard]] Table& table(std::string_view nom);
+    void declareCles(std::vector<Cle> cles);
 
     void commence();
     void confirme();
@@ -87,19 +62,32 @@ class Connexion {
     void suitLeFichier();
     void relitLesTables();
     void oublieLesLignes();
-    long long versionDuFichier();
+    [[nodiscard]] long long versionDuFichier() { return m_base.entier("PRAGMA data_version"); }
     void exigeEnPlace() const;
 
-    sqlite3* m_base;
+    Poignee m_base;
     std::string m_nom;
-    std::optional<std::pair<dev_t, ino_t>> m_fichier;  // the one that was opened
-    std::unordered_map<std::string, sqlite3_stmt*> m_requetes;
+    std::optional<std::pair<dev_t, ino_t>> m_fichier;                     // the one that was opened
     std::map<std::string, std::unique_ptr<Table>, std::less<>> m_tables;  // by lower-case name
+    std::vector<Cle> m_cles;
     std::vector<Jeu*> m_jeux;
     bool m_commencee = false;
     std::uint64_t m_epoque = 0;
     std::uint64_t m_version = 0;
     long long m_versionDuFichier = 0;
+};
+
+// One state of the file, and one lock on it, for several readings.
+class Regard {
+  public:
+    explicit Regard(Connexion& connexion);
+    Regard(const Regard&) = delete;
+    Regard& operator=(const Regard&) = delete;
+    ~Regard();
+
+  private:
+    Connexion& m_connexion;
+    bool m_ouvert;
 };
 
 // Reads the columns of a table. Null when the base has no plain table of that name.

@@ -16,7 +16,7 @@ using interne::jette;
 using interne::Poignee;
 
 Database OpenDatabase(const std::string& chemin, bool exclusif) {
-    return Database(std::make_unique<interne::Connexion>(interne::ouvreBase(chemin, exclusif)->cede(), chemin));
+    return Database(std::make_unique<interne::Connexion>(interne::ouvreBase(chemin, exclusif), chemin));
 }
 
 void CreateDatabase(const std::string& chemin, std::string_view schema) {

@@ -41,6 +41,10 @@ Recordset Database::OpenRecordset(std::string_view source) {
     return Recordset(std::make_unique<interne::JeuDeCles>(connexion, plan, interne::execute(connexion, plan)));
 }
 
+void Database::declareCles(std::vector<Cle> cles) {
+    ouverte(m_connexion).declareCles(std::move(cles));
+}
+
 void Database::prepareLesRecherches(std::string_view table) {
     interne::Connexion& connexion = ouverte(m_connexion);
     connexion.veille();

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace dao {
 
@@ -15,6 +16,12 @@ class Connexion;
 
 // What a base's path leads to: the file that was opened, nothing, or another file.
 enum class Emplacement { EnPlace, Absente, Remplacee };
+
+// Two columns that name a row together. A row is looked up by their two texts in no time; Null is "" in them, unless it
+// stands in both; and rows that a statement leaves equal follow one another by the first table's key.
+struct Cle {
+    std::string premiere, seconde;
+};
 
 // One open base. It must outlive the recordsets opened on it; Close closes them first.
 class Database {
@@ -29,8 +36,12 @@ class Database {
     // Jet's text comparison. Throws ErreurDao 3075 (syntax), 3061 (unknown column), 3078 (unknown table), or a disk error.
     [[nodiscard]] Recordset OpenRecordset(std::string_view source);
 
-    // Reads now what finding a film of this table by its title and director takes, which the first look-up would
-    // otherwise do. Throws ErreurDao 3078, or a disk error.
+    // What rows are found by, in whichever table has both columns of a pair. Without it, rows are looked up by reading
+    // all of them, and what Cle says does not hold. To be called before anything is opened on the base.
+    void declareCles(std::vector<Cle> cles);
+
+    // Reads now what finding a row of this table by its key takes, which the first look-up would otherwise do. Throws
+    // ErreurDao 3078, or a disk error.
     void prepareLesRecherches(std::string_view table);
 
     // Runs a statement of SQLite's own as it is: for the schema and for tools, not for the program's statements.

@@ -1,8 +1,6 @@
 #include "platform/dao/Ecriture.h"
 
-#include "platform/dao/AccesValeur.h"
 #include "platform/dao/Erreurs.h"
-#include "platform/dao/Jointure.h"
 
 #include <algorithm>
 #include <optional>
@@ -14,33 +12,28 @@ namespace dao::interne {
 namespace {
 
 std::string clauseDeLigne(const Table& table) {
-    return " FROM " + table.nomSql() + " WHERE " + table.ligneSql + "=?1";
+    return " FROM " + table.nomSql + " WHERE " + table.ligneSql + "=?1";
 }
 
-// Null stands where "" does.
-std::uint64_t hachageDeColonnes(sqlite3_stmt* requete, int titre) {
-    const ValeurVue gauche = vueDeColonne(requete, titre);
-    const ValeurVue droite = vueDeColonne(requete, titre + 1);
-    std::string tamponGauche;
-    std::string tamponDroit;
-    return hacheFilm(texteDe(gauche, tamponGauche), texteDe(droite, tamponDroit));
+// Of the key that stands in these two columns of a requete's row; Null stands where "" does.
+std::uint64_t hachageDeColonnes(const Requete& requete, int premiere) {
+    std::string tampon, autreTampon;
+    return hacheCle(texteDe(requete.vue(premiere), tampon), texteDe(requete.vue(premiere + 1), autreTampon));
 }
 
 std::optional<std::uint64_t> hachageDeLigne(Connexion& connexion, const Table& table, long long ligne) {
-    Requete lecture = connexion.prepare("SELECT " + table.colonneSql(table.titre) + "," +
-                                        table.colonneSql(table.realisateur) + clauseDeLigne(table));
+    Requete lecture = connexion.prepare("SELECT " + table.clesSql() + clauseDeLigne(table));
     lecture.lie(1, ligne);
-    return lecture.avance() ? std::optional(hachageDeColonnes(lecture.brute(), 0)) : std::nullopt;
+    return lecture.avance() ? std::optional(hachageDeColonnes(lecture, 0)) : std::nullopt;
 }
 
 void construitIndex(Connexion& connexion, Table& table) {
-    Requete lecture = connexion.prepare("SELECT " + table.ligneSql + "," + table.colonneSql(table.titre) + "," +
-                                        table.colonneSql(table.realisateur) + " FROM " + table.nomSql());
-    IndexDesFilms& index = table.suivi.index;
+    Requete lecture = connexion.prepare("SELECT " + table.ligneSql + "," + table.clesSql() + " FROM " + table.nomSql);
+    IndexDeCles& index = table.suivi.index;
     index.commence(static_cast<std::size_t>(table.suivi.compte.value_or(0)));
     try {
         while (lecture.avance())
-            index.ajoute(hachageDeColonnes(lecture.brute(), 1), lecture.entier(0));
+            index.ajoute(hachageDeColonnes(lecture, 1), lecture.entier(0));
     } catch (...) {
         index.oublie();
         throw;
@@ -91,9 +84,9 @@ long long ajouteLigne(Connexion& connexion, Table& table, const Assignees& assig
     for (std::size_t i = 0; i < assignees.size(); ++i)
         places.append(",?").append(std::to_string(i + 2));
     {
-        Requete ajout = connexion.prepare("INSERT INTO " + table.nomSql() + "(" + ligneSql +
+        Requete ajout = connexion.prepare("INSERT INTO " + table.nomSql + "(" + ligneSql +
                                           listeSql(table, assignees, "") + ") VALUES (max(?1,coalesce((SELECT max(" +
-                                          ligneSql + ") FROM " + table.nomSql() + "),0)+1)" + places + ")");
+                                          ligneSql + ") FROM " + table.nomSql + "),0)+1)" + places + ")");
         ajout.lie(1, suivi.plusHaute + 1);
         lieTout(ajout, assignees);
         ajout.execute();
@@ -111,7 +104,7 @@ void modifieLigne(Connexion& connexion, Table& table, long long ligne, const Ass
     const auto ancien = aSuivre ? hachageDeLigne(connexion, table, ligne) : std::nullopt;
     {
         Requete modification =
-            connexion.prepare("UPDATE " + table.nomSql() + " SET " + listeSql(table, assignees, "=").substr(1) +
+            connexion.prepare("UPDATE " + table.nomSql + " SET " + listeSql(table, assignees, "=").substr(1) +
                               " WHERE " + table.ligneSql + "=?1");
         modification.lie(1, ligne);
         lieTout(modification, assignees);
@@ -136,7 +129,7 @@ void supprimeLigne(Connexion& connexion, Table& table, long long ligne) {
     connexion.nouvelleVersion();
 }
 
-Valeur litChamp(Connexion& connexion, const Table& table, int colonne, long long ligne) {
+Valeur litChamp(Connexion& connexion, const Table& table, RangColonne colonne, long long ligne) {
     Requete lecture = connexion.prepare("SELECT " + table.colonneSql(colonne) + clauseDeLigne(table));
     lecture.lie(1, ligne);
     if (!lecture.avance()) jetteSupprime();
@@ -144,13 +137,13 @@ Valeur litChamp(Connexion& connexion, const Table& table, int colonne, long long
 }
 
 void prepareIndex(Connexion& connexion, Table& table) {
-    if (table.aUneCle() && !table.suivi.index.estConstruit()) construitIndex(connexion, table);
+    if (table.cle && !table.suivi.index.estConstruit()) construitIndex(connexion, table);
 }
 
-std::vector<long long> candidats(Connexion& connexion, Table& table, std::string_view titre,
-                                 std::string_view realisateur) {
+std::vector<long long> candidats(Connexion& connexion, Table& table, std::string_view premiere,
+                                 std::string_view seconde) {
     prepareIndex(connexion, table);
-    return table.suivi.index.candidats(hacheFilm(titre, realisateur));
+    return table.suivi.index.candidats(hacheCle(premiere, seconde));
 }
 
 }  // namespace dao::interne

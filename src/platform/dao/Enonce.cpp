@@ -1,16 +1,82 @@
 #include "platform/dao/Enonce.h"
 
-#include "platform/dao/Analyse.h"
 #include "platform/dao/Erreurs.h"
-
-#include <array>
-#include <utility>
+#include "util/Ascii.h"
 
 namespace dao::interne {
 
 namespace {
 
-using Genre = Expression::Genre;
+// One word of a statement. A quoted text stands without its quotes, its doubled quotes made single.
+struct Mot {
+    enum class Nature { Nom, Texte, Signe, Fin };
+
+    Nature nature = Nature::Fin;
+    std::string texte{};
+};
+
+bool estChiffre(char c) {
+    return c >= '0' && c <= '9';
+}
+bool estLettre(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || static_cast<unsigned char>(c) >= 0x80;
+}
+bool estBlanc(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+// Where the text that opens at `debut` ends, past its closing quote; its content goes to `contenu`.
+std::size_t litTexte(std::string_view enonce, std::size_t debut, std::string& contenu) {
+    const char guillemet = enonce[debut];
+    for (std::size_t i = debut + 1; i < enonce.size(); ++i) {
+        if (enonce[i] != guillemet) {
+            contenu += enonce[i];
+        } else if (i + 1 < enonce.size() && enonce[i + 1] == guillemet) {
+            contenu += enonce[i++];
+        } else {
+            return i + 1;
+        }
+    }
+    jette(kErreurSyntaxe, "Erreur de syntaxe : un texte n'est pas fermé dans la requête.");
+}
+
+template <typename Predicat>
+std::size_t finDeSuite(std::string_view enonce, std::size_t debut, Predicat appartient) {
+    while (debut < enonce.size() && appartient(enonce[debut]))
+        ++debut;
+    return debut;
+}
+
+std::size_t litMot(std::string_view enonce, std::size_t debut, Mot& mot) {
+    const char premier = enonce[debut];
+    if (premier == '"' || premier == '\'') {
+        mot.nature = Mot::Nature::Texte;
+        return litTexte(enonce, debut, mot.texte);
+    }
+    std::size_t fin = debut + 1;
+    if (estLettre(premier)) {
+        mot.nature = Mot::Nature::Nom;
+        fin = finDeSuite(enonce, debut, [](char c) { return estLettre(c) || estChiffre(c); });
+    } else {
+        mot.nature = Mot::Nature::Signe;
+        if (enonce.substr(debut, 2) == "<>") ++fin;
+        if (!estChiffre(premier) && std::string_view("=<>+(),.;*").find(premier) == std::string_view::npos)
+            jette(kErreurSyntaxe,
+                  std::string("Erreur de syntaxe : caractère inattendu dans la requête (") + premier + ").");
+    }
+    mot.texte = enonce.substr(debut, fin - debut);
+    return fin;
+}
+
+// The last is Fin. Throws ErreurDao 3075 at what is no word.
+std::vector<Mot> coupeEnMots(std::string_view enonce) {
+    std::vector<Mot> mots;
+    for (std::size_t i = finDeSuite(enonce, 0, estBlanc); i < enonce.size(); i = finDeSuite(enonce, i, estBlanc)) {
+        i = litMot(enonce, i, mots.emplace_back());
+    }
+    mots.emplace_back();
+    return mots;
+}
 
 class Analyseur {
   public:
@@ -18,23 +84,20 @@ class Analyseur {
 
     Enonce enonce() {
         Enonce enonce;
-        attendMotCle("SELECT");
-        if (mangeMotCle("DISTINCT")) {
-            enonce.distinct = true;
-        } else {
-            mangeMotCle("DISTINCTROW");
-        }
-        if (!mangeSigne("*")) enonce.colonnes = liste(&Analyseur::colonne);
-        attendMotCle("FROM");
+        attend("SELECT");
+        enonce.distinct = mange("DISTINCT");
+        if (!enonce.distinct) mange("DISTINCTROW");
+        if (!mange("*")) enonce.colonnes = liste(&Analyseur::colonne, ",");
+        attend("FROM");
         enonce.table = nom();
         enonce.jointure = jointure();
-        if (mangeMotCle("WHERE")) enonce.condition = expression();
-        if (mangeMotCle("ORDER")) {
-            attendMotCle("BY");
-            enonce.tris = liste(&Analyseur::tri);
+        if (mange("WHERE")) enonce.termes = liste(&Analyseur::terme, "AND");
+        if (mange("ORDER")) {
+            attend("BY");
+            enonce.tris = liste(&Analyseur::tri, ",");
         }
-        mangeSigne(";");
-        if (mot().genre != Mot::Genre::Fin) inattendu();
+        mange(";");
+        if (mot().nature != Mot::Nature::Fin) inattendu();
         return enonce;
     }
 
@@ -42,191 +105,134 @@ class Analyseur {
     const Mot& mot() const { return m_mots[m_rang]; }
 
     [[noreturn]] void inattendu() const {
-        const bool fin = mot().genre == Mot::Genre::Fin;
+        const bool fin = mot().nature == Mot::Nature::Fin;
         jette(kErreurSyntaxe, "Erreur de syntaxe dans la requête, " +
                                   (fin ? std::string("à la fin.") : "près de « " + mot().texte + " »."));
     }
 
-    bool estMotCle(std::string_view motCle) const {
-        return mot().genre == Mot::Genre::Nom && egalSansCasseAscii(mot().texte, motCle);
+    // A keyword or a sign.
+    bool mange(std::string_view attendu) {
+        const bool present = mot().nature != Mot::Nature::Texte && util::egalSansCasseAscii(mot().texte, attendu);
+        if (present) ++m_rang;
+        return present;
     }
-    bool estSigne(std::string_view signe) const { return mot().genre == Mot::Genre::Signe && mot().texte == signe; }
-    bool mangeMotCle(std::string_view motCle) { return estMotCle(motCle) && ++m_rang != 0; }
-    bool mangeSigne(std::string_view signe) { return estSigne(signe) && ++m_rang != 0; }
-    void attendMotCle(std::string_view motCle) {
-        if (!mangeMotCle(motCle)) inattendu();
-    }
-    void attendSigne(std::string_view signe) {
-        if (!mangeSigne(signe)) inattendu();
+    void attend(std::string_view attendu) {
+        if (!mange(attendu)) inattendu();
     }
 
-    bool estReserve() const {
-        static constexpr std::array<std::string_view, 14> kReserves{
-            "SELECT", "FROM", "WHERE", "ORDER", "BY", "INNER", "LEFT", "JOIN", "ON", "AND", "OR", "NOT", "IS", "LIKE"};
-        for (const auto reserve : kReserves) {
-            if (estMotCle(reserve)) return true;
-        }
-        return false;
-    }
-
-    std::string nom() {
-        const bool convient =
-            mot().genre == Mot::Genre::NomEntreCrochets || (mot().genre == Mot::Genre::Nom && !estReserve());
-        if (!convient) inattendu();
+    std::string contenu(Mot::Nature nature) {
+        if (mot().nature != nature) inattendu();
         return m_mots[m_rang++].texte;
     }
+    std::string nom() { return contenu(Mot::Nature::Nom); }
+    std::string texte() { return contenu(Mot::Nature::Texte); }
 
     NomDeColonne colonne() {
         NomDeColonne resultat{{}, nom()};
-        if (mangeSigne(".")) {
+        if (mange(".")) {
             resultat.table = std::move(resultat.nom);
             resultat.nom = nom();
         }
         return resultat;
     }
 
-    Tri tri() {
-        Tri resultat{colonne()};
-        resultat.decroissant = mangeMotCle("DESC");
-        if (!resultat.decroissant) mangeMotCle("ASC");
+    NomDeColonne tri() {
+        NomDeColonne resultat = colonne();
+        mange("ASC");
         return resultat;
     }
 
     template <typename Element>
-    std::vector<Element> liste(Element (Analyseur::*element)()) {
+    std::vector<Element> liste(Element (Analyseur::*element)(), std::string_view separateur) {
         std::vector<Element> resultat;
         do
             resultat.push_back((this->*element)());
-        while (mangeSigne(","));
+        while (mange(separateur));
+        if (m_ouvertes != 0) inattendu();
         return resultat;
+    }
+
+    // Where AND alone connects, parentheses say nothing: they only have to be closed.
+    void ouvre() {
+        while (mange("("))
+            ++m_ouvertes;
+    }
+    void ferme() {
+        while (m_ouvertes > 0 && mange(")"))
+            --m_ouvertes;
     }
 
     std::optional<Jointure> jointure() {
         Jointure resultat;
-        if (mangeMotCle("LEFT")) {
-            resultat.gauche = true;
-        } else if (!mangeMotCle("INNER")) {
-            return std::nullopt;
-        }
-        attendMotCle("JOIN");
+        resultat.gauche = mange("LEFT");
+        if (!resultat.gauche && !mange("INNER")) return std::nullopt;
+        attend("JOIN");
         resultat.table = nom();
-        attendMotCle("ON");
-        resultat.condition = expression();
+        attend("ON");
+        resultat.egalites = liste(&Analyseur::egalite, "AND");
         return resultat;
     }
 
-    static Expression noeud(Genre genre, std::vector<Expression> termes) {
-        Expression resultat;
-        resultat.genre = genre;
-        resultat.termes = std::move(termes);
+    std::pair<NomDeColonne, NomDeColonne> egalite() {
+        ouvre();
+        NomDeColonne gauche = colonne();
+        attend("=");
+        NomDeColonne droite = colonne();
+        ferme();
+        return {std::move(gauche), std::move(droite)};
+    }
+
+    Terme terme() {
+        ouvre();
+        Terme resultat = mange("INSTR") ? contient() : compare();
+        ferme();
         return resultat;
     }
 
-    static Expression paire(Genre genre, Expression gauche, Expression droite) {
-        std::vector<Expression> termes;
-        termes.push_back(std::move(gauche));
-        termes.push_back(std::move(droite));
-        return noeud(genre, std::move(termes));
-    }
-
-    static Expression seul(Genre genre, Expression terme) {
-        std::vector<Expression> termes;
-        termes.push_back(std::move(terme));
-        return noeud(genre, std::move(termes));
-    }
-
-    // Or, and, not, comparison, sum, leaf: from the loosest to the tightest. OR and AND hold any number of terms.
-    Expression expression() {
-        constexpr int kProfondeurMax = 200;
-        if (++m_profondeur > kProfondeurMax) jette(kErreurSyntaxe, "Erreur de syntaxe : la requête est trop complexe.");
-        Expression resultat =
-            suite(Genre::Ou, "OR", [this] { return suite(Genre::Et, "AND", [this] { return negation(); }); });
-        --m_profondeur;
+    // The first INSTR is read already; all of them look for the same text.
+    Terme contient() {
+        Terme resultat{Terme::Epreuve::Contient};
+        do {
+            if (!resultat.colonnes.empty()) attend("INSTR");
+            attend("(");
+            resultat.colonnes.push_back(colonne());
+            attend(",");
+            if (resultat.colonnes.size() > 1 && mot().texte != resultat.texte) inattendu();
+            resultat.texte = texte();
+            attend(")");
+        } while (mange("+"));
+        attend(">");
+        attend("0");
         return resultat;
     }
 
-    template <typename Terme>
-    Expression suite(Genre genre, std::string_view motCle, Terme terme) {
-        Expression premier = terme();
-        if (!estMotCle(motCle)) return premier;
-        Expression resultat = seul(genre, std::move(premier));
-        while (mangeMotCle(motCle))
-            resultat.termes.push_back(terme());
-        return resultat;
-    }
-
-    Expression negation() {
-        bool nie = false;
-        while (mangeMotCle("NOT"))
-            nie = !nie;
-        Expression resultat = comparaison();
-        return nie ? seul(Genre::Non, std::move(resultat)) : resultat;
-    }
-
-    Expression comparaison() {
-        Expression gauche = somme();
-        if (mangeMotCle("IS")) {
-            const bool non = mangeMotCle("NOT");
-            attendMotCle("NULL");
-            return seul(non ? Genre::EstNonNul : Genre::EstNul, std::move(gauche));
-        }
-        if (mangeMotCle("LIKE")) return paire(Genre::Comme, std::move(gauche), somme());
-        static const std::array<std::pair<std::string_view, Genre>, 6> kSignes{{{"=", Genre::Egal},
-                                                                                {"<>", Genre::Different},
-                                                                                {"<", Genre::Inferieur},
-                                                                                {"<=", Genre::InferieurOuEgal},
-                                                                                {">", Genre::Superieur},
-                                                                                {">=", Genre::SuperieurOuEgal}}};
-        for (const auto& [signe, genre] : kSignes) {
-            if (mangeSigne(signe)) return paire(genre, std::move(gauche), somme());
-        }
-        return gauche;
-    }
-
-    Expression somme() {
-        Expression resultat = feuille();
-        while (estSigne("+") || estSigne("-")) {
-            const Genre genre = estSigne("+") ? Genre::Plus : Genre::Moins;
-            ++m_rang;
-            resultat = paire(genre, std::move(resultat), feuille());
-        }
-        return resultat;
-    }
-
-    Expression feuille() {
-        if (mangeSigne("(")) {
-            Expression resultat = expression();
-            attendSigne(")");
+    Terme compare() {
+        Terme resultat{Terme::Epreuve::Egal, {colonne()}};
+        ferme();
+        if (mange("IS")) {
+            attend("NULL");
+            resultat.epreuve = Terme::Epreuve::EstNul;
             return resultat;
         }
-        Expression resultat;
-        if (mot().genre == Mot::Genre::Texte || mot().genre == Mot::Genre::Nombre) {
-            resultat.genre = mot().genre == Mot::Genre::Texte ? Genre::Texte : Genre::Nombre;
-            resultat.texte = mot().texte;
-            resultat.nombre = mot().nombre;
-            ++m_rang;
+        if (mange("LIKE")) {
+            resultat.epreuve = Terme::Epreuve::CommencePar;
+            resultat.texte = texte();
+            const std::size_t fin = resultat.texte.find_first_of("*?#[");
+            if (fin == 0 || fin + 1 != resultat.texte.size() || resultat.texte.back() != '*') inattendu();
+            resultat.texte.pop_back();
             return resultat;
         }
-        if (mangeMotCle("NULL")) return resultat;
-        if (estMotCle("INSTR")) return appelInstr();
-        resultat.genre = Genre::Colonne;
-        resultat.colonne = colonne();
+        if (mange("<>"))
+            resultat.epreuve = Terme::Epreuve::Different;
+        else
+            attend("=");
+        resultat.texte = texte();
         return resultat;
-    }
-
-    Expression appelInstr() {
-        ++m_rang;
-        attendSigne("(");
-        Expression texte = expression();
-        attendSigne(",");
-        Expression cherche = expression();
-        attendSigne(")");
-        return paire(Genre::Instr, std::move(texte), std::move(cherche));
     }
 
     std::vector<Mot> m_mots;
     std::size_t m_rang = 0;
-    int m_profondeur = 0;
+    int m_ouvertes = 0;
 };
 
 }  // namespace

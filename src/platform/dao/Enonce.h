@@ -3,9 +3,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-// A SELECT of the program as a tree: what it says, nothing yet of the tables that a base holds.
+// A SELECT of the program, taken apart: what it says, nothing yet of the tables that a base holds.
 namespace dao::interne {
 
 struct NomDeColonne {
@@ -13,45 +14,24 @@ struct NomDeColonne {
     std::string nom;
 };
 
-struct Expression {
-    enum class Genre {
-        Texte,
-        Nombre,
-        Nul,
-        Colonne,  // leaves
-        Ou,
-        Et,
-        Non,  // conditions
-        Egal,
-        Different,
-        Inferieur,
-        InferieurOuEgal,
-        Superieur,
-        SuperieurOuEgal,
-        Comme,
-        EstNul,
-        EstNonNul,
-        Plus,
-        Moins,
-        Instr
+// One of the conditions that a row must meet: what it asks of a column, or of several.
+struct Terme {
+    enum class Epreuve {
+        Egal,         // a = "x"
+        Different,    // a <> "x"
+        Contient,     // INSTR(a, "x")+INSTR(b, "x")>0
+        CommencePar,  // a LIKE "x*"
+        EstNul        // a IS NULL
     };
-
-    Genre genre = Genre::Nul;
+    Epreuve epreuve = Epreuve::Egal;
+    std::vector<NomDeColonne> colonnes{};
     std::string texte{};
-    double nombre = 0;
-    NomDeColonne colonne{};
-    std::vector<Expression> termes{};
 };
 
 struct Jointure {
     bool gauche = false;  // LEFT JOIN: the first table's rows stay without a partner
     std::string table;
-    Expression condition;
-};
-
-struct Tri {
-    NomDeColonne colonne;
-    bool decroissant = false;
+    std::vector<std::pair<NomDeColonne, NomDeColonne>> egalites;
 };
 
 struct Enonce {
@@ -59,8 +39,8 @@ struct Enonce {
     std::vector<NomDeColonne> colonnes;  // empty: *
     std::string table;
     std::optional<Jointure> jointure;
-    std::optional<Expression> condition;
-    std::vector<Tri> tris;
+    std::vector<Terme> termes;  // all of them hold
+    std::vector<NomDeColonne> tris;
 };
 
 // Throws ErreurDao 3075 when the text is no statement of this kind.

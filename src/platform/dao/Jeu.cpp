@@ -1,8 +1,7 @@
 #include "platform/dao/Jeu.h"
 
-#include "platform/dao/Analyse.h"
-#include "platform/dao/Ecriture.h"
 #include "platform/dao/Erreurs.h"
+#include "util/Ascii.h"
 
 #include <algorithm>
 
@@ -16,7 +15,7 @@ namespace {
 
 }  // namespace
 
-Jeu::Jeu(Connexion& connexion, std::vector<Table*> tables, std::vector<ChampDeJeu> champs)
+Jeu::Jeu(Connexion& connexion, Par<RangTable, Table*> tables, Par<RangChamp, ChampDeJeu> champs)
     : m_connexion(&connexion), m_tables(std::move(tables)), m_champs(std::move(champs)) {
     connexion.inscrit(*this);
 }
@@ -70,19 +69,18 @@ long Jeu::compte() {
     return combien();
 }
 
-int Jeu::rang(std::string_view nom) const {
+std::optional<RangChamp> Jeu::rang(std::string_view nom) const {
     exigeOuvert();
-    for (std::size_t i = 0; i < m_champs.size(); ++i) {
-        const auto& colonnes = table(m_champs[i].table).colonnes;
-        if (egalSansCasseAscii(colonnes[static_cast<std::size_t>(m_champs[i].colonne)].nom, nom))
-            return static_cast<int>(i);
+    for (const RangChamp rang : m_champs.rangs()) {
+        const auto [ou, colonne] = m_champs[rang];
+        if (util::egalSansCasseAscii(table(ou).colonnes[colonne].nom, nom)) return rang;
     }
-    return -1;
+    return std::nullopt;
 }
 
-int Jeu::rangDeParcours(std::string_view nom) {
-    const int trouve = rang(nom);
-    if (trouve >= 0) vaParcourir(m_champs[static_cast<std::size_t>(trouve)]);
+std::optional<RangChamp> Jeu::rangDeParcours(std::string_view nom) {
+    const auto trouve = rang(nom);
+    if (trouve) vaParcourir(m_champs[*trouve]);
     return trouve;
 }
 
@@ -90,23 +88,23 @@ Valeur Jeu::litDansLaBase(ChampDeJeu champ, long long ligne) const {
     return litChamp(connexion(), table(champ.table), champ.colonne, ligne);
 }
 
-Valeur Jeu::valeur(int rangDeChamp) {
+Valeur Jeu::valeur(std::optional<RangChamp> rangDeChamp) {
     if (m_edition != Edition::Nouveau) exigeCourant();
-    if (rangDeChamp < 0) return "";
-    const ChampDeJeu champ = m_champs[static_cast<std::size_t>(rangDeChamp)];
+    if (!rangDeChamp) return "";
+    const ChampDeJeu champ = m_champs[*rangDeChamp];
     if (m_edition != Edition::Aucune) {
-        const auto assignee = m_assignations.find({champ.table, champ.colonne});
+        const auto assignee = m_assignations.find(champ);
         if (assignee != m_assignations.end()) return assignee->second;
         if (m_edition == Edition::Nouveau) return {};
     }
     return lit(champ);
 }
 
-std::string_view Jeu::vue(int rangDeChamp) {
-    if (rangDeChamp >= 0 && m_edition == Edition::Aucune) {
+std::string_view Jeu::vue(std::optional<RangChamp> rangDeChamp) {
+    if (rangDeChamp && m_edition == Edition::Aucune) {
         exigeCourant();
         std::string_view texte;
-        if (litVue(m_champs[static_cast<std::size_t>(rangDeChamp)], texte)) return texte;
+        if (litVue(m_champs[*rangDeChamp], texte)) return texte;
     }
     return m_tampon = valeur(rangDeChamp).texte();
 }
@@ -120,7 +118,7 @@ void Jeu::nouveau() {
 void Jeu::edite() {
     exigeModifiable();
     exigeCourant();
-    for (int t = 0; t < nombreDeTables(); ++t) {
+    for (const RangTable t : m_tables.rangs()) {
         if (const long long* l = ligne(t); l != nullptr && table(t).suivi.estSupprimee(*l)) jetteSupprime();
     }
     m_assignations.clear();
@@ -130,27 +128,27 @@ void Jeu::edite() {
 void Jeu::assigne(std::string_view nom, const Valeur& valeur) {
     exigeOuvert();
     if (m_edition == Edition::Aucune) jette(kErreurEditSansEdition, "Update ou CancelUpdate sans AddNew ni Edit.");
-    const int rangDeChamp = rang(nom);
-    if (rangDeChamp < 0)
+    const auto rangDeChamp = rang(nom);
+    if (!rangDeChamp)
         jette(kErreurChampIntrouvable, "Le champ « " + std::string(nom) + " » n'existe pas dans ces enregistrements.");
-    const ChampDeJeu champ = m_champs[static_cast<std::size_t>(rangDeChamp)];
+    const ChampDeJeu champ = m_champs[*rangDeChamp];
     if (m_edition == Edition::Courant && ligne(champ.table) == nullptr) {
         jette(kErreurNonModifiable, "Le champ « " + std::string(nom) + " » n'a pas de ligne dans sa table.");
     }
-    m_assignations[{champ.table, champ.colonne}] = valeur;
+    m_assignations[champ] = valeur;
 }
 
-std::vector<std::pair<int, Valeur>> Jeu::assigneesDe(int rangDeTable) const {
+Assignees Jeu::assigneesDe(RangTable table) const {
     Assignees resultat;
     for (const auto& [champ, valeur] : m_assignations) {
-        if (champ.first == rangDeTable) resultat.emplace_back(champ.second, valeur);
+        if (champ.table == table) resultat.emplace_back(champ.colonne, valeur);
     }
     return resultat;
 }
 
 void Jeu::ecritLignes(Connexion& base) {
-    std::vector<long long> ajoutees;
-    for (int t = 0; t < nombreDeTables(); ++t) {
+    Par<RangTable, long long> ajoutees;
+    for (const RangTable t : m_tables.rangs()) {
         const Assignees assignees = assigneesDe(t);
         if (m_edition == Edition::Nouveau) {
             ajoutees.push_back(ajouteLigne(base, table(t), assignees));
@@ -165,7 +163,7 @@ void Jeu::ecrit() {
     Connexion& base = connexion();
     if (m_edition == Edition::Aucune) jette(kErreurEditSansEdition, "Update ou CancelUpdate sans AddNew ni Edit.");
     if (m_edition == Edition::Courant) exigeCourant();
-    const bool sienne = nombreDeTables() > 1 && !base.enTransaction();  // one row alone is whole by itself
+    const bool sienne = m_tables.size() > 1 && !base.enTransaction();  // one row alone is whole by itself
     if (sienne) base.commence();
     try {
         ecritLignes(base);
@@ -181,12 +179,9 @@ void Jeu::supprime() {
     exigeModifiable();
     exigeCourant();
     m_edition = Edition::Aucune;
-    for (int t = nombreDeTables() - 1; t >= 0; --t) {
-        if (const long long* l = ligne(t); l != nullptr) {
-            supprimeLigne(connexion(), table(t), *l);
-            return;
-        }
-    }
+    const long long* seconde = m_tables.size() > 1 ? ligne(kSeconde) : nullptr;
+    const RangTable ou = seconde != nullptr ? kSeconde : kPremiere;
+    supprimeLigne(connexion(), table(ou), *ligne(ou));
 }
 
 }  // namespace dao::interne

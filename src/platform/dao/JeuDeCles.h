@@ -21,27 +21,32 @@ class JeuDeCles : public Jeu {
     void pas(long nombre) override;
     [[nodiscard]] bool estAuBout() const override { return m_position >= taille(); }
     [[nodiscard]] bool aUnCourant() const override { return m_position >= 0 && m_position < taille(); }
-    [[nodiscard]] const long long* ligne(int rangDeTable) override;
+    [[nodiscard]] const long long* ligne(RangTable table) override;
     [[nodiscard]] long combien() override { return taille(); }
     [[nodiscard]] Valeur lit(ChampDeJeu champ) override;
     void vaParcourir(ChampDeJeu champ) override;
     [[nodiscard]] bool litVue(ChampDeJeu champ, std::string_view& texte) override;
     [[nodiscard]] bool estModifiable() const override { return !m_fige; }
-    void accueille(const std::vector<long long>& lignes) override;
+    void accueille(const Par<RangTable, long long>& lignes) override;
 
   private:
-    [[nodiscard]] long taille() const { return static_cast<long>(m_resultat.lignes[0].size()); }
-    [[nodiscard]] std::uint32_t place(int rangDeTable) const;
-    [[nodiscard]] bool gardee(ChampDeJeu champ, Magasin::Valeur& valeur);
+    [[nodiscard]] long taille() const { return static_cast<long>(m_resultat.lignes[kPremiere].size()); }
+    [[nodiscard]] RangLigne place(RangTable table) const {
+        return m_resultat.lignes[table][static_cast<std::size_t>(m_position)];
+    }
+    [[nodiscard]] std::optional<ValeurVue> gardee(ChampDeJeu champ);
     [[nodiscard]] bool litDAvance(ChampDeJeu champ, std::string_view& texte);
-    [[nodiscard]] std::vector<std::optional<long long>> lignesDepuis(int rangDeTable, std::size_t nombre) const;
+    [[nodiscard]] std::vector<std::optional<long long>> lignesDepuis(RangTable table, std::size_t nombre) const;
     void exigePresent();
 
+    struct Gardees {
+        Par<RangColonne, std::optional<RangLu>> rangs;  // where a column is kept with the rows
+        std::size_t lignes;                             // that the statement brought; added ones follow
+    };
     Resultat m_resultat;
-    std::vector<std::vector<int>> m_rangs;  // for each table and column, where it is kept with the rows, or -1
-    std::vector<std::size_t> m_lues;        // for each table, the rows that the statement brought; added ones follow
-    std::vector<LectureDAvance> m_avances;  // for each table
-    bool m_fige;                            // DISTINCT: values that belong to no row
+    Par<RangTable, Gardees> m_gardees;
+    Par<RangTable, LectureDAvance> m_avances;
+    bool m_fige;  // DISTINCT: values that belong to no row
     std::uint64_t m_version;
     std::uint64_t m_epoque;
     long m_position = 0;

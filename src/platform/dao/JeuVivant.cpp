@@ -6,10 +6,10 @@ namespace dao::interne {
 
 namespace {
 
-std::vector<ChampDeJeu> champsDe(const Table& table) {
-    std::vector<ChampDeJeu> champs;
-    for (int c = 0; c < static_cast<int>(table.colonnes.size()); ++c)
-        champs.push_back({0, c});
+Par<RangChamp, ChampDeJeu> champsDe(const Table& table) {
+    Par<RangChamp, ChampDeJeu> champs;
+    for (const RangColonne colonne : table.colonnes.rangs())
+        champs.push_back({kPremiere, colonne});
     return champs;
 }
 
@@ -20,10 +20,10 @@ JeuVivant::JeuVivant(Connexion& connexion, Table& table) : Jeu(connexion, {&tabl
 }
 
 std::optional<long long> JeuVivant::rangee(std::optional<long long> depuis, long n, bool avant) {
-    const std::string& ligneSql = table(0).ligneSql;
+    const std::string& ligneSql = table(kPremiere).ligneSql;
     const std::string borne = depuis ? " WHERE " + ligneSql + (avant ? "<?2" : ">?2") : "";
-    Requete lecture = connexion().prepare("SELECT " + ligneSql + " FROM " + table(0).nomSql() + borne + " ORDER BY " +
-                                          ligneSql + (avant ? " DESC" : "") + " LIMIT 1 OFFSET ?1");
+    Requete lecture = connexion().prepare("SELECT " + ligneSql + " FROM " + table(kPremiere).nomSql + borne +
+                                          " ORDER BY " + ligneSql + (avant ? " DESC" : "") + " LIMIT 1 OFFSET ?1");
     lecture.lie(1, static_cast<long long>(n - 1));
     if (depuis) lecture.lie(2, *depuis);
     return lecture.avance() ? std::optional(lecture.entier(0)) : std::nullopt;
@@ -45,9 +45,9 @@ void JeuVivant::pas(long nombre) {
 }
 
 long JeuVivant::combien() {
-    auto& compte = table(0).suivi.compte;
+    auto& compte = table(kPremiere).suivi.compte;
     if (!compte) {
-        Requete lecture = connexion().prepare("SELECT count(*) FROM " + table(0).nomSql());
+        Requete lecture = connexion().prepare("SELECT count(*) FROM " + table(kPremiere).nomSql);
         lecture.avance();
         compte = static_cast<long>(lecture.entier(0));
     }

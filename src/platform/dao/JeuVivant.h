@@ -17,11 +17,11 @@ class JeuVivant : public Jeu {
     void pas(long nombre) override;
     [[nodiscard]] bool estAuBout() const override { return m_ou == Ou::Apres; }
     [[nodiscard]] bool aUnCourant() const override { return m_ou == Ou::Dedans; }
-    [[nodiscard]] const long long* ligne(int) override { return &m_ligne; }
+    [[nodiscard]] const long long* ligne(RangTable) override { return &m_ligne; }
     [[nodiscard]] long combien() override;
     [[nodiscard]] Valeur lit(ChampDeJeu champ) override { return litDansLaBase(champ, m_ligne); }
     [[nodiscard]] bool litVue(ChampDeJeu, std::string_view&) override { return false; }
-    void accueille(const std::vector<long long>&) override {}
+    void accueille(const Par<RangTable, long long>&) override {}
 
   private:
     enum class Ou { Avant, Dedans, Apres };

@@ -7,34 +7,28 @@
 
 namespace dao::interne {
 
-std::string_view texteDe(const ValeurVue& valeur, std::string& tampon) {
-    if (valeur.genre != ValeurVue::Genre::Nombre) return valeur.texte;
-    return tampon = texteDeNombre(valeur.nombre);
-}
-
-Partenaires::Partenaires(const std::vector<std::uint64_t>& hachages)
+Partenaires::Partenaires(const Par<RangLigne, std::uint64_t>& hachages)
     : m_places(std::bit_ceil(hachages.size() + hachages.size() / 2 + 2)) {
-    for (std::size_t ligne = 0; ligne < hachages.size(); ++ligne) {
+    for (const RangLigne ligne : hachages.rangs()) {
         std::size_t rang = hachages[ligne] & masque();
-        while (m_places[rang].ligne != kLibre)
+        while (m_places[rang].ligne != kSansLigne)
             rang = (rang + 1) & masque();
-        m_places[rang] = {static_cast<std::uint32_t>(hachages[ligne] >> 32), static_cast<std::uint32_t>(ligne)};
+        m_places[rang] = {static_cast<std::uint32_t>(hachages[ligne] >> 32), ligne};
     }
 }
 
-void ClesDeLigne::change(const std::vector<ValeurVue>& valeurs) {
+void ClesDeLigne::change(const Par<RangLu, ValeurVue>& valeurs) {
     m_valeurs = &valeurs;
     std::fill(m_faites.begin(), m_faites.end(), false);
 }
 
-const std::string& ClesDeLigne::cle(int rang) {
-    const auto i = static_cast<std::size_t>(rang);
-    if (!m_faites[i]) {
-        m_cles[i].clear();
-        ajouteCleJet(texteDe((*m_valeurs)[i], m_tampon), m_cles[i]);
-        m_faites[i] = true;
+const std::string& ClesDeLigne::cle(RangLu rang) {
+    if (!m_faites[rang]) {
+        m_cles[rang].clear();
+        ajouteCleJet(texteDe((*m_valeurs)[rang], m_tampon), m_cles[rang]);
+        m_faites[rang] = true;
     }
-    return m_cles[i];
+    return m_cles[rang];
 }
 
 }  // namespace dao::interne

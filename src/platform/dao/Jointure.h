@@ -1,37 +1,33 @@
 #pragma once
 
 #include "platform/dao/AccesValeur.h"
+#include "platform/dao/Rangs.h"
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace dao::interne {
-
-// A value's text; a number's is made in `tampon`.
-[[nodiscard]] std::string_view texteDe(const ValeurVue& valeur, std::string& tampon);
 
 // Rows of a store by the hash of the columns that join; any number of rows under one hash. Eight bytes a place, so that
 // the whole stays near the processor while every film asks it: rows whose hashes are alike by half are answered too, and
 // are compared by value.
 class Partenaires {
   public:
-    explicit Partenaires(const std::vector<std::uint64_t>& hachages);
+    explicit Partenaires(const Par<RangLigne, std::uint64_t>& hachages);
 
     template <typename Visite>
     void chaque(std::uint64_t hachage, Visite visite) const {
         const auto marque = static_cast<std::uint32_t>(hachage >> 32);
-        for (std::size_t rang = hachage & masque(); m_places[rang].ligne != kLibre; rang = (rang + 1) & masque()) {
+        for (std::size_t rang = hachage & masque(); m_places[rang].ligne != kSansLigne; rang = (rang + 1) & masque()) {
             if (m_places[rang].marque == marque) visite(m_places[rang].ligne);
         }
     }
 
   private:
-    static constexpr std::uint32_t kLibre = UINT32_MAX;
     struct Place {
         std::uint32_t marque = 0;
-        std::uint32_t ligne = kLibre;
+        RangLigne ligne = kSansLigne;  // free
     };
     [[nodiscard]] std::size_t masque() const { return m_places.size() - 1; }
 
@@ -43,14 +39,14 @@ class ClesDeLigne {
   public:
     explicit ClesDeLigne(std::size_t colonnes) : m_cles(colonnes), m_faites(colonnes, false) {}
 
-    void change(const std::vector<ValeurVue>& valeurs);
-    [[nodiscard]] const std::string& cle(int rang);
-    [[nodiscard]] const ValeurVue& valeur(int rang) const { return (*m_valeurs)[static_cast<std::size_t>(rang)]; }
+    void change(const Par<RangLu, ValeurVue>& valeurs);
+    [[nodiscard]] const std::string& cle(RangLu rang);
+    [[nodiscard]] const ValeurVue& valeur(RangLu rang) const { return (*m_valeurs)[rang]; }
 
   private:
-    const std::vector<ValeurVue>* m_valeurs = nullptr;
-    std::vector<std::string> m_cles;
-    std::vector<char> m_faites;
+    const Par<RangLu, ValeurVue>* m_valeurs = nullptr;
+    Par<RangLu, std::string> m_cles;
+    Par<RangLu, char> m_faites;
     std::string m_tampon;
 };
 

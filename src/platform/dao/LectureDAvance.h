@@ -14,10 +14,10 @@ namespace dao::interne {
 // together, and once the walk goes on from record to record, those of several records in one look at the file.
 class LectureDAvance {
   public:
-    void demande(int colonne);  // the walk reads this column
+    void demande(RangColonne colonne);  // the walk reads this column
 
     // The text at a position, as long as nobody changed the row since it was read. None: not read, or its row is gone.
-    [[nodiscard]] std::optional<std::string_view> texte(long position, long long ligne, int colonne,
+    [[nodiscard]] std::optional<std::string_view> texte(long position, long long ligne, RangColonne colonne,
                                                         const Connexion& connexion, const Table& table) const;
     // How many records to read from this position on.
     [[nodiscard]] std::size_t combienDepuis(long position) const;
@@ -31,7 +31,7 @@ class LectureDAvance {
         std::vector<std::string> textes;  // of the columns, in their order
     };
 
-    std::vector<int> m_colonnes;
+    std::vector<RangColonne> m_colonnes;
     std::vector<Lue> m_lues;
     std::size_t m_nombre = 0;  // of those in m_lues that hold
     long m_debut = 0;

@@ -6,25 +6,22 @@ namespace {
 
 constexpr int kBitsDePosition = 30;
 constexpr std::uint32_t kMasque = (1U << kBitsDePosition) - 1;
-constexpr std::size_t kTexteMax = 4096;  // a title is never so long; what is stays in the base
+constexpr std::size_t kTexteMax = 4096;            // a title is never so long; what is stays in the base
+constexpr auto kAbsent = ValeurVue::Type::Nombre;  // no value is kept as a number
 
 }  // namespace
 
-std::uint32_t Magasin::ajoute(long long id) {
-    m_ids.push_back(id);
-    return static_cast<std::uint32_t>(m_ids.size() - 1);
+RangLigne Magasin::ajoute(long long id) {
+    return m_ids.ajoute(id);
 }
 
 void Magasin::ajouteValeur(const ValeurVue& valeur) {
-    if (valeur.estNulle()) return pose(Genre::Nul, {});
-    if (valeur.genre == ValeurVue::Genre::Nombre) return pose(Genre::Autre, texteDeNombre(valeur.nombre));
-    pose(valeur.estTexte ? Genre::Texte : Genre::Autre, valeur.texte);
-}
-
-void Magasin::pose(Genre genre, std::string_view texte) {
+    std::string tampon;
+    const std::string_view texte = texteDe(valeur, tampon);
     const bool tient = texte.size() <= kTexteMax && m_caracteres.size() + texte.size() <= kMasque;
     if (tient) m_caracteres += texte;
-    const auto marque = static_cast<std::uint32_t>(tient ? genre : Genre::Absent) << kBitsDePosition;
+    const auto type = valeur.type == ValeurVue::Type::Nombre ? ValeurVue::Type::Octets : valeur.type;
+    const auto marque = static_cast<std::uint32_t>(tient ? type : kAbsent) << kBitsDePosition;
     m_fins.push_back(marque | static_cast<std::uint32_t>(m_caracteres.size()));
 }
 
@@ -34,12 +31,13 @@ void Magasin::serre() {
     m_caracteres.shrink_to_fit();
 }
 
-Magasin::Valeur Magasin::valeur(std::uint32_t ligne, std::size_t colonne) const {
-    const std::size_t rang = ligne * m_colonnes + colonne;
+std::optional<ValeurVue> Magasin::valeur(RangLigne ligne, RangLu colonne) const {
+    const std::size_t rang = static_cast<std::size_t>(ligne) * m_colonnes + static_cast<std::size_t>(colonne);
     const std::uint32_t debut = rang == 0 ? 0 : m_fins[rang - 1] & kMasque;
     const std::uint32_t fin = m_fins[rang] & kMasque;
-    return {static_cast<Genre>(m_fins[rang] >> kBitsDePosition),
-            std::string_view(m_caracteres).substr(debut, fin - debut)};
+    const auto type = static_cast<ValeurVue::Type>(m_fins[rang] >> kBitsDePosition);
+    if (type == kAbsent) return std::nullopt;
+    return ValeurVue{type, std::string_view(m_caracteres).substr(debut, fin - debut), 0};
 }
 
 }  // namespace dao::interne

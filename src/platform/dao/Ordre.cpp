@@ -23,20 +23,18 @@ std::uint64_t premiersOctets(std::string_view cle) {
 
 }  // namespace
 
-void Ordre::finitColonne(std::size_t debut, bool decroissant) {
-    for (std::size_t i = debut; decroissant && i < m_cles.size(); ++i)
-        m_cles[i] = static_cast<char>(~m_cles[i]);
+void Ordre::finitColonne(std::size_t debut) {
     if (debut == m_debut) m_finPremiere = m_cles.size();
 }
 
-void Ordre::ajouteTexte(std::string_view cleJet, bool decroissant) {
+void Ordre::ajouteTexte(std::string_view cleJet) {
     const std::size_t debut = m_cles.size();
     m_cles += cleJet;
     m_cles.push_back(kFinDeColonne);
-    finitColonne(debut, decroissant);
+    finitColonne(debut);
 }
 
-void Ordre::ajouteNombre(double nombre, bool decroissant) {
+void Ordre::ajouteNombre(double nombre) {
     const std::size_t debut = m_cles.size();
     auto bits = std::bit_cast<std::uint64_t>(nombre == 0 ? 0.0 : nombre);
     constexpr std::uint64_t kSigne = 1ULL << 63;
@@ -44,11 +42,7 @@ void Ordre::ajouteNombre(double nombre, bool decroissant) {
     m_cles.push_back(kMarqueDeNombre);
     for (int decalage = 56; decalage >= 0; decalage -= 8)
         m_cles.push_back(static_cast<char>((bits >> decalage) & 0xff));
-    finitColonne(debut, decroissant);
-}
-
-void Ordre::ajouteNul(bool decroissant) {
-    ajouteTexte({}, decroissant);
+    finitColonne(debut);
 }
 
 std::uint32_t Ordre::groupe(std::string_view premiereColonne) {

@@ -21,9 +21,9 @@ class Ordre {
         : m_parGroupes(premiere == PremiereColonne::PeutEtreParGroupes) {}
 
     // A column of the key of the row being added. Null comes first; a number orders by its value.
-    void ajouteTexte(std::string_view cleJet, bool decroissant);
-    void ajouteNombre(double nombre, bool decroissant);
-    void ajouteNul(bool decroissant);
+    void ajouteTexte(std::string_view cleJet);
+    void ajouteNombre(double nombre);
+    void ajouteNul() { ajouteTexte({}); }
     // Ends the row's key; rows of equal keys follow each other by these two numbers.
     void finit(long long premier, long long second);
 
@@ -55,7 +55,7 @@ class Ordre {
     [[nodiscard]] bool ontLaMemeCle(const Entree& gauche, const Entree& droite) const {
         return gauche.prefixe == droite.prefixe && cle(gauche) == cle(droite);
     }
-    void finitColonne(std::size_t debut, bool decroissant);
+    void finitColonne(std::size_t debut);
     [[nodiscard]] std::uint32_t groupe(std::string_view premiereColonne);
     void prefixeParGroupes();
     void prefixeParOctets();

@@ -1,246 +1,205 @@
 #include "platform/dao/Plan.h"
 
-#include "platform/dao/Analyse.h"
 #include "platform/dao/CleJet.h"
 #include "platform/dao/Erreurs.h"
+#include "util/Ascii.h"
+#include "util/Texte.h"
 
 #include <algorithm>
+#include <array>
 
 namespace dao::interne {
 
 namespace {
 
-using Genre = Expression::Genre;
+// What SQLite is asked, by the kind of test.
+const std::array<std::string, 4> kTests{"egal_jet(?", "NOT egal_jet(?", "contient_jet(?", "commence_jet(?"};
 
 class Planificateur {
   public:
     Planificateur(Connexion& connexion, const Enonce& enonce) : m_enonce(enonce) {
-        m_plan.tables.push_back({&connexion.table(enonce.table)});
-        m_nomsDeTables.push_back(enonce.table);
+        ajouteTable(connexion, enonce.table);
         if (!enonce.jointure) return;
-        m_plan.tables.push_back({&connexion.table(enonce.jointure->table)});
-        m_nomsDeTables.push_back(enonce.jointure->table);
+        ajouteTable(connexion, enonce.jointure->table);
         m_plan.gauche = enonce.jointure->gauche;
     }
 
     Plan plan() {
         montre();
-        if (m_enonce.jointure) joint(m_enonce.jointure->condition);
-        m_plan.joinFilms = joinLesCles();
-        if (m_enonce.condition) filtre(*m_enonce.condition);
+        if (m_enonce.jointure) joint(*m_enonce.jointure);
+        for (const Terme& terme : m_enonce.termes)
+            filtre(terme);
         trie();
         departage();
-        for (TableDuPlan& table : m_plan.tables)
-            porteLaCle(table);
-        chercheLeFilm();
+        for (const RangTable rang : m_plan.tables.rangs())
+            gardeLaCle(rang);
+        chercheLaCle();
         return std::move(m_plan);
     }
 
   private:
-    const Table& table(int rang) const { return *m_plan.tables[static_cast<std::size_t>(rang)].table; }
+    void ajouteTable(Connexion& connexion, const std::string& nom) {
+        m_plan.tables.push_back({&connexion.table(nom)});
+        m_noms.push_back(nom);
+    }
+
+    const Table& table(RangTable rang) const { return *m_plan.tables[rang].table; }
 
     // The first table that has such a column, as it is written in most of the program's statements.
     ChampDeJeu trouve(const NomDeColonne& nom) const {
-        for (int t = 0; t < static_cast<int>(m_plan.tables.size()); ++t) {
-            if (!nom.table.empty() && !egalSansCasseAscii(nom.table, m_nomsDeTables[static_cast<std::size_t>(t)]))
-                continue;
-            const int colonne = table(t).rang(nom.nom);
-            if (colonne >= 0) return {t, colonne};
+        for (const RangTable rang : m_plan.tables.rangs()) {
+            if (!nom.table.empty() && !util::egalSansCasseAscii(nom.table, m_noms[rang])) continue;
+            if (const auto colonne = table(rang).rang(nom.nom)) return {rang, *colonne};
         }
         jette(kErreurParametre, "Trop peu de paramètres. 1 attendu (« " + nom.nom + " » n'est pas un champ).");
     }
 
-    Place lit(ChampDeJeu champ, std::size_t debut = 0) {
-        auto& lues = m_plan.tables[static_cast<std::size_t>(champ.table)].lues;
-        const auto connue = std::find_if(lues.begin(), lues.end(), [&](const ColonneLue& lue) {
-            return lue.colonne == champ.colonne && lue.debut == debut;
-        });
-        if (connue != lues.end()) return {champ.table, static_cast<int>(connue - lues.begin())};
-        lues.push_back({champ.colonne, debut, false});
-        return {champ.table, static_cast<int>(lues.size()) - 1};
-    }
-
-    Place porte(ChampDeJeu champ) {
-        const Place place = lit(champ);
-        lue(place).portee = true;
-        return place;
-    }
-
-    ColonneLue& lue(Place place) {
-        return m_plan.tables[static_cast<std::size_t>(place.table)].lues[static_cast<std::size_t>(place.rang)];
+    ColonneDuPlan lit(ChampDeJeu champ) {
+        auto& lues = m_plan.tables[champ.table].lues;
+        const auto connue = std::find(lues.begin(), lues.end(), champ.colonne);
+        if (connue == lues.end()) return {champ.table, lues.ajoute(champ.colonne)};
+        return {champ.table, static_cast<RangLu>(connue - lues.begin())};
     }
 
     void montre() {
-        if (!m_enonce.colonnes.empty()) {
-            for (const NomDeColonne& nom : m_enonce.colonnes)
-                m_plan.champs.push_back(trouve(nom));
-        } else {
-            for (int t = 0; t < static_cast<int>(m_plan.tables.size()); ++t) {
-                for (int c = 0; c < static_cast<int>(table(t).colonnes.size()); ++c)
-                    m_plan.champs.push_back({t, c});
+        for (const NomDeColonne& nom : m_enonce.colonnes)
+            m_plan.champs.push_back(trouve(nom));
+        for (const RangTable rang : m_plan.tables.rangs()) {
+            for (const RangColonne colonne : table(rang).colonnes.rangs()) {
+                if (m_enonce.colonnes.empty()) m_plan.champs.push_back({rang, colonne});
             }
         }
         m_plan.distinct = m_enonce.distinct;
         if (!m_plan.distinct) return;
         for (const ChampDeJeu champ : m_plan.champs)
-            porte(champ);
+            lit(champ);
     }
 
-    void joint(const Expression& condition) {
-        if (condition.genre == Genre::Et) {
-            for (const Expression& terme : condition.termes)
-                joint(terme);
-            return;
-        }
-        const bool egalite = condition.genre == Genre::Egal && condition.termes[0].genre == Genre::Colonne &&
-                             condition.termes[1].genre == Genre::Colonne;
-        if (!egalite) jette(kErreurSyntaxe, "Expression de jointure non prise en charge.");
-        Place gauche = lit(trouve(condition.termes[0].colonne));
-        Place droite = lit(trouve(condition.termes[1].colonne));
-        if (gauche.table == droite.table) jette(kErreurSyntaxe, "Expression de jointure non prise en charge.");
-        if (gauche.table == 1) std::swap(gauche, droite);
-        m_plan.egalites.emplace_back(gauche.rang, droite.rang);
-        lue(droite).portee = true;  // rows that may join are compared by value
-    }
-
-    bool joinLesCles() {
-        return std::all_of(m_plan.egalites.begin(), m_plan.egalites.end(), [this](const auto& egalite) {
-            return table(0).estCle(lue({0, egalite.first}).colonne) &&
-                   table(1).estCle(lue({1, egalite.second}).colonne);
-        });
-    }
-
-    Condition lie(const Expression& expression) {
-        Condition condition;
-        condition.genre = expression.genre;
-        condition.nombre = expression.nombre;
-        if (expression.genre == Genre::Texte) {
-            condition.texte = expression.texte;
-            condition.cle = cleJet(expression.texte);
-        }
-        if (expression.genre == Genre::Colonne) condition.place = lit(trouve(expression.colonne));
-        if (expression.genre == Genre::Comme && expression.termes[1].genre == Genre::Texte) {
-            condition.motif = std::make_shared<Motif>(expression.termes[1].texte);
-            if (expression.termes[0].genre == Genre::Colonne) return lieDebut(std::move(condition), expression);
-        }
-        for (const Expression& terme : expression.termes)
-            condition.termes.push_back(lie(terme));
-        if (expression.genre == Genre::Instr) plie(condition.termes[1].texte, condition.termes[1].plis);
-        return condition;
-    }
-
-    // A pattern that only looks at a text's start must not have a whole poster read for it.
-    Condition lieDebut(Condition condition, const Expression& expression) {
-        Condition colonne;
-        colonne.genre = Genre::Colonne;
-        colonne.place = lit(trouve(expression.termes[0].colonne), condition.motif->octetsDecisifs());
-        condition.termes.push_back(std::move(colonne));
-        condition.termes.push_back(lie(expression.termes[1]));
-        return condition;
-    }
-
-    void filtre(const Expression& expression) {
-        if (expression.genre == Genre::Et) {
-            for (const Expression& terme : expression.termes)
-                filtre(terme);
-            return;
-        }
-        Condition condition = lie(expression);
-        const unsigned tables = condition.tables();
-        if (tables <= 1) {
-            m_plan.tables[0].filtres.push_back(std::move(condition));
-        } else if (tables == 2 && !m_plan.gauche) {
-            m_plan.tables[1].filtres.push_back(std::move(condition));
-        } else {
-            porteColonnes(condition);
-            m_plan.filtresApres.push_back(std::move(condition));
+    void joint(const Jointure& jointure) {
+        m_plan.joinCles = true;
+        for (const auto& [une, autre] : jointure.egalites) {
+            ChampDeJeu gauche = trouve(une), droite = trouve(autre);
+            if (gauche.table == droite.table) jette(kErreurSyntaxe, "Expression de jointure non prise en charge.");
+            if (gauche.table == kSeconde) std::swap(gauche, droite);
+            m_plan.egalites.emplace_back(lit(gauche).rang, lit(droite).rang);
+            m_plan.joinCles =
+                m_plan.joinCles && table(kPremiere).estCle(gauche.colonne) && table(kSeconde).estCle(droite.colonne);
         }
     }
 
-    void porteColonnes(const Condition& condition) {
-        if (condition.genre == Genre::Colonne && condition.place.table == 1) lue(condition.place).portee = true;
-        for (const Condition& terme : condition.termes)
-            porteColonnes(terme);
+    void filtre(const Terme& terme) {
+        const ChampDeJeu premier = trouve(terme.colonnes.front());
+        for (const NomDeColonne& colonne : terme.colonnes) {
+            if (trouve(colonne).table != premier.table) jetteCondition();
+        }
+        if (premier.table == kPremiere || !m_plan.gauche) return exige(terme, premier.table);
+        if (terme.epreuve != Terme::Epreuve::EstNul) jetteCondition();
+        m_plan.nulles.push_back(lit(premier).rang);
+    }
+
+    [[noreturn]] static void jetteCondition() {
+        jette(kErreurSyntaxe, "Condition non prise en charge dans une jointure.");
+    }
+
+    // Has SQLite judge the term.
+    void exige(const Terme& terme, RangTable rang) {
+        const Table& lue = table(rang);
+        const RangColonne premiere = trouve(terme.colonnes.front()).colonne;
+        const std::string colonne = lue.colonneSql(premiere);
+        if (terme.epreuve == Terme::Epreuve::EstNul) return ajouteTest(rang, colonne + " IS NULL");
+        auto& textes = m_plan.tables[rang].parametres;
+        textes.emplace_back(terme.texte);
+        const std::string debut = kTests[static_cast<std::size_t>(terme.epreuve)] + std::to_string(textes.size() + 1);
+        if (terme.epreuve == Terme::Epreuve::CommencePar) {
+            return ajouteTest(rang, debut + ",typeof(" + colonne + ")," + litteral(lue.nom) + "," +
+                                        litteral(lue.colonnes[premiere].nom) + "," + lue.ligneSql + ")");
+        }
+        std::string test = debut;
+        for (const NomDeColonne& nom : terme.colonnes)
+            test.append(",").append(lue.colonneSql(trouve(nom).colonne));
+        const bool deCle = terme.epreuve == Terme::Epreuve::Egal && lue.estCle(premiere);
+        ajouteTest(rang, test + ")", deCle ? debut + ",coalesce(" + colonne + ",''))" : "");
+    }
+
+    static std::string litteral(const std::string& nom) {
+        return std::string("'").append(util::remplace(nom, "'", "''")).append("'");
+    }
+
+    // `sansNul`: the test with Null taken for "", where that is another one.
+    void ajouteTest(RangTable rang, const std::string& test, const std::string& sansNul = "") {
+        std::string& condition = m_plan.tables[rang].condition;
+        condition.append(condition.empty() ? "" : " AND ").append(test);
+        m_sansNul.append(m_sansNul.empty() ? "" : " AND ").append(sansNul.empty() ? test : sansNul);
     }
 
     // A column of the second table that the join makes equal to one of the first orders as that one does.
-    Place equivalente(Place place) const {
-        if (place.table == 0 || m_plan.gauche) return place;
+    ColonneDuPlan equivalente(ColonneDuPlan colonne) const {
+        if (colonne.table == kPremiere || m_plan.gauche) return colonne;
         for (const auto& [gauche, droite] : m_plan.egalites) {
-            if (droite == place.rang) return {0, gauche};
+            if (droite == colonne.rang) return {kPremiere, gauche};
         }
-        return place;
+        return colonne;
     }
 
     void trie() {
-        std::vector<Tri> tris = m_enonce.tris;
-        for (const Tri& tri : tris)
-            ajouteTri(trouve(tri.colonne), tri.decroissant, m_plan.distinct);
+        for (const NomDeColonne& tri : m_enonce.tris) {
+            const ChampDeJeu champ = trouve(tri);
+            if (m_plan.distinct && std::find(m_plan.champs.begin(), m_plan.champs.end(), champ) == m_plan.champs.end())
+                jette(kErreurSyntaxe, "La clause ORDER BY est en conflit avec DISTINCT.");
+            ajouteTri(champ);
+        }
         if (!m_plan.distinct) return;
         for (const ChampDeJeu champ : m_plan.champs)
-            ajouteTri(champ, false, false);  // equal rows become neighbours
+            ajouteTri(champ);  // equal rows become neighbours
     }
 
-    void ajouteTri(ChampDeJeu champ, bool decroissant, bool exigeMontre) {
-        const auto memeChamp = [&](const ChampDeJeu& autre) {
-            return autre.table == champ.table && autre.colonne == champ.colonne;
-        };
-        if (exigeMontre && std::none_of(m_plan.champs.begin(), m_plan.champs.end(), memeChamp)) {
-            jette(kErreurSyntaxe, "La clause ORDER BY est en conflit avec DISTINCT.");
+    void ajouteTri(ChampDeJeu champ) {
+        const ColonneDuPlan colonne = equivalente(lit(champ));
+        for (const TriDuPlan& tri : m_plan.tris) {
+            if (tri.colonne == colonne) return;
         }
-        const Place place = equivalente(porte(champ));
-        const auto memePlace = [&](const TriDuPlan& tri) {
-            return tri.place.table == place.table && tri.place.rang == place.rang;
-        };
-        if (std::any_of(m_plan.tris.begin(), m_plan.tris.end(), memePlace)) return;
-        m_plan.tris.push_back(
-            {place, table(champ.table).colonnes[static_cast<std::size_t>(champ.colonne)].numerique, decroissant});
+        m_plan.tris.push_back({colonne, table(champ.table).colonnes[champ.colonne].numerique});
     }
 
-    // What the statement leaves equal stands by title, then by director.
+    // What the statement leaves equal stands by the first table's key.
     void departage() {
-        if (m_plan.tris.empty() || m_plan.distinct || !table(0).aUneCle()) return;
-        for (const int colonne : {table(0).titre, table(0).realisateur})
-            m_plan.departages.push_back(porte({0, colonne}).rang);
+        const auto& cle = table(kPremiere).cle;
+        if (m_plan.tris.empty() || m_plan.distinct || !cle) return;
+        for (const RangColonne colonne : {cle->premiere, cle->seconde})
+            m_plan.departages.push_back(lit({kPremiere, colonne}).rang);
     }
 
-    void porteLaCle(TableDuPlan& tableDuPlan) {
-        if (!tableDuPlan.table->aUneCle() || m_plan.distinct) return;
-        const int rang = static_cast<int>(&tableDuPlan - m_plan.tables.data());
-        porte({rang, tableDuPlan.table->titre});
-        porte({rang, tableDuPlan.table->realisateur});
+    void gardeLaCle(RangTable rang) {
+        const auto& cle = table(rang).cle;
+        if (!cle || m_plan.distinct) return;
+        lit({rang, cle->premiere});
+        lit({rang, cle->seconde});
     }
 
-    void chercheLeFilm() {
-        if (m_plan.tables.size() != 1 || !table(0).aUneCle()) return;
-        const Condition* titre = egalite(table(0).titre);
-        const Condition* realisateur = egalite(table(0).realisateur);
-        if (titre == nullptr || realisateur == nullptr) return;
-        m_plan.film = FilmCherche{titre->termes[1].texte, realisateur->termes[1].texte};
+    void chercheLaCle() {
+        const auto& cle = table(kPremiere).cle;
+        if (m_plan.tables.size() != 1 || !cle) return;
+        const Terme* premiere = egalite(cle->premiere);
+        const Terme* seconde = egalite(cle->seconde);
+        if (premiere == nullptr || seconde == nullptr) return;
+        m_plan.cle = CleCherchee{premiere->texte, seconde->texte};
         static const std::string kCleVide = cleJet("");
-        if (titre->termes[1].cle != kCleVide && realisateur->termes[1].cle != kCleVide) return;
-        m_plan.film->sansNul = m_plan.tables[0].filtres;
-        for (Condition& filtre : m_plan.film->sansNul) {
-            if (estEgaliteDeCle(filtre)) filtre.termes[0].nulEstVide = true;
-        }
+        if (cleJet(premiere->texte) == kCleVide || cleJet(seconde->texte) == kCleVide) m_plan.cle->sansNul = m_sansNul;
     }
 
-    bool estEgaliteDeCle(const Condition& condition) {
-        return condition.genre == Genre::Egal && condition.termes[0].genre == Genre::Colonne &&
-               condition.termes[1].genre == Genre::Texte && table(0).estCle(lue(condition.termes[0].place).colonne);
-    }
-
-    // The filter that wants this column of the key to be a text.
-    const Condition* egalite(int colonne) {
-        for (const Condition& condition : m_plan.tables[0].filtres) {
-            if (estEgaliteDeCle(condition) && lue(condition.termes[0].place).colonne == colonne) return &condition;
+    // The first term that wants this column to be a text.
+    const Terme* egalite(RangColonne colonne) const {
+        for (const Terme& terme : m_enonce.termes) {
+            if (terme.epreuve == Terme::Epreuve::Egal && trouve(terme.colonnes.front()).colonne == colonne)
+                return &terme;
         }
         return nullptr;
     }
 
     const Enonce& m_enonce;
     Plan m_plan;
-    std::vector<std::string> m_nomsDeTables;
+    Par<RangTable, std::string> m_noms;
+    std::string m_sansNul;  // of the first table's condition
 };
 
 }  // namespace

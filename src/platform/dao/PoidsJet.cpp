@@ -1,15 +1,25 @@
 #include "platform/dao/PoidsJet.h"
 
 #include <stdexcept>
-#include <string>
 
+#include <unicode/normalizer2.h>
 #include <unicode/ucol.h>
 #include <unicode/ucoleitr.h>
-#include <unicode/unorm2.h>
 
 namespace dao::interne {
 
 namespace {
+
+void verifie(UErrorCode etat) {
+    if (U_FAILURE(etat)) throw std::runtime_error(u_errorName(etat));
+}
+
+// Jet reads these as their two letters; ICU sets them one accent apart.
+struct Ligature {
+    const char16_t *signe, *lettres;
+};
+constexpr std::array<Ligature, 6> kLigatures{
+    {{u"œ", u"oe"}, {u"Œ", u"oe"}, {u"æ", u"ae"}, {u"Æ", u"ae"}, {u"ß", u"ss"}, {u"ẞ", u"ss"}}};
 
 // ICU's root order, opened once: it lives as long as the program.
 class OrdreRacine {
@@ -19,10 +29,12 @@ class OrdreRacine {
         return ordre;
     }
 
-    void charge(std::u16string_view texte) {
-        m_texte = deplie(decompose(texte));
+    void charge(const icu::UnicodeString& texte) {
         UErrorCode etat = U_ZERO_ERROR;
-        ucol_setText(m_elements, m_texte.data(), static_cast<std::int32_t>(m_texte.size()), &etat);
+        m_texte = m_forme->normalize(texte, etat);
+        for (const auto& [signe, lettres] : kLigatures)
+            m_texte.findAndReplace(signe, lettres);
+        ucol_setText(m_elements, m_texte.getBuffer(), m_texte.length(), &etat);
         verifie(etat);
     }
 
@@ -36,72 +48,29 @@ class OrdreRacine {
   private:
     OrdreRacine() {
         UErrorCode etat = U_ZERO_ERROR;
-        m_collateur = ucol_open("root", &etat);
-        m_forme = unorm2_getNFDInstance(&etat);
-        verifie(etat);
-        m_elements = ucol_openElements(m_collateur, u"", 0, &etat);
+        m_forme = icu::Normalizer2::getNFDInstance(etat);
+        m_elements = ucol_openElements(ucol_open("root", &etat), u"", 0, &etat);
         verifie(etat);
     }
 
-    static void verifie(UErrorCode etat) {
-        if (U_FAILURE(etat)) throw std::runtime_error(u_errorName(etat));
-    }
-
-    std::u16string decompose(std::u16string_view texte) const {
-        UErrorCode etat = U_ZERO_ERROR;
-        std::u16string forme(texte.size() * 4 + 8, u'\0');
-        const auto taille = unorm2_normalize(m_forme, texte.data(), static_cast<std::int32_t>(texte.size()),
-                                             forme.data(), static_cast<std::int32_t>(forme.size()), &etat);
-        verifie(etat);
-        forme.resize(static_cast<std::size_t>(taille));
-        return forme;
-    }
-
-    // Jet reads these as their two letters; ICU sets them one accent apart.
-    static std::u16string deplie(const std::u16string& texte) {
-        if (texte.find_first_of(u"œŒæÆßẞ") == std::u16string::npos) return texte;
-        std::u16string deplies;
-        for (const char16_t c : texte) {
-            switch (c) {
-                case u'œ':
-                case u'Œ':
-                    deplies += u"oe";
-                    break;
-                case u'æ':
-                case u'Æ':
-                    deplies += u"ae";
-                    break;
-                case u'ß':
-                case u'ẞ':
-                    deplies += u"ss";
-                    break;
-                default:
-                    deplies += c;
-            }
-        }
-        return deplies;
-    }
-
-    UCollator* m_collateur = nullptr;
-    const UNormalizer2* m_forme = nullptr;
+    const icu::Normalizer2* m_forme = nullptr;
     UCollationElements* m_elements = nullptr;
-    std::u16string m_texte;
+    icu::UnicodeString m_texte;
 };
 
-constinit const Poids kPoidsLent{.genre = Poids::Genre::Lent};
+constinit const Poids kPoidsLent{.maniere = Poids::Maniere::Lent};
 constexpr char32_t kPointMedian = 0xb7;  // weighs with the l before it
 
 Poids calcule(char32_t caractere) {
     Poids poids;
     poids.signe = signeDe(caractere);
     if (poids.signe != 0) {
-        poids.genre = Poids::Genre::Signe;
+        poids.maniere = Poids::Maniere::Signe;
         return poids;
     }
-    poids.genre = Poids::Genre::Lent;
+    poids.maniere = Poids::Maniere::Lent;
     if (caractere == kPointMedian) return poids;
-    const auto unite = static_cast<char16_t>(caractere);
-    ElementsDeTexte elements({&unite, 1});
+    ElementsDeTexte elements(static_cast<UChar32>(caractere));
     for (ElementJet element; elements.suivant(element);) {
         if (poids.lettresTaille + 2U > poids.lettres.size() || poids.accentsTaille + 1U > poids.accents.size())
             return poids;
@@ -110,7 +79,7 @@ Poids calcule(char32_t caractere) {
         if (element.accent != 0) poids.accents[poids.accentsTaille++] = element.accent;
         if (element.commence) ++poids.elements;
     }
-    poids.genre = Poids::Genre::Pret;
+    poids.maniere = Poids::Maniere::Pret;
     return poids;
 }
 
@@ -146,16 +115,16 @@ const Poids& poidsNouveau(char32_t caractere) {
         return kPoidsLent;
     }
     Poids& poids = g_poids[rang];
-    if (poids.genre == Poids::Genre::Inconnu) {
+    if (poids.maniere == Poids::Maniere::Inconnu) {
         poids = calcule(caractere);
-        const bool simple = poids.genre == Poids::Genre::Pret && poids.elements == 1 && poids.lettresTaille == 1 &&
+        const bool simple = poids.maniere == Poids::Maniere::Pret && poids.elements == 1 && poids.lettresTaille == 1 &&
                             poids.accentsTaille == 1 && poids.accents[0] == kAccentCommun;
         if (caractere < 0x80 && simple) g_lettresSimples[caractere] = poids.lettres[0];
     }
     return poids;
 }
 
-ElementsDeTexte::ElementsDeTexte(std::u16string_view texte) {
+ElementsDeTexte::ElementsDeTexte(const icu::UnicodeString& texte) {
     OrdreRacine::unique().charge(texte);
 }
 

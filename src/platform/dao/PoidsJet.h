@@ -2,7 +2,8 @@
 
 #include <array>
 #include <cstdint>
-#include <string_view>
+
+#include <unicode/unistr.h>
 
 // The weights that Jet's comparison gives to characters: ICU's root collation elements at its first two levels.
 namespace dao::interne {
@@ -12,9 +13,9 @@ inline constexpr std::uint8_t kAccentCommun = 0x05;
 
 // The weights of a short text.
 struct Poids {
-    enum class Genre : std::uint8_t { Inconnu, Pret, Signe, Lent };
+    enum class Maniere : std::uint8_t { Inconnu, Pret, Signe, Lent };
 
-    Genre genre = Genre::Inconnu;
+    Maniere maniere = Maniere::Inconnu;
     std::uint8_t signe = 0;     // for Signe: which apostrophe or hyphen
     std::uint8_t elements = 0;  // how many letters, for the positions of signs
     std::uint8_t lettresTaille = 0;
@@ -37,7 +38,7 @@ extern constinit std::array<std::uint8_t, 256> g_lettresSimples;
 // The weights of one character, ready for ordinary Latin letters and punctuation. Lent: the character weighs with its
 // neighbours or is out of the ordinary, and the whole text must go through ElementsDeTexte.
 [[nodiscard]] inline const Poids& poidsDe(char32_t caractere) {
-    if (caractere < kFinLatin && g_poids[caractere].genre != Poids::Genre::Inconnu) return g_poids[caractere];
+    if (caractere < kFinLatin && g_poids[caractere].maniere != Poids::Maniere::Inconnu) return g_poids[caractere];
     return poidsNouveau(caractere);
 }
 
@@ -54,7 +55,7 @@ struct ElementJet {
 
 class ElementsDeTexte {
   public:
-    explicit ElementsDeTexte(std::u16string_view texte);
+    explicit ElementsDeTexte(const icu::UnicodeString& texte);
     bool suivant(ElementJet& element);
 };
 

@@ -17,9 +17,6 @@ namespace {
 
 constexpr int kAttenteDuVerrou = 2000;  // ms
 
-// A statement, finalised when it goes.
-using Brute = std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)>;
-
 void exigeFichier(const std::string& chemin) {
     std::error_code erreur;
     if (!std::filesystem::exists(chemin, erreur))
@@ -40,18 +37,17 @@ void exigeSignature(const std::string& chemin) {
 }
 
 // What a file made elsewhere may hold must not act by itself.
-void protege(Poignee& base) {
-    base.regle(SQLITE_DBCONFIG_DEFENSIVE, 1);
-    base.regle(SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0);
-    base.regle(SQLITE_DBCONFIG_ENABLE_TRIGGER, 0);
-    base.regle(SQLITE_DBCONFIG_ENABLE_VIEW, 0);
-    base.regle(SQLITE_DBCONFIG_DQS_DML, 0);
+void protege(sqlite3* base) {
+    sqlite3_db_config(base, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    for (const int reglage : {SQLITE_DBCONFIG_TRUSTED_SCHEMA, SQLITE_DBCONFIG_ENABLE_TRIGGER,
+                              SQLITE_DBCONFIG_ENABLE_VIEW, SQLITE_DBCONFIG_DQS_DML})
+        sqlite3_db_config(base, reglage, 0, nullptr);
 }
 
 // Reads the first page and the schema: SQLite then undoes what a killed program left half written, and refuses a file
 // that lacks whole pages.
 void verifieLeContenu(Poignee& base) {
-    base.entier("SELECT count(*) FROM sqlite_schema");
+    static_cast<void>(base.entier("SELECT count(*) FROM sqlite_schema"));
     const long long identifiant = base.entier("PRAGMA application_id");
     if (identifiant != 0 && identifiant != DBEngine::kIdentifiantApplication)
         jette(kErreurFormat, "La base appartient à un autre programme.");
@@ -67,14 +63,14 @@ void essaieDEcrire(Poignee& base, bool exclusif) {
     base.execute(exclusif ? "BEGIN EXCLUSIVE" : "BEGIN IMMEDIATE");
     const std::string version = std::to_string(base.entier("PRAGMA user_version"));
     const int code = base.essaie("PRAGMA user_version=" + version);
-    base.essaie("ROLLBACK");
+    static_cast<void>(base.essaie("ROLLBACK"));
     if (code != SQLITE_OK) jetteSqlite(base.brute(), code, Acces::Ecriture);
 }
 
 // The room of a poster that leaves the base is not overwritten with zeros, which Debian's library would do: that writes
 // it twice, once to the journal.
 void ouvre(Poignee& base, bool exclusif) {
-    protege(base);
+    protege(base.brute());
     base.execute("PRAGMA secure_delete=FAST");
     base.execute("PRAGMA synchronous=FULL; PRAGMA cache_size=-8000; PRAGMA temp_store=MEMORY");
     if (exclusif) base.execute("PRAGMA locking_mode=EXCLUSIVE");
@@ -84,72 +80,113 @@ void ouvre(Poignee& base, bool exclusif) {
 
 }  // namespace
 
-Poignee::Poignee(const std::string& chemin, int options) {
-    const int code =
-        sqlite3_open_v2(chemin.c_str(), &m_base, options | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
-    if (code != SQLITE_OK) {
-        sqlite3_close(std::exchange(m_base, nullptr));
-        jetteSqlite(nullptr, code, Acces::Ecriture);
+Requete::~Requete() {
+    sqlite3_reset(m_brute);
+    sqlite3_clear_bindings(m_brute);
+}
+
+Requete& Requete::lie(int rang, long long entier) {
+    sqlite3_bind_int64(m_brute, rang, entier);
+    return *this;
+}
+
+Requete& Requete::lie(int rang, const Valeur& valeur) {
+    AccesValeur::lie(m_brute, rang, valeur);
+    return *this;
+}
+
+bool Requete::avance() {
+    const int code = sqlite3_step(m_brute);
+    if (code == SQLITE_ROW) return true;
+    if (code == SQLITE_DONE) return false;
+    // BEGIN IMMEDIATE counts as writing; what ends a transaction that wrote does not, and its state tells.
+    const bool lit = sqlite3_stmt_readonly(m_brute) != 0 && sqlite3_txn_state(m_base, "main") != SQLITE_TXN_WRITE;
+    jetteSqlite(m_base, code, lit ? Acces::Lecture : Acces::Ecriture);
+}
+
+void Requete::execute() {
+    while (avance()) {
     }
-    sqlite3_busy_timeout(m_base, kAttenteDuVerrou);
 }
 
-Poignee::~Poignee() {
-    sqlite3_close(m_base);
+long long Requete::entier(int colonne) const {
+    return sqlite3_column_int64(m_brute, colonne);
+}
+Valeur Requete::valeur(int colonne) const {
+    switch (const ValeurVue lue = vue(colonne); lue.type) {
+        case ValeurVue::Type::Nul:
+            return {};
+        case ValeurVue::Type::Nombre:
+            if (sqlite3_column_type(m_brute, colonne) == SQLITE_FLOAT) return lue.nombre;
+            return entier(colonne);
+        case ValeurVue::Type::Octets:
+            return Valeur::octets(std::string(lue.texte));
+        default:
+            return lue.texte;
+    }
 }
 
-void Poignee::regle(int reglage, int valeur) {
-    sqlite3_db_config(m_base, reglage, valeur, nullptr);
+ValeurVue Requete::vue(int colonne) const {
+    return vueDe(sqlite3_column_value(m_brute, colonne));
+}
+
+void Poignee::Ferme::operator()(sqlite3* base) const {
+    sqlite3_close(base);
+}
+void Poignee::Ferme::operator()(sqlite3_stmt* requete) const {
+    sqlite3_finalize(requete);
+}
+
+Poignee::Poignee(const std::string& chemin, int options) {
+    sqlite3* base = nullptr;
+    const int code =
+        sqlite3_open_v2(chemin.c_str(), &base, options | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
+    m_base.reset(base);
+    if (code != SQLITE_OK) jetteSqlite(nullptr, code, Acces::Ecriture);
+    sqlite3_busy_timeout(base, kAttenteDuVerrou);
+}
+
+Requete Poignee::prepare(const std::string& sql) {
+    auto& requete = m_requetes[sql];
+    if (requete == nullptr) {
+        sqlite3_stmt* neuve = nullptr;
+        const int code = sqlite3_prepare_v3(brute(), sql.data(), static_cast<int>(sql.size()),
+                                            SQLITE_PREPARE_PERSISTENT, &neuve, nullptr);
+        if (code != SQLITE_OK) jetteSqlite(brute(), code, Acces::Lecture);  // only the schema was looked at
+        requete.reset(neuve);
+    }
+    return {brute(), requete.get()};
 }
 
 int Poignee::essaie(const std::string& sql) {
-    return sqlite3_exec(m_base, sql.c_str(), nullptr, nullptr, nullptr);
+    return sqlite3_exec(brute(), sql.c_str(), nullptr, nullptr, nullptr);
 }
 
 void Poignee::execute(const std::string& sql) {
-    if (const int code = essaie(sql); code != SQLITE_OK) jetteSqlite(m_base, code, Acces::Ecriture);
-}
-
-void Poignee::execute(const std::string& sql, const std::string& parametre) {
-    const Brute requete(prepare(sql), &sqlite3_finalize);
-    sqlite3_bind_text(requete.get(), 1, parametre.data(), static_cast<int>(parametre.size()), SQLITE_STATIC);
-    if (const int code = sqlite3_step(requete.get()); code != SQLITE_DONE) jetteSqlite(m_base, code, Acces::Ecriture);
+    if (const int code = essaie(sql); code != SQLITE_OK) jetteSqlite(brute(), code, Acces::Ecriture);
 }
 
 long long Poignee::entier(const std::string& sql) {
-    const Brute requete(prepare(sql), &sqlite3_finalize);
-    if (const int code = sqlite3_step(requete.get()); code != SQLITE_ROW) jetteSqlite(m_base, code, Acces::Ecriture);
-    return sqlite3_column_int64(requete.get(), 0);
+    Requete requete = prepare(sql);
+    return requete.avance() ? requete.entier(0) : 0;
 }
 
 std::vector<std::string> Poignee::textes(const std::string& sql) {
-    const Brute requete(prepare(sql), &sqlite3_finalize);
     std::vector<std::string> resultat;
-    int code = SQLITE_ROW;
-    while ((code = sqlite3_step(requete.get())) == SQLITE_ROW) {
-        const unsigned char* texte = sqlite3_column_text(requete.get(), 0);
-        resultat.emplace_back(texte != nullptr ? reinterpret_cast<const char*>(texte) : "");
-    }
-    if (code != SQLITE_DONE) jetteSqlite(m_base, code, Acces::Ecriture);
+    for (Requete requete = prepare(sql); requete.avance();)
+        resultat.push_back(requete.valeur(0).texte());
     return resultat;
 }
 
-sqlite3_stmt* Poignee::prepare(const std::string& sql) {
-    sqlite3_stmt* requete = nullptr;
-    const int code = sqlite3_prepare_v2(m_base, sql.c_str(), -1, &requete, nullptr);
-    if (code != SQLITE_OK) jetteSqlite(m_base, code, Acces::Ecriture);
-    return requete;
-}
-
-std::unique_ptr<Poignee> ouvreBase(const std::string& chemin, bool exclusif) {
+Poignee ouvreBase(const std::string& chemin, bool exclusif) {
     exigeFichier(chemin);
     exigeSignature(chemin);
     try {
-        auto base = std::make_unique<Poignee>(chemin, SQLITE_OPEN_READWRITE);
-        ouvre(*base, exclusif);
+        Poignee base(chemin, SQLITE_OPEN_READWRITE);
+        ouvre(base, exclusif);
         return base;
     } catch (const ErreurDao& erreur) {
-        if (erreur.numero != kErreurVerrouille) throw;
+        if (erreur.numero != kErreurVerrouille && erreur.numero != kErreurLectureVerrouillee) throw;
         jette(kErreurFichierDejaUtilise, "Impossible d'utiliser « " + chemin + " » : le fichier est déjà utilisé.");
     }
 }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "platform/dao/AccesValeur.h"
+
 #include <memory>
 #include <string>
-#include <utility>
+#include <unordered_map>
 #include <vector>
 
 struct sqlite3;
@@ -10,33 +12,52 @@ struct sqlite3_stmt;
 
 namespace dao::interne {
 
-// An SQLite handle that is closed unless it is handed on.
+// A prepared statement in use: given back, reset, when it goes. Values are bound before the first row is asked for.
+class Requete {
+  public:
+    Requete(sqlite3* base, sqlite3_stmt* brute) : m_base(base), m_brute(brute) {}
+    Requete(const Requete&) = delete;
+    Requete& operator=(const Requete&) = delete;
+    ~Requete();
+
+    Requete& lie(int rang, long long entier);
+    Requete& lie(int rang, const Valeur& valeur);
+    bool avance();  // to the next row, if there is one; throws ErreurDao
+    void execute();
+    [[nodiscard]] long long entier(int colonne) const;
+    [[nodiscard]] Valeur valeur(int colonne) const;
+    [[nodiscard]] ValeurVue vue(int colonne) const;  // until the next row
+
+  private:
+    sqlite3* m_base;
+    sqlite3_stmt* m_brute;
+};
+
+// An SQLite handle and its prepared statements.
 class Poignee {
   public:
     Poignee(const std::string& chemin, int options);
-    Poignee(const Poignee&) = delete;
-    Poignee& operator=(const Poignee&) = delete;
-    ~Poignee();
 
-    [[nodiscard]] sqlite3* brute() const { return m_base; }
-    sqlite3* cede() { return std::exchange(m_base, nullptr); }
-
-    void regle(int reglage, int valeur);
-    int essaie(const std::string& sql);
+    [[nodiscard]] sqlite3* brute() const { return m_base.get(); }
+    // Prepared once for each text. The same text must not be asked for again while it is in use.
+    [[nodiscard]] Requete prepare(const std::string& sql);
+    [[nodiscard]] int essaie(const std::string& sql);  // any statements, prepared for this once; answers SQLite's code
     void execute(const std::string& sql);
-    void execute(const std::string& sql, const std::string& parametre);
 
     // Of a statement with one column: its first row, and all of its rows as text.
-    long long entier(const std::string& sql);
-    std::vector<std::string> textes(const std::string& sql);
+    [[nodiscard]] long long entier(const std::string& sql);
+    [[nodiscard]] std::vector<std::string> textes(const std::string& sql);
 
   private:
-    [[nodiscard]] sqlite3_stmt* prepare(const std::string& sql);
-
-    sqlite3* m_base = nullptr;
+    struct Ferme {
+        void operator()(sqlite3* base) const;  // rolls back what was not confirmed
+        void operator()(sqlite3_stmt* requete) const;
+    };
+    std::unique_ptr<sqlite3, Ferme> m_base;
+    std::unordered_map<std::string, std::unique_ptr<sqlite3_stmt, Ferme>> m_requetes;
 };
 
 // Opens an existing base as DBEngine::OpenDatabase says, and throws what it throws.
-[[nodiscard]] std::unique_ptr<Poignee> ouvreBase(const std::string& chemin, bool exclusif);
+[[nodiscard]] Poignee ouvreBase(const std::string& chemin, bool exclusif);
 
 }  // namespace dao::interne

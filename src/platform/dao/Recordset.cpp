@@ -51,10 +51,12 @@ Valeur Recordset::valeur(std::string_view nom) const {
 }
 
 Colonne Recordset::colonne(std::string_view nom) const {
-    return {ouvert(m_jeu).rangDeParcours(nom)};
+    const auto rang = ouvert(m_jeu).rangDeParcours(nom);
+    return {rang ? static_cast<int>(*rang) : -1};
 }
 std::string_view Recordset::vue(Colonne colonne) const {
-    return ouvert(m_jeu).vue(colonne.rang);
+    return ouvert(m_jeu).vue(colonne.rang < 0 ? std::nullopt
+                                              : std::optional(static_cast<interne::RangChamp>(colonne.rang)));
 }
 
 void Recordset::AddNew() {

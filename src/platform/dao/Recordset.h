@@ -41,8 +41,8 @@ struct Colonne {
 // Records in the order of a statement, or the live records of a table.
 //
 // On a statement it is a keyset, as a DAO dynaset is: the row ids are fixed when it is opened, with the columns that
-// order and key it; other fields are read when asked for, and read again after anyone's Update. A poster's bytes are
-// read only when `Affiche` itself is asked for. Positions never shift: the slot of a deleted row stays, Move counts it,
+// order and key it; other fields are read when asked for, and read again after anyone's Update. A long value is read
+// only when its own field is asked for. Positions never shift: the slot of a deleted row stays, Move counts it,
 // reading it throws 3167. RecordCount is the number of slots from the start.
 //
 // On a table name it is live: RecordCount follows everyone's additions and deletions.

@@ -1,28 +1,20 @@
 #include "platform/dao/Table.h"
 
-#include "platform/dao/Analyse.h"
 #include "platform/dao/Connexion.h"
 #include "platform/dao/Erreurs.h"
+#include "util/Ascii.h"
+#include "util/Sql.h"
 
-#include <array>
 #include <optional>
 #include <utility>
-
-#include <sqlite3.h>
 
 namespace dao::interne {
 
 namespace {
 
-// A film is found by these pairs, whichever of the two tables it is looked for in.
-constexpr std::array<std::pair<std::string_view, std::string_view>, 2> kCles{
-    {{"Titre", "Realisateur"}, {"Titre2", "Realisateur2"}}};
-
-bool estNumerique(std::string type) {
-    for (char& c : type)
-        c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
+bool estNumerique(std::string_view typeEnCapitales) {
     for (const std::string_view mot : {"INT", "REAL", "FLOA", "DOUB", "NUM", "DEC", "BYTE", "SINGLE"}) {
-        if (type.find(mot) != std::string::npos) return true;
+        if (typeEnCapitales.find(mot) != std::string_view::npos) return true;
     }
     return false;
 }
@@ -42,9 +34,9 @@ std::optional<std::string> cleEntiere(Connexion& connexion, const std::string& t
 // A column that bears a name of the row id hides it. Where all of them do, rows could be taken for each other.
 std::string nomDeLigne(Connexion& connexion, const Table& table) {
     for (const std::string_view nom : {"rowid", "_rowid_", "oid"}) {
-        if (table.rang(nom) < 0) return std::string(nom);
+        if (!table.rang(nom)) return std::string(nom);
     }
-    if (const auto cle = cleEntiere(connexion, table.nom)) return nomEntreGuillemets(*cle);
+    if (const auto cle = cleEntiere(connexion, table.nom)) return util::entreGuillemets(*cle);
     jette(kErreurFormat, "Les lignes de la table « " + table.nom +
                              " » ne peuvent pas être distinguées : ses colonnes « rowid », « _rowid_ » et « oid » "
                              "cachent leur numéro, et elle n'a pas de clé primaire entière.");
@@ -52,26 +44,19 @@ std::string nomDeLigne(Connexion& connexion, const Table& table) {
 
 }  // namespace
 
-std::string nomEntreGuillemets(std::string_view nom) {
-    std::string resultat = "\"";
-    for (const char c : nom)
-        resultat.append(c == '"' ? 2 : 1, c);
-    return resultat + '"';
-}
-
-int Table::rang(std::string_view colonne) const {
-    for (std::size_t i = 0; i < colonnes.size(); ++i) {
-        if (egalSansCasseAscii(colonnes[i].nom, colonne)) return static_cast<int>(i);
+std::optional<RangColonne> Table::rang(std::string_view colonne) const {
+    for (const RangColonne rang : colonnes.rangs()) {
+        if (util::egalSansCasseAscii(colonnes[rang].nom, colonne)) return rang;
     }
-    return -1;
+    return std::nullopt;
 }
 
-std::string Table::nomSql() const {
-    return nomEntreGuillemets(nom);
-}
-
-std::string Table::colonneSql(int rangDeColonne) const {
-    return nomEntreGuillemets(colonnes[static_cast<std::size_t>(rangDeColonne)].nom);
+void Table::adopteCle(const std::vector<Cle>& cles) {
+    for (const Cle& declaree : cles) {
+        const auto premiere = rang(declaree.premiere), seconde = rang(declaree.seconde);
+        if (premiere && seconde) cle = CleDeTable{*premiere, *seconde};
+    }
+    suivi.index.oublie();
 }
 
 std::unique_ptr<Table> litTable(Connexion& connexion, std::string_view nom) {
@@ -83,17 +68,15 @@ std::unique_ptr<Table> litTable(Connexion& connexion, std::string_view nom) {
         forme.lie(1, Valeur(nom));
         if (!forme.avance()) return nullptr;
         table->nom = forme.valeur(0).texte();
+        table->nomSql = util::entreGuillemets(table->nom);
     }
-    Requete colonnes = connexion.prepare("SELECT name, type FROM pragma_table_info(?1)");
+    Requete colonnes = connexion.prepare("SELECT name, upper(type) FROM pragma_table_info(?1)");
     colonnes.lie(1, Valeur(table->nom));
-    while (colonnes.avance())
-        table->colonnes.push_back({colonnes.valeur(0).texte(), estNumerique(colonnes.valeur(1).texte())});
-    table->ligneSql = nomDeLigne(connexion, *table);
-    for (const auto& [titre, realisateur] : kCles) {
-        if (table->rang(titre) < 0 || table->rang(realisateur) < 0) continue;
-        table->titre = table->rang(titre);
-        table->realisateur = table->rang(realisateur);
+    while (colonnes.avance()) {
+        std::string colonne = colonnes.valeur(0).texte(), sql = util::entreGuillemets(colonne);
+        table->colonnes.push_back({std::move(colonne), std::move(sql), estNumerique(colonnes.valeur(1).texte())});
     }
+    table->ligneSql = nomDeLigne(connexion, *table);
     return table;
 }
 

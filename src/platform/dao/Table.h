@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/dao/IndexDesFilms.h"
+#include "platform/dao/IndexDeCles.h"
+#include "platform/dao/Rangs.h"
 
 #include <cstdint>
 #include <optional>
@@ -10,10 +11,15 @@
 #include <unordered_set>
 #include <vector>
 
+namespace dao {
+struct Cle;
+}
+
 namespace dao::interne {
 
 struct ColonneDeTable {
     std::string nom;
+    std::string sql;         // the name between the file engine's quotes
     bool numerique = false;  // declared so: its values order as numbers
 
     friend bool operator==(const ColonneDeTable&, const ColonneDeTable&) = default;
@@ -34,30 +40,32 @@ struct Suivi {
     std::vector<long long> supprimeesEnCours;  // by the open transaction
     long long plusHaute = 0;
     std::optional<long> compte;
-    IndexDesFilms index;
+    IndexDeCles index;
+};
+
+// The columns of a declared key.
+struct CleDeTable {
+    RangColonne premiere, seconde;
 };
 
 // One table of an open base: its columns, and the follow-up of its rows.
 struct Table {
-    // The column's rank, or -1. Names are compared without case.
-    [[nodiscard]] int rang(std::string_view colonne) const;
-    // The name between the file engine's quotes.
-    [[nodiscard]] std::string nomSql() const;
-    [[nodiscard]] std::string colonneSql(int rangDeColonne) const;
-    [[nodiscard]] bool estCle(int rangDeColonne) const {
-        return rangDeColonne >= 0 && (rangDeColonne == titre || rangDeColonne == realisateur);
+    // None: no such column. Names are compared without case.
+    [[nodiscard]] std::optional<RangColonne> rang(std::string_view colonne) const;
+    [[nodiscard]] const std::string& colonneSql(RangColonne colonne) const { return colonnes[colonne].sql; }
+    [[nodiscard]] std::string clesSql() const { return colonneSql(cle->premiere) + "," + colonneSql(cle->seconde); }
+    [[nodiscard]] bool estCle(RangColonne colonne) const {
+        return cle && (colonne == cle->premiere || colonne == cle->seconde);
     }
     [[nodiscard]] bool memeForme(const Table& autre) const { return nom == autre.nom && colonnes == autre.colonnes; }
-    [[nodiscard]] bool aUneCle() const { return titre >= 0 && realisateur >= 0; }
+    void adopteCle(const std::vector<Cle>& cles);  // the last of these whose columns it has
 
     std::string nom;
+    std::string nomSql;    // between the file engine's quotes
     std::string ligneSql;  // what the row id is called: "rowid", or another of its names when a column bears that one
-    std::vector<ColonneDeTable> colonnes;
-    int titre = -1;  // the columns that the program finds a film by
-    int realisateur = -1;
+    Par<RangColonne, ColonneDeTable> colonnes;
+    std::optional<CleDeTable> cle{};
     Suivi suivi{};
 };
-
-[[nodiscard]] std::string nomEntreGuillemets(std::string_view nom);
 
 }  // namespace dao::interne

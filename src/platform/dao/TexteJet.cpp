@@ -1,30 +1,20 @@
 #include "platform/dao/TexteJet.h"
 
-#include "platform/dao/Utf8.h"
+#include "util/Ascii.h"
+#include "util/Unicode.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>
 #include <stdexcept>
 
+#include <unicode/normalizer2.h>
 #include <unicode/uchar.h>
-#include <unicode/unorm2.h>
-#include <unicode/utf16.h>
+#include <unicode/unistr.h>
 
 namespace dao::interne {
 
 namespace {
-
-constexpr char minusculeAscii(char octet) {
-    return octet >= 'A' && octet <= 'Z' ? static_cast<char>(octet + 32) : octet;
-}
-bool estAscii(char octet) {
-    return static_cast<unsigned char>(octet) < 0x80;
-}
-char32_t plieCaractere(char32_t caractere) {
-    return static_cast<char32_t>(u_foldCase(static_cast<UChar32>(caractere), U_FOLD_CASE_DEFAULT));
-}
 
 constexpr std::uint8_t kAvantLatin = 0xc3;  // the lead byte of À to ÿ
 
@@ -53,92 +43,58 @@ void plieLatin(const std::uint8_t* octets, std::size_t taille, std::uint8_t* __r
         plis[i] = static_cast<std::uint8_t>(octets[i] + ajout(octets[i - 1], octets[i]));
 }
 
-std::u32string caracteresPlies(std::string_view texte) {
-    std::u32string resultat;
-    while (!texte.empty()) {
-        const CaractereLu lu = litCaractere(texte);
-        resultat.push_back(plieCaractere(lu.point));
-        texte.remove_prefix(lu.octets);
-    }
-    return resultat;
+const icu::Normalizer2& forme(const icu::Normalizer2* (*instance)(UErrorCode&)) {
+    UErrorCode etat = U_ZERO_ERROR;
+    const icu::Normalizer2* resultat = instance(etat);
+    if (U_FAILURE(etat)) throw std::runtime_error(u_errorName(etat));
+    return *resultat;
 }
 
-// Folds decomposed characters, the ligatures to their letters.
-std::u16string pliesDecomposes(const std::u16string& decompose) {
-    std::u16string resultat;
-    resultat.reserve(decompose.size());
-    for (std::size_t i = 0; i < decompose.size();) {
-        UChar32 point = 0;
-        U16_NEXT(decompose.data(), i, decompose.size(), point);
-        const char32_t plis = plieCaractere(static_cast<char32_t>(point));
-        switch (plis) {
+// Folds any characters, those that compose with their neighbours included; the ligatures to their letters.
+void plieMorceau(std::string_view morceau, std::string& resultat) {
+    UErrorCode etat = U_ZERO_ERROR;
+    const auto decompose =
+        forme(&icu::Normalizer2::getNFDInstance).normalize(icu::UnicodeString::fromUTF8(morceau), etat);
+    icu::UnicodeString plis;
+    for (std::int32_t i = 0; i < decompose.length(); i = decompose.moveIndex32(i, 1)) {
+        switch (const UChar32 point = u_foldCase(decompose.char32At(i), U_FOLD_CASE_DEFAULT)) {
             case U'œ':
-                resultat += u"oe";
+                plis.append(u"oe", 2);
                 break;
             case U'æ':
-                resultat += u"ae";
+                plis.append(u"ae", 2);
                 break;
             case U'ß':
-                resultat += u"ss";
+                plis.append(u"ss", 2);
                 break;
             default:
-                ecritCaractere(plis, resultat);
+                plis.append(point);
         }
     }
-    return resultat;
-}
-
-std::u16string normalise(const UNormalizer2* forme, const std::u16string& texte) {
-    UErrorCode etat = U_ZERO_ERROR;
-    std::u16string resultat(texte.size() * 4 + 8, u'\0');
-    const auto taille = unorm2_normalize(forme, texte.data(), static_cast<std::int32_t>(texte.size()), resultat.data(),
-                                         static_cast<std::int32_t>(resultat.size()), &etat);
+    forme(&icu::Normalizer2::getNFCInstance).normalize(plis, etat).toUTF8String(resultat);
     if (U_FAILURE(etat)) throw std::runtime_error(u_errorName(etat));
-    resultat.resize(static_cast<std::size_t>(taille));
-    return resultat;
-}
-
-// Folds any characters, those that compose with their neighbours included.
-void plieMorceau(std::u16string& morceau, std::string& resultat) {
-    if (morceau.empty()) return;
-    UErrorCode etat = U_ZERO_ERROR;
-    const UNormalizer2* decomposee = unorm2_getNFDInstance(&etat);
-    const UNormalizer2* composee = unorm2_getNFCInstance(&etat);
-    if (U_FAILURE(etat)) throw std::runtime_error(u_errorName(etat));
-    const std::u16string plis = normalise(composee, pliesDecomposes(normalise(decomposee, morceau)));
-    for (std::size_t i = 0; i < plis.size();) {
-        UChar32 point = 0;
-        U16_NEXT(plis.data(), i, plis.size(), point);
-        ecritCaractere(static_cast<char32_t>(point), resultat);
-    }
-    morceau.clear();
 }
 
 void plieLentement(std::string_view texte, std::string& resultat) {
-    std::u16string morceau;
-    while (!texte.empty()) {
-        const CaractereLu lu = litCaractere(texte);
-        if (lu.valide) {
-            ecritCaractere(lu.point, morceau);
-        } else {
-            plieMorceau(morceau, resultat);
-            resultat.push_back(texte.front());
-        }
-        texte.remove_prefix(lu.octets);
+    for (std::size_t debut = 0, fin = 0; debut < texte.size(); debut = fin) {
+        while (fin < texte.size() && util::litPoint(texte, fin).valeur >= 0)
+            fin += util::litPoint(texte, fin).taille;
+        plieMorceau(texte.substr(debut, fin - debut), resultat);
+        if (fin < texte.size()) resultat += texte[fin++];
     }
-    plieMorceau(morceau, resultat);
 }
 
-constexpr char32_t kFinSeuls = 0x300;           // below, no character composes with the one before it
-constexpr char32_t kDebutPonctuation = 0x2002;  // and in the usual punctuation
-constexpr char32_t kFinPonctuation = 0x2070;
+constexpr UChar32 kFinSeuls = 0x300;           // below, no character composes with the one before it
+constexpr UChar32 kDebutPonctuation = 0x2002;  // and in the usual punctuation
+constexpr UChar32 kFinPonctuation = 0x2070;
 
 // What a character below kFinSeuls folds to, worked out as it is met.
-const std::string& plisDe(char32_t caractere) {
+const std::string& plisDe(UChar32 caractere) {
     static std::array<std::string, kFinSeuls> connus;
-    std::string& plis = connus[caractere];
+    std::string& plis = connus[static_cast<std::size_t>(caractere)];
     if (plis.empty()) {
-        std::u16string seul(1, static_cast<char16_t>(caractere));
+        std::string seul;
+        util::ajoutePoint(seul, caractere);
         plieMorceau(seul, plis);
     }
     return plis;
@@ -146,23 +102,18 @@ const std::string& plisDe(char32_t caractere) {
 
 // Answers false, the result to be thrown away, at the first character that may compose with its neighbours.
 bool plieSeuls(std::string_view texte, std::string& resultat) {
-    std::size_t rang = 0;
-    while (rang < texte.size()) {
-        if (estAscii(texte[rang])) {
-            resultat.push_back(minusculeAscii(texte[rang++]));
-            continue;
-        }
-        const CaractereLu lu = litCaractere(texte.substr(rang));
-        if (!lu.valide) {
-            resultat.push_back(texte[rang]);
-        } else if (lu.point < kFinSeuls) {
-            resultat += plisDe(lu.point);
-        } else if (lu.point >= kDebutPonctuation && lu.point < kFinPonctuation) {
-            resultat.append(texte.substr(rang, lu.octets));
+    for (std::size_t rang = 0; rang < texte.size();) {
+        const auto [point, taille] = util::litPoint(texte, rang);
+        if (point < 0x80) {  // or no UTF-8
+            resultat.push_back(util::enMinuscule<char>(texte[rang]));
+        } else if (point < kFinSeuls) {
+            resultat += plisDe(point);
+        } else if (point >= kDebutPonctuation && point < kFinPonctuation) {
+            resultat.append(texte.substr(rang, taille));
         } else {
             return false;
         }
-        rang += lu.octets;
+        rang += taille;
     }
     return true;
 }
@@ -184,8 +135,7 @@ const std::string& plisDuTexte(std::string_view texte) {
 bool estAccent(std::string_view suite) {
     constexpr unsigned char kPremierAccent = 0xcc;  // the lead byte of U+0300
     if (suite.empty() || static_cast<unsigned char>(suite.front()) < kPremierAccent) return false;
-    const CaractereLu lu = litCaractere(suite);
-    return lu.valide && u_getCombiningClass(static_cast<UChar32>(lu.point)) != 0;
+    return u_getCombiningClass(util::litPoint(suite, 0).valeur) != 0;
 }
 
 // Of a long needle in time that grows with the two lengths and not with their product.
@@ -206,106 +156,12 @@ void plie(std::string_view texte, std::string& resultat) {
     plieLentement(texte, resultat);
 }
 
-std::size_t instr(std::string_view texte, std::string_view aiguillePliee) {
+bool contient(std::string_view texte, std::string_view aiguillePliee) {
     const std::string_view plis = plisDuTexte(texte);
     std::size_t octet = trouve(plis, aiguillePliee, 0);
     while (octet != std::string_view::npos && estAccent(plis.substr(octet + aiguillePliee.size())))
         octet = trouve(plis, aiguillePliee, octet + 1);
-    if (octet == std::string_view::npos) return 0;
-    const auto debutDeCaractere = [](char c) { return (static_cast<unsigned char>(c) & 0xc0) != 0x80; };
-    return 1 + static_cast<std::size_t>(
-                   std::count_if(plis.begin(), plis.begin() + static_cast<std::ptrdiff_t>(octet), debutDeCaractere));
-}
-
-Motif::Motif(std::string_view motif) {
-    const std::u32string caracteres = caracteresPlies(motif);
-    using enum Element::Genre;
-    for (std::size_t i = 0; i < caracteres.size(); ++i) {
-        switch (caracteres[i]) {
-            case U'*':
-                m_elements.push_back({Suite});
-                break;
-            case U'?':
-                m_elements.push_back({Un});
-                break;
-            case U'#':
-                m_elements.push_back({Chiffre});
-                break;
-            case U'[':
-                i = ajouteListe(caracteres, i);
-                break;
-            default:
-                m_elements.push_back({Caractere, caracteres[i]});
-        }
-    }
-    const auto simple = [](const Element& element) { return element.genre == Caractere; };
-    const bool debutPuisTout = m_elements.size() > 1 && m_elements.back().genre == Suite &&
-                               std::all_of(m_elements.begin(), m_elements.end() - 1, simple);
-    if (debutPuisTout) m_octetsDecisifs = 4 * (m_elements.size() - 1);
-}
-
-// Answers where the list ends; a bracket never closed is a plain character.
-std::size_t Motif::ajouteListe(std::u32string_view motif, std::size_t ouverture) {
-    const auto fin = motif.find(U']', ouverture + 1);
-    if (fin == std::u32string_view::npos) {
-        m_elements.push_back({Element::Genre::Caractere, U'['});
-        return ouverture;
-    }
-    Element liste{Element::Genre::Liste};
-    std::size_t i = ouverture + 1;
-    if (i < fin && motif[i] == U'!') {
-        liste.inverse = true;
-        ++i;
-    }
-    while (i < fin) {
-        const bool plage = i + 2 < fin && motif[i + 1] == U'-';
-        liste.plages.emplace_back(motif[i], plage ? motif[i + 2] : motif[i]);
-        i += plage ? 3 : 1;
-    }
-    if (!liste.plages.empty()) m_elements.push_back(std::move(liste));
-    return fin;
-}
-
-bool Motif::accepte(const Element& element, char32_t caractere) {
-    switch (element.genre) {
-        case Element::Genre::Caractere:
-            return caractere == element.caractere;
-        case Element::Genre::Chiffre:
-            return caractere >= U'0' && caractere <= U'9';
-        case Element::Genre::Liste:
-            return element.inverse !=
-                   std::any_of(element.plages.begin(), element.plages.end(), [caractere](const auto& plage) {
-                       return plage.first <= caractere && caractere <= plage.second;
-                   });
-        default:
-            return true;
-    }
-}
-
-bool Motif::convient(std::string_view texte) const {
-    const std::u32string caracteres = caracteresPlies(texte);
-    constexpr auto kAucune = static_cast<std::size_t>(-1);
-    std::size_t e = 0;
-    std::size_t c = 0;
-    std::size_t suite = kAucune;  // the last * met, and where its run was tried up to
-    std::size_t reprise = 0;
-    while (c < caracteres.size()) {
-        if (e < m_elements.size() && m_elements[e].genre == Element::Genre::Suite) {
-            suite = e++;
-            reprise = c;
-        } else if (e < m_elements.size() && accepte(m_elements[e], caracteres[c])) {
-            ++e;
-            ++c;
-        } else if (suite != kAucune) {
-            e = suite + 1;
-            c = ++reprise;
-        } else {
-            return false;
-        }
-    }
-    while (e < m_elements.size() && m_elements[e].genre == Element::Genre::Suite)
-        ++e;
-    return e == m_elements.size();
+    return octet != std::string_view::npos;
 }
 
 }  // namespace dao::interne

@@ -37,24 +37,32 @@ double nombreDeTexte(std::string_view texte) {
     return lu.ec == std::errc{} ? nombre : 0;
 }
 
-ValeurVue vueDeColonne(sqlite3_stmt* requete, int colonne) {
-    switch (sqlite3_column_type(requete, colonne)) {
+ValeurVue vueDe(sqlite3_value* valeur) {
+    const auto vue = [&](ValeurVue::Type type, const void* octets) -> ValeurVue {
+        const auto taille = static_cast<std::size_t>(sqlite3_value_bytes(valeur));
+        return {type, taille == 0 ? std::string_view("") : std::string_view(static_cast<const char*>(octets), taille),
+                0};
+    };
+    switch (sqlite3_value_type(valeur)) {
         case SQLITE_NULL:
-            return ValeurVue::nulle();
+            return {};
         case SQLITE_INTEGER:
         case SQLITE_FLOAT:
-            return ValeurVue::deNombre(sqlite3_column_double(requete, colonne));
-        case SQLITE_BLOB: {
-            const auto* octets = static_cast<const char*>(sqlite3_column_blob(requete, colonne));
-            const auto taille = static_cast<std::size_t>(sqlite3_column_bytes(requete, colonne));
-            return {ValeurVue::Genre::Texte, false,
-                    taille == 0 ? std::string_view("") : std::string_view(octets, taille), 0};
-        }
-        default: {
-            const auto* texte = reinterpret_cast<const char*>(sqlite3_column_text(requete, colonne));
-            return ValeurVue::deTexte({texte, static_cast<std::size_t>(sqlite3_column_bytes(requete, colonne))});
-        }
+            return {ValeurVue::Type::Nombre, {}, sqlite3_value_double(valeur)};
+        case SQLITE_BLOB:
+            return vue(ValeurVue::Type::Octets, sqlite3_value_blob(valeur));
+        default:
+            return vue(ValeurVue::Type::Texte, sqlite3_value_text(valeur));
     }
+}
+
+double ValeurVue::enNombre() const {
+    return type == Type::Nombre ? nombre : nombreDeTexte(texte);
+}
+
+std::string_view texteDe(const ValeurVue& valeur, std::string& tampon) {
+    if (valeur.type != ValeurVue::Type::Nombre) return valeur.texte;
+    return tampon = texteDeNombre(valeur.nombre);
 }
 
 }  // namespace interne
@@ -90,21 +98,6 @@ void AccesValeur::lie(sqlite3_stmt* requete, int rang, const Valeur& valeur) {
         sqlite3_bind_double(requete, rang, *reel);
     } else {
         sqlite3_bind_null(requete, rang);
-    }
-}
-
-Valeur AccesValeur::lit(sqlite3_stmt* requete, int colonne) {
-    switch (sqlite3_column_type(requete, colonne)) {
-        case SQLITE_NULL:
-            return {};
-        case SQLITE_INTEGER:
-            return static_cast<long long>(sqlite3_column_int64(requete, colonne));
-        case SQLITE_FLOAT:
-            return sqlite3_column_double(requete, colonne);
-        case SQLITE_BLOB:
-            return Valeur::octets(std::string(interne::vueDeColonne(requete, colonne).texte));
-        default:
-            return interne::vueDeColonne(requete, colonne).texte;
     }
 }
 

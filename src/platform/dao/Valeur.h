@@ -42,7 +42,7 @@ class Valeur {
         friend bool operator==(const Octets&, const Octets&) = default;
     };
     std::variant<std::monostate, long long, double, Texte, Octets> m_valeur;
-    friend class AccesValeur;  // dao's own reading and binding of SQLite values
+    friend class AccesValeur;  // dao's own binding of SQLite values
 };
 
 }  // namespace dao

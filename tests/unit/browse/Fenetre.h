@@ -40,6 +40,7 @@ class Fenetre : public ::testing::Test, protected doubles::MachineDEssai {
 
     void ouvre() {
         base.base = dao::DBEngine::OpenDatabase(chemins.base);
+        base.base.declareCles(db::clesDesTables());
         base.films = base.base.OpenRecordset("Films");
         base.personnel = base.base.OpenRecordset("Personnel");
         base.liste = base.base.OpenRecordset("Films");

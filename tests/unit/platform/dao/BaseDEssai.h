@@ -25,7 +25,11 @@ using Champs = std::vector<std::pair<std::string, dao::Valeur>>;
 
 // A new base in a folder of its own.
 struct BaseDEssai {
-    BaseDEssai() { dao::DBEngine::CreateDatabase(chemin, kSchema), base = dao::DBEngine::OpenDatabase(chemin); }
+    BaseDEssai() { dao::DBEngine::CreateDatabase(chemin, kSchema), ouvre(); }
+    void ouvre() {
+        base = dao::DBEngine::OpenDatabase(chemin);
+        base.declareCles({{"titre", "realisateur"}, {"Titre2", "Realisateur2"}});
+    }
 
     void ajoute(std::string_view table, const Champs& champs) {
         dao::Recordset jeu = base.OpenRecordset(table);

@@ -1,6 +1,6 @@
 #include "doubles/DossierTemporaire.h"
 #include "platform/dao/CleJet.h"
-#include "platform/dao/Utf8.h"
+#include "util/Unicode.h"
 
 #include <string>
 #include <vector>
@@ -42,7 +42,7 @@ std::vector<Groupes> listesDeJson(const std::string& json) {
 
 std::string caractere(char32_t point) {
     std::string texte;
-    dao::interne::ecritCaractere(point, texte);
+    util::ajoutePoint(texte, static_cast<UChar32>(point));
     return texte;
 }
 

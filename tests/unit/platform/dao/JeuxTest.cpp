@@ -239,6 +239,29 @@ TEST_F(JeuxTest, LookUpsFollowEveryChange) {
         ASSERT_EQ(trouve("film " + std::to_string(i)), 1);
 }
 
+// The keys are the program's to name; without them rows are found all the same.
+TEST(Cles, AreThoseThatWereDeclared) {
+    const doubles::DossierTemporaire dossier;
+    dao::DBEngine::CreateDatabase(
+        dossier.chemin("livres.mdb"),
+        "CREATE TABLE Livres (id INTEGER PRIMARY KEY, Nom TEXT, Auteur TEXT, Genre TEXT);"
+        "INSERT INTO Livres VALUES (1,'Nana','Zola','a'),(2,'Iliade',NULL,'a'),(3,'nana','zola ','a'),"
+        "(4,'Aube','x','a')");
+    for (const bool declarees : {false, true}) {
+        dao::Database base = dao::DBEngine::OpenDatabase(dossier.chemin("livres.mdb"));
+        if (declarees) base.declareCles({{"nom", "AUTEUR"}, {"Titre", "Realisateur"}});
+        const auto lus = [&](const std::string& clauses) {
+            Liste ids;
+            for (dao::Recordset jeu = base.OpenRecordset("SELECT * FROM Livres " + clauses); !jeu.Eof(); jeu.MoveNext())
+                ids.push_back(jeu.texte("id"));
+            return ids;
+        };
+        EXPECT_EQ(lus("WHERE Nom=\"NANA\" AND Auteur=\"Zola\""), (Liste{"1", "3"}));
+        EXPECT_EQ(lus("WHERE Nom=\"iliade\" AND Auteur=\"\""), declarees ? Liste{"2"} : Liste{});
+        EXPECT_EQ(lus("ORDER BY Genre"), declarees ? (Liste{"4", "2", "1", "3"}) : (Liste{"1", "2", "3", "4"}));
+    }
+}
+
 TEST_F(JeuxTest, AFullDiskUndoesTheWholeTransaction) {
     base.Execute("PRAGMA max_page_count=12");
     dao::Recordset films = base.OpenRecordset("Films");

@@ -181,7 +181,7 @@ TEST(Ouverture, AKilledProgramLeavesTheOldState) {
         doubles::meurs();
     }));
     EXPECT_TRUE(essai.dossier.existe("films.mdb-journal"));
-    essai.base = dao::DBEngine::OpenDatabase(essai.chemin);
+    essai.ouvre();
     EXPECT_EQ(essai.lit("SELECT * FROM Films"), std::vector<std::string>{"Dune"});
     EXPECT_FALSE(essai.dossier.existe("films.mdb-journal"));
 }
@@ -227,7 +227,7 @@ TEST(Ouverture, ListingsReadNoPoster) {
         transaction.confirme();
     }
     essai.base = {};
-    essai.base = dao::DBEngine::OpenDatabase(essai.chemin);
+    essai.ouvre();
     const auto octetsLus = [] {
         std::ifstream io("/proc/self/io");
         std::string nom;
@@ -237,7 +237,7 @@ TEST(Ouverture, ListingsReadNoPoster) {
     };
     for (const std::string enonce :
          {"SELECT * FROM Films ORDER BY Titre ASC",
-          "SELECT * FROM Films WHERE INSTR(Titre, \"Film\")+INSTR(Acteurs, \"bleu\")>0 ORDER BY Titre ASC",
+          "SELECT * FROM Films WHERE INSTR(Titre, \"bleu\")+INSTR(Acteurs, \"bleu\")>0 ORDER BY Titre ASC",
           "SELECT * FROM Films INNER JOIN Personnel ON Films.Titre = Personnel.Titre2 AND "
           "Films.realisateur=Personnel.realisateur2 ORDER BY Genre ASC, Titre2 ASC",
           "SELECT titre FROM films where Affiche like 'STO*' order by titre"}) {

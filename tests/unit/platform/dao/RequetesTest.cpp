@@ -369,5 +369,14 @@ TEST(Requetes, ErrorsSayWhatIsWrong) {
           "SELECT * FROM Films WHERE Titre % 2", "SELECT DISTINCT Titre FROM Films ORDER BY Genre"}) {
         EXPECT_EQ(numero(enonce), dao::kErreurSyntaxe) << enonce;
     }
+    for (const std::string condition :
+         {"NOT Titre = \"x\"", "Titre = \"x\" OR Annee = \"y\"", "[Titre] = \"x\"", "Titre < \"x\"",
+          "Titre LIKE \"a*b\"", "Titre LIKE \"a[b]*\"", "Titre LIKE \"\"", "Titre LIKE \"*\"", "INSTR(Titre, \"x\")",
+          "Titre = Annee", "Note = 5", "INSTR(Titre, \"x\")-INSTR(Annee, \"x\")>0",
+          "INSTR(Titre, \"x\")+INSTR(Annee, \"y\")>0", "(Titre = \"x\"))",
+          "Titre = \"x\" ORDER BY Titre DESC"})  // refused, and not taken for something else
+        EXPECT_EQ(numero("SELECT * FROM Films WHERE " + condition), dao::kErreurSyntaxe) << condition;
+    EXPECT_EQ(numero("SELECT * " + kSans + " AND Pret = \"x\""), dao::kErreurSyntaxe);
+    EXPECT_EQ(numero("SELECT * " + kJoint + " WHERE INSTR(Titre, \"x\")+INSTR(Pret, \"x\")>0"), dao::kErreurSyntaxe);
     EXPECT_EQ(numero("SELECT * FROM Films WHERE " + std::string(100000, '(')), dao::kErreurSyntaxe);
 }
