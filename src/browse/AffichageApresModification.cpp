@@ -14,4 +14,11 @@ void AffichageApresModification(const Contexte& c) {
                          recherche ? liste.critereRecherche : "");
 }
 
+void listeTousLesFilms(const Contexte& c) {
+    c.liste.ChoixZone.selectionne(kZoneTous);
+    const int tri = c.liste.ChoixTri.ListIndex;
+    if (estUnTri(tri) && !seTrie(kZoneTous, tri)) c.liste.ChoixTri.selectionne(kTriTitre1);
+    AffichageApresModification(c);
+}
+
 }  // namespace browse

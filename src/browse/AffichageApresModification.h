@@ -8,4 +8,7 @@ namespace browse {
 // "Recherche" is selected.
 void AffichageApresModification(const Contexte& c);
 
+// Lists all films. The sort stays, where they have it.
+void listeTousLesFilms(const Contexte& c);
+
 }  // namespace browse

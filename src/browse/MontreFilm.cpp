@@ -7,18 +7,6 @@
 
 namespace browse {
 
-namespace {
-
-// The sort stays, where all films have it.
-void listeTousLesFilms(const Contexte& c) {
-    c.liste.ChoixZone.selectionne(kZoneTous);
-    const int tri = c.liste.ChoixTri.ListIndex;
-    if (estUnTri(tri) && !seTrie(kZoneTous, tri)) c.liste.ChoixTri.selectionne(kTriTitre1);
-    AffichageApresModification(c);
-}
-
-}  // namespace
-
 bool MontreFilm(const Contexte& c, const db::CleFilm& film) {
     if (!filmExiste(c, film)) return false;
     if (montreDansLaListe(c, film)) return true;

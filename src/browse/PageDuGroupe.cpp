@@ -1,0 +1,100 @@
+#include "browse/PageDuGroupe.h"
+
+#include "browse/LigneDuNoeud.h"
+#include "browse/ListesDeChoix.h"
+#include "db/Affiches.h"
+#include "platform/dao/ErreurDao.h"
+#include "util/Nombres.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace browse {
+
+namespace {
+
+// The chosen heading; 0 for the whole listing.
+int groupeChoisi(const VueArbre& vue) {
+    const int choisi = vue.SelectedItem;
+    return choisi >= 1 && choisi <= vue.Nodes.Count() && vue.Nodes.estGroupe(choisi) ? choisi : 0;
+}
+
+// " Hors tri !" begins with one, to stand first.
+std::string sansBlancDeTete(std::string_view texte) {
+    return std::string(texte.substr(std::min(texte.find_first_not_of(' '), texte.size())));
+}
+
+std::string nomDeLaListe(const EtatListe& liste) {
+    if (liste.zoneDeLArbre == kZoneRecherche) return kTexteZoneRecherche;
+    return estUneZone(liste.zoneDeLArbre) ? zoneDe(liste.zoneDeLArbre).legende : "";
+}
+
+long compteFilms(const Arbre& arbre, int groupe) {
+    if (groupe != 0) return static_cast<long>(arbre.enfants(groupe).size());
+    long films = 0;
+    for (const int noeud : arbre.enfants(0))
+        films += arbre.estGroupe(noeud) ? compteFilms(arbre, noeud) : 1;
+    return films;
+}
+
+void ajoutePremiers(const Arbre& arbre, int groupe, std::vector<int>& noeuds) {
+    for (const int noeud : arbre.enfants(groupe)) {
+        if (noeuds.size() == kAffichesDeLaPage) return;
+        if (arbre.estGroupe(noeud))
+            ajoutePremiers(arbre, noeud, noeuds);
+        else
+            noeuds.push_back(noeud);
+    }
+}
+
+// Where the context menu of the heading has its command too.
+Renommage renommageDe(int tri) {
+    if (tri == kTriGenre) return Renommage::Genre;
+    return tri == kTriSupport ? Renommage::Support : Renommage::Aucun;
+}
+
+// The folder is settled by who shows the poster or writes one, not by a look at it.
+std::optional<fichiers::Place> fichierSansRienFixer(const Contexte& c, const std::string& affiche) {
+    const std::string avant = c.stockage.Text4.Text;
+    const std::string dossier = db::dossierImages(c);
+    c.stockage.Text4.Text = avant;
+    const auto fichier = db::fichierAffiche(dossier, affiche);
+    return fichier ? fichier : db::afficheVoisine(c.chemins.base, affiche);
+}
+
+std::string valeurAffiche(const Contexte& c, int noeud) {
+    try {
+        vaSurLaLigne(c, noeud);
+        return c.base.liste.texte("Affiche");
+    } catch (const dao::ErreurDao&) {  // the film is gone, or the base
+        return {};
+    }
+}
+
+}  // namespace
+
+PageDuGroupe pageDuGroupe(const EtatListe& liste) {
+    const Arbre& arbre = liste.TreeView1.Nodes;
+    const int groupe = groupeChoisi(liste.TreeView1);
+    PageDuGroupe page;
+    page.nom = groupe != 0 ? sansBlancDeTete(arbre.texteDuGroupe(groupe)) : nomDeLaListe(liste);
+    page.compte = util::phraseCompte(compteFilms(arbre, groupe), "# film", "# films");
+    ajoutePremiers(arbre, groupe, page.noeuds);
+    if (groupe != 0) page.renommage = renommageDe(liste.triDeLArbre);
+    return page;
+}
+
+std::optional<std::string> afficheDuNoeud(const Contexte& c, int noeud) {
+    const Arbre& arbre = c.liste.TreeView1.Nodes;
+    if (noeud < 1 || noeud > arbre.Count() || arbre.estGroupe(noeud)) return std::nullopt;
+    std::string affiche = valeurAffiche(c, noeud);
+    if (affiche.size() <= db::kTaillePrefixe) return std::nullopt;
+    if (db::estDansLaBase(affiche)) {
+        if (affiche.size() > static_cast<std::size_t>(kTailleMaxApercu)) return std::nullopt;
+        return affiche.erase(0, db::kTaillePrefixe);
+    }
+    const auto fichier = fichierSansRienFixer(c, affiche);
+    return fichier ? fichiers::litSansLien(fichier->chemin, kTailleMaxApercu) : std::nullopt;
+}
+
+}  // namespace browse
