@@ -30,7 +30,31 @@ bool estTropGrande(const QSize& taille, const QByteArray& format, const QByteArr
     return surface > kPixelsMax || surface * compteBalayages(octets) > kPixelsParcourus;
 }
 
+// Ready to read the picture at the size in which it fills `pixels`. Its own size, upright; empty when it is not to be read.
+QSize prepare(QImageReader& lecteur, const QByteArray& format, const QByteArray& octets, const QSize& pixels) {
+    [[maybe_unused]] static const bool bornee = (QImageReader::setAllocationLimit(kMemoireMax), true);
+    lecteur.setAutoDetectImageFormat(false);  // no other decoder has a look
+    lecteur.setAutoTransform(true);
+    const QSize brute = lecteur.size();
+    if (brute.isEmpty() || estTropGrande(brute, format, octets)) return {};
+
+    const bool couchee = estCouchee(lecteur);
+    const QSize taille = couchee ? brute.transposed() : brute;
+    const QSize cible = taille.scaled(pixels, Qt::KeepAspectRatio).expandedTo({1, 1});
+    if (cible.width() < taille.width()) lecteur.setScaledSize(couchee ? cible.transposed() : cible);
+    return taille;
+}
+
 }  // namespace
+
+QImage afficheReduite(const QByteArray& octets, const QSize& pixels) {
+    const QByteArray format = formatDePhoto(octets);
+    if (format.isEmpty()) return {};
+    QBuffer tampon;
+    tampon.setData(octets);
+    QImageReader lecteur(&tampon, format);
+    return prepare(lecteur, format, octets, pixels).isEmpty() ? QImage() : lecteur.read();
+}
 
 QByteArray formatDePhoto(const QByteArray& octets) {
     if (octets.startsWith("\xff\xd8\xff")) return "jpeg";
@@ -77,20 +101,13 @@ bool ImagesQt::decode(const QSize& pixels) {
 }
 
 QPixmap ImagesQt::decodee(const QSize& pixels) {
-    QImageReader::setAllocationLimit(kMemoireMax);
     const QByteArray format = formatDePhoto(m_octets);
     if (format.isEmpty()) return {};
     QBuffer tampon(&m_octets);
     QImageReader lecteur(&tampon, format);
-    lecteur.setAutoDetectImageFormat(false);  // no other decoder has a look
-    lecteur.setAutoTransform(true);
-    const QSize brute = lecteur.size();
-    if (brute.isEmpty() || estTropGrande(brute, format, m_octets)) return {};
-
-    const bool couchee = estCouchee(lecteur);
-    m_taille = couchee ? brute.transposed() : brute;
-    const QSize cible = m_taille.scaled(pixels, Qt::KeepAspectRatio).expandedTo({1, 1});
-    if (cible.width() < m_taille.width()) lecteur.setScaledSize(couchee ? cible.transposed() : cible);
+    const QSize taille = prepare(lecteur, format, m_octets, pixels);
+    if (taille.isEmpty()) return {};
+    m_taille = taille;
     return QPixmap::fromImageReader(&lecteur);
 }
 

@@ -3,6 +3,7 @@
 #include "platform/ecran/Ecran.h"
 
 #include <QByteArray>
+#include <QImage>
 #include <QPixmap>
 #include <QSize>
 
@@ -12,6 +13,10 @@ namespace ui {
 // under a .jpg name ("png", "bmp", "gif", "webp"). Empty for anything else, which no decoder is to see: some of them (SVG)
 // work without end before they have told a size.
 [[nodiscard]] QByteArray formatDePhoto(const QByteArray& octets);
+
+// A picture file's bytes decoded to fill `pixels` as far as its shape allows, never larger than it is; null where no
+// decoder is to see them. May be called by any thread.
+[[nodiscard]] QImage afficheReduite(const QByteArray& octets, const QSize& pixels);
 
 // The current poster. Its file is kept as bytes, and decoded at the size in which it is shown: a full decoding of each
 // poster would cost the browsing more than everything else.
