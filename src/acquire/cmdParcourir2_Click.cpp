@@ -29,10 +29,12 @@ std::string dossierDesFiches(const Contexte& c) {
 
 void montreNombreDeFiches(const Contexte& c) {
     const std::string dossier = dossierDesFiches(c);
+    const bool existe = fichiers::dossierExiste(dossier);
+    const long nombre = existe ? CompteFilmsRepertoire(dossier) : 0;
+    c.ajout.fichesAImporter = nombre > 0;
     c.ajout.lblNbFilms.Caption = dossier.empty() ? ""
-                                 : !fichiers::dossierExiste(dossier)
-                                     ? "Ce dossier n'existe pas."
-                                     : texteNombreDeFiches(CompteFilmsRepertoire(dossier));
+                                 : !existe       ? "Ce dossier n'existe pas."
+                                                 : texteNombreDeFiches(nombre);
 }
 
 }  // namespace acquire

@@ -3,6 +3,7 @@
 #include "platform/ecran/Controles.h"
 
 #include <array>
+#include <string>
 
 namespace app {
 
@@ -17,6 +18,7 @@ struct EtatFonctions {
     std::array<ecran::Etiquette, 10> Label7;
 
     // Tools.
+    ecran::Etiquette lblCheminBase;  // of the open base
     ecran::Bouton cmdChargeOuvreBase, cmdCompacter, cmdInfosBase, cmdSupprInfosPerso, cmdPonctuation, cmdMultiSuppress,
         cmdCreerListe;
     // Configuration.
@@ -34,6 +36,7 @@ struct EtatFonctions {
 struct EtatFenetre {
     int Width = 0;
     int Height = 0;
+    std::string Caption = "Ambrelis";  // and which base is open
 };
 
 }  // namespace app

@@ -11,12 +11,26 @@
 #include "db/OuvertureBase.h"
 #include "db/Requete.h"
 #include "edit/cmdSupprTitresSelect_Click.h"
+#include "platform/fichiers/Fichiers.h"
 #include "platform/systeme/FinDuProgramme.h"
 #include "platform/systeme/InstanceUnique.h"
 
 #include <utility>
 
 namespace app {
+
+namespace {
+
+// In the window's title, and where the user is told which base he works with.
+void nommeLaBase(const Contexte& c) {
+    const bool ouverte = c.base.base.estOuverte();
+    const std::string nom = fichiers::nomDeFichier(c.chemins.base);
+    c.etats.frmPrincipal.Caption = ouverte ? nom + " - Ambrelis" : "Ambrelis";
+    c.etats.fonctions.lblCheminBase.Caption = ouverte ? c.chemins.base : "";
+    c.etats.ajout.lblBaseOuImporter.Caption = ouverte ? "Base complétée : " + c.chemins.base : "";
+}
+
+}  // namespace
 
 // What a session owns, and the one context that leads to it.
 struct Session::Rouages {
@@ -71,6 +85,7 @@ void Session::accompagne(const std::function<void()>& commande) {
     const auto suite = [&c = contexte()] {
         if (!c.panneaux.frameMultiSuppression.Visible) edit::rangeMultiSuppression(c);
         if (!c.film.estUnFilm()) c.etats.fichiers.Visible = false;
+        nommeLaBase(c);
     };
     try {
         m_rouages->saisies.surveille(commande);
@@ -87,6 +102,7 @@ void Session::accompagne(const std::function<void()>& commande) {
 
 void Session::Form_Load() {
     m_rouages->demarrage.execute();
+    nommeLaBase(contexte());
     m_rouages->enMarche = true;
 }
 

@@ -40,6 +40,12 @@ class Session {
         accompagne([&] { commande(contexte(), arguments...); });
     }
 
+    // What only looks at the base, and changes nothing that is shown: run outside of the wrapper, between two commands.
+    template <typename Regard, typename... Arguments>
+    [[nodiscard]] auto regarde(Regard regard, Arguments... arguments) const {
+        return regard(contexte(), arguments...);
+    }
+
     // Life of the window. Form_Load runs before it is shown, Form_Activate once it is painted. Form_Unload is the
     // shut-down; it runs once, later calls do nothing.
     void Form_Load();

@@ -61,7 +61,7 @@ void Command13_Click(const Contexte& c, int indice) {
 
 void passeEnCorrection(const Contexte& c, const std::string& titre) {
     c.ajout.cmdAjoutFilm.Caption = "Modifier";
-    c.ajout.Label5.Caption = "Correction de " + titreCite(titre);
+    c.ajout.Label5.Caption = "Modifier : " + titreCite(titre);
 }
 
 }  // namespace edit

@@ -18,6 +18,7 @@ struct EtatAjout {
     ecran::ZoneTexte txtCheminAjoutAuto;
     ecran::Bouton cmdParcourir2, cmdAjoutAuto;
     ecran::Etiquette lblNbFilms;      // how many sheets the folder holds
+    bool fichesAImporter = false;     // it holds some
     ecran::Etiquette lblProgression;  // the sheet being imported
     ecran::Progression ProgressBar1;
     ecran::ZoneTexte txtRechInternet;
@@ -28,6 +29,7 @@ struct EtatAjout {
     // Page of the import of a previous installation.
     ecran::Cadre frameImportBase;
     ecran::Bouton cmdImporterBase;
+    ecran::Etiquette lblBaseOuImporter;  // which base is added to
     std::string dossierAncienneVersion;  // last chosen, where the next choice begins
 
     // Manual page. Text3: 0 title, 1 director, 2 year, 3 duration, 4 actors.

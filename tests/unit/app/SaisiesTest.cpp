@@ -107,7 +107,7 @@ TEST_F(Saisies, ACorrectionComesBackWithItsFilmWhereverTheListingWent) {
     EXPECT_EQ(avis(), "Correction de « Le Samouraï » laissée sans être enregistrée.");
     session.execute(app::cmdAvis_Click, 0);
     EXPECT_TRUE(saisieMontree() && etats.ajout.modeModifier());
-    EXPECT_EQ(etats.ajout.Label5.Caption, "Correction de « Le Samouraï »");
+    EXPECT_EQ(etats.ajout.Label5.Caption, "Modifier : « Le Samouraï »");
     session.execute(edit::cmdAjoutFilm_Click);
     parcours::choisitZone(execution, 1);
     parcours::choisitTri(execution, 4);

@@ -182,7 +182,7 @@ TEST_F(cmdAjoutFilm, correctsTheFilmWithItsHoldingAndShowsItAgain) {
     EXPECT_EQ(ajout.Combo2.Text + "/" + ajout.Combo3.Text + "/" + ajout.Combo4.Text + "/" + ajout.txtResume.Text,
               "Documentaire/France/Filmsonor/Un peintre.");
     EXPECT_THAT(ajout.Combo2.Items, ElementsAre("Documentaire", "Horreur"));
-    EXPECT_EQ(ajout.Label5.Caption, "Correction de « " + titre + " »");
+    EXPECT_EQ(ajout.Label5.Caption, "Modifier : « " + titre + " »");
 
     saisis("Le Mystère Picasso" + repete("!", 100), "H.-G. Clouzot");
     cmdAjoutFilm_Click(c);
