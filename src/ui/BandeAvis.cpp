@@ -23,12 +23,9 @@ BandeAvis::BandeAvis(const Atelier& atelier, QWidget* parent)
     auto* fermer = bouton<BoutonLien>("cmdFermerAvis", tr("Fermer"), tr("Retirer cette ligne"));
     atelier.auClic(fermer, app::cmdFermerAvis_Click);
     ligne->addWidget(fermer);
-    ligne->setContentsMargins(kGrand, kPetit, kGrand, kPetit);
+    ligne->setContentsMargins(kLarge, kSerre, kGrand, kSerre);
     ligne->setStretch(0, 1);
-    auto* boite = colonne(0);
-    boite->addWidget(filetHorizontal());
-    boite->addLayout(ligne);
-    setLayout(boite);
+    setLayout(ligne);
     atelier.liaison.lie(etat.frameAvis, this);
     atelier.liaison.apresEcriture([this] { annonce(); });
 }

@@ -19,14 +19,11 @@ BandeTravail::BandeTravail(const Atelier& atelier, QWidget* parent)
     m_progression->setTextVisible(false);
     m_progression->setFixedSize(220, 8);
     auto* ligne = rangee({m_texte}, kMoyen);
-    ligne->setContentsMargins(kGrand, kPetit, kGrand, kPetit);
+    ligne->setContentsMargins(kLarge, kSerre, kGrand, kSerre);
     ligne->setStretch(0, 1);
     ligne->addWidget(m_progression);
     ligne->addWidget(m_annuler);
-    auto* boite = colonne(0);
-    boite->addWidget(filetHorizontal());
-    boite->addLayout(ligne);
-    setLayout(boite);
+    setLayout(ligne);
     hide();
 
     EcranQt* ecran = &atelier.ecran;

@@ -11,8 +11,9 @@ namespace ui {
 
 namespace {
 
-QPushButton* fonction(const char* nom, const QString& texte, Pictogramme pictogramme, const QString& infobulle) {
-    auto* resultat = bouton(nom, texte, infobulle);
+template <typename Bouton = QPushButton>
+Bouton* fonction(const char* nom, const QString& texte, Pictogramme pictogramme, const QString& infobulle) {
+    auto* resultat = bouton<Bouton>(nom, texte, infobulle);
     resultat->setFlat(true);
     resultat->setIcon(icone(pictogramme));
     resultat->setIconSize({18, 18});
@@ -30,12 +31,13 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     atelier.liaison.lie(atelier.etats().nom.lblNom2, nom2);
     atelier.liaison.lie(atelier.etats().fonctions.Label13, version);
 
-    auto* recherche = fonction("cmdFonctionRecherche", tr("Rec&hercher"), Pictogramme::Loupe,
-                               tr("Chercher des films dans la base (Ctrl+F ; Échap pour revenir)"));
-    auto* ajout = fonction("cmdAfficherFonctions", tr("A&jouter"), Pictogramme::Plus,
-                           tr("Ajouter des films à la base (Ctrl+N pour une saisie ; Échap pour revenir)"));
-    auto* outils = fonction("cmdConfigurer", tr("&Outils"), Pictogramme::Reglages,
-                            tr("Entretenir la base et régler le programme (Échap pour revenir)"));
+    auto* recherche = fonction<BoutonDePanneau>("cmdFonctionRecherche", tr("Rec&hercher"), Pictogramme::Loupe,
+                                                tr("Chercher des films dans la base (Ctrl+F ; Échap pour revenir)"));
+    auto* ajout =
+        fonction<BoutonDePanneau>("cmdAfficherFonctions", tr("A&jouter"), Pictogramme::Plus,
+                                  tr("Ajouter des films à la base (Ctrl+N pour une saisie ; Échap pour revenir)"));
+    auto* outils = fonction<BoutonDePanneau>("cmdConfigurer", tr("&Outils"), Pictogramme::Reglages,
+                                             tr("Entretenir la base et régler le programme (Échap pour revenir)"));
     auto* site = fonction("Image3", tr("MovieCovers"), Pictogramme::MovieCovers,
                           tr("Le logo de MovieCovers : un clic ouvre le site"));
     site->setIconSize({20, 20});
@@ -43,6 +45,13 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
         fonction("cmdAide", tr("À propos"), Pictogramme::Aide, tr("À propos d'Ambrelis (F1 pour les touches)"));
     auto* sortie =
         fonction("cmdStop", tr("&Quitter"), Pictogramme::Sortie, tr("Enregistrer les réglages et quitter (Ctrl+Q)"));
+    atelier.liaison.apresEcriture([=, etats = &atelier.etats()] {
+        const bool fonctions = etats->panneaux.frameListeFonctions.Visible;
+        const bool ajoute = fonctions && etats->fonctions.frameDivers.Visible;
+        recherche->setChecked(etats->panneaux.frameRecherche.Visible);
+        ajout->setChecked(ajoute);
+        outils->setChecked((fonctions && !ajoute) || etats->panneaux.frameMultiSuppression.Visible);
+    });
     atelier.auClic(recherche, browse::cmdFonctionRecherche_Click);
     atelier.auClic(ajout, app::cmdAfficherFonctions_Click);
     atelier.auClic(outils, app::cmdConfigurer_Click);
@@ -66,7 +75,7 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     boite->addSpacing(kPetit);
     boite->addWidget(version, 0, Qt::AlignBottom);
     boite->addSpacing(kLarge);
-    for (QPushButton* gauche : {recherche, ajout, outils})
+    for (BoutonDePanneau* gauche : {recherche, ajout, outils})
         boite->addWidget(gauche);
     boite->addStretch();
     for (QPushButton* droite : {site, aide, sortie})

@@ -4,6 +4,8 @@
 #include "ui/Infobulles.h"
 #include "ui/Traits.h"
 
+#include <QAbstractItemView>
+#include <QBitmap>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -22,13 +24,31 @@ QString debut(const QString& texte) {
     return texte.left(kParLigne);
 }
 
+// The corners of a window cannot be counted on to be transparent: not every desktop composes.
+void donneLaFormeDuChamp(QWidget& liste) {
+    QBitmap forme(liste.size());
+    forme.clear();
+    QPainter peintre(&forme);
+    peintre.setBrush(Qt::color1);
+    peintre.setPen(Qt::color1);
+    peintre.drawRoundedRect(liste.rect().adjusted(0, 0, -1, -1), kRayon, kRayon);
+    peintre.end();
+    liste.setMask(forme);
+}
+
 }  // namespace
+
+void BoutonAccent::metPrincipal(bool principal) {
+    if (m_principal == principal) return;
+    m_principal = principal;
+    update();
+}
 
 void BoutonAccent::paintEvent(QPaintEvent*) {
     QStylePainter peintre(this);
     QStyleOptionButton option;
     initStyleOption(&option);
-    if (isEnabled()) {
+    if (isEnabled() && m_principal) {
         const bool survol = option.state & (QStyle::State_MouseOver | QStyle::State_Sunken);
         const QColor plein = accent(palette());
         peintSurface(peintre, rect(), survol ? accentSurvole(palette()) : plein, {});
@@ -40,6 +60,19 @@ void BoutonAccent::paintEvent(QPaintEvent*) {
         peintre.drawControl(QStyle::CE_PushButtonBevel, option);
     }
     peintre.drawControl(QStyle::CE_PushButtonLabel, option);
+}
+
+BoutonDePanneau::BoutonDePanneau(const QString& texte) : QPushButton(texte) {
+    setFlat(true);
+    setCheckable(true);
+    setIconSize({18, 18});
+}
+
+void BoutonDePanneau::paintEvent(QPaintEvent* evenement) {
+    QPushButton::paintEvent(evenement);
+    if (!isChecked()) return;
+    QPainter peintre(this);
+    peintSurface(peintre, QRectF(10, height() - 3, width() - 20, 3), accent(palette()), {}, 1.5);
 }
 
 QSize BoutonOnglet::sizeHint() const {
@@ -113,50 +146,39 @@ void BoutonLien::keyPressEvent(QKeyEvent* evenement) {
     click();
 }
 
-CaseRepliee::CaseRepliee(const QString& texte, QWidget* parent) : QCheckBox(texte, parent) {
-    QSizePolicy politique(QSizePolicy::Preferred, QSizePolicy::Preferred);
-    politique.setHeightForWidth(true);
-    setSizePolicy(politique);
+Bascule::Bascule(const QString& texte, const QString& signe, QWidget* parent)
+    : QCheckBox(texte, parent), m_signe(signe) {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAttribute(Qt::WA_Hover);
 }
 
-int CaseRepliee::retrait() const {
-    return style()->pixelMetric(QStyle::PM_IndicatorWidth) + style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing);
+QSize Bascule::sizeHint() const {
+    const int haute = fontMetrics().height() + 8;
+    return {std::max(haute, fontMetrics().horizontalAdvance(m_signe) + 14), haute};
 }
 
-QSize CaseRepliee::sizeHint() const {
-    const int largeur = fontMetrics().size(Qt::TextShowMnemonic, text()).width() + retrait() + 4;
-    return {largeur, heightForWidth(largeur)};
-}
-
-QSize CaseRepliee::minimumSizeHint() const {
-    return {retrait() + fontMetrics().averageCharWidth() * 12, heightForWidth(sizeHint().width())};
-}
-
-int CaseRepliee::heightForWidth(int largeur) const {
-    const QRect place(0, 0, largeur - retrait(), 1000);
-    return std::max(22,
-                    fontMetrics().boundingRect(place, Qt::TextWordWrap | Qt::TextShowMnemonic, text()).height() + 4);
-}
-
-void CaseRepliee::paintEvent(QPaintEvent*) {
+void Bascule::paintEvent(QPaintEvent*) {
     QStylePainter peintre(this);
     QStyleOptionButton option;
     initStyleOption(&option);
-    const int cote = style()->pixelMetric(QStyle::PM_IndicatorWidth);
-    const QRect zone = rect();
-    option.rect = QRect(0, 2 + std::max(0, (fontMetrics().height() - cote) / 2), cote, cote);
-    peintre.drawPrimitive(QStyle::PE_IndicatorCheckBox, option);
-    const QRect texte = zone.adjusted(retrait(), 2, 0, 0);
-    style()->drawItemText(&peintre, texte, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap | Qt::TextShowMnemonic,
-                          palette(), isEnabled(), text(), QPalette::WindowText);
-    if (!hasFocus()) return;
-    option.rect = texte;
-    peintre.drawPrimitive(QStyle::PE_FrameFocusRect, option);
+    const bool allumee = isChecked() && isEnabled();
+    if (allumee)
+        peintSurface(peintre, rect(),
+                     option.state & QStyle::State_MouseOver ? accentSurvole(palette()) : accent(palette()), {});
+    else
+        peintBouton(peintre, option, false);
+    if (hasFocus())
+        peintContourDeFocus(
+            peintre, rect(),
+            allumee ? palette().color(QPalette::Active, QPalette::HighlightedText) : accentLisible(palette()));
+    style()->drawItemText(&peintre, rect(), Qt::AlignCenter, palette(), isEnabled(), m_signe,
+                          allumee ? QPalette::HighlightedText : QPalette::ButtonText);
 }
 
 void ListeDeroulante::showPopup() {
     emit vaSOuvrir();
     QComboBox::showPopup();
+    donneLaFormeDuChamp(*view()->window());
 }
 
 // An entry is chosen once the list is hidden.

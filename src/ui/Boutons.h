@@ -11,8 +11,24 @@ class BoutonAccent final : public QPushButton {
     Q_OBJECT
   public:
     using QPushButton::QPushButton;
+    // Whether there is something to do it to: without, it looks like any other button.
+    void metPrincipal(bool principal);
 
   protected:
+    void paintEvent(QPaintEvent* evenement) override;
+
+  private:
+    bool m_principal = true;
+};
+
+// The way to a panel: pressed and underlined in the accent colour while that panel is open, whatever is clicked.
+class BoutonDePanneau final : public QPushButton {
+    Q_OBJECT
+  public:
+    explicit BoutonDePanneau(const QString& texte);
+
+  protected:
+    void nextCheckState() override {}  // the panel tells
     void paintEvent(QPaintEvent* evenement) override;
 };
 
@@ -41,22 +57,21 @@ class BoutonLien final : public QAbstractButton {
     void keyPressEvent(QKeyEvent* evenement) override;
 };
 
-// A check box whose text wraps.
-class CaseRepliee final : public QCheckBox {
+// A check box that is a small button with a sign on it: pressed when it is ticked. Its text is for screen readers and for
+// its mnemonic; the tool tip has to say it.
+class Bascule final : public QCheckBox {
     Q_OBJECT
   public:
-    explicit CaseRepliee(const QString& texte, QWidget* parent = nullptr);
+    Bascule(const QString& texte, const QString& signe, QWidget* parent = nullptr);
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-    bool hasHeightForWidth() const override { return true; }
-    int heightForWidth(int largeur) const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
 
   protected:
     void paintEvent(QPaintEvent* evenement) override;
     bool hitButton(const QPoint& endroit) const override { return rect().contains(endroit); }
 
   private:
-    [[nodiscard]] int retrait() const;
+    QString m_signe;
 };
 
 // A drop-down list that tells when it opens, before its entries are shown, and when it closed, and leaves the wheel to what scrolls.

@@ -54,6 +54,12 @@ QHBoxLayout* rangee(std::initializer_list<QWidget*> widgets, int espacement) {
     return boite;
 }
 
+void gardeSaPlace(QWidget* widget) {
+    QSizePolicy politique = widget->sizePolicy();
+    politique.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(politique);
+}
+
 QFrame* filetHorizontal() {
     return new Filet;
 }

@@ -59,6 +59,13 @@ QColor voile(const QPalette& palette) {
     return melange(palette.color(QPalette::WindowText), palette.color(QPalette::Window), 0.07);
 }
 
+QColor surfaceDeCarte(const QPalette& palette) {
+    const QColor base = palette.color(QPalette::Base), fenetre = palette.color(QPalette::Window);
+    const bool lisible = contraste(palette.color(QPalette::WindowText), base) >= kContrasteDeLecture &&
+                         contraste(accentLisible(palette), base) >= kContrasteDeLecture;
+    return lisible ? melange(base, fenetre, 0.65) : fenetre;
+}
+
 QColor accent(const QPalette& palette) {
     return palette.color(QPalette::Active, QPalette::Highlight);
 }

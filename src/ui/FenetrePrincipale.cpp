@@ -1,8 +1,6 @@
 #include "ui/FenetrePrincipale.h"
 
 #include "app/Commandes.h"
-#include "ui/BandeAvis.h"
-#include "ui/BandeTravail.h"
 #include "ui/BarreFonctions.h"
 #include "ui/Composition.h"
 #include "ui/EcranQt.h"
@@ -10,12 +8,14 @@
 #include "ui/FenetreFichiers.h"
 #include "ui/Icones.h"
 #include "ui/Infobulles.h"
+#include "ui/PageGroupe.h"
 #include "ui/PanneauAccueil.h"
 #include "ui/PanneauFiche.h"
 #include "ui/PanneauFonctions.h"
 #include "ui/PanneauListe.h"
 #include "ui/PanneauMultiSuppression.h"
 #include "ui/PanneauRecherche.h"
+#include "ui/Pied.h"
 #include "ui/UneSeuleLigne.h"
 
 #include <QCloseEvent>
@@ -32,11 +32,11 @@ constexpr int kTwipsParPixel = 15;
 constexpr QSize kTailleParDefaut{1180, 760};
 constexpr QSize kTailleMinimale{900, 480};
 constexpr int kLargeurDeuxPages = 1340;  // a screen of 1366 shows both pages of the sheet
-constexpr int kLargeurListe = 320;
+constexpr int kLargeurListe = 340;
 
 }  // namespace
 
-// The window's size, in twips.
+// The window's size, in twips, and its title.
 class FenetrePrincipale::LienTaille final : public Lien {
   public:
     explicit LienTaille(FenetrePrincipale& fenetre)
@@ -44,10 +44,13 @@ class FenetrePrincipale::LienTaille final : public Lien {
 
     void lit() override {
         if (!m_fenetre.isVisible()) return;
-        m_etat = {m_fenetre.width() * kTwipsParPixel, m_fenetre.height() * kTwipsParPixel};
+        m_etat.Width = m_fenetre.width() * kTwipsParPixel;
+        m_etat.Height = m_fenetre.height() * kTwipsParPixel;
         m_montree = {m_etat.Width, m_etat.Height};
     }
     void ecrit() override {
+        const QString titre = QString::fromStdString(m_etat.Caption);
+        if (m_fenetre.windowTitle() != titre) m_fenetre.setWindowTitle(titre);
         const QSize voulue(m_etat.Width, m_etat.Height);
         if (voulue == m_montree) return;
         m_montree = voulue;
@@ -76,7 +79,9 @@ void FenetrePrincipale::compose() {
     auto* droite = new QWidget;
     m_droite = new QVBoxLayout(droite);
     m_droite->setContentsMargins(0, 0, 0, 0);
-    m_droite->addWidget(new PanneauAccueil(m_atelier), 1);
+    m_page = new PageGroupe(m_atelier);
+    m_droite->addWidget(m_page, 1);
+    m_droite->addWidget(new PanneauAccueil(m_atelier));
     auto* partage = new QSplitter;
     partage->setChildrenCollapsible(false);
     partage->addWidget(m_liste);
@@ -90,12 +95,7 @@ void FenetrePrincipale::compose() {
     boite->addWidget(new BarreFonctions(m_atelier));
     boite->addWidget(filetHorizontal());
     boite->addWidget(partage, 1);
-    m_bas = new QWidget;
-    auto* bas = new QVBoxLayout(m_bas);
-    bas->setContentsMargins(0, 0, 0, 0);
-    bas->setSpacing(0);
-    bas->addWidget(new BandeAvis(m_atelier));
-    bas->addWidget(new BandeTravail(m_atelier));
+    m_bas = new Pied(m_atelier, m_liste->comptes());
     boite->addWidget(m_bas);
     connect(m_liste->titres(), &VueTitres::peinte, this,
             [this] { QTimer::singleShot(0, this, [this] { completePanneaux(); }); });
@@ -107,14 +107,15 @@ void FenetrePrincipale::completePanneaux() {
     m_menus.emplace(m_atelier, this);
     m_droite->addWidget(new PanneauMultiSuppression(m_atelier));
     m_droite->addWidget(new PanneauFiche(m_atelier), 1);
-    m_droite->addWidget(new PanneauRecherche(m_atelier), 1);
+    m_droite->insertWidget(0, new PanneauRecherche(m_atelier));
     m_droite->addWidget(new PanneauFonctions(m_atelier), 1);
     for (QLineEdit* zone : m_droite->parentWidget()->findChildren<QLineEdit*>()) {
         new InfobulleEntiere(zone);
         new UneSeuleLigne(zone);
     }
     entreParLeChoisi(m_atelier.liaison, *this);
-    metLeBasEnDernier();
+    for (QWidget* zone : {static_cast<QWidget*>(m_page), m_bas})
+        metEnDernier(zone);
     setWindowIcon(icone(Pictogramme::Clap));
     tiensALEcran();
     // The windows that follow the film. The viewer is composed when it first opens.
@@ -123,10 +124,10 @@ void FenetrePrincipale::completePanneaux() {
     m_atelier.execute(&app::Session::Form_Activate);
 }
 
-// Tab goes from the list to the panel beside it, and only then to the lines below, which were there first.
-void FenetrePrincipale::metLeBasEnDernier() {
+// Tab goes from the list to the panel beside it, and only then to what is below it, which was there first.
+void FenetrePrincipale::metEnDernier(QWidget* zone) {
     QWidget* dernier = previousInFocusChain();
-    for (QWidget* widget : m_bas->findChildren<QWidget*>()) {
+    for (QWidget* widget : zone->findChildren<QWidget*>()) {
         if (widget->focusPolicy() == Qt::NoFocus || widget == dernier) continue;
         setTabOrder(dernier, widget);
         dernier = widget;

@@ -14,6 +14,7 @@ class QVBoxLayout;
 
 namespace ui {
 
+class PageGroupe;
 class PanneauListe;
 
 // The window: a frame around its panels. The panels that the start does not show are built after the first painting.
@@ -35,7 +36,7 @@ class FenetrePrincipale final : public QWidget {
 
     void compose();
     void completePanneaux();
-    void metLeBasEnDernier();
+    void metEnDernier(QWidget* zone);
     void suitLesCommandes();
     void executeDemandes();
     void vientDevant();
@@ -49,7 +50,8 @@ class FenetrePrincipale final : public QWidget {
     PanneauListe* m_liste = nullptr;
     QVBoxLayout* m_droite = nullptr;
     std::optional<SuiviDuFocus> m_focus;
-    QWidget* m_bas = nullptr;  // the notice, and the work that lasts
+    PageGroupe* m_page = nullptr;
+    QWidget* m_bas = nullptr;  // its foot
     const Raccourcis m_raccourcis;
     std::optional<MenusArbre> m_menus;  // with the late panels
     QPoint m_endroitMenu;

@@ -75,6 +75,14 @@ QPainterPath trace(Pictogramme pictogramme) {
             t.moveTo(4, 8.5), t.lineTo(19, 8.5), t.moveTo(15.2, 4.7), t.lineTo(19, 8.5), t.lineTo(15.2, 12.3);
             t.moveTo(20, 16), t.lineTo(5, 16), t.moveTo(8.8, 12.2), t.lineTo(5, 16), t.lineTo(8.8, 19.8);
             break;
+        case Pictogramme::Film:
+            t.addRoundedRect(QRectF(3, 4.5, 18, 15), 1.5, 1.5);
+            t.moveTo(7.5, 4.5), t.lineTo(7.5, 19.5), t.moveTo(16.5, 4.5), t.lineTo(16.5, 19.5);
+            for (const double y : {8.25, 12.0, 15.75}) {
+                t.moveTo(3, y), t.lineTo(7.5, y);
+                t.moveTo(16.5, y), t.lineTo(21, y);
+            }
+            break;
         case Pictogramme::MovieCovers: {  // the letters are cut out of a film's box
             t.addRoundedRect(QRectF(0.5, 2, 23, 20), 3.5, 3.5);
             QFont lettres = QApplication::font();
@@ -128,7 +136,10 @@ QIcon icone(Pictogramme pictogramme) {
     return QIcon(new MoteurIcone(pictogramme, false));
 }
 
-QIcon iconeDeBoite(Pictogramme pictogramme) {
+QIcon iconeDeBoite(const QString& nom, Pictogramme pictogramme) {
+    const QIcon duBureau = QIcon::fromTheme(nom);
+    // A theme may name a file that no reader is there for.
+    if (!duBureau.isNull() && !duBureau.pixmap(48, 48).isNull()) return duBureau;
     return QIcon(new MoteurIcone(pictogramme, true));
 }
 

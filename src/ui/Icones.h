@@ -19,13 +19,14 @@ enum class Pictogramme {
     Erreur,
     Enregistre,
     Remplace,
+    Film,
     MovieCovers  // a logo: filled, and always in the accent colour
 };
 
 // Line drawings in the palette's colours, followed when the palette changes.
 [[nodiscard]] QIcon icone(Pictogramme pictogramme);
-// The same in the accent colour, for the boxes.
-[[nodiscard]] QIcon iconeDeBoite(Pictogramme pictogramme);
+// That of a box: the desktop's, by its name there, else a drawing of ours in the accent colour.
+[[nodiscard]] QIcon iconeDeBoite(const QString& nom, Pictogramme pictogramme);
 void peintPictogramme(QPainter& peintre, const QRectF& zone, Pictogramme pictogramme, const QColor& couleur);
 
 }  // namespace ui

@@ -49,6 +49,8 @@ void VueTitres::LienArbre::recommence() {
     m_remplie = contenu();
     m_vue.m_ouverts.clear();
     m_vue.m_modele.recommence();
+    // A flat list has no arrows to leave room for.
+    m_vue.setRootIsDecorated(m_etat.Nodes.Count() > 0 && m_etat.Nodes.estGroupe(m_etat.Nodes.enfants(0).front()));
     if (!memeListe()) {
         m_vue.scrollToTop();
     } else {

@@ -1,6 +1,7 @@
 #include "ui/PanneauAccueil.h"
 
 #include "app/ChoixFonction.h"
+#include "browse/ListeVide.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/Couleurs.h"
@@ -11,9 +12,6 @@
 namespace ui {
 
 namespace {
-
-// The count phrase that the logic shows for a catalogue without any film.
-constexpr const char* kCatalogueVide = "0 titre";
 
 Etiquette* phrase(const QString& texte) {
     auto* etiquette = (new Etiquette(texte))->avecLignes(4);
@@ -41,28 +39,32 @@ PanneauAccueil::PanneauAccueil(const Atelier& atelier, QWidget* parent) : QWidge
         phrase(tr("Ambrelis tient le catalogue de vos films : leurs fiches et leurs affiches, "
                   "ce que vous possédez, où c'est rangé et à qui c'est prêté."));
     presentation->avecTon(Ton::Discret);
-    auto* invite = phrase(tr("Choisissez un titre dans la liste pour voir sa fiche."));
-    auto* pas = premiersPas(atelier);
+    auto* invite = (new Etiquette(tr("Choisissez un titre dans la liste pour voir sa fiche.")))->avecTon(Ton::Discret);
 
-    auto* boite = colonne(kGrand);
-    boite->setContentsMargins(kLarge, kLarge, kLarge, kLarge);
-    boite->addStretch(2);
-    boite->addWidget(m_signe, 0, Qt::AlignHCenter);
-    boite->addWidget(titre, 0, Qt::AlignHCenter);
-    boite->addLayout(auMilieu(presentation));
-    boite->addSpacing(kPetit);
-    boite->addLayout(auMilieu(invite));
-    boite->addLayout(auMilieu(pas));
-    boite->addStretch(3);
+    auto* bienvenue = new QWidget;
+    auto* contenu = colonne(kGrand);
+    contenu->setContentsMargins(kLarge, kLarge, kLarge, kLarge);
+    contenu->addStretch(2);
+    contenu->addWidget(m_signe, 0, Qt::AlignHCenter);
+    contenu->addWidget(titre, 0, Qt::AlignHCenter);
+    contenu->addLayout(auMilieu(presentation));
+    contenu->addSpacing(kPetit);
+    contenu->addLayout(auMilieu(premiersPas(atelier)));
+    contenu->addStretch(3);
+    bienvenue->setLayout(contenu);
+    invite->setContentsMargins(kPetit, 0, kGrand, kGrand);
+    auto* boite = colonne(0);
+    boite->addWidget(bienvenue, 1);
+    boite->addWidget(invite);
     setLayout(boite);
 
     atelier.liaison.lie(atelier.etats().panneaux.framePresentation, this);
-    const auto suisLeCatalogue = [invite, pas, etats = &atelier.etats()] {
-        const bool vide = etats->liste.Label9[0].Caption == kCatalogueVide;
-        invite->setVisible(!vide);
-        pas->setVisible(vide);
+    const auto suisLeCatalogue = [invite, bienvenue, etats = &atelier.etats()] {
+        const bool vide = browse::catalogueVide(etats->liste);
+        invite->setVisible(etats->liste.TreeView1.Nodes.Count() > 0);
+        bienvenue->setVisible(vide);
     };
-    pas->hide();
+    bienvenue->hide();
     atelier.liaison.apresEcriture(suisLeCatalogue);
 }
 
@@ -84,8 +86,9 @@ QWidget* PanneauAccueil::premiersPas(const Atelier& atelier) {
 }
 
 void PanneauAccueil::paintEvent(QPaintEvent*) {
+    if (!m_signe->isVisible()) return;
     QPainter peintre(this);
-    const QRectF rond = m_signe->geometry();
+    const QRectF rond(m_signe->mapTo(this, QPoint()), m_signe->size());
     QColor fond = accent(palette());
     fond.setAlphaF(0.14f);
     peintre.setRenderHint(QPainter::Antialiasing);

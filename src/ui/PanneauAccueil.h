@@ -8,8 +8,8 @@ class QLabel;
 
 namespace ui {
 
-// What the right side shows before a film is chosen: what the program is and, as long as the base is empty, what to do
-// first.
+// What the right side shows before a film is chosen: in an empty base what the program is and what to do first; else no
+// more than what can be done with the page of the listing above it.
 class PanneauAccueil final : public QWidget {
     Q_OBJECT
   public:

@@ -6,6 +6,7 @@
 #include "acquire/cmdTelecharge_Click.h"
 #include "app/ChoixFonction.h"
 #include "ui/Boutons.h"
+#include "ui/Cartes.h"
 #include "ui/Composition.h"
 #include "ui/PanneauSaisie.h"
 #include "ui/Sections.h"
@@ -19,6 +20,7 @@ namespace ui {
 
 namespace {
 
+constexpr int kDeuxColonnes = 700;     // what a window of 1100 leaves to the panel
 constexpr int kToucheEntree = 13;      // as in Windows
 constexpr int kReposDeLaFrappe = 250;  // milliseconds
 
@@ -68,10 +70,8 @@ QLayout* PanneauAjout::manieres(const Atelier& atelier) {
 
 QWidget* PanneauAjout::pageAutomatique(const Atelier& atelier) {
     auto* cadre = nomme(new QWidget, "frameAjoutAuto");
-    auto* boite = colonne(kLarge);
-    boite->addLayout(fiches(atelier));
-    boite->addWidget(filetHorizontal());
-    boite->addLayout(internet(atelier));
+    auto* boite = colonne(0);
+    boite->addWidget(new CoteACote({new Carte(fiches(atelier)), new Carte(internet(atelier))}, kDeuxColonnes, kGrand));
     cadre->setLayout(boite);
     atelier.liaison.lie(atelier.etats().ajout.frameAjoutAuto, cadre);
     return cadre;
@@ -91,6 +91,9 @@ QLayout* PanneauAjout::fiches(const Atelier& atelier) {
     atelier.liaison.lie(ajout.lblProgression, titre);
     atelier.liaison.lie(ajout.ProgressBar1, progression);
     atelier.auClic(lancer, acquire::cmdAjoutAuto_Click);
+    atelier.liaison.apresEcriture([lancer, &ajout] { lancer->metPrincipal(ajout.fichesAImporter); });
+    gardeSaPlace(titre);
+    gardeSaPlace(progression);
 
     auto* boite = section(atelier, Aide::Fiches);
     boite->addSpacing(kSerre);
@@ -99,6 +102,7 @@ QLayout* PanneauAjout::fiches(const Atelier& atelier) {
     boite->addLayout(aGauche({lancer}));
     boite->addWidget(titre);
     boite->addWidget(progression);
+    boite->addStretch();
     return boite;
 }
 
@@ -133,7 +137,7 @@ QLayout* PanneauAjout::internet(const Atelier& atelier) {
     atelier.liaison.lie(ajout.cmdTelecharge, telecharger);
     atelier.auClic(telecharger, acquire::cmdTelecharge_Click);
     auto* groupe = new QWidget;
-    auto* options = rangee({}, kLarge);
+    auto* options = rangee({}, kMoyen);
     for (std::size_t i = 0; i < 4; ++i) {
         auto* option = nomme(new QRadioButton(textes[i]), "OptionTelecharge", i);
         option->setToolTip(tr("Ce que le texte désigne"));
@@ -151,6 +155,7 @@ QLayout* PanneauAjout::internet(const Atelier& atelier) {
     auto* absent = nomme((new Etiquette)->avecLignes(4), "lblRapatrix");
     atelier.liaison.lie(ajout.lblRapatrix, absent);
     boite->addWidget(absent);
+    boite->addStretch();
     return boite;
 }
 
@@ -165,10 +170,23 @@ QWidget* PanneauAjout::pageAncienneVersion(const Atelier& atelier) {
         tr("Ses films, ce que vous en possédez et leurs images sont ajoutés à la base ouverte. L'installation "
            "précédente n'est que lue. Les films déjà présents gardent leur fiche ; l'import peut être refait."));
     boite->addSpacing(kSerre);
+    boite->addWidget(legende(tr("Ce qui va se passer")));
+    auto* base = nomme(new Etiquette, "lblBaseOuImporter");
+    atelier.liaison.lie(ajout.lblBaseOuImporter, base);
+    const QString etapes[] = {
+        tr("1.  Vous indiquez le dossier de cette version : sa base et le dossier de ses images sont cherchés."),
+        tr("2.  Le programme vous dit ce qu'il a trouvé, et demande s'il faut continuer."),
+        tr("3.  Les films qui manquent sont ajoutés, avec ce que vous en possédez et leurs affiches."),
+        tr("4.  Un rapport dit combien de films ont été ajoutés, et lesquels étaient déjà là.")};
+    for (const QString& etape : etapes)
+        boite->addWidget((new Etiquette(etape))->avecLignes(3));
+    boite->addSpacing(kSerre);
+    boite->addWidget(base);
     boite->addLayout(aGauche({importer}));
     auto* cadre = nomme(new QWidget, "frameImportBase");
-    boite->setContentsMargins(0, 0, 0, 0);
-    cadre->setLayout(boite);
+    auto* dehors = colonne(0);
+    dehors->addWidget(new Carte(boite));
+    cadre->setLayout(dehors);
     atelier.liaison.lie(ajout.frameImportBase, cadre);
     return cadre;
 }

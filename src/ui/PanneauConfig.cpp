@@ -6,6 +6,7 @@
 #include "db/Option3_Click.h"
 #include "db/cmdMajBase_Click.h"
 #include "ui/Boutons.h"
+#include "ui/Cartes.h"
 #include "ui/Composition.h"
 #include "ui/Infobulles.h"
 #include "ui/Sections.h"
@@ -23,10 +24,9 @@ constexpr int kLargeurExtension = 160;
 
 PanneauConfig::PanneauConfig(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
     nomme(this, "frameConfig");
-    auto* boite = colonne(kLarge);
-    boite->addLayout(images(atelier));
-    boite->addLayout(logiciels(atelier));
-    boite->addLayout(programme(atelier));
+    auto* boite = colonne(kGrand);
+    for (QLayout* partie : {images(atelier), logiciels(atelier), programme(atelier)})
+        boite->addWidget(new Carte(partie));
     setLayout(boite);
     atelier.liaison.lie(atelier.etats().fonctions.frameConfig, this);
 }
@@ -50,6 +50,7 @@ QLayout* PanneauConfig::images(const Atelier& atelier) {
     auto* progression = nomme(new QProgressBar, "ProgressBar2", tr("Avancement de la conversion"));
     progression->setTextVisible(false);
     progression->setFixedHeight(8);
+    gardeSaPlace(progression);
     atelier.liaison.lie(stockage.Text4, dossier);
     atelier.liaison.lie(stockage.cmdParcourir, parcourir);
     atelier.liaison.lie(fonctions.cmdMajBase, convertir);

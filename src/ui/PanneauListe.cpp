@@ -4,36 +4,40 @@
 #include "browse/AfficheTitres.h"
 #include "browse/ChoixTri.h"
 #include "browse/ChoixZone.h"
+#include "browse/ListeVide.h"
 #include "ui/Boutons.h"
+#include "ui/Cartes.h"
 #include "ui/Composition.h"
 
 #include <QVBoxLayout>
 
 namespace ui {
 
+namespace {
+
+constexpr int kDeuxListes = 280;  // the width from which zone and sort stand side by side
+
+}  // namespace
+
 PanneauListe::PanneauListe(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     auto* boite = new QVBoxLayout(this);
-    boite->setContentsMargins(kGrand, kMoyen, 0, kMoyen);
+    boite->setContentsMargins(kGrand, kMoyen, 0, kPetit);
     boite->setSpacing(kMoyen);
-    boite->addLayout(choix());
+    boite->addWidget(choix());
     boite->addWidget(cadreTitres(), 1);
-    boite->addLayout(comptes());
     suisLesGestes();
 }
 
-QLayout* PanneauListe::choix() {
+QWidget* PanneauListe::choix() {
     auto& liste = m_atelier.etats().liste;
     auto* zone = nomme(new ListeDeroulante, "ChoixZone");
     auto* tri = nomme(new ListeDeroulante, "ChoixTri");
-    auto* statistiques = nomme(new CaseRepliee(tr("Afficher des &statistiques lors du tri par catégorie")), "AffStats");
     zone->setToolTip(tr("Les films à montrer"));
     tri->setToolTip(tr("L'ordre des films et leur classement dans la liste"));
-    statistiques->setToolTip(tr("Ajoute à chaque catégorie la part des films qu'elle contient"));
     for (QComboBox* choix : {zone, tri})
         choix->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_atelier.liaison.lie(liste.ChoixZone, zone);
     m_atelier.liaison.lie(liste.ChoixTri, tri);
-    m_atelier.liaison.lie(liste.AffStats, statistiques);
 
     connect(zone, &ListeDeroulante::vaSOuvrir, this, m_atelier.reponse(browse::ChoixZone_DropDown));
     connect(zone, &ListeDeroulante::sEstFermee, this, [this] {
@@ -42,14 +46,12 @@ QLayout* PanneauListe::choix() {
     });
     connect(zone, &QComboBox::activated, this, m_atelier.reponse(browse::ChoixZone_Click));
     connect(tri, &QComboBox::activated, this, m_atelier.reponse(browse::ChoixTri_Click));
-    m_atelier.auClic(statistiques, browse::AffStats_Click);
-
-    auto* boite = colonne();
-    boite->addLayout(champ(tr("&Zone"), zone));
-    boite->addLayout(champ(tr("&Tri"), tri));
-    boite->addSpacing(kSerre);
-    boite->addWidget(statistiques);
-    return boite;
+    const auto avecLegende = [](const QString& texte, QWidget* controle) {
+        auto* cadre = new QWidget;
+        cadre->setLayout(champ(texte, controle));
+        return cadre;
+    };
+    return new CoteACote({avecLegende(tr("&Zone"), zone), avecLegende(tr("&Tri"), tri)}, kDeuxListes, kPetit);
 }
 
 QWidget* PanneauListe::cadreTitres() {
@@ -58,16 +60,30 @@ QWidget* PanneauListe::cadreTitres() {
     auto* titre = (new Etiquette)->avecPolice(1.08, QFont::DemiBold);
     connect(cadre, &QWidget::windowTitleChanged, titre, &QLabel::setText);
     m_titres = nomme(new VueTitres(liste.TreeView1), "TreeView1", tr("Liste des titres"));
+    auto* statistiques =
+        nomme(new Bascule(tr("Afficher des &statistiques lors du tri par catégorie"), QStringLiteral("%")), "AffStats");
+    statistiques->setToolTip(
+        tr("Afficher des statistiques lors du tri par catégorie :\n"
+           "la part des films que contient chaque catégorie (Alt+S)"));
+    m_atelier.liaison.lie(liste.AffStats, statistiques);
+    m_atelier.auClic(statistiques, browse::AffStats_Click);
+    auto* entete = rangee({titre});
+    entete->setStretch(0, 1);
+    entete->addWidget(statistiques);
+    auto* titres = new QGridLayout;
+    titres->setContentsMargins(0, 0, 0, 0);
+    titres->addWidget(m_titres, 0, 0);
+    titres->addWidget(raisonDuVide(), 0, 0);
     auto* boite = colonne();
-    boite->addWidget(titre);
-    boite->addWidget(m_titres, 1);
+    boite->addLayout(entete);
+    boite->addLayout(titres, 1);
     cadre->setLayout(boite);
     m_atelier.liaison.lie(liste.Frame1, cadre);
     m_atelier.liaison.ajoute(m_titres->lien(liste));
     return cadre;
 }
 
-QLayout* PanneauListe::comptes() {
+QWidget* PanneauListe::comptes() {
     auto& liste = m_atelier.etats().liste;
     auto* titres = nomme((new Etiquette)->avecTon(Ton::Discret), "Label9", 0);
     auto* personnels = nomme((new Etiquette)->avecTon(Ton::Discret), "Label9", 1);
@@ -75,10 +91,34 @@ QLayout* PanneauListe::comptes() {
     personnels->setToolTip(tr("Nombre de films que vous possédez"));
     m_atelier.liaison.lie(liste.Label9[0], titres);
     m_atelier.liaison.lie(liste.Label9[1], personnels);
-    auto* boite = rangee({titres}, kGrand);
+    auto* cadre = new QWidget;
+    cadre->setLayout(rangee({titres, personnels}, kGrand));
+    cadre->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    return cadre;
+}
+
+// Over the list, which keeps the keys.
+QWidget* PanneauListe::raisonDuVide() {
+    auto* texte = nomme((new Etiquette)->avecTon(Ton::Discret)->avecLignes(4), "lblListeVide");
+    texte->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    auto* tous = bouton<BoutonLien>("cmdTousLesFilms", tr("Tous les films"), tr("Montrer tous les films de la base"));
+    m_atelier.auClic(tous, browse::cmdTousLesFilms_Click);
+    auto* cadre = new QWidget;
+    auto* boite = colonne(kMoyen);
+    boite->setContentsMargins(kLarge, kLarge, kLarge, kLarge);
+    boite->addWidget(texte);
+    boite->addWidget(tous, 0, Qt::AlignHCenter);
     boite->addStretch();
-    boite->addWidget(personnels);
-    return boite;
+    cadre->setLayout(boite);
+    cadre->hide();
+    m_atelier.liaison.apresEcriture([=, this] {
+        const auto vide = browse::listeVide(m_atelier.etats().liste);
+        cadre->setVisible(vide.has_value());
+        if (!vide) return;
+        texte->setText(QString::fromStdString(vide->raison));
+        tous->setVisible(vide->autresFilms);
+    });
+    return cadre;
 }
 
 void PanneauListe::suisLesGestes() {

@@ -7,17 +7,18 @@
 
 namespace ui {
 
-// The left side: what is listed, in which order, the title tree and the two counts.
+// The left side: what is listed, in which order, and the title tree.
 class PanneauListe final : public QWidget {
     Q_OBJECT
   public:
     explicit PanneauListe(const Atelier& atelier, QWidget* parent = nullptr);
     [[nodiscard]] VueTitres* titres() const { return m_titres; }
+    [[nodiscard]] QWidget* comptes();  // for the window's foot
 
   private:
-    [[nodiscard]] QLayout* choix();
+    [[nodiscard]] QWidget* choix();
     [[nodiscard]] QWidget* cadreTitres();
-    [[nodiscard]] QLayout* comptes();
+    [[nodiscard]] QWidget* raisonDuVide();
     void suisLesGestes();
 
     const Atelier m_atelier;

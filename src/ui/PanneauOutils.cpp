@@ -7,57 +7,96 @@
 #include "edit/cmdPonctuation_Click.h"
 #include "edit/cmdSupprTitresSelect_Click.h"
 #include "export/cmdCreerListe_Click.h"
+#include "ui/Cartes.h"
 #include "ui/Composition.h"
 #include "ui/Sections.h"
 
 namespace ui {
 
-PanneauOutils::PanneauOutils(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
-    nomme(this, "frameOutils");
-    auto& fonctions = atelier.etats().fonctions;
-    auto* ouvrir = bouton("cmdChargeOuvreBase", tr("Ouvrir ou créer une &base…"),
-                          tr("Travailler sur un autre fichier de films (Ctrl+O)"));
-    auto* infos = bouton("cmdInfosBase", tr("Infor&mations"), tr("Où sont les images de la base"));
-    auto* compacter = bouton("cmdCompacter", tr("&Compacter"), tr("Réduire la taille du fichier de la base"));
-    auto* ponctuation = bouton("cmdPonctuation", tr("Corr&iger les titres"), tr("Corriger les majuscules des titres"));
-    auto* liste = bouton("cmdCreerListe", tr("Créer un &fichier…"), tr("Écrire la liste de vos films"));
-    auto* effacer = bouton("cmdSupprInfosPerso", tr("&Effacer…"), tr("Effacer ce qui concerne les films possédés"));
-    auto* plusieurs =
-        bouton("cmdMultiSuppress", tr("Supprimer p&lusieurs films…"), tr("Cocher dans la liste les films à supprimer"));
-    atelier.liaison.lie(fonctions.cmdChargeOuvreBase, ouvrir);
-    atelier.liaison.lie(fonctions.cmdInfosBase, infos);
-    atelier.liaison.lie(fonctions.cmdCompacter, compacter);
-    atelier.liaison.lie(fonctions.cmdPonctuation, ponctuation);
-    atelier.liaison.lie(fonctions.cmdCreerListe, liste);
-    atelier.liaison.lie(fonctions.cmdSupprInfosPerso, effacer);
-    atelier.liaison.lie(fonctions.cmdMultiSuppress, plusieurs);
-    atelier.auClic(ouvrir, app::cmdChargeOuvreBase_Click);
-    atelier.auClic(infos, db::cmdInfosBase_Click);
-    atelier.auClic(compacter, db::cmdCompacter_Click);
-    atelier.auClic(effacer, db::cmdSupprInfosPerso_Click);
-    atelier.auClic(ponctuation, edit::cmdPonctuation_Click);
-    atelier.auClic(liste, exportation::cmdCreerListe_Click);
-    atelier.auClic(plusieurs, edit::cmdMultiSuppress_Click);
+namespace {
 
-    auto* base =
-        section(tr("Base de données"), tr("Tous les films sont dans un seul fichier .mdb, que vous pouvez changer."));
-    base->addLayout(aGauche({ouvrir, infos}));
-    auto* multiple = section(tr("Suppression"), tr("Plusieurs films peuvent être supprimés d'un seul coup."));
-    multiple->addLayout(aGauche({plusieurs}));
-    auto* boite = colonne(kLarge);
-    boite->addLayout(base);
-    const std::pair<Aide, QPushButton*> outils[] = {{Aide::Compactage, compacter},
-                                                    {Aide::Ponctuation, ponctuation},
-                                                    {Aide::FichierTexte, liste},
-                                                    {Aide::TitresPersonnels, effacer}};
-    for (const auto& [aide, outil] : outils) {
-        auto* partie = section(atelier, aide);
-        partie->addLayout(aGauche({outil}));
-        boite->addLayout(partie);
-    }
-    boite->addLayout(multiple);
+// What a tool does, and the button that does it, on one line.
+QHBoxLayout* ligneDOutil(QVBoxLayout* texte, std::initializer_list<QPushButton*> boutons) {
+    texte->setSpacing(2);
+    auto* ligne = rangee({}, kGrand);
+    ligne->addLayout(texte, 1);
+    for (QPushButton* bouton : boutons)
+        ligne->addWidget(bouton, 0, Qt::AlignVCenter);
+    return ligne;
+}
+
+}  // namespace
+
+template <typename Procedure>
+QPushButton* PanneauOutils::outil(const char* nom, const QString& texte, const QString& infobulle, ecran::Bouton& etat,
+                                  Procedure procedure) {
+    auto* resultat = bouton(nom, texte, infobulle);
+    m_atelier.liaison.lie(etat, resultat);
+    m_atelier.auClic(resultat, procedure);
+    return resultat;
+}
+
+PanneauOutils::PanneauOutils(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
+    nomme(this, "frameOutils");
+    auto* boite = colonne(kGrand);
+    for (QWidget* groupe : {base(), exporter(), corriger(), zoneDangereuse()})
+        boite->addWidget(groupe);
     setLayout(boite);
-    atelier.liaison.lie(fonctions.frameOutils, this);
+    atelier.liaison.lie(atelier.etats().fonctions.frameOutils, this);
+}
+
+QWidget* PanneauOutils::base() {
+    auto& fonctions = m_atelier.etats().fonctions;
+    auto* ouvrir = outil("cmdChargeOuvreBase", tr("Ouvrir ou créer une &base…"),
+                         tr("Travailler sur un autre fichier de films (Ctrl+O)"), fonctions.cmdChargeOuvreBase,
+                         app::cmdChargeOuvreBase_Click);
+    auto* infos = outil("cmdInfosBase", tr("Infor&mations"), tr("Où sont les images de la base"),
+                        fonctions.cmdInfosBase, db::cmdInfosBase_Click);
+    auto* compacter = outil("cmdCompacter", tr("&Compacter"), tr("Réduire la taille du fichier de la base"),
+                            fonctions.cmdCompacter, db::cmdCompacter_Click);
+    auto* chemin = nomme(new Etiquette, "lblCheminBase");
+    m_atelier.liaison.lie(fonctions.lblCheminBase, chemin);
+    auto* boite = groupe(tr("Base"));
+    boite->setSpacing(kPetit);
+    boite->addWidget(chemin);
+    boite->addWidget(filetHorizontal());
+    boite->addLayout(ligneDOutil(section(tr("Base de données"), tr("Tous les films sont dans un seul fichier .mdb, que "
+                                                                   "vous pouvez changer.")),
+                                 {ouvrir, infos}));
+    boite->addWidget(filetHorizontal());
+    boite->addLayout(ligneDOutil(section(m_atelier, Aide::Compactage), {compacter}));
+    return new Carte(boite);
+}
+
+QWidget* PanneauOutils::exporter() {
+    auto* liste = outil("cmdCreerListe", tr("Créer un &fichier…"), tr("Écrire la liste de vos films"),
+                        m_atelier.etats().fonctions.cmdCreerListe, exportation::cmdCreerListe_Click);
+    auto* boite = groupe(tr("Exporter"));
+    boite->addLayout(ligneDOutil(section(m_atelier, Aide::FichierTexte), {liste}));
+    return new Carte(boite);
+}
+
+QWidget* PanneauOutils::corriger() {
+    auto* ponctuation = outil("cmdPonctuation", tr("Corr&iger les titres"), tr("Corriger les majuscules des titres"),
+                              m_atelier.etats().fonctions.cmdPonctuation, edit::cmdPonctuation_Click);
+    auto* boite = groupe(tr("Corriger"));
+    boite->addLayout(ligneDOutil(section(m_atelier, Aide::Ponctuation), {ponctuation}));
+    return new Carte(boite);
+}
+
+QWidget* PanneauOutils::zoneDangereuse() {
+    auto& fonctions = m_atelier.etats().fonctions;
+    auto* effacer = outil("cmdSupprInfosPerso", tr("&Effacer…"), tr("Effacer ce qui concerne les films possédés"),
+                          fonctions.cmdSupprInfosPerso, db::cmdSupprInfosPerso_Click);
+    auto* plusieurs =
+        outil("cmdMultiSuppress", tr("Supprimer p&lusieurs films…"), tr("Cocher dans la liste les films à supprimer"),
+              fonctions.cmdMultiSuppress, edit::cmdMultiSuppress_Click);
+    auto* boite = groupe(tr("Zone dangereuse"));
+    boite->addLayout(ligneDOutil(section(m_atelier, Aide::TitresPersonnels), {effacer}));
+    boite->addWidget(filetHorizontal());
+    boite->addLayout(ligneDOutil(
+        section(tr("Suppression"), tr("Plusieurs films peuvent être supprimés d'un seul coup.")), {plusieurs}));
+    return new Carte(boite, Carte::Sorte::Dangereuse);
 }
 
 }  // namespace ui

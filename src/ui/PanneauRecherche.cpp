@@ -2,14 +2,20 @@
 
 #include "browse/cmdRecherche_Click.h"
 #include "ui/Boutons.h"
+#include "ui/Cartes.h"
 #include "ui/Composition.h"
 #include "ui/Sections.h"
 
 #include <QKeyEvent>
 #include <QRadioButton>
-#include <QScrollArea>
 
 namespace ui {
+
+namespace {
+
+constexpr int kUneSeuleLigne = 860;
+
+}  // namespace
 
 PanneauRecherche::PanneauRecherche(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameRecherche");
@@ -24,21 +30,22 @@ PanneauRecherche::PanneauRecherche(const Atelier& atelier, QWidget* parent) : QW
     atelier.liaison.lie(recherche.cmdRecherche, lancer);
     atelier.auClic(lancer, browse::cmdRecherche_Click);
 
-    auto* contenu = section(atelier, Aide::Recherche, 1.5);
-    contenu->setSpacing(kGrand);
-    contenu->addLayout(champ(tr("Te&xte à chercher"), texte));
-    contenu->addLayout(champs(atelier));
-    contenu->addLayout(portee(atelier));
-    contenu->addSpacing(kSerre);
-    contenu->addLayout(aGauche({lancer}));
-    contenu->addStretch();
-    auto* boite = colonne(0);
-    boite->addWidget(defilant(contenu));
+    auto* boite = section(atelier, Aide::Recherche, 1.25);
+    boite->setContentsMargins(kPetit, kMoyen, kGrand, kMoyen);
+    auto* ligne = rangee({}, kMoyen);
+    ligne->addLayout(champ(tr("Te&xte à chercher"), texte), 1);
+    ligne->addWidget(lancer, 0, Qt::AlignBottom);
+    boite->addLayout(ligne);
+    boite->addWidget(new CoteACote({champs(atelier), portee(atelier)}, kUneSeuleLigne, kSerre));
+    boite->addWidget(filetHorizontal());
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     setLayout(boite);
+    // It stands beside the text, where Enter presses it, and is the last that the keys come to.
+    setTabOrder(findChild<QWidget*>(QStringLiteral("TypeFilm_2")), lancer);
     atelier.liaison.lie(atelier.etats().panneaux.frameRecherche, this);
 }
 
-// Down goes from the text, which has no use for it, into what was found; the scrolling page must not take it.
+// Down goes from the text, which has no use for it, into what was found; nothing else must take it.
 bool PanneauRecherche::eventFilter(QObject* objet, QEvent* evenement) {
     if (evenement->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(evenement)->key() != Qt::Key_Down)
         return QWidget::eventFilter(objet, evenement);
@@ -53,9 +60,9 @@ void PanneauRecherche::showEvent(QShowEvent* evenement) {
     m_texte->selectAll();
 }
 
-QLayout* PanneauRecherche::champs(const Atelier& atelier) {
+QWidget* PanneauRecherche::champs(const Atelier& atelier) {
     const QString textes[] = {tr("T&itre"), tr("Réalisate&ur"), tr("A&nnée"), tr("A&cteurs")};
-    auto* cases = rangee({}, kLarge);
+    auto* cases = rangee({legende(tr("Chercher dans"))}, kGrand);
     for (std::size_t i = 0; i < 4; ++i) {
         auto* coche = nomme(new QCheckBox(textes[i]), "ZoneRecherche", i);
         coche->setToolTip(tr("Chercher le texte dans ce champ"));
@@ -63,16 +70,15 @@ QLayout* PanneauRecherche::champs(const Atelier& atelier) {
         cases->addWidget(coche);
     }
     cases->addStretch();
-    auto* boite = colonne(kSerre);
-    boite->addWidget(legende(tr("Chercher dans")));
-    boite->addLayout(cases);
-    return boite;
+    auto* cadre = new QWidget;
+    cadre->setLayout(cases);
+    return cadre;
 }
 
-QLayout* PanneauRecherche::portee(const Atelier& atelier) {
+QWidget* PanneauRecherche::portee(const Atelier& atelier) {
     const QString textes[] = {tr("Tous l&es films"), tr("&Mes films"), tr("Films non possé&dés")};
     auto* groupe = new QWidget;  // option buttons exclude one another within their parent
-    auto* options = rangee({}, kLarge);
+    auto* options = rangee({legende(tr("Parmi"))}, kGrand);
     for (std::size_t i = 0; i < 3; ++i) {
         auto* option = nomme(new QRadioButton(textes[i]), "TypeFilm", i);
         option->setToolTip(tr("Les films parmi lesquels chercher"));
@@ -81,10 +87,7 @@ QLayout* PanneauRecherche::portee(const Atelier& atelier) {
     }
     options->addStretch();
     groupe->setLayout(options);
-    auto* boite = colonne(kSerre);
-    boite->addWidget(legende(tr("Parmi")));
-    boite->addWidget(groupe);
-    return boite;
+    return groupe;
 }
 
 }  // namespace ui

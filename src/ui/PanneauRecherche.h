@@ -6,7 +6,8 @@
 
 namespace ui {
 
-// The search: a text, the fields it is looked for in, and among which films.
+// The search, a strip above the page of what the list holds: a text, the fields it is looked for in, and among which
+// films.
 class PanneauRecherche final : public QWidget {
     Q_OBJECT
   public:
@@ -17,8 +18,8 @@ class PanneauRecherche final : public QWidget {
     void showEvent(QShowEvent* evenement) override;
 
   private:
-    [[nodiscard]] QLayout* champs(const Atelier& atelier);
-    [[nodiscard]] QLayout* portee(const Atelier& atelier);
+    [[nodiscard]] QWidget* champs(const Atelier& atelier);
+    [[nodiscard]] QWidget* portee(const Atelier& atelier);
 
     const Atelier m_atelier;
     QLineEdit* m_texte;

@@ -2,14 +2,39 @@
 
 #include "edit/cmdAjoutFilm_Click.h"
 #include "ui/Boutons.h"
+#include "ui/Cartes.h"
 #include "ui/Composition.h"
+#include "ui/ImagesQt.h"
 #include "ui/ListeDeSaisie.h"
 #include "ui/Sections.h"
 #include "ui/TexteLong.h"
 
 #include <QKeyEvent>
+#include <QPainter>
 
 namespace ui {
+
+namespace {
+
+// The poster of the film that is corrected.
+class Affichette final : public QWidget {
+  public:
+    explicit Affichette(ImagesQt& images) : m_images(images) { setFixedSize(112, 168); }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        const QPixmap& affiche = m_images.affiche(size() * devicePixelRatio());
+        if (affiche.isNull()) return;
+        QPainter peintre(this);
+        peintre.setRenderHint(QPainter::SmoothPixmapTransform);
+        peintre.drawPixmap(QRect(QPoint(), affiche.size().scaled(size(), Qt::KeepAspectRatio)), affiche);
+    }
+
+  private:
+    ImagesQt& m_images;
+};
+
+}  // namespace
 
 PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "Frame13");
@@ -26,8 +51,7 @@ PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(
     m_atelier.liaison.lie(ajout.cmdAjoutFilm, ajouter);
     m_atelier.auClic(ajouter, edit::cmdAjoutFilm_Click);
 
-    auto* grille = new QGridLayout(this);
-    grille->setContentsMargins(0, 0, 0, 0);
+    auto* grille = new QGridLayout;
     grille->setHorizontalSpacing(kMoyen);
     grille->setVerticalSpacing(kMoyen);
     grille->addLayout(champ(tr("Titr&e"), texte(0)), 0, 0, 1, 3);
@@ -44,7 +68,19 @@ PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(
     grille->addLayout(bas, 5, 0, 1, 6);
     for (int c = 0; c < 6; ++c)
         grille->setColumnStretch(c, 1);
+    auto* affiche = nomme(new Affichette(m_atelier.images), "imgCorrection");
+    auto* contenu = rangee({}, kGrand);
+    contenu->addWidget(affiche, 0, Qt::AlignTop);
+    contenu->addLayout(grille, 1);
+    auto* boite = colonne(0);
+    boite->addWidget(new Carte(contenu));
+    setLayout(boite);
     m_atelier.liaison.lie(ajout.Frame13, this);
+    m_atelier.liaison.apresEcriture([affiche, etats = &m_atelier.etats()] {
+        // The poster that is loaded is the one of the film on the sheet.
+        affiche->setVisible(etats->ajout.modeModifier() && etats->liste.noeudChoisi > 0 && !etats->fiche.Image1.vide);
+        affiche->update();
+    });
 }
 
 // Enter in a one-line field stores the sheet, as it starts the search in the search panel.

@@ -8,7 +8,7 @@ namespace ui {
 
 namespace {
 
-constexpr int kLargeurDeLecture = 820;
+constexpr int kLargeurDeLecture = 980;
 
 Etiquette* description(const QString& texte) {
     return (new Etiquette(texte))->avecTon(Ton::Discret)->avecLignes(4);
@@ -33,6 +33,12 @@ QVBoxLayout* section(const QString& titre, const QString& texte) {
     auto* boite = colonne(kPetit);
     boite->addWidget((new Etiquette(titre))->avecPolice(1.08, QFont::DemiBold));
     boite->addWidget(description(texte));
+    return boite;
+}
+
+QVBoxLayout* groupe(const QString& nom) {
+    auto* boite = colonne(kMoyen);
+    boite->addWidget((new Etiquette(nom))->avecPolice(1.2, QFont::DemiBold));
     return boite;
 }
 

@@ -2,6 +2,7 @@
 
 #include "ui/Couleurs.h"
 #include "ui/Icones.h"
+#include "ui/Mouvement.h"
 #include "ui/Traits.h"
 
 #include <QPainter>
@@ -17,6 +18,16 @@ namespace {
 
 bool a(const QStyleOption& option, QStyle::StateFlag etat) {
     return option.state.testFlag(etat);
+}
+
+constexpr int kLigneDeListe = 28;  // of drop-down lists and menus
+
+bool estUnePetiteFenetre(const QWidget* widget) {
+    return widget && widget->windowType() == Qt::Popup;
+}
+
+bool dansUnePetiteFenetre(const QWidget* widget) {
+    return widget && estUnePetiteFenetre(widget->window());
 }
 
 void peintCadreDeSaisie(QPainter& peintre, const QStyleOption& option) {
@@ -107,8 +118,8 @@ void StyleAmbrelis::drawPrimitive(PrimitiveElement element, const QStyleOption* 
             return;
         }
         case PE_Frame:
-            if (widget && widget->inherits("QComboBoxPrivateContainer")) break;
             peintSurface(*peintre, option->rect, {}, filet(option->palette));
+            if (estUnePetiteFenetre(widget)) return;
             if (a(*option, State_HasFocus)) peintContourDeFocus(*peintre, option->rect, accentLisible(option->palette));
             return;
         case PE_IndicatorCheckBox:
@@ -223,6 +234,11 @@ int StyleAmbrelis::styleHint(StyleHint conseil, const QStyleOption* option, cons
         case SH_ComboBox_Popup:
         case SH_DialogButtonBox_ButtonsHaveIcons:
             return 0;
+        case SH_Widget_Animation_Duration:
+            // Headings open at once: keys and clicks that follow find the rows in their places.
+            return qobject_cast<const QTreeView*>(widget)
+                       ? 0
+                       : std::min(QProxyStyle::styleHint(conseil, option, widget, retour), dureeDuMouvement());
         case SH_EtchDisabledText:
         case SH_ItemView_ArrowKeysNavigateIntoChildren:
             return conseil == SH_EtchDisabledText ? 0 : 1;
@@ -236,13 +252,25 @@ int StyleAmbrelis::styleHint(StyleHint conseil, const QStyleOption* option, cons
 QSize StyleAmbrelis::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contenu,
                                       const QWidget* widget) const {
     QSize taille = QProxyStyle::sizeFromContents(type, option, contenu, widget);
-    const int haute = option ? option->fontMetrics.height() + 14 : 0;
+    const int haute = option ? option->fontMetrics.height() + 16 : 0;  // a button is as high as the field beside it
     switch (type) {
-        case CT_PushButton:
+        case CT_PushButton: {
+            const auto* bouton = qstyleoption_cast<const QStyleOptionButton*>(option);
+            const int icone = bouton && !bouton->icon.isNull() ? bouton->iconSize.height() + 16 : 0;
+            return {taille.width(), std::max(haute, icone)};
+        }
         case CT_ToolButton:
         case CT_ComboBox:
         case CT_LineEdit:
             return {taille.width(), std::max(taille.height(), haute)};
+        case CT_ItemViewItem:
+            return {taille.width(),
+                    dansUnePetiteFenetre(widget) ? std::max(taille.height(), kLigneDeListe) : taille.height()};
+        case CT_MenuItem: {
+            const auto* ligne = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+            const bool trait = ligne && ligne->menuItemType == QStyleOptionMenuItem::Separator;
+            return {taille.width(), trait ? taille.height() : std::max(taille.height(), kLigneDeListe)};
+        }
         case CT_CheckBox:
         case CT_RadioButton:
             return {taille.width(), std::max(taille.height(), 22)};
@@ -254,13 +282,13 @@ QSize StyleAmbrelis::sizeFromContents(ContentsType type, const QStyleOption* opt
 QIcon StyleAmbrelis::standardIcon(StandardPixmap image, const QStyleOption* option, const QWidget* widget) const {
     switch (image) {
         case SP_MessageBoxQuestion:
-            return iconeDeBoite(Pictogramme::Question);
+            return iconeDeBoite(QStringLiteral("dialog-question"), Pictogramme::Question);
         case SP_MessageBoxInformation:
-            return iconeDeBoite(Pictogramme::Aide);
+            return iconeDeBoite(QStringLiteral("dialog-information"), Pictogramme::Aide);
         case SP_MessageBoxWarning:
-            return iconeDeBoite(Pictogramme::Attention);
+            return iconeDeBoite(QStringLiteral("dialog-warning"), Pictogramme::Attention);
         case SP_MessageBoxCritical:
-            return iconeDeBoite(Pictogramme::Erreur);
+            return iconeDeBoite(QStringLiteral("dialog-error"), Pictogramme::Erreur);
         default:
             return QProxyStyle::standardIcon(image, option, widget);
     }

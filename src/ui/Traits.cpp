@@ -95,7 +95,8 @@ void peintBouton(QPainter& peintre, const QStyleOption& option, bool plat) {
     const bool enfonce = actif(option) && (option.state & (QStyle::State_Sunken | QStyle::State_On));
     const QColor surface = option.palette.color(QPalette::Button), texte = option.palette.color(QPalette::ButtonText);
     const QColor base = melange(surface, option.palette.color(QPalette::Base), kPartDuBouton);
-    const qreal ombre = enfonce ? kOmbrePressee : survol ? kOmbreSurvolee : 0;
+    const bool ouvert = plat && !option.state.testFlag(QStyle::State_Sunken);  // the way to a panel that is open
+    const qreal ombre = enfonce && !ouvert ? kOmbrePressee : enfonce || survol ? kOmbreSurvolee : 0;
     if (plat && ombre == 0) return;
     if (plat) {
         peintSurface(peintre, option.rect, melange(texte, option.palette.color(QPalette::Window), ombre), {});

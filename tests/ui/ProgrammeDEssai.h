@@ -81,7 +81,10 @@ class ProgrammeDEssai {
     [[nodiscard]] ui::VueTitres& arbre() { return trouve<ui::VueTitres>("TreeView1"); }
     [[nodiscard]] std::string texte(const char* nom) { return trouve<QLabel>(nom).text().toStdString(); }
 
-    void clique(const char* nom) { QTest::mouseClick(&trouve(nom), Qt::LeftButton); }
+    void clique(const char* nom) {
+        QTest::mouseClick(&trouve(nom), Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);  // what it brought stands in its place
+    }
     void choisit(const char* nom, int indice) {
         auto& liste = trouve<QComboBox>(nom);
         liste.setCurrentIndex(indice);

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "browse/PageDuGroupe.h"
+#include "ui/Atelier.h"
+
+#include <QTimer>
+#include <QWidget>
+#include <array>
+
+class QPushButton;
+
+namespace ui {
+
+class Etiquette;
+class Vignette;
+
+// What stands beside the list while no film is chosen: what it lists, how many films, and the posters of the first ones.
+// The posters are read one at a time between two events and decoded aside, once the page was painted.
+class PageGroupe final : public QWidget {
+    Q_OBJECT
+  public:
+    explicit PageGroupe(const Atelier& atelier, QWidget* parent = nullptr);
+
+  protected:
+    void paintEvent(QPaintEvent* evenement) override;
+    void resizeEvent(QResizeEvent* evenement) override;
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
+
+  private:
+    void suis();
+    void montre(const browse::PageDuGroupe& page);
+    void range();
+    void recharge(int apres);
+    void chargeSuivante();
+    void entrePar(std::size_t rang);
+    void renomme() const;
+
+    const Atelier m_atelier;
+    Etiquette *m_nom, *m_compte;
+    QPushButton* m_renommer;
+    QWidget* m_mur;
+    std::array<Vignette*, browse::kAffichesDeLaPage> m_vignettes{};
+    browse::PageDuGroupe m_page;
+    int m_generation = -1;  // of the tree that the page was made from
+    QTimer m_chargement;
+    std::size_t m_rang = 0;  // of the next poster to be read
+    bool m_aCharger = false;
+};
+
+}  // namespace ui
