@@ -1,6 +1,7 @@
 #include "ui/Apparence.h"
 
 #include "platform/systeme/TeinteDuBureau.h"
+#include "ui/Mouvement.h"
 #include "ui/Palettes.h"
 #include "ui/StyleAmbrelis.h"
 
@@ -30,7 +31,7 @@ class Habillage final : public QObject {
         if (!m_duBureau) applique();
     }
     void suisLeBureau() {
-        m_teinte.emplace([this](Teinte teinte) { souhaite(teinte); });
+        m_teinte.emplace([this](Teinte teinte) { souhaite(teinte); }, metMouvement);
         m_teinte->attends(kAttenteDeLaTeinte);
     }
     // The desktop may bring its palette late, or another one.

@@ -33,11 +33,16 @@ class PortailSimule {
     [[nodiscard]] const std::string& adresse() const { return m_adresse; }
 
     void change(const char* nom, guint32 teinte) {
+        change("org.freedesktop.appearance", nom, g_variant_new_uint32(teinte));
+    }
+    void metAnimations(bool souhaitees) {
+        change("org.gnome.desktop.interface", "enable-animations", g_variant_new_boolean(souhaitees));
+    }
+    void change(const char* groupe, const char* nom, GVariant* valeur) {
         GDBusMessage* signal = g_dbus_message_new_signal("/org/freedesktop/portal/desktop",
                                                          "org.freedesktop.portal.Settings", "SettingChanged");
         g_dbus_message_set_sender(signal, kProprietaire);
-        g_dbus_message_set_body(
-            signal, g_variant_new("(ssv)", "org.freedesktop.appearance", nom, g_variant_new_uint32(teinte)));
+        g_dbus_message_set_body(signal, g_variant_new("(ssv)", groupe, nom, valeur));
         g_dbus_connection_send_message(m_client, signal, G_DBUS_SEND_MESSAGE_FLAGS_NONE, nullptr, nullptr);
         g_object_unref(signal);
     }

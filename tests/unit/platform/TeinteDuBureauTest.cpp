@@ -40,6 +40,20 @@ TEST_F(TeinteTest, TheDesktopsWishIsToldAndFollowed) {
     EXPECT_THAT(dites, ElementsAre(Teinte::Sombre, Teinte::Claire));
 }
 
+TEST_F(TeinteTest, WhetherThingsMayMoveIsToldWhereTheDesktopSaysSo) {
+    doubles::PortailSimule portail(dossier + "/bus", 1);
+    setenv("DBUS_SESSION_BUS_ADDRESS", portail.adresse().c_str(), 1);
+    std::vector<bool> mouvements;
+    systeme::TeinteDuBureau teinte(note(), [&](bool souhaite) { mouvements.push_back(souhaite); });
+    EXPECT_TRUE(teinte.attends(120s));
+    portail.change("org.gnome.desktop.interface", "enable-animations", g_variant_new_uint32(0));  // no yes or no
+    portail.metAnimations(false);
+    portail.metAnimations(true);
+    EXPECT_TRUE(portail.jusquA([&] { return mouvements.size() == 2; }));
+    EXPECT_THAT(mouvements, ElementsAre(false, true));
+    EXPECT_THAT(dites, ElementsAre(Teinte::Sombre));
+}
+
 TEST_F(TeinteTest, APortalThatRefusesLeavesNoWish) {
     doubles::PortailSimule portail(dossier + "/bus", -1);
     unsetenv("DBUS_SESSION_BUS_ADDRESS");
