@@ -105,9 +105,9 @@ void FenetrePrincipale::compose() {
 void FenetrePrincipale::completePanneaux() {
     if (m_menus) return;
     m_menus.emplace(m_atelier, this);
-    m_droite->addWidget(new PanneauMultiSuppression(m_atelier));
+    m_droite->insertWidget(0, new PanneauMultiSuppression(m_atelier));  // strips over what they are about
+    m_droite->insertWidget(1, new PanneauRecherche(m_atelier));
     m_droite->addWidget(new PanneauFiche(m_atelier), 1);
-    m_droite->insertWidget(0, new PanneauRecherche(m_atelier));
     m_droite->addWidget(new PanneauFonctions(m_atelier), 1);
     for (QLineEdit* zone : m_droite->parentWidget()->findChildren<QLineEdit*>()) {
         new InfobulleEntiere(zone);

@@ -76,8 +76,11 @@ PageGroupe::PageGroupe(const Atelier& atelier, QWidget* parent)
 
 void PageGroupe::suis() {
     const app::Etats& etats = m_atelier.etats();
-    const bool vide = browse::catalogueVide(etats.liste);
-    const bool voulue = etats.panneaux.frameRecherche.Visible || (etats.panneaux.framePresentation.Visible && !vide);
+    const browse::EtatPanneaux& panneaux = etats.panneaux;
+    const bool sousUneBande =
+        panneaux.frameRecherche.Visible || (panneaux.frameMultiSuppression.Visible && !panneaux.frameFiche.Visible);
+    const bool accueil = panneaux.framePresentation.Visible && !browse::catalogueVide(etats.liste);
+    const bool voulue = sousUneBande || accueil;
     if (voulue) {
         const browse::PageDuGroupe page = browse::pageDuGroupe(etats.liste);
         const int generation = etats.liste.TreeView1.Nodes.generation();

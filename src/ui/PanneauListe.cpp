@@ -21,8 +21,8 @@ constexpr int kDeuxListes = 280;  // the width from which zone and sort stand si
 
 PanneauListe::PanneauListe(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     auto* boite = new QVBoxLayout(this);
-    boite->setContentsMargins(kGrand, kMoyen, 0, kPetit);
-    boite->setSpacing(kMoyen);
+    boite->setContentsMargins(kGrand, kMoyen, 0, kSerre);
+    boite->setSpacing(kPetit);
     boite->addWidget(choix());
     boite->addWidget(cadreTitres(), 1);
     suisLesGestes();
@@ -74,7 +74,7 @@ QWidget* PanneauListe::cadreTitres() {
     titres->setContentsMargins(0, 0, 0, 0);
     titres->addWidget(m_titres, 0, 0);
     titres->addWidget(raisonDuVide(), 0, 0);
-    auto* boite = colonne();
+    auto* boite = colonne(kSerre);
     boite->addLayout(entete);
     boite->addLayout(titres, 1);
     cadre->setLayout(boite);
