@@ -118,8 +118,11 @@ void StyleAmbrelis::drawPrimitive(PrimitiveElement element, const QStyleOption* 
             return;
         }
         case PE_Frame:
+            if (estUnePetiteFenetre(widget)) {
+                peintSurface(*peintre, option->rect, option->palette.color(QPalette::Base), filet(option->palette));
+                return;
+            }
             peintSurface(*peintre, option->rect, {}, filet(option->palette));
-            if (estUnePetiteFenetre(widget)) return;
             if (a(*option, State_HasFocus)) peintContourDeFocus(*peintre, option->rect, accentLisible(option->palette));
             return;
         case PE_IndicatorCheckBox:
@@ -211,6 +214,7 @@ int StyleAmbrelis::pixelMetric(PixelMetric mesure, const QStyleOption* option, c
         case PM_SplitterWidth:
             return 16;
         case PM_DefaultFrameWidth:
+            if (estUnePetiteFenetre(widget)) return 3;  // the rows leave its corners free
             // Room for the outline that tells which of them has the focus.
             return qobject_cast<const QTreeView*>(widget) || qobject_cast<const QPlainTextEdit*>(widget)
                        ? 2

@@ -3,6 +3,7 @@
 #include "ui/Mouvement.h"
 #include "ui/Vignette.h"
 
+#include <QAbstractItemView>
 #include <QLineEdit>
 #include <QProgressBar>
 
@@ -161,6 +162,34 @@ TEST_F(Cadre, ColumnsFollowTheWidth) {
     EXPECT_TRUE(coteACote("txtCheminAjoutAuto", "txtRechInternet", 1100));
     EXPECT_FALSE(coteACote("txtCheminAjoutAuto", "txtRechInternet", 900));
     EXPECT_TRUE(coteACote("ChoixZone", "ChoixTri", 900));
+}
+
+TEST_F(Cadre, ADropDownListHasTheShapeOfItsFieldAndRoomForAFinger) {
+    auto& tri = essai.trouve<QComboBox>("ChoixTri");
+    tri.showPopup();
+    const QWidget& liste = *tri.view()->window();
+    ASSERT_TRUE(liste.isVisible());
+    EXPECT_EQ(liste.width(), tri.width());
+    EXPECT_FALSE(liste.mask().isEmpty());
+    EXPECT_FALSE(liste.mask().contains(QPoint(0, 0))) << "its corners are round";
+    EXPECT_GE(tri.view()->sizeHintForRow(0), 28);
+    const QRect derniere = tri.view()->visualRect(tri.model()->index(tri.count() - 1, 0));
+    EXPECT_TRUE(tri.view()->viewport()->rect().contains(derniere)) << "nothing to scroll";
+    tri.hidePopup();
+}
+
+TEST_F(Cadre, TheMainButtonIsOneWhereThereAreSheetsToAdd) {
+    essai.clique("cmdAfficherFonctions");
+    const auto couleur = [&] {
+        QWidget& bouton = essai.trouve("cmdAjoutAuto");
+        return bouton.grab().toImage().pixelColor(6, bouton.height() / 2);
+    };
+    const QColor accent = qApp->palette().color(QPalette::Highlight);
+    EXPECT_NE(couleur(), accent);
+    essai.dossier.ecrit("fiches/a.FILM", "Alien");
+    essai.boites.dossier = essai.dossier.chemin("fiches");
+    essai.clique("cmdParcourir2");
+    EXPECT_EQ(couleur(), accent);
 }
 
 TEST(Mouvement, IsShortAndNoneWhereTheDesktopWantsNone) {
