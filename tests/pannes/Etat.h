@@ -1,0 +1,29 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+namespace pannes {
+
+// What a folder holds for its user. Of each base the rows, a poster standing in its row as its bytes, wherever they are
+// kept; of a file that is no base of ours its bytes. The witness is left out.
+using Lignes = std::map<std::string, std::string>;
+struct Etat {
+    std::map<std::string, Lignes> bases;     // by file
+    std::map<std::string, std::string> fichiers;  // all but the bases, the settings and what is at work
+    std::string dommage;                     // what no base may have
+
+    static Etat de(const std::string& dossier);
+    bool operator==(const Etat&) const = default;
+
+    // The same films, holdings and posters, whatever their row ids; holdings of no film apart, which a compaction drops.
+    [[nodiscard]] bool memesFilms(const Etat& autre) const;
+    // What of it stands neither in the one nor in the other; "" when all does.
+    [[nodiscard]] std::string ecart(const Etat& avant, const Etat& apres, bool entiere) const;
+};
+
+// Files at work, which may stand there while the program runs.
+[[nodiscard]] bool estDeTravail(const std::string& nom);
+[[nodiscard]] long noteDuTemoin(const std::string& base);  // -1 without a witness
+
+}  // namespace pannes
