@@ -12,6 +12,7 @@
 #include "db/OuvertureBase.h"
 #include "db/OuvertureJet.h"
 #include "db/Requete.h"
+#include "db/TravauxInacheves.h"
 #include "db/cmdChargeOuvreBase_Click.h"
 #include "platform/fichiers/Fichiers.h"
 #include "platform/fichiers/Restes.h"
@@ -72,6 +73,8 @@ void Demarrage::effaceRestes() {
     for (const std::string& dossier : std::set<std::string>{m_c.chemins.dossier, m_c.chemins.dossierTmp + "/", images,
                                                             fichiers::dossierDe(base.string())})
         fichiers::supprimeRestes(dossier);
+    for (const std::string& dossier : {m_c.chemins.dossier, fichiers::dossierDe(base.string())})
+        db::effaceTravauxInacheves(dossier);
 }
 
 void Demarrage::prendsInstance() {

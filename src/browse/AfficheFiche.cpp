@@ -89,7 +89,7 @@ void AfficheFiche(const Contexte& c) {
     } catch (const dao::ErreurDao& erreur) {
         abandonne(c);
         if (erreur.numero != dao::kErreurEnregistrementSupprime) throw;
-    } catch (const db::RequeteEchouee&) {
+    } catch (...) {  // a sheet that is not whole is nobody's
         abandonne(c);
         throw;
     }

@@ -333,7 +333,7 @@ void Passage::avance(long valeur) {
 }
 
 void efface(const std::string& destination) {
-    for (const char* suite : {"", "-journal"})
+    for (const char* suite : {"-journal", ""})
         fichiers::supprime(destination + suite);
 }
 

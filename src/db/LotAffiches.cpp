@@ -5,13 +5,10 @@
 #include "util/Texte.h"
 
 #include <cstdint>
-#include <filesystem>
 
 namespace db {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 std::string texteEchecFichier(const std::string& chemin) {
     return "Le fichier image " + chemin + " n'a pas pu être écrit (" + fichiers::raisonDeLEchec() + ")";
@@ -93,9 +90,8 @@ void LotAffiches::releveNommes(Connaissance& connu) {
 }
 
 void LotAffiches::releveDossier(Connaissance& connu) const {
-    std::error_code erreur;
-    for (fs::directory_iterator entree(m_dossier, erreur), fin; !erreur && entree != fin; entree.increment(erreur))
-        connu.presents.insert(util::cleSansCasse(entree->path().filename().string()));
+    for (const std::string& nom : fichiers::listeNoms(m_dossier))
+        connu.presents.insert(util::cleSansCasse(nom));
 }
 
 void LotAffiches::avantValidation() {

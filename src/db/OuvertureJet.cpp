@@ -5,17 +5,14 @@
 #include "db/DommagesJet.h"
 #include "db/DossierImages.h"
 #include "db/MotDePasseJet.h"
-#include "platform/dao/DBEngine.h"
+#include "db/TravauxInacheves.h"
 #include "platform/fichiers/Fichiers.h"
 #include "platform/fichiers/Verrou.h"
 #include "platform/jet/LecteurJet.h"
 #include "util/Texte.h"
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
-#include <fstream>
-#include <string_view>
 #include <system_error>
 
 namespace db {
@@ -70,22 +67,6 @@ int premierNumero(const std::string& original, int depuis = 1) {
 
 std::string fichierDuVerrou(const std::string& original) {
     return fs::path(original).replace_extension(".ldb").string();
-}
-
-// What the work on such a file begins with: nothing yet, or the header of a base of ours. After a power cut, zeros.
-bool estInacheve(const std::string& travail) {
-    static constexpr std::string_view kSignature("SQLite format 3\0", 16);
-    static constexpr std::size_t kPlaceIdentifiant = 68;
-    std::array<char, 72> entete{};
-    std::ifstream fichier(travail, std::ios::binary);
-    if (!fichier || !fs::is_regular_file(travail)) return false;
-    fichier.read(entete.data(), entete.size());
-    const std::string_view lu(entete.data(), entete.size());
-    std::uint32_t identifiant = 0;
-    for (const char c : lu.substr(kPlaceIdentifiant))
-        identifiant = identifiant << 8 | static_cast<unsigned char>(c);
-    return lu.find_first_not_of('\0') == std::string_view::npos ||
-           (lu.starts_with(kSignature) && identifiant == dao::DBEngine::kIdentifiantApplication);
 }
 
 // What a conversion that was killed has left.
@@ -232,7 +213,7 @@ bool estJet(const std::string& chemin) {
 std::optional<std::string> convertitJet(const Contexte& c, const std::string& chemin) {
     const std::string original = fichierReel(chemin);
     if (!accepteLaConversion(c, original)) return std::nullopt;
-    const std::string travail = original + "-conversion.tmp";
+    const std::string travail = original + std::string(kConversion);
     try {
         const fichiers::Verrou verrou(original);
         if (!verrou.estPris())

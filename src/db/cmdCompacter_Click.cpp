@@ -1,6 +1,7 @@
 #include "db/cmdCompacter_Click.h"
 
 #include "db/OuvertureBase.h"
+#include "db/TravauxInacheves.h"
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/Sql.h"
@@ -21,7 +22,7 @@ using Empechement = std::optional<std::string>;  // what to tell the user
 std::string fichierDeTravail(const Contexte& c, const std::string& base) {
     std::error_code erreur;
     const bool iciMeme = fs::equivalent(fichiers::dossierDe(base), c.chemins.dossier, erreur);
-    return iciMeme ? c.chemins.dansDossier("temp.tmp") : base + "-temp.tmp";
+    return iciMeme ? c.chemins.dansDossier(std::string(kCompactageIci)) : base + std::string(kCompactage);
 }
 
 // The recordsets are closed between the copy and its putting in place: a copy that fails leaves them open.

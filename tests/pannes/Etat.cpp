@@ -8,6 +8,7 @@
 #include <iterator>
 #include <memory>
 #include <set>
+#include <stdexcept>
 
 #include <sqlite3.h>
 
@@ -69,13 +70,20 @@ void releve(Etat& etat, const std::string& nom, const fs::path& chemin, const fs
     });
     for (const std::string table : {"Films", "Personnel"})
         lue = lue && parcourt(base, ("SELECT * FROM " + table).c_str(), [&](auto colonnes) {
-                  if (colonnes[1] == kTemoin) return;
+                  if (colonnes[1] == kTemoin || colonnes[1] == kAilleurs) return;
                   if (table == "Films") colonnes.back() = octetsDeLAffiche(colonnes.back(), images);
                   std::string& ligne = lignes[table + " " + colonnes[0] + " " + colonnes[1]];
                   for (const std::string& valeur : colonnes)
                       ligne += valeur + '\x1f';
               });
     if (!lue) etat.dommage += nom + ": " + sqlite3_errmsg(base.get()) + "\n";
+}
+
+// Of work that was cut off, in a file that no film names yet: the next attempt goes on with it.
+bool estUneAfficheCommencee(const std::string& nom, const std::string& octets, const Etat& avant, const Etat& apres) {
+    const auto entiere = apres.fichiers.find(nom);
+    return nom.starts_with("Images/") && !avant.fichiers.contains(nom) && entiere != apres.fichiers.end() &&
+           entiere->second.starts_with(octets);
 }
 
 template <typename Table>
@@ -96,7 +104,7 @@ Etat Etat::de(const std::string& dossier) {
     Etat etat;
     for (const auto& entree : fs::recursive_directory_iterator(dossier)) {
         const std::string nom = entree.path().lexically_relative(dossier).string();
-        if (!entree.is_regular_file() || nom == "Ambrelis.ini") continue;
+        if (!entree.is_regular_file() || nom == "Ambrelis.ini" || nom == ".ambrelis.verrou") continue;
         if (nom.ends_with(".mdb") && !estDeTravail(nom))
             releve(etat, nom, entree.path(), fs::path(dossier) / "Images");
         else
@@ -137,17 +145,27 @@ std::string Etat::ecart(const Etat& avant, const Etat& apres, bool entiere) cons
             compare(nom + ": " + cle, valeur(ici, cle), valeur(alors, cle), valeur(ensuite, cle));
     }
     for (const auto& [nom, octets] : fichiers)
-        if (!estDeTravail(nom)) compare(nom, octets, valeur(avant.fichiers, nom), valeur(apres.fichiers, nom));
+        if (!estDeTravail(nom) && !estUneAfficheCommencee(nom, octets, avant, apres))
+            compare(nom, octets, valeur(avant.fichiers, nom), valeur(apres.fichiers, nom));
     for (const auto& [nom, octets] : avant.fichiers)
         if (!estDeTravail(nom) && apres.fichiers.contains(nom) && !fichiers.contains(nom)) texte += nom + " is gone\n";
     return texte;
 }
 
-long noteDuTemoin(const std::string& base) {
+long noteDe(const char* titre, const std::string& base) {
     long note = -1;
-    parcourt(ouvre(base), "SELECT coalesce(Note, 0) FROM Films WHERE Titre = 'Témoin'",
+    parcourt(ouvre(base), ("SELECT coalesce(Note, 0) FROM Films WHERE Titre = '" + std::string(titre) + "'").c_str(),
              [&](const auto& c) { note = std::stol(c[0]); });
     return note;
+}
+
+AutreProgramme::AutreProgramme(const std::string& base) : m_base(ouvre(base).release()) {}
+AutreProgramme::~AutreProgramme() {
+    sqlite3_close(m_base);
+}
+void AutreProgramme::execute(const std::string& sql) {
+    if (sqlite3_exec(m_base, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
+        throw std::runtime_error(sql + ": " + sqlite3_errmsg(m_base));
 }
 
 }  // namespace pannes

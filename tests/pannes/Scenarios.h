@@ -9,7 +9,8 @@
 
 namespace pannes {
 
-inline constexpr const char* kTemoin = "Témoin";  // the film that no scenario touches
+inline constexpr const char* kTemoin = "Témoin";       // the film that no scenario touches
+inline constexpr const char* kAilleurs = "Ailleurs";   // the one that another program adds
 inline constexpr const char* kSansFilm = "Sans film";  // the holding of no film
 
 // A command, and how the user comes to it. `entiere`: it is done or not, else it is film by film.
@@ -20,7 +21,7 @@ struct Scenario {
     bool entiere = true;
     bool dansLeDossier = false;  // posters are files
     bool rejouable = true;       // told again after a fault, it ends what it had begun
-    bool auDemarrage = false;  // the command is the start itself
+    bool auDemarrage = false;    // the command is the start itself
 };
 
 [[nodiscard]] const std::vector<Scenario>& scenarios();

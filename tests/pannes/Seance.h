@@ -26,8 +26,10 @@ class DialoguesNotes final : public dialogues::Dialogues {
     std::string saisie, fichier, dossier;
     std::string dits;
 
+    DialoguesNotes() { dits.reserve(1 << 16); }  // noted where memory lacks, too
+
     int MsgBox(const std::string& texte, int style, const std::string&) override {
-        dits += "[" + texte + "]\n";
+        dits.append("[").append(texte).append("]\n");
         return style == dialogues::kQuestion ? dialogues::kOui : dialogues::kOk;
     }
     std::string InputBox(const std::string&, const std::string&, const std::string&) override { return saisie; }
@@ -47,12 +49,14 @@ class Seance {
     app::Etats& etats = session.etats;
     bool finie = false;
 
+    // Whether it came to its end.
     template <typename Geste>
-    void fais(Geste geste) {
+    bool fais(Geste geste) {
         const int avis = etats.avis.numero;
         try {
             session.vaCommencer();
             geste();
+            return note(avis);
         } catch (const systeme::FinDuProgramme&) {
             finie = true;
         } catch (const db::RequeteEchouee& echec) {
@@ -64,14 +68,15 @@ class Seance {
         } catch (const std::exception& erreur) {
             boites.MsgBox(std::string("ANGLAIS : ") + erreur.what(), dialogues::kSimple, "");
         }
-        if (etats.avis.numero != avis) boites.dits += "(" + etats.avis.lblAvis.Caption + ")\n";
+        note(avis);
+        return false;
     }
     template <typename... Arguments>
     void commande(Arguments... arguments) {
         fais([&] { session.execute(arguments...); });
     }
     void demarre() {
-        fais([this] { session.Form_Load(); });
+        finie = !fais([this] { session.Form_Load(); }) || finie;
         if (!finie) fais([this] { session.Form_Activate(); });
     }
     void zone(int indice) {
@@ -87,6 +92,12 @@ class Seance {
     }
 
   private:
+    // What the line says, when it says something new.
+    bool note(int avis) {
+        if (etats.avis.numero != avis) boites.dits.append("(").append(etats.avis.lblAvis.Caption).append(")\n");
+        return true;
+    }
+
     doubles::EcranMuet m_ecran;
     doubles::ImagesSimulees m_images;
     doubles::DocumentsEnregistres m_documents;

@@ -1,16 +1,16 @@
+#include "app/Commandes.h"
+#include "doubles/DossierTemporaire.h"
+#include "edit/cmdModifieNote_Click.h"
 #include "pannes/Cale.h"
 #include "pannes/Etat.h"
-#include "app/Commandes.h"
-#include "edit/cmdModifieNote_Click.h"
 #include "pannes/Scenarios.h"
-
-#include "doubles/DossierTemporaire.h"
 
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <iostream>
 #include <map>
+#include <optional>
 #include <random>
 #include <thread>
 
@@ -31,6 +31,51 @@ const std::map<std::string, Faute> kFautes{{"refus", Faute::Refus},
                                            {"panne", Faute::DisqueMort},
                                            {"mort", Faute::Mort},
                                            {"mémoire", Faute::Memoire}};
+
+// What befalls a session from outside while it does a command. `sansEffet`: the command does its work all the same.
+struct Circonstance {
+    std::string nom;
+    bool sansEffet;
+};
+const std::vector<Circonstance> kCirconstances{{"verrou d'une seconde", true},
+                                               {"verrou", false},
+                                               {"base changée", true},
+                                               {"dossier parti", false},
+                                               {"horloge", true}};
+constexpr long kUnAn = 365L * 24 * 3600;
+
+// From its making to its end.
+class Dehors {
+  public:
+    Dehors(const std::string& nom, const std::string& dossier)
+        : m_nom(nom), m_dossier(dossier.substr(0, dossier.size() - 1)) {
+        if (nom == "dossier parti") fs::rename(m_dossier, ailleurs());
+        if (nom == "horloge") cale_recule(kUnAn);
+        if (!nom.starts_with("verrou") && nom != "base changée") return;
+        m_autre.emplace(dossier + "Films.mdb");
+        m_autre->execute(nom == "base changée" ? "INSERT INTO Films (Titre, Realisateur) VALUES ('Ailleurs', 'X')"
+                                               : "BEGIN EXCLUSIVE");
+        if (nom == "verrou d'une seconde")
+            m_attente = std::thread([this] {
+                std::this_thread::sleep_for(std::chrono::seconds(1));
+                m_autre->execute("COMMIT");
+            });
+    }
+    Dehors(const Dehors&) = delete;
+    Dehors& operator=(const Dehors&) = delete;
+    ~Dehors() {
+        if (m_attente.joinable()) m_attente.join();
+        if (m_nom != "dossier parti") return;
+        fs::remove_all(m_dossier);
+        fs::rename(ailleurs(), m_dossier);
+    }
+
+  private:
+    [[nodiscard]] std::string ailleurs() const { return m_dossier + " parti"; }
+    const std::string m_nom, m_dossier;
+    std::optional<AutreProgramme> m_autre;
+    std::thread m_attente;
+};
 
 // A process of its own does the work; what it wrote, and how it ended when that was not by itself.
 struct Issue {
@@ -86,12 +131,12 @@ void copie(const fs::path& de, const fs::path& vers) {
 std::string utilisable(Seance& s) {
     std::string base;
     s.fais([&] { s.session.execute([&](const app::Contexte& c) { base = c.base.base.nom(); }); });
-    if (noteDuTemoin(base) < 0) return "";
+    if (noteDe(kTemoin, base) < 0) return "";
     s.boites.saisie = "7";
     s.zone(1);
     s.commande(app::TreeView1_NodeClick, s.noeud(kTemoin));
     s.commande(edit::cmdModifieNote_Click);
-    return noteDuTemoin(base) == 7 ? "" : "a further command does not work: " + s.boites.dits;
+    return noteDe(kTemoin, base) == 7 ? "" : "a further command does not work: " + s.boites.dits;
 }
 
 // Of a base that is not opened: what undoes the work that was cut off, once it is.
@@ -132,7 +177,8 @@ class Epreuve {
                                     copie(m_dossier, m_lieu.chemin("apres"));
                                     std::fprintf(sortie, "%ld %s", points, dits.c_str());
                                 }).attends();
-            if (issue.signal != 0 || issue.texte.empty()) throw std::runtime_error("no run without a fault: " + issue.texte);
+            if (issue.signal != 0 || issue.texte.empty())
+                throw std::runtime_error("no run without a fault: " + issue.texte);
             const std::size_t blanc = issue.texte.find(' ');
             (faute == Faute::Aucune ? m_points : m_allocations) = std::stol(issue.texte);
             m_dits = issue.texte.substr(blanc + 1);
@@ -144,9 +190,10 @@ class Epreuve {
     [[nodiscard]] long points(Faute faute) const { return faute == Faute::Memoire ? m_allocations : m_points; }
 
     // What did not hold; "" when all did.
-    std::string passe(Faute faute, long point) {
+    std::string passe(Faute faute, long point, const Circonstance& circonstance = {}) {
         copie(m_lieu.chemin("modele"), m_dossier);
-        const Issue issue = Enfant([&](std::FILE* sortie) { std::fputs(vis(faute, point).c_str(), sortie); }).attends();
+        const Issue issue =
+            Enfant([&](std::FILE* sortie) { std::fputs(vis(faute, point, circonstance).c_str(), sortie); }).attends();
         std::string texte = issue.texte;
         if (issue.signal != (faute == Faute::Mort ? SIGKILL : 0))
             texte += "ended by signal " + std::to_string(issue.signal) + "\n";
@@ -160,10 +207,11 @@ class Epreuve {
         long points;
         std::string dits;  // from the command on
     };
-    Fait execute(Seance& s, Faute faute, long point) {
+    Fait execute(Seance& s, Faute faute, long point, const std::string& circonstance = "") {
         if (!m_scenario.auDemarrage) s.demarre();
         m_scenario.prepare(s, m_dossier);
         const std::size_t avant = s.boites.dits.size();
+        const Dehors dehors(circonstance, m_dossier);
         cale_arme(faute, point);
         m_scenario.commande(s);
         const long points = cale_desarme();
@@ -171,12 +219,16 @@ class Epreuve {
     }
 
     // In a process of its own: the command with its fault, what it leaves, and the same session afterwards.
-    std::string vis(Faute faute, long point) {
+    std::string vis(Faute faute, long point, const Circonstance& circonstance) {
         Seance s(m_dossier);
-        const std::string dits = execute(s, faute, point).dits;
+        const std::string dits = execute(s, faute, point, circonstance.nom).dits;
         Etat fait = Etat::de(m_dossier);
-        std::string texte = fait.ecart(m_avant, m_apres, m_scenario.entiere);
-        if (dits == m_dits && !estComplet(fait)) texte += "nothing was told\n";
+        std::string texte = fait.dommage;
+        if (circonstance.sansEffet && !fait.memesFilms(m_apres)) texte += "the work was not done: " + dits;
+        if (circonstance.nom == "base changée" && noteDe(kAilleurs, m_dossier + "Films.mdb") < 0)
+            texte += "what another program added is gone\n";
+        if (!circonstance.sansEffet) texte += fait.ecart(m_avant, m_apres, m_scenario.entiere);
+        if (!circonstance.sansEffet && dits == m_dits && !estComplet(fait)) texte += "nothing was told\n";
         if (dits.find("ANGLAIS") != std::string::npos) texte += "told " + dits;
         if (s.finie && dits.empty() && m_scenario.nom != "arrêt") texte += "ended without a word\n";
         if (s.finie) return texte;
@@ -198,10 +250,12 @@ class Epreuve {
         } catch (const std::runtime_error&) {  // half of the films are done: there is no such node any more
             return "";
         }
-        const std::size_t avant = s.boites.dits.size();
         m_scenario.commande(s);
         const Etat fait = Etat::de(m_dossier);
-        return fait.memesFilms(m_apres) ? "" : "done again, the command does not end what it began: " + s.boites.dits.substr(avant) + fait.ecart(m_apres, m_apres, false);
+        return fait.memesFilms(m_apres)
+                   ? ""
+                   : "done again, the command does not end what it began: " + s.boites.dits +
+                         fait.ecart(m_apres, m_apres, false);
     }
 
     const Scenario& m_scenario;
@@ -212,8 +266,9 @@ class Epreuve {
     long m_points = 0, m_allocations = 0;
 };
 
-// At most `maximum` of 1 to `nombre`, evenly spread.
+// At most `maximum` of 1 to `nombre`, evenly spread; below zero that very one.
 std::vector<long> choisis(long nombre, long maximum) {
+    if (maximum < 0) return {-maximum};
     std::vector<long> points;
     const long retenus = std::min(nombre, maximum);
     for (long i = 0; i < retenus; ++i)
@@ -221,11 +276,21 @@ std::vector<long> choisis(long nombre, long maximum) {
     return points;
 }
 
+constexpr long kAussiDehors = 10;  // points from which on the circumstances are tried too: they take seconds
+
 int etape(const Scenario& scenario, const std::string& fauteVoulue, long maximum) {
     Epreuve epreuve(scenario);
     std::cout << scenario.nom << ": " << epreuve.points(Faute::Refus) << " points, " << epreuve.points(Faute::Memoire)
               << " allocations\n";
     int echecs = 0;
+    for (const Circonstance& circonstance : kCirconstances) {
+        if (scenario.auDemarrage || (fauteVoulue.empty() ? maximum < kAussiDehors : fauteVoulue != circonstance.nom))
+            continue;
+        const std::string texte = epreuve.passe(Faute::Aucune, 0, circonstance);
+        if (texte.empty()) continue;
+        ++echecs;
+        std::cout << "  " << circonstance.nom << ": " << texte << std::flush;
+    }
     for (const auto& [nom, faute] : kFautes) {
         if (!fauteVoulue.empty() && nom != fauteVoulue) continue;
         for (const long point : choisis(epreuve.points(faute), maximum)) {
@@ -238,12 +303,96 @@ int etape(const Scenario& scenario, const std::string& fauteVoulue, long maximum
     return echecs;
 }
 
+// A session of random commands, the same for the same seed. `suit` is told after each, and after the start.
+constexpr int kCommandes = 12;
+void vitAuHasard(const std::string& dossier, unsigned graine, const std::function<void()>& suit) {
+    std::mt19937 hasard(graine);
+    Seance s(dossier);
+    s.demarre();
+    suit();
+    for (int i = 0; i < kCommandes && !s.finie; ++i) {
+        const Scenario& scenario = scenarios()[hasard() % scenarios().size()];
+        try {
+            if (scenario.auDemarrage || scenario.nom == "arrêt") continue;
+            s.boites.fichier = s.boites.dossier = "";
+            scenario.prepare(s, dossier);
+            scenario.commande(s);
+        } catch (const std::runtime_error&) {  // the film that it is about is not there
+        }
+        suit();
+    }
+    s.session.Form_Unload();
+}
+
+// Sessions killed at a random moment: nothing that was done before the command that ran is missing.
+int tueAuHasard(int combien, unsigned graine) {
+    constexpr int kParSeance = 10;
+    std::mt19937 hasard(graine);
+    int echecs = 0, faits = 0;
+    for (; faits < combien; ++faits) {
+        static doubles::DossierTemporaire lieu;
+        static std::vector<Etat> etats;
+        static std::chrono::microseconds duree;
+        static unsigned seance;
+        const std::string modele = lieu.chemin("modele"), dossier = lieu.chemin("Ambrelis/");
+        if (faits % kParSeance == 0) {
+            seance = static_cast<unsigned>(hasard());
+            fs::remove_all(modele);
+            construit(modele, seance % 2 == 0);
+            copie(modele, dossier);
+            etats = {Etat::de(modele)};
+            int etape = 0;
+            const auto garde = [&] { copie(dossier, lieu.chemin("etat" + std::to_string(++etape))); };
+            const std::string suivies = Enfant([&](std::FILE* sortie) {
+                                            vitAuHasard(dossier, seance, [&] {
+                                                garde();
+                                                std::fputc('.', sortie);
+                                            });
+                                        })
+                                            .attends()
+                                            .texte;
+            for (std::size_t i = 1; i <= suivies.size(); ++i)
+                etats.push_back(Etat::de(lieu.chemin("etat" + std::to_string(i))));
+            copie(modele, dossier);
+            const auto debut = std::chrono::steady_clock::now();
+            Enfant([&](std::FILE*) { vitAuHasard(dossier, seance, [] {}); }).attends();
+            duree = std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - debut);
+        }
+        copie(modele, dossier);
+        const std::chrono::microseconds quand(hasard() % static_cast<unsigned long>(duree.count()));
+        Enfant enfant([&](std::FILE* sortie) {
+            vitAuHasard(dossier, seance, [&] {
+                std::fputc('.', sortie);
+                std::fflush(sortie);
+            });
+        });
+        std::this_thread::sleep_for(quand);
+        enfant.tue();
+        const std::size_t faites = enfant.attends().texte.size();
+        const Etat &avant = etats.at(faites), &apres = etats[std::min(faites + 1, etats.size() - 1)];
+        const std::string texte = demarreEnsuite(dossier, avant, apres, false);
+        if (texte.empty()) continue;
+        ++echecs;
+        std::cout << "  session " << seance << " killed after " << quand.count() << " us and " << faites
+                  << " steps: " << texte << std::flush;
+    }
+    return echecs;
+}
+
 }  // namespace
 
-// essais_pannes POINTS [SCENARIO [FAULT]]: at most so many points for each fault of each scenario.
+// essais_pannes tue HOW_MANY [SEED]: so many sessions killed at random moments.
+// essais_pannes POINTS [SCENARIO [FAULT]]: at most so many points for each fault of each scenario; -N is point N alone.
 int main(int nombre, char** arguments) {
     const std::vector<std::string> mots(arguments + 1, arguments + nombre);
     const auto mot = [&](std::size_t i) { return i < mots.size() ? mots[i] : std::string(); };
+    if (mot(0) == "tue") {
+        const unsigned graine = mot(2).empty() ? std::random_device()() : static_cast<unsigned>(std::stoul(mot(2)));
+        std::cout << "seed " << graine << "\n";
+        const int tues = tueAuHasard(std::stoi(mot(1)), graine);
+        std::cout << tues << " failures\n";
+        return tues == 0 ? 0 : 1;
+    }
     const long maximum = mot(0).empty() ? 1 : std::stol(mot(0));
     int echecs = 0;
     for (const Scenario& scenario : scenarios()) {

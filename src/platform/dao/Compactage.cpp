@@ -43,7 +43,7 @@ void synchronise(const std::string& chemin) {
 
 void efface(const std::string& destination) {
     std::error_code ignoree;
-    for (const char* suite : {"", "-journal"})
+    for (const char* suite : {"-journal", ""})
         fs::remove(destination + suite, ignoree);
 }
 

@@ -14,6 +14,8 @@ namespace dao::interne {
 
 namespace {
 
+constexpr const char* kAnnulation = "ROLLBACK";
+
 std::optional<std::pair<dev_t, ino_t>> fichierNomme(const std::string& chemin) {
     struct stat etat {};
     if (stat(chemin.c_str(), &etat) != 0) return std::nullopt;
@@ -80,6 +82,8 @@ bool Connexion::enTransaction() const {
 void Connexion::commence() {
     if (m_commencee) jette(kErreurTransaction, "Une transaction est déjà ouverte.");
     exigeEnPlace();
+    if (enTransaction()) annule();  // one that could not be rolled back when it was given up
+    (void)prepare(kAnnulation);     // at hand where memory lacks
     prepare("BEGIN IMMEDIATE").execute();
     m_commencee = true;
     suitLeFichier();
@@ -95,8 +99,8 @@ void Connexion::confirme() {
 }
 
 void Connexion::annule() {
-    if (enTransaction()) prepare("ROLLBACK").execute();
     m_commencee = false;
+    if (enTransaction()) prepare(kAnnulation).execute();
     for (const auto& [nom, table] : m_tables) {
         for (const long long ligne : table->suivi.supprimeesEnCours)
             table->suivi.supprimees.erase(ligne);

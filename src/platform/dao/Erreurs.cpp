@@ -1,6 +1,7 @@
 #include "platform/dao/Erreurs.h"
 
 #include <new>
+#include <stdexcept>
 
 #include <sqlite3.h>
 
@@ -12,6 +13,11 @@ void jette(int numero, std::string description) {
 
 void jetteFerme() {
     jette(kErreurObjetFerme, "L'objet n'est pas valide ou n'est plus défini.");
+}
+
+void exigeSucces(UErrorCode etat) {
+    if (etat == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
+    if (U_FAILURE(etat)) throw std::runtime_error(u_errorName(etat));
 }
 
 void jetteDeplacee(const std::string& chemin) {

@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include <unicode/utypes.h>
+
 struct sqlite3;
 
 namespace dao::interne {
@@ -15,5 +17,7 @@ enum class Acces { Lecture, Ecriture };
 // The file that a base was opened from is no longer the one its path names: 3024.
 [[noreturn]] void jetteDeplacee(const std::string& chemin);
 [[noreturn]] void jetteFerme();
+// What ICU could not do: std::bad_alloc, or the name of its error.
+void exigeSucces(UErrorCode etat);
 
 }  // namespace dao::interne

@@ -1,6 +1,6 @@
 #include "platform/dao/PoidsJet.h"
 
-#include <stdexcept>
+#include "platform/dao/Erreurs.h"
 
 #include <unicode/normalizer2.h>
 #include <unicode/ucol.h>
@@ -9,10 +9,6 @@
 namespace dao::interne {
 
 namespace {
-
-void verifie(UErrorCode etat) {
-    if (U_FAILURE(etat)) throw std::runtime_error(u_errorName(etat));
-}
 
 // Jet reads these as their two letters; ICU sets them one accent apart.
 struct Ligature {
@@ -35,13 +31,13 @@ class OrdreRacine {
         for (const auto& [signe, lettres] : kLigatures)
             m_texte.findAndReplace(signe, lettres);
         ucol_setText(m_elements, m_texte.getBuffer(), m_texte.length(), &etat);
-        verifie(etat);
+        exigeSucces(etat);
     }
 
     std::int32_t suivant() {
         UErrorCode etat = U_ZERO_ERROR;
         const std::int32_t element = ucol_next(m_elements, &etat);
-        verifie(etat);
+        exigeSucces(etat);
         return element;
     }
 
@@ -50,7 +46,7 @@ class OrdreRacine {
         UErrorCode etat = U_ZERO_ERROR;
         m_forme = icu::Normalizer2::getNFDInstance(etat);
         m_elements = ucol_openElements(ucol_open("root", &etat), u"", 0, &etat);
-        verifie(etat);
+        exigeSucces(etat);
     }
 
     const icu::Normalizer2* m_forme = nullptr;

@@ -1,12 +1,12 @@
 #include "platform/dao/TexteJet.h"
 
+#include "platform/dao/Erreurs.h"
 #include "util/Ascii.h"
 #include "util/Unicode.h"
 
 #include <array>
 #include <cstdint>
 #include <cstring>
-#include <stdexcept>
 
 #include <unicode/normalizer2.h>
 #include <unicode/uchar.h>
@@ -46,7 +46,7 @@ void plieLatin(const std::uint8_t* octets, std::size_t taille, std::uint8_t* __r
 const icu::Normalizer2& forme(const icu::Normalizer2* (*instance)(UErrorCode&)) {
     UErrorCode etat = U_ZERO_ERROR;
     const icu::Normalizer2* resultat = instance(etat);
-    if (U_FAILURE(etat)) throw std::runtime_error(u_errorName(etat));
+    exigeSucces(etat);
     return *resultat;
 }
 
@@ -72,7 +72,7 @@ void plieMorceau(std::string_view morceau, std::string& resultat) {
         }
     }
     forme(&icu::Normalizer2::getNFCInstance).normalize(plis, etat).toUTF8String(resultat);
-    if (U_FAILURE(etat)) throw std::runtime_error(u_errorName(etat));
+    exigeSucces(etat);
 }
 
 void plieLentement(std::string_view texte, std::string& resultat) {

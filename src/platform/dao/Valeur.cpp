@@ -1,11 +1,13 @@
 #include "platform/dao/Valeur.h"
 
 #include "platform/dao/AccesValeur.h"
+#include "platform/dao/Erreurs.h"
 
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <new>
 
 #include <sqlite3.h>
 
@@ -52,7 +54,8 @@ ValeurVue vueDe(sqlite3_value* valeur) {
         case SQLITE_BLOB:
             return vue(ValeurVue::Type::Octets, sqlite3_value_blob(valeur));
         default:
-            return vue(ValeurVue::Type::Texte, sqlite3_value_text(valeur));
+            if (const auto* texte = sqlite3_value_text(valeur)) return vue(ValeurVue::Type::Texte, texte);
+            throw std::bad_alloc();
     }
 }
 
@@ -88,17 +91,21 @@ double Valeur::nombre() const {
 }
 
 void AccesValeur::lie(sqlite3_stmt* requete, int rang, const Valeur& valeur) {
+    int code = SQLITE_OK;
     if (const auto* texte = std::get_if<Valeur::Texte>(&valeur.m_valeur)) {
-        sqlite3_bind_text64(requete, rang, texte->contenu.data(), texte->contenu.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+        code = sqlite3_bind_text64(requete, rang, texte->contenu.data(), texte->contenu.size(), SQLITE_TRANSIENT,
+                                   SQLITE_UTF8);
     } else if (const auto* octets = std::get_if<Valeur::Octets>(&valeur.m_valeur)) {
-        sqlite3_bind_blob64(requete, rang, octets->contenu.data(), octets->contenu.size(), SQLITE_TRANSIENT);
+        code = sqlite3_bind_blob64(requete, rang, octets->contenu.data(), octets->contenu.size(), SQLITE_TRANSIENT);
     } else if (const auto* entier = std::get_if<long long>(&valeur.m_valeur)) {
-        sqlite3_bind_int64(requete, rang, *entier);
+        code = sqlite3_bind_int64(requete, rang, *entier);
     } else if (const auto* reel = std::get_if<double>(&valeur.m_valeur)) {
-        sqlite3_bind_double(requete, rang, *reel);
+        code = sqlite3_bind_double(requete, rang, *reel);
     } else {
-        sqlite3_bind_null(requete, rang);
+        code = sqlite3_bind_null(requete, rang);
     }
+    // What is not bound would be stored as Null.
+    if (code != SQLITE_OK) interne::jetteSqlite(sqlite3_db_handle(requete), code, interne::Acces::Ecriture);
 }
 
 }  // namespace dao

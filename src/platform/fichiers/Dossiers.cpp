@@ -18,23 +18,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// `garde` gets each entry; the names it keeps, without regard to case, then by their bytes.
-template <typename Garde>
-std::vector<std::string> nomsTries(const std::string& dossier, Garde garde) {
-    std::vector<std::pair<std::string, std::string>> noms;
-    std::error_code erreur;
-    for (fs::directory_iterator entree(dossier, erreur), fin; !erreur && entree != fin; entree.increment(erreur)) {
-        if (!garde(*entree)) continue;
-        std::string nom = entree->path().filename().string();
-        noms.emplace_back(util::cleSansCasse(nom), std::move(nom));
-    }
-    std::sort(noms.begin(), noms.end());
-    std::vector<std::string> resultat;
-    for (auto& nom : noms)
-        resultat.push_back(std::move(nom.second));
-    return resultat;
-}
-
 // A final separator would have the system follow a link.
 std::string sansSeparateurFinal(std::string dossier) {
     while (dossier.size() > 1 && dossier.ends_with('/'))
@@ -42,13 +25,23 @@ std::string sansSeparateurFinal(std::string dossier) {
     return dossier.empty() ? "." : dossier;
 }
 
-bool estUnDossier(int parent, const char* nom) {
+bool estUnDossier(int parent, const dirent& entree) {
+    if (entree.d_type != DT_UNKNOWN) return entree.d_type == DT_DIR;
     struct stat infos {};
-    return fstatat(parent, nom, &infos, AT_SYMLINK_NOFOLLOW) != 0 || S_ISDIR(infos.st_mode);
+    return fstatat(parent, entree.d_name, &infos, AT_SYMLINK_NOFOLLOW) != 0 || S_ISDIR(infos.st_mode);
 }
 
-// Of the open folder, whatever its path leads to by now; without its folders.
-std::vector<std::string> nomsDe(const Descripteur& dossier) {
+// Also where a link leads to one.
+bool estUnFichier(int parent, const dirent& entree) {
+    if (entree.d_type != DT_LNK && entree.d_type != DT_UNKNOWN) return entree.d_type == DT_REG;
+    struct stat infos {};
+    return fstatat(parent, entree.d_name, &infos, 0) == 0 && S_ISREG(infos.st_mode);
+}
+
+// Of the open folder, whatever its path leads to by now: those that `garde` keeps. The standard iterator ends the program
+// where memory lacks.
+template <typename Garde>
+std::vector<std::string> nomsDe(const Descripteur& dossier, Garde garde) {
     std::vector<std::string> noms;
     const int copie = fcntl(dossier.numero(), F_DUPFD_CLOEXEC, 0);
     const std::unique_ptr<DIR, int (*)(DIR*)> ouvert(copie < 0 ? nullptr : fdopendir(copie), &closedir);
@@ -56,8 +49,10 @@ std::vector<std::string> nomsDe(const Descripteur& dossier) {
         if (copie >= 0) close(copie);
         return noms;
     }
-    while (const dirent* entree = readdir(ouvert.get()))
-        if (!estUnDossier(dossier.numero(), entree->d_name)) noms.emplace_back(entree->d_name);
+    while (const dirent* entree = readdir(ouvert.get())) {
+        const std::string_view nom = entree->d_name;
+        if (nom != "." && nom != ".." && garde(dossier.numero(), *entree)) noms.emplace_back(nom);
+    }
     return noms;
 }
 
@@ -108,17 +103,27 @@ bool assureDossierPrive(const std::string& chemin) {
 int supprimeSelonMotif(const std::string& dossier, std::string_view motif) {
     const Descripteur ouvert = ouvreDossierReel(dossier);
     if (!ouvert.estOuvert()) return 0;
-    const std::vector<std::string> noms = nomsDe(ouvert);
+    const std::vector<std::string> noms =
+        nomsDe(ouvert, [](int parent, const dirent& entree) { return !estUnDossier(parent, entree); });
     return static_cast<int>(std::count_if(noms.begin(), noms.end(), [&](const std::string& nom) {
         return correspond(nom, motif) && unlinkat(ouvert.numero(), nom.c_str(), 0) == 0;
     }));
 }
 
+std::vector<std::string> listeNoms(const std::string& dossier) {
+    return nomsDe(Descripteur(dossier, O_RDONLY | O_DIRECTORY), [](int, const dirent&) { return true; });
+}
+
+// Without regard to case, then by their bytes.
 std::vector<std::string> listeFichiers(const std::string& dossier) {
-    return nomsTries(dossier, [](const fs::directory_entry& entree) {
-        std::error_code erreur;
-        return entree.is_regular_file(erreur);
-    });
+    std::vector<std::pair<std::string, std::string>> cles;
+    for (std::string& nom : nomsDe(Descripteur(dossier, O_RDONLY | O_DIRECTORY), estUnFichier))
+        cles.emplace_back(util::cleSansCasse(nom), std::move(nom));
+    std::sort(cles.begin(), cles.end());
+    std::vector<std::string> noms;
+    for (auto& cle : cles)
+        noms.push_back(std::move(cle.second));
+    return noms;
 }
 
 }  // namespace fichiers

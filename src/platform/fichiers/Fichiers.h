@@ -81,6 +81,8 @@ bool assureDossierPrive(const std::string& chemin);
 // Nothing goes where `dossier` is a link. Returns how many went.
 int supprimeSelonMotif(const std::string& dossier, std::string_view motif);
 
+// The names of all that stands in the folder, in no order. Empty when it cannot be read.
+[[nodiscard]] std::vector<std::string> listeNoms(const std::string& dossier);
 // The names of the folder's files, in name order, folders left out. Empty when it cannot be read.
 [[nodiscard]] std::vector<std::string> listeFichiers(const std::string& dossier);
 

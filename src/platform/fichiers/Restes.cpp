@@ -8,9 +8,7 @@
 #include <charconv>
 #include <csignal>
 #include <ctime>
-#include <filesystem>
 #include <optional>
-#include <system_error>
 #include <vector>
 
 #include <sys/file.h>
@@ -73,12 +71,8 @@ void marqueEnUsage(int descripteur) {
 
 int supprimeRestes(const std::string& dossier) {
     std::vector<std::pair<std::string, pid_t>> restes;
-    std::error_code erreur;
-    for (std::filesystem::directory_iterator entree(dossier, erreur), fin; !erreur && entree != fin;
-         entree.increment(erreur)) {
-        const std::string nom = entree->path().filename().string();
+    for (const std::string& nom : listeNoms(dossier))
         if (const auto processus = auteur(nom)) restes.emplace_back(util::avecSeparateur(dossier) + nom, *processus);
-    }
     return static_cast<int>(
         std::ranges::count_if(restes, [](const auto& reste) { return supprimeReste(reste.first, reste.second); }));
 }
