@@ -7,6 +7,7 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
+#include <iterator>
 
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -80,24 +81,28 @@ bool cree(int options) {
     return (options & O_CREAT) != 0;
 }
 
-// GLib ends the program when memory lacks: what it asks for is always granted.
-int noteGLib(dl_phdr_info* objet, std::size_t, void* bornes) {
-    if (std::strstr(objet->dlpi_name, "/libglib-") == nullptr) return 0;
-    for (int i = 0; i < objet->dlpi_phnum; ++i) {
-        const auto debut = objet->dlpi_addr + objet->dlpi_phdr[i].p_vaddr;
-        if (objet->dlpi_phdr[i].p_type == PT_LOAD && (objet->dlpi_phdr[i].p_flags & PF_X) != 0) {
-            static_cast<ElfW(Addr)*>(bornes)[0] = debut;
-            static_cast<ElfW(Addr)*>(bornes)[1] = debut + objet->dlpi_phdr[i].p_memsz;
-        }
-    }
-    return 1;
+// GLib ends the program when memory lacks, and ICU 72 falls over its own missing objects: what they ask for is granted.
+struct Bornes {
+    ElfW(Addr) debut = 0, fin = 0;
+};
+constexpr const char* kExemptes[] = {"/libglib-", "/libicuuc.", "/libicui18n."};
+Bornes exemptes[std::size(kExemptes)];
+
+int noteBibliotheque(dl_phdr_info* objet, std::size_t, void*) {
+    for (std::size_t i = 0; i < std::size(kExemptes); ++i)
+        if (std::strstr(objet->dlpi_name, kExemptes[i]) != nullptr)
+            for (int j = 0; j < objet->dlpi_phnum; ++j)
+                if (const auto& partie = objet->dlpi_phdr[j]; partie.p_type == PT_LOAD && (partie.p_flags & PF_X) != 0)
+                    exemptes[i] = {objet->dlpi_addr + partie.p_vaddr,
+                                   objet->dlpi_addr + partie.p_vaddr + partie.p_memsz};
+    return 0;
 }
-ElfW(Addr) glib[2] = {};
 
 bool memoireManque(const void* appelant) {
     if (!armee || faute != Faute::Memoire) return false;
     const auto place = reinterpret_cast<ElfW(Addr)>(appelant);
-    if (place >= glib[0] && place < glib[1]) return false;
+    for (const Bornes& bornes : exemptes)
+        if (place >= bornes.debut && place < bornes.fin) return false;
     if (++compte != quantieme) return false;
     errno = ENOMEM;
     return true;
@@ -113,7 +118,7 @@ void* __libc_realloc(void*, std::size_t);
 
 void cale_dossier(const char* chemin) {
     std::snprintf(dossier, sizeof dossier, "%s", chemin);
-    dl_iterate_phdr(noteGLib, glib);
+    dl_iterate_phdr(noteBibliotheque, nullptr);
 }
 void cale_arme(Faute voulue, long rang) {
     faute = voulue, quantieme = rang, compte = 0, armee = true;

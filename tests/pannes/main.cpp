@@ -222,6 +222,7 @@ class Epreuve {
     std::string vis(Faute faute, long point, const Circonstance& circonstance) {
         Seance s(m_dossier);
         const std::string dits = execute(s, faute, point, circonstance.nom).dits;
+        if (std::getenv("PANNES_DITS")) std::fputs(dits.c_str(), stderr);
         Etat fait = Etat::de(m_dossier);
         std::string texte = fait.dommage;
         if (circonstance.sansEffet && !fait.memesFilms(m_apres)) texte += "the work was not done: " + dits;

@@ -85,8 +85,13 @@ void Connexion::commence() {
     if (enTransaction()) annule();  // one that could not be rolled back when it was given up
     (void)prepare(kAnnulation);     // at hand where memory lacks
     prepare("BEGIN IMMEDIATE").execute();
+    try {
+        suitLeFichier();
+    } catch (...) {
+        annule();
+        throw;
+    }
     m_commencee = true;
-    suitLeFichier();
 }
 
 void Connexion::confirme() {
