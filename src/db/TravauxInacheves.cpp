@@ -17,6 +17,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::string_view kJournal = "-journal";
+
 // Whoever converts a base holds its lock. One that is compacted does not open anywhere else, and the file of one that is
 // made stands there for no time.
 bool estEnUsage(const std::string& travail) {
@@ -24,12 +26,17 @@ bool estEnUsage(const std::string& travail) {
     return !fichiers::Verrou(travail.substr(0, travail.size() - kConversion.size())).estPris();
 }
 
-bool estUnReste(const std::string& dossier, const std::string& nom) {
-    const bool deTravail = nom == kCompactageIci || nom.ends_with(kCreation) || nom.ends_with(kConversion) ||
-                           nom.ends_with(".mdb" + std::string(kCompactage));
+bool estDeTravail(std::string_view nom) {
+    return nom == kCompactageIci || nom.ends_with(kCreation) || nom.ends_with(kConversion) ||
+           nom.ends_with(".mdb" + std::string(kCompactage));
+}
+
+// The file may have gone before its journal.
+bool estUnReste(const std::string& travail) {
     std::error_code ignoree;
-    return deTravail && fs::is_regular_file(fs::symlink_status(dossier + nom, ignoree)) && estInacheve(dossier + nom) &&
-           !estEnUsage(dossier + nom);
+    const fs::file_status etat = fs::symlink_status(travail, ignoree);
+    if (fs::exists(etat) && (!fs::is_regular_file(etat) || !estInacheve(travail))) return false;
+    return !estEnUsage(travail);
 }
 
 }  // namespace
@@ -51,10 +58,12 @@ bool estInacheve(const std::string& travail) {
 
 void effaceTravauxInacheves(const std::string& dossier) {
     const std::string lieu = util::avecSeparateur(dossier);
-    for (const std::string& nom : fichiers::listeNoms(lieu))
-        if (estUnReste(lieu, nom))
-            for (const char* suite : {"-journal", ""})
-                fichiers::supprime(lieu + nom + suite);
+    for (std::string nom : fichiers::listeNoms(lieu)) {
+        if (nom.ends_with(kJournal)) nom.erase(nom.size() - kJournal.size());
+        if (!estDeTravail(nom) || !estUnReste(lieu + nom)) continue;
+        fichiers::supprime(lieu + nom + std::string(kJournal));
+        fichiers::supprime(lieu + nom);
+    }
 }
 
 }  // namespace db

@@ -134,7 +134,11 @@ std::string utilisable(Seance& s) {
     if (noteDe(kTemoin, base) < 0) return "";
     s.boites.saisie = "7";
     s.zone(1);
-    s.commande(app::TreeView1_NodeClick, s.noeud(kTemoin));
+    try {
+        s.commande(app::TreeView1_NodeClick, s.noeud(kTemoin));
+    } catch (const std::runtime_error&) {
+        return "the list cannot be shown: " + s.boites.dits;
+    }
     s.commande(edit::cmdModifieNote_Click);
     return noteDe(kTemoin, base) == 7 ? "" : "a further command does not work: " + s.boites.dits;
 }
@@ -253,10 +257,9 @@ class Epreuve {
         }
         m_scenario.commande(s);
         const Etat fait = Etat::de(m_dossier);
-        return fait.memesFilms(m_apres)
-                   ? ""
-                   : "done again, the command does not end what it began: " + s.boites.dits +
-                         fait.ecart(m_apres, m_apres, false);
+        return fait.memesFilms(m_apres) ? ""
+                                        : "done again, the command does not end what it began: " + s.boites.dits +
+                                              fait.ecart(m_apres, m_apres, false);
     }
 
     const Scenario& m_scenario;

@@ -61,7 +61,7 @@ void lieTout(Requete& requete, const Assignees& assignees) {
 void indexe(Connexion& connexion, Table& table, long long ligne) {
     try {
         if (const auto hachage = hachageDeLigne(connexion, table, ligne)) table.suivi.index.ajoute(*hachage, ligne);
-    } catch (const ErreurDao&) {
+    } catch (...) {
         table.suivi.index.oublie();
     }
 }
@@ -102,6 +102,7 @@ long long ajouteLigne(Connexion& connexion, Table& table, const Assignees& assig
 void modifieLigne(Connexion& connexion, Table& table, long long ligne, const Assignees& assignees) {
     const bool aSuivre = table.suivi.index.estConstruit() && toucheLaCle(table, assignees);
     const auto ancien = aSuivre ? hachageDeLigne(connexion, table, ligne) : std::nullopt;
+    std::uint64_t& ecrite = table.suivi.ecrites[ligne];  // before the change: memory may lack
     {
         Requete modification =
             connexion.prepare("UPDATE " + table.nomSql + " SET " + listeSql(table, assignees, "=").substr(1) +
@@ -111,7 +112,7 @@ void modifieLigne(Connexion& connexion, Table& table, long long ligne, const Ass
         modification.execute();
     }
     if (sqlite3_changes(connexion.brute()) == 0) jetteSupprime();
-    table.suivi.ecrites[ligne] = connexion.nouvelleVersion();
+    ecrite = connexion.nouvelleVersion();
     if (ancien) table.suivi.index.retire(*ancien, ligne);
     if (aSuivre) indexe(connexion, table, ligne);
 }
@@ -119,12 +120,20 @@ void modifieLigne(Connexion& connexion, Table& table, long long ligne, const Ass
 void supprimeLigne(Connexion& connexion, Table& table, long long ligne) {
     Suivi& suivi = table.suivi;
     const auto ancien = suivi.index.estConstruit() ? hachageDeLigne(connexion, table, ligne) : std::nullopt;
-    connexion.prepare("DELETE" + clauseDeLigne(table)).lie(1, ligne).execute();
-    if (sqlite3_changes(connexion.brute()) == 0) jetteSupprime();
+    // Noted before the change, since memory may lack: what is noted and did not come to pass is taken back.
+    const bool enCours = connexion.enTransaction();
+    if (enCours) suivi.supprimeesEnCours.push_back(ligne);
+    const bool nouvelle = suivi.supprimees.insert(ligne).second;
+    try {
+        connexion.prepare("DELETE" + clauseDeLigne(table)).lie(1, ligne).execute();
+        if (sqlite3_changes(connexion.brute()) == 0) jetteSupprime();
+    } catch (...) {
+        if (nouvelle) suivi.supprimees.erase(ligne);
+        if (enCours && !suivi.supprimeesEnCours.empty()) suivi.supprimeesEnCours.pop_back();
+        throw;
+    }
     if (ancien) suivi.index.retire(*ancien, ligne);
     suivi.plusHaute = std::max(suivi.plusHaute, ligne);
-    suivi.supprimees.insert(ligne);
-    if (connexion.enTransaction()) suivi.supprimeesEnCours.push_back(ligne);
     if (suivi.compte) --*suivi.compte;
     connexion.nouvelleVersion();
 }
