@@ -89,6 +89,8 @@ std::string texteTouches() {
            "\n"
            "Dans l'afficheur d'images :\n"
            "Page précédente, page suivante : film précédent, film suivant\n"
+           "Gauche, droite : de même, quand l'image tient entière\n"
+           "Ctrl+molette, Ctrl++, Ctrl+- : agrandir, réduire (Ctrl+0 : taille réelle)\n"
            "F1, Échap : fermer";
 }
 

@@ -16,13 +16,15 @@
 #include <QSignalBlocker>
 #include <QTimer>
 #include <algorithm>
+#include <array>
+#include <optional>
 #include <utility>
 
 namespace ui {
 
 namespace {
 
-constexpr int kCoteBouton = 26, kCoteIcone = 18;
+constexpr int kHautBouton = 28, kCoteIcone = 18;
 constexpr int kPasMolette = 90;       // logical pixels for one notch
 constexpr qsizetype kTitreMax = 500;  // characters; the system takes no title of megabytes
 
@@ -30,14 +32,36 @@ constexpr int pixels(int twips) {
     return twips / view::kTwipsParPixel;
 }
 
-QPushButton* boutonIcone(const char* nom, Pictogramme pictogramme, const QString& texte) {
-    auto* resultat = bouton(nom, {}, texte);
-    resultat->setAccessibleName(texte);
-    resultat->setIcon(icone(pictogramme));
-    resultat->setIconSize({kCoteIcone, kCoteIcone});
-    resultat->setFlat(true);
-    resultat->setFixedSize(kCoteBouton, kCoteBouton);
-    return resultat;
+struct ModeleBouton {
+    const char* nom;
+    Pictogramme pictogramme;
+    QString texte, infobulle;
+    [[nodiscard]] int largeur(const QFontMetrics& mesure) const {
+        return mesure.size(Qt::TextShowMnemonic, texte).width() + kCoteIcone + 3 * kPetit;
+    }
+};
+
+std::array<ModeleBouton, 2> modeles() {
+    return {{{"cmdSauverImage", Pictogramme::Enregistre, FenetreAffiche::tr("&Enregistrer…"),
+              FenetreAffiche::tr("Enregistrer l'affiche ailleurs")},
+             {"cmdRemplacerImage", Pictogramme::Remplace, FenetreAffiche::tr("&Remplacer…"),
+              FenetreAffiche::tr("Remplacer l'affiche du film")}}};
+}
+
+// Ctrl with + or -, and 0 for the picture's own size.
+std::optional<int> cransDeZoom(const QKeyEvent& evenement) {
+    if (!(evenement.modifiers() & Qt::ControlModifier)) return std::nullopt;
+    switch (evenement.key()) {
+        case Qt::Key_Plus:
+        case Qt::Key_Equal:
+            return 1;
+        case Qt::Key_Minus:
+            return -1;
+        case Qt::Key_0:
+            return 0;
+        default:
+            return std::nullopt;
+    }
 }
 
 QWidget* bande(QWidget* parent) {
@@ -77,6 +101,10 @@ void FenetreAffiche::lit() {
     const QSize taille = screen()->size() * view::kTwipsParPixel;
     etat().largeurEcran = taille.width();
     etat().hauteurEcran = taille.height();
+    int gauche = kPetit;
+    for (const ModeleBouton& modele : modeles())
+        gauche += modele.largeur(fontMetrics()) + kSerre;
+    etat().HScroll1.Left = (gauche + kPetit) * view::kTwipsParPixel;
     if (m_barre && m_barre->value() != m_valeurMontree) etat().HScroll1.Value = m_valeurMontree = m_barre->value();
 }
 
@@ -110,16 +138,19 @@ void FenetreAffiche::compose() {
 }
 
 void FenetreAffiche::boutons() {
-    auto* sauver = boutonIcone("cmdSauverImage", Pictogramme::Enregistre, tr("Enregistrer l'affiche ailleurs…"));
-    auto* remplacer = boutonIcone("cmdRemplacerImage", Pictogramme::Remplace, tr("Remplacer l'affiche…"));
     int gauche = kPetit;
-    for (QPushButton* un : {sauver, remplacer}) {
+    for (const ModeleBouton& modele : modeles()) {
+        auto* un = bouton(modele.nom, modele.texte, modele.infobulle);
+        un->setIcon(icone(modele.pictogramme));
+        un->setIconSize({kCoteIcone, kCoteIcone});
+        un->setFlat(true);
         un->setParent(m_bandeau);
-        un->move(gauche, (pixels(etat().HScroll1.Height) - kCoteBouton) / 2);
-        gauche += kCoteBouton + kSerre;
+        un->setGeometry(gauche, (pixels(etat().HScroll1.Height) - kHautBouton) / 2, modele.largeur(fontMetrics()),
+                        kHautBouton);
+        gauche += un->width() + kSerre;
     }
-    m_atelier.auClic(sauver, app::cmdSauverImage_Click);
-    m_atelier.auClic(remplacer, view::cmdRemplacerImage_Click);
+    m_atelier.auClic(findChild<QPushButton*>("cmdSauverImage"), app::cmdSauverImage_Click);
+    m_atelier.auClic(findChild<QPushButton*>("cmdRemplacerImage"), view::cmdRemplacerImage_Click);
 }
 
 void FenetreAffiche::ecoute() {
@@ -172,13 +203,20 @@ void FenetreAffiche::place() {
     const int epaisseur = std::min(bande, m_barre->sizeHint().height());
     m_barre->setGeometry(pixels(barre.Left), (bande - epaisseur) / 2, std::max(1, pixels(barre.Width)), epaisseur);
     m_image->setGeometry(pixels(image.Left), pixels(image.Top), pixels(image.Width), pixels(image.Height));
-    m_image->setVisible(image.Visible && !image.vide);
+    montreImage(image.Visible && !image.vide);
     m_image->lower();
 
     const QSignalBlocker silence(m_barre);
     m_barre->setSingleStep(barre.SmallChange);
     m_barre->setPageStep(barre.LargeChange);
     m_barre->setValue(m_valeurMontree = barre.Value);
+}
+
+// Without a picture the keys are the window's, until there is one again.
+void FenetreAffiche::montreImage(bool visible) {
+    const bool auClavier = m_image->hasFocus() || hasFocus();
+    m_image->setVisible(visible);
+    if (auClavier) (visible ? static_cast<QWidget*>(m_image) : this)->setFocus(Qt::OtherFocusReason);
 }
 
 void FenetreAffiche::presente() {
@@ -189,7 +227,9 @@ void FenetreAffiche::presente() {
     show();
     raise();
     activateWindow();
-    if (!dejaVisible) m_barre->setFocus(Qt::OtherFocusReason);
+    if (dejaVisible) return;
+    const bool aDefiler = !etat().imageEntiere() || etat().Picture1.vide;
+    (aDefiler ? static_cast<QWidget*>(m_barre) : m_image)->setFocus(Qt::OtherFocusReason);
 }
 
 // The desktop may give another size than the one asked for, also while a command runs.
@@ -221,12 +261,26 @@ void FenetreAffiche::paintEvent(QPaintEvent*) {
 }
 
 void FenetreAffiche::keyPressEvent(QKeyEvent* evenement) {
+    if (const auto crans = cransDeZoom(*evenement)) return zoome(*crans, rect().center());
     const int code = codeWindows(*evenement);
     if (code == 0) return QWidget::keyPressEvent(evenement);
     m_atelier.execute(view::frmAffiche_KeyDown, code);
 }
 
+void FenetreAffiche::zoome(int crans, const QPoint& endroit) {
+    const QPoint twips = endroit * view::kTwipsParPixel;
+    m_atelier.execute(view::zoomeAffiche, crans, twips.x(), twips.y());
+}
+
+// A fine wheel comes to a notch by several of its events.
 void FenetreAffiche::wheelEvent(QWheelEvent* evenement) {
+    if (evenement->modifiers() & Qt::ControlModifier) {
+        m_roule += evenement->angleDelta().y();
+        const int crans =
+            std::exchange(m_roule, m_roule % QWheelEvent::DefaultDeltasPerStep) / QWheelEvent::DefaultDeltasPerStep;
+        if (crans != 0) zoome(crans, evenement->position().toPoint());
+        return;
+    }
     QPointF pas = evenement->pixelDelta();
     if (pas.isNull()) pas = QPointF(evenement->angleDelta()) / QWheelEvent::DefaultDeltasPerStep * kPasMolette;
     const QPoint twips = (pas * view::kTwipsParPixel).toPoint();

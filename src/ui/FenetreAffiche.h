@@ -38,6 +38,8 @@ class FenetreAffiche final : public QWidget {
     void place();
     void presente();
     void suisTaille();
+    void montreImage(bool visible);
+    void zoome(int crans, const QPoint& endroit);
 
     const Atelier m_atelier;
     ImageAffiche* m_image = nullptr;  // with the others, null until the first opening
@@ -49,6 +51,7 @@ class FenetreAffiche final : public QWidget {
     int m_numero = -1;        // of the picture shown
     int m_presentation = 0;   // the last one carried out
     int m_valeurMontree = 0;  // of the scroll bar
+    int m_roule = 0;          // of a notch of the wheel, in eighths of a degree
     bool m_placee = false;    // it has had its first place on the screen
 };
 

@@ -10,9 +10,9 @@ inline constexpr int kTwipsParPixel = 15;  // logical pixels
 struct BarreDefilement : ecran::Controle {
     int Value = 0;  // 0 to 100
     int SmallChange = 5, LargeChange = 20;
-    int Left = 72 * kTwipsParPixel;  // the two buttons stand before it
+    int Left = 250 * kTwipsParPixel;  // the two buttons stand before it; told by the window
     int Width = 0;
-    int Height = 28 * kTwipsParPixel;
+    int Height = 36 * kTwipsParPixel;
     friend bool operator==(const BarreDefilement&, const BarreDefilement&) = default;
 };
 
@@ -25,9 +25,15 @@ struct EtatAffiche {
     int ScaleWidth = 0, ScaleHeight = 0;     // inside the window
     int largeurEcran = 0, hauteurEcran = 0;  // told by the window; 0 while unknown
 
-    ecran::Image Picture1;  // at the picture's own size, moved by the scroll bar
+    ecran::Image Picture1;  // at the picture's own size times the zoom, moved by the scroll bar
+    int zoom = 100;         // per cent; each load comes back to 100
     BarreDefilement HScroll1;
-    ecran::Etiquette lblTaille;  // "600 × 900 pixels", or why there is no picture
+    ecran::Etiquette lblTaille;  // "600 × 900 pixels · 84 Ko · 125 %", or why there is no picture
+
+    // Nothing of the picture is outside the window, or there is none.
+    [[nodiscard]] bool imageEntiere() const {
+        return Picture1.vide || (Picture1.Width <= ScaleWidth && Picture1.Height <= ScaleHeight - 2 * HScroll1.Height);
+    }
 };
 
 }  // namespace view

@@ -8,7 +8,8 @@ namespace view {
 
 namespace {
 
-constexpr int kEchap = 27, kPagePrecedente = 33, kPageSuivante = 34, kFlecheBas = 40, kF1 = 112;
+constexpr int kEchap = 27, kPagePrecedente = 33, kPageSuivante = 34, kFlecheGauche = 37, kFlecheDroite = 39,
+              kFlecheBas = 40, kF1 = 112;
 
 // The chosen node moves only when there is a title to show: at either end it stays the one of the sheet.
 void montreTitre(const Contexte& c, int indice) {
@@ -18,22 +19,26 @@ void montreTitre(const Contexte& c, int indice) {
     if (c.film.estUnFilm()) c.visionneuse.montre();  // it may have been deleted meanwhile
 }
 
-void titreSuivant(const Contexte& c) {
-    c.visionneuse.cache();
+// The title below or above the chosen one, headings passed over; 0 at either end.
+int titreVoisin(const Contexte& c, int pas) {
     const browse::Arbre& arbre = c.liste.TreeView1.Nodes;
-    int indice = std::max(c.liste.noeudChoisi, 0) + 1;  // none chosen: from the top
-    while (indice <= arbre.Count() && arbre.estGroupe(indice))
-        ++indice;
-    if (indice <= arbre.Count()) montreTitre(c, indice);
+    int indice = std::clamp(c.liste.noeudChoisi, 0, arbre.Count() + 1) + pas;  // none chosen: from the top
+    while (indice >= 1 && indice <= arbre.Count() && arbre.estGroupe(indice))
+        indice += pas;
+    return indice >= 1 && indice <= arbre.Count() ? indice : 0;
 }
 
-void titrePrecedent(const Contexte& c) {
+void changeDeTitre(const Contexte& c, int pas) {
     c.visionneuse.cache();
-    const browse::Arbre& arbre = c.liste.TreeView1.Nodes;
-    int indice = std::min(c.liste.noeudChoisi, arbre.Count() + 1) - 1;
-    while (indice >= 1 && arbre.estGroupe(indice))
-        --indice;
-    if (indice >= 1) montreTitre(c, indice);
+    if (const int indice = titreVoisin(c, pas)) montreTitre(c, indice);
+}
+
+// Where there is nothing to scroll, the arrows across go from film to film; at either end the last one stays.
+bool passeParFleche(const Contexte& c, int code) {
+    if ((code != kFlecheGauche && code != kFlecheDroite) || !c.visionneuse.montreTout()) return false;
+    const int pas = code == kFlecheDroite ? 1 : -1;
+    if (titreVoisin(c, pas) != 0) changeDeTitre(c, pas);
+    return true;
 }
 
 }  // namespace
@@ -48,13 +53,14 @@ void Picture1_Click(const Contexte& c) {
 
 void Picture1_KeyDown(const Contexte& c, int code) {
     if (code == kF1) c.visionneuse.cache();
+    if (passeParFleche(c, code)) return;
     if (code >= kPagePrecedente && code <= kFlecheBas) c.demandes.focus = "HScroll1";
     HScroll1_KeyDown(c, code);
 }
 
 void HScroll1_KeyDown(const Contexte& c, int code) {
-    if (code == kPageSuivante) titreSuivant(c);
-    if (code == kPagePrecedente) titrePrecedent(c);
+    if (code == kPageSuivante) changeDeTitre(c, 1);
+    if (code == kPagePrecedente) changeDeTitre(c, -1);
 }
 
 void HScroll1_Change(const Contexte& c) {
@@ -62,11 +68,16 @@ void HScroll1_Change(const Contexte& c) {
 }
 
 void frmAffiche_KeyDown(const Contexte& c, int code) {
+    if (c.visionneuse.estVide()) passeParFleche(c, code);
     if (code == kF1 || code == kEchap) c.visionneuse.cache();
 }
 
 void frmAffiche_Resize(const Contexte& c, int largeur, int hauteur) {
     c.visionneuse.Form_Resize(largeur, hauteur);
+}
+
+void zoomeAffiche(const Contexte& c, int crans, int x, int y) {
+    c.visionneuse.zoome(crans, x, y);
 }
 
 void deplaceAffiche(const Contexte& c, int dx, int dy) {

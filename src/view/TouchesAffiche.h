@@ -14,6 +14,8 @@ void HScroll1_KeyDown(const Contexte& c, int code);
 void HScroll1_Change(const Contexte& c);
 void frmAffiche_KeyDown(const Contexte& c, int code);
 void frmAffiche_Resize(const Contexte& c, int largeur, int hauteur);
+// By Ctrl and the wheel, or Ctrl with +, - and 0; the point of the window that stays, in twips.
+void zoomeAffiche(const Contexte& c, int crans, int x, int y);
 void deplaceAffiche(const Contexte& c, int dx, int dy);  // by the wheel or by dragging
 
 }  // namespace view

@@ -43,9 +43,14 @@ TEST_F(Affiche, OpensAtThePicturesSizeAndIsOnlyHidden) {
     EXPECT_EQ(fenetre().windowTitle(), "Alien");
     EXPECT_EQ(image().size(), QSize(200, 300));
     EXPECT_EQ(image().toolTip(), "Curseurs pour visionner l'image, Clic pour fermer, Page suiv/préc pour suivant");
-    EXPECT_EQ(fenetre().height(), 300 + 2 * 28);
-    EXPECT_EQ(fenetre().width(), 200 + 72 + 33);
-    EXPECT_EQ(essai.texte("lblTaille"), "200 × 300 pixels");
+    EXPECT_EQ(fenetre().height(), 300 + 2 * 36);
+    EXPECT_EQ(fenetre().width(), 200 + barre().x() + 33);
+    EXPECT_TRUE(essai.texte("lblTaille").starts_with("200 × 300 pixels · ")) << essai.texte("lblTaille");
+    for (const char* nom : {"cmdSauverImage", "cmdRemplacerImage"}) {
+        EXPECT_FALSE(essai.trouve<QAbstractButton>(nom).text().isEmpty());
+        EXPECT_LT(essai.trouve(nom).geometry().right(), barre().x());
+        EXPECT_GE(essai.trouve(nom).width(), essai.trouve(nom).sizeHint().width()) << "its words are whole";
+    }
     EXPECT_GT(milieu().red(), 200);
 
     const auto rouvre = [&] {
@@ -100,13 +105,44 @@ TEST_F(Affiche, ScrollsByTheBarTheWheelAndTheHand) {
     EXPECT_TRUE(fenetre().isVisible()) << "a drag is no click";
     EXPECT_EQ(image().pos(), QPoint(-40, haut - 60));
     fenetre().resize(100, 80);
-    EXPECT_TRUE(essais::attends([&] { return barre().width() == 22; })) << barre().width();
+    EXPECT_TRUE(essais::attends([&] { return barre().width() == 6; })) << barre().width();
+}
+
+TEST_F(Affiche, IsEnlargedByCtrlAndTheWheelOrTheKeys) {
+    ouvre({{"Alien", "Ridley Scott", "Angoisse", essais::octetsDImage(Qt::red, {200, 300})}});
+    const QSize avant = fenetre().size();
+    const auto roule = [&](int angle) {
+        QWheelEvent cran(QPointF(9, 9), fenetre().mapToGlobal(QPointF(9, 9)), {}, {0, angle}, {}, Qt::ControlModifier,
+                         Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&fenetre(), &cran);
+    };
+    roule(120);
+    EXPECT_EQ(image().size(), QSize(250, 375));
+    EXPECT_TRUE(essai.texte("lblTaille").ends_with(" · 125 %"));
+    roule(60);
+    EXPECT_EQ(image().width(), 250) << "half a notch";
+    roule(60);
+    EXPECT_EQ(image().width(), 300);
+    QTest::keyClick(&image(), Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(image().width(), 250);
+    QTest::keyClick(&barre(), Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(image().size(), QSize(200, 300));
+    EXPECT_EQ(fenetre().size(), avant);
 }
 
 TEST_F(Affiche, GoesFromFilmToFilmByKeysAndFollowsTheSheet) {
     ouvre({{"Alien", "Ridley Scott", "Angoisse", essais::octetsDImage(Qt::red, {200, 300})},
            {"Brazil", "Terry Gilliam", "Drame", essais::octetsDImage(Qt::blue, {300, 200})},
            {"Casque d'or", "Jacques Becker", "Drame", ""}});
+    ASSERT_TRUE(image().hasFocus()) << "it is seen whole";
+    touche(Qt::Key_Right);
+    touche(Qt::Key_Right);
+    EXPECT_EQ(fenetre().windowTitle(), "Casque D'Or");
+    touche(Qt::Key_Left);
+    EXPECT_EQ(fenetre().windowTitle(), "Brazil");
+    EXPECT_TRUE(image().hasFocus()) << "again, after a film without a picture";
+    touche(Qt::Key_Left);
+    barre().setFocus();
     barre().setValue(40);
     touche(Qt::Key_PageDown);
     EXPECT_TRUE(fenetre().isVisible());

@@ -40,6 +40,71 @@ TEST_F(Visionneuse, IsDraggedAsFarAsThereIsSomethingToUncover) {
     EXPECT_EQ(affiche.Picture1.Top, barre) << "all of it is seen";
 }
 
+TEST_F(Visionneuse, ZoomsAroundAPointAndComesBackWithEachPicture) {
+    affiche.largeurEcran = affiche.hauteurEcran = 500 * kT;
+    chargeTaille(400, 300);
+    const int barre = affiche.HScroll1.Height;
+    EXPECT_TRUE(affiche.imageEntiere());
+    zoomeAffiche(c, 3, 250 * kT, barre + 150 * kT);
+    EXPECT_EQ(affiche.zoom, 200);
+    EXPECT_EQ(affiche.Picture1.Width, 800 * kT);
+    EXPECT_EQ(affiche.lblTaille.Caption, "400 × 300 pixels · 200 %");
+    EXPECT_EQ(affiche.Picture1.Left, -150 * kT) << "what was under the mouse still is";
+    EXPECT_EQ(affiche.Picture1.Top, barre - 150 * kT);
+    EXPECT_EQ(affiche.HScroll1.Value, 25);
+    EXPECT_FALSE(affiche.imageEntiere());
+    zoomeAffiche(c, 100, 0, 0);
+    EXPECT_EQ(affiche.zoom, 400);
+    EXPECT_EQ(affiche.Picture1.Left, -300 * kT);
+    zoomeAffiche(c, -100, 0, 0);
+    EXPECT_EQ(affiche.zoom, 25);
+    EXPECT_EQ(affiche.Picture1.Left, 200 * kT) << "centred";
+    EXPECT_EQ(affiche.Picture1.Top, barre);
+    EXPECT_EQ(affiche.HScroll1.Value, 0);
+    zoomeAffiche(c, 0, 0, 0);
+    EXPECT_EQ(affiche.zoom, 100);
+    zoomeAffiche(c, 1, 0, 0);
+    chargeTaille(400, 300);
+    EXPECT_EQ(affiche.zoom, 100);
+    visionneuse.afficheChargee(std::nullopt);
+    zoomeAffiche(c, 1, 0, 0);
+    EXPECT_EQ(affiche.zoom, 100) << "no picture";
+}
+
+TEST(TailleAffiche, IsToldInPixelsAndBytes) {
+    const ecran::TailleImage taille{400, 600};
+    EXPECT_EQ(view::texteTaille(taille, 0, 100), "400 × 600 pixels");
+    EXPECT_EQ(view::texteTaille(taille, 1, 100), "400 × 600 pixels · 1 octet");
+    EXPECT_EQ(view::texteTaille(taille, 1023, 100), "400 × 600 pixels · 1023 octets");
+    EXPECT_EQ(view::texteTaille(taille, 86016, 125), "400 × 600 pixels · 84 Ko · 125 %");
+    EXPECT_TRUE(view::texteTaille(taille, 1572864, 100).ends_with("5 Mo")) << "1,5 Mo, as the locale writes it";
+}
+
+// Where the whole picture is seen there is nothing else that they could do.
+TEST_F(Visionneuse, ArrowsAcrossGoFromFilmToFilmAndStayAtTheEnds) {
+    constexpr int kGauche = 37, kDroite = 39;
+    for (const char* titre : {"Alien", "Brazil"})
+        ajouteFilm(titre, {{"Realisateur", "R"}});
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    montreTitre("Alien");
+    affiche.largeurEcran = affiche.hauteurEcran = 500 * kT;
+    chargeTaille(100, 100);
+    demandes.focus.clear();
+    Picture1_KeyDown(c, kGauche);
+    EXPECT_EQ(film.titre, "Alien");
+    EXPECT_TRUE(affiche.Visible) << "it is the first one";
+    Picture1_KeyDown(c, kDroite);
+    EXPECT_EQ(film.titre, "Brazil");
+    EXPECT_TRUE(affiche.Visible);
+    frmAffiche_KeyDown(c, kGauche);
+    EXPECT_EQ(film.titre, "Alien") << "without a picture the keys are the window's";
+    EXPECT_EQ(demandes.focus, "");
+    chargeTaille(100, 1000);
+    Picture1_KeyDown(c, kDroite);
+    EXPECT_EQ(film.titre, "Alien");
+    EXPECT_EQ(demandes.focus, "HScroll1") << "there is something to scroll";
+}
+
 // Headings stand between the titles, and one at the end has lost its last film.
 TEST_F(Visionneuse, StepsFromTitleToTitleOverTheHeadings) {
     for (const auto& [titre, genre] :
