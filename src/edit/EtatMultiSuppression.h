@@ -10,10 +10,12 @@ namespace edit {
 struct EtatMultiSuppression {
     std::array<ecran::BoutonOption, 2> Option4;  // off, on
     ecran::Bouton cmdSupprTitresSelect;
+    ecran::Etiquette lblCoches;  // "3 films cochés", while the boxes are shown
 
     EtatMultiSuppression() {
         ecran::choisit(Option4, 0);
         cmdSupprTitresSelect.Visible = false;
+        lblCoches.Visible = false;
     }
 };
 

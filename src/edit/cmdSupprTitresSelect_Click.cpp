@@ -83,6 +83,14 @@ void Option4_Click(const Contexte& c) {
     c.multiSuppression.cmdSupprTitresSelect.Visible = active;
 }
 
+void montreCoches(const Contexte& c) {
+    ecran::Etiquette& etiquette = c.multiSuppression.lblCoches;
+    etiquette.Visible = c.liste.TreeView1.Checkboxes;
+    if (!etiquette.Visible) return;
+    etiquette.Caption =
+        util::phraseCompte(std::ssize(filmsCoches(c.liste.TreeView1)), "# film coché", "# films cochés");
+}
+
 void cmdSupprTitresSelect_Click(const Contexte& c) {
     const std::vector<int> noeuds = filmsCoches(c.liste.TreeView1);
     if (noeuds.empty()) {

@@ -246,6 +246,7 @@ class UneSession : public Collectionneur {
         session().execute(app::TreeView1_NodeCheck, noeud(etats(), "Le Cercle Rouge"), true);
         session().execute(app::TreeView1_NodeCheck, noeud(etats(), "Sans Rien"), true);
         EXPECT_EQ(filmMontre(etats()), "");  // a tick shows no sheet
+        EXPECT_EQ(etats().multiSuppression.lblCoches.Caption, "2 films cochés");
         demande("Voulez-vous vraiment supprimer ces 2 titres ?", dialogues::kNon);
         session().execute(edit::cmdSupprTitresSelect_Click);
         EXPECT_EQ(etats().liste.TreeView1.coches.size(), 2U);
@@ -258,6 +259,7 @@ class UneSession : public Collectionneur {
                                                         "-Films : " + kRien, "-Personnel : " + kRien));
         EXPECT_EQ(comptes(), "4 titres, 4 personnels");
         EXPECT_TRUE(etats().liste.TreeView1.Checkboxes && etats().liste.TreeView1.coches.empty());
+        EXPECT_EQ(etats().multiSuppression.lblCoches.Caption, "0 film coché");
         ecran::choisit(etats().multiSuppression.Option4, 0);
         session().execute(edit::Option4_Click);
         EXPECT_FALSE(etats().liste.TreeView1.Checkboxes);
