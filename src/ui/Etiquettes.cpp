@@ -2,6 +2,7 @@
 
 #include "ui/Couleurs.h"
 #include "ui/Infobulles.h"
+#include "ui/Typographie.h"
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -49,7 +50,7 @@ Etiquette* Etiquette::avecPolice(double facteur, QFont::Weight graisse) {
 // Of a text of megabytes, no more is measured than so many lines could ever show.
 QString Etiquette::debut(const QString& texte) const {
     constexpr qsizetype kParLigne = 2000;  // characters
-    return texte.left(kParLigne * (m_lignesMax + 1));
+    return sansSigneIsole(texte.left(kParLigne * (m_lignesMax + 1)));
 }
 
 Etiquette::Lignes Etiquette::lignes(int largeur) const {

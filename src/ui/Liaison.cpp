@@ -1,6 +1,7 @@
 #include "ui/Liaison.h"
 
 #include "ui/TexteLong.h"
+#include "ui/Typographie.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -93,7 +94,7 @@ void montre(const ecran::ZoneTexte& etat, const ecran::ZoneTexte& ancien, QTextE
     if (etat.Text == ancien.Text) return;
     widget.clear();
     widget.setWordWrapMode(coupurePour(etat.Text));
-    widget.setPlainText(qt(etat.Text));
+    widget.setPlainText(sansSigneIsole(qt(etat.Text)));  // which gives the blanks back as they were
     QTextCursor curseur(widget.document());
     curseur.select(QTextCursor::Document);
     QTextBlockFormat aere;
