@@ -51,10 +51,10 @@ void remplitGeneralites(EtatFiche& fiche, const db::CleFilm& cle, const dao::Rec
 void remplitNote(const Contexte& c) {
     const double note = c.base.liste.valeur("Note").nombre();
     if (note > kNoteMax && note <= kAncienneNoteMax) {
-        c.fiche.lblNote.Caption = texteDeLaNote(depuisAncienneNote(note));
+        montreNote(c.fiche, depuisAncienneNote(note));
         ModifieNoteFilm(c, depuisAncienneNote(note));
     } else {
-        c.fiche.lblNote.Caption = texteDeLaNote(note);
+        montreNote(c.fiche, note);
     }
 }
 

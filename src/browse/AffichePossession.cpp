@@ -1,5 +1,6 @@
 #include "browse/AffichePossession.h"
 
+#include "browse/Puces.h"
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
 #include "platform/fichiers/Fichiers.h"
@@ -58,6 +59,7 @@ void AffichePossession(const Contexte& c) {
     film.possession = possession.Eof() ? ChampsPossession() : lis(possession);
     ecritChampsPossession(c.fiche, film.possession);
     montrePossession(c.fiche);
+    montrePuces(c.fiche, film.possession);
     retientLesFichiers(film);
     c.fiche.cmdFichiersFilm.Visible = film.fichiersPresents;
     nommeLesFichiers(c.fiche, film);

@@ -37,6 +37,8 @@ void ChargeAffiche(const Contexte& c) {
         statut.Caption = octets ? kImageIllisible : c.film.afficheAttendue ? kImageNonMontree : kPasDImage;
         c.fiche.Image1.Visible = false;
     }
+    c.fiche.cmdAjouterAffiche.Visible = !taille && statut.Caption != kImageNonMontree;
+    c.fiche.cmdAjouterAffiche.Caption = octets ? "Remplacer l'affiche…" : "Ajouter une affiche…";
     if (c.suiviAffiche) c.suiviAffiche->afficheChargee(taille);
 }
 

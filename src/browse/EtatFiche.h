@@ -12,10 +12,13 @@ struct EtatFiche {
     std::array<ecran::Etiquette, 7> Label1;
     ecran::Etiquette lblRealisateur;
     ecran::Etiquette lblInfosActeurs;
-    ecran::ZoneTexte Text1;    // summary
-    ecran::Etiquette lblNote;  // "Note : 8/10"
-    ecran::Image Image1;       // the poster
-    ecran::Etiquette Label12;  // poster status: loading, or "Pas d'image"
+    ecran::ZoneTexte Text1;                // summary
+    ecran::Etiquette lblNote;              // "Note : 8/10"
+    double note = 0;                       // the same for the stars; 0 for none
+    ecran::Image Image1;                   // the poster
+    ecran::Etiquette Label12;              // poster status: loading, or "Pas d'image"
+    ecran::Bouton cmdAjouterAffiche;       // does what a click on the status does, where it does something
+    std::array<ecran::Bouton, 3> cmdPuce;  // the holdings at a glance: owned or not, lent, reserved
     std::array<ecran::Cadre, 2> frameGeneralites;
     std::array<ecran::Cadre, 2> frameAutresInfos;
     ecran::Bouton cmdGeneralites, cmdAutresInfos;  // hidden where the layout shows both pages

@@ -16,7 +16,12 @@ void ModifieNoteFilm(const Contexte& c, int note) {
     films.Edit();
     films.assigne("Note", note == 0 ? dao::Valeur() : dao::Valeur(note));
     films.Update();
-    c.fiche.lblNote.Caption = texteDeLaNote(note);
+    montreNote(c.fiche, note);
+}
+
+void montreNote(EtatFiche& fiche, double note) {
+    fiche.lblNote.Caption = texteDeLaNote(note);
+    fiche.note = note < 1 || note > 10 ? 0 : note;
 }
 
 std::string texteDeLaNote(double note) {

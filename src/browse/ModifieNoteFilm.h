@@ -10,6 +10,9 @@ namespace browse {
 // dao::ErreurDao when the row cannot be written.
 void ModifieNoteFilm(const Contexte& c, int note);
 
+// The rating as label and stars show it.
+void montreNote(EtatFiche& fiche, double note);
+
 // What the rating label reads: "Note : 8/10" from 1 to 10, else "Pas de notation".
 [[nodiscard]] std::string texteDeLaNote(double note);
 

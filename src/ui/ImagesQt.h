@@ -26,6 +26,7 @@ class ImagesQt final : public ecran::Images {
     void vide() override;
 
     [[nodiscard]] bool estVide() const { return m_octets.isEmpty(); }
+    [[nodiscard]] QSize taille() const { return m_taille; }  // of the poster at its own size, upright
     // The poster, filling `pixels` as far as its shape allows; never larger than it is.
     [[nodiscard]] const QPixmap& affiche(const QSize& pixels);
     // The poster at its own size, upright; decoded when first asked for. One of many megapixels comes smaller, to be

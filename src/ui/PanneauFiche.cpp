@@ -2,16 +2,19 @@
 
 #include "app/Commandes.h"
 #include "browse/AfficheVolet.h"
+#include "browse/Puces.h"
 #include "browse/lblRealisateur_Click.h"
 #include "edit/cmdModifieNote_Click.h"
+#include "ui/BoutonPuce.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
-#include "ui/Icones.h"
+#include "ui/EtoilesNote.h"
 #include "ui/PanneauPossession.h"
 #include "ui/VueAffiche.h"
 #include "view/Command1_Click.h"
 #include "view/TouchesAffiche.h"
 
+#include <QPushButton>
 #include <QResizeEvent>
 #include <QScrollArea>
 #include <QTextEdit>
@@ -55,35 +58,40 @@ QScrollArea* defilante(QWidget* page) {
 
 PanneauFiche::PanneauFiche(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameFiche");
+    auto* boite = new QHBoxLayout(this);
+    boite->setContentsMargins(kPetit, kMoyen, kGrand, kGrand);
+    boite->setSpacing(kLarge);
+    boite->addLayout(colonneAffiche());
     auto* film = page({faits(), resume()});
-    auto* contenu = page({new PanneauPossession(m_atelier)});
     static_cast<QVBoxLayout*>(film->layout())->setStretch(1, 1);
     auto* generalites = defilante(film);
-    static_cast<QVBoxLayout*>(contenu->layout())->addStretch(1);
-    auto* autres = defilante(contenu);
-
-    auto* pages = new QHBoxLayout;
-    pages->setSpacing(kLarge);
-    pages->addLayout(colonneAffiche());
-    pages->addWidget(generalites, 5);
-    pages->addWidget(autres, 4);
-
-    auto* boite = new QVBoxLayout(this);
-    boite->setContentsMargins(kPetit, kMoyen, kGrand, kGrand);
-    boite->setSpacing(kMoyen);
-    boite->addLayout(entete());
-    boite->addLayout(pages, 1);
-    boite->addWidget(new PanneauActions(m_atelier));
+    auto* autres = new PanneauPossession(m_atelier);
+    boite->addWidget(colonneFilm(generalites, autres), 1);
     m_atelier.liaison.lie(m_atelier.etats().panneaux.frameFiche, this);
 
     // A page takes its room as long as one of its frames is shown.
-    const auto suis = [this, generalites, autres, fiche = &m_atelier.etats().fiche] {
+    const auto suis = [this, generalites, fiche = &m_atelier.etats().fiche] {
         generalites->setVisible(fiche->frameGeneralites[0].Visible || fiche->frameGeneralites[1].Visible);
-        autres->setVisible(fiche->frameAutresInfos[0].Visible || fiche->frameAutresInfos[1].Visible);
+        m_affiche->metNoms(QString::fromStdString(fiche->Label1[0].Caption),
+                           QString::fromStdString(fiche->lblRealisateur.Caption));
         dimensionneAffiche();
     };
     suis();
     m_atelier.liaison.apresEcriture(suis);
+}
+
+QWidget* PanneauFiche::colonneFilm(QWidget* generalites, QWidget* autres) {
+    auto* pages = new QHBoxLayout;
+    pages->setSpacing(kLarge);
+    pages->addWidget(generalites, 5);
+    pages->addWidget(autres, 4);
+    auto* boite = colonne(kMoyen);
+    boite->addLayout(entete());
+    boite->addLayout(pages, 1);
+    boite->addWidget(new PanneauActions(m_atelier));
+    auto* resultat = new QWidget;
+    resultat->setLayout(boite);
+    return resultat;
 }
 
 QLayout* PanneauFiche::entete() {
@@ -102,15 +110,35 @@ QLayout* PanneauFiche::entete() {
 
     auto* boite = colonne(2);
     boite->addWidget(titre);
-    auto* sousTitre = rangee({realisateur});
-    sousTitre->addStretch();
-    sousTitre->addLayout(onglets());
-    boite->addLayout(sousTitre);
+    boite->addWidget(realisateur);
+    boite->addSpacing(kSerre);
+    boite->addLayout(puces());
+    boite->addSpacing(kSerre);
+    boite->addWidget(onglets());
     boite->addWidget(filetHorizontal());
     return boite;
 }
 
-QLayout* PanneauFiche::onglets() {
+QLayout* PanneauFiche::puces() {
+    using Genre = BoutonPuce::Genre;
+    auto& fiche = m_atelier.etats().fiche;
+    const std::pair<Genre, QString> lesquelles[] = {{Genre::Etat, tr("Voir votre exemplaire")},
+                                                    {Genre::Appel, tr("Voir le prêt")},
+                                                    {Genre::Annonce, tr("Voir la réservation")}};
+    auto* ligne = rangee({});
+    for (std::size_t i = 0; i < std::size(lesquelles); ++i) {
+        auto* puce = nomme(new BoutonPuce(lesquelles[i].first), "cmdPuce", i);
+        puce->setToolTip(lesquelles[i].second);
+        m_atelier.liaison.lie(fiche.cmdPuce[i], puce);
+        m_atelier.auClic(puce, browse::cmdPuce_Click, static_cast<int>(i));
+        ligne->addWidget(puce);
+    }
+    ligne->addStretch();
+    return ligne;
+}
+
+// Where both pages are shown the row of their buttons takes no room.
+QWidget* PanneauFiche::onglets() {
     auto& fiche = m_atelier.etats().fiche;
     auto* generalites = bouton<BoutonOnglet>("cmdGeneralites", tr("&Généralités"), tr("Le film"));
     auto* autres = bouton<BoutonOnglet>("cmdAutresInfos", tr("Autres infor&mations"), tr("Votre exemplaire"));
@@ -118,7 +146,12 @@ QLayout* PanneauFiche::onglets() {
     m_atelier.liaison.lie(fiche.cmdAutresInfos, autres);
     m_atelier.auClic(generalites, browse::cmdGeneralites_Click);
     m_atelier.auClic(autres, browse::cmdAutresInfos_Click);
-    return rangee({generalites, autres}, kSerre);
+    auto* ligne = rangee({generalites, autres}, kSerre);
+    ligne->addStretch();
+    auto* resultat = new QWidget;
+    resultat->setLayout(ligne);
+    m_atelier.liaison.apresEcriture([resultat, &fiche] { resultat->setVisible(fiche.cmdGeneralites.Visible); });
+    return resultat;
 }
 
 QLayout* PanneauFiche::colonneAffiche() {
@@ -127,30 +160,55 @@ QLayout* PanneauFiche::colonneAffiche() {
     nomme(m_affiche, "cadreAffiche", tr("Pas d'affiche : en ajouter une"));
     nomme(m_affiche->image(), "Image1", tr("Affiche du film"));
     nomme(m_affiche->statut(), "Label12");
+    nomme(m_affiche->ajouter(), "cmdAjouterAffiche");
     m_affiche->image()->setToolTip(tr("Voir l'affiche en grand"));
     connect(m_affiche->image(), &VueAffiche::cliquee, &m_atelier.commande, m_atelier.reponse(view::Image1_Click));
+    connect(m_affiche, &CadreAffiche::statutClique, &m_atelier.commande, m_atelier.reponse(app::Label12_Click));
+    m_atelier.liaison.ajoute(m_affiche->image()->lien(fiche.Image1));
+    m_atelier.liaison.lie(fiche.Label12, m_affiche->statut());
+    m_atelier.liaison.lie(fiche.cmdAjouterAffiche, m_affiche->ajouter());
+    m_sousAffiche = sousAffiche();
+    auto* boite = colonne(kPetit);
+    boite->addWidget(m_affiche);
+    boite->addWidget(m_sousAffiche);
+    boite->addStretch(1);
+    return boite;
+}
+
+// The rating twice, as stars and in words, and the attached files; their room is kept while there are none, so that the
+// poster above is as large for every film.
+QWidget* PanneauFiche::sousAffiche() {
+    auto& fiche = m_atelier.etats().fiche;
+    auto* etoiles = nomme(new EtoilesNote, "etoilesNote", tr("Note du film"));
     auto* note = nomme((new Etiquette)->avecPolice(1.0, QFont::DemiBold), "lblNote");
     note->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     auto* noter = bouton("cmdModifieNote", tr("&Noter…"), tr("Donner une note de 1 à 10"));
     auto* fichiers = bouton("cmdFichiersFilm", tr("&Fichiers du film…"), tr("Ouvrir un des fichiers attachés au film"));
-    m_atelier.liaison.ajoute(m_affiche->image()->lien(fiche.Image1));
-    m_atelier.liaison.lie(fiche.Label12, m_affiche->statut());
+    QSizePolicy place = fichiers->sizePolicy();
+    place.setRetainSizeWhenHidden(true);
+    fichiers->setSizePolicy(place);
+    m_atelier.liaison.ajoute(etoiles->lien(fiche.note));
     m_atelier.liaison.lie(fiche.lblNote, note);
     m_atelier.liaison.lie(fiche.cmdModifieNote, noter);
     m_atelier.liaison.lie(fiche.cmdFichiersFilm, fichiers);
-    connect(m_affiche, &CadreAffiche::statutClique, &m_atelier.commande, m_atelier.reponse(app::Label12_Click));
+    connect(etoiles, &EtoilesNote::etoileCliquee, &m_atelier.commande,
+            [a = m_atelier](int etoile) { a.execute(edit::etoilesNote_Click, etoile); });
+    connect(etoiles, &EtoilesNote::noteChoisie, &m_atelier.commande,
+            [a = m_atelier](int voulue) { a.execute(edit::etoilesNote_Change, voulue); });
     m_atelier.auClic(noter, edit::cmdModifieNote_Click);
     m_atelier.auClic(fichiers, view::cmdFichiersFilm_Click);
 
-    auto* boite = colonne(kMoyen);
-    boite->addWidget(m_affiche);
+    auto* boite = colonne(kSerre);
+    boite->addWidget(etoiles);
     auto* ligne = rangee({note}, kSerre);
     ligne->addStretch();
     ligne->addWidget(noter);
     boite->addLayout(ligne);
+    boite->addSpacing(kSerre);
     boite->addWidget(fichiers);
-    boite->addStretch(1);
-    return boite;
+    auto* resultat = new QWidget;
+    resultat->setLayout(boite);
+    return resultat;
 }
 
 QWidget* PanneauFiche::faits() {
@@ -215,11 +273,14 @@ void PanneauFiche::resizeEvent(QResizeEvent*) {
     dimensionneAffiche();
 }
 
-// Beside both pages the poster leaves them more room.
+// Beside both pages the poster leaves them more room. It is as high as the window lets it be with the line of the notices,
+// so that it stays as it is when that line comes and goes.
 void PanneauFiche::dimensionneAffiche() {
-    constexpr int kAutourDeLAffiche = 240;  // header, rating, actions, margins
-    const int part = m_atelier.etats().fiche.cmdGeneralites.Visible ? 32 : 24;
-    m_affiche->tiensDans({width() * part / 100, height() - kAutourDeLAffiche});
+    constexpr int kLigneDesAvis = 40, kMarges = kMoyen + kGrand + kPetit;
+    const int enBas = window()->height() - mapTo(window(), QPoint()).y() - kLigneDesAvis;
+    const int hauteur = std::min(enBas, height()) - kMarges - m_sousAffiche->sizeHint().height();
+    const int part = m_atelier.etats().fiche.cmdGeneralites.Visible ? 34 : 26;
+    m_affiche->tiensDans({width() * part / 100, hauteur});
 }
 
 }  // namespace ui

@@ -21,14 +21,18 @@ class PanneauFiche final : public QWidget {
 
   private:
     void dimensionneAffiche();
+    [[nodiscard]] QWidget* colonneFilm(QWidget* generalites, QWidget* autres);
     [[nodiscard]] QLayout* entete();
-    [[nodiscard]] QLayout* onglets();
+    [[nodiscard]] QLayout* puces();
+    [[nodiscard]] QWidget* onglets();
     [[nodiscard]] QLayout* colonneAffiche();
+    [[nodiscard]] QWidget* sousAffiche();
     [[nodiscard]] QWidget* faits();
     [[nodiscard]] QWidget* resume();
 
     const Atelier m_atelier;
     CadreAffiche* m_affiche = nullptr;
+    QWidget* m_sousAffiche = nullptr;
 };
 
 }  // namespace ui

@@ -6,28 +6,81 @@
 #include "edit/cmdSupprimerTitre_Click.h"
 #include "edit/cmdValiderInfosPossessions_Click.h"
 #include "export/cmdCreeFichierTxt_Click.h"
+#include "ui/BoutonActualiser.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/ListeDeSaisie.h"
 
+#include <QApplication>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QTimer>
 
 namespace ui {
+
+namespace {
+
+// A heading over one row of fields.
+QGridLayout* groupe(const QString& titre) {
+    auto* grille = new QGridLayout;
+    grille->setContentsMargins(0, 0, 0, 0);
+    grille->setHorizontalSpacing(kPetit);
+    grille->setVerticalSpacing(kSerre);
+    grille->addWidget((new Etiquette(titre))->avecPolice(1.0, QFont::DemiBold), 0, 0, 1, -1);
+    return grille;
+}
+
+// Brings the field that takes the focus into sight, from wherever it takes it.
+class ZoneDesGroupes final : public QScrollArea {
+  public:
+    explicit ZoneDesGroupes(QWidget* contenu) {
+        setWidget(contenu);
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setFocusPolicy(Qt::NoFocus);
+        viewport()->setAutoFillBackground(false);
+        contenu->setAutoFillBackground(false);
+        connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* champ) {
+            if (!champ || !widget()->isAncestorOf(champ)) return;
+            const QPointer<QWidget> lui(champ);  // its page may be shown only now
+            QTimer::singleShot(0, this, [this, lui] {
+                if (lui && widget()->isAncestorOf(lui)) ensureWidgetVisible(lui, 0, kLarge);
+            });
+        });
+    }
+    [[nodiscard]] QSize minimumSizeHint() const override {
+        const int barre = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+        return {widget()->minimumSizeHint().width() + barre, QScrollArea::minimumSizeHint().height()};
+    }
+};
+
+}  // namespace
 
 PanneauPossession::PanneauPossession(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameAutresInfos", 0);
     auto* boite = colonne(kPetit);
-    boite->addWidget((new Etiquette(tr("Mon exemplaire")))->avecPolice(1.08, QFont::DemiBold));
     boite->addLayout(choix());
-    auto* suite = nomme(new QWidget, "frameAutresInfos", 1);
-    auto* dessous = colonne(0);
-    dessous->addWidget(exemplaire());
-    suite->setLayout(dessous);
-    boite->addWidget(suite);
+    boite->addWidget(suite(), 1);
     setLayout(boite);
     m_atelier.liaison.lie(m_atelier.etats().fiche.frameAutresInfos[0], this);
-    m_atelier.liaison.lie(m_atelier.etats().fiche.frameAutresInfos[1], suite);
+}
+
+// What is below the choice scrolls where the window is low; the choice and "Valider" do not.
+QWidget* PanneauPossession::suite() {
+    auto* resultat = nomme(new QWidget, "frameAutresInfos", 1);
+    auto* contenu = new QWidget;
+    auto* dedans = colonne(0);
+    dedans->addWidget(exemplaire());
+    dedans->addStretch(1);
+    contenu->setLayout(dedans);
+    auto* boite = colonne(0);
+    boite->addWidget(new ZoneDesGroupes(contenu));
+    resultat->setLayout(boite);
+    m_atelier.liaison.lie(m_atelier.etats().fiche.frameAutresInfos[1], resultat);
+    return resultat;
 }
 
 // Enter stores what was typed, as on the page of entry; with nothing typed it is the window's.
@@ -62,35 +115,57 @@ QLayout* PanneauPossession::choix() {
 }
 
 QWidget* PanneauPossession::exemplaire() {
-    auto& fiche = m_atelier.etats().fiche;
     auto* cadre = nomme(new QWidget, "framePossession");
-    auto* grille = new QGridLayout(cadre);
-    grille->setContentsMargins(0, 0, 0, 0);
-    grille->setHorizontalSpacing(kMoyen);
-    grille->setVerticalSpacing(kPetit);
-    grille->addLayout(champ(tr("S&upport"), liste(2)), 0, 0);
-    grille->addLayout(champ(tr("&Lieu de rangement"), texte(3, {})), 0, 1);
-    grille->addLayout(champ(tr("P&rêté à"), liste(0)), 1, 0);
-    grille->addLayout(champ(tr("Réser&vé pour"), liste(1)), 1, 1);
-    grille->addLayout(champ(tr("D&ate"), texte(6, {})), 2, 0);
-    grille->addLayout(champ(tr("Not&es"), texte(4, {})), 2, 1);
-    auto* fichiers = colonne(kSerre);
-    fichiers->addWidget(legende(tr("Fichiers attachés")));
-    for (std::size_t i = 0; i < 3; ++i)
-        fichiers->addLayout(fichier(i));
-    grille->addLayout(fichiers, 3, 0, 1, 2);
+    auto* boite = colonne(kMoyen);
+    boite->addLayout(ou());
+    boite->addLayout(qui());
+    boite->addLayout(fichiers());
+    boite->addLayout(champ(tr("Not&es"), texte(4, {})));
     auto* inutilise = texte(5, tr("Inutilisé"));
     inutilise->setParent(this);
     inutilise->hide();
-    auto* actualiser = bouton("cmdRaffraichirListe", tr("A&ctualiser les listes"),
-                              tr("Relire les supports et les personnes déjà notés"));
+    cadre->setLayout(boite);
+    m_atelier.liaison.lie(m_atelier.etats().fiche.framePossession, cadre);
+    return cadre;
+}
+
+// The lists that the button reads again are those of this group and the next.
+QLayout* PanneauPossession::ou() {
+    auto& fiche = m_atelier.etats().fiche;
+    auto* actualiser = nomme(new BoutonActualiser, "cmdRaffraichirListe", tr("Actualiser les listes"));
+    actualiser->setToolTip(tr("Actualiser les listes : relire les supports et les personnes déjà notés"));
+    auto* grille = groupe(tr("Où"));
+    auto* support = liste(2);
+    grille->addLayout(champ(tr("S&upport"), support), 1, 0);
+    grille->addWidget(actualiser, 1, 1, Qt::AlignBottom);
+    grille->addLayout(champ(tr("&Lieu de rangement"), texte(3, {})), 1, 2);
+    grille->setColumnStretch(0, 4);
+    grille->setColumnStretch(2, 5);
     m_atelier.liaison.lie(fiche.cmdRaffraichirListe, actualiser);
     m_atelier.auClic(actualiser, browse::RaffraichitBoitesDeroulantes);
-    grille->addWidget(actualiser, 4, 0, 1, 2, Qt::AlignLeft);
-    grille->setColumnStretch(0, 1);
-    grille->setColumnStretch(1, 1);
-    m_atelier.liaison.lie(fiche.framePossession, cadre);
-    return cadre;
+    return grille;
+}
+
+QLayout* PanneauPossession::qui() {
+    auto* grille = groupe(tr("Qui"));
+    grille->addLayout(champ(tr("P&rêté à"), liste(0)), 1, 0);
+    grille->addLayout(champ(tr("Réser&vé pour"), liste(1)), 1, 1);
+    auto* date = texte(6, {});
+    date->setMinimumWidth(date->fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000")) + 2 * kMoyen);
+    grille->addLayout(champ(tr("D&ate"), date), 1, 2);
+    for (const int colonne : {0, 1})
+        grille->setColumnStretch(colonne, 4);
+    grille->setColumnStretch(2, 3);
+    return grille;
+}
+
+QLayout* PanneauPossession::fichiers() {
+    auto* grille = groupe(tr("Fichiers"));
+    auto* lignes = colonne(kSerre);
+    for (std::size_t i = 0; i < 3; ++i)
+        lignes->addLayout(fichier(i));
+    grille->addLayout(lignes, 1, 0);
+    return grille;
 }
 
 QWidget* PanneauPossession::texte(std::size_t indice, const QString& nom) {

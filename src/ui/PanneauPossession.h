@@ -19,7 +19,11 @@ class PanneauPossession final : public QWidget {
 
   private:
     [[nodiscard]] QLayout* choix();
+    [[nodiscard]] QWidget* suite();
     [[nodiscard]] QWidget* exemplaire();
+    [[nodiscard]] QLayout* ou();
+    [[nodiscard]] QLayout* qui();
+    [[nodiscard]] QLayout* fichiers();
     [[nodiscard]] QWidget* texte(std::size_t indice, const QString& nom);
     [[nodiscard]] QWidget* liste(std::size_t indice);
     [[nodiscard]] QLayout* fichier(std::size_t indice);

@@ -1,5 +1,6 @@
 #include "ui/VueAffiche.h"
 
+#include "ui/Composition.h"
 #include "ui/Couleurs.h"
 #include "ui/Etiquettes.h"
 #include "ui/Icones.h"
@@ -8,13 +9,21 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPushButton>
+#include <algorithm>
 
 namespace ui {
 
 namespace {
 
-constexpr QSize kBoite{193, 297};  // 2895 by 4455 twips
-constexpr double kReductionMax = 0.5, kAgrandissementMax = 2.9;
+constexpr QSize kBoite{193, 297};       // 2895 by 4455 twips
+constexpr QSize kPlusPetite{176, 150};  // the stars and the button are as wide
+constexpr int kMarge = 14;
+
+// The size at which a picture of that size shows in the place.
+QSize tenue(const QSize& image, const QSize& place) {
+    return image.scaled(place, Qt::KeepAspectRatio).boundedTo(image * VueAffiche::kAgrandissementMax);
+}
 
 }  // namespace
 
@@ -55,15 +64,18 @@ void VueAffiche::resizeEvent(QResizeEvent*) {
 }
 
 void VueAffiche::paintEvent(QPaintEvent*) {
-    if (m_images.estVide()) return;
-    const QPixmap& affiche = m_images.affiche(pixels());
-    if (affiche.isNull()) return;
-    QRectF zone(QPointF(), QSizeF(affiche.size()).scaled(size(), Qt::KeepAspectRatio));
-    zone.moveCenter(QRectF(rect()).center());
+    if (!m_images.estVide()) {
+        const QPixmap& affiche = m_images.affiche(pixels());
+        if (affiche.isNull()) return;
+        m_derniere = affiche;
+        m_placeMontree = tenue(m_images.taille(), size());
+    }
+    QRect zone(QPoint(), m_placeMontree);
+    zone.moveCenter(rect().center());
     QPainter peintre(this);
     peintre.setRenderHint(QPainter::SmoothPixmapTransform);
-    peintre.drawPixmap(zone.toAlignedRect(), affiche);
-    if (hasFocus()) peintContourDeFocus(peintre, rect(), accentLisible(palette()));
+    peintre.drawPixmap(zone, m_derniere);
+    if (hasFocus()) peintContourDeFocus(peintre, zone, accentLisible(palette()));
 }
 
 void VueAffiche::mousePressEvent(QMouseEvent* evenement) {
@@ -84,18 +96,59 @@ void VueAffiche::keyPressEvent(QKeyEvent* evenement) {
 
 CadreAffiche::CadreAffiche(ImagesQt& images, QWidget* parent)
     : QWidget(parent),
+      m_images(images),
       m_image(new VueAffiche(images, this)),
-      m_statut((new Etiquette({}, this))->avecTon(Ton::Discret)->avecLignes(3)) {
+      m_titre((new Etiquette({}, this))->avecLignes(4)),
+      m_realisateur((new Etiquette({}, this))->avecTon(Ton::Discret)->avecLignes(2)),
+      m_statut((new Etiquette({}, this))->avecTon(Ton::Discret)->avecPolice(0.9)->avecLignes(3)),
+      m_ajouter(new QPushButton(this)) {
     m_statut->setAlignment(Qt::AlignCenter);
+    for (Etiquette* nom : {m_titre, m_realisateur})
+        nom->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     m_statut->setCursor(Qt::PointingHandCursor);
+    m_ajouter->setFocusPolicy(Qt::NoFocus);  // the frame is the one stop of the keys
+    connect(m_ajouter, &QPushButton::clicked, this, &CadreAffiche::statutClique);
     setFixedSize(kBoite);
 }
 
-// Without a picture the keyboard attaches one where the mouse does; the focus then goes on to the picture.
+// Without a picture the keys press the button from the frame, and go on to the picture.
 void CadreAffiche::montreImage(bool visible) {
     m_image->setVisible(visible);
+    m_titre->setVisible(!visible);
+    m_realisateur->setVisible(!visible);
     setFocusPolicy(visible ? Qt::NoFocus : Qt::TabFocus);
     setFocusProxy(visible ? m_image : nullptr);
+}
+
+void CadreAffiche::metNoms(const QString& titre, const QString& realisateur) {
+    if (titre == m_titre->text() && realisateur == m_realisateur->text()) return;
+    m_titre->setText(titre);
+    m_realisateur->setText(realisateur);
+    composeDessin();
+}
+
+// From the top the names, from the bottom the button and the caption, and the drawing in what they leave.
+void CadreAffiche::composeDessin() {
+    const int largeur = width() - 2 * kMarge;
+    const QSize bouton = m_ajouter->sizeHint();
+    const int largeBouton = std::min(bouton.width(), largeur);
+    const int hautStatut = m_statut->fontMetrics().lineSpacing() * 5 / 2;
+    int bas = height() - kMarge - bouton.height();
+    m_ajouter->setGeometry((width() - largeBouton) / 2, bas, largeBouton, bouton.height());
+    bas -= kPetit + hautStatut;
+    m_statut->setGeometry(kMarge, bas, largeur, hautStatut);
+
+    const int place = bas - kMarge - kPetit;  // of the names and the drawing
+    m_titre->setFont(policeRelative(std::clamp(width() / 150.0, 1.1, 1.9), QFont::DemiBold));
+    int haut = kMarge + kPetit;
+    for (Etiquette* nom : {m_titre, m_realisateur}) {
+        const int hauteur = std::min(nom->heightForWidth(largeur), haut + place / 2 - kMarge);
+        nom->setGeometry(kMarge, haut, largeur, std::max(0, hauteur));
+        haut += std::max(0, hauteur) + kSerre;
+    }
+    const double cote = std::min({width() * 0.42, bas - haut - 2.0 * kPetit, 110.0});
+    m_clap = QRectF((width() - cote) / 2, (haut + bas - cote) / 2, cote, cote);
+    update();
 }
 
 void CadreAffiche::keyPressEvent(QKeyEvent* evenement) {
@@ -108,13 +161,20 @@ void CadreAffiche::keyPressEvent(QKeyEvent* evenement) {
 }
 
 void CadreAffiche::tiensDans(const QSize& place) {
-    const QSize voulue = kBoite.scaled(place, Qt::KeepAspectRatio).boundedTo(kBoite * kAgrandissementMax);
-    setFixedSize(voulue.expandedTo(kBoite * kReductionMax));
+    const bool enImage = !m_image->isHidden();
+    if (enImage && m_images.estVide()) return;
+    QSize voulue = kBoite.scaled(place, Qt::KeepAspectRatio).boundedTo(kBoite * 1.5);
+    if (enImage) {
+        const QSize large = m_images.taille() * VueAffiche::kAgrandissementMax;
+        voulue =
+            kBoite.scaled(place, Qt::KeepAspectRatio).boundedTo(kBoite.scaled(large, Qt::KeepAspectRatioByExpanding));
+    }
+    setFixedSize(voulue.expandedTo(kPlusPetite));
 }
 
 void CadreAffiche::resizeEvent(QResizeEvent*) {
     m_image->setGeometry(rect());
-    m_statut->setGeometry(rect().adjusted(8, height() / 2 - 8, -8, -8));
+    composeDessin();
 }
 
 // The caption lets the mouse through to its frame; accepting the press brings the release here.
@@ -127,14 +187,20 @@ void CadreAffiche::mouseReleaseEvent(QMouseEvent* evenement) {
         emit statutClique();
 }
 
+// A sheet tinted with the accent colour, lit from above.
 void CadreAffiche::paintEvent(QPaintEvent*) {
     if (!m_image->isHidden()) return;
     QPainter peintre(this);
-    peintSurface(peintre, rect(), voile(palette()), filet(palette()));
+    peintre.setRenderHint(QPainter::Antialiasing);
+    const QColor fond = palette().color(QPalette::Window), teinte = accent(palette());
+    QLinearGradient lumiere(0, 0, 0, height());
+    lumiere.setColorAt(0, melange(teinte, fond, 0.26));
+    lumiere.setColorAt(1, melange(teinte, fond, 0.10));
+    peintre.setPen(QPen(melange(teinte, fond, 0.40), 1));
+    peintre.setBrush(lumiere);
+    peintre.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRayon, kRayon);
+    if (m_clap.width() >= 20) peintPictogramme(peintre, m_clap, Pictogramme::Clap, melange(teinte, fond, 0.55));
     if (hasFocus()) peintContourDeFocus(peintre, rect(), accent(palette()));
-    const QRectF signe(width() / 2.0 - 24, height() / 2.0 - 72, 48, 48);
-    peintPictogramme(peintre, signe, Pictogramme::Clap,
-                     melange(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.30));
 }
 
 }  // namespace ui

@@ -43,6 +43,34 @@ TEST_F(NotesEtGroupesTest, AnAnswerFromOneToTenIsRoundedAnEmptyOneClears) {
     EXPECT_TRUE(base.base.OpenRecordset("Films").valeur("Note").estNull());
 }
 
+// Without a question: the boxes of the test would refuse one.
+TEST_F(NotesEtGroupesTest, AStarGivesItsRatingAndTakesItAwayAgain) {
+    etoilesNote_Click(c, 5);  // no film
+    ajouteFilm("A", {{"Realisateur", "R"}});
+    ajouteFilm("B", {{"Realisateur", "R"}, {"Note", 9}});
+    montre(browse::kZoneTous, browse::kTriNote);
+    clique("A");
+    const auto note = [&] { return colonne("SELECT * FROM Films WHERE Titre = \"A\"", "Note").front(); };
+    etoilesNote_Click(c, 8);
+    EXPECT_EQ(note(), "8");
+    EXPECT_EQ(fiche.note, 8);
+    EXPECT_EQ(fiche.lblNote.Caption, "Note : 8/10");
+    EXPECT_EQ(film.titre, "A") << "the list is sorted again, and the film chosen in it";
+    EXPECT_EQ(liste.TreeView1.Nodes.Text(liste.TreeView1.SelectedItem), "A");
+    for (const int refusee : {-1, 11}) {
+        etoilesNote_Change(c, refusee);
+        EXPECT_EQ(note(), "8");
+    }
+    etoilesNote_Change(c, 8);
+    EXPECT_EQ(note(), "8") << "the keys take nothing away that they do not say";
+    etoilesNote_Click(c, 8);
+    EXPECT_EQ(note(), "");
+    EXPECT_EQ(fiche.note, 0);
+    etoilesNote_Change(c, 10);
+    etoilesNote_Change(c, 0);
+    EXPECT_EQ(fiche.lblNote.Caption, "Pas de notation");
+}
+
 TEST_F(NotesEtGroupesTest, AGenreIsRenamedUnderItsHeadingOnly) {
     for (const char* titre : {"Avatar", "Brazil"})
         ajouteFilm(titre, {{"Realisateur", "R"}, {"Genre", "Drame"}});
