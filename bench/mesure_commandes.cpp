@@ -1,9 +1,12 @@
-// mesure_commandes recherche DOSSIER TEXTE | ajout DOSSIER | conversion DOSSIER FILMS
+// mesure_commandes recherche DOSSIER TEXTE | ajout DOSSIER | conversion DOSSIER FILMS | annulation DOSSIER FICHES
 // Single commands of the program without its window, in a program folder, to be held against plancher_commandes.
 
 #include "Mesure.h"
 #include "SansFenetre.h"
+#include "acquire/cmdAjoutAuto_Click.h"
+#include "app/Annulation.h"
 #include "app/ChoixFonction.h"
+#include "app/Commandes.h"
 #include "browse/ChoixTri.h"
 #include "browse/TexteRequete.h"
 #include "db/Option3_Click.h"
@@ -11,9 +14,12 @@
 #include "db/cmdCompacter_Click.h"
 #include "db/cmdMajBase_Click.h"
 #include "edit/cmdAjoutFilm_Click.h"
+#include "edit/cmdPonctuation_Click.h"
+#include "edit/cmdSupprimerTitre_Click.h"
 #include "platform/dao/DBEngine.h"
 
 #include <algorithm>
+#include <ctime>
 
 #include <unistd.h>
 
@@ -66,18 +72,90 @@ void mesureConversion(app::Session& session, const bench::Machine& machine, cons
     machine.attend("Compactage effectué.");
 }
 
+// The same command, recorded or not, each in its turn.
+class AvecEtSans {
+  public:
+    AvecEtSans(app::Session& session, std::string base) : m_session(session), m_base(std::move(base)) {}
+
+    // `apres`: the statements that make the base what the next passage needs.
+    template <typename Prepare, typename Commande>
+    void mesure(const std::string& nom, int passages, Prepare prepare, Commande commande, const std::string& apres) {
+        double durees[2] = {}, processeur[2] = {};
+        for (int passage = 0; passage < 2 * passages; ++passage) {
+            prepare();
+            const bool note = passage % 2 == 1;
+            sync();
+            const std::clock_t debut = std::clock();
+            const double duree = bench::meilleureDuree(1, [&] {
+                m_session.execute([&](const app::Contexte& c) {
+                    if (!note) c.annulations.renonce();
+                    commande(c);
+                });
+            });
+            const double travail = static_cast<double>(std::clock() - debut) * 1000 / CLOCKS_PER_SEC;
+            const auto garde = [passage](double& meilleure, double valeur) {
+                if (passage < 2 || valeur < meilleure) meilleure = valeur;
+            };
+            garde(durees[note ? 1 : 0], duree);
+            garde(processeur[note ? 1 : 0], travail);
+            if (note && passage == 2 * passages - 1)
+                bench::declare(nom + "_annulee",
+                               bench::meilleureDuree(1, [&] { m_session.execute(app::cmdAnnuler_Click); }));
+            if (!apres.empty()) dao::DBEngine::OpenDatabase(m_base).Execute(apres);
+        }
+        bench::declare(nom + "_sans", durees[0]);
+        bench::declare(nom + "_avec", durees[1]);
+        bench::declare(nom + "_rapport", durees[1] / durees[0]);
+        bench::declare(nom + "_processeur_sans", processeur[0]);  // less disturbed by what else the machine does
+        bench::declare(nom + "_processeur_avec", processeur[1]);
+        bench::declare(nom + "_processeur_rapport", processeur[1] / processeur[0]);
+    }
+
+  private:
+    app::Session& m_session;
+    std::string m_base;
+};
+
+// Commands that are recorded so that they can be taken back, against the same ones that are not.
+void mesureAnnulation(app::Session& session, const std::string& dossier, const std::string& fiches) {
+    AvecEtSans deux(session, dossier + "/Films.mdb");
+    int noeud = 1;
+    const auto film = [&] {
+        const browse::Arbre& arbre = session.etats.liste.TreeView1.Nodes;
+        do
+            noeud += 7;
+        while (arbre.estGroupe(noeud));
+        session.execute(app::TreeView1_NodeClick, noeud);
+    };
+    deux.mesure(
+        "suppression", 3 * kPassages, film, [](const auto& c) { edit::cmdSupprimerTitre_Click(c); }, "");
+    const auto enPetit = [&] {
+        dao::DBEngine::OpenDatabase(dossier + "/Films.mdb").Execute("UPDATE Films SET Titre=lower(Titre)");
+    };
+    deux.mesure(
+        "correction", 2, enPetit, [](const auto& c) { edit::cmdPonctuation_Click(c); }, "");
+    session.etats.ajout.txtCheminAjoutAuto.Text = fiches;
+    deux.mesure(
+        "import", kPassages, [] {}, [](const auto& c) { acquire::cmdAjoutAuto_Click(c); },
+        "DELETE FROM Films WHERE DateAjout='" + systeme::HorlogeSysteme().dateDuJour() + "'; DELETE FROM Personnel");
+    bench::declare("memoire", bench::memoireDePointe());
+}
+
 }  // namespace
 
 int main(int nombre, char** mots) try {
     const std::string genre = nombre > 2 ? mots[1] : "";
-    if (genre != "ajout" && (nombre < 4 || (genre != "recherche" && genre != "conversion")))
-        throw std::invalid_argument("usage: mesure_commandes recherche|ajout|conversion DOSSIER [TEXTE|FILMS]");
+    if (genre != "ajout" && (nombre < 4 || (genre != "recherche" && genre != "conversion" && genre != "annulation")))
+        throw std::invalid_argument(
+            "usage: mesure_commandes recherche|ajout|conversion|annulation DOSSIER [TEXTE|FILMS|FICHES]");
     if (genre == "recherche") return mesureRecherche(mots[2], mots[3]), 0;
     bench::Machine machine;
     app::Session session(machine.pour(mots[2]));
     session.Form_Load();
     if (genre == "ajout")
         mesureAjout(session);
+    else if (genre == "annulation")
+        mesureAnnulation(session, mots[2], mots[3]);
     else
         mesureConversion(session, machine, mots[3]);
     session.Form_Unload();

@@ -7,7 +7,7 @@
 namespace acquire {
 
 AffichesImportees::AffichesImportees(const db::Contexte& c)
-    : m_c(c), m_lot(c.base.base, c.stockage.dansLaBase() ? "" : db::dossierImages(c)) {}
+    : m_c(c), m_lot(c, c.stockage.dansLaBase() ? "" : db::dossierImages(c)) {}
 
 void AffichesImportees::prepareDossier() {
     if (std::exchange(m_dossierPret, true) || dansLaBase()) return;

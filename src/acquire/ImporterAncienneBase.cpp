@@ -158,6 +158,7 @@ std::optional<AncienneInstallation> choisit(const Contexte& c) {
 }
 
 void importe(const Contexte& c, const AncienneInstallation& ancienne) {
+    c.annulations.nomme("import de l'installation précédente", "Installation précédente importée.");
     const auto bilan = litEtReprend(c, ancienne);
     if (!bilan) return;
     if (bilan->echec) c.dialogues.MsgBox(bilan->echec->texte, bilan->echec->style);

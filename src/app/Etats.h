@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/EtatAnnulation.h"
 #include "app/EtatFonctions.h"
 #include "browse/EtatFiche.h"
 #include "browse/EtatListe.h"
@@ -32,6 +33,7 @@ struct Etats {
     edit::EtatAjout ajout;
     edit::EtatMultiSuppression multiSuppression;
     EtatFonctions fonctions;
+    EtatAnnulation annulation;
     view::EtatAffiche affiche;
     view::EtatFichiers fichiers;
     exportation::EtatNom nom;

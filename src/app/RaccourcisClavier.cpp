@@ -77,6 +77,8 @@ std::string texteTouches() {
            "Ctrl+N : saisir un film\n"
            "Ctrl+O : ouvrir ou créer une base\n"
            "Ctrl+Q : quitter\n"
+           "Ctrl+Z : annuler la dernière modification de la base\n"
+           "Ctrl+Maj+Z : rétablir ce qui vient d'être annulé\n"
            "F2 : modifier le film affiché\n"
            "Suppr : supprimer le film affiché\n"
            "Ctrl+Entrée : enregistrer ce qui est saisi (Entrée aussi, dans un champ d'une ligne)\n"

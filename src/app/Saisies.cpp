@@ -80,6 +80,10 @@ bool Saisies::reprendAjout() {
     return true;
 }
 
+bool Saisies::parle() const {
+    return m_c.etats.avis.frameAvis.Visible && m_c.etats.avis.numero == m_avis;
+}
+
 void Saisies::oublie() {
     if (m_c.etats.avis.numero != m_avis) return;
     std::erase_if(m_laissees, [this](const Laissee& laissee) { return laissee.numero == m_proposee; });

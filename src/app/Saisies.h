@@ -31,6 +31,8 @@ class Saisies final : public edit::Accompagnement {
     [[nodiscard]] bool abandonneTout();  // the same for the holdings too
     // Takes up the entry of a new film that was set aside last; false when there is none.
     bool reprendAjout();
+    // The notice line offers what was set aside.
+    [[nodiscard]] bool parle() const;
     // The notice line was closed: what it spoke of is given up.
     void oublie();
 

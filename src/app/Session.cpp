@@ -1,5 +1,6 @@
 #include "app/Session.h"
 
+#include "app/Annulation.h"
 #include "app/Arret.h"
 #include "app/BaseAbsente.h"
 #include "app/Demarrage.h"
@@ -39,7 +40,7 @@ struct Session::Rouages {
           avis(etats.avis),
           visionneuse(etats.affiche, chemins),
           fenetre{{m.dialogues, m.ecran, m.images, m.horloge, m.documents, m.programmes, m.volumes, avis,
-                   etats.demandes, etats.travaux, base, chemins, etats.stockage, suites},
+                   etats.demandes, etats.travaux, base, chemins, etats.stockage, suites, annulations},
                   etats.liste,
                   etats.recherche,
                   etats.fiche,
@@ -61,6 +62,7 @@ struct Session::Rouages {
     systeme::InstanceUnique instance;
     db::Chemins chemins;
     db::Base base;
+    db::Annulations annulations{base, chemins};
     browse::FilmCourant film;
     view::TableExtensions extensions;
     ecran::Avis avis;
@@ -70,6 +72,7 @@ struct Session::Rouages {
     const browse::Contexte fenetre;  // what the others begin with
     const Contexte contexte;
     BaseAbsente baseAbsente{contexte};
+    Annulation annulation{contexte};
     Demarrage demarrage{contexte, instance, baseAbsente};
 };
 
@@ -89,7 +92,7 @@ void Session::accompagne(const std::function<void()>& commande) {
         nommeLaBase(c);
     };
     try {
-        m_rouages->saisies.surveille(commande);
+        m_rouages->annulation.surveille(commande);
     } catch (const systeme::FinDuProgramme&) {
         m_rouages->enMarche = false;  // no base is open: the settings keep the one they name
         throw;
@@ -137,11 +140,13 @@ void Session::Form_Resize(bool deuxPages) {
 
 void Session::vaCommencer() {
     m_rouages->arbreRelu = false;
+    m_rouages->annulation.parleAvant(false);
     const dao::Database& base = m_rouages->base.base;
     if (!m_rouages->enMarche || !base.estOuverte() || base.emplacement() != dao::Emplacement::Remplacee) return;
     if (!db::rouvreLaBase(contexte())) return;  // the command will be told what is so
     m_rouages->arbreRelu = true;
     m_rouages->avis.montre("La base a été remplacée par un autre programme : elle a été rouverte.");
+    m_rouages->annulation.parleAvant(true);
     try {
         accompagne([this] { relis(); });
     } catch (const db::RequeteEchouee&) {  // its message was shown

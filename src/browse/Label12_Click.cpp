@@ -4,6 +4,7 @@
 #include "db/Affiches.h"
 #include "db/EnonceFilm.h"
 #include "db/LotAffiches.h"
+#include "db/TitreCite.h"
 #include "platform/fichiers/Fichiers.h"
 
 #include <optional>
@@ -67,7 +68,7 @@ Echec attache(const Contexte& c, const std::string& image) {
     if (!octets) return "Le fichier " + image + " n'a pas pu être lu.";
     if (!dansLaBase)
         if (auto refus = db::refusDossierImages(c)) return refus;
-    db::LotAffiches lot(c.base.base, db::dossierImages(c), db::LotAffiches::Inconnus::Ecrases);
+    db::LotAffiches lot(c, db::dossierImages(c), db::LotAffiches::Inconnus::Ecrases);
     try {
         return enregistre(c, lot, *octets);
     } catch (const dao::ErreurDao& erreur) {
@@ -85,10 +86,13 @@ void Label12_Click(const Contexte& c) {
     if (!c.film.estUnFilm() || c.fiche.Label12.Caption.find(kSansImage) == std::string::npos) return;
     const std::string image = choisit(c);
     if (image.empty()) return;
-    if (const Echec echec = attache(c, image))
+    if (const Echec echec = attache(c, image)) {
         c.dialogues.MsgBox(*echec, dialogues::kCritique);
-    else
+    } else {
+        const std::string titre = db::titreCite(c.film.titre);
+        c.annulations.nomme("affiche de " + titre, "Affiche attachée à " + titre + ".");
         AfficheFiche(c);
+    }
 }
 
 }  // namespace browse

@@ -2,6 +2,7 @@
 
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
+#include "db/TitreCite.h"
 #include "platform/systeme/Horloge.h"
 #include "util/Nombres.h"
 
@@ -16,6 +17,9 @@ void ModifieNoteFilm(const Contexte& c, int note) {
     films.Edit();
     films.assigne("Note", note == 0 ? dao::Valeur() : dao::Valeur(note));
     films.Update();
+    const std::string titre = db::titreCite(c.film.titre);
+    c.annulations.nomme("notation de " + titre,
+                        titre + " : " + (note == 0 ? "note effacée." : "noté " + std::to_string(note) + "/10."));
     montreNote(c.fiche, note);
 }
 

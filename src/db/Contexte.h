@@ -1,5 +1,6 @@
 #pragma once
 
+#include "db/Annulations.h"
 #include "db/Base.h"
 #include "db/Chemins.h"
 #include "db/EtatStockage.h"
@@ -43,6 +44,7 @@ struct Contexte {
     Chemins& chemins;
     EtatStockage& stockage;
     Rafraichissement& rafraichissement;
+    Annulations& annulations;
 
     systeme::Montre montre = std::chrono::steady_clock::now;  // by which long work bounds its lots
 };

@@ -53,6 +53,7 @@ bool LotAffiches::cree(const std::string& nom, std::string_view octets) {
     if (issue == fichiers::Creation::Echouee) throw EchecConversion{texteEchecFichier(chemin)};
     connaissance().presents.insert(util::cleSansCasse(nom));
     if (issue == fichiers::Creation::ExisteDeja) return false;
+    m_annulations.aEcrit(chemin, octets);
     m_crees.push_back(chemin);
     m_aSynchroniser.push_back(chemin);
     return true;
@@ -65,10 +66,12 @@ bool LotAffiches::poseSurUnAutre(const std::string& nom, std::string_view octets
     if (!place) return false;
     const auto present = fichiers::litSansLien(place->chemin, static_cast<std::int64_t>(octets.size()));
     if (present != octets) {
-        if (sansFilm && present && octets.starts_with(*present))
-            return fichiers::supprime(place->chemin) && cree(nom, octets);
-        if (!remplacable) return false;
+        const bool debut = sansFilm && present && octets.starts_with(*present);
+        if (!debut && !remplacable) return false;
+        m_annulations.vaChanger(place->chemin);
+        if (debut) return fichiers::supprime(place->chemin) && cree(nom, octets);
         if (!fichiers::remplace(place->chemin, octets)) throw EchecConversion{texteEchecFichier(place->chemin)};
+        m_annulations.aEcrit(place->chemin, octets);
     }
     m_aSynchroniser.push_back(place->chemin);
     return true;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/dao/Database.h"
+#include "db/Contexte.h"
 
 #include <optional>
 #include <string>
@@ -27,8 +27,9 @@ class LotAffiches {
     // What becomes of a file that bears the name and that no film of the base names.
     enum class Inconnus { Gardes, Ecrases };
 
-    LotAffiches(dao::Database& base, std::string dossier, Inconnus inconnus = Inconnus::Gardes)
-        : m_base(base), m_dossier(std::move(dossier)), m_inconnus(inconnus) {}
+    // `c` need not outlive it.
+    LotAffiches(const Contexte& c, std::string dossier, Inconnus inconnus = Inconnus::Gardes)
+        : m_base(c.base.base), m_annulations(c.annulations), m_dossier(std::move(dossier)), m_inconnus(inconnus) {}
 
     // Gives the picture a file of that name, or of the next one that is free, and answers it. A file of the very same
     // bytes is shared. `actuelle` is the film's present value: the file it names is the film's own to replace, unless
@@ -56,7 +57,8 @@ class LotAffiches {
     void releveDossier(Connaissance& connu) const;
 
     dao::Database& m_base;
-    std::string m_dossier;  // with its final separator
+    Annulations& m_annulations;  // told of every file that is made or replaced
+    std::string m_dossier;       // with its final separator
     Inconnus m_inconnus;
     std::optional<Connaissance> m_connaissance;  // read once for each lot
     std::vector<std::string> m_crees;

@@ -85,12 +85,14 @@ void completeLesIndex(dao::Database& base) {
 
 void ouvreLaBase(const Contexte& c) {
     assureLeFichier(c);
+    c.annulations.oublie();
     reprendLaBase(c);
 }
 
 void reprendLaBase(const Contexte& c) {
     if (!ouvre(c, c.chemins.base, c.base)) throw systeme::FinDuProgramme{};
     completeLesIndex(c.base.base);
+    c.annulations.suisLaBase();
 }
 
 bool rouvreLaBase(const Contexte& c) {
@@ -98,6 +100,7 @@ bool rouvreLaBase(const Contexte& c) {
     if (essaie(c.chemins, c.chemins.base, nouvelle)) return false;
     c.base.ferme();
     c.base = std::move(nouvelle);
+    c.annulations.oublie();
     completeLesIndex(c.base.base);
     return true;
 }

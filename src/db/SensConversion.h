@@ -75,7 +75,7 @@ class VersLaBase final : public SensConversion {
 // otherwise it stays, and the poster's file is numbered.
 class VersLeDossier final : public SensConversion {
   public:
-    VersLeDossier(dao::Database& base, std::string dossier) : m_lot(base, std::move(dossier)) {}
+    VersLeDossier(const Contexte& c, std::string dossier) : m_lot(c, std::move(dossier)) {}
 
     void reprend() override {}  // what is left is shared, or written again
     [[nodiscard]] std::string enonce() const override;

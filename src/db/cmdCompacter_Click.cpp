@@ -65,6 +65,7 @@ void supprimeOrphelins(dao::Database& base) {
 
 Empechement nettoieLesPossessions(const Contexte& c) {
     try {
+        c.annulations.nomme("suppression des possessions sans film", "Possessions sans film supprimées.");
         supprimeOrphelins(c.base.base);
         return std::nullopt;
     } catch (const dao::ErreurDao& erreur) {

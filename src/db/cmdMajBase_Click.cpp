@@ -23,7 +23,7 @@ using Empechement = std::optional<std::string>;  // what to tell the user
 
 std::unique_ptr<SensConversion> sensVoulu(const Contexte& c, const std::string& dossier) {
     if (c.stockage.dansLaBase()) return std::make_unique<VersLaBase>(c.base.base, dossier);
-    return std::make_unique<VersLeDossier>(c.base.base, dossier);
+    return std::make_unique<VersLeDossier>(c, dossier);
 }
 
 // False when the user asked to stop. A film that someone else deleted meanwhile is passed over.
@@ -73,6 +73,15 @@ Empechement convertitTout(const Contexte& c, SensConversion& sens, dao::Recordse
     return echec;
 }
 
+// Every poster would be kept twice, and the other conversion takes it back.
+void renonceALAnnulation(const Contexte& c) {
+    c.annulations.renonce();
+    c.avis.montre(
+        "La conversion des affiches ne s'annule pas avec Ctrl+Z, ni ce qui la précède : c'est la conversion inverse "
+        "qui "
+        "la défait.");
+}
+
 // The films that need nothing are done from the start.
 Empechement convertitLesAffiches(const Contexte& c, RapportConversion& rapport) {
     if (auto refus = refusDossierImages(c)) return refus;
@@ -87,6 +96,7 @@ Empechement convertitLesAffiches(const Contexte& c, RapportConversion& rapport) 
     if (films.Eof()) return std::nullopt;
     if (!fichiers::dossierModifiable(dossier))
         return "Le dossier des images " + dossier + " n'est pas accessible en écriture !";
+    renonceALAnnulation(c);
     return convertitTout(c, *sens, films, rapport);
 }
 

@@ -36,6 +36,8 @@ void cmdSupprInfosPerso_Click(const Contexte& c) {
     }
     if (!confirmeLaSuppression(c)) return;
     const long supprimes = supprimeTout(c, possedes);
+    const std::string combien = util::phraseCompte(supprimes, "# titre personnel", "# titres personnels");
+    c.annulations.nomme("suppression de " + combien, "Appartenance supprimée : " + combien + ".");
     c.rafraichissement.AfficheNbTitres();
     c.rafraichissement.AffichageApresModification();
     c.rafraichissement.RaffraichitBoitesDeroulantes();

@@ -53,7 +53,7 @@ void EnregistrementFilm::afficheEnFichier(FilmPret& film, const std::string& ima
     film.devenir = DevenirAffiche::Illisible;
     if (!octets) return;
     fichiers::creeDossier(dossier);  // a folder that cannot be made takes no file either
-    if (!m_affiches || m_affiches->dossier() != dossier) m_affiches.emplace(m_c.base.base, dossier);
+    if (!m_affiches || m_affiches->dossier() != dossier) m_affiches.emplace(m_c, dossier);
     film.affiche = db::valeurAfficheFichier(
         m_affiches->pose(db::nomFichierAffiche(m_c.ajout.Text3[0].Text, m_c.ajout.Text3[1].Text), *octets));
     film.devenir = DevenirAffiche::Enregistree;

@@ -6,6 +6,7 @@
 #include "db/EnonceFilm.h"
 #include "edit/LongueursChamps.h"
 #include "edit/RemontreFilm.h"
+#include "edit/TitreCite.h"
 #include "edit/TravailParLots.h"
 #include "platform/dao/LigneSupprimee.h"
 #include "util/Texte.h"
@@ -91,6 +92,9 @@ void RecupereInfosGroupeSelectionne(const Contexte& c, std::string& genre, std::
 void ModifieGroupe(const Contexte& c, const std::string& champ, const std::string& valeur, bool personnel) {
     if (valeur.empty() || !groupeChoisi(c)) return;
     const std::string nouvelle = util::coupe(valeur, personnel ? kLongueurSupport : kLongueurGenre);
+    const std::string groupe = personnel ? "support" : "genre";
+    c.annulations.nomme("renommage du " + groupe + " en " + titreCite(nouvelle),
+                        (personnel ? "Support" : "Genre") + (" renommé en " + titreCite(nouvelle) + "."));
     if (const auto introuvable = renomme(c, champ, nouvelle, personnel))
         c.dialogues.MsgBox("Infos personnelles sur le titre \"" + introuvable->titre + "\" de " +
                                introuvable->realisateur + " non trouvées !\r\nProcessus arrêté.",

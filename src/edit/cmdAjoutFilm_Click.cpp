@@ -157,6 +157,7 @@ void ajoute(const Contexte& c, const db::CleFilm& film) {
         throw;
     }
     c.accompagnement.filmStocke();
+    c.annulations.nomme("ajout de " + titreCite(film.titre), titreCite(film.titre) + " ajouté.");
     annonce(c, film, ajout);
     montreLeFilmAjoute(c, film, date);
 }
@@ -184,6 +185,7 @@ void modifie(const Contexte& c, const db::CleFilm& film) {
         if (possession.RecordCount() > 0) renomme(possession, film);
         transaction.confirme();
     }
+    c.annulations.nomme("correction de " + titreCite(film.titre), titreCite(film.titre) + " corrigé.");
     c.accompagnement.filmStocke();
     remontre(c, film);
     browse::AfficheNbTitres(c);  // a film that had gone was added again

@@ -4,6 +4,7 @@
 #include "edit/TravailParLots.h"
 #include "platform/dao/Comparaison.h"
 #include "util/Capitales.h"
+#include "util/Nombres.h"
 #include "util/Sql.h"
 
 namespace edit {
@@ -71,6 +72,8 @@ void cmdPonctuation_Click(const Contexte& c) {
         dialogues::kOui)
         return;
     const long modifies = corrigeTout(c);
+    c.annulations.nomme("correction de " + util::phraseCompte(modifies, "# titre", "# titres"),
+                        util::phraseCompte(modifies, "# titre corrigé.", "# titres corrigés."));
     if (modifies > 0) rafraichit(c);
     c.dialogues.MsgBox(rapportTitresModifies(modifies), dialogues::kInformation);
 }

@@ -98,7 +98,10 @@ void cmdSupprTitresSelect_Click(const Contexte& c) {
         return;
     }
     if (c.dialogues.MsgBox(questionSuppression(noeuds.size()), dialogues::kQuestion) != dialogues::kOui) return;
-    montre(c, supprime(c, lis(c, noeuds)));
+    const Supprimes supprimes = supprime(c, lis(c, noeuds));
+    c.annulations.nomme("suppression de " + util::phraseCompte(supprimes.films, "# film", "# films"),
+                        util::phraseCompte(supprimes.films, "# film supprimé.", "# films supprimés."));
+    montre(c, supprimes);
 }
 
 std::string questionSuppression(std::size_t nombre) {

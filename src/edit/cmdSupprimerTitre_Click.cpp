@@ -7,6 +7,7 @@
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
 #include "edit/LignePossession.h"
+#include "edit/TitreCite.h"
 #include "edit/cmdSupprTitresSelect_Click.h"
 
 #include <charconv>
@@ -46,6 +47,7 @@ void cmdSupprimerTitre_Click(const Contexte& c) {
     if (!c.film.estUnFilm()) return;
     if (c.dialogues.MsgBox(questionSuppression(1), dialogues::kQuestion) != dialogues::kOui) return;
     const Supprimes supprimes = supprime(c);
+    c.annulations.nomme("suppression de " + titreCite(c.film.titre), titreCite(c.film.titre) + " supprimé.");
     if (supprimes.film)
         retireDeLArbre(c);
     else

@@ -6,6 +6,7 @@
 #include "db/Requete.h"
 #include "edit/LongueursChamps.h"
 #include "edit/RemontreFilm.h"
+#include "edit/TitreCite.h"
 #include "util/Texte.h"
 
 namespace edit {
@@ -49,6 +50,8 @@ void enregistre(const Contexte& c) {
 void cmdValiderInfosPossessions_Click(const Contexte& c) {
     if (c.film.estUnFilm()) {
         enregistre(c);
+        const std::string titre = titreCite(c.film.titre);
+        c.annulations.nomme("possession de " + titre, "Possession de " + titre + " enregistrée.");
         c.accompagnement.possessionStockee();
         remontreFilm(c);
         browse::AfficheNbTitres(c);

@@ -1,6 +1,7 @@
 #include "ui/BarreFonctions.h"
 
 #include "app/Aide.h"
+#include "app/Annulation.h"
 #include "app/ChoixFonction.h"
 #include "browse/cmdFonctionRecherche_Click.h"
 #include "ui/Boutons.h"
@@ -18,6 +19,20 @@ Bouton* fonction(const char* nom, const QString& texte, Pictogramme pictogramme,
     resultat->setIcon(icone(pictogramme));
     resultat->setIconSize({18, 18});
     return resultat;
+}
+
+// A drawing alone, whose tip says what it would do.
+QPushButton* fleche(const char* nom, const QString& texte, Pictogramme pictogramme) {
+    auto* resultat = fonction(nom, {}, pictogramme, {});
+    resultat->setAccessibleName(texte);
+    return resultat;
+}
+
+// "Annuler : suppression de 12 films (Ctrl+Z)"; of a button with nothing to do, the word and the keys alone.
+void nommeLaSuite(QPushButton& bouton, const std::string& suite, const QString& touche) {
+    const QString quoi = suite.empty() ? QString() : QStringLiteral(" : ") + QString::fromStdString(suite);
+    bouton.setToolTip((bouton.accessibleName() + quoi).toHtmlEscaped() + QStringLiteral(" (%1)").arg(touche));
+    bouton.setAccessibleDescription(QString::fromStdString(suite));
 }
 
 }  // namespace
@@ -59,6 +74,18 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     atelier.auClic(aide, app::cmdAide_Click);
     atelier.auClic(sortie, &app::Session::cmdStop_Click);
 
+    auto* annuler = fleche("cmdAnnuler", tr("Annuler"), Pictogramme::Annule);
+    auto* retablir = fleche("cmdRetablir", tr("Rétablir"), Pictogramme::Retablit);
+    auto& annulation = atelier.etats().annulation;
+    atelier.liaison.lie(annulation.cmdAnnuler, annuler);
+    atelier.liaison.lie(annulation.cmdRetablir, retablir);
+    atelier.auClic(annuler, app::cmdAnnuler_Click);
+    atelier.auClic(retablir, app::cmdRetablir_Click);
+    atelier.liaison.apresEcriture([annuler, retablir, &annulation] {
+        nommeLaSuite(*annuler, annulation.aAnnuler, tr("Ctrl+Z"));
+        nommeLaSuite(*retablir, annulation.aRetablir, tr("Ctrl+Maj+Z"));
+    });
+
     // Progress shown in its place is two words, and short ones do not move what follows.
     auto* nom = new QWidget;
     auto* moities = rangee({nom1, nom2}, 0);
@@ -76,6 +103,9 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     boite->addWidget(version, 0, Qt::AlignBottom);
     boite->addSpacing(kLarge);
     for (BoutonDePanneau* gauche : {recherche, ajout, outils})
+        boite->addWidget(gauche);
+    boite->addSpacing(kMoyen);
+    for (QPushButton* gauche : {annuler, retablir})
         boite->addWidget(gauche);
     boite->addStretch();
     for (QPushButton* droite : {site, aide, sortie})

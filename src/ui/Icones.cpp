@@ -83,6 +83,16 @@ QPainterPath trace(Pictogramme pictogramme) {
                 t.moveTo(16.5, y), t.lineTo(21, y);
             }
             break;
+        case Pictogramme::Annule:
+            t.moveTo(9, 4.5), t.lineTo(4.5, 9), t.lineTo(9, 13.5);
+            t.moveTo(4.5, 9), t.lineTo(14, 9);
+            t.cubicTo(21.5, 9, 21.5, 19.5, 14, 19.5), t.lineTo(9.5, 19.5);
+            break;
+        case Pictogramme::Retablit:
+            t.moveTo(15, 4.5), t.lineTo(19.5, 9), t.lineTo(15, 13.5);
+            t.moveTo(19.5, 9), t.lineTo(10, 9);
+            t.cubicTo(2.5, 9, 2.5, 19.5, 10, 19.5), t.lineTo(14.5, 19.5);
+            break;
         case Pictogramme::MovieCovers: {  // the letters are cut out of a film's box
             t.addRoundedRect(QRectF(0.5, 2, 23, 20), 3.5, 3.5);
             QFont lettres = QApplication::font();

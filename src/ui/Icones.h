@@ -20,6 +20,8 @@ enum class Pictogramme {
     Enregistre,
     Remplace,
     Film,
+    Annule,
+    Retablit,
     MovieCovers  // a logo: filled, and always in the accent colour
 };
 

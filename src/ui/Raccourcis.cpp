@@ -1,5 +1,6 @@
 #include "ui/Raccourcis.h"
 
+#include "app/Annulation.h"
 #include "app/Commandes.h"
 #include "app/RaccourcisClavier.h"
 #include "browse/cmdFonctionRecherche_Click.h"
@@ -7,9 +8,14 @@
 #include "ui/VueTitres.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QShortcut>
+#include <QTextDocument>
+#include <QTextEdit>
 #include <functional>
 
 namespace ui {
@@ -25,6 +31,27 @@ void demandeMenu() {
     QCoreApplication::sendEvent(focus, &evenement);
 }
 
+struct Reprises {
+    bool annuler = false;
+    bool retablir = false;
+};
+
+Reprises reprisesDe(const QTextDocument& texte) {
+    return {texte.isUndoAvailable(), texte.isRedoAvailable()};
+}
+
+// What a field could take back or make again of its own text.
+Reprises reprisesDe(const QObject* champ) {
+    if (const auto* liste = qobject_cast<const QComboBox*>(champ)) champ = liste->lineEdit();
+    if (const auto* ligne = qobject_cast<const QLineEdit*>(champ))
+        return {ligne->isUndoAvailable(), ligne->isRedoAvailable()};
+    if (const auto* texte = qobject_cast<const QTextEdit*>(champ))
+        return texte->isReadOnly() ? Reprises{} : reprisesDe(*texte->document());
+    if (const auto* texte = qobject_cast<const QPlainTextEdit*>(champ))
+        return texte->isReadOnly() ? Reprises{} : reprisesDe(*texte->document());
+    return {};
+}
+
 }  // namespace
 
 Raccourcis::Raccourcis(const Atelier& atelier, QWidget* fenetre) : m_atelier(atelier), m_fenetre(fenetre) {
@@ -35,12 +62,26 @@ Raccourcis::Raccourcis(const Atelier& atelier, QWidget* fenetre) : m_atelier(ate
         {Qt::CTRL | Qt::Key_Q, atelier.reponse(&app::Session::cmdStop_Click)},
         {Qt::CTRL | Qt::Key_Return, atelier.reponse(app::ValideSaisie)},
         {Qt::CTRL | Qt::Key_Enter, atelier.reponse(app::ValideSaisie)},
+        {Qt::CTRL | Qt::Key_Z, atelier.reponse(app::cmdAnnuler_Click)},
+        {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, atelier.reponse(app::cmdRetablir_Click)},
         {Qt::Key_F2, atelier.reponse(app::ModifieFilmAffiche)}};
     for (const auto& [touche, reponse] : touches) {
         auto* raccourci = new QShortcut(touche, fenetre);
         QObject::connect(raccourci, &QShortcut::activated, &atelier.commande, reponse);
     }
     QObject::connect(new QShortcut(Qt::SHIFT | Qt::Key_F10, fenetre), &QShortcut::activated, fenetre, demandeMenu);
+    qApp->installEventFilter(this);
+}
+
+bool Raccourcis::eventFilter(QObject* objet, QEvent* evenement) {
+    if (evenement->type() != QEvent::ShortcutOverride) return false;
+    const auto* touche = static_cast<const QKeyEvent*>(evenement);
+    const bool annuler = touche->matches(QKeySequence::Undo);
+    if ((!annuler && !touche->matches(QKeySequence::Redo)) || objet != m_fenetre->focusWidget()) return false;
+    const Reprises reprises = reprisesDe(objet);
+    if (annuler ? reprises.annuler : reprises.retablir) return false;
+    evenement->ignore();
+    return true;
 }
 
 // Esc closes a list and Del takes a letter away first: only what the controls leave comes here.

@@ -6,6 +6,7 @@
 #include "db/EnonceFilm.h"
 #include "db/LotAffiches.h"
 #include "db/Requete.h"
+#include "db/TitreCite.h"
 
 #include <optional>
 #include <string>
@@ -66,7 +67,7 @@ bool enregistre(const Contexte& c, const std::string& octets) {
         avertit(c, refus.value_or("Film non trouvé !"));
         return false;
     }
-    db::LotAffiches lot(c.base.base, db::dossierImages(c), db::LotAffiches::Inconnus::Ecrases);
+    db::LotAffiches lot(c, db::dossierImages(c), db::LotAffiches::Inconnus::Ecrases);
     try {
         range(c, film, octets, lot);
         return true;
@@ -88,6 +89,8 @@ void cmdRemplacerImage_Click(const Contexte& c) {
     if (choisi.empty()) return;
     const auto octets = octetsAdmis(c, choisi);
     if (!octets || !enregistre(c, *octets)) return;
+    const std::string titre = db::titreCite(c.film.titre);
+    c.annulations.nomme("remplacement de l'affiche de " + titre, "Affiche de " + titre + " remplacée.");
     browse::ecritAfficheTemporaire(c, *octets);
     browse::ChargeAffiche(c);
 }

@@ -35,11 +35,12 @@ struct MachineDEssai {
     db::Chemins chemins = db::Chemins::depuis(dossier.chemin());
     db::EtatStockage stockage;
     RafraichissementNote rafraichissement;
+    db::Annulations annulations{base, chemins};
 
     // The same machine with other boxes.
     [[nodiscard]] db::Contexte avec(dialogues::Dialogues& boites) {
-        return {boites,   ecranMuet, images, horloge, documents, programmes,       volumes,        avis,
-                demandes, travaux,   base,   chemins, stockage,  rafraichissement, montre.montre()};
+        return {boites,   ecranMuet, images, horloge, documents, programmes,       volumes,     avis,
+                demandes, travaux,   base,   chemins, stockage,  rafraichissement, annulations, montre.montre()};
     }
     db::Contexte machine = avec(dialogues);
 

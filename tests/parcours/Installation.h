@@ -31,7 +31,10 @@ class Installation : public doubles::DossierTemporaire {
 struct Execution {
     // `vrais` really start programs.
     explicit Execution(const std::string& dossier, systeme::Programmes* vrais = nullptr)
-        : session({boites, ecran, images, horloge, documents, vrais ? *vrais : programmes, volumes, dossier}) {}
+        : Execution(dossier, boites, vrais) {}
+    // The same with boxes that are not scripted.
+    Execution(const std::string& dossier, dialogues::Dialogues& autres, systeme::Programmes* vrais = nullptr)
+        : session({autres, ecran, images, horloge, documents, vrais ? *vrais : programmes, volumes, dossier}) {}
 
     doubles::DialoguesScript boites;
     doubles::EcranMuet ecran;

@@ -52,7 +52,6 @@ class UneBaseDeplacee : public Collectionneur {
 
 TEST_F(UneBaseDeplacee, AReplacedBaseIsReopenedWithTheFilmAndWhatWasTyped) {
     cliqueSur(noeud(etats(), "Le Cercle Rouge"));
-    EXPECT_EQ(avis(), "");
     etats().fiche.Combo7[0].Text = "Zoé";
     session().execute(edit::Combo7_Change, 0);
     remplace("A");  // before the film that is shown

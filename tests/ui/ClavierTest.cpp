@@ -48,6 +48,33 @@ TEST_F(Clavier, HoldingsAreStoredByEnterAndByCtrlEnterToTheLetter) {
     EXPECT_EQ(essai.texte("Label1_0"), "Alien");
 }
 
+TEST_F(Clavier, CtrlZTakesBackTheFieldFirstAndThenTheBase) {
+    touche(Qt::Key_Delete);
+    EXPECT_EQ(essai.texte("lblAvis"), "« Alien » supprimé.");
+    EXPECT_EQ(essai.trouve("cmdAnnuler").toolTip().toStdString(), "Annuler : suppression de « Alien » (Ctrl+Z)");
+    touche(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(essai.texte("Label1_0"), "Alien");
+    EXPECT_TRUE(essai.trouve("frameFiche").isVisible());
+    EXPECT_EQ(essai.texte("Label9_0"), "2 titres");
+    touche(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(essai.texte("Label9_0"), "1 titre");
+    essai.clique("cmdAvis_0");
+    EXPECT_EQ(essai.texte("Label9_0"), "2 titres");
+
+    essai.clique("cmdAutresInfos");
+    auto& rangement = essai.trouve<QLineEdit>("Text10_3");
+    ecris("Text10_3", "Salon");
+    touche(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(rangement.text(), "") << "its own";
+    EXPECT_EQ(essai.texte("Label9_0"), "2 titres");
+    ASSERT_TRUE(rangement.hasFocus() && !rangement.isUndoAvailable());
+    touche(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(essai.texte("Label9_0"), "0 titre") << "the import";
+    EXPECT_FALSE(essai.trouve("cmdAnnuler").isEnabled());
+    essai.clique("cmdRetablir");
+    EXPECT_EQ(essai.texte("Label9_0"), "2 titres");
+}
+
 TEST_F(Clavier, AFilmIsCorrectedToTheLetter) {
     dao::DBEngine::OpenDatabase(essai.dossier.chemin("Films.mdb"))
         .Execute("UPDATE Films SET Resume='un\u00a0été'||char(13,10)||'à\u2028deux'");

@@ -1,5 +1,6 @@
 #include "platform/dao/Connexion.h"
 
+#include "platform/dao/Enregistreur.h"
 #include "platform/dao/Erreurs.h"
 #include "platform/dao/Fonctions.h"
 #include "platform/dao/Jeu.h"
@@ -44,6 +45,7 @@ Connexion::Connexion(Poignee base, std::string nom)
 }
 
 Connexion::~Connexion() {
+    m_enregistreur.reset();
     for (Jeu* jeu : m_jeux)
         jeu->perdLaBase();
 }
@@ -87,6 +89,7 @@ void Connexion::commence() {
     prepare("BEGIN IMMEDIATE").execute();
     try {
         suitLeFichier();
+        if (m_enregistreur) m_enregistreur->commence();
     } catch (...) {
         annule();
         throw;
@@ -97,6 +100,7 @@ void Connexion::commence() {
 void Connexion::confirme() {
     if (!m_commencee) jette(kErreurTransaction, "Aucune transaction n'est ouverte.");
     if (!enTransaction()) jette(kErreurDisque, "Erreur de disque : les modifications ont été annulées.");
+    if (m_enregistreur) m_enregistreur->avantValidation();
     prepare("COMMIT").execute();
     m_commencee = false;
     for (const auto& [nom, table] : m_tables)
@@ -106,11 +110,30 @@ void Connexion::confirme() {
 void Connexion::annule() {
     m_commencee = false;
     if (enTransaction()) prepare(kAnnulation).execute();
+    if (m_enregistreur) m_enregistreur->annule();
     for (const auto& [nom, table] : m_tables) {
         for (const long long ligne : table->suivi.supprimeesEnCours)
             table->suivi.supprimees.erase(ligne);
         table->suivi.supprimeesEnCours.clear();
     }
+    oublieLesLignes();
+}
+
+bool Connexion::enregistre(Enregistrement* suite) {
+    m_enregistreur = suite == nullptr ? nullptr : std::make_unique<Enregistreur>(*this, *suite);
+    return std::exchange(m_dejaEnregistree, true);
+}
+
+void Connexion::noteModification() {
+    if (m_enregistreur) m_enregistreur->noteModification();
+}
+
+void Connexion::soulageLEnregistrement() {
+    if (m_enregistreur) m_enregistreur->soulage();
+}
+
+void Connexion::relisToutesLesLignes() {
+    nouvelleVersion();
     oublieLesLignes();
 }
 

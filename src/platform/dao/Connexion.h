@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/dao/Database.h"
+#include "platform/dao/Enregistrement.h"
 #include "platform/dao/Poignee.h"
 #include "platform/dao/Table.h"
 
@@ -17,6 +18,7 @@
 
 namespace dao::interne {
 
+class Enregistreur;
 class Jeu;
 
 // One open file: its prepared statements, its tables, its transaction, the recordsets that stand on it.
@@ -55,6 +57,14 @@ class Connexion {
     [[nodiscard]] std::uint64_t version() const { return m_version; }
     std::uint64_t nouvelleVersion() { return ++m_version; }
 
+    // What Database::enregistre says of a recording; while there is one, every change belongs to a transaction.
+    bool enregistre(Enregistrement* suite);
+    [[nodiscard]] bool estEnregistree() const { return m_enregistreur != nullptr; }
+    void noteModification();  // a row is about to be modified
+    void soulageLEnregistrement();
+    // As after another program's change.
+    void relisToutesLesLignes();
+
     void inscrit(Jeu& jeu) { m_jeux.push_back(&jeu); }
     void desinscrit(Jeu& jeu) { std::erase(m_jeux, &jeu); }
 
@@ -75,6 +85,8 @@ class Connexion {
     std::uint64_t m_epoque = 0;
     std::uint64_t m_version = 0;
     long long m_versionDuFichier = 0;
+    std::unique_ptr<Enregistreur> m_enregistreur;
+    bool m_dejaEnregistree = false;
 };
 
 // One state of the file, and one lock on it, for several readings.

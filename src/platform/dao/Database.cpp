@@ -3,6 +3,7 @@
 #include "platform/dao/Connexion.h"
 #include "platform/dao/Ecriture.h"
 #include "platform/dao/Enonce.h"
+#include "platform/dao/Enregistreur.h"
 #include "platform/dao/Erreurs.h"
 #include "platform/dao/JeuDeCles.h"
 #include "platform/dao/JeuVivant.h"
@@ -69,6 +70,16 @@ void Database::Rollback() {
 bool Database::enTransaction() const {
     return ouverte(m_connexion).estCommencee();
 }
+bool Database::enregistre(Enregistrement* suite) {
+    return ouverte(m_connexion).enregistre(suite);
+}
+
+Application Database::applique(Enregistrement& changements, Sens sens) {
+    interne::Connexion& connexion = ouverte(m_connexion);
+    connexion.enregistre(nullptr);
+    return interne::applique(connexion, changements, sens);
+}
+
 void Database::Close() {
     m_connexion.reset();
 }

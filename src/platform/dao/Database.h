@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/dao/Enregistrement.h"
 #include "platform/dao/ErreurDao.h"
 #include "platform/dao/Recordset.h"
 
@@ -52,6 +53,13 @@ class Database {
     void CommitTrans();
     void Rollback();
     [[nodiscard]] bool enTransaction() const;
+
+    // From now on what is changed through recordsets goes to `suite` too, which outlives the base or the next call;
+    // nullptr ends it. Only between transactions. False at the first call since the base was opened.
+    bool enregistre(Enregistrement* suite);
+    // Takes the recorded changes back or makes them again, all or nothing, in one transaction; it is not recorded.
+    // Throws ErreurDao, nothing done.
+    [[nodiscard]] Application applique(Enregistrement& changements, Sens sens);
 
     void Close();  // closing twice is harmless
     [[nodiscard]] bool estOuverte() const { return m_connexion != nullptr; }

@@ -102,6 +102,7 @@ long long ajouteLigne(Connexion& connexion, Table& table, const Assignees& assig
 void modifieLigne(Connexion& connexion, Table& table, long long ligne, const Assignees& assignees) {
     const bool aSuivre = table.suivi.index.estConstruit() && toucheLaCle(table, assignees);
     const auto ancien = aSuivre ? hachageDeLigne(connexion, table, ligne) : std::nullopt;
+    connexion.noteModification();
     std::uint64_t& ecrite = table.suivi.ecrites[ligne];  // before the change: memory may lack
     {
         Requete modification =

@@ -163,10 +163,13 @@ void Jeu::ecrit() {
     Connexion& base = connexion();
     if (m_edition == Edition::Aucune) jette(kErreurEditSansEdition, "Update ou CancelUpdate sans AddNew ni Edit.");
     if (m_edition == Edition::Courant) exigeCourant();
-    const bool sienne = m_tables.size() > 1 && !base.enTransaction();  // one row alone is whole by itself
+    // One row alone is whole by itself, unless it is to be recorded with it.
+    const bool sienne = (m_tables.size() > 1 || base.estEnregistree()) && !base.enTransaction();
     if (sienne) base.commence();
     try {
+        exigeOuvert();  // the file may have changed under it
         ecritLignes(base);
+        base.soulageLEnregistrement();
         if (sienne) base.confirme();
     } catch (...) {
         if (sienne) base.annule();
@@ -175,13 +178,28 @@ void Jeu::ecrit() {
     m_edition = Edition::Aucune;
 }
 
+void Jeu::supprimeLaLigne(Table& table, long long ligne) {
+    Connexion& base = connexion();
+    const bool sienne = base.estEnregistree() && !base.enTransaction();
+    if (sienne) base.commence();
+    try {
+        exigeOuvert();
+        supprimeLigne(base, table, ligne);
+        base.soulageLEnregistrement();
+        if (sienne) base.confirme();
+    } catch (...) {
+        if (sienne) base.annule();
+        throw;
+    }
+}
+
 void Jeu::supprime() {
     exigeModifiable();
     exigeCourant();
     m_edition = Edition::Aucune;
     const long long* seconde = m_tables.size() > 1 ? ligne(kSeconde) : nullptr;
     const RangTable ou = seconde != nullptr ? kSeconde : kPremiere;
-    supprimeLigne(connexion(), table(ou), *ligne(ou));
+    supprimeLaLigne(table(ou), *ligne(ou));
 }
 
 }  // namespace dao::interne

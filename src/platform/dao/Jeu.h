@@ -71,6 +71,7 @@ class Jeu {
     void exigeCourant();
     void exigeModifiable() const;
     void ecritLignes(Connexion& base);
+    void supprimeLaLigne(Table& table, long long ligne);
     [[nodiscard]] Assignees assigneesDe(RangTable table) const;
 
     Connexion* m_connexion;

@@ -19,18 +19,6 @@ bool estNumerique(std::string_view typeEnCapitales) {
     return false;
 }
 
-// The column that is the row id, which one primary key of whole numbers is unless SQLite gave it an index of its own.
-std::optional<std::string> cleEntiere(Connexion& connexion, const std::string& table) {
-    Requete colonnes = connexion.prepare("SELECT name, upper(type) FROM pragma_table_info(?1) WHERE pk<>0");
-    colonnes.lie(1, Valeur(table));
-    if (!colonnes.avance() || colonnes.valeur(1).texte() != "INTEGER") return std::nullopt;
-    std::string nom = colonnes.valeur(0).texte();
-    if (colonnes.avance()) return std::nullopt;
-    Requete index = connexion.prepare("SELECT 1 FROM pragma_index_list(?1) WHERE origin='pk'");
-    index.lie(1, Valeur(table));
-    return index.avance() ? std::nullopt : std::optional(std::move(nom));
-}
-
 // A column that bears a name of the row id hides it. Where all of them do, rows could be taken for each other.
 std::string nomDeLigne(Connexion& connexion, const Table& table) {
     for (const std::string_view nom : {"rowid", "_rowid_", "oid"}) {
@@ -43,6 +31,17 @@ std::string nomDeLigne(Connexion& connexion, const Table& table) {
 }
 
 }  // namespace
+
+std::optional<std::string> cleEntiere(Connexion& connexion, const std::string& table) {
+    Requete colonnes = connexion.prepare("SELECT name, upper(type) FROM pragma_table_info(?1) WHERE pk<>0");
+    colonnes.lie(1, Valeur(table));
+    if (!colonnes.avance() || colonnes.valeur(1).texte() != "INTEGER") return std::nullopt;
+    std::string nom = colonnes.valeur(0).texte();
+    if (colonnes.avance()) return std::nullopt;
+    Requete index = connexion.prepare("SELECT 1 FROM pragma_index_list(?1) WHERE origin='pk'");
+    index.lie(1, Valeur(table));
+    return index.avance() ? std::nullopt : std::optional(std::move(nom));
+}
 
 std::optional<RangColonne> Table::rang(std::string_view colonne) const {
     for (const RangColonne rang : colonnes.rangs()) {

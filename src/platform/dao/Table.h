@@ -17,6 +17,8 @@ struct Cle;
 
 namespace dao::interne {
 
+class Connexion;
+
 struct ColonneDeTable {
     std::string nom;
     std::string sql;         // the name between the file engine's quotes
@@ -67,5 +69,8 @@ struct Table {
     std::optional<CleDeTable> cle{};
     Suivi suivi{};
 };
+
+// The column that is the row id, which one primary key of whole numbers is unless SQLite gave it an index of its own.
+[[nodiscard]] std::optional<std::string> cleEntiere(Connexion& connexion, const std::string& table);
 
 }  // namespace dao::interne

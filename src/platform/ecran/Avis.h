@@ -48,6 +48,14 @@ class Avis {
         }
         ++m_etat.numero;
     }
+    // One more action of the notice that stands, where it has room for one.
+    void ajoute(Action action) {
+        if (!m_etat.frameAvis.Visible || m_actions.size() == m_etat.cmdAvis.size()) return;
+        ecran::Bouton& bouton = m_etat.cmdAvis[m_actions.size()];
+        bouton.Visible = true;
+        bouton.Caption = action.legende;
+        m_actions.push_back(std::move(action));
+    }
     // Takes the notice away, and its actions with it.
     void retire() {
         m_actions.clear();
