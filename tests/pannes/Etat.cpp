@@ -2,6 +2,7 @@
 
 #include "pannes/Scenarios.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -86,6 +87,15 @@ bool estUneAfficheCommencee(const std::string& nom, const std::string& octets, c
            entiere->second.starts_with(octets);
 }
 
+std::string sansNumero(const std::string& ligne) {
+    return ligne.substr(ligne.find('\x1f') + 1);
+}
+
+// A row that came: one before it may have been refused, which leaves it another row id.
+bool estAjoutee(const std::string& ligne, const Lignes& apres) {
+    return std::ranges::any_of(apres, [&](const auto& autre) { return sansNumero(autre.second) == sansNumero(ligne); });
+}
+
 template <typename Table>
 const auto& valeur(const Table& table, const std::string& cle) {
     static const typename Table::mapped_type aucune{};
@@ -118,7 +128,7 @@ bool Etat::memesFilms(const Etat& autre) const {
         std::multiset<std::string> tous;
         for (const auto& [nom, lignes] : etat.bases)
             for (const auto& [cle, ligne] : lignes)
-                if (cle.find(kSansFilm) == std::string::npos) tous.insert(nom + ligne.substr(ligne.find('\x1f') + 1));
+                if (cle.find(kSansFilm) == std::string::npos) tous.insert(nom + sansNumero(ligne));
         return tous;
     };
     return films(*this) == films(autre);
@@ -142,7 +152,8 @@ std::string Etat::ecart(const Etat& avant, const Etat& apres, bool entiere) cons
         cles.insert(ensuite.begin(), ensuite.end());
         cles.insert(ici.begin(), ici.end());
         for (const auto& [cle, ignoree] : cles)
-            compare(nom + ": " + cle, valeur(ici, cle), valeur(alors, cle), valeur(ensuite, cle));
+            if (alors.contains(cle) || !estAjoutee(valeur(ici, cle), ensuite))
+                compare(nom + ": " + cle, valeur(ici, cle), valeur(alors, cle), valeur(ensuite, cle));
     }
     for (const auto& [nom, octets] : fichiers)
         if (!estDeTravail(nom) && !estUneAfficheCommencee(nom, octets, avant, apres))
