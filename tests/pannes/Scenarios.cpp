@@ -2,6 +2,7 @@
 
 #include "acquire/ImporterAncienneBase.h"
 #include "acquire/cmdAjoutAuto_Click.h"
+#include "app/Annulation.h"
 #include "app/ChoixFonction.h"
 #include "app/Commandes.h"
 #include "app/LogicielsExternes.h"
@@ -102,6 +103,13 @@ std::vector<Scenario> tous() {
         montre(s, "FILM 1");
         s.boites.saisie = d + "Export";
     };
+    // What follows each: the command before is taken back.
+    const auto puis = [](auto prepare, auto commande) {
+        return [=](Seance& s, Dossier d) {
+            prepare(s, d);
+            s.commande(commande);
+        };
+    };
     const auto rien = [](Seance&, Dossier) {};
     return {
         {"saisie", saisie, fait(edit::cmdAjoutFilm_Click)},
@@ -168,6 +176,17 @@ std::vector<Scenario> tous() {
         {"affiche sauvée", export_, fait(app::cmdSauverImage_Click), true, true},
         {"extensions", [](Seance& s, Dossier) { s.etats.fonctions.txtNouvelleExtension.Text = "ogm"; },
          fait(app::cmdAjoutExtension_Click)},
+        {"annulation d'une suppression",
+         puis([](Seance& s, Dossier) { montre(s, "FILM 3"); }, edit::cmdSupprimerTitre_Click),
+         fait(app::cmdAnnuler_Click), true, true, false},
+        {"annulation d'un import", puis(import, acquire::cmdAjoutAuto_Click), fait(app::cmdAnnuler_Click), true, true,
+         false},
+        {"annulation d'une affiche", puis(affiche("FILM 1"), view::cmdRemplacerImage_Click),
+         fait(app::cmdAnnuler_Click), true, true, false},
+        {"annulation des titres", puis(rien, edit::cmdPonctuation_Click), fait(app::cmdAnnuler_Click), true, false,
+         false},
+        {"rétablissement des titres", puis(puis(rien, edit::cmdPonctuation_Click), app::cmdAnnuler_Click),
+         fait(app::cmdRetablir_Click), true, false, false},
         {"arrêt",
          [](Seance& s, Dossier) {
              montre(s, "FILM 1");

@@ -171,7 +171,6 @@ class Epreuve {
   public:
     explicit Epreuve(const Scenario& scenario) : m_scenario(scenario) {
         construit(fs::path(m_lieu.chemin("modele")), scenario.dansLeDossier);
-        m_avant = Etat::de(m_lieu.chemin("modele"));
         cale_dossier(m_dossier.c_str());
         for (const Faute faute : {Faute::Aucune, Faute::Memoire}) {
             copie(m_lieu.chemin("modele"), m_dossier);
@@ -187,6 +186,7 @@ class Epreuve {
             (faute == Faute::Aucune ? m_points : m_allocations) = std::stol(issue.texte);
             m_dits = issue.texte.substr(blanc + 1);
         }
+        m_avant = Etat::de(m_lieu.chemin("avant"));
         m_apres = Etat::de(m_lieu.chemin("apres"));
         if (m_avant == m_apres && m_points == 0) throw std::runtime_error("nothing done: " + m_dits);
     }
@@ -214,6 +214,7 @@ class Epreuve {
     Fait execute(Seance& s, Faute faute, long point, const std::string& circonstance = "") {
         if (!m_scenario.auDemarrage) s.demarre();
         m_scenario.prepare(s, m_dossier);
+        if (point == 0) copie(m_dossier, m_lieu.chemin("avant"));
         const std::size_t avant = s.boites.dits.size();
         const Dehors dehors(circonstance, m_dossier);
         cale_arme(faute, point);

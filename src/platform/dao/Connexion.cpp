@@ -51,6 +51,7 @@ Connexion::~Connexion() {
 }
 
 void Connexion::execute(std::string_view sql) {
+    exigeTransaction();
     const int code = m_base.essaie(std::string(sql));
     relitLesTables();  // the statements may have changed any of them
     oublieLesLignes();
@@ -90,16 +91,23 @@ void Connexion::commence() {
     try {
         suitLeFichier();
         if (m_enregistreur) m_enregistreur->commence();
+        m_commencee = true;
+        exigeTransaction();
     } catch (...) {
         annule();
         throw;
     }
-    m_commencee = true;
+}
+
+// The file engine rolls the whole transaction back where memory or the disk fails it, in a statement that only reads too:
+// what came after would be stored row by row.
+void Connexion::exigeTransaction() const {
+    if (m_commencee && !enTransaction()) jette(kErreurDisque, "Erreur de disque : les modifications ont été annulées.");
 }
 
 void Connexion::confirme() {
     if (!m_commencee) jette(kErreurTransaction, "Aucune transaction n'est ouverte.");
-    if (!enTransaction()) jette(kErreurDisque, "Erreur de disque : les modifications ont été annulées.");
+    exigeTransaction();
     if (m_enregistreur) m_enregistreur->avantValidation();
     prepare("COMMIT").execute();
     m_commencee = false;
@@ -109,7 +117,6 @@ void Connexion::confirme() {
 
 void Connexion::annule() {
     m_commencee = false;
-    if (enTransaction()) prepare(kAnnulation).execute();
     if (m_enregistreur) m_enregistreur->annule();
     for (const auto& [nom, table] : m_tables) {
         for (const long long ligne : table->suivi.supprimeesEnCours)
@@ -117,6 +124,7 @@ void Connexion::annule() {
         table->suivi.supprimeesEnCours.clear();
     }
     oublieLesLignes();
+    if (enTransaction()) prepare(kAnnulation).execute();
 }
 
 bool Connexion::enregistre(Enregistrement* suite) {

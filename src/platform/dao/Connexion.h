@@ -32,7 +32,10 @@ class Connexion {
     [[nodiscard]] sqlite3* brute() const { return m_base.brute(); }
     [[nodiscard]] const std::string& nom() const { return m_nom; }
 
-    [[nodiscard]] Requete prepare(const std::string& sql) { return m_base.prepare(sql); }
+    [[nodiscard]] Requete prepare(const std::string& sql) {
+        exigeTransaction();
+        return m_base.prepare(sql);
+    }
     void execute(std::string_view sql);  // any statements, prepared for this once
 
     // Throws ErreurDao 3078. The table lives as long as the connection.
@@ -74,6 +77,7 @@ class Connexion {
     void oublieLesLignes();
     [[nodiscard]] long long versionDuFichier() { return m_base.entier("PRAGMA data_version"); }
     void exigeEnPlace() const;
+    void exigeTransaction() const;  // the one that was begun is still there; throws ErreurDao 3043
 
     Poignee m_base;
     std::string m_nom;

@@ -92,10 +92,13 @@ class Identites {
         if (!m_lecture) return 0;
         sqlite3_bind_int64(m_lecture.get(), 1, id);
         auto melange = static_cast<std::uint64_t>(id);
-        if (sqlite3_step(m_lecture.get()) == SQLITE_ROW)
+        const int code = sqlite3_step(m_lecture.get());
+        if (code == SQLITE_ROW)
             for (const int colonne : {0, 1})
                 melange = hache(texte(colonne), melange);
         sqlite3_reset(m_lecture.get());
+        if (code != SQLITE_ROW && code != SQLITE_DONE)  // the transaction may be gone with it
+            jetteSqlite(sqlite3_db_handle(m_lecture.get()), code, Acces::Lecture);
         return melange * 0x9e3779b97f4a7c15ULL;
     }
 
