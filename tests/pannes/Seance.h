@@ -13,6 +13,7 @@
 #include "platform/dao/ErreurDao.h"
 #include "platform/systeme/FinDuProgramme.h"
 
+#include <functional>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -48,6 +49,7 @@ class Seance {
     app::Session session;
     app::Etats& etats = session.etats;
     bool finie = false;
+    std::function<void()> suit;  // told after each command
 
     // Whether it came to its end.
     template <typename Geste>
@@ -74,6 +76,7 @@ class Seance {
     template <typename... Arguments>
     void commande(Arguments... arguments) {
         fais([&] { session.execute(arguments...); });
+        if (suit) suit();
     }
     void demarre() {
         finie = !fais([this] { session.Form_Load(); }) || finie;

@@ -315,6 +315,7 @@ void vitAuHasard(const std::string& dossier, unsigned graine, const std::functio
     Seance s(dossier);
     s.demarre();
     suit();
+    s.suit = suit;
     for (int i = 0; i < kCommandes && !s.finie; ++i) {
         const Scenario& scenario = scenarios()[hasard() % scenarios().size()];
         try {
@@ -324,7 +325,6 @@ void vitAuHasard(const std::string& dossier, unsigned graine, const std::functio
             scenario.commande(s);
         } catch (const std::runtime_error&) {  // the film that it is about is not there
         }
-        suit();
     }
     s.session.Form_Unload();
 }
