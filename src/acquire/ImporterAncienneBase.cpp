@@ -6,6 +6,7 @@
 #include "acquire/ProgressionVisible.h"
 #include "browse/CreeRequeteAffichage.h"
 #include "db/MotDePasseJet.h"
+#include "db/Sauvegardes.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/NomsFichiers.h"
 
@@ -77,7 +78,10 @@ std::optional<Bilan> litEtReprend(const Contexte& c, const AncienneInstallation&
     const std::string raison = copie.echec();
     if (copie.abimee()) issue = ouvreCeQuiEstLisible(c, copie, ancienne, *motDePasse);
     if (!issue) return std::nullopt;
-    if (*issue == Issue::Ouverte) return reprend(c, copie, ancienne);
+    if (*issue == Issue::Ouverte) {
+        if (!db::sauvegardeAvant(c, db::Avant::ImportAncienne)) return std::nullopt;
+        return reprend(c, copie, ancienne);
+    }
     if (*issue == Issue::Interrompue) return Bilan{std::nullopt, RapportAncienne{.interrompu = true}};
     return Bilan{illisible(ancienne, copie.abimee() ? raison : copie.echec()), std::nullopt};
 }

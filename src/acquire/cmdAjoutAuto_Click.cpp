@@ -7,6 +7,7 @@
 #include "browse/CreeEtAfficheRecherche.h"
 #include "browse/CreeRequeteAffichage.h"
 #include "browse/RaffraichitBoitesDeroulantes.h"
+#include "db/Sauvegardes.h"
 #include "util/Nombres.h"
 
 namespace acquire {
@@ -45,6 +46,7 @@ void importeFiches(const Contexte& c, const std::function<void(RapportImport&)>&
         return;
     }
     const ChoixImport choix = demandeChoix(c, nombre);
+    if (!db::sauvegardeAvant(c, db::Avant::ImportFiches)) return;
     RapportImport rapport = PassageImport(c, choix, dossier).execute();
     c.annulations.nomme("import de " + util::phraseCompte(nombre, "# fiche", "# fiches"),
                         "Import : " + util::phraseCompte(rapport.ajoutes, "# film ajouté.", "# films ajoutés."));

@@ -2,6 +2,7 @@
 
 #include "app/Aide.h"
 #include "app/Extensions.h"
+#include "app/Sauvegardes.h"
 #include "browse/AfficheNbTitres.h"
 #include "browse/ChoixTri.h"
 #include "browse/ChoixZone.h"
@@ -130,7 +131,10 @@ void Demarrage::ouvreLaBase() {
         ouvreCelleDesReglages();
         ditLaquelleEstOuverte();
     } catch (const systeme::FinDuProgramme&) {
-        if (!db::ouvreUneAutreBase(m_c)) throw;
+        const std::string refusee = m_c.chemins.base;
+        if (db::ouvreUneAutreBase(m_c)) return annonceSauvegarde(m_c, refusee);
+        if (!accepteLaSauvegarde(m_c, refusee)) throw;
+        db::reprendLaBase(m_c);
     }
 }
 
@@ -148,7 +152,7 @@ void Demarrage::ditLaquelleEstOuverte() {
     if (!m_c.chemins.baseAbsente.empty())
         m_baseAbsente.annonce();
     else if (m_baseCreee && m_baseNommee)
-        m_c.avis.montre("La base " + m_c.chemins.base + " n'existait plus : une base vide a été créée à sa place.");
+        annonceBaseRefaite(m_c);
 }
 
 // The sort first, then the zone; each selection raises its change event. Without a zone the first one lists nothing.

@@ -2,6 +2,7 @@
 
 #include "app/EtatAnnulation.h"
 #include "app/EtatFonctions.h"
+#include "app/EtatSauvegardes.h"
 #include "browse/EtatFiche.h"
 #include "browse/EtatListe.h"
 #include "browse/EtatPanneaux.h"
@@ -37,6 +38,7 @@ struct Etats {
     view::EtatAffiche affiche;
     view::EtatFichiers fichiers;
     exportation::EtatNom nom;
+    EtatSauvegardes sauvegardes;
     ecran::EtatAvis avis;
     ecran::Demandes demandes;
     MenuContextuel menu = MenuContextuel::Aucun;

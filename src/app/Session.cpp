@@ -91,6 +91,7 @@ void Session::accompagne(const std::function<void()>& commande) {
         if (!c.film.estUnFilm()) c.etats.fichiers.Visible = false;
         nommeLaBase(c);
     };
+    m_rouages->avis.nouvelleCommande();
     try {
         m_rouages->annulation.surveille(commande);
     } catch (const systeme::FinDuProgramme&) {

@@ -1,6 +1,7 @@
 #include "db/cmdCompacter_Click.h"
 
 #include "db/OuvertureBase.h"
+#include "db/Sauvegardes.h"
 #include "db/TravauxInacheves.h"
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
@@ -78,6 +79,10 @@ Empechement nettoieLesPossessions(const Contexte& c) {
 }  // namespace
 
 void cmdCompacter_Click(const Contexte& c) {
+    if (sauvegardeAvant(c, Avant::Compactage)) compacteEtRapporte(c);
+}
+
+void compacteEtRapporte(const Contexte& c) {
     Empechement echec = compacte(c);
     if (!c.base.base.estOuverte()) {
         reprendLaBase(c);

@@ -1,6 +1,7 @@
 #include "db/cmdMajBase_Click.h"
 
 #include "db/DossierImages.h"
+#include "db/Sauvegardes.h"
 #include "db/SensConversion.h"
 #include "db/cmdCompacter_Click.h"
 #include "platform/dao/LigneSupprimee.h"
@@ -82,6 +83,14 @@ void renonceALAnnulation(const Contexte& c) {
         "la défait.");
 }
 
+// A copy of the base names those files, and has not their bytes: what it was taken before put them in the base.
+void ditCeQueLaCopieNAPas(const Contexte& c) {
+    if (!derniereSauvegarde(c.base.base.nom())) return;
+    c.avis.remarque(
+        "Les fichiers des affiches ont été retirés : la sauvegarde prise avant la conversion nomme des affiches "
+        "qui ne sont plus que dans la base.");
+}
+
 // The films that need nothing are done from the start.
 Empechement convertitLesAffiches(const Contexte& c, RapportConversion& rapport) {
     if (auto refus = refusDossierImages(c)) return refus;
@@ -96,8 +105,12 @@ Empechement convertitLesAffiches(const Contexte& c, RapportConversion& rapport) 
     if (films.Eof()) return std::nullopt;
     if (!fichiers::dossierModifiable(dossier))
         return "Le dossier des images " + dossier + " n'est pas accessible en écriture !";
+    const bool enBase = c.stockage.dansLaBase();
+    if (!sauvegardeAvant(c, enBase ? Avant::AffichesEnBase : Avant::AffichesEnFichiers)) return std::nullopt;
     renonceALAnnulation(c);
-    return convertitTout(c, *sens, films, rapport);
+    const Empechement echec = convertitTout(c, *sens, films, rapport);
+    if (enBase && rapport.inclus > 0) ditCeQueLaCopieNAPas(c);
+    return echec;
 }
 
 }  // namespace
@@ -106,7 +119,7 @@ void cmdMajBase_Click(const Contexte& c) {
     RapportConversion rapport;
     const Empechement echec = convertitLesAffiches(c, rapport);
     if (echec) c.dialogues.MsgBox(*echec, dialogues::kCritique);
-    if (rapport.crees > 0 && !echec) cmdCompacter_Click(c);
+    if (rapport.crees > 0 && !echec) compacteEtRapporte(c);
     if (const std::string texte = rapport.texte(); !texte.empty()) c.dialogues.MsgBox(texte, dialogues::kInformation);
     c.rafraichissement.AffichageApresModification();
 }

@@ -1,5 +1,6 @@
 #include "db/cmdSupprInfosPerso_Click.h"
 
+#include "db/Sauvegardes.h"
 #include "platform/dao/LigneSupprimee.h"
 #include "util/Nombres.h"
 
@@ -34,7 +35,7 @@ void cmdSupprInfosPerso_Click(const Contexte& c) {
         c.dialogues.MsgBox("Aucun titre personnel !", dialogues::kExclamation);
         return;
     }
-    if (!confirmeLaSuppression(c)) return;
+    if (!confirmeLaSuppression(c) || !sauvegardeAvant(c, Avant::Possessions)) return;
     const long supprimes = supprimeTout(c, possedes);
     const std::string combien = util::phraseCompte(supprimes, "# titre personnel", "# titres personnels");
     c.annulations.nomme("suppression de " + combien, "Appartenance supprimée : " + combien + ".");

@@ -4,6 +4,7 @@
 #include "browse/LigneDuNoeud.h"
 #include "browse/RaffraichitBoitesDeroulantes.h"
 #include "db/EnonceFilm.h"
+#include "db/Sauvegardes.h"
 #include "edit/LongueursChamps.h"
 #include "edit/RemontreFilm.h"
 #include "edit/TitreCite.h"
@@ -91,6 +92,7 @@ void RecupereInfosGroupeSelectionne(const Contexte& c, std::string& genre, std::
 
 void ModifieGroupe(const Contexte& c, const std::string& champ, const std::string& valeur, bool personnel) {
     if (valeur.empty() || !groupeChoisi(c)) return;
+    if (!db::sauvegardeAvant(c, db::Avant::Renommage)) return;
     const std::string nouvelle = util::coupe(valeur, personnel ? kLongueurSupport : kLongueurGenre);
     const std::string groupe = personnel ? "support" : "genre";
     c.annulations.nomme("renommage du " + groupe + " en " + titreCite(nouvelle),

@@ -1,6 +1,7 @@
 #include "edit/cmdPonctuation_Click.h"
 
 #include "browse/AffichageApresModification.h"
+#include "db/Sauvegardes.h"
 #include "edit/TravailParLots.h"
 #include "platform/dao/Comparaison.h"
 #include "util/Capitales.h"
@@ -71,6 +72,7 @@ void cmdPonctuation_Click(const Contexte& c) {
     if (c.dialogues.MsgBox("Êtes-vous sûr(e) de vouloir corriger tous les titres de la base ?", dialogues::kQuestion) !=
         dialogues::kOui)
         return;
+    if (!db::sauvegardeAvant(c, db::Avant::Titres)) return;
     const long modifies = corrigeTout(c);
     c.annulations.nomme("correction de " + util::phraseCompte(modifies, "# titre", "# titres"),
                         util::phraseCompte(modifies, "# titre corrigé.", "# titres corrigés."));

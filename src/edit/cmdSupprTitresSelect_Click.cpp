@@ -5,6 +5,7 @@
 #include "browse/LigneDuNoeud.h"
 #include "browse/RaffraichitBoitesDeroulantes.h"
 #include "db/EnonceFilm.h"
+#include "db/Sauvegardes.h"
 #include "edit/LignePossession.h"
 #include "edit/TravailParLots.h"
 #include "util/Nombres.h"
@@ -98,6 +99,7 @@ void cmdSupprTitresSelect_Click(const Contexte& c) {
         return;
     }
     if (c.dialogues.MsgBox(questionSuppression(noeuds.size()), dialogues::kQuestion) != dialogues::kOui) return;
+    if (!db::sauvegardeAvant(c, db::Avant::Suppression)) return;
     const Supprimes supprimes = supprime(c, lis(c, noeuds));
     c.annulations.nomme("suppression de " + util::phraseCompte(supprimes.films, "# film", "# films"),
                         util::phraseCompte(supprimes.films, "# film supprimé.", "# films supprimés."));

@@ -6,6 +6,7 @@
 #include "ui/EcranQt.h"
 #include "ui/FenetreAffiche.h"
 #include "ui/FenetreFichiers.h"
+#include "ui/FenetreSauvegardes.h"
 #include "ui/Icones.h"
 #include "ui/Infobulles.h"
 #include "ui/PageGroupe.h"
@@ -118,9 +119,10 @@ void FenetrePrincipale::completePanneaux() {
         metEnDernier(zone);
     setWindowIcon(icone(Pictogramme::Clap));
     tiensALEcran();
-    // The windows that follow the film. The viewer is composed when it first opens.
+    // The windows of their own. Viewer and safety copies are composed when they first open.
     new FenetreAffiche(m_atelier, this);
     new FenetreFichiers(m_atelier, this);
+    new FenetreSauvegardes(m_atelier, this);
     m_atelier.execute(&app::Session::Form_Activate);
 }
 

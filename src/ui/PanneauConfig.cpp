@@ -3,6 +3,7 @@
 #include "app/Aide.h"
 #include "app/Commandes.h"
 #include "app/LogicielsExternes.h"
+#include "app/Sauvegardes.h"
 #include "db/Option3_Click.h"
 #include "db/cmdMajBase_Click.h"
 #include "ui/Boutons.h"
@@ -25,7 +26,7 @@ constexpr int kLargeurExtension = 160;
 PanneauConfig::PanneauConfig(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
     nomme(this, "frameConfig");
     auto* boite = colonne(kGrand);
-    for (QLayout* partie : {images(atelier), logiciels(atelier), programme(atelier)})
+    for (QLayout* partie : {images(atelier), logiciels(atelier), programme(atelier), sauvegardes(atelier)})
         boite->addWidget(new Carte(partie));
     setLayout(boite);
     atelier.liaison.lie(atelier.etats().fonctions.frameConfig, this);
@@ -127,6 +128,15 @@ QLayout* PanneauConfig::programme(const Atelier& atelier) {
     auto* boite = section(tr("Internet"), tr("Le téléchargement des fiches est confié à un programme compagnon."));
     boite->addWidget(connexion, 0, Qt::AlignLeft);
     boite->addLayout(aGauche({page}));
+    return boite;
+}
+
+QLayout* PanneauConfig::sauvegardes(const Atelier& atelier) {
+    auto* ouvrir = bouton("cmdSauvegardes", tr("Sauvegardes…"), tr("Voir les sauvegardes de la base, et y revenir"));
+    atelier.auClic(ouvrir, app::cmdSauvegardes_Click);
+    auto* boite =
+        section(tr("Sauvegardes"), tr("La base est copiée avant chaque commande qui change beaucoup de films."));
+    boite->addLayout(aGauche({ouvrir}));
     return boite;
 }
 

@@ -20,6 +20,7 @@ class PanneauConfig final : public QWidget {
     [[nodiscard]] ListeDeroulante* listeLogiciels(const Atelier& atelier, int indice);
     [[nodiscard]] QLayout* nouvelleExtension(const Atelier& atelier);
     [[nodiscard]] QLayout* programme(const Atelier& atelier);
+    [[nodiscard]] QLayout* sauvegardes(const Atelier& atelier);
 };
 
 }  // namespace ui

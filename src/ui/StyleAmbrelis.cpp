@@ -58,12 +58,22 @@ void peintAscenseur(QPainter& peintre, const QStyleOptionSlider& option, QRect c
     peintSurface(peintre, curseur, couleur, {}, std::min(curseur.width(), curseur.height()) / 2.0);
 }
 
+constexpr qreal kDebord = 12;  // of a row beyond the column, hidden; more than its corners take
+
 void peintLigneChoisie(QPainter& peintre, const QStyleOptionViewItem& option) {
-    const QRectF zone = QRectF(option.rect).adjusted(0, 1, -2, -1);
+    // In a list of several columns it is one row: only its ends are rounded.
+    using Place = QStyleOptionViewItem::ViewItemPosition;
+    const Place place = option.viewItemPosition;
+    const qreal avant = place == Place::Middle || place == Place::End ? -kDebord : 0;
+    const qreal apres = place == Place::Middle || place == Place::Beginning ? kDebord : -2;
+    const QRectF zone = QRectF(option.rect).adjusted(avant, 1, apres, -1);
+    peintre.save();
+    peintre.setClipRect(option.rect, Qt::IntersectClip);
     if (a(option, QStyle::State_Selected))
         peintSurface(peintre, zone, accent(option.palette), {});
     else if (a(option, QStyle::State_MouseOver) && a(option, QStyle::State_Enabled))
         peintSurface(peintre, zone, voile(option.palette), {});
+    peintre.restore();
 }
 
 // No arrows: the whole length is the groove.

@@ -1,6 +1,7 @@
 #include "app/ChoixFonction.h"
 #include "app/Commandes.h"
 #include "app/RaccourcisClavier.h"
+#include "app/Sauvegardes.h"
 #include "browse/RaffraichitBoitesDeroulantes.h"
 #include "browse/lblRealisateur_Click.h"
 #include "edit/ModifieGroupe.h"
@@ -344,6 +345,17 @@ class UneSession : public Collectionneur {
         EXPECT_THAT(etats().fiche.Combo7[2].Items, ElementsAre("Blu-ray"));
     }
 
+    // Each command that changed many films has a copy from before it, the last one first.
+    void retrouveSesSauvegardes() {
+        session().execute(app::cmdSauvegardes_Click);
+        std::vector<std::string> copies;
+        for (const auto& ligne : etats().sauvegardes.lignes)
+            copies.push_back(ligne.films + ", " + ligne.avant);
+        EXPECT_THAT(copies, ElementsAre("3, correction des titres", "3, correction des titres",
+                                        "6, suppression de plusieurs films", "6, renommage d'un groupe",
+                                        "6, renommage d'un groupe", "0, import de fiches"));
+    }
+
     std::vector<std::vector<std::string>> listesLaissees;
 };
 
@@ -365,6 +377,7 @@ TEST_F(UneSession, FromAnEmptyFolderToTheNextDay) {
     arrete();
     ASSERT_NO_FATAL_FAILURE(demarre());
     retrouveTout();
+    retrouveSesSauvegardes();
 }
 
 }  // namespace

@@ -39,14 +39,20 @@ class Avis {
 
     // Shows the text in place of the last notice. One action as a rule, two at most.
     void montre(std::string texte, std::vector<Action> actions = {}) {
+        m_texte = std::move(texte);
         m_actions = std::move(actions);
-        m_etat.lblAvis.Caption = std::move(texte);
-        m_etat.frameAvis.Visible = true;
-        for (std::size_t i = 0; i < m_etat.cmdAvis.size(); ++i) {
-            m_etat.cmdAvis[i].Visible = i < m_actions.size();
-            if (i < m_actions.size()) m_etat.cmdAvis[i].Caption = m_actions[i].legende;
-        }
-        ++m_etat.numero;
+        m_parLaCommande = true;
+        affiche();
+    }
+    // What the running command has to say beside its notice: it stands behind the one that it showed or will show.
+    void remarque(const std::string& texte) {
+        if (!m_parLaCommande) montre("");
+        m_remarque += (m_remarque.empty() ? "" : " ") + texte;
+        affiche();
+    }
+    void nouvelleCommande() {
+        m_remarque.clear();
+        m_parLaCommande = false;
     }
     // One more action of the notice that stands, where it has room for one.
     void ajoute(Action action) {
@@ -58,6 +64,7 @@ class Avis {
     }
     // Takes the notice away, and its actions with it.
     void retire() {
+        m_texte.clear();
         m_actions.clear();
         m_etat.retire();
     }
@@ -69,8 +76,21 @@ class Avis {
     }
 
   private:
+    void affiche() {
+        m_etat.lblAvis.Caption = m_texte + (m_texte.empty() || m_remarque.empty() ? "" : " ") + m_remarque;
+        m_etat.frameAvis.Visible = true;
+        for (std::size_t i = 0; i < m_etat.cmdAvis.size(); ++i) {
+            m_etat.cmdAvis[i].Visible = i < m_actions.size();
+            if (i < m_actions.size()) m_etat.cmdAvis[i].Caption = m_actions[i].legende;
+        }
+        ++m_etat.numero;
+    }
+
     EtatAvis& m_etat;
+    std::string m_texte;
     std::vector<Action> m_actions;
+    std::string m_remarque;        // of the command that runs
+    bool m_parLaCommande = false;  // the notice is
 };
 
 }  // namespace ecran

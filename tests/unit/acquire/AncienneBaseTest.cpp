@@ -2,6 +2,7 @@
 #include "acquire/ImporterAncienneBase.h"
 #include "acquire/LotImport.h"
 #include "db/ConversionJet.h"
+#include "db/Sauvegardes.h"
 #include "doubles/CollectionJet.h"
 #include "doubles/Mort.h"
 #include "parcours/Photo.h"
@@ -155,6 +156,7 @@ TEST_F(AncienneBaseTest, CarriesEveryFieldAsItIs) {
              film("Autre", "autre chose")},
             {possede});
     importe("5 films ajoutés, dont 1 possédé.\n1 image non trouvée.\n1 image trop grande pour la base.");
+    EXPECT_EQ(db::sauvegardesDe(chemins.base).at(0).nom.avant, db::Avant::ImportAncienne);
     EXPECT_THAT(photo().depuis(parcours::Photo(ancienne.chemin("Films.mdb"))), ElementsAre("*Films : Été de R"));
     const auto affiches = colonne("Films", "Affiche");
     EXPECT_THAT(std::vector(affiches.begin() + 1, affiches.end()),
