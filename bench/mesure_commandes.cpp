@@ -1,4 +1,5 @@
-// mesure_commandes recherche DOSSIER TEXTE | ajout DOSSIER | conversion DOSSIER FILMS | annulation DOSSIER FICHES
+// mesure_commandes recherche DOSSIER TEXTE | ajout DOSSIER | sauvegarde DOSSIER | conversion DOSSIER FILMS |
+// annulation DOSSIER FICHES
 // Single commands of the program without its window, in a program folder, to be held against plancher_commandes.
 
 #include "Mesure.h"
@@ -7,9 +8,11 @@
 #include "app/Annulation.h"
 #include "app/ChoixFonction.h"
 #include "app/Commandes.h"
+#include "app/Sauvegardes.h"
 #include "browse/ChoixTri.h"
 #include "browse/TexteRequete.h"
 #include "db/Option3_Click.h"
+#include "db/Sauvegardes.h"
 #include "db/Schema.h"
 #include "db/cmdCompacter_Click.h"
 #include "db/cmdMajBase_Click.h"
@@ -19,7 +22,9 @@
 #include "platform/dao/DBEngine.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <ctime>
+#include <limits>
 
 #include <unistd.h>
 
@@ -141,13 +146,30 @@ void mesureAnnulation(app::Session& session, const std::string& dossier, const s
     bench::declare("memoire", bench::memoireDePointe());
 }
 
+// A safety copy, whatever the hour; then what the window shows of it.
+void mesureSauvegarde(app::Session& session) {
+    constexpr db::ReglesDesSauvegardes kToujours{.gardees = 1, .grosseBase = std::numeric_limits<std::int64_t>::max()};
+    sync();
+    bench::declare("sauvegarde", bench::meilleureDuree(3, [&] {
+                       session.execute([&](const db::Contexte& c) {
+                           if (db::sauvegarde(c, db::Avant::Titres, kToujours).issue != db::IssueSauvegarde::Faite)
+                               throw std::runtime_error("no copy");
+                       });
+                   }));
+    bench::declare("fenetre", bench::meilleureDuree(3, [&] { session.execute(app::cmdSauvegardes_Click); }));
+    bench::declare("comparaison",
+                   bench::meilleureDuree(3, [&] { session.execute(app::cmdComparerSauvegarde_Click, 0); }));
+    bench::declare("retour", bench::meilleureDuree(1, [&] { session.execute(app::cmdRevenirSauvegarde_Click, 0); }));
+}
+
 }  // namespace
 
 int main(int nombre, char** mots) try {
     const std::string genre = nombre > 2 ? mots[1] : "";
-    if (genre != "ajout" && (nombre < 4 || (genre != "recherche" && genre != "conversion" && genre != "annulation")))
+    if (genre != "ajout" && genre != "sauvegarde" &&
+        (nombre < 4 || (genre != "recherche" && genre != "conversion" && genre != "annulation")))
         throw std::invalid_argument(
-            "usage: mesure_commandes recherche|ajout|conversion|annulation DOSSIER [TEXTE|FILMS|FICHES]");
+            "usage: mesure_commandes recherche|ajout|sauvegarde|conversion|annulation DOSSIER [TEXTE|FILMS|FICHES]");
     if (genre == "recherche") return mesureRecherche(mots[2], mots[3]), 0;
     bench::Machine machine;
     app::Session session(machine.pour(mots[2]));
@@ -156,6 +178,8 @@ int main(int nombre, char** mots) try {
         mesureAjout(session);
     else if (genre == "annulation")
         mesureAnnulation(session, mots[2], mots[3]);
+    else if (genre == "sauvegarde")
+        mesureSauvegarde(session);
     else
         mesureConversion(session, machine, mots[3]);
     session.Form_Unload();

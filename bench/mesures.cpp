@@ -225,6 +225,23 @@ void mesureConversion(bench::Tableau& tableau, const Options& options, int films
     compare("compaction with the posters", "compactage");
 }
 
+void mesureSauvegardes(bench::Tableau& tableau, const Options& options, int films) {
+    const fs::path modele = collection(options, {films, true});
+    const auto [plancher, programme] = enAlternance(
+        2,
+        [&] {
+            return bench::lance("plancher_commandes", {"sauvegarde", copieDe(options, modele).string()});
+        },
+        [&] {
+            return bench::lance("mesure_commandes", {"sauvegarde", copieDe(options, modele).string()});
+        });
+    tableau.titre("safety copies of " + std::to_string(films) + " films with their posters");
+    tableau.ajoute({"a copy", "ms", programme.at("sauvegarde"), plancher.at("sauvegarde"), 2.0, true});
+    tableau.ajoute({"their list", "ms", programme.at("fenetre"), {}, {}});
+    tableau.ajoute({"one compared with today", "ms", programme.at("comparaison"), {}, {}});
+    tableau.ajoute({"the way back, today saved", "ms", programme.at("retour"), plancher.at("sauvegarde"), {}, true});
+}
+
 Figures listeDe(const Options& options, const char* genre, const Collection& c) {
     const std::string dossier = collection(options, c).string();
     std::vector<Figures> passages;
@@ -314,6 +331,7 @@ int main(int nombre, char** mots) try {
     mesureCommandes(tableau, options, options.vite ? 10000 : 100000);
     mesureListes(tableau, options);
     mesureConversion(tableau, options, options.vite ? 2000 : 10000);
+    mesureSauvegardes(tableau, options, options.vite ? 2000 : 10000);
     mesureBaseJet(tableau, options);
     if (!options.garde) fs::remove_all(options.dossier);
     std::cout << '\n'

@@ -10,6 +10,7 @@
 #include <fstream>
 #include <vector>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace {
@@ -127,6 +128,19 @@ void mesureConversion(const fs::path& dossier) {
     bench::declare("compactage", dureeSeule([&] { base.execute(("VACUUM INTO '" + sansAffiches + "'").c_str()); }));
 }
 
+// The bytes of the base in another file, on the disk.
+void mesureCopie(const fs::path& dossier) {
+    const std::string chemin = dossier / "Films.mdb", copie = chemin + "-copie";
+    sync();
+    bench::declare("sauvegarde", bench::meilleureDuree(3, [&] {
+                       fs::remove(copie);
+                       fs::copy_file(chemin, copie);
+                       const int fichier = open(copie.c_str(), O_RDONLY);
+                       if (fichier < 0 || fsync(fichier) != 0) throw std::runtime_error("no copy");
+                       close(fichier);
+                   }));
+}
+
 }  // namespace
 
 int main(int nombre, char** mots) try {
@@ -135,8 +149,10 @@ int main(int nombre, char** mots) try {
         mesureRecherche(mots[2], mots[3]);
     else if (genre == "conversion")
         mesureConversion(mots[2]);
+    else if (genre == "sauvegarde")
+        mesureCopie(mots[2]);
     else
-        throw std::invalid_argument("usage: plancher_commandes recherche|conversion DOSSIER [TEXTE]");
+        throw std::invalid_argument("usage: plancher_commandes recherche|conversion|sauvegarde DOSSIER [TEXTE]");
     return 0;
 } catch (const std::exception& e) {
     std::cerr << "plancher_commandes: " << e.what() << '\n';
