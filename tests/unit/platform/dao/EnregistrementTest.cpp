@@ -108,7 +108,7 @@ TEST_F(EnregistrementTest, NothingIsAppliedToRowsThatAreNoLongerWhatTheyWere) {
         essai.base.Close();
         std::filesystem::remove(essai.chemin);
         dao::DBEngine::CreateDatabase(essai.chemin, essais::kSchema);
-        base = dao::DBEngine::OpenDatabase(essai.chemin);
+        essai.ouvre();
         for (const auto titre : {"Avatar", "Brazil", "Casino"})
             essai.film(titre, "x");
         commence();
