@@ -79,6 +79,25 @@ std::optional<std::string> decodeSelonLaMarque(std::string_view octets) {
     return std::nullopt;
 }
 
+// Marks are dropped as often as they stand there: what is written of the text must not begin with one again.
+std::string_view sansMarque(std::string_view texte) {
+    while (texte.starts_with(kMarqueUtf8))
+        texte.remove_prefix(kMarqueUtf8.size());
+    return texte;
+}
+
+// Of bytes that call themselves UTF-8, those that are none are taken for Windows-1252.
+std::string enUtf8(std::string_view octets) {
+    std::string texte;
+    texte.reserve(octets.size());
+    for (std::size_t i = 0; i < octets.size();) {
+        const PointDeCode point = litPoint(octets, i);
+        ajoutePoint(texte, point.valeur < 0 ? pointDepuis1252(static_cast<unsigned char>(octets[i])) : point.valeur);
+        i += point.taille;
+    }
+    return texte;
+}
+
 // Of a text without a mark: the alphabets of Europe leave one byte of nearly every pair at zero.
 std::optional<bool> petitDabordSansMarque(std::string_view octets) {
     const std::string_view debut = octets.substr(0, std::min<std::size_t>(octets.size() & ~std::size_t{1}, 4096));
@@ -148,8 +167,8 @@ std::string depuisUtf16(std::u16string_view unites) {
 }
 
 std::string decodeTexteExterne(std::string_view octets) {
-    if (octets.starts_with(kMarqueUtf8)) return std::string(octets.substr(kMarqueUtf8.size()));
-    if (const auto large = decodeSelonLaMarque(octets)) return *large;
+    if (const auto large = decodeSelonLaMarque(octets)) return std::string(sansMarque(*large));
+    if (octets.starts_with(kMarqueUtf8)) return enUtf8(sansMarque(octets));
     return estUtf8(octets) ? std::string(octets) : depuis1252(octets);
 }
 

@@ -43,8 +43,9 @@ namespace util {
 [[nodiscard]] std::string vers1252(std::string_view texte);
 // U+FFFD stands for a half of a character without its other half.
 [[nodiscard]] std::string depuisUtf16(std::u16string_view unites);
-// A text of the outside world: UTF-8 when it starts with a byte order mark (which is dropped) or is valid UTF-8 with
-// characters beyond ASCII; UTF-16 or UTF-32 with their mark; otherwise Windows-1252.
+// A text of the outside world, always UTF-8 in the end: it is UTF-8 when it starts with a byte order mark (which is
+// dropped) or is valid UTF-8 with characters beyond ASCII; UTF-16 or UTF-32 with their mark; otherwise Windows-1252, and
+// so are the bytes of a marked text that are no UTF-8.
 [[nodiscard]] std::string decodeTexteExterne(std::string_view octets);
 // A text of two or four bytes to the character: UTF-16 or UTF-32 with their mark, or UTF-16 that shows by its zero
 // bytes. U+FFFD stands where the bytes say no character. Nothing for a text of any other kind.
