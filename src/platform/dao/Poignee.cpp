@@ -36,6 +36,24 @@ void exigeSignature(const std::string& chemin) {
     if (lu != kSignature) jette(kErreurFormat, "« " + chemin + " » n'est pas une base, ou elle est endommagée.");
 }
 
+// What SQLite takes for the base's own where it stands beside it came from wherever the base did. A pipe would be waited
+// for; and a journal that ends as those of several bases do names a file that SQLite deletes, whichever it is.
+void exigeJournauxSimples(const std::string& chemin) {
+    constexpr std::string_view kMarque = "\xd9\xd5\x05\xf9\x20\xa1\x63\xd7";
+    std::error_code erreur;
+    const std::string base = std::filesystem::canonical(chemin, erreur).string();
+    for (const char* suite : {"-journal", "-wal", "-shm"}) {
+        const auto etat = std::filesystem::symlink_status(base + suite, erreur);
+        if (std::filesystem::exists(etat) && !std::filesystem::is_regular_file(etat))
+            jette(kErreurFormat, "« " + base + suite + " » n'est pas un fichier.");
+    }
+    std::ifstream journal(base + "-journal", std::ios::binary | std::ios::ate);
+    std::array<char, kMarque.size()> fin{};
+    journal.seekg(-static_cast<std::streamoff>(fin.size()), std::ios::cur).read(fin.data(), fin.size());
+    if (journal && kMarque == std::string_view(fin.data(), fin.size()))
+        jette(kErreurFormat, "Le journal de la base « " + chemin + " » nomme un autre fichier.");
+}
+
 // What a file made elsewhere may hold must not act by itself.
 void protege(sqlite3* base) {
     sqlite3_db_config(base, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
@@ -71,7 +89,7 @@ void essaieDEcrire(Poignee& base, bool exclusif) {
 // it twice, once to the journal.
 void ouvre(Poignee& base, bool exclusif) {
     protege(base.brute());
-    base.execute("PRAGMA secure_delete=FAST");
+    base.execute("PRAGMA cell_size_check=ON; PRAGMA secure_delete=FAST");
     base.execute("PRAGMA synchronous=FULL; PRAGMA cache_size=-8000; PRAGMA temp_store=MEMORY");
     if (exclusif) base.execute("PRAGMA locking_mode=EXCLUSIVE");
     verifieLeContenu(base);
@@ -181,6 +199,7 @@ std::vector<std::string> Poignee::textes(const std::string& sql) {
 Poignee ouvreBase(const std::string& chemin, bool exclusif) {
     exigeFichier(chemin);
     exigeSignature(chemin);
+    exigeJournauxSimples(chemin);
     try {
         Poignee base(chemin, SQLITE_OPEN_READWRITE);
         ouvre(base, exclusif);

@@ -58,12 +58,14 @@ void Table::adopteCle(const std::vector<Cle>& cles) {
     suivi.index.oublie();
 }
 
+// Not pragma_table_list: it works out the columns of every view, and a view of a few lines can have it work for hours. A
+// table without row ids is the one that has the name of an index.
 std::unique_ptr<Table> litTable(Connexion& connexion, std::string_view nom) {
     auto table = std::make_unique<Table>();
     {
         Requete forme = connexion.prepare(
-            "SELECT name FROM pragma_table_list WHERE schema='main' AND type='table' AND wr=0 AND name=?1 COLLATE "
-            "NOCASE");
+            "SELECT name FROM sqlite_schema WHERE type='table' AND rootpage<>0 AND name=?1 COLLATE NOCASE "
+            "AND NOT EXISTS (SELECT 1 FROM pragma_index_info(name))");
         forme.lie(1, Valeur(nom));
         if (!forme.avance()) return nullptr;
         table->nom = forme.valeur(0).texte();

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -56,9 +57,13 @@ TEST_F(cmdChargeOuvreBaseTest, ItsFourRefusalsChangeNothing) {
 
 TEST_F(cmdChargeOuvreBaseTest, AFileThatIsNoBaseLeavesTheOpenOne) {
     dossier.ecrit("lettre.mdb", "Ce fichier est une lettre.");
-    choisit(chemin("lettre.mdb"));
-    dialogues.attendMsgBox("Erreur (22) : Ouverture de la base (Lecture seule/Fichier manquant ?)", 16);
-    rienNAChange();
+    ASSERT_EQ(mkfifo(chemin("tube.mdb").c_str(), 0600), 0);
+    std::filesystem::create_symlink("/dev/zero", chemin("lien.mdb"));
+    for (const char* nom : {"lettre.mdb", "tube.mdb", "lien.mdb"}) {
+        choisit(chemin(nom));
+        dialogues.attendMsgBox("Erreur (22) : Ouverture de la base (Lecture seule/Fichier manquant ?)", 16);
+        rienNAChange();
+    }
     EXPECT_EQ(dossier.lit("lettre.mdb"), "Ce fichier est une lettre.");
 }
 

@@ -8,6 +8,9 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <numeric>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -39,7 +42,10 @@ TEST(Ouverture, TellsFilesThatAreNoBaseAndLeavesThemAlone) {
     const std::string base = octetsDe(essai.chemin);
     EXPECT_EQ(numeroDOuverture(essai.dossier.chemin("absent.mdb")), dao::kErreurFichierIntrouvable);
     EXPECT_FALSE(essai.dossier.existe("absent.mdb"));
-    EXPECT_EQ(numeroDOuverture(essai.dossier.chemin()), dao::kErreurFormat);
+    ASSERT_EQ(mkfifo(essai.dossier.chemin("tube.mdb").c_str(), 0600), 0);
+    for (const std::string& autre :
+         {essai.dossier.chemin(), essai.dossier.chemin("tube.mdb"), std::string("/dev/zero"), std::string("/dev/tty")})
+        EXPECT_EQ(numeroDOuverture(autre), dao::kErreurFormat) << autre;
     std::string autreProgramme = base;
     autreProgramme[70] = 'Z';  // the application id
     std::string demiSchema = base;
@@ -199,6 +205,68 @@ TEST(Ouverture, WhatTheFileHoldsDoesNotActByItself) {
     films.Update();
     EXPECT_EQ(essai.base.OpenRecordset("Personnel").RecordCount(), 1);
     EXPECT_EQ(numeroErreur([&] { (void)essai.base.OpenRecordset("Vue"); }), dao::kErreurTableIntrouvable);
+}
+
+TEST(Ouverture, ABaseAndItsCopyAreAsPrivateAsTheUserWants) {
+    const doubles::DossierTemporaire dossier;
+    const mode_t avant = umask(077);
+    dao::DBEngine::CreateDatabase(dossier.chemin("b.mdb"), essais::kSchema);
+    umask(avant);
+    dao::DBEngine::CompactDatabase(dossier.chemin("b.mdb"), dossier.chemin("copie.mdb"));
+    for (const char* nom : {"b.mdb", "copie.mdb"})
+        EXPECT_EQ(fs::status(dossier.chemin(nom)).permissions() & fs::perms(077), fs::perms::none) << nom;
+}
+
+// What stands beside the base came with it. SQLite rolls a journal back, then deletes the file that its end names.
+TEST(Ouverture, NoJournalLeadsToAnotherFile) {
+    BaseDEssai essai;
+    essai.film("Dune", "x");
+    essai.base.Close();
+    const std::string base = octetsDe(essai.chemin), victime = essai.dossier.ecrit("victime.txt", "victime");
+    const auto entier = [](std::size_t valeur) {
+        std::string octets;
+        for (int bits = 24; bits >= 0; bits -= 8)
+            octets += static_cast<char>(valeur >> bits & 0xFF);
+        return octets;
+    };
+    const std::string marque = "\xd9\xd5\x05\xf9\x20\xa1\x63\xd7";
+    constexpr std::size_t kPage = 4096;
+    std::string tete = marque + entier(0) + entier(0) + entier(base.size() / kPage) + entier(512) + entier(kPage);
+    tete.resize(512);
+    const auto somme = std::accumulate(victime.begin(), victime.end(), std::size_t{0});
+    essai.dossier.ecrit("films.mdb-journal", tete + entier(0x40000000 / kPage + 1) + victime + entier(victime.size()) +
+                                                 entier(somme) + marque);
+    EXPECT_EQ(numeroDOuverture(essai.chemin), dao::kErreurFormat);
+    EXPECT_TRUE(fs::exists(victime));
+    const std::string journal = essai.dossier.chemin("films.mdb-journal");
+    fs::remove(journal);
+    fs::create_symlink(essai.dossier.chemin("neuf"), journal);
+    EXPECT_EQ(numeroDOuverture(essai.chemin), dao::kErreurFormat);
+    fs::remove(journal);
+    ASSERT_EQ(mkfifo(journal.c_str(), 0600), 0);
+    EXPECT_EQ(numeroDOuverture(essai.chemin), dao::kErreurFormat);
+    fs::remove(journal);
+    essai.dossier.ecrit("films.mdb-journal", tete);
+    EXPECT_EQ(numeroDOuverture(essai.chemin), 0) << "one that a killed program left";
+    EXPECT_EQ(octetsDe(essai.chemin), base);
+    EXPECT_FALSE(essai.dossier.existe("neuf"));
+}
+
+// Views are never looked into: the columns of this one take hours to work out.
+TEST(Ouverture, AViewOfManyMirrorsHoldsNobodyUp) {
+    BaseDEssai essai;
+    std::string vue = "CREATE VIEW Vue AS WITH c0(x) AS (SELECT 1)";
+    for (int i = 1; i < 40; ++i) {
+        const std::string avant = "SELECT * FROM c" + std::to_string(i - 1);
+        vue += ", c" + std::to_string(i) + " AS (" + avant + " UNION ALL " + avant + ")";
+    }
+    essai.base.Execute(vue + " SELECT * FROM c39");
+    essai.film("Dune", "x");
+    essai.base = dao::DBEngine::OpenDatabase(essai.chemin);
+    EXPECT_EQ(essai.lit("SELECT * FROM Films"), std::vector<std::string>{"Dune"});
+    essai.base.Close();
+    dao::DBEngine::CompactDatabase(essai.chemin, essai.dossier.chemin("copie.mdb"));
+    EXPECT_EQ(numeroDOuverture(essai.dossier.chemin("copie.mdb")), 0);
 }
 
 TEST(Ouverture, CreateRefusesAnExistingFile) {
