@@ -1,5 +1,6 @@
 #include "rapatrix/ListeFiches.h"
 
+#include "ui/Infobulles.h"
 #include "util/Texte.h"
 
 #include <algorithm>
@@ -34,7 +35,7 @@ void ListeFiches::ajoute(const std::vector<Lien>& fiches) {
         const QString texte = colonne(lien, m_affichee);
         auto* film = new QStandardItem(texte.isEmpty() ? QString::fromStdString(lien.adresse) : texte);
         film->setData(colonne(lien, m_telechargee), kAdresse);
-        film->setToolTip(QString::fromStdString(lien.adresse));
+        film->setToolTip(ui::enInfobulle(QString::fromStdString(lien.adresse)));
         film->setCheckable(true);
         film->setEditable(false);
         auto* etat = new QStandardItem;
@@ -60,7 +61,7 @@ void ListeFiches::note(const QString& adresse, const QString& etat) {
     const int rang = rangDe(adresse);
     if (rang < 0) return;
     item(rang, Etat)->setText(etat);
-    item(rang, Etat)->setToolTip(etat);
+    item(rang, Etat)->setToolTip(ui::enInfobulle(etat));
 }
 
 void ListeFiches::decoche(const QString& adresse) {

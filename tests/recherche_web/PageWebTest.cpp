@@ -1,3 +1,4 @@
+#include "rapatrix/ListeFiches.h"
 #include "rapatrix/PageWeb.h"
 #include "rapatrix/Reglages.h"
 
@@ -66,6 +67,16 @@ TEST(PageWeb, OnlyTheSitesOwnAddressesAreFollowed) {
     EXPECT_THAT(rapatrix::pagesSuivantes(liens, kPage), ElementsAre(kPage + "&page=2", kPage + "&page=3"));
     EXPECT_EQ(rapatrix::lienArchive(liens, "/getzip.html/", "zip", kSite), kSite + "/getzip.html/a.ZIP");
     EXPECT_EQ(rapatrix::lienArchive(liens, "/absent/", "zip", kSite), "");
+}
+
+// Qt would take it for HTML, and read the files that it names.
+TEST(ListeFiches, WhatAPageSaysIsShownAsItIs) {
+    const std::string adresse = kSite + "/<img src='/dev/zero'>";
+    rapatrix::ListeFiches liste(2, 1);
+    liste.ajoute({{adresse, "Un"}});
+    liste.note(QString::fromStdString(adresse), "<img src='/dev/zero'>");
+    for (int colonne : {0, 1})
+        EXPECT_TRUE(liste.item(0, colonne)->toolTip().contains("&lt;img")) << colonne;
 }
 
 }  // namespace
