@@ -12,6 +12,10 @@ if(AMBRELIS_SANITIZE)
     -fno-omit-frame-pointer $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_link_options(ambrelis_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(AMBRELIS_FUZZ)
+  target_compile_options(ambrelis_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(ambrelis_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # What nearly every file includes is parsed once for all rooms but Qt's: they are compiled alike. The preset tidy has none
 # of it, and so sees the #include that a file forgot.

@@ -3,6 +3,8 @@
 #include <QBuffer>
 #include <QImage>
 #include <QImageWriter>
+#include <algorithm>
+#include <random>
 
 #include <gtest/gtest.h>
 
@@ -116,6 +118,28 @@ TEST(ImagesQt, APictureThatCannotBeDecodedSmallerIsNotWaitedFor) {
     EXPECT_TRUE(images.charge(octets({2000, 3000}, "PNG")));
     EXPECT_FALSE(images.charge(octets({4000, 3000}, "PNG")));
     EXPECT_TRUE(images.charge(octets({4000, 3000}, "JPG")));
+}
+
+// Cut off anywhere, or with bytes of the head written over: a picture of the size told, within the bounds, or none.
+TEST(ImagesQt, ADamagedPictureIsBoundedOrNone) {
+    ui::ImagesQt images;
+    std::minstd_rand hasard(1);
+    for (const char* format : {"JPG", "PNG", "BMP"}) {
+        const std::string saine = octets({90, 60}, format);
+        for (int i = 0; i < 200; ++i) {
+            std::string abimee = saine;
+            if (i % 4 == 0) abimee.resize(hasard() % saine.size());
+            for (int j = 0; j < 3 && !abimee.empty(); ++j)
+                abimee[hasard() % std::min<std::size_t>(abimee.size(), 300)] = static_cast<char>(hasard());
+            const auto taille = images.charge(abimee);
+            ASSERT_EQ(images.estVide(), !taille) << format << i;
+            const qint64 surface = taille ? qint64{taille->largeur} * taille->hauteur : 0;
+            EXPECT_LE(surface, 64'000'000) << format << i;
+            const QSize montree = images.affiche({193, 297}).size(), entiere = images.entiere().size();
+            EXPECT_LE(montree.width() * montree.height(), 193 * 297) << format << i;
+            EXPECT_LE(qint64{entiere.width()} * entiere.height(), 16'100'000) << format << i;
+        }
+    }
 }
 
 TEST(ImagesQt, WhatCannotBeDecodedIsNoPicture) {

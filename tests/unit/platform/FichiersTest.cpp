@@ -215,6 +215,20 @@ TEST(FichiersEcriture, ReplacingKeepsRightsAndLinksAndLeavesNothingBeside) {
     EXPECT_EQ(entrees(d), (std::vector<std::string>{"lien", "neuf", "vrai"}));
 }
 
+TEST(FichiersEcriture, NewFilesAreAsPrivateAsTheUserWants) {
+    const DossierTemporaire d;
+    const mode_t avant = umask(077);
+    EXPECT_TRUE(fichiers::ecrit(d.chemin("ecrit"), "x"));
+    EXPECT_TRUE(fichiers::remplace(d.chemin("remplace"), "x"));
+    EXPECT_EQ(fichiers::cree(d.chemin("cree"), "x"), fichiers::Creation::Faite);
+    EXPECT_TRUE(fichiers::copie(d.chemin("cree"), d.chemin("copie")));
+    EXPECT_TRUE(fichiers::creeDossier(d.chemin("dossier")));
+    umask(avant);
+    for (const std::string& nom : entrees(d))
+        EXPECT_EQ(fs::status(d.chemin(nom)).permissions() & fs::perms(077), fs::perms::none) << nom;
+    EXPECT_EQ(entrees(d).size(), 5U);
+}
+
 TEST(FichiersEcriture, WhatCannotBeReplacedStillStands) {
     const DossierTemporaire d;
     d.ecrit("dossier/f", "ancien");
