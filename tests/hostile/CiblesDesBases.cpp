@@ -175,6 +175,7 @@ class Etranger {
     explicit Etranger(const std::string& chemin) {
         sqlite3_open(chemin.c_str(), &m_base);
         sqlite3_limit(m_base, SQLITE_LIMIT_LENGTH, 1 << 20);
+        execute("PRAGMA synchronous=OFF");
         sqlite3_db_config(m_base, SQLITE_DBCONFIG_WRITABLE_SCHEMA, 1, nullptr);
         const auto dedans = [](void*, int quoi, const char*, const char*, const char*, const char*) {
             return quoi == SQLITE_ATTACH ? SQLITE_DENY : SQLITE_OK;
@@ -326,8 +327,8 @@ void baseJet(std::string_view octets) {
     exige(machine.dossier.lit(kNom) == fichier, "the original stays as it was");
 }
 
-constexpr std::array kCibles{Cible{"enonce", enonce, 300, 300}, Cible{"base_abimee", baseAbimee, 140, 40},
-                             Cible{"base_etrangere", baseEtrangere, 500, 40}, Cible{"jet", baseJet, 141, 60}};
+constexpr std::array kCibles{Cible{"enonce", enonce, 300, 300}, Cible{"base_abimee", baseAbimee, 140, 20},
+                             Cible{"base_etrangere", baseEtrangere, 500, 15}, Cible{"jet", baseJet, 141, 60}};
 
 }  // namespace
 
