@@ -56,8 +56,9 @@ PageGroupe::PageGroupe(const Atelier& atelier, QWidget* parent)
         auto* vignette = m_vignettes[i] = nomme(new Vignette(m_mur), "cmdVignette", i);
         vignette->hide();
         vignette->installEventFilter(this);
-        connect(vignette, &QAbstractButton::clicked, this,
-                [this, i] { m_atelier.execute(app::TreeView1_NodeClick, m_page.noeuds[i]); });
+        connect(vignette, &QAbstractButton::clicked, this, [this, i] {
+            if (!m_perimee) m_atelier.execute(app::TreeView1_NodeClick, m_page.noeuds[i]);
+        });
     }
     entrePar(0);
     auto* boite = colonne(kGrand);
@@ -68,8 +69,8 @@ PageGroupe::PageGroupe(const Atelier& atelier, QWidget* parent)
     m_mur->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
 
     connect(m_renommer, &QAbstractButton::clicked, this, &PageGroupe::renomme);
-    m_chargement.setSingleShot(true);
-    connect(&m_chargement, &QTimer::timeout, this, &PageGroupe::chargeSuivante);
+    m_suite.setSingleShot(true);
+    connect(&m_suite, &QTimer::timeout, this, &PageGroupe::avance);
     atelier.liaison.apresEcriture([this] { suis(); });
     hide();
 }
@@ -81,25 +82,27 @@ void PageGroupe::suis() {
         panneaux.frameRecherche.Visible || (panneaux.frameMultiSuppression.Visible && !panneaux.frameFiche.Visible);
     const bool accueil = panneaux.framePresentation.Visible && !browse::catalogueVide(etats.liste);
     const bool voulue = sousUneBande || accueil;
-    if (voulue) {
-        const browse::PageDuGroupe page = browse::pageDuGroupe(etats.liste);
-        const int generation = etats.liste.TreeView1.Nodes.generation();
-        if (page != m_page || generation != m_generation) {
-            m_generation = generation;
-            montre(page);
-        }
+    const browse::VueArbre& vue = etats.liste.TreeView1;
+    if (voulue && std::exchange(m_vue, {vue.Nodes.generation(), vue.SelectedItem}) != m_vue) {
+        m_perimee = true;
+        m_suite.stop();  // until the list and this were painted
+        update();
     }
     setVisible(voulue);
 }
 
-void PageGroupe::montre(const browse::PageDuGroupe& page) {
-    const browse::Arbre& arbre = m_atelier.etats().liste.TreeView1.Nodes;
-    m_page = page;
-    m_nom->setText(QString::fromStdString(page.nom));
-    m_compte->setText(QString::fromStdString(page.compte));
-    m_renommer->setVisible(page.renommage != browse::Renommage::Aucun);
-    for (std::size_t i = 0; i < page.noeuds.size(); ++i) {
-        const std::string_view titre = arbre.Text(page.noeuds[i]);
+void PageGroupe::metAJour() {
+    m_perimee = false;
+    const browse::EtatListe& liste = m_atelier.etats().liste;
+    const browse::Arbre& arbre = liste.TreeView1.Nodes;
+    browse::PageDuGroupe page = browse::pageDuGroupe(liste);
+    if (std::exchange(m_generation, arbre.generation()) == arbre.generation() && page == m_page) return;
+    m_page = std::move(page);
+    m_nom->setText(QString::fromStdString(m_page.nom));
+    m_compte->setText(QString::fromStdString(m_page.compte));
+    m_renommer->setVisible(m_page.renommage != browse::Renommage::Aucun);
+    for (std::size_t i = 0; i < m_page.noeuds.size(); ++i) {
+        const std::string_view titre = arbre.Text(m_page.noeuds[i]);
         m_vignettes[i]->metTitre(QString::fromUtf8(titre.data(), static_cast<qsizetype>(titre.size())).trimmed());
     }
     entrePar(0);
@@ -124,27 +127,26 @@ void PageGroupe::range() {
 
 void PageGroupe::recharge(int apres) {
     m_rang = 0;
-    m_aCharger = true;
-    if (isVisible() && m_chargement.isActive()) m_chargement.stop();
-    if (apres > 0) m_chargement.start(apres);
+    m_suite.stop();
+    if (apres > 0) m_suite.start(apres);
     update();
 }
 
 // Another command may be running: the base is its own then.
-void PageGroupe::chargeSuivante() {
+void PageGroupe::avance() {
     if (!isVisible()) return;
-    if (m_atelier.commande.enCours()) return m_chargement.start(kPendantUneCommande);
-    m_aCharger = false;
+    if (m_atelier.commande.enCours()) return m_suite.start(kPendantUneCommande);
+    if (m_perimee) return metAJour();
     while (m_rang < m_page.noeuds.size() && m_vignettes[m_rang]->isHidden())
         ++m_rang;
     if (m_rang >= m_page.noeuds.size()) return;
     const auto octets = m_atelier.session.regarde(browse::afficheDuNoeud, m_page.noeuds[m_rang]);
     m_vignettes[m_rang++]->chargeAffiche(octets ? QByteArray::fromStdString(*octets) : QByteArray());
-    m_chargement.start(0);
+    m_suite.start(0);
 }
 
 void PageGroupe::paintEvent(QPaintEvent*) {
-    if (std::exchange(m_aCharger, false) && !m_chargement.isActive()) m_chargement.start(0);
+    if ((m_perimee || m_rang < m_page.noeuds.size()) && !m_suite.isActive()) m_suite.start(0);
 }
 
 void PageGroupe::resizeEvent(QResizeEvent* evenement) {

@@ -15,7 +15,8 @@ class Etiquette;
 class Vignette;
 
 // What stands beside the list while no film is chosen: what it lists, how many films, and the posters of the first ones.
-// The posters are read one at a time between two events and decoded aside, once the page was painted.
+// The list is painted first: the page follows it, then its posters, read one at a time between two events and decoded
+// aside.
 class PageGroupe final : public QWidget {
     Q_OBJECT
   public:
@@ -28,10 +29,10 @@ class PageGroupe final : public QWidget {
 
   private:
     void suis();
-    void montre(const browse::PageDuGroupe& page);
+    void metAJour();
     void range();
     void recharge(int apres);
-    void chargeSuivante();
+    void avance();
     void entrePar(std::size_t rang);
     void renomme() const;
 
@@ -41,10 +42,11 @@ class PageGroupe final : public QWidget {
     QWidget* m_mur;
     std::array<Vignette*, browse::kAffichesDeLaPage> m_vignettes{};
     browse::PageDuGroupe m_page;
-    int m_generation = -1;  // of the tree that the page was made from
-    QTimer m_chargement;
-    std::size_t m_rang = 0;  // of the next poster to be read
-    bool m_aCharger = false;
+    int m_generation = -1;             // of the tree that the page was made from
+    std::pair<int, int> m_vue{-1, 0};  // of the tree as it is now, and its chosen node
+    bool m_perimee = false;            // the page is not theirs any more
+    std::size_t m_rang = 0;            // of the next poster to be read
+    QTimer m_suite;
 };
 
 }  // namespace ui
