@@ -10,6 +10,7 @@ void Arbre::Clear() {
     m_racine.clear();
     m_titres.clear();
     ++m_generation;
+    ++m_remplissages;
 }
 
 void Arbre::reserve(std::size_t films, std::size_t octetsDeTexte) {

@@ -37,6 +37,7 @@ class Arbre {
     [[nodiscard]] int noeudDuFilm(std::uint32_t position) const;  // 0: none has that position
 
     [[nodiscard]] int generation() const { return m_generation; }
+    [[nodiscard]] int remplissages() const { return m_remplissages; }  // rises by Clear alone: positions mean other rows
     [[nodiscard]] int versionDesTextes() const { return m_versionDesTextes; }
 
   private:
@@ -61,6 +62,7 @@ class Arbre {
     std::vector<std::int32_t> m_racine;
     std::string m_titres;  // one after the other, in the order of their nodes
     int m_generation = 0;
+    int m_remplissages = 0;
     int m_versionDesTextes = 0;
 };
 

@@ -28,6 +28,7 @@ const std::map<std::string, int> kNiveaux = {
     {"view", 4},
     {"acquire", 5},
     {"export", 5},
+    {"ensemble", 5},
     {"app", 6},
     {"ui", 7},
     {"rapatrix", 8},
@@ -123,7 +124,7 @@ std::set<std::string> commandesDApp(const std::map<std::string, fs::path>& sourc
 }
 
 std::string fauteCommande(const std::set<std::string>& commandes, const std::string& ligne) {
-    static const std::regex nom(R"(\b(db|browse|edit|view|acquire|exportation)::(\w+))");
+    static const std::regex nom(R"(\b(db|browse|edit|view|acquire|exportation|ensemble)::(\w+))");
     for (std::sregex_iterator it(ligne.begin(), ligne.end(), nom), fin; it != fin; ++it)
         if (commandes.contains(it->str(2))) return it->str() + " has more around it in app";
     return {};
