@@ -26,6 +26,12 @@ enum class NumeroErreur : int {
     cmdPonctuation = 25,
     cmdCreerListe = 26,
     cmdRemplacerImage = 27,
+    Prets = 28,
+    Sante = 29,
+    Ressemblances = 30,
+    QueRegarder = 31,
+    Apercus = 32,
+    Statistiques = 33,
 };
 
 // Thrown after its message was shown: the running command stops, the window stays as it is.

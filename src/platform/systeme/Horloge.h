@@ -1,7 +1,10 @@
 #pragma once
 
+#include <chrono>
 #include <ctime>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace systeme {
 
@@ -22,6 +25,13 @@ class HorlogeSysteme final : public Horloge {
 
 // A moment's day in the same form, in the machine's time zone.
 [[nodiscard]] std::string dateCourte(std::time_t instant);
+
+// Which of two numbers a day's short form begins with, where it does not begin with the year.
+enum class OrdreDate { JourMois, MoisJour };
+[[nodiscard]] OrdreDate ordreDesDates();  // the user's
+// The day that a text says in figures: what dateCourte writes, with any punctuation, the year first or last, of four
+// figures or of two (1970 to 2069). Day and month change places where only that makes a day. Nothing for any other text.
+[[nodiscard]] std::optional<std::chrono::year_month_day> dateLue(std::string_view texte, OrdreDate ordre);
 
 // The user's decimal separator; the comma where the locale is C or POSIX.
 [[nodiscard]] std::string separateurDecimal();

@@ -11,6 +11,8 @@
 using doubles::DossierTemporaire;
 using doubles::Environnement;
 
+constexpr std::chrono::year_month_day kLe7Mars2026 = std::chrono::year(2026) / 3 / 7;
+
 TEST(Horloge, TheDayIsWrittenAsTheUserWritesIt) {
     std::tm midi{};
     midi.tm_mday = 7;
@@ -32,7 +34,20 @@ TEST(Horloge, TheDayIsWrittenAsTheUserWritesIt) {
     for (const auto& c : cas) {
         const Environnement environnement({{"LC_ALL", c.lcAll}, {"LC_TIME", c.lcTime}, {"LANG", c.lang}});
         EXPECT_EQ(systeme::dateCourte(midiLe7Mars2026), c.date) << c.lcAll << "/" << c.lcTime << "/" << c.lang;
+        EXPECT_EQ(systeme::dateLue(c.date, systeme::ordreDesDates()), kLe7Mars2026) << "what is written is read again";
     }
+}
+
+TEST(Horloge, ADayIsReadInAnyFiguresAndNoOtherText) {
+    using enum systeme::OrdreDate;
+    for (const char* texte : {"07/03/2026", "7-3-26", "2026-03-07", "2026. 3. 7.", " 7 3 2026 "})
+        EXPECT_EQ(systeme::dateLue(texte, JourMois), kLe7Mars2026) << texte;
+    EXPECT_EQ(systeme::dateLue("03/07/2026", MoisJour), kLe7Mars2026);
+    EXPECT_EQ(systeme::dateLue("28/02/1999", MoisJour), std::chrono::year(1999) / 2 / 28) << "no month 28";
+    EXPECT_EQ(systeme::dateLue("1/12/71", JourMois), std::chrono::year(1971) / 12 / 1);
+    for (const char* texte : {"", "Noël 2025", "07/2026", "32/13/2026", "30/02/2026", "2026", "1/2/3", "1/2/3/4",
+                              "7/3/202", "07/03/20266", "0/0/0000", "7 mars 2026", "\xff"})
+        EXPECT_EQ(systeme::dateLue(texte, JourMois), std::nullopt) << texte;
 }
 
 TEST(Horloge, TheDecimalSeparatorIsTheUsers) {
