@@ -38,7 +38,9 @@ long corrigeEnsemble(TravailParLots& travail, const std::string& titre) {
     return corrigeToutes(travail.ouvre("SELECT titre FROM films WHERE titre =" + texte), "titre");
 }
 
-long corrigeTout(const Contexte& c) {
+}  // namespace
+
+long corrigeTousLesTitres(const Contexte& c) {
     constexpr auto kNumero = db::NumeroErreur::cmdPonctuation;
     dao::Recordset films = db::ouvreRequete(c, kTitresDesFilms, kNumero);
     dao::Recordset possedes = db::ouvreRequete(c, kTitresPossedes, kNumero);
@@ -56,8 +58,13 @@ long corrigeTout(const Contexte& c) {
             return {};
         });
     travail.termine();
-    return travail.faits();
+    const long modifies = travail.faits();
+    c.annulations.nomme("correction de " + util::phraseCompte(modifies, "# titre", "# titres"),
+                        util::phraseCompte(modifies, "# titre corrigé.", "# titres corrigés."));
+    return modifies;
 }
+
+namespace {
 
 // The user stays where the button is.
 void rafraichit(const Contexte& c) {
@@ -73,7 +80,7 @@ void cmdPonctuation_Click(const Contexte& c) {
         dialogues::kOui)
         return;
     if (!db::sauvegardeAvant(c, db::Avant::Titres)) return;
-    const long modifies = corrigeTout(c);
+    const long modifies = corrigeTousLesTitres(c);
     c.annulations.nomme("correction de " + util::phraseCompte(modifies, "# titre", "# titres"),
                         util::phraseCompte(modifies, "# titre corrigé.", "# titres corrigés."));
     if (modifies > 0) rafraichit(c);

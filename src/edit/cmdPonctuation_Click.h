@@ -13,6 +13,9 @@ namespace edit {
 // where a rare letter makes them differ, the films and the holdings of that title are corrected together.
 void cmdPonctuation_Click(const Contexte& c);
 
+// The same without its question, its report and the refresh that follows. Answers how many films changed.
+long corrigeTousLesTitres(const Contexte& c);
+
 [[nodiscard]] std::string rapportTitresModifies(long nombre);
 
 }  // namespace edit
