@@ -200,6 +200,22 @@ void mesureCommandes(bench::Tableau& tableau, const Options& options, int films)
     tableau.ajoute({"adding a film; listing the day's films", "ms", ajout.at("ajout"), ajout.at("listage"), 2.0, true});
 }
 
+// What looks at a whole collection: the filter of the tree, and resemblances.
+void mesureEnsemble(bench::Tableau& tableau, const Options& options, int films, double doublonsMax) {
+    const std::string dossier = collection(options, {films, false}).string();
+    const Figures filtre = bench::lance("mesure_ensemble", {"filtre", dossier});
+    const Figures doublons = bench::lance("mesure_ensemble", {"doublons", dossier});
+    tableau.titre("a collection of " + std::to_string(films) + " films at a glance");
+    const double grep = filtre.at("grep");
+    tableau.ajoute({"filter of the tree, a keystroke, median; grep -i", "ms", filtre.at("frappe_mediane"), grep, 16.0});
+    tableau.ajoute({"filter of the tree, a keystroke, worst; grep -i", "ms", filtre.at("frappe_pire"), grep, 33.0});
+    tableau.ajoute({"  its index, in slices of idle time", "ms", filtre.at("index"), {}, {}});
+    tableau.ajoute({"  its index", "MB", filtre.at("memoire_index"), {}, {}});
+    const auto paires = static_cast<long>(doublons.at("paires"));
+    tableau.ajoute(
+        {"resemblances, " + std::to_string(paires) + " pairs", "ms", doublons.at("doublons"), {}, doublonsMax});
+}
+
 void mesureConversion(bench::Tableau& tableau, const Options& options, int films) {
     const fs::path modele = collection(options, {films, true});
     const std::string nombre = std::to_string(films);
@@ -329,6 +345,8 @@ int main(int nombre, char** mots) try {
     bench::Tableau tableau;
     if (!options.commandes) mesureFenetresEtImports(tableau, options);
     mesureCommandes(tableau, options, options.vite ? 10000 : 100000);
+    mesureEnsemble(tableau, options, 10000, 2000);
+    if (!options.vite) mesureEnsemble(tableau, options, 100000, 60000);
     mesureListes(tableau, options);
     mesureConversion(tableau, options, options.vite ? 2000 : 10000);
     mesureSauvegardes(tableau, options, options.vite ? 2000 : 10000);
