@@ -203,6 +203,8 @@ bool fusionne(const Contexte& c, const PlanDeFusion& plan) {
     reunitLesPossessions(siennes, plan, nomFinal(plan));
     lignes.droite().Delete();
     ensemble.confirme();
+    const std::string titres = util::entreChevrons(plan.gauche.titre) + " et " + util::entreChevrons(plan.droite.titre);
+    c.annulations.nomme("fusion de " + titres, "Fiches " + titres + " réunies.");
     rafraichit(c, true);
     return true;
 }

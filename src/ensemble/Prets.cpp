@@ -75,7 +75,8 @@ std::string listeDe(const std::vector<db::CleFilm>& films) {
 
 // Each film's holding in turn, in transactions; `change` says whether the row is to be stored.
 template <typename Change>
-void surChaque(const Contexte& c, const std::vector<db::CleFilm>& films, BilanDesPrets& bilan, Change change) {
+void surChaque(const Contexte& c, const std::vector<db::CleFilm>& films, const char* quoi, BilanDesPrets& bilan,
+               Change change) {
     edit::TravailParLots travail(c, kNumero, std::ssize(films));
     travail.execute(std::ssize(films), [&](long rang) -> edit::TravailParLots::Pas {
         dao::Recordset ligne = travail.ouvre(db::enoncePossession(films[rang]));
@@ -87,6 +88,7 @@ void surChaque(const Contexte& c, const std::vector<db::CleFilm>& films, BilanDe
     });
     travail.termine();
     bilan.faits = travail.faits();
+    c.annulations.nomme(quoi + util::phraseCompte(bilan.faits, " d'un film", " de # films"), "Prêts modifiés.");
     if (bilan.faits > 0) rafraichit(c, true);
 }
 
@@ -192,7 +194,7 @@ std::string BilanDesPrets::texte(const std::string& participe) const {
 BilanDesPrets rendFilms(const Contexte& c, const std::vector<db::CleFilm>& films) {
     const Anciennete anciennete(c);
     BilanDesPrets bilan;
-    surChaque(c, films, bilan, [&](dao::Recordset& ligne) {
+    surChaque(c, films, "retour", bilan, [&](dao::Recordset& ligne) {
         const Pret pret = litPret(ligne, anciennete);
         if (pret.aQui.empty()) return false;
         ecrit(ligne, {{"Pret", ""}});
@@ -207,7 +209,7 @@ BilanDesPrets preteFilms(const Contexte& c, const std::vector<db::CleFilm>& film
     if (dao::egalJet(aQui, "")) return bilan;
     const Anciennete anciennete(c);
     const std::string date = c.horloge.dateDuJour();
-    surChaque(c, films, bilan, [&](dao::Recordset& ligne) {
+    surChaque(c, films, "prêt", bilan, [&](dao::Recordset& ligne) {
         const Pret pret = litPret(ligne, anciennete);
         if (!dao::egalJet(pret.aQui, "")) {
             if (!dao::egalJet(pret.aQui, aQui)) bilan.dejaPretes.push_back(pret);

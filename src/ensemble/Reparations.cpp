@@ -5,6 +5,7 @@
 #include "ensemble/PossessionsJointes.h"
 #include "ensemble/Sante.h"
 #include "ensemble/Suites.h"
+#include "util/Nombres.h"
 
 #include <functional>
 #include <iterator>
@@ -111,6 +112,9 @@ long repare(const Contexte& c, Mal mal) {
         default:
             break;
     }
+    if (mal != Mal::TitreACorriger)
+        c.annulations.nomme("réparation de " + util::phraseCompte(repares, "# point", "# points"),
+                            util::phraseCompte(repares, "# point réparé.", "# points réparés."));
     if (repares > 0) rafraichit(c, mal == Mal::PossessionDouble);
     return repares;
 }
