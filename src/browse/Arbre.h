@@ -37,7 +37,9 @@ class Arbre {
     [[nodiscard]] int noeudDuFilm(std::uint32_t position) const;  // 0: none has that position
 
     [[nodiscard]] int generation() const { return m_generation; }
-    [[nodiscard]] int remplissages() const { return m_remplissages; }  // rises by Clear alone: positions mean other rows
+    [[nodiscard]] int remplissages() const {
+        return m_remplissages;
+    }  // rises by Clear alone: positions mean other rows
     [[nodiscard]] int versionDesTextes() const { return m_versionDesTextes; }
 
   private:
