@@ -110,11 +110,10 @@ class Recherche {
 
     bool compareTout() {
         Avancement avancement(m_c, static_cast<long>(m_realisateurs.size()), "Recherche de doublons");
-        m_avancement = &avancement;
         for (std::size_t i = 0; i < m_realisateurs.size(); ++i) {
             const std::uint64_t limite = totalAuPlus(m_realisateurs[i].lettres.total);
             for (std::size_t j = i; j < m_realisateurs.size() && m_realisateurs[j].lettres.total <= limite; ++j)
-                if (peutRessembler(m_realisateurs[i].lettres, m_realisateurs[j].lettres) && !compare(i, j))
+                if (peutRessembler(m_realisateurs[i].lettres, m_realisateurs[j].lettres) && !compare(i, j, avancement))
                     return false;
             if (!avancement.avance()) return false;
         }
@@ -122,7 +121,7 @@ class Recherche {
     }
 
     // False when the user asked to stop.
-    bool compare(std::size_t i, std::size_t j) {
+    bool compare(std::size_t i, std::size_t j, Avancement& avancement) {
         const int score = util::similarite(m_realisateurs[i].compte, m_realisateurs[j].compte);
         if (score <= edit::kSeuilRessemblance) return true;
         const std::vector<Titre>&gauche = m_realisateurs[i].titres, &droite = m_realisateurs[j].titres;
@@ -136,7 +135,7 @@ class Recherche {
             const std::uint64_t limite = totalAuPlus(titre.lettres.total);
             for (auto autre = debut; autre != droite.end() && autre->lettres.total <= limite; ++autre)
                 if (peutRessembler(titre.lettres, autre->lettres)) ajoute(titre.film, autre->film, score);
-            if (gauche.size() > kBeaucoup && !m_avancement->avance(0)) return false;
+            if (gauche.size() > kBeaucoup && !avancement.avance(0)) return false;
         }
         return true;
     }
@@ -160,7 +159,6 @@ class Recherche {
 
     const Contexte& m_c;
     std::size_t m_auPlus;
-    Avancement* m_avancement = nullptr;
     std::vector<db::CleFilm> m_films;
     std::vector<Realisateur> m_realisateurs;
     std::vector<Candidate> m_paires;

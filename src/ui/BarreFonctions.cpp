@@ -74,7 +74,7 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     atelier.auClic(aide, app::cmdAide_Click);
     atelier.auClic(sortie, &app::Session::cmdStop_Click);
 
-    auto* annuler = fleche("cmdAnnuler", tr("Annuler"), Pictogramme::Annule);
+    auto* annuler = fleche("cmdDefaire", tr("Annuler"), Pictogramme::Annule);
     auto* retablir = fleche("cmdRetablir", tr("Rétablir"), Pictogramme::Retablit);
     auto& annulation = atelier.etats().annulation;
     atelier.liaison.lie(annulation.cmdAnnuler, annuler);

@@ -51,7 +51,7 @@ TEST_F(Clavier, HoldingsAreStoredByEnterAndByCtrlEnterToTheLetter) {
 TEST_F(Clavier, CtrlZTakesBackTheFieldFirstAndThenTheBase) {
     touche(Qt::Key_Delete);
     EXPECT_EQ(essai.texte("lblAvis"), "« Alien » supprimé.");
-    EXPECT_EQ(essai.trouve("cmdAnnuler").toolTip().toStdString(), "Annuler : suppression de « Alien » (Ctrl+Z)");
+    EXPECT_EQ(essai.trouve("cmdDefaire").toolTip().toStdString(), "Annuler : suppression de « Alien » (Ctrl+Z)");
     touche(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(essai.texte("Label1_0"), "Alien");
     EXPECT_TRUE(essai.trouve("frameFiche").isVisible());
@@ -70,7 +70,7 @@ TEST_F(Clavier, CtrlZTakesBackTheFieldFirstAndThenTheBase) {
     ASSERT_TRUE(rangement.hasFocus() && !rangement.isUndoAvailable());
     touche(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(essai.texte("Label9_0"), "0 titre") << "the import";
-    EXPECT_FALSE(essai.trouve("cmdAnnuler").isEnabled());
+    EXPECT_FALSE(essai.trouve("cmdDefaire").isEnabled());
     essai.clique("cmdRetablir");
     EXPECT_EQ(essai.texte("Label9_0"), "2 titres");
 }

@@ -71,7 +71,8 @@ void verifieLeContenu(Poignee& base) {
         jette(kErreurFormat, "La base appartient à un autre programme.");
     std::error_code erreur;
     const auto taille = std::filesystem::file_size(sqlite3_db_filename(base.brute(), "main"), erreur);
-    if (erreur || static_cast<long long>(taille) % base.entier("PRAGMA page_size") != 0)
+    const long long page = base.entier("PRAGMA page_size");
+    if (erreur || page <= 0 || static_cast<long long>(taille) % page != 0)
         jette(kErreurFormat, "La base est tronquée.");
 }
 

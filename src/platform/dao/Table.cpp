@@ -74,7 +74,8 @@ std::unique_ptr<Table> litTable(Connexion& connexion, std::string_view nom) {
     Requete colonnes = connexion.prepare("SELECT name, upper(type) FROM pragma_table_info(?1)");
     colonnes.lie(1, Valeur(table->nom));
     while (colonnes.avance()) {
-        std::string colonne = colonnes.valeur(0).texte(), sql = util::entreGuillemets(colonne);
+        std::string colonne = colonnes.valeur(0).texte();
+        std::string sql = util::entreGuillemets(colonne);
         table->colonnes.push_back({std::move(colonne), std::move(sql), estNumerique(colonnes.valeur(1).texte())});
     }
     table->ligneSql = nomDeLigne(connexion, *table);
