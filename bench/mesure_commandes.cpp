@@ -10,6 +10,7 @@
 #include "app/Commandes.h"
 #include "app/Sauvegardes.h"
 #include "browse/ChoixTri.h"
+#include "browse/ChoixZone.h"
 #include "browse/TexteRequete.h"
 #include "db/Option3_Click.h"
 #include "db/Sauvegardes.h"
@@ -124,12 +125,15 @@ class AvecEtSans {
 // Commands that are recorded so that they can be taken back, against the same ones that are not.
 void mesureAnnulation(app::Session& session, const std::string& dossier, const std::string& fiches) {
     AvecEtSans deux(session, dossier + "/Films.mdb");
+    session.etats.liste.ChoixZone.selectionne(browse::kZoneTous);
+    session.execute(browse::ChoixZone_Click);
     int noeud = 1;
     const auto film = [&] {
         const browse::Arbre& arbre = session.etats.liste.TreeView1.Nodes;
         do
             noeud += 7;
-        while (arbre.estGroupe(noeud));
+        while (noeud <= arbre.Count() && arbre.estGroupe(noeud));
+        if (noeud > arbre.Count()) throw std::runtime_error("too few films are listed");
         session.execute(app::TreeView1_NodeClick, noeud);
     };
     deux.mesure(
