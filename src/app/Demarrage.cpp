@@ -13,6 +13,7 @@
 #include "db/OuvertureBase.h"
 #include "db/OuvertureJet.h"
 #include "db/Requete.h"
+#include "db/Sauvegardes.h"
 #include "db/TravauxInacheves.h"
 #include "db/cmdChargeOuvreBase_Click.h"
 #include "platform/fichiers/Fichiers.h"
@@ -63,7 +64,8 @@ void Demarrage::acheve() {
     effaceRestes();
 }
 
-// From the folders that the program writes to: its own, "Tmp", the images' and the base's. Nothing else goes.
+// From the folders that the program writes to: its own, "Tmp", the images', the base's and that of its safety copies.
+// Nothing else goes.
 void Demarrage::effaceRestes() {
     const db::EtatStockage montre = m_c.stockage;
     const std::string images = db::dossierImages(m_c);
@@ -71,8 +73,9 @@ void Demarrage::effaceRestes() {
     std::error_code ignoree;
     const auto base =
         std::filesystem::weakly_canonical(m_c.chemins.base, ignoree);  // beside the file, not beside a link
-    for (const std::string& dossier : std::set<std::string>{m_c.chemins.dossier, m_c.chemins.dossierTmp + "/", images,
-                                                            fichiers::dossierDe(base.string())})
+    for (const std::string& dossier :
+         std::set<std::string>{m_c.chemins.dossier, m_c.chemins.dossierTmp + "/", images,
+                               fichiers::dossierDe(base.string()), db::dossierDesSauvegardes(m_c.chemins.base)})
         fichiers::supprimeRestes(dossier);
     for (const std::string& dossier : {m_c.chemins.dossier, fichiers::dossierDe(base.string())})
         db::effaceTravauxInacheves(dossier);

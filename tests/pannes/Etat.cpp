@@ -8,7 +8,6 @@
 #include <functional>
 #include <iterator>
 #include <memory>
-#include <set>
 #include <stdexcept>
 
 #include <sqlite3.h>
@@ -58,7 +57,10 @@ std::string octetsDeLAffiche(const std::string& affiche, const fs::path& images)
 }
 
 void releve(Etat& etat, const std::string& nom, const fs::path& chemin, const fs::path& images) {
-    Lignes& lignes = etat.bases[nom];
+    const bool estCopie = nom.find("Sauvegardes/") != std::string::npos;
+    Lignes copiees;
+    Lignes& lignes = estCopie ? copiees : etat.bases[nom];
+    std::set<std::string>& fiches = estCopie ? etat.fichesCopiees : etat.fiches;
     const std::string octets = lis(chemin);
     if (!octets.starts_with("SQLite format 3")) {
         lignes["!"] = octets;
@@ -72,10 +74,13 @@ void releve(Etat& etat, const std::string& nom, const fs::path& chemin, const fs
     for (const std::string table : {"Films", "Personnel"})
         lue = lue && parcourt(base, ("SELECT * FROM " + table).c_str(), [&](auto colonnes) {
                   if (colonnes[1] == kTemoin || colonnes[1] == kAilleurs) return;
-                  if (table == "Films") colonnes.back() = octetsDeLAffiche(colonnes.back(), images);
+                  const std::string affiche = table == "Films" ? octetsDeLAffiche(colonnes.back(), images) : "";
+                  if (table == "Films") colonnes.pop_back();
                   std::string& ligne = lignes[table + " " + colonnes[0] + " " + colonnes[1]];
                   for (const std::string& valeur : colonnes)
                       ligne += valeur + '\x1f';
+                  fiches.insert(ligne);
+                  ligne += affiche;
               });
     if (!lue) etat.dommage += nom + ": " + sqlite3_errmsg(base.get()) + "\n";
 }
@@ -155,6 +160,9 @@ std::string Etat::ecart(const Etat& avant, const Etat& apres, bool entiere) cons
             if (alors.contains(cle) || !estAjoutee(valeur(ici, cle), ensuite))
                 compare(nom + ": " + cle, valeur(ici, cle), valeur(alors, cle), valeur(ensuite, cle));
     }
+    for (const std::string& fiche : fichesCopiees)
+        if (!avant.fiches.contains(fiche) && !apres.fiches.contains(fiche) && !avant.fichesCopiees.contains(fiche))
+            texte += "a safety copy holds what never was: " + fiche + "\n";
     for (const auto& [nom, octets] : fichiers)
         if (!estDeTravail(nom) && !estUneAfficheCommencee(nom, octets, avant, apres))
             compare(nom, octets, valeur(avant.fichiers, nom), valeur(apres.fichiers, nom));

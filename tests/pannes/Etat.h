@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 
 struct sqlite3;
@@ -13,7 +14,9 @@ using Lignes = std::map<std::string, std::string>;
 struct Etat {
     std::map<std::string, Lignes> bases;          // by file
     std::map<std::string, std::string> fichiers;  // all but the bases, the settings and what is at work
-    std::string dommage;                          // what no base may have
+    std::set<std::string> fiches,
+        fichesCopiees;    // the rows without their posters: of the bases, of their safety copies
+    std::string dommage;  // what no base may have
 
     static Etat de(const std::string& dossier);
     bool operator==(const Etat&) const = default;
