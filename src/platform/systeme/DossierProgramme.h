@@ -8,4 +8,7 @@ namespace systeme {
 // does not say.
 [[nodiscard]] std::string dossierDuProgramme();
 
+// Where the desktop's rules have programs keep what is their user's, without a final separator.
+[[nodiscard]] std::string dossierDesDonnees();
+
 }  // namespace systeme
