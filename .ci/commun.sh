@@ -15,6 +15,17 @@ echoue() {
 # How long a step took, said once it is over.
 depuis() { dit "  done in $((SECONDS - $1)) s"; }
 
+# suit FORMAT MOTIF: of what comes, shows the two numbers (or the one) that MOTIF finds, on one line that moves; only a
+# terminal is shown it, and all of it goes when the work is over.
+suit() {
+  local ligne
+  while IFS= read -r ligne; do
+    # shellcheck disable=SC2059
+    if [ -t 1 ] && [[ $ligne =~ $2 ]]; then printf "\r\033[K  $1" "${BASH_REMATCH[@]:1}"; fi
+  done
+  if [ -t 1 ]; then printf '\r\033[K'; fi
+}
+
 # absents PACKAGE...: those that are not installed, one a line.
 absents() {
   local etats paquet
@@ -43,10 +54,16 @@ installe() {
   mkdir -p "$racine/build"
   journal=$racine/build/installation.log
   dit "Installing what is missing (a minute or two at first): ${manque[*]}"
-  if ! "${admin[@]}" install --no-install-recommends "${manque[@]}" </dev/null >"$journal" 2>&1; then
+  # In percent, of what is fetched and then of what is set up.
+  installeTout() {
+    "${admin[@]}" -o APT::Status-Fd=1 install --no-install-recommends "${manque[@]}" </dev/null 2>&1 | tee -a "$journal" |
+      suit "packages: %d %%" '^[dp][lm]status:[^:]*:([0-9]+)'
+  }
+  : >"$journal"
+  if ! installeTout; then
     dit "  reading the package lists first"
     "${admin[@]}" update </dev/null >"$journal" 2>&1 || true
-    if ! "${admin[@]}" install --no-install-recommends "${manque[@]}" </dev/null >>"$journal" 2>&1; then
+    if ! installeTout; then
       grep -h '^[EW]:' "$journal" | sort -u | head -n 4 >&2 || true
       echoue "The packages could not be installed: is the network there? The whole story is in build/installation.log."
     fi
@@ -76,7 +93,8 @@ construit() {
     dit "Building Ambrelis ($preset); the first time takes some minutes"
   fi
   configure "$preset"
-  if ! ninja -C "$dossier" -j "$(nproc)" </dev/null >"$journal" 2>&1; then
+  if ! NINJA_STATUS='[%f/%t] ' ninja -C "$dossier" -j "$(nproc)" </dev/null 2>&1 | tee "$journal" |
+    suit "%d of %d files" '^\[([0-9]+)/([0-9]+)\]'; then
     raconte "$journal" "The build failed"
   fi
   ((SECONDS - debut < 3)) || depuis "$debut"
