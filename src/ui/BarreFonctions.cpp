@@ -55,7 +55,7 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     auto* outils = fonction<BoutonDePanneau>("cmdConfigurer", tr("&Outils"), Pictogramme::Reglages,
                                              tr("Entretenir la base et régler le programme (Échap pour revenir)"));
     auto* collection =
-        fonction<BoutonDePanneau>("cmdCollection", tr("Co&llection"), Pictogramme::Collection,
+        fonction<BoutonDePanneau>("cmdCollection", tr("Collection"), Pictogramme::Collection,
                                   tr("La collection d'un coup d'œil : affiches, prêts, statistiques… (Ctrl+L)"));
     auto* site = fonction("Image3", tr("MovieCovers"), Pictogramme::MovieCovers,
                           tr("Le logo de MovieCovers : un clic ouvre le site"));

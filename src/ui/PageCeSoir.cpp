@@ -22,6 +22,7 @@ std::size_t auHasard(std::size_t combien) {
 
 QComboBox* choix(const char* nom, const QString& pourLecteur, std::initializer_list<std::pair<QString, int>> entrees) {
     auto* liste = nomme(new ListeDeroulante, nom, pourLecteur);
+    liste->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     for (const auto& [texte, valeur] : entrees)
         liste->addItem(texte, valeur);
     return liste;
@@ -53,7 +54,7 @@ QLayout* PageCeSoir::envies() {
     auto* ligne = rangee({}, kGrand);
     ligne->addLayout(champ(tr("D&urée"), m_duree));
     ligne->addLayout(champ(tr("&Genre"), m_genre));
-    ligne->addLayout(champ(tr("No&te"), m_note));
+    ligne->addLayout(champ(tr("&Note"), m_note));
     ligne->addStretch();
     for (QComboBox* liste : {m_duree, m_genre, m_note})
         connect(liste, &QComboBox::currentIndexChanged, this, [this] {
@@ -68,7 +69,7 @@ QLayout* PageCeSoir::proposition() {
     m_texte = nomme((new Etiquette)->avecLignes(6), "lblTexteCeSoir");
     m_autre = bouton<BoutonAccent>("cmdUnAutre", tr("Un &autre"), tr("Proposer un autre film"));
     m_fiche = bouton("cmdFicheCeSoir", tr("Voir la &fiche"), tr("Montrer la fiche de ce film"));
-    m_affiche = nomme(new Vignette(this), "AfficheCeSoir");
+    m_affiche = nomme(new Vignette(this), "AfficheCeSoir", tr("Affiche"));
     m_affiche->setFixedSize(kLargeurAffiche, Vignette::hauteurPour(kLargeurAffiche, fontMetrics()));
     const auto montre = [this] {
         if (m_film) atelier().execute(app::montreLeFilm, m_film->film);
