@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/EtatAnnulation.h"
+#include "app/EtatCollection.h"
 #include "app/EtatFonctions.h"
 #include "app/EtatSauvegardes.h"
 #include "browse/EtatFiche.h"
@@ -34,6 +35,7 @@ struct Etats {
     edit::EtatAjout ajout;
     edit::EtatMultiSuppression multiSuppression;
     EtatFonctions fonctions;
+    EtatCollection collection;
     EtatAnnulation annulation;
     view::EtatAffiche affiche;
     view::EtatFichiers fichiers;

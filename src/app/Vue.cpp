@@ -25,7 +25,8 @@ std::string texteDe(const browse::Arbre& arbre, int noeud) {
 
 // The user looks at films, and is not at work in another panel.
 bool montreLesFilms(const browse::EtatPanneaux& panneaux) {
-    return !panneaux.frameRecherche.Visible && !panneaux.frameListeFonctions.Visible;
+    return !panneaux.frameRecherche.Visible && !panneaux.frameListeFonctions.Visible &&
+           !panneaux.frameCollection.Visible;
 }
 
 int noeudDeCle(const browse::Arbre& arbre, const std::string& cle) {

@@ -3,6 +3,7 @@
 #include "browse/LigneDuNoeud.h"
 #include "browse/ListesDeChoix.h"
 #include "db/Affiches.h"
+#include "db/EnonceFilm.h"
 #include "platform/dao/ErreurDao.h"
 #include "util/Nombres.h"
 
@@ -62,6 +63,16 @@ std::optional<fichiers::Place> fichierSansRienFixer(const Contexte& c, const std
     return fichier ? fichier : db::afficheVoisine(c.chemins.base, affiche);
 }
 
+std::optional<std::string> octets(const Contexte& c, std::string affiche) {
+    if (affiche.size() <= db::kTaillePrefixe) return std::nullopt;
+    if (db::estDansLaBase(affiche)) {
+        if (affiche.size() > static_cast<std::size_t>(kTailleMaxApercu)) return std::nullopt;
+        return affiche.erase(0, db::kTaillePrefixe);
+    }
+    const auto fichier = fichierSansRienFixer(c, affiche);
+    return fichier ? fichiers::litSansLien(fichier->chemin, kTailleMaxApercu) : std::nullopt;
+}
+
 std::string valeurAffiche(const Contexte& c, int noeud) {
     try {
         vaSurLaLigne(c, noeud);
@@ -87,14 +98,16 @@ PageDuGroupe pageDuGroupe(const EtatListe& liste) {
 std::optional<std::string> afficheDuNoeud(const Contexte& c, int noeud) {
     const Arbre& arbre = c.liste.TreeView1.Nodes;
     if (noeud < 1 || noeud > arbre.Count() || arbre.estGroupe(noeud)) return std::nullopt;
-    std::string affiche = valeurAffiche(c, noeud);
-    if (affiche.size() <= db::kTaillePrefixe) return std::nullopt;
-    if (db::estDansLaBase(affiche)) {
-        if (affiche.size() > static_cast<std::size_t>(kTailleMaxApercu)) return std::nullopt;
-        return affiche.erase(0, db::kTaillePrefixe);
+    return octets(c, valeurAffiche(c, noeud));
+}
+
+std::optional<std::string> afficheDuFilm(const Contexte& c, const db::CleFilm& film) {
+    try {
+        const dao::Recordset ligne = c.base.base.OpenRecordset(db::enonceFilm(film));
+        return ligne.Eof() ? std::nullopt : octets(c, ligne.texte("Affiche"));
+    } catch (const dao::ErreurDao&) {
+        return std::nullopt;
     }
-    const auto fichier = fichierSansRienFixer(c, affiche);
-    return fichier ? fichiers::litSansLien(fichier->chemin, kTailleMaxApercu) : std::nullopt;
 }
 
 }  // namespace browse

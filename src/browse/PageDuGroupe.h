@@ -29,5 +29,6 @@ struct PageDuGroupe {
 // The bytes of the poster of a film's node; nothing without one, and where it cannot be read: nobody is told, and no value
 // of the window changes.
 [[nodiscard]] std::optional<std::string> afficheDuNoeud(const Contexte& c, int noeud);
+[[nodiscard]] std::optional<std::string> afficheDuFilm(const Contexte& c, const db::CleFilm& film);  // listed or not
 
 }  // namespace browse

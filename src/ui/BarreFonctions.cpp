@@ -3,6 +3,7 @@
 #include "app/Aide.h"
 #include "app/Annulation.h"
 #include "app/ChoixFonction.h"
+#include "app/Collection.h"
 #include "browse/cmdFonctionRecherche_Click.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
@@ -53,6 +54,9 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
                                   tr("Ajouter des films à la base (Ctrl+N pour une saisie ; Échap pour revenir)"));
     auto* outils = fonction<BoutonDePanneau>("cmdConfigurer", tr("&Outils"), Pictogramme::Reglages,
                                              tr("Entretenir la base et régler le programme (Échap pour revenir)"));
+    auto* collection =
+        fonction<BoutonDePanneau>("cmdCollection", tr("Collection"), Pictogramme::Collection,
+                                  tr("La collection d'un coup d'œil : affiches, prêts, statistiques… (Ctrl+L)"));
     auto* site = fonction("Image3", tr("MovieCovers"), Pictogramme::MovieCovers,
                           tr("Le logo de MovieCovers : un clic ouvre le site"));
     site->setIconSize({20, 20});
@@ -63,6 +67,7 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     atelier.liaison.apresEcriture([=, etats = &atelier.etats()] {
         const bool fonctions = etats->panneaux.frameListeFonctions.Visible;
         const bool ajoute = fonctions && etats->fonctions.frameDivers.Visible;
+        collection->setChecked(etats->panneaux.frameCollection.Visible);
         recherche->setChecked(etats->panneaux.frameRecherche.Visible);
         ajout->setChecked(ajoute);
         outils->setChecked((fonctions && !ajoute) || etats->panneaux.frameMultiSuppression.Visible);
@@ -70,6 +75,7 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     atelier.auClic(recherche, browse::cmdFonctionRecherche_Click);
     atelier.auClic(ajout, app::cmdAfficherFonctions_Click);
     atelier.auClic(outils, app::cmdConfigurer_Click);
+    atelier.auClic(collection, app::cmdCollection_Click);
     atelier.auClic(site, app::Image3_Click);
     atelier.auClic(aide, app::cmdAide_Click);
     atelier.auClic(sortie, &app::Session::cmdStop_Click);
@@ -102,7 +108,7 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     boite->addSpacing(kPetit);
     boite->addWidget(version, 0, Qt::AlignBottom);
     boite->addSpacing(kLarge);
-    for (BoutonDePanneau* gauche : {recherche, ajout, outils})
+    for (BoutonDePanneau* gauche : {recherche, ajout, outils, collection})
         boite->addWidget(gauche);
     boite->addSpacing(kMoyen);
     for (QPushButton* gauche : {annuler, retablir})

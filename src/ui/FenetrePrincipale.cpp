@@ -11,6 +11,7 @@
 #include "ui/Infobulles.h"
 #include "ui/PageGroupe.h"
 #include "ui/PanneauAccueil.h"
+#include "ui/PanneauCollection.h"
 #include "ui/PanneauFiche.h"
 #include "ui/PanneauFonctions.h"
 #include "ui/PanneauListe.h"
@@ -108,6 +109,7 @@ void FenetrePrincipale::completePanneaux() {
     m_menus.emplace(m_atelier, this);
     m_droite->insertWidget(0, new PanneauMultiSuppression(m_atelier));  // strips over what they are about
     m_droite->insertWidget(1, new PanneauRecherche(m_atelier));
+    m_droite->insertWidget(2, new PanneauCollection(m_atelier));
     m_droite->addWidget(new PanneauFiche(m_atelier), 1);
     m_droite->addWidget(new PanneauFonctions(m_atelier), 1);
     for (QLineEdit* zone : m_droite->parentWidget()->findChildren<QLineEdit*>()) {

@@ -83,6 +83,11 @@ QPainterPath trace(Pictogramme pictogramme) {
                 t.moveTo(16.5, y), t.lineTo(21, y);
             }
             break;
+        case Pictogramme::Collection:
+            for (const double x : {3.5, 13.5})
+                for (const double y : {3.5, 13.5})
+                    t.addRoundedRect(QRectF(x, y, 7, 7), 1.2, 1.2);
+            break;
         case Pictogramme::Annule:
             t.moveTo(9, 4.5), t.lineTo(4.5, 9), t.lineTo(9, 13.5);
             t.moveTo(4.5, 9), t.lineTo(14, 9);

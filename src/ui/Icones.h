@@ -20,6 +20,7 @@ enum class Pictogramme {
     Enregistre,
     Remplace,
     Film,
+    Collection,
     Annule,
     Retablit,
     MovieCovers  // a logo: filled, and always in the accent colour

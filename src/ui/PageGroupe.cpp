@@ -79,9 +79,12 @@ void PageGroupe::suis() {
     const app::Etats& etats = m_atelier.etats();
     const browse::EtatPanneaux& panneaux = etats.panneaux;
     const bool sousUneBande =
-        panneaux.frameRecherche.Visible || (panneaux.frameMultiSuppression.Visible && !panneaux.frameFiche.Visible);
+        panneaux.frameRecherche.Visible ||
+        (panneaux.frameMultiSuppression.Visible && !panneaux.frameFiche.Visible && !panneaux.frameCollection.Visible);
+    const bool collection =
+        panneaux.frameCollection.Visible && etats.collection.page == app::PageDeCollection::Affiches;
     const bool accueil = panneaux.framePresentation.Visible && !browse::catalogueVide(etats.liste);
-    const bool voulue = sousUneBande || accueil;
+    const bool voulue = sousUneBande || accueil || collection;
     const browse::VueArbre& vue = etats.liste.TreeView1;
     if (voulue && std::exchange(m_vue, {vue.Nodes.generation(), vue.SelectedItem}) != m_vue) {
         m_perimee = true;

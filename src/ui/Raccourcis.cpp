@@ -1,6 +1,7 @@
 #include "ui/Raccourcis.h"
 
 #include "app/Annulation.h"
+#include "app/Collection.h"
 #include "app/Commandes.h"
 #include "app/RaccourcisClavier.h"
 #include "browse/cmdFonctionRecherche_Click.h"
@@ -57,6 +58,7 @@ Reprises reprisesDe(const QObject* champ) {
 Raccourcis::Raccourcis(const Atelier& atelier, QWidget* fenetre) : m_atelier(atelier), m_fenetre(fenetre) {
     const std::pair<QKeySequence, std::function<void()>> touches[] = {
         {Qt::CTRL | Qt::Key_F, atelier.reponse(browse::cmdFonctionRecherche_Click)},
+        {Qt::CTRL | Qt::Key_L, atelier.reponse(app::cmdCollection_Click)},
         {Qt::CTRL | Qt::Key_N, atelier.reponse(app::SaisieManuelle)},
         {Qt::CTRL | Qt::Key_O, atelier.reponse(app::cmdChargeOuvreBase_Click)},
         {Qt::CTRL | Qt::Key_Q, atelier.reponse(&app::Session::cmdStop_Click)},

@@ -1,4 +1,5 @@
 #include "ProgrammeDEssai.h"
+#include "ui/Boutons.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -137,6 +138,11 @@ TEST(Noms, EachPageHasItsOwnMnemonicsAndNamesForScreenReaders) {
     essai.clique("cmdConfigurer");
     essai.clique("cmdConfig_1");
     verifie("settings");
+    essai.clique("cmdCollection");
+    for (auto* onglet : essai.trouve("frameCollection").findChildren<ui::BoutonOnglet*>()) {
+        onglet->click();
+        verifie(qPrintable(onglet->text()));
+    }
     essai.cliqueTitre("L'Été");
     verifie("cmdGeneralites");
     essai.clique("cmdAutresInfos");

@@ -86,6 +86,10 @@ void Database::Close() {
 const std::string& Database::nom() const {
     return ouverte(m_connexion).nom();
 }
+Database::Changements Database::changements() const {
+    return m_connexion ? Changements{m_connexion->version(), m_connexion->epoque()} : Changements{};
+}
+
 Emplacement Database::emplacement() const {
     return ouverte(m_connexion).emplacement();
 }

@@ -4,6 +4,7 @@
 #include "platform/dao/ErreurDao.h"
 #include "platform/dao/Recordset.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -60,6 +61,13 @@ class Database {
     // Takes the recorded changes back or makes them again, all or nothing, in one transaction; it is not recorded.
     // Throws ErreurDao, nothing done.
     [[nodiscard]] Application applique(Enregistrement& changements, Sens sens);
+
+    // Others after each change that is known: of a row by this program, of the file by another one.
+    struct Changements {
+        std::uint64_t lignes = 0, fichier = 0;
+        friend bool operator==(const Changements&, const Changements&) = default;
+    };
+    [[nodiscard]] Changements changements() const;
 
     void Close();  // closing twice is harmless
     [[nodiscard]] bool estOuverte() const { return m_connexion != nullptr; }
