@@ -19,20 +19,16 @@ constexpr std::string_view kSansImage = "Pas d'image";
 
 using Echec = std::optional<std::string>;  // what to tell the user
 
-// The file, empty when there is none to take.
-std::string choisit(const Contexte& c) {
-    const std::string image = c.dialogues.choisitFichier(
-        {.titre = "Choix de l'image associée au film", .filtre = "Fichiers JPEG|*.jpg", .dossier = c.chemins.dossier});
-    if (image.empty()) return {};
+bool estAdmise(const Contexte& c, const std::string& image) {
     if (!fichiers::existe(image)) {
         c.dialogues.MsgBox("Le fichier indiqué est inexistant !", dialogues::kExclamation);
-        return {};
+        return false;
     }
     if (c.stockage.dansLaBase() && fichiers::longueur(image) > db::kTailleMaxAffiche) {
         c.dialogues.MsgBox("Image trop grande pour tenir en base !", dialogues::kExclamation);
-        return {};
+        return false;
     }
-    return image;
+    return true;
 }
 
 std::string pose(const db::CleFilm& film, db::LotAffiches& lot, const std::string& octets,
@@ -84,8 +80,13 @@ Echec attache(const Contexte& c, const std::string& image) {
 
 void Label12_Click(const Contexte& c) {
     if (!c.film.estUnFilm() || c.fiche.Label12.Caption.find(kSansImage) == std::string::npos) return;
-    const std::string image = choisit(c);
-    if (image.empty()) return;
+    const std::string image = c.dialogues.choisitFichier(
+        {.titre = "Choix de l'image associée au film", .filtre = "Fichiers JPEG|*.jpg", .dossier = c.chemins.dossier});
+    if (!image.empty()) attacheAffiche(c, image);
+}
+
+void attacheAffiche(const Contexte& c, const std::string& image) {
+    if (!estAdmise(c, image)) return;
     if (const Echec echec = attache(c, image)) {
         c.dialogues.MsgBox(*echec, dialogues::kCritique);
     } else {

@@ -31,11 +31,14 @@ void Text10_Change(const Contexte& c, int) {
 
 void Command2_Click(const Contexte& c, int indice) {
     if (indice < 0 || indice >= std::ssize(c.fiche.Command2)) return;
-    std::string& fichier = c.fiche.Text10[indice].Text;
-    const std::string choisi = c.dialogues.choisitFichier(
-        {"Ajouter un fichier à la fiche du film", "Tous types de fichiers|*.*", fichiers::dossierDe(fichier)});
-    if (choisi.empty()) return;
-    fichier = choisi;
+    const std::string choisi =
+        c.dialogues.choisitFichier({"Ajouter un fichier à la fiche du film", "Tous types de fichiers|*.*",
+                                    fichiers::dossierDe(c.fiche.Text10[indice].Text)});
+    if (!choisi.empty()) attacheFichier(c, indice, choisi);
+}
+
+void attacheFichier(const Contexte& c, int indice, const std::string& fichier) {
+    c.fiche.Text10[indice].Text = fichier;
     attendValidation(c);
 }
 

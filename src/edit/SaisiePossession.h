@@ -2,6 +2,8 @@
 
 #include "edit/Contexte.h"
 
+#include <string>
+
 namespace edit {
 
 // The user's gestures in the holdings part of the sheet: each makes the validate button visible, and nothing is written
@@ -13,5 +15,6 @@ void Text10_Change(const Contexte& c, int indice);
 
 // Chooses the attached file of a slot, 0 to 2; the file is neither copied nor checked.
 void Command2_Click(const Contexte& c, int indice);
+void attacheFichier(const Contexte& c, int indice, const std::string& fichier);  // one that was chosen otherwise
 
 }  // namespace edit

@@ -3,6 +3,7 @@
 #include "app/Commandes.h"
 #include "ui/BarreFonctions.h"
 #include "ui/Composition.h"
+#include "ui/Depot.h"
 #include "ui/EcranQt.h"
 #include "ui/FenetreAffiche.h"
 #include "ui/FenetreFichiers.h"
@@ -70,6 +71,7 @@ FenetrePrincipale::FenetrePrincipale(const Atelier& atelier) : m_atelier(atelier
     setWindowTitle(QStringLiteral("Ambrelis"));
     setMinimumSize(kTailleMinimale);
     compose();
+    m_depot = new Depot(m_atelier, this);
     m_focus.emplace(*this, *m_liste->titres());
     suitLesCommandes();
     m_atelier.liaison.ajoute(std::make_unique<LienTaille>(*this));
@@ -116,6 +118,7 @@ void FenetrePrincipale::completePanneaux() {
         new InfobulleEntiere(zone);
         new UneSeuleLigne(zone);
     }
+    m_depot->prepare(this);
     entreParLeChoisi(m_atelier.liaison, *this);
     for (QWidget* zone : {static_cast<QWidget*>(m_page), m_bas})
         metEnDernier(zone);

@@ -14,6 +14,7 @@ class QVBoxLayout;
 
 namespace ui {
 
+class Depot;
 class PageGroupe;
 class PanneauListe;
 
@@ -51,6 +52,7 @@ class FenetrePrincipale final : public QWidget {
     QVBoxLayout* m_droite = nullptr;
     std::optional<SuiviDuFocus> m_focus;
     PageGroupe* m_page = nullptr;
+    Depot* m_depot = nullptr;
     QWidget* m_bas = nullptr;  // its foot
     const Raccourcis m_raccourcis;
     std::optional<MenusArbre> m_menus;  // with the late panels

@@ -55,7 +55,8 @@ Reprises reprisesDe(const QObject* champ) {
 
 }  // namespace
 
-Raccourcis::Raccourcis(const Atelier& atelier, QWidget* fenetre) : m_atelier(atelier), m_fenetre(fenetre) {
+Raccourcis::Raccourcis(const Atelier& atelier, QWidget* fenetre)
+    : m_atelier(atelier), m_fenetre(fenetre), m_pressePapiers(atelier, fenetre) {
     const std::pair<QKeySequence, std::function<void()>> touches[] = {
         {Qt::CTRL | Qt::Key_F, atelier.reponse(browse::cmdFonctionRecherche_Click)},
         {Qt::CTRL | Qt::Key_L, atelier.reponse(app::cmdCollection_Click)},
@@ -88,6 +89,7 @@ bool Raccourcis::eventFilter(QObject* objet, QEvent* evenement) {
 
 // Esc closes a list and Del takes a letter away first: only what the controls leave comes here.
 bool Raccourcis::prends(const QKeyEvent& evenement) const {
+    if (m_pressePapiers.prends(evenement)) return true;
     if (evenement.modifiers() & ~Qt::KeypadModifier) return false;
     if (evenement.key() == Qt::Key_Escape) {
         m_atelier.execute(app::QuittePanneau);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/Atelier.h"
+#include "ui/PressePapiers.h"
 
 #include <QObject>
 
@@ -26,6 +27,7 @@ class Raccourcis final : public QObject {
 
     const Atelier m_atelier;
     const QWidget* m_fenetre;
+    const PressePapiers m_pressePapiers;
 };
 
 }  // namespace ui

@@ -86,8 +86,11 @@ bool enregistre(const Contexte& c, const std::string& octets) {
 void cmdRemplacerImage_Click(const Contexte& c) {
     const std::string choisi =
         c.dialogues.choisitFichier({"Choix de l'image associée au film", "Fichiers JPEG|*.jpg", c.chemins.dossier});
-    if (choisi.empty()) return;
-    const auto octets = octetsAdmis(c, choisi);
+    if (!choisi.empty()) remplaceAffiche(c, choisi);
+}
+
+void remplaceAffiche(const Contexte& c, const std::string& image) {
+    const auto octets = octetsAdmis(c, image);
     if (!octets || !enregistre(c, *octets)) return;
     const std::string titre = db::titreCite(c.film.titre);
     c.annulations.nomme("remplacement de l'affiche de " + titre, "Affiche de " + titre + " remplacée.");

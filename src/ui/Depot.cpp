@@ -1,0 +1,106 @@
+#include "ui/Depot.h"
+
+#include "acquire/CompteFilmsRepertoire.h"
+#include "acquire/FichesDeposees.h"
+#include "app/Depot.h"
+#include "edit/SaisiePossession.h"
+
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QUrl>
+#include <algorithm>
+
+namespace ui {
+
+namespace {
+
+constexpr int kFichiersAttaches = 3;
+
+std::vector<std::string> cheminsDe(const QDropEvent& evenement) {
+    std::vector<std::string> chemins;
+    for (const QUrl& adresse : evenement.mimeData()->urls())
+        if (adresse.isLocalFile()) chemins.push_back(QFile::encodeName(adresse.toLocalFile()).toStdString());
+    return chemins;
+}
+
+bool estUneImage(const std::string& chemin) {
+    const QString suite = QFileInfo(QString::fromStdString(chemin)).suffix().toLower();
+    return suite == QLatin1String("jpg") || suite == QLatin1String("jpeg");
+}
+
+bool portentDesFiches(const std::vector<std::string>& chemins) {
+    return std::ranges::any_of(chemins, [](const std::string& chemin) {
+        return acquire::estFiche(chemin) || QFileInfo(QString::fromStdString(chemin)).isDir();
+    });
+}
+
+}  // namespace
+
+Depot::Depot(const Atelier& atelier, QWidget* fenetre) : QObject(fenetre), m_atelier(atelier), m_fenetre(fenetre) {
+    fenetre->setAcceptDrops(true);
+    fenetre->installEventFilter(this);
+}
+
+void Depot::prepare(QWidget* fenetre) {
+    for (int i = 0; i < kFichiersAttaches; ++i)
+        if (auto* zone = fenetre->findChild<QLineEdit*>(QStringLiteral("Text10_%1").arg(i)))
+            zone->setAcceptDrops(false);
+}
+
+bool Depot::eventFilter(QObject* objet, QEvent* evenement) {
+    if (objet != m_fenetre) return false;
+    switch (evenement->type()) {
+        case QEvent::DragEnter:
+        case QEvent::DragMove: {
+            auto& tenu = *static_cast<QDropEvent*>(evenement);
+            const bool voulu =
+                !m_atelier.commande.enCours() &&
+                (evenement->type() == QEvent::DragEnter ? !cheminsDe(tenu).empty() : cible(tenu).sorte != Sorte::Rien);
+            tenu.setDropAction(Qt::CopyAction);
+            tenu.setAccepted(voulu);
+            return true;
+        }
+        case QEvent::Drop:
+            recois(*static_cast<QDropEvent*>(evenement));
+            evenement->accept();
+            return true;
+        default:
+            return false;
+    }
+}
+
+// Where on the window it is: the poster, a box, or anywhere.
+Depot::Cible Depot::cible(const QDropEvent& evenement) const {
+    const std::vector<std::string> chemins = cheminsDe(evenement);
+    if (chemins.empty()) return {};
+    for (const QWidget* w = m_fenetre->childAt(evenement.position().toPoint()); w; w = w->parentWidget()) {
+        const QString nom = w->objectName();
+        if (nom == QLatin1String("cadreAffiche") && chemins.size() == 1 && estUneImage(chemins.front()))
+            return {Sorte::Affiche};
+        for (int i = 0; i < kFichiersAttaches; ++i)
+            if (nom == QStringLiteral("Text10_%1").arg(i) && chemins.size() == 1) return {Sorte::Fichier, i};
+    }
+    return {portentDesFiches(chemins) ? Sorte::Fiches : Sorte::Rien};
+}
+
+void Depot::recois(const QDropEvent& evenement) const {
+    const std::vector<std::string> chemins = cheminsDe(evenement);
+    const Cible ou = cible(evenement);
+    switch (ou.sorte) {
+        case Sorte::Fiches:
+            m_atelier.execute(acquire::importeFichesDeposees, chemins);
+            break;
+        case Sorte::Affiche:
+            m_atelier.execute(app::deposeAffiche, chemins.front());
+            break;
+        case Sorte::Fichier:
+            m_atelier.execute(edit::attacheFichier, ou.indice, chemins.front());
+            break;
+        case Sorte::Rien:
+            break;
+    }
+}
+
+}  // namespace ui

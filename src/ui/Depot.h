@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ui/Atelier.h"
+
+#include <QObject>
+
+class QDropEvent;
+
+namespace ui {
+
+// What is dropped on the window: sheets or a folder of them are imported, a picture on the poster becomes the film's, a
+// file on a box of an attached file fills it. Anything else is refused while it is still in the air.
+class Depot final : public QObject {
+    Q_OBJECT
+  public:
+    Depot(const Atelier& atelier, QWidget* fenetre);
+    // The boxes of the attached files would take the text of a link.
+    void prepare(QWidget* fenetre);
+
+  protected:
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
+
+  private:
+    enum class Sorte { Rien, Fiches, Affiche, Fichier };
+    struct Cible {
+        Sorte sorte = Sorte::Rien;
+        int indice = 0;  // of the attached file
+    };
+    [[nodiscard]] Cible cible(const QDropEvent& evenement) const;
+    void recois(const QDropEvent& evenement) const;
+
+    const Atelier m_atelier;
+    QWidget* m_fenetre;
+};
+
+}  // namespace ui

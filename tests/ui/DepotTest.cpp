@@ -1,0 +1,95 @@
+#include "ProgrammeDEssai.h"
+
+#include <QClipboard>
+#include <QDropEvent>
+#include <QMimeData>
+
+namespace {
+
+using essais::ProgrammeDEssai;
+
+struct Depot : testing::Test {
+    ProgrammeDEssai essai;
+
+    void SetUp() override {
+        essai.demarre();
+        essai.importe({{"L'Été", "Agnès Varda", "Drame", ""}});
+        essai.cliqueTitre("L'Été");
+    }
+    // What a file manager does; whether the window takes it.
+    bool depose(const QList<std::string>& chemins, QWidget* ou = nullptr) {
+        QMimeData donnees;
+        QList<QUrl> adresses;
+        for (const std::string& chemin : chemins)
+            adresses << QUrl::fromLocalFile(QString::fromStdString(chemin));
+        donnees.setUrls(adresses);
+        QWidget& fenetre = essai.fenetre();
+        const QPoint place = ou ? ou->mapTo(&fenetre, ou->rect().center()) : QPoint(20, fenetre.height() / 2);
+        QDragEnterEvent entre(place, Qt::CopyAction, &donnees, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&fenetre, &entre);
+        QDragMoveEvent passe(place, Qt::CopyAction, &donnees, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&fenetre, &passe);
+        if (!entre.isAccepted() || !passe.isAccepted()) return false;
+        QDropEvent lache(place, Qt::CopyAction, &donnees, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&fenetre, &lache);
+        return true;
+    }
+    std::string fichier(const char* nom, const std::string& octets) {
+        essai.dossier.ecrit(nom, octets);
+        return essai.dossier.chemin(nom);
+    }
+};
+
+TEST_F(Depot, SheetsAreImportedFromSeveralFoldersAndStayThere) {
+    const char* fiche = "\nGérard Oury\n1966\nFrance\nComédie\n2H\nDe Funès\nDeux \"anglais\"\nUGC\n";
+    const std::string une = fichier("a/fiche.FILM", std::string("La Grande Vadrouille") + fiche);
+    const std::string autre = fichier("b/fiche.film", std::string("Le Corniaud") + fiche);
+    fichier("b/fiche.JPG", essais::octetsDImage(Qt::blue));
+    const std::string avant = essai.etats().ajout.txtCheminAjoutAuto.Text;
+    EXPECT_FALSE(depose({fichier("notes.txt", "rien")}));
+    EXPECT_TRUE(depose({une, autre}));
+    EXPECT_EQ(essai.texte("Label9_0"), "3 titres");
+    EXPECT_EQ(essai.etats().ajout.txtCheminAjoutAuto.Text, avant);
+    EXPECT_TRUE(QFile::exists(QString::fromStdString(une)) && QFile::exists(QString::fromStdString(autre)));
+    essai.cliqueTitre("Le Corniaud");
+    EXPECT_TRUE(essai.trouve("Image1").isVisible()) << "its poster came along";
+    fichier("c/autre.FILM", std::string("Fantômas") + fiche);
+    EXPECT_TRUE(depose({essai.dossier.chemin("c")}));
+    EXPECT_EQ(essai.texte("Label9_0"), "4 titres");
+}
+
+TEST_F(Depot, APictureOnThePosterIsAttachedThenReplacesAndAVideoFillsABox) {
+    QWidget* cadre = &essai.trouve("cadreAffiche");
+    EXPECT_TRUE(depose({fichier("rouge.jpg", essais::octetsDImage(Qt::red))}, cadre));
+    ASSERT_TRUE(essai.trouve("Image1").isVisible());
+    EXPECT_TRUE(depose({fichier("bleue.jpg", essais::octetsDImage(Qt::blue))}, cadre));
+    const QColor couleur = essai.programme->session().regarde([&](const app::Contexte&) {
+        return QImage::fromData(QByteArray::fromStdString(essai.dossier.lit("Tmp/ImageTMP.jpg"))).pixelColor(20, 20);
+    });
+    EXPECT_GT(couleur.blue(), 200);
+    EXPECT_FALSE(depose({fichier("affiche.svg", "<svg/>")}, cadre));
+    essai.clique("cmdAutresInfos");
+    const std::string film = fichier("L'été \"2\".mkv", "x");
+    EXPECT_TRUE(depose({film}, &essai.trouve("Text10_1")));
+    EXPECT_EQ(essai.trouve<QLineEdit>("Text10_1").text().toStdString(), film);
+    EXPECT_TRUE(essai.trouve("cmdValiderInfosPossessions").isVisible());
+}
+
+TEST_F(Depot, TheSheetIsCopiedAsTextAndHtmlAndAPictureIsPasted) {
+    QImage image(40, 60, QImage::Format_RGB32);
+    image.fill(Qt::green);
+    QApplication::clipboard()->setImage(image);
+    essai.arbre().setFocus();
+    QTest::keyClick(&essai.arbre(), Qt::Key_V, Qt::ControlModifier);
+    ASSERT_TRUE(essai.trouve("Image1").isVisible());
+    essai.trouve("Image1").setFocus();
+    QTest::keyClick(&essai.trouve("Image1"), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->image().size(), image.size());
+    essai.trouve("cmdModifierTitre").setFocus();
+    QTest::keyClick(&essai.trouve("cmdModifierTitre"), Qt::Key_C, Qt::ControlModifier);
+    const QMimeData* copie = QApplication::clipboard()->mimeData();
+    EXPECT_TRUE(copie->text().contains("de Agnès Varda")) << copie->text().toStdString();
+    EXPECT_TRUE(copie->html().contains("<h2>L'Été</h2>")) << copie->html().toStdString();
+}
+
+}  // namespace
