@@ -195,10 +195,8 @@ void PageDoublons::cherche() {
     m_modele->change();
     m_vue->setCurrentIndex(m_modele->index(0, 0));
     change();
-    if (m_paires.nombre() > 0) {
-        montre(false);
-        m_vue->setFocus(Qt::OtherFocusReason);
-    }
+    montre(false);
+    if (m_paires.nombre() > 0) m_vue->setFocus(Qt::OtherFocusReason);
 }
 
 void PageDoublons::laisse() {
