@@ -134,14 +134,14 @@ bool estUneImage(const std::string& nom) {
 // One that bears the name of a film without a poster is that film's.
 void affichesSansFilm(const Contexte& c, Avancement& avancement, Constat& constat) {
     const std::string dossier = db::dossierImages(c);
-    if (!dossierPresent(dossier)) {
-        if (!dossier.empty()) constat.reserve = kDossierAbsent;
-        return;
-    }
     Noms nommees;
     parcourt(c, avancement, enonceDesAffiches("Affiche", db::kDansUnFichier), [&](const dao::Recordset& films) {
         nommees.insert(util::cleSansCasse(db::nomDansLeDossier(films.texte("Affiche"))));
     });
+    if (!dossierPresent(dossier)) {
+        if (!nommees.empty()) constat.reserve = kDossierAbsent;
+        return;
+    }
     std::unordered_map<std::string, db::CleFilm> attendues;
     for (const db::CleFilm& sans : filmsSansAffiche(c, avancement))
         attendues.try_emplace(util::cleSansCasse(db::nomFichierAffiche(sans.titre, sans.realisateur)), sans);

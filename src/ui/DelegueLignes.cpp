@@ -52,7 +52,6 @@ QTreeView* vueDeLignes(const char* nom, const QString& pourLecteur, QAbstractIte
     vue->setModel(modele);
     modele->setParent(vue);
     vue->setItemDelegate(new DelegueLignes(vue));
-    vue->setAllColumnsShowFocus(true);
     vue->setRootIsDecorated(false);
     vue->setExpandsOnDoubleClick(false);  // what is activated says what it does
     vue->setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -24,7 +24,7 @@ class DelegueLignes final : public QStyledItemDelegate {
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 };
 
-// A list of such rows, whose keys stand on a row as a whole.
+// A list of such rows.
 [[nodiscard]] QTreeView* vueDeLignes(const char* nom, const QString& pourLecteur, QAbstractItemModel* modele);
 
 }  // namespace ui

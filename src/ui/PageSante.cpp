@@ -28,8 +28,9 @@ PageSante::PageSante(const Atelier& atelier)
     m_vue = vueDeLignes("lstSante", tr("Constats de l'examen"), m_modele);
     m_vue->setRootIsDecorated(true);
     m_vue->header()->setStretchLastSection(false);
-    for (const int colonne : {ModeleSante::Titre, ModeleSante::Realisateur, ModeleSante::Detail})
+    for (const int colonne : {ModeleSante::Titre, ModeleSante::Detail})
         m_vue->header()->setSectionResizeMode(colonne, QHeaderView::Stretch);
+    m_vue->header()->resizeSection(ModeleSante::Realisateur, 18 * m_vue->fontMetrics().averageCharWidth());
     contenu()->addWidget(m_ligne);
     contenu()->addWidget(m_invite);
     contenu()->addWidget(m_vue, 1);
