@@ -31,7 +31,7 @@ PageDoublons::PageDoublons(const Atelier& atelier)
     : PageCollection(atelier, "PageDoublons", tr("Doublons possibles"),
                      tr("Les films dont titre et réalisateur se ressemblent, les plus proches d'abord. Rien ne change "
                         "sans vous, et Ctrl+Z annule une fusion ou une suppression.")) {
-    m_ligne = new LigneDExamen("ChercherDoublons", {tr("C&hercher les ressemblances"), tr("C&hercher de nouveau"),
+    m_ligne = new LigneDExamen("ChercherDoublons", {tr("&Chercher les ressemblances"), tr("&Chercher de nouveau"),
                                                     tr("Comparer tous les films de la base entre eux"),
                                                     tr("La base a changé depuis cette recherche.")});
     m_invite = nomme((new Etiquette(tr("Chaque film est comparé à tous les autres, comme à l'import : une paire est "
