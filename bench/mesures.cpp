@@ -200,20 +200,28 @@ void mesureCommandes(bench::Tableau& tableau, const Options& options, int films)
     tableau.ajoute({"adding a film; listing the day's films", "ms", ajout.at("ajout"), ajout.at("listage"), 2.0, true});
 }
 
+// Where the films are few, beside each compared with each.
+void mesureDoublons(bench::Tableau& tableau, const Options& options, int films, std::optional<double> auPlus) {
+    const Figures doublons =
+        bench::lance("mesure_ensemble", {"doublons", collection(options, {films, false}).string()});
+    const auto simple = doublons.find("une_a_une");
+    tableau.ajoute({"resemblances of " + std::to_string(films) + " films, " +
+                        std::to_string(static_cast<long>(doublons.at("paires"))) + " pairs",
+                    "ms", doublons.at("doublons"), simple == doublons.end() ? std::optional<double>() : simple->second,
+                    auPlus});
+}
+
 // What looks at a whole collection: the filter of the tree, and resemblances.
 void mesureEnsemble(bench::Tableau& tableau, const Options& options, int films, double doublonsMax) {
     const std::string dossier = collection(options, {films, false}).string();
     const Figures filtre = bench::lance("mesure_ensemble", {"filtre", dossier});
-    const Figures doublons = bench::lance("mesure_ensemble", {"doublons", dossier});
     tableau.titre("a collection of " + std::to_string(films) + " films at a glance");
     const double grep = filtre.at("grep");
     tableau.ajoute({"filter of the tree, a keystroke, median; grep -i", "ms", filtre.at("frappe_mediane"), grep, 16.0});
     tableau.ajoute({"filter of the tree, a keystroke, worst; grep -i", "ms", filtre.at("frappe_pire"), grep, 33.0});
     tableau.ajoute({"  its index, in slices of idle time", "ms", filtre.at("index"), {}, {}});
     tableau.ajoute({"  its index", "MB", filtre.at("memoire_index"), {}, {}});
-    const auto paires = static_cast<long>(doublons.at("paires"));
-    tableau.ajoute(
-        {"resemblances, " + std::to_string(paires) + " pairs", "ms", doublons.at("doublons"), {}, doublonsMax});
+    mesureDoublons(tableau, options, films, doublonsMax);
 }
 
 void mesureConversion(bench::Tableau& tableau, const Options& options, int films) {
@@ -346,6 +354,7 @@ int main(int nombre, char** mots) try {
     if (!options.commandes) mesureFenetresEtImports(tableau, options);
     mesureCommandes(tableau, options, options.vite ? 10000 : 100000);
     mesureEnsemble(tableau, options, 10000, 2000);
+    mesureDoublons(tableau, options, 3000, {});
     if (!options.vite) mesureEnsemble(tableau, options, 100000, 60000);
     mesureListes(tableau, options);
     mesureConversion(tableau, options, options.vite ? 2000 : 10000);

@@ -101,9 +101,11 @@ std::optional<std::string> afficheDuNoeud(const Contexte& c, int noeud) {
     return octets(c, valeurAffiche(c, noeud));
 }
 
-std::optional<std::string> afficheDuFilm(const Contexte& c, const db::CleFilm& film) {
+std::optional<std::string> afficheDuFilm(const Contexte& c, const db::CleFilm& film, long rang) {
     try {
-        const dao::Recordset ligne = c.base.base.OpenRecordset(db::enonceFilm(film));
+        dao::Recordset ligne = c.base.base.OpenRecordset(db::enonceFilm(film));
+        for (; rang > 0 && !ligne.Eof(); --rang)
+            ligne.MoveNext();
         return ligne.Eof() ? std::nullopt : octets(c, ligne.texte("Affiche"));
     } catch (const dao::ErreurDao&) {
         return std::nullopt;

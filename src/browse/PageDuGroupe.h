@@ -29,6 +29,7 @@ struct PageDuGroupe {
 // The bytes of the poster of a film's node; nothing without one, and where it cannot be read: nobody is told, and no value
 // of the window changes.
 [[nodiscard]] std::optional<std::string> afficheDuNoeud(const Contexte& c, int noeud);
-[[nodiscard]] std::optional<std::string> afficheDuFilm(const Contexte& c, const db::CleFilm& film);  // listed or not
+// The same of a film, listed or not; of several of one name, the first or the one of that rank.
+[[nodiscard]] std::optional<std::string> afficheDuFilm(const Contexte& c, const db::CleFilm& film, long rang = 0);
 
 }  // namespace browse

@@ -56,27 +56,32 @@ struct Renommage {
     bool personnel;
 };
 
-void demandeEtRenomme(const Contexte& c, const Renommage& renommage) {
+constexpr Renommage kGenre{"Genre", "Entrez le nom du nouveau genre", "Modifier le genre", false};
+constexpr Renommage kSupport{"Support", "Entrez le nom du nouveau support", "Modifier le support", true};
+
+// `propose` instead of the heading's own value.
+void demandeEtRenomme(const Contexte& c, const Renommage& renommage, const std::optional<std::string>& propose = {}) {
     if (!groupeChoisi(c)) return;
     std::string genre, support;
     RecupereInfosGroupeSelectionne(c, genre, support);
     const std::string& actuel = renommage.personnel ? support : genre;
-    ModifieGroupe(c, renommage.champ, c.dialogues.InputBox(renommage.question, renommage.titre, actuel),
+    ModifieGroupe(c, renommage.champ,
+                  c.dialogues.InputBox(renommage.question, renommage.titre, propose.value_or(actuel)),
                   renommage.personnel);
 }
 
 }  // namespace
 
 void RenommerGenreFilms_Click(const Contexte& c) {
-    browse::puisVersLaListe(c, [&c] {
-        demandeEtRenomme(c, {"Genre", "Entrez le nom du nouveau genre", "Modifier le genre", false});
-    });
+    browse::puisVersLaListe(c, [&c] { demandeEtRenomme(c, kGenre); });
 }
 
 void RenommeSupportFilms_Click(const Contexte& c) {
-    browse::puisVersLaListe(c, [&c] {
-        demandeEtRenomme(c, {"Support", "Entrez le nom du nouveau support", "Modifier le support", true});
-    });
+    browse::puisVersLaListe(c, [&c] { demandeEtRenomme(c, kSupport); });
+}
+
+void RenommeEnProposant(const Contexte& c, bool personnel, const std::string& nom) {
+    browse::puisVersLaListe(c, [&] { demandeEtRenomme(c, personnel ? kSupport : kGenre, nom); });
 }
 
 void RecupereInfosGroupeSelectionne(const Contexte& c, std::string& genre, std::string& support) {

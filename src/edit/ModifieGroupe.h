@@ -10,6 +10,8 @@ namespace edit {
 // unless a heading is selected.
 void RenommerGenreFilms_Click(const Contexte& c);
 void RenommeSupportFilms_Click(const Contexte& c);
+// One of the two (`personnel`: the support), whose question proposes that name in the place of the present one.
+void RenommeEnProposant(const Contexte& c, bool personnel, const std::string& nom);
 
 // The values of the first film under the heading; "" for both when it has none, and for one that the listing lacks.
 void RecupereInfosGroupeSelectionne(const Contexte& c, std::string& genre, std::string& support);

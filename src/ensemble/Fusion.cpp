@@ -20,15 +20,15 @@ namespace ensemble {
 namespace {
 
 constexpr auto kNumero = db::NumeroErreur::Ressemblances;
-constexpr const char* kAffiche = "Affiche";
+constexpr std::string_view kAffiche = "Affiche", kNote = "Note";
 
 using Legende = std::pair<const char*, const char*>;
 constexpr std::array kChampsDuFilm{Legende{"Titre", "Titre"},         Legende{"Realisateur", "Réalisateur"},
                                    Legende{"Annee", "Année"},         Legende{"Origine", "Origine"},
                                    Legende{"Genre", "Genre"},         Legende{"Duree", "Durée"},
                                    Legende{"Acteurs", "Acteurs"},     Legende{"Production", "Production"},
-                                   Legende{"Resume", "Résumé"},       Legende{"Note", "Note"},
-                                   Legende{"DateAjout", "Ajouté le"}, Legende{kAffiche, "Affiche"}};
+                                   Legende{"Resume", "Résumé"},       Legende{kNote.data(), "Note"},
+                                   Legende{"DateAjout", "Ajouté le"}, Legende{kAffiche.data(), "Affiche"}};
 constexpr std::array kLegendesDePossession{"Rangement", "Fichier 1", "Fichier 2", "Fichier 3", "Prêté à",
                                            "Réservé à", "Date",      "Divers",    "Support"};
 static_assert(kLegendesDePossession.size() == kChampsDePossession.size());
@@ -67,6 +67,8 @@ DeuxLignes possessions(const Contexte& c, const db::CleFilm& gauche, const db::C
 
 ChampCompare compare(const char* champ, const char* legende, DeuxLignes& lignes) {
     ChampCompare compare{champ, legende, lignes.gauche().texte(champ), lignes.droite().texte(champ)};
+    for (std::string* note : {&compare.gauche, &compare.droite})
+        if (champ == kNote && *note == "0") note->clear();  // as other tools write that there is none
     if (champ == kAffiche) {
         compare.gauche = texteDeLAffiche(compare.gauche);
         compare.droite = texteDeLAffiche(compare.droite);

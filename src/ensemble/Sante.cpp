@@ -106,16 +106,16 @@ Noms affichesPresentes(const Contexte& c, const std::string& dossier) {
     return noms;
 }
 
-bool dossierPresent(const std::string& dossier, Constat& constat) {
-    if (!dossier.empty() && fichiers::dossierExiste(dossier)) return true;
-    constat.reserve = "Le dossier des images n'est pas là.";
-    return false;
+bool dossierPresent(const std::string& dossier) {
+    return !dossier.empty() && fichiers::dossierExiste(dossier);
 }
+
+constexpr const char* kDossierAbsent = "Le dossier des images n'est pas là.";
 
 // A folder that is away, with its disk, says nothing of its files.
 void affichesAbsentes(const Contexte& c, Avancement& avancement, Constat& constat) {
     const std::string dossier = db::dossierImages(c);
-    const bool present = dossierPresent(dossier, constat);
+    const bool present = dossierPresent(dossier);
     const Noms noms = affichesPresentes(c, dossier);
     parcourt(c, avancement, enonceDesAffiches("Titre, Realisateur, Affiche", db::kDansUnFichier),
              [&](const dao::Recordset& films) {
@@ -123,6 +123,7 @@ void affichesAbsentes(const Contexte& c, Avancement& avancement, Constat& consta
                  if (!noms.contains(util::cleSansCasse(nom)))
                      constat.lignes.push_back({film(films), nom, true, present});
              });
+    if (!present && !constat.lignes.empty()) constat.reserve = kDossierAbsent;
 }
 
 bool estUneImage(const std::string& nom) {
@@ -133,11 +134,14 @@ bool estUneImage(const std::string& nom) {
 // One that bears the name of a film without a poster is that film's.
 void affichesSansFilm(const Contexte& c, Avancement& avancement, Constat& constat) {
     const std::string dossier = db::dossierImages(c);
-    if (!dossierPresent(dossier, constat)) return;
     Noms nommees;
     parcourt(c, avancement, enonceDesAffiches("Affiche", db::kDansUnFichier), [&](const dao::Recordset& films) {
         nommees.insert(util::cleSansCasse(db::nomDansLeDossier(films.texte("Affiche"))));
     });
+    if (!dossierPresent(dossier)) {
+        if (!nommees.empty()) constat.reserve = kDossierAbsent;
+        return;
+    }
     std::unordered_map<std::string, db::CleFilm> attendues;
     for (const db::CleFilm& sans : filmsSansAffiche(c, avancement))
         attendues.try_emplace(util::cleSansCasse(db::nomFichierAffiche(sans.titre, sans.realisateur)), sans);
@@ -253,10 +257,22 @@ long Constat::reparables() const {
 }
 
 std::string Constat::texte() const {
+    if (!complet) return titre + " : l'examen a été arrêté";
     const long toutes = std::ssize(lignes), celles = reparables();
-    const std::string debut = titre + " : " + std::to_string(toutes);
-    if (celles == 0 || celles == toutes) return debut;
-    return debut + util::phraseCompte(celles, ", dont # réparable", ", dont # réparables");
+    std::string texte = titre + " : " + std::to_string(toutes);
+    if (!reserve.empty()) return (toutes == 0 ? titre + " : " : texte + ". ") + reserve;
+    if (celles != 0 && celles != toutes)
+        texte += util::phraseCompte(celles, ", dont # réparable", ", dont # réparables");
+    return texte;
+}
+
+std::string Constat::texteReparation() const {
+    return reparables() == 0 ? "" : reparation + " (" + std::to_string(reparables()) + ")";
+}
+
+std::string LigneDeSante::pourquoiSansFiche() const {
+    if (film.titre.empty()) return "Aucun film ne correspond à " + util::entreChevrons(detail) + ".";
+    return util::entreChevrons(film.titre) + " n'a pas de fiche.";
 }
 
 std::string Examen::bilan() const {
@@ -283,7 +299,8 @@ Examen examine(const Contexte& c) {
 Constat examine(const Contexte& c, Mal mal) {
     Avancement avancement(c, 1, "Examen de la base");
     Constat constat = examineGenre(c, avancement, kGenres[static_cast<std::size_t>(mal)]);
-    if (avancement.arrete()) constat.lignes.clear();  // a part of it would pass for all
+    constat.complet = !avancement.arrete();
+    if (!constat.complet) constat.lignes.clear();  // a part of it would pass for all
     return constat;
 }
 

@@ -27,6 +27,7 @@ struct LigneDeSante {
     std::string detail;  // beside its title: a file, the corrected title…; may be empty
     bool aUneFiche = true;
     bool reparable = false;
+    [[nodiscard]] std::string pourquoiSansFiche() const;  // why the line leads to no sheet
 };
 
 struct Constat {
@@ -35,8 +36,10 @@ struct Constat {
     std::string reparation{};  // what mending does, to name its button; empty: nothing can be done at once
     std::vector<LigneDeSante> lignes{};
     std::string reserve{};  // why it cannot be told, or not be mended now; may be empty
+    bool complet = true;    // false: stopped, nothing is known
     [[nodiscard]] long reparables() const;
-    [[nodiscard]] std::string texte() const;  // "Fiches sans affiche : 12"; "…, dont 3 réparables"
+    [[nodiscard]] std::string texte() const;  // "Fiches sans affiche : 12"; "…, dont 3 réparables"; with the reserve
+    [[nodiscard]] std::string texteReparation() const;  // "Créer les fiches (3)"; "" where nothing can be mended now
 };
 
 struct Examen {

@@ -4,6 +4,7 @@
 #include "edit/ModifieGroupe.h"
 #include "edit/cmdSupprimerTitre_Click.h"
 #include "export/cmdCreeFichierTxt_Click.h"
+#include "ui/FenetreApercu.h"
 
 #include <QMenu>
 #include <functional>
@@ -40,10 +41,14 @@ MenusArbre::MenusArbre(const Atelier& atelier, QWidget* fenetre)
             atelier.reponse(exportation::cmdCreeFichierTxt_Click)}})),
       m_support(menu(atelier, fenetre, "MenuClicDroitSupport",
                      {{"RenommeSupportFilms", QWidget::tr("&Renommer le support…"),
-                       atelier.reponse(edit::RenommeSupportFilms_Click)}})),
-      m_genre(menu(atelier, fenetre, "MenuClicDroitGenre",
-                   {{"RenommerGenreFilms", QWidget::tr("&Renommer le genre…"),
-                     atelier.reponse(edit::RenommerGenreFilms_Click)}})) {}
+                       atelier.reponse(edit::RenommeSupportFilms_Click)},
+                      {"ApercuSupport", QWidget::tr("&Aperçu du renommage…"),
+                       [atelier, fenetre] { ouvreApercuDuRenommage(atelier, fenetre, true); }}})),
+      m_genre(menu(
+          atelier, fenetre, "MenuClicDroitGenre",
+          {{"RenommerGenreFilms", QWidget::tr("&Renommer le genre…"), atelier.reponse(edit::RenommerGenreFilms_Click)},
+           {"ApercuGenre", QWidget::tr("&Aperçu du renommage…"),
+            [atelier, fenetre] { ouvreApercuDuRenommage(atelier, fenetre, false); }}})) {}
 
 void MenusArbre::montre(app::MenuContextuel demande, const QPoint& endroit) {
     switch (demande) {

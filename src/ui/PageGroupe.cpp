@@ -4,6 +4,7 @@
 #include "browse/ListeVide.h"
 #include "edit/ModifieGroupe.h"
 #include "ui/Composition.h"
+#include "ui/FenetreApercu.h"
 #include "ui/Vignette.h"
 
 #include <QKeyEvent>
@@ -43,6 +44,7 @@ PageGroupe::PageGroupe(const Atelier& atelier, QWidget* parent)
       m_atelier(atelier),
       m_nom(nomme((new Etiquette)->avecPolice(1.6, QFont::DemiBold), "lblGroupe")),
       m_compte(nomme((new Etiquette)->avecTon(Ton::Discret), "lblNombreGroupe")),
+      m_apercu(bouton("cmdApercuGroupe", tr("Aperçu…"), tr("Voir d'abord ce qu'un autre nom changera"))),
       m_renommer(bouton("cmdRenommerGroupe", tr("Renommer…"), tr("Donner un autre nom à ce groupe de films"))),
       m_mur(new QWidget) {
     nomme(this, "framePageGroupe");
@@ -51,6 +53,7 @@ PageGroupe::PageGroupe(const Atelier& atelier, QWidget* parent)
     textes->addWidget(m_compte);
     auto* entete = rangee({}, kMoyen);
     entete->addLayout(textes, 1);
+    entete->addWidget(m_apercu, 0, Qt::AlignVCenter);
     entete->addWidget(m_renommer, 0, Qt::AlignVCenter);
     for (std::size_t i = 0; i < m_vignettes.size(); ++i) {
         auto* vignette = m_vignettes[i] = nomme(new Vignette(m_mur), "cmdVignette", i);
@@ -68,6 +71,8 @@ PageGroupe::PageGroupe(const Atelier& atelier, QWidget* parent)
     setLayout(boite);
     m_mur->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
 
+    connect(m_apercu, &QAbstractButton::clicked, this,
+            [this] { ouvreApercuDuRenommage(m_atelier, this, m_page.renommage == browse::Renommage::Support); });
     connect(m_renommer, &QAbstractButton::clicked, this, &PageGroupe::renomme);
     m_suite.setSingleShot(true);
     connect(&m_suite, &QTimer::timeout, this, &PageGroupe::avance);
@@ -103,6 +108,7 @@ void PageGroupe::metAJour() {
     m_page = std::move(page);
     m_nom->setText(QString::fromStdString(m_page.nom));
     m_compte->setText(QString::fromStdString(m_page.compte));
+    m_apercu->setVisible(m_page.renommage != browse::Renommage::Aucun);
     m_renommer->setVisible(m_page.renommage != browse::Renommage::Aucun);
     for (std::size_t i = 0; i < m_page.noeuds.size(); ++i) {
         const std::string_view titre = arbre.Text(m_page.noeuds[i]);

@@ -38,7 +38,7 @@ class PageGroupe final : public QWidget {
 
     const Atelier m_atelier;
     Etiquette *m_nom, *m_compte;
-    QPushButton* m_renommer;
+    QPushButton *m_apercu, *m_renommer;
     QWidget* m_mur;
     std::array<Vignette*, browse::kAffichesDeLaPage> m_vignettes{};
     browse::PageDuGroupe m_page;

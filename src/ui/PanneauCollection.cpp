@@ -4,6 +4,8 @@
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/PageCeSoir.h"
+#include "ui/PageDoublons.h"
+#include "ui/PageSante.h"
 
 #include <QStackedWidget>
 #include <functional>
@@ -29,6 +31,10 @@ std::vector<Onglet> onglets() {
     using enum app::PageDeCollection;
     return {{Affiches, "OngletAffiches", PanneauCollection::tr("Affiches"),
              PanneauCollection::tr("Les affiches des films de la liste")},
+            {Sante, "OngletSante", PanneauCollection::tr("Santé"),
+             PanneauCollection::tr("Ce qui manque aux fiches, ce qui ne mène nulle part"), &construit<PageSante>},
+            {Doublons, "OngletDoublons", PanneauCollection::tr("Doublons"),
+             PanneauCollection::tr("Les films qui se ressemblent"), &construit<PageDoublons>},
             {CeSoir, "OngletCeSoir", PanneauCollection::tr("Ce soir ?"),
              PanneauCollection::tr("Un film à regarder parmi ceux que vous possédez"), &construit<PageCeSoir>}};
 }

@@ -9,6 +9,7 @@
 #include "export/cmdCreerListe_Click.h"
 #include "ui/Cartes.h"
 #include "ui/Composition.h"
+#include "ui/FenetreApercu.h"
 #include "ui/Sections.h"
 
 namespace ui {
@@ -79,8 +80,10 @@ QWidget* PanneauOutils::exporter() {
 QWidget* PanneauOutils::corriger() {
     auto* ponctuation = outil("cmdPonctuation", tr("Corr&iger les titres"), tr("Corriger les majuscules des titres"),
                               m_atelier.etats().fonctions.cmdPonctuation, edit::cmdPonctuation_Click);
+    auto* apercu = bouton("cmdApercuTitres", tr("Aperçu…"), tr("Voir d'abord ce qui changera ; rien ne change"));
+    connect(apercu, &QAbstractButton::clicked, this, [this] { ouvreApercuDesTitres(m_atelier, this); });
     auto* boite = groupe(tr("Corriger"));
-    boite->addLayout(ligneDOutil(section(m_atelier, Aide::Ponctuation), {ponctuation}));
+    boite->addLayout(ligneDOutil(section(m_atelier, Aide::Ponctuation), {apercu, ponctuation}));
     return new Carte(boite);
 }
 
