@@ -4,6 +4,7 @@
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/PageCeSoir.h"
+#include "ui/PagePrets.h"
 
 #include <QStackedWidget>
 #include <functional>
@@ -29,6 +30,8 @@ std::vector<Onglet> onglets() {
     using enum app::PageDeCollection;
     return {{Affiches, "OngletAffiches", PanneauCollection::tr("Affiches"),
              PanneauCollection::tr("Les affiches des films de la liste")},
+            {Prets, "OngletPrets", PanneauCollection::tr("Prêts"),
+             PanneauCollection::tr("Qui a quel film, et qui attend quoi"), &construit<PagePrets>},
             {CeSoir, "OngletCeSoir", PanneauCollection::tr("Ce soir ?"),
              PanneauCollection::tr("Un film à regarder parmi ceux que vous possédez"), &construit<PageCeSoir>}};
 }
