@@ -5,6 +5,7 @@
 #include "ui/Composition.h"
 #include "ui/PageCeSoir.h"
 #include "ui/PagePrets.h"
+#include "ui/PageStatistiques.h"
 
 #include <QStackedWidget>
 #include <functional>
@@ -32,6 +33,8 @@ std::vector<Onglet> onglets() {
              PanneauCollection::tr("Les affiches des films de la liste")},
             {Prets, "OngletPrets", PanneauCollection::tr("Prêts"),
              PanneauCollection::tr("Qui a quel film, et qui attend quoi"), &construit<PagePrets>},
+            {Statistiques, "OngletStatistiques", PanneauCollection::tr("Statistiques"),
+             PanneauCollection::tr("Les films de la liste par genre, décennie, pays…"), &construit<PageStatistiques>},
             {CeSoir, "OngletCeSoir", PanneauCollection::tr("Ce soir ?"),
              PanneauCollection::tr("Un film à regarder parmi ceux que vous possédez"), &construit<PageCeSoir>}};
 }

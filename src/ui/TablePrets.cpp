@@ -16,7 +16,7 @@ namespace ui {
 namespace {
 
 constexpr int kLignesAuMoins = 3, kLignesVoulues = 8;
-constexpr double kPartDuFilm = 0.34;  // of the width, at least
+constexpr double kPartDuFilm = 0.28;  // of the width, at least
 constexpr int kLargeurAuMoins = 48;   // of any other column
 
 using Cle = std::pair<std::string, std::string>;
