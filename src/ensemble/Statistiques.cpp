@@ -62,9 +62,11 @@ class ParValeur {
 // Bars by a number that stands for their order.
 class ParRang {
   public:
-    void compte(int rang, const std::string& libelle, std::uint32_t ligne) {
-        Barre& barre = m_barres.try_emplace(rang, Barre{libelle}).first->second;
-        barre.lignes.push_back(ligne);
+    template <typename Libelle>
+    void compte(int rang, Libelle libelle, std::uint32_t ligne) {
+        auto place = m_barres.find(rang);
+        if (place == m_barres.end()) place = m_barres.emplace(rang, Barre{libelle()}).first;
+        place->second.lignes.push_back(ligne);
     }
     [[nodiscard]] std::vector<Barre> barres() && {
         std::vector<Barre> barres;
@@ -195,9 +197,11 @@ class Comptage::Interieur {
         for (const std::string_view realisateur : personnesDe(m_champs[kRealisateur]))
             m_realisateurs.compte(realisateur, m_ligne);
         if (const int annee = anneeDe(m_champs[kAnnee]); annee > 0)
-            m_decennies.compte(annee / 10, "Années " + std::to_string(annee / 10 * 10), m_ligne);
+            m_decennies.compte(
+                annee / 10, [&] { return "Années " + std::to_string(annee / 10 * 10); }, m_ligne);
         if (const int note = util::arrondiPair(util::Val(m_champs[kNote])); note >= 1 && note <= 10)
-            m_notes.compte(-note, std::to_string(note) + "/10", m_ligne);
+            m_notes.compte(
+                -note, [&] { return std::to_string(note) + "/10"; }, m_ligne);
         if (!m_supportsAPart) m_supports.compte(m_champs[kSupport], m_ligne);
         compteLaDuree();
         compteLAjout();
@@ -214,7 +218,8 @@ class Comptage::Interieur {
         if (!minutes) return;
         const auto classe =
             std::find_if(kClasses.begin(), kClasses.end(), [&](const Classe& c) { return *minutes < c.sous; });
-        m_durees.compte(static_cast<int>(classe - kClasses.begin()), classe->libelle, m_ligne);
+        m_durees.compte(
+            static_cast<int>(classe - kClasses.begin()), [&] { return std::string(classe->libelle); }, m_ligne);
     }
 
     void compteLAjout() {
@@ -222,8 +227,9 @@ class Comptage::Interieur {
         if (!date) return;
         const int annee = static_cast<int>(date->year());
         const auto mois = static_cast<unsigned>(date->month()) - 1;
-        m_ajouts.compte(12 * annee + static_cast<int>(mois), std::string(kMois[mois]) + " " + std::to_string(annee),
-                        m_ligne);
+        m_ajouts.compte(
+            12 * annee + static_cast<int>(mois), [&] { return std::string(kMois[mois]) + " " + std::to_string(annee); },
+            m_ligne);
     }
 
     void donne() {

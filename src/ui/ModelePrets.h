@@ -20,6 +20,7 @@ class ModelePrets final : public QAbstractTableModel {
     [[nodiscard]] const ensemble::Pret& pret(int ligne) const { return m_prets.at(static_cast<std::size_t>(ligne)); }
     [[nodiscard]] const std::vector<ensemble::Pret>& prets() const { return m_prets; }
     [[nodiscard]] bool colonneVide(int colonne) const;  // it says nothing of any row
+    [[nodiscard]] int colonneDesJours() const { return m_sorte == Sorte::Prets ? 2 : -1; }
     [[nodiscard]] bool triable(int colonne) const;
     [[nodiscard]] int colonneTriee() const { return m_colonne; }
     [[nodiscard]] Qt::SortOrder ordre() const { return m_ordre; }

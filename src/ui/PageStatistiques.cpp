@@ -195,9 +195,14 @@ void PageStatistiques::imprime() {
     boite.setWindowTitle(tr("Imprimer"));
     if (boite.exec() != QDialog::Accepted) return;
     const bool faite = imprimeDiagramme(imprimante, dessine);
+    const std::string fichier = imprimante.outputFileName().toStdString();
     atelier().execute([&](const ensemble::Contexte& c) {
-        c.avis.montre(faite ? "« " + dessine.titre + " » est à l'impression."
-                            : "L'impression n'a pas pu se faire : l'imprimante ou le fichier ne peut pas être écrit.");
+        if (!faite)
+            c.avis.montre("L'impression n'a pas pu se faire : l'imprimante ou le fichier ne peut pas être écrit.");
+        else if (fichier.empty())
+            c.avis.montre("« " + dessine.titre + " » est à l'impression.");
+        else
+            exportation::annonceExport(c, "Fichier créé : ", fichiers::absolu(fichier));
     });
 }
 

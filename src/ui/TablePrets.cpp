@@ -8,7 +8,6 @@
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 #include <algorithm>
-#include <numeric>
 #include <set>
 
 namespace ui {
@@ -16,8 +15,9 @@ namespace ui {
 namespace {
 
 constexpr int kLignesAuMoins = 3, kLignesVoulues = 8;
-constexpr double kPartDuFilm = 0.28;  // of the width, at least
-constexpr int kLargeurAuMoins = 48;   // of any other column
+constexpr double kPartDuFilm = 0.28;   // of the width, at least
+constexpr int kLargeurDesJours = 112;  // "9999 jours", bold, behind its mark
+constexpr int kLargeurAuMoins = 48;    // of any other column
 
 using Cle = std::pair<std::string, std::string>;
 
@@ -38,6 +38,7 @@ TablePrets::TablePrets(ModelePrets::Sorte sorte, const char* nom, const QString&
     setItemDelegate(new DelegueDePret(this));
     setRootIsDecorated(false);
     setUniformRowHeights(true);
+    setIconSize({14, 14});
     setAllColumnsShowFocus(true);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setTabKeyNavigation(false);
@@ -118,16 +119,22 @@ void TablePrets::metLesLargeurs() {
     for (int colonne = 1; colonne < m_modele.columnCount(); ++colonne)
         largeurs.push_back(
             isColumnHidden(colonne) ? 0 : std::max(sizeHintForColumn(colonne), header()->sectionSizeHint(colonne)));
+    const int jours = m_modele.colonneDesJours();  // a number that is cut says nothing
+    const auto largeurDe = [&](int colonne, int auPlus) {
+        return std::min(largeurs[static_cast<std::size_t>(colonne) - 1],
+                        colonne == jours ? std::max(auPlus, kLargeurDesJours) : auPlus);
+    };
     const auto ensemble = [&](int auPlus) {
-        return std::accumulate(largeurs.begin(), largeurs.end(), 0,
-                               [&](int somme, int largeur) { return somme + std::min(largeur, auPlus); });
+        int somme = 0;
+        for (int colonne = 1; colonne < m_modele.columnCount(); ++colonne)
+            somme += largeurDe(colonne, auPlus);
+        return somme;
     };
     int auPlus = *std::max_element(largeurs.begin(), largeurs.end());
     while (auPlus > kLargeurAuMoins && film + ensemble(auPlus) > place)
         --auPlus;
     for (int colonne = 1; colonne < m_modele.columnCount(); ++colonne)
-        if (!isColumnHidden(colonne))
-            setColumnWidth(colonne, std::min(auPlus, largeurs[static_cast<std::size_t>(colonne) - 1]));
+        if (!isColumnHidden(colonne)) setColumnWidth(colonne, largeurDe(colonne, auPlus));
     setColumnWidth(0, std::max(film, place - ensemble(auPlus)));
     m_metLesLargeurs = false;
 }
