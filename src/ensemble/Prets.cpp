@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 #include <set>
 #include <tuple>
 
@@ -65,12 +66,24 @@ std::string nomme(const Pret& pret) {
     return texte;
 }
 
+constexpr std::size_t kNommes = 3;  // of each kind, in one line
+
 std::string listeDe(const std::vector<db::CleFilm>& films) {
-    constexpr std::size_t kNommes = 3;
     std::string texte;
     for (std::size_t i = 0; i < std::min(films.size(), kNommes); ++i)
         texte += (i == 0 ? "" : ", ") + util::entreChevrons(films[i].titre);
     return films.size() > kNommes ? texte + "…" : texte;
+}
+
+// " « Alien » est chez Zoé." for the first ones, and how many there are beside.
+std::string phrases(const std::vector<Pret>& prets, const char* verbe, std::string Pret::*qui, const char* participe) {
+    std::string texte;
+    for (std::size_t i = 0; i < std::min(prets.size(), kNommes); ++i)
+        texte += " " + util::entreChevrons(prets[i].film.titre) + verbe + prets[i].*qui + ".";
+    if (prets.size() <= kNommes) return texte;
+    const std::string autre(participe);
+    return texte + util::phraseCompte(std::ssize(prets) - static_cast<std::ptrdiff_t>(kNommes),
+                                      " # autre film est " + autre + ".", " # autres films sont " + autre + "s.");
 }
 
 // Each film's holding in turn, in transactions; `change` says whether the row is to be stored.
@@ -111,15 +124,19 @@ void trie(std::vector<Pret>& prets, TriDesPrets tri) {
         std::string personne, titre, realisateur;
         std::size_t rang;
     };
+    const auto personne = [tri](const Pret& pret) -> const std::string& {
+        return pret.aQui.empty() || tri == TriDesPrets::Attente ? pret.pourQui : pret.aQui;
+    };
+    const bool parPersonne = tri == TriDesPrets::Personne || tri == TriDesPrets::Attente;
     std::vector<Cle> cles;
     for (const Pret& pret : prets)
-        cles.push_back({-pret.jours.value_or(-1), dao::cleDeComparaison(pret.aQui.empty() ? pret.pourQui : pret.aQui),
+        cles.push_back({-pret.jours.value_or(-1), parPersonne ? dao::cleDeComparaison(personne(pret)) : std::string(),
                         dao::cleDeComparaison(pret.film.titre), dao::cleDeComparaison(pret.film.realisateur),
                         cles.size()});
-    std::stable_sort(cles.begin(), cles.end(), [tri](const Cle& a, const Cle& b) {
+    std::stable_sort(cles.begin(), cles.end(), [&](const Cle& a, const Cle& b) {
         const auto parFilm = [](const Cle& cle) { return std::tie(cle.titre, cle.realisateur); };
         if (tri == TriDesPrets::Jours && a.jours != b.jours) return a.jours < b.jours;
-        if (tri == TriDesPrets::Personne && a.personne != b.personne) return a.personne < b.personne;
+        if (a.personne != b.personne) return a.personne < b.personne;
         return parFilm(a) < parFilm(b);
     });
     std::vector<Pret> tries;
@@ -159,6 +176,18 @@ std::string bilan(const BureauDesPrets& bureau, int jours) {
     return texte;
 }
 
+std::vector<std::string> personnes(const BureauDesPrets& bureau) {
+    std::map<std::string, std::string> noms;
+    for (const Pret& pret : bureau.prets)
+        noms.try_emplace(dao::cleDeComparaison(pret.aQui), pret.aQui);
+    for (const Pret& pret : bureau.reservations)
+        noms.try_emplace(dao::cleDeComparaison(pret.pourQui), pret.pourQui);
+    std::vector<std::string> resultat;
+    for (auto& [cle, nom] : noms)
+        resultat.push_back(std::move(nom));
+    return resultat;
+}
+
 std::string texteDuRappel(const std::vector<Pret>& prets, const std::string& personne) {
     std::vector<Pret> siens;
     std::copy_if(prets.begin(), prets.end(), std::back_inserter(siens),
@@ -179,16 +208,17 @@ std::string texteDuRappel(const std::vector<Pret>& prets, const std::string& per
 }
 
 std::string BilanDesPrets::texte(const std::string& participe) const {
-    std::string texte = util::phraseCompte(faits, "# film " + participe + ".", "# films " + participe + "s.");
+    const long nombre = std::ssize(personnes);
+    const std::string suite = nombre == 0   ? ""
+                              : nombre == 1 ? " à " + personnes.front()
+                                            : " à " + std::to_string(nombre) + " personnes";
+    std::string texte = util::phraseCompte(faits, "# film " + participe, "# films " + participe + "s") + suite + ".";
     if (!nonPossedes.empty())
         texte += util::phraseCompte(std::ssize(nonPossedes),
                                     " # film n'est pas possédé : ", " # films ne sont pas possédés : ") +
                  listeDe(nonPossedes) + ".";
-    for (const Pret& pret : dejaPretes)
-        texte += " " + util::entreChevrons(pret.film.titre) + " est chez " + pret.aQui + ".";
-    for (const Pret& pret : attendus)
-        texte += " " + util::entreChevrons(pret.film.titre) + " est réservé pour " + pret.pourQui + ".";
-    return texte;
+    texte += phrases(dejaPretes, " est chez ", &Pret::aQui, "prêté");
+    return texte + phrases(attendus, " est attendu par ", &Pret::pourQui, "attendu");
 }
 
 BilanDesPrets rendFilms(const Contexte& c, const std::vector<db::CleFilm>& films) {
@@ -204,39 +234,67 @@ BilanDesPrets rendFilms(const Contexte& c, const std::vector<db::CleFilm>& films
     return bilan;
 }
 
-BilanDesPrets preteFilms(const Contexte& c, const std::vector<db::CleFilm>& films, const std::string& aQui) {
+namespace {
+
+// Lends what nobody has from today, to whom `aQui` says of its holding: "" for nobody.
+template <typename Choix>
+BilanDesPrets prete(const Contexte& c, const std::vector<db::CleFilm>& films, Choix aQui) {
     BilanDesPrets bilan;
-    if (dao::egalJet(aQui, "")) return bilan;
     const Anciennete anciennete(c);
     const std::string date = c.horloge.dateDuJour();
     surChaque(c, films, "prêt", bilan, [&](dao::Recordset& ligne) {
         const Pret pret = litPret(ligne, anciennete);
         if (!dao::egalJet(pret.aQui, "")) {
-            if (!dao::egalJet(pret.aQui, aQui)) bilan.dejaPretes.push_back(pret);
+            bilan.dejaPretes.push_back(pret);
             return false;
         }
-        ecrit(ligne,
-              {{"Pret", aQui}, {"Reserve", dao::egalJet(pret.pourQui, aQui) ? "" : pret.pourQui}, {"Date", date}});
+        const std::string& personne = aQui(pret);
+        if (dao::egalJet(personne, "")) return false;
+        ecrit(ligne, {{"Pret", personne},
+                      {"Reserve", dao::egalJet(pret.pourQui, personne) ? "" : pret.pourQui},
+                      {"Date", date}});
+        if (std::ranges::none_of(bilan.personnes, [&](const std::string& p) { return dao::egalJet(p, personne); }))
+            bilan.personnes.push_back(personne);
         return true;
     });
     return bilan;
 }
 
-std::vector<db::CleFilm> filmsChoisis(const Contexte& c) {
-    const browse::VueArbre& vue = c.liste.TreeView1;
+// Of the tree: the nodes that are ticked, else those under the heading that is selected, else the one that is.
+std::vector<std::int32_t> noeudsChoisis(const browse::VueArbre& vue) {
     std::vector<std::int32_t> noeuds(vue.coches.begin(), vue.coches.end());
     const auto existe = [&](std::int32_t noeud) { return noeud >= 1 && noeud <= vue.Nodes.Count(); };
     std::erase_if(noeuds, [&](std::int32_t noeud) { return !existe(noeud) || vue.Nodes.estGroupe(noeud); });
-    if (noeuds.empty() && existe(vue.SelectedItem)) {
-        if (vue.Nodes.estGroupe(vue.SelectedItem))
-            noeuds = vue.Nodes.enfants(vue.SelectedItem);
-        else
-            noeuds = {vue.SelectedItem};
-    }
+    if (!noeuds.empty() || !existe(vue.SelectedItem)) return noeuds;
+    if (vue.Nodes.estGroupe(vue.SelectedItem)) return vue.Nodes.enfants(vue.SelectedItem);
+    return {vue.SelectedItem};
+}
+
+}  // namespace
+
+BilanDesPrets preteFilms(const Contexte& c, const std::vector<db::CleFilm>& films, const std::string& aQui) {
+    if (dao::egalJet(aQui, "")) return {};
+    return prete(c, films, [&](const Pret&) -> const std::string& { return aQui; });
+}
+
+BilanDesPrets preteAQuiAttend(const Contexte& c, const std::vector<db::CleFilm>& films) {
+    return prete(c, films, [](const Pret& pret) -> const std::string& { return pret.pourQui; });
+}
+
+std::vector<db::CleFilm> filmsChoisis(const Contexte& c) {
     std::vector<db::CleFilm> films;
-    for (const std::int32_t noeud : noeuds)
+    for (const std::int32_t noeud : noeudsChoisis(c.liste.TreeView1))
         if (auto film = browse::filmDuNoeud(c, noeud)) films.push_back(std::move(*film));
     return films;
+}
+
+std::string texteDuChoix(const browse::VueArbre& vue) {
+    const std::vector<std::int32_t> noeuds = noeudsChoisis(vue);
+    if (noeuds.empty()) return {};
+    if (noeuds.size() == 1) return util::entreChevrons(vue.Nodes.Text(noeuds.front()));
+    const std::string films = util::phraseCompte(std::ssize(noeuds), "# film", "# films");
+    return vue.coches.empty() ? films + " de " + util::entreChevrons(vue.Nodes.Text(vue.SelectedItem))
+                              : films + " cochés";
 }
 
 }  // namespace ensemble

@@ -16,6 +16,7 @@
 #include <optional>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 namespace ensemble {
 
@@ -61,9 +62,11 @@ class ParValeur {
 // Bars by a number that stands for their order.
 class ParRang {
   public:
-    void compte(int rang, const std::string& libelle, std::uint32_t ligne) {
-        Barre& barre = m_barres.try_emplace(rang, Barre{libelle}).first->second;
-        barre.lignes.push_back(ligne);
+    template <typename Libelle>
+    void compte(int rang, Libelle libelle, std::uint32_t ligne) {
+        auto place = m_barres.find(rang);
+        if (place == m_barres.end()) place = m_barres.emplace(rang, Barre{libelle()}).first;
+        place->second.lignes.push_back(ligne);
     }
     [[nodiscard]] std::vector<Barre> barres() && {
         std::vector<Barre> barres;
@@ -97,16 +100,21 @@ constexpr std::array kClasses{Classe{60, "Moins de 1 h"},     Classe{90, "1 h à
 // The supports of the holdings, where the listing does not have them.
 class SupportsPossedes {
   public:
-    explicit SupportsPossedes(const Contexte& c) {
-        dao::Recordset lignes =
-            db::ouvreRequete(c, "SELECT Titre2, Realisateur2, Support FROM personnel", db::NumeroErreur::Statistiques);
-        const dao::Colonne titre = lignes.colonne("Titre2"), realisateur = lignes.colonne("Realisateur2"),
-                           support = lignes.colonne("Support");
-        for (; !lignes.Eof(); lignes.MoveNext()) {
-            std::string cle = cleDe(lignes.vue(titre));
-            cle += cleDe(lignes.vue(realisateur));
-            m_supports.try_emplace(std::move(cle), lignes.vue(support));
-        }
+    explicit SupportsPossedes(const Contexte& c)
+        : m_lignes(db::ouvreRequete(c, "SELECT Titre2, Realisateur2, Support FROM personnel",
+                                    db::NumeroErreur::Statistiques)),
+          m_titre(m_lignes.colonne("Titre2")),
+          m_realisateur(m_lignes.colonne("Realisateur2")),
+          m_support(m_lignes.colonne("Support")) {}
+    // Reads so many more; false when there are none.
+    bool lit(int lignes) {
+        for (; lignes > 0 && !m_lignes.Eof(); --lignes, m_lignes.MoveNext())
+            dao::siPresente([&] {
+                std::string cle = cleDe(m_lignes.vue(m_titre));
+                cle += cleDe(m_lignes.vue(m_realisateur));
+                m_supports.try_emplace(std::move(cle), m_lignes.vue(m_support));
+            });
+        return !m_lignes.Eof();
     }
     [[nodiscard]] const std::string* support(std::string_view titre, std::string_view realisateur) const {
         const auto place = m_supports.find(cleDe(titre) + cleDe(realisateur));
@@ -115,39 +123,72 @@ class SupportsPossedes {
 
   private:
     static std::string cleDe(std::string_view texte) { return dao::cleDeComparaison(texte) + '\0'; }
+
+    dao::Recordset m_lignes;
+    dao::Colonne m_titre, m_realisateur, m_support;
     std::unordered_map<std::string, std::string> m_supports;
 };
 
-class Comptage {
+constexpr int kLignesParPas = 256;
+
+enum Champ { kTitre, kRealisateur, kGenre, kAnnee, kOrigine, kNote, kDuree, kAjout, kSupport };
+constexpr std::array<const char*, 9> kChamps{"Titre", "Realisateur", "Genre",     "Annee",  "Origine",
+                                             "Note",  "Duree",       "DateAjout", "Support"};
+
+}  // namespace
+
+// The listing is walked for all subjects but the supports of holdings; then these are read, and the listing is walked for
+// them.
+class Comptage::Interieur {
   public:
-    explicit Comptage(const Contexte& c) : m_c(c), m_ordre(systeme::ordreDesDates()) {
-        for (std::size_t i = 0; i < kChamps.size(); ++i)
+    explicit Interieur(const Contexte& c)
+        : m_ordre(systeme::ordreDesDates()),
+          m_lignes(c.base.liste.estOuvert() ? static_cast<std::uint32_t>(c.base.liste.RecordCount()) : 0) {
+        for (std::size_t i = 0; m_lignes > 0 && i < kChamps.size(); ++i)
             m_colonnes[i] = c.base.liste.colonne(kChamps[i]);
-        if (m_colonnes[kSupport].rang < 0) m_possedes.emplace(c);
+        m_supportsAPart = m_lignes > 0 && m_colonnes[kSupport].rang < 0;
     }
 
-    std::vector<Diagramme> execute() {
-        dao::Recordset& liste = m_c.base.liste;
-        const long lignes = liste.RecordCount();
-        if (lignes > 0) liste.MoveFirst();
-        for (; lignes > 0 && !liste.Eof(); liste.MoveNext()) {
-            ++m_ligne;
-            if (dao::siPresente([&] { litLaLigne(liste); })) compteLaLigne();
+    // False at the end.
+    bool pas(const Contexte& c) {
+        if (m_etape == Etape::Liste) {
+            if (parcours(c, &Interieur::compteLaLigne)) return true;
+            donne();
+            m_etape = m_supportsAPart ? Etape::Possessions : Etape::Finie;
+        } else if (m_etape == Etape::Possessions) {
+            if (!m_possedes) m_possedes.emplace(c);
+            if (!m_possedes->lit(kLignesParPas)) m_etape = Etape::Supports;
+        } else if (m_etape == Etape::Supports && !parcours(c, &Interieur::compteLeSupportPossede)) {
+            donneLesSupports();
+            m_etape = Etape::Finie;
         }
-        return diagrammes();
+        return m_etape != Etape::Finie;
     }
+    std::vector<Diagramme> prend() { return std::exchange(m_prets, {}); }
 
   private:
-    enum Champ { kTitre, kRealisateur, kGenre, kAnnee, kOrigine, kNote, kDuree, kAjout, kSupport };
-    static constexpr std::array<const char*, 9> kChamps{"Titre", "Realisateur", "Genre",     "Annee",  "Origine",
-                                                        "Note",  "Duree",       "DateAjout", "Support"};
+    enum class Etape { Liste, Possessions, Supports, Finie };
 
-    void litLaLigne(dao::Recordset& liste) {
-        for (std::size_t i = 0; i < kChamps.size(); ++i)
-            m_champs[i].assign(liste.vue(m_colonnes[i]));
+    // Some more rows of the listing; false at its end, where the next walk begins anew.
+    bool parcours(const Contexte& c, void (Interieur::*compte)(dao::Recordset&)) {
+        dao::Recordset& liste = c.base.liste;
+        const std::uint32_t fin = std::min(m_lignes, m_ligne + kLignesParPas);
+        if (m_ligne < fin) {
+            liste.MoveFirst();
+            liste.Move(static_cast<long>(m_ligne));
+        }
+        for (; m_ligne < fin; liste.MoveNext()) {
+            ++m_ligne;
+            dao::siPresente([&] { (this->*compte)(liste); });
+        }
+        if (m_ligne < m_lignes) return true;
+        m_ligne = 0;
+        return false;
     }
 
-    void compteLaLigne() {
+    void compteLaLigne(dao::Recordset& liste) {
+        for (std::size_t i = 0; i < kChamps.size(); ++i)
+            m_champs[i].assign(liste.vue(m_colonnes[i]));
         ++m_films;
         for (const std::string_view genre : valeursDe(m_champs[kGenre]))
             m_genres.compte(genre, m_ligne);
@@ -156,17 +197,19 @@ class Comptage {
         for (const std::string_view realisateur : personnesDe(m_champs[kRealisateur]))
             m_realisateurs.compte(realisateur, m_ligne);
         if (const int annee = anneeDe(m_champs[kAnnee]); annee > 0)
-            m_decennies.compte(annee / 10, "Années " + std::to_string(annee / 10 * 10), m_ligne);
+            m_decennies.compte(
+                annee / 10, [&] { return "Années " + std::to_string(annee / 10 * 10); }, m_ligne);
         if (const int note = util::arrondiPair(util::Val(m_champs[kNote])); note >= 1 && note <= 10)
-            m_notes.compte(-note, std::to_string(note) + "/10", m_ligne);
-        compteLeSupport();
+            m_notes.compte(
+                -note, [&] { return std::to_string(note) + "/10"; }, m_ligne);
+        if (!m_supportsAPart) m_supports.compte(m_champs[kSupport], m_ligne);
         compteLaDuree();
         compteLAjout();
     }
 
-    void compteLeSupport() {
-        if (!m_possedes) return m_supports.compte(m_champs[kSupport], m_ligne);
-        if (const std::string* support = m_possedes->support(m_champs[kTitre], m_champs[kRealisateur]))
+    void compteLeSupportPossede(dao::Recordset& liste) {
+        const std::string titre(liste.vue(m_colonnes[kTitre]));
+        if (const std::string* support = m_possedes->support(titre, liste.vue(m_colonnes[kRealisateur])))
             m_supports.compte(*support, m_ligne);
     }
 
@@ -175,7 +218,8 @@ class Comptage {
         if (!minutes) return;
         const auto classe =
             std::find_if(kClasses.begin(), kClasses.end(), [&](const Classe& c) { return *minutes < c.sous; });
-        m_durees.compte(static_cast<int>(classe - kClasses.begin()), classe->libelle, m_ligne);
+        m_durees.compte(
+            static_cast<int>(classe - kClasses.begin()), [&] { return std::string(classe->libelle); }, m_ligne);
     }
 
     void compteLAjout() {
@@ -183,53 +227,76 @@ class Comptage {
         if (!date) return;
         const int annee = static_cast<int>(date->year());
         const auto mois = static_cast<unsigned>(date->month()) - 1;
-        m_ajouts.compte(12 * annee + static_cast<int>(mois), std::string(kMois[mois]) + " " + std::to_string(annee),
-                        m_ligne);
+        m_ajouts.compte(
+            12 * annee + static_cast<int>(mois), [&] { return std::string(kMois[mois]) + " " + std::to_string(annee); },
+            m_ligne);
     }
 
-    std::vector<Diagramme> diagrammes() {
-        std::vector<Diagramme> tous;
-        const auto ajoute = [&](Sujet sujet, const char* titre, std::vector<Barre> barres, const char* manquantes) {
-            tous.push_back({sujet, titre, std::move(barres), m_films});
-            ajouteLesMuets(tous.back(), manquantes);
-        };
+    void donne() {
         ajoute(Sujet::Genre, "Films par genre", std::move(m_genres).barres(), "Sans genre");
         ajoute(Sujet::Decennie, "Films par décennie", std::move(m_decennies).barres(), "Sans année");
         ajoute(Sujet::Pays, "Films par pays", std::move(m_pays).barres(), "Sans origine");
         ajoute(Sujet::Realisateur, "Films par réalisateur", std::move(m_realisateurs).barres(), "Sans réalisateur");
-        ajoute(Sujet::Support, "Films par support", std::move(m_supports).barres(), "Sans support");
+        if (!m_supportsAPart) donneLesSupports();
         ajoute(Sujet::Note, "Films par note", std::move(m_notes).barres(), "Non notés");
         ajoute(Sujet::Duree, "Films par durée", std::move(m_durees).barres(), "Durée inconnue");
         ajoute(Sujet::Ajouts, "Ajouts par mois", std::move(m_ajouts).barres(), "Date inconnue");
-        return tous;
     }
 
-    void ajouteLesMuets(Diagramme& diagramme, const char* libelle) const {
-        std::vector<bool> dits(m_ligne + 1);
-        for (const Barre& barre : diagramme.barres)
+    void donneLesSupports() {
+        ajoute(Sujet::Support, "Films par support", std::move(m_supports).barres(), "Sans support");
+    }
+
+    // With the films that do not say.
+    void ajoute(Sujet sujet, const char* titre, std::vector<Barre> barres, const char* manquantes) {
+        std::vector<bool> dits(m_lignes + 1);
+        for (const Barre& barre : barres)
             for (const std::uint32_t ligne : barre.lignes)
                 dits[ligne] = true;
-        Barre muets{libelle, {}, true};
-        for (std::uint32_t ligne = 1; ligne <= m_ligne; ++ligne)
+        Barre muets{manquantes, {}, true};
+        for (std::uint32_t ligne = 1; ligne <= m_lignes; ++ligne)
             if (!dits[ligne]) muets.lignes.push_back(ligne);
-        if (!muets.lignes.empty()) diagramme.barres.push_back(std::move(muets));
+        if (!muets.lignes.empty()) barres.push_back(std::move(muets));
+        m_prets.push_back({sujet, titre, std::move(barres), m_films});
     }
 
-    const Contexte& m_c;
     systeme::OrdreDate m_ordre;
+    std::uint32_t m_lignes, m_ligne = 0;
+    Etape m_etape = Etape::Liste;
+    bool m_supportsAPart = false;
     std::array<dao::Colonne, kChamps.size()> m_colonnes;
     std::optional<SupportsPossedes> m_possedes;
     std::array<std::string, kChamps.size()> m_champs;
-    std::uint32_t m_ligne = 0;
     long m_films = 0;
     ParValeur m_genres, m_pays, m_realisateurs, m_supports;
     ParRang m_decennies, m_notes, m_durees, m_ajouts;
+    std::vector<Diagramme> m_prets;
 };
 
-}  // namespace
+Comptage::Comptage(const Contexte& c) : m_interieur(std::make_unique<Interieur>(c)) {}
+Comptage::Comptage(Comptage&&) noexcept = default;
+Comptage& Comptage::operator=(Comptage&&) noexcept = default;
+Comptage::~Comptage() = default;
+
+bool Comptage::avance(const Contexte& c, std::chrono::milliseconds duree) {
+    const auto fin = c.montre() + duree;
+    do {
+        if (!m_interieur->pas(c)) return true;
+    } while (c.montre() < fin);
+    return false;
+}
+
+std::vector<Diagramme> Comptage::prend() {
+    return m_interieur->prend();
+}
 
 std::vector<Diagramme> statistiques(const Contexte& c) {
-    return Comptage(c).execute();
+    Comptage comptage(c);
+    while (!comptage.avance(c, std::chrono::seconds(1))) {
+    }
+    std::vector<Diagramme> tous = comptage.prend();
+    std::sort(tous.begin(), tous.end(), [](const auto& a, const auto& b) { return a.sujet < b.sujet; });
+    return tous;
 }
 
 Diagramme abrege(Diagramme diagramme, std::size_t auPlus) {

@@ -2,7 +2,9 @@
 
 #include "ensemble/Contexte.h"
 
+#include <chrono>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -29,8 +31,27 @@ struct Diagramme {
     long films = 0;  // of the listing
 };
 
-// All subjects, in the order of Sujet. The listing's current record moves. Throws db::RequeteEchouee after its message,
-// dao::ErreurDao.
+// Counts the listing that the tree shows now, a part at a time; it has to be the same one until the end. The listing's
+// current record moves. Each call throws db::RequeteEchouee after its message, dao::ErreurDao.
+class Comptage {
+  public:
+    explicit Comptage(const Contexte& c);
+    Comptage(Comptage&&) noexcept;
+    Comptage& operator=(Comptage&&) noexcept;
+    ~Comptage();
+
+    // Reads on, for about as long as said. True once all is counted.
+    bool avance(const Contexte& c, std::chrono::milliseconds duree);
+    // The subjects that were counted since the last call, in the order of Sujet. Supports may come after the others:
+    // where the listing does not have them, they are read from the holdings.
+    [[nodiscard]] std::vector<Diagramme> prend();
+
+  private:
+    class Interieur;
+    std::unique_ptr<Interieur> m_interieur;
+};
+
+// All subjects at once, in the order of Sujet.
 [[nodiscard]] std::vector<Diagramme> statistiques(const Contexte& c);
 // At most so many bars: what follows the first ones becomes one, "Autres (37)", before the films that do not say.
 [[nodiscard]] Diagramme abrege(Diagramme diagramme, std::size_t auPlus);

@@ -126,10 +126,11 @@ class MoteurIcone final : public QIconEngine {
     void paint(QPainter* peintre, const QRect& zone, QIcon::Mode mode, QIcon::State) override {
         const auto groupe = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         const QPalette palette = QApplication::palette();
-        peintPictogramme(*peintre, zone, m_pictogramme,
-                         m_accentuee || m_pictogramme == Pictogramme::MovieCovers
-                             ? accentLisible(palette)
-                             : palette.color(groupe, QPalette::ButtonText));
+        peintPictogramme(
+            *peintre, zone, m_pictogramme,
+            m_accentuee || m_pictogramme == Pictogramme::MovieCovers
+                ? accentLisible(palette)
+                : palette.color(groupe, mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText));
     }
     QPixmap pixmap(const QSize& taille, QIcon::Mode mode, QIcon::State etat) override {
         QPixmap image(taille);

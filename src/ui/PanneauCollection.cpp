@@ -5,7 +5,9 @@
 #include "ui/Composition.h"
 #include "ui/PageCeSoir.h"
 #include "ui/PageDoublons.h"
+#include "ui/PagePrets.h"
 #include "ui/PageSante.h"
+#include "ui/PageStatistiques.h"
 
 #include <QStackedWidget>
 #include <functional>
@@ -31,6 +33,10 @@ std::vector<Onglet> onglets() {
     using enum app::PageDeCollection;
     return {{Affiches, "OngletAffiches", PanneauCollection::tr("Affiches"),
              PanneauCollection::tr("Les affiches des films de la liste")},
+            {Prets, "OngletPrets", PanneauCollection::tr("Prêts"),
+             PanneauCollection::tr("Qui a quel film, et qui attend quoi"), &construit<PagePrets>},
+            {Statistiques, "OngletStatistiques", PanneauCollection::tr("Statistiques"),
+             PanneauCollection::tr("Les films de la liste par genre, décennie, pays…"), &construit<PageStatistiques>},
             {Sante, "OngletSante", PanneauCollection::tr("Santé"),
              PanneauCollection::tr("Ce qui manque aux fiches, ce qui ne mène nulle part"), &construit<PageSante>},
             {Doublons, "OngletDoublons", PanneauCollection::tr("Doublons"),

@@ -1,4 +1,4 @@
-#include "ensemble/Prets.h"
+#include "ensemble/GestesDesPrets.h"
 #include "unit/edit/FenetreEdition.h"
 
 #include <gmock/gmock.h>
@@ -65,7 +65,7 @@ TEST_F(PretsTest, AFilmThatComesBackSaysWhoWaitsForIt) {
     clique("Brazil");
     const BilanDesPrets rendus = rendFilms(c, {cle("Brazil"), cle("Dune"), cle("Fargo"), cle("Cube")});
     EXPECT_EQ(rendus.texte("rendu"),
-              "2 films rendus. 1 film n'est pas possédé : « Fargo ». « Brazil » est réservé pour Bob.");
+              "2 films rendus. 1 film n'est pas possédé : « Fargo ». « Brazil » est attendu par Bob.");
     EXPECT_THAT(colonne("Personnel", "Pret"), ElementsAre("Zoé", "", "", "", ""));
     EXPECT_THAT(colonne("Personnel", "Date"), ElementsAre("20/11/2026", "12/03/2026", "un jour", "01/01/2020", ""));
     EXPECT_EQ(film.titre, "Brazil");
@@ -73,7 +73,7 @@ TEST_F(PretsTest, AFilmThatComesBackSaysWhoWaitsForIt) {
     EXPECT_THAT(fiche.Combo7[0].Items, ElementsAre("Zoé"));
 
     const auto bob = preteFilms(c, {rendus.attendus.at(0).film}, rendus.attendus.at(0).pourQui);
-    EXPECT_EQ(bob.texte("prêté"), "1 film prêté.");
+    EXPECT_EQ(bob.texte("prêté"), "1 film prêté à Bob.");
     const auto bureau = bureauDesPrets(c);
     EXPECT_THAT(titresDe(bureau.reservations), ElementsAre("Dune"));
     EXPECT_EQ(bureau.prets[0].aQui, "Bob");
@@ -84,14 +84,35 @@ TEST_F(PretsTest, SeveralAreLentAtOnceAndNoneIsTakenFromAnyone) {
     liste.TreeView1.coches = {noeud("Alien"), noeud("Dune"), noeud("Éden"), noeud("Fargo"), 99};
     const auto films = filmsChoisis(c);
     ASSERT_EQ(films.size(), 4U);
+    EXPECT_EQ(texteDuChoix(liste.TreeView1), "4 films cochés");
     EXPECT_EQ(preteFilms(c, films, "Bob").texte("prêté"),
-              "2 films prêtés. 1 film n'est pas possédé : « Fargo ». « Alien » est chez Zoé.");
+              "2 films prêtés à Bob. 1 film n'est pas possédé : « Fargo ». « Alien » est chez Zoé.");
     EXPECT_THAT(colonne("Personnel", "Pret"), ElementsAre("Zoé", "alice", "Alice", "Bob", "Bob"));
     EXPECT_THAT(colonne("Personnel", "Reserve"), ElementsAre("", "Bob", "", "Alice", ""));
     EXPECT_THAT(colonne("Personnel", "Date"),
                 ElementsAre("20/11/2026", "12/03/2026", "un jour", "21/11/2026", "21/11/2026"));
     EXPECT_EQ(preteFilms(c, films, " ").faits, 0);
     EXPECT_EQ(ecranMuet.debuts, 1);
+}
+
+TEST_F(PretsTest, WhatCameBackIsHandedOnByTheNotice) {
+    cmdRendu_Click(c, {cle("Brazil"), cle("Alien")});
+    EXPECT_EQ(etatAvis.lblAvis.Caption, "2 films rendus. « Brazil » est attendu par Bob.");
+    ASSERT_EQ(etatAvis.cmdAvis[0].Caption, "Le lui prêter");
+    avis.cmdAvis_Click(0);
+    EXPECT_EQ(etatAvis.lblAvis.Caption, "1 film prêté à Bob.");
+    EXPECT_THAT(colonne("Personnel", "Pret"), ElementsAre("", "Bob", "Alice", "", ""));
+    EXPECT_THAT(colonne("Personnel", "Reserve"), ElementsAre("", "", "", "Alice", ""));
+
+    cmdPreterAQuiAttend_Click(c, {cle("Brazil"), cle("Dune"), cle("Éden")});
+    EXPECT_EQ(etatAvis.lblAvis.Caption, "1 film prêté à Alice. « Brazil » est chez Bob.");
+    clique("Éden");
+    EXPECT_EQ(texteDuChoix(liste.TreeView1), "« Éden »");
+    cmdPreter_Click(c, "  Zoé\t");
+    EXPECT_EQ(etatAvis.lblAvis.Caption, "1 film prêté à Zoé.");
+    cmdPreter_Click(c, "zoé");
+    EXPECT_EQ(etatAvis.lblAvis.Caption, "0 film prêté. « Éden » est chez Zoé.");
+    EXPECT_THAT(personnes(bureauDesPrets(c)), ElementsAre("Alice", "Bob", "Zoé"));
 }
 
 TEST_F(PretsTest, AnEmptyDeskSaysSo) {

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "ensemble/Statistiques.h"
+#include "ui/PageCollection.h"
+
+#include <map>
+#include <optional>
+
+class QComboBox;
+
+namespace ui {
+
+class Etiquette;
+class VueBarres;
+
+// What the films of the listing are counted by.
+class PageStatistiques final : public PageCollection {
+    Q_OBJECT
+  public:
+    explicit PageStatistiques(const Atelier& atelier);
+
+  signals:
+    // A bar's films are to be shown, by their positions in the listing, under those words.
+    void filmsDemandes(const std::vector<std::uint32_t>& lignes, const QString& libelle);
+
+  protected:
+    void relis(const app::Contexte& c) override;
+
+  private:
+    [[nodiscard]] QLayout* choix();
+    void compteLaSuite();
+    void recommence();
+    void montre();
+    void demandeLesFilms(int rang);
+    void copie();
+    void enregistre();
+    void imprime();
+    [[nodiscard]] const ensemble::Diagramme* diagramme() const;
+
+    struct Lecture {
+        dao::Database::Changements changements;
+        int listing = 0;
+        friend bool operator==(const Lecture&, const Lecture&) = default;
+    };
+    [[nodiscard]] static Lecture lectureDe(const app::Contexte& c);
+
+    std::map<ensemble::Sujet, ensemble::Diagramme> m_diagrammes;
+    std::optional<ensemble::Comptage> m_comptage;  // until all is counted
+    Lecture m_comptee;
+    QComboBox* m_sujet = nullptr;
+    Etiquette *m_compte = nullptr, *m_vide = nullptr;
+    VueBarres* m_barres = nullptr;
+    std::vector<QWidget*> m_sorties;
+    std::string m_dossier;  // of the last picture
+};
+
+}  // namespace ui
