@@ -13,6 +13,7 @@ PageVide::PageVide(const Atelier& atelier, QWidget* parent)
       m_atelier(atelier),
       m_signe(new QWidget),
       m_raison((new Etiquette)->avecTon(Ton::Discret)->avecPolice(1.15)->avecLignes(3)) {
+    nomme(this, "framePageVide");
     m_signe->setFixedSize(96, 96);
     m_raison->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     auto* boite = colonne(kGrand);
@@ -25,11 +26,10 @@ PageVide::PageVide(const Atelier& atelier, QWidget* parent)
     hide();
 }
 
-// An empty base has its own page.
 void PageVide::suis(bool pageDesFilms) {
     const auto vide = browse::listeVide(m_atelier.etats().liste);
     if (vide) m_raison->setText(QString::fromStdString(vide->raison));
-    setVisible(pageDesFilms && vide && vide->autresFilms);
+    setVisible(pageDesFilms && vide);
 }
 
 void PageVide::paintEvent(QPaintEvent*) {
