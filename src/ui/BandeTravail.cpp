@@ -18,9 +18,9 @@ BandeTravail::BandeTravail(const Atelier& atelier, QWidget* parent)
     m_progression->setAccessibleName(tr("Avancement"));
     m_progression->setTextVisible(false);
     m_progression->setFixedSize(220, 8);
-    auto* ligne = rangee({m_texte}, kMoyen);
-    ligne->setContentsMargins(kLarge, kSerre, kGrand, kSerre);
-    ligne->setStretch(0, 1);
+    auto* ligne = rangee({filetVertical(), m_texte}, kGrand);
+    ligne->setContentsMargins(kGrand, kSerre, kGrand, kSerre);
+    ligne->setStretch(1, 1);
     ligne->addWidget(m_progression);
     ligne->addWidget(m_annuler);
     setLayout(ligne);

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <algorithm>
 
 namespace ui {
 
@@ -16,6 +17,26 @@ namespace {
 
 constexpr double kGrandeur = 0.95;
 constexpr int kBord = 11, kPoint = 8, kApresPoint = 7;  // logical pixels
+constexpr int kLettresGardees = 8;
+
+// Where the last part of the text begins, 0 for a text of one part.
+qsizetype dernierePartie(const QString& texte) {
+    return std::max(
+        {qsizetype{0}, texte.lastIndexOf(QStringLiteral(" · ")), texte.lastIndexOf(QLatin1String(" depuis le "))});
+}
+
+// Whole parts go first, the last before the others.
+QString tientDans(QString texte, int place, const QFontMetrics& mesure) {
+    const QString points(QChar(0x2026));
+    QString montre = texte;
+    while (mesure.horizontalAdvance(montre) > place) {
+        const qsizetype partie = dernierePartie(texte);
+        if (partie == 0) return mesure.elidedText(montre, Qt::ElideRight, place);
+        texte.truncate(partie);
+        montre = texte + points;
+    }
+    return montre;
+}
 
 }  // namespace
 
@@ -41,7 +62,7 @@ QSize BoutonPuce::sizeHint() const {
 }
 
 QSize BoutonPuce::minimumSizeHint() const {
-    return {std::min(sizeHint().width(), retrait() + kBord + fontMetrics().averageCharWidth() * 8),
+    return {std::min(sizeHint().width(), retrait() + kBord + fontMetrics().averageCharWidth() * kLettresGardees),
             sizeHint().height()};
 }
 
@@ -72,8 +93,7 @@ void BoutonPuce::paintEvent(QPaintEvent*) {
     peintre.setFont(policeRelative(kGrandeur));
     const QRect place = rect().adjusted(retrait(), 0, -kBord, 0);
     const QFontMetrics mesure(peintre.font());
-    peintre.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
-                     mesure.elidedText(texteMontre(), Qt::ElideRight, place.width() + 1));
+    peintre.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, tientDans(texteMontre(), place.width() + 1, mesure));
     if (hasFocus()) {
         const QColor contour = m_genre == Genre::Appel ? mis.encre : accentLisible(palette());
         peintContourDeFocus(peintre, m_genre == Genre::Appel ? zone.adjusted(2, 2, -2, -2) : zone, contour,

@@ -9,9 +9,6 @@ namespace ui {
 namespace {
 
 class Filet final : public QFrame {
-  public:
-    Filet() { setFixedHeight(1); }
-
   protected:
     void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), filet(palette())); }
 };
@@ -61,7 +58,15 @@ void gardeSaPlace(QWidget* widget) {
 }
 
 QFrame* filetHorizontal() {
-    return new Filet;
+    auto* resultat = new Filet;
+    resultat->setFixedHeight(1);
+    return resultat;
+}
+
+QFrame* filetVertical() {
+    auto* resultat = new Filet;
+    resultat->setFixedWidth(1);
+    return resultat;
 }
 
 }  // namespace ui

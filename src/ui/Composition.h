@@ -41,6 +41,7 @@ Bouton* bouton(const char* nom, const QString& texte, const QString& infobulle =
 [[nodiscard]] QVBoxLayout* colonne(int espacement = kPetit);
 [[nodiscard]] QHBoxLayout* rangee(std::initializer_list<QWidget*> widgets, int espacement = kPetit);
 [[nodiscard]] QFrame* filetHorizontal();
+[[nodiscard]] QFrame* filetVertical();
 // Hidden it takes the room that it takes when it is shown: nothing around it moves.
 void gardeSaPlace(QWidget* widget);
 

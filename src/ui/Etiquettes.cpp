@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QTextLayout>
 #include <QToolTip>
+#include <utility>
 
 namespace ui {
 
@@ -61,14 +62,16 @@ Etiquette::Lignes Etiquette::lignes(int largeur) const {
         mise.beginLayout();
         for (QTextLine ligne = mise.createLine(); ligne.isValid(); ligne = mise.createLine()) {
             if (resultat.textes.size() == m_lignesMax) {
-                resultat.coupees = true;
+                if (!std::exchange(resultat.coupees, true))  // the last line alone was whole
+                    resultat.textes.last() =
+                        mesure.elidedText(resultat.textes.last() + QStringLiteral(" …"), Qt::ElideRight, largeur + 1);
                 break;
             }
             ligne.setLineWidth(m_lignesMax > 1 ? largeur : 1e6);
             resultat.textes << paragraphe.mid(ligne.textStart(), ligne.textLength()).trimmed();
             const bool derniere = resultat.textes.size() == m_lignesMax;
             if (!derniere && mesure.horizontalAdvance(resultat.textes.last()) <= largeur) continue;
-            const QString reste = derniere ? paragraphe.mid(ligne.textStart()) : resultat.textes.last();
+            const QString reste = derniere ? paragraphe.mid(ligne.textStart()).trimmed() : resultat.textes.last();
             const QString coupe = mesure.elidedText(reste, Qt::ElideRight, largeur + 1);
             resultat.coupees |= coupe != reste;
             resultat.textes.last() = coupe;

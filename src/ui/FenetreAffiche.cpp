@@ -210,6 +210,7 @@ void FenetreAffiche::place() {
     m_barre->setSingleStep(barre.SmallChange);
     m_barre->setPageStep(barre.LargeChange);
     m_barre->setValue(m_valeurMontree = barre.Value);
+    m_barre->metUtile(!etat().imageEntiere() && !image.vide);
 }
 
 // Without a picture the keys are the window's, until there is one again.

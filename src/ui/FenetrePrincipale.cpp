@@ -11,6 +11,7 @@
 #include "ui/Icones.h"
 #include "ui/Infobulles.h"
 #include "ui/PageGroupe.h"
+#include "ui/PageVide.h"
 #include "ui/PanneauAccueil.h"
 #include "ui/PanneauCollection.h"
 #include "ui/PanneauFiche.h"
@@ -34,8 +35,8 @@ namespace {
 constexpr int kTwipsParPixel = 15;
 constexpr QSize kTailleParDefaut{1180, 760};
 constexpr QSize kTailleMinimale{900, 480};
-constexpr int kLargeurDeuxPages = 1340;  // a screen of 1366 shows both pages of the sheet
-constexpr int kLargeurListe = 340;
+constexpr int kLargeurDeuxPages = 1340;          // a screen of 1366 shows both pages of the sheet
+constexpr int kListeMin = 300, kListeMax = 420;  // of the width it opens with, a quarter of the window's
 
 }  // namespace
 
@@ -85,13 +86,16 @@ void FenetrePrincipale::compose() {
     m_droite->setContentsMargins(0, 0, 0, 0);
     m_page = new PageGroupe(m_atelier);
     m_droite->addWidget(m_page, 1);
+    m_vide = new PageVide(m_atelier);
+    m_droite->addWidget(m_vide, 1000);  // the page above it keeps its heading alone
+    m_atelier.liaison.apresEcriture([this] { m_vide->suis(!m_page->isHidden()); });
     m_droite->addWidget(new PanneauAccueil(m_atelier));
-    auto* partage = new QSplitter;
+    auto* partage = m_partage = new QSplitter;
     partage->setChildrenCollapsible(false);
     partage->addWidget(m_liste);
     partage->addWidget(droite);
     partage->setStretchFactor(1, 1);
-    partage->setSizes({kLargeurListe, kTailleParDefaut.width() - kLargeurListe});
+    connect(partage, &QSplitter::splitterMoved, this, [this] { m_partageChoisi = true; });
 
     auto* boite = new QVBoxLayout(this);
     boite->setContentsMargins(0, 0, 0, 0);
@@ -221,7 +225,15 @@ void FenetrePrincipale::suisLargeur() {
     if (issue != Commande::Issue::Refusee) m_deuxPages = deuxPages;
 }
 
+// Until the user moves what parts them.
+void FenetrePrincipale::repartis() {
+    if (m_partageChoisi) return;
+    const int liste = std::clamp(width() / 4, kListeMin, kListeMax);
+    m_partage->setSizes({liste, width() - liste});
+}
+
 void FenetrePrincipale::resizeEvent(QResizeEvent*) {
+    repartis();
     if (isVisible()) suisLargeur();
 }
 

@@ -10,12 +10,14 @@
 #include <optional>
 
 class QPushButton;
+class QSplitter;
 class QVBoxLayout;
 
 namespace ui {
 
 class Depot;
 class PageGroupe;
+class PageVide;
 class PanneauListe;
 
 // The window: a frame around its panels. The panels that the start does not show are built after the first painting.
@@ -43,16 +45,20 @@ class FenetrePrincipale final : public QWidget {
     void vientDevant();
     void choisitParDefaut(const std::string& nom);
     void suisLargeur();
+    void repartis();
     [[nodiscard]] QSize tailleVoulue() const;
     [[nodiscard]] QSize place() const;
     void tiensALEcran();
 
     const Atelier m_atelier;
     PanneauListe* m_liste = nullptr;
+    QSplitter* m_partage = nullptr;
+    bool m_partageChoisi = false;  // the user moved what parts list and pages
     QVBoxLayout* m_droite = nullptr;
     std::optional<SuiviDuFocus> m_focus;
     PageGroupe* m_page = nullptr;
     Depot* m_depot = nullptr;
+    PageVide* m_vide = nullptr;
     QWidget* m_bas = nullptr;  // its foot
     const Raccourcis m_raccourcis;
     std::optional<MenusArbre> m_menus;  // with the late panels

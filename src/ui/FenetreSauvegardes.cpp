@@ -21,7 +21,7 @@ class DelegueAere final : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(kGrand, kPetit);
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(kLarge, kMoyen);
     }
 };
 
@@ -42,6 +42,7 @@ void FenetreSauvegardes::compose() {
     auto* comparaison = nomme(new QTextEdit, "txtComparaison");
     comparaison->setReadOnly(true);
     comparaison->setTabChangesFocus(true);
+    comparaison->setPlaceholderText(tr("Choisissez une sauvegarde, puis « Comparer »."));
     m_atelier.liaison.lie(etat.txtComparaison, comparaison);
     m_comparer =
         bouton("cmdComparerSauvegarde", tr("&Comparer"), tr("Lire cette sauvegarde à côté de la base ouverte"));
@@ -73,7 +74,13 @@ QTreeWidget* FenetreSauvegardes::liste() {
     resultat->setRootIsDecorated(false);
     resultat->setUniformRowHeights(true);
     resultat->setAllColumnsShowFocus(true);
-    resultat->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    QHeaderView& entete = *resultat->header();
+    entete.setSectionResizeMode(QHeaderView::ResizeToContents);
+    entete.moveSection(4, 1);  // words first, then the numbers, which end in line
+    entete.setStretchLastSection(false);
+    entete.setSectionResizeMode(4, QHeaderView::Stretch);
+    for (const int nombre : {1, 2, 3})
+        resultat->headerItem()->setTextAlignment(nombre, Qt::AlignRight | Qt::AlignVCenter);
     connect(resultat, &QTreeWidget::itemSelectionChanged, this, &FenetreSauvegardes::activeLesBoutons);
     connect(resultat, &QTreeWidget::itemActivated, this, &FenetreSauvegardes::compare);
     return resultat;

@@ -171,4 +171,16 @@ void peintPictogramme(QPainter& peintre, const QRectF& zone, Pictogramme pictogr
     peintre.restore();
 }
 
+void peintSigne(QPainter& peintre, const QRectF& zone, const QPalette& palette) {
+    QColor fond = accent(palette);
+    fond.setAlphaF(0.14f);
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(fond);
+    peintre.drawEllipse(zone);
+    const qreal retrait = zone.width() / 4;
+    peintPictogramme(peintre, zone.adjusted(retrait, retrait, -retrait, -retrait), Pictogramme::Clap,
+                     accentLisible(palette));
+}
+
 }  // namespace ui

@@ -31,5 +31,7 @@ enum class Pictogramme {
 // That of a box: the desktop's, by its name there, else a drawing of ours in the accent colour.
 [[nodiscard]] QIcon iconeDeBoite(const QString& nom, Pictogramme pictogramme);
 void peintPictogramme(QPainter& peintre, const QRectF& zone, Pictogramme pictogramme, const QColor& couleur);
+// The program's own sign, on a disc: of pages that have nothing else to show.
+void peintSigne(QPainter& peintre, const QRectF& zone, const QPalette& palette);
 
 }  // namespace ui

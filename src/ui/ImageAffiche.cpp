@@ -73,6 +73,15 @@ BarreAffiche::BarreAffiche(QWidget* parent) : QScrollBar(Qt::Horizontal, parent)
     setContextMenuPolicy(Qt::NoContextMenu);
 }
 
+void BarreAffiche::metUtile(bool aDefiler) {
+    m_utile = aDefiler;
+    update();
+}
+
+void BarreAffiche::paintEvent(QPaintEvent* evenement) {
+    if (m_utile || hasFocus()) QScrollBar::paintEvent(evenement);
+}
+
 void BarreAffiche::keyPressEvent(QKeyEvent* evenement) {
     const int code = codeWindows(*evenement);
     if (code == 33 || code == 34)

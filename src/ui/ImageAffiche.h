@@ -40,12 +40,18 @@ class BarreAffiche final : public QScrollBar {
   public:
     explicit BarreAffiche(QWidget* parent);
 
+    void metUtile(bool aDefiler);  // it shows while there is something to scroll, or while it has the focus
+
   signals:
     void touche(int code);
 
   protected:
+    void paintEvent(QPaintEvent* evenement) override;
     void keyPressEvent(QKeyEvent* evenement) override;
     void wheelEvent(QWheelEvent* evenement) override;  // left to the window, which scrolls by pixels
+
+  private:
+    bool m_utile = true;
 };
 
 }  // namespace ui

@@ -4,7 +4,6 @@
 #include "browse/ListeVide.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
-#include "ui/Couleurs.h"
 #include "ui/Icones.h"
 
 #include <QPainter>
@@ -88,14 +87,7 @@ QWidget* PanneauAccueil::premiersPas(const Atelier& atelier) {
 void PanneauAccueil::paintEvent(QPaintEvent*) {
     if (!m_signe->isVisible()) return;
     QPainter peintre(this);
-    const QRectF rond(m_signe->mapTo(this, QPoint()), m_signe->size());
-    QColor fond = accent(palette());
-    fond.setAlphaF(0.14f);
-    peintre.setRenderHint(QPainter::Antialiasing);
-    peintre.setPen(Qt::NoPen);
-    peintre.setBrush(fond);
-    peintre.drawEllipse(rond);
-    peintPictogramme(peintre, rond.adjusted(24, 24, -24, -24), Pictogramme::Clap, accentLisible(palette()));
+    peintSigne(peintre, QRectF(m_signe->mapTo(this, QPoint()), m_signe->size()), palette());
 }
 
 }  // namespace ui

@@ -98,8 +98,9 @@ QLayout* PanneauAjout::fiches(const Atelier& atelier) {
     auto* boite = section(atelier, Aide::Fiches);
     boite->addSpacing(kSerre);
     boite->addLayout(dossierDesFiches(atelier));
-    boite->addWidget(nombre);
-    boite->addLayout(aGauche({lancer}));
+    auto* ligne = rangee({lancer, nombre}, kMoyen);
+    ligne->setStretch(1, 1);
+    boite->addLayout(ligne);
     boite->addWidget(titre);
     boite->addWidget(progression);
     boite->addStretch();
@@ -184,8 +185,9 @@ QWidget* PanneauAjout::pageAncienneVersion(const Atelier& atelier) {
     boite->addWidget(base);
     boite->addLayout(aGauche({importer}));
     auto* cadre = nomme(new QWidget, "frameImportBase");
-    auto* dehors = colonne(0);
-    dehors->addWidget(new Carte(boite));
+    auto* dehors = rangee({pile({new Carte(boite)})}, 0);
+    dehors->setStretch(0, 1);
+    dehors->addStretch(0);
     cadre->setLayout(dehors);
     atelier.liaison.lie(ajout.frameImportBase, cadre);
     return cadre;

@@ -20,14 +20,17 @@ namespace ui {
 namespace {
 
 constexpr int kLargeurExtension = 160;
+constexpr int kDeuxColonnes = 920;  // what a window of 1366 leaves to the panel
 
 }  // namespace
 
 PanneauConfig::PanneauConfig(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
     nomme(this, "frameConfig");
-    auto* boite = colonne(kGrand);
-    for (QLayout* partie : {images(atelier), logiciels(atelier), programme(atelier), sauvegardes(atelier)})
-        boite->addWidget(new Carte(partie));
+    const auto carte = [](QLayout* partie) { return new Carte(partie); };
+    auto* gauche = pile({carte(images(atelier)), carte(sauvegardes(atelier))});
+    auto* droite = pile({carte(logiciels(atelier)), carte(programme(atelier))});
+    auto* boite = colonne(0);
+    boite->addWidget(new CoteACote({gauche, droite}, kDeuxColonnes, kGrand));
     setLayout(boite);
     atelier.liaison.lie(atelier.etats().fonctions.frameConfig, this);
 }

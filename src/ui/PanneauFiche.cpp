@@ -14,14 +14,22 @@
 #include "view/Command1_Click.h"
 #include "view/TouchesAffiche.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTextEdit>
+#include <algorithm>
+#include <cmath>
 
 namespace ui {
 
 namespace {
+
+constexpr double kGrandTitre = 1.9, kPetitTitre = 1.5;
+constexpr int kPlaceDuGrandTitre = 640;  // logical pixels that the sheet has for it and the poster
 
 QWidget* page(std::initializer_list<QWidget*> cadres) {
     auto* boite = colonne(kMoyen);
@@ -38,6 +46,47 @@ class ZoneDefilante final : public QScrollArea {
     [[nodiscard]] QSize minimumSizeHint() const override {
         const int barre = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
         return {widget()->minimumSizeHint().width() + barre, QScrollArea::minimumSizeHint().height()};
+    }
+};
+
+// As high as its text, so that the page around it is what scrolls: one bar, not one within the other. A text that nobody
+// reads to its end keeps a bar of its own.
+class TexteEntier final : public QTextEdit {
+  public:
+    TexteEntier() {
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+        connect(document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
+                [this](const QSizeF& taille) { tiens(taille.height()); });
+        connect(this, &QTextEdit::textChanged, this,
+                [this] { defile([](QScrollArea& zone) { zone.verticalScrollBar()->setValue(0); }); });
+        connect(this, &QTextEdit::cursorPositionChanged, this, [this] {
+            if (hasFocus())
+                defile([this](QScrollArea& zone) {
+                    const QPoint ici = viewport()->mapTo(zone.widget(), cursorRect().center());
+                    zone.ensureVisible(ici.x(), ici.y(), 0, cursorRect().height());
+                });
+        });
+    }
+
+  protected:
+    // Whole screens of it are the page's.
+    void keyPressEvent(QKeyEvent* evenement) override {
+        const bool ecran = evenement->key() == Qt::Key_PageUp || evenement->key() == Qt::Key_PageDown;
+        ecran&& verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOff ? evenement->ignore()
+                                                                    : QTextEdit::keyPressEvent(evenement);
+    }
+
+  private:
+    static constexpr double kPlusBas = 48, kPlusHaut = 20000;  // logical pixels
+
+    void tiens(double hauteur) {
+        setVerticalScrollBarPolicy(hauteur > kPlusHaut ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+        setMinimumHeight(static_cast<int>(std::ceil(std::clamp(hauteur, kPlusBas, kPlusHaut))));
+    }
+    template <typename Geste>
+    void defile(Geste geste) {
+        for (QWidget* autour = parentWidget(); autour; autour = autour->parentWidget())
+            if (auto* zone = qobject_cast<QScrollArea*>(autour)) return geste(*zone);
     }
 };
 
@@ -96,7 +145,8 @@ QWidget* PanneauFiche::colonneFilm(QWidget* generalites, QWidget* autres) {
 
 QLayout* PanneauFiche::entete() {
     auto& fiche = m_atelier.etats().fiche;
-    auto* titre = nomme((new Etiquette)->avecPolice(1.9, QFont::DemiBold)->avecLignes(2), "Label1", 0);
+    auto* titre = m_titre =
+        nomme((new Etiquette)->avecPolice(kGrandTitre, QFont::DemiBold)->avecLignes(2), "Label1", 0);
     auto* realisateur = nomme(new BoutonLien, "lblRealisateur");
     realisateur->setFont(policeRelative(1.15));
     realisateur->setToolTip(tr("Chercher les films de cette personne"));
@@ -251,16 +301,14 @@ QWidget* PanneauFiche::faits() {
 QWidget* PanneauFiche::resume() {
     auto& fiche = m_atelier.etats().fiche;
     auto* cadre = nomme(new QWidget, "frameGeneralites", 1);
-    auto* texte = nomme(new QTextEdit, "Text1", tr("Résumé"));
+    auto* texte = nomme(new TexteEntier, "Text1", tr("Résumé"));
     texte->setReadOnly(true);
     texte->setTabChangesFocus(true);
     texte->setFrameShape(QFrame::NoFrame);
     texte->viewport()->setAutoFillBackground(false);
     texte->document()->setDocumentMargin(0);
     texte->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    texte->setMinimumHeight(80);
-    texte->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // it takes what the facts leave
-    m_atelier.liaison.lie(fiche.Text1, texte);
+    m_atelier.liaison.lie(fiche.Text1, static_cast<QTextEdit*>(texte));
     auto* boite = colonne(kSerre);
     boite->addWidget(legende(tr("Résumé")));
     boite->addWidget(texte, 1);
@@ -270,6 +318,7 @@ QWidget* PanneauFiche::resume() {
 }
 
 void PanneauFiche::resizeEvent(QResizeEvent*) {
+    m_titre->avecPolice(width() < kPlaceDuGrandTitre ? kPetitTitre : kGrandTitre, QFont::DemiBold);
     dimensionneAffiche();
 }
 

@@ -9,6 +9,7 @@ class QVBoxLayout;
 namespace ui {
 
 class CadreAffiche;
+class Etiquette;
 
 // The film sheet: the poster first, the title, the facts, the summary; beside or behind them the user's own copy.
 class PanneauFiche final : public QWidget {
@@ -33,6 +34,7 @@ class PanneauFiche final : public QWidget {
     const Atelier m_atelier;
     CadreAffiche* m_affiche = nullptr;
     QWidget* m_sousAffiche = nullptr;
+    Etiquette* m_titre = nullptr;
 };
 
 }  // namespace ui

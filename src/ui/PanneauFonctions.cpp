@@ -19,13 +19,13 @@ PanneauFonctions::PanneauFonctions(const Atelier& atelier, QWidget* parent) : QW
     nomme(this, "frameListeFonctions");
     auto* contenu = colonne(kGrand);
     auto* pages = onglets(atelier);
-    contenu->addWidget(pages);
     contenu->addWidget(new PanneauAjout(atelier));
     contenu->addWidget(new PanneauOutils(atelier));
     contenu->addWidget(new PanneauConfig(atelier));
     contenu->addStretch();
     auto* boite = colonne(0);
     auto* defile = defilant(contenu);
+    boite->addWidget(pages);  // it stays where the page below scrolls
     boite->addWidget(defile);
     setLayout(boite);
 
@@ -58,6 +58,7 @@ QWidget* PanneauFonctions::onglets(const Atelier& atelier) {
         boite->addWidget(onglet);
     }
     boite->addStretch();
+    boite->setContentsMargins(kPetit, kMoyen, kGrand, 0);
     auto* cadre = new QWidget;
     cadre->setLayout(boite);
     return cadre;

@@ -16,6 +16,8 @@ namespace ui {
 
 namespace {
 
+constexpr int kDeuxColonnes = 1000;  // in less, one column shows all tools and their explanations
+
 // What a tool does, and the button that does it, on one line.
 QHBoxLayout* ligneDOutil(QVBoxLayout* texte, std::initializer_list<QPushButton*> boutons) {
     texte->setSpacing(2);
@@ -39,9 +41,10 @@ QPushButton* PanneauOutils::outil(const char* nom, const QString& texte, const Q
 
 PanneauOutils::PanneauOutils(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameOutils");
-    auto* boite = colonne(kGrand);
-    for (QWidget* groupe : {base(), exporter(), corriger(), zoneDangereuse()})
-        boite->addWidget(groupe);
+    auto* gauche = pile({base(), exporter()});
+    auto* droite = pile({corriger(), zoneDangereuse()});
+    auto* boite = colonne(0);
+    boite->addWidget(new CoteACote({gauche, droite}, kDeuxColonnes, kGrand));
     setLayout(boite);
     atelier.liaison.lie(atelier.etats().fonctions.frameOutils, this);
 }

@@ -32,9 +32,8 @@ PanneauRecherche::PanneauRecherche(const Atelier& atelier, QWidget* parent) : QW
 
     auto* boite = section(atelier, Aide::Recherche, 1.25);
     boite->setContentsMargins(kPetit, kMoyen, kGrand, kMoyen);
-    auto* ligne = rangee({}, kMoyen);
-    ligne->addLayout(champ(tr("Te&xte à chercher"), texte), 1);
-    ligne->addWidget(lancer, 0, Qt::AlignBottom);
+    auto* ligne = rangee({legende(tr("Te&xte à chercher"), texte), texte, lancer}, kMoyen);
+    ligne->setStretch(1, 1);
     boite->addLayout(ligne);
     boite->addWidget(new CoteACote({champs(atelier), portee(atelier)}, kUneSeuleLigne, kSerre));
     boite->addWidget(filetHorizontal());

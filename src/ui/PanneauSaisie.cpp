@@ -16,10 +16,14 @@ namespace ui {
 
 namespace {
 
+constexpr int kResumeACote = 1000;  // the width from which it stands beside the other fields
+constexpr QSize kAffichette{112, 168}, kAffichetteBasse{80, 120};  // in a narrow page the fields have the room
+constexpr int kPlaceDeLAffichette = 640;
+
 // The poster of the film that is corrected.
 class Affichette final : public QWidget {
   public:
-    explicit Affichette(ImagesQt& images) : m_images(images) { setFixedSize(112, 168); }
+    explicit Affichette(ImagesQt& images) : m_images(images) {}
 
   protected:
     void paintEvent(QPaintEvent*) override {
@@ -34,6 +38,13 @@ class Affichette final : public QWidget {
     ImagesQt& m_images;
 };
 
+QWidget* cadre(QLayout* contenu) {
+    auto* resultat = new QWidget;
+    contenu->setContentsMargins(0, 0, 0, 0);
+    resultat->setLayout(contenu);
+    return resultat;
+}
+
 }  // namespace
 
 PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
@@ -41,7 +52,7 @@ PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(
     auto& ajout = m_atelier.etats().ajout;
     auto* resume = nomme(new TexteLong, "txtResume");
     resume->setTabChangesFocus(true);
-    resume->setMinimumHeight(110);
+    resume->setMinimumHeight(84);
     auto* image = nomme((new Etiquette)->avecTon(Ton::Discret), "lblImage");
     auto* ajouter = m_ajouter =
         bouton<BoutonAccent>("cmdAjoutFilm", tr("Ajouter"),
@@ -62,16 +73,22 @@ PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(
     grille->addLayout(champ(tr("Origi&ne"), liste("Combo3", ajout.Combo3)), 2, 0, 1, 3);
     grille->addLayout(champ(tr("&Production"), liste("Combo4", ajout.Combo4)), 2, 3, 1, 3);
     grille->addLayout(champ(tr("A&cteurs, séparés par des points-virgules"), texte(4)), 3, 0, 1, 6);
-    grille->addLayout(champ(tr("&Résumé"), resume), 4, 0, 1, 6);
-    auto* bas = aGauche({ajouter});
-    bas->insertWidget(1, image);
-    grille->addLayout(bas, 5, 0, 1, 6);
     for (int c = 0; c < 6; ++c)
         grille->setColumnStretch(c, 1);
-    auto* affiche = nomme(new Affichette(m_atelier.images), "imgCorrection");
+    grille->setRowStretch(4, 1);
+    auto* texteLong = colonne(kSerre);
+    texteLong->addWidget(legende(tr("&Résumé"), resume));
+    texteLong->addWidget(resume, 1);
+    auto* bas = aGauche({ajouter});
+    bas->insertWidget(1, image);
+    auto* champs = colonne(kMoyen);
+    champs->addWidget(new CoteACote({cadre(grille), cadre(texteLong)}, kResumeACote, kMoyen));
+    champs->addLayout(bas);
+    auto* affiche = m_affichette = nomme(new Affichette(m_atelier.images), "imgCorrection");
+    affiche->setFixedSize(kAffichette);
     auto* contenu = rangee({}, kGrand);
     contenu->addWidget(affiche, 0, Qt::AlignTop);
-    contenu->addLayout(grille, 1);
+    contenu->addLayout(champs, 1);
     auto* boite = colonne(0);
     boite->addWidget(new Carte(contenu));
     setLayout(boite);
@@ -81,6 +98,10 @@ PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(
         affiche->setVisible(etats->ajout.modeModifier() && etats->liste.noeudChoisi > 0 && !etats->fiche.Image1.vide);
         affiche->update();
     });
+}
+
+void PanneauSaisie::resizeEvent(QResizeEvent*) {
+    m_affichette->setFixedSize(width() < kPlaceDeLAffichette ? kAffichetteBasse : kAffichette);
 }
 
 // Enter in a one-line field stores the sheet, as it starts the search in the search panel.

@@ -16,6 +16,7 @@ class PanneauSaisie final : public QWidget {
 
   protected:
     void keyPressEvent(QKeyEvent* evenement) override;
+    void resizeEvent(QResizeEvent* evenement) override;
 
   private:
     [[nodiscard]] QWidget* texte(std::size_t indice);
@@ -23,6 +24,7 @@ class PanneauSaisie final : public QWidget {
 
     const Atelier m_atelier;
     QPushButton* m_ajouter = nullptr;
+    QWidget* m_affichette = nullptr;
 };
 
 }  // namespace ui

@@ -8,7 +8,8 @@ namespace ui {
 
 namespace {
 
-constexpr int kLargeurDeLecture = 980;
+constexpr int kPlusLarge = 1500;         // of a page: two columns that still read well
+constexpr int kLargeurDeLecture = 1000;  // of one column
 
 Etiquette* description(const QString& texte) {
     return (new Etiquette(texte))->avecTon(Ton::Discret)->avecLignes(4);
@@ -48,12 +49,23 @@ QHBoxLayout* aGauche(std::initializer_list<QWidget*> widgets) {
     return boite;
 }
 
+QWidget* pile(std::initializer_list<QWidget*> widgets) {
+    auto* boite = colonne(kGrand);
+    for (QWidget* widget : widgets)
+        boite->addWidget(widget);
+    boite->addStretch();
+    auto* resultat = new QWidget;
+    resultat->setMaximumWidth(kLargeurDeLecture);
+    resultat->setLayout(boite);
+    return resultat;
+}
+
 QScrollArea* defilant(QLayout* contenu) {
     auto* page = new QWidget;
     contenu->setContentsMargins(0, 0, 0, 0);
     auto* dedans = new QWidget;
     dedans->setLayout(contenu);
-    dedans->setMaximumWidth(kLargeurDeLecture);
+    dedans->setMaximumWidth(kPlusLarge);
     auto* boite = new QHBoxLayout(page);
     boite->setContentsMargins(kPetit, kMoyen, kGrand, kGrand);
     boite->addWidget(dedans, 1);

@@ -29,6 +29,8 @@ enum class Aide : std::size_t {
 [[nodiscard]] QVBoxLayout* groupe(const QString& nom);
 // Controls side by side, kept left.
 [[nodiscard]] QHBoxLayout* aGauche(std::initializer_list<QWidget*> widgets);
+// Groups one below the other, no wider than their lines read well.
+[[nodiscard]] QWidget* pile(std::initializer_list<QWidget*> widgets);
 // The panel's content scrolls where the window is too low, and stays readable where it is very wide.
 [[nodiscard]] QScrollArea* defilant(QLayout* contenu);
 

@@ -6,6 +6,7 @@
 #include <QAbstractItemView>
 #include <QLineEdit>
 #include <QProgressBar>
+#include <tuple>
 
 namespace {
 
@@ -68,8 +69,9 @@ TEST_F(Cadre, AnEmptyZoneSaysWhyAndOffersAllFilms) {
     essai.choisit("ChoixZone", 3);
     ASSERT_TRUE(essai.trouve("lblListeVide").isVisible());
     EXPECT_EQ(essai.texte("lblListeVide"), "Aucun de vos films n'est prêté.");
+    EXPECT_TRUE(essai.trouve("framePageVide").isVisible());
     essai.clique("cmdTousLesFilms");
-    EXPECT_FALSE(essai.trouve("lblListeVide").isVisible());
+    EXPECT_FALSE(essai.trouve("lblListeVide").isVisible() || essai.trouve("framePageVide").isVisible());
     EXPECT_EQ(essai.etats().liste.ChoixZone.Text, "Tous les films");
     EXPECT_TRUE(essai.arbre().hasFocus());
     EXPECT_TRUE(essai.arbre().rootIsDecorated());
@@ -166,6 +168,18 @@ TEST_F(Cadre, ColumnsFollowTheWidth) {
     EXPECT_TRUE(coteACote("txtCheminAjoutAuto", "txtRechInternet", 1100));
     EXPECT_FALSE(coteACote("txtCheminAjoutAuto", "txtRechInternet", 900));
     EXPECT_TRUE(coteACote("ChoixZone", "ChoixTri", 900));
+    const int liste = essai.arbre().width();
+    essai.clique("Command13_1");
+    EXPECT_FALSE(coteACote("Text3_0", "txtResume", 900));
+    EXPECT_TRUE(coteACote("Text3_1", "txtResume", 1800));
+    EXPECT_GT(essai.arbre().width(), liste);
+    essai.clique("cmdConfigurer");
+    for (const auto& [onglet, gauche, droite] :
+         {std::tuple("cmdConfig_1", "Option3_0", "Combo6_0"), {"cmdConfig_0", "cmdCompacter", "cmdPonctuation"}}) {
+        essai.clique(onglet);
+        EXPECT_TRUE(coteACote(gauche, droite, 1800));
+        EXPECT_FALSE(coteACote(gauche, droite, 900));
+    }
 }
 
 TEST_F(Cadre, ADropDownListHasTheShapeOfItsFieldAndRoomForAFinger) {

@@ -1,4 +1,6 @@
 #include "ProgrammeDEssai.h"
+#include "ui/BoutonPuce.h"
+#include "ui/Etiquettes.h"
 #include "ui/EtoilesNote.h"
 #include "ui/Typographie.h"
 #include "ui/VueAffiche.h"
@@ -6,6 +8,9 @@
 #include <QAccessible>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTextEdit>
 
 namespace {
 
@@ -164,6 +169,43 @@ TEST_F(Fiche, DeletionByTickingStaysOverTheSheet) {
     EXPECT_TRUE(essai.trouve("Label1_0").isVisible() && essai.trouve("lblCoches").isVisible());
     QCoreApplication::processEvents();
     EXPECT_LT(place("lblCoches").bottom(), place("Label1_0").top());
+}
+
+// One bar for the sheet, however low the window; the keys that scroll by screens are its own.
+TEST_F(Fiche, ALongSummaryScrollsWithItsPage) {
+    essai.fenetre().resize(900, 600);
+    auto& resume = essai.trouve<QTextEdit>("Text1");
+    essai.programme->commande().execute([&] {
+        essai.etats().fiche.Text1.Text.clear();
+        for (int i = 0; i < 200; ++i)
+            essai.etats().fiche.Text1.Text += "Une ligne du résumé.\n";
+    });
+    QScrollBar* barre = nullptr;
+    for (QWidget* autour = resume.parentWidget(); autour && !barre; autour = autour->parentWidget())
+        if (auto* zone = qobject_cast<QScrollArea*>(autour)) barre = zone->verticalScrollBar();
+    ASSERT_TRUE(barre);
+    ASSERT_TRUE(essais::attends([&] { return barre->maximum() > 2000; }));
+    EXPECT_FALSE(resume.verticalScrollBar()->isVisible());
+    resume.setFocus();
+    QTest::keyClick(&resume, Qt::Key_PageDown);
+    EXPECT_EQ(barre->value(), barre->pageStep());
+    QTest::keyClick(&resume, Qt::Key_End, Qt::ControlModifier);
+    EXPECT_GT(barre->value(), barre->maximum() - 100);
+}
+
+// What is left out is told by three points, and whole parts go first.
+TEST(Etiquette, WhatDoesNotFitIsSaid) {
+    const auto peinte = [](auto&& widget, QSize taille) {
+        widget.resize(taille);
+        return widget.grab().toImage();
+    };
+    ui::Etiquette coupee("un;\n deux;\n trois"), courte("un;\ndeux; …");
+    EXPECT_EQ(peinte(*coupee.avecLignes(2), {90, 60}), peinte(*courte.avecLignes(2), {90, 60}));
+    ui::BoutonPuce puce(ui::BoutonPuce::Genre::Appel), debut(ui::BoutonPuce::Genre::Appel);
+    puce.setText("Prêté à Paul depuis le 12/11/2026");
+    debut.setText("Prêté à Paul…");
+    const QSize place(debut.sizeHint().width() + 20, debut.sizeHint().height());
+    EXPECT_EQ(peinte(puce, place), peinte(debut, place));
 }
 
 TEST(Typographie, NoLineBeginsOrEndsWithALoneSign) {
