@@ -147,10 +147,17 @@ Figures importe(const Options& options, const std::string& programme, const fs::
     return bench::lance("mesure_session", {programme, copie.string(), fiches});
 }
 
+// Made where they are missing.
+std::string fichesAImporter(const Options& options) {
+    const fs::path fiches = options.dossier / "fiches";
+    if (!fs::exists(fiches))
+        static_cast<void>(bench::lance("generateur", {"fiches", std::to_string(kFiches), fiches.string(), "--affiches",
+                                                      "--depuis", std::to_string(kPremiereFiche)}));
+    return fiches.string();
+}
+
 void mesureImport(bench::Tableau& tableau, const Options& options, const std::vector<int>& tailles) {
-    static_cast<void>(
-        bench::lance("generateur", {"fiches", std::to_string(kFiches), (options.dossier / "fiches").string(),
-                                    "--affiches", "--depuis", std::to_string(kPremiereFiche)}));
+    static_cast<void>(fichesAImporter(options));
     tableau.titre("import of " + std::to_string(kFiches) + " sheets with their posters, into the base");
     std::map<int, double> durees;
     for (int films : tailles) {
@@ -198,6 +205,25 @@ void mesureCommandes(bench::Tableau& tableau, const Options& options, int films)
         ajouts.push_back(bench::lance("mesure_commandes", {"ajout", copieDe(options, dossier).string()}));
     const Figures ajout = bench::retenues(ajouts);
     tableau.ajoute({"adding a film; listing the day's films", "ms", ajout.at("ajout"), ajout.at("listage"), 2.0, true});
+}
+
+// What can be taken back, against the same commands that are not recorded, in one run.
+void mesureAnnulations(bench::Tableau& tableau, const Options& options, int films) {
+    const fs::path modele = collection(options, {films, false});
+    const std::string fiches = fichesAImporter(options), nombre = std::to_string(films);
+    std::vector<Figures> passages;
+    for (int i = 0; i < (options.vite ? 1 : 3); ++i)
+        passages.push_back(bench::lance("mesure_commandes", {"annulation", copieDe(options, modele).string(), fiches}));
+    const Figures figures = bench::retenues(passages);
+    tableau.titre("commands recorded so that they can be taken back, among " + nombre + " films");
+    const auto compare = [&](const std::string& texte, const std::string& nom) {
+        tableau.ajoute({texte, "ms", figures.at(nom + "_avec"), figures.at(nom + "_sans"), 1.25, true});
+        tableau.ajoute({"  taken back", "ms", figures.at(nom + "_annulee"), {}, {}});
+    };
+    compare("a deletion", "suppression");
+    compare("correction of " + nombre + " titles", "correction");
+    compare("import of " + std::to_string(kFiches) + " sheets", "import");
+    tableau.ajoute({"peak memory", "MB", figures.at("memoire"), {}, {}});
 }
 
 // What looks at a whole collection: the filter of the tree, and resemblances.
@@ -345,6 +371,7 @@ int main(int nombre, char** mots) try {
     bench::Tableau tableau;
     if (!options.commandes) mesureFenetresEtImports(tableau, options);
     mesureCommandes(tableau, options, options.vite ? 10000 : 100000);
+    mesureAnnulations(tableau, options, options.vite ? 10000 : 100000);
     mesureEnsemble(tableau, options, 10000, 2000);
     if (!options.vite) mesureEnsemble(tableau, options, 100000, 60000);
     mesureListes(tableau, options);
