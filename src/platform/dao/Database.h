@@ -59,7 +59,7 @@ class Database {
     bool enregistre(Enregistrement* suite);
     // Takes the recorded changes back or makes them again, all or nothing, in one transaction; it is not recorded.
     // Throws ErreurDao, nothing done.
-    [[nodiscard]] Application applique(Enregistrement& changements, Sens sens);
+    [[nodiscard]] Application applique(Enregistrement& changements, Sens sens, const Avance& avance = {});
 
     void Close();  // closing twice is harmless
     [[nodiscard]] bool estOuverte() const { return m_connexion != nullptr; }

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,6 +45,9 @@ enum class Sens { Defaire, Refaire };
 enum class Application {
     Faite,
     Changees,  // rows are no longer what they were: nothing was done
+    Arretee,   // by `Avance`: nothing was done
 };
+// How far it is, in bytes of what was recorded; false stops it.
+using Avance = std::function<bool(std::int64_t faits, std::int64_t total)>;
 
 }  // namespace dao
