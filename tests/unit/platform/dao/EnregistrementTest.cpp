@@ -127,6 +127,20 @@ TEST_F(EnregistrementTest, NothingIsAppliedToRowsThatAreNoLongerWhatTheyWere) {
     }
 }
 
+// As want of memory leaves one: what comes after it would never be stored, and what was recorded be forgotten with it.
+TEST_F(EnregistrementTest, ATransactionThatWasLeftOpenTakesNothingWithIt) {
+    commence();
+    note("Avatar", 1);
+    base.Execute("BEGIN; SELECT * FROM Films");
+    note("Brazil", 2);
+    base.Execute("BEGIN; SELECT * FROM Films");
+    supprime("Casino");
+    essai.ouvre();
+    EXPECT_THAT(lignes(), ElementsAre("1 Avatar 1", "2 Brazil 2"));
+    ASSERT_EQ(defais(), Application::Faite);
+    EXPECT_THAT(lignes(), ElementsAre("1 Avatar ", "2 Brazil ", "3 Casino "));
+}
+
 TEST_F(EnregistrementTest, ALargeTransactionIsHandedOverInPieces) {
     const std::string affiche(1 << 20, 'a');
     base.Execute("PRAGMA synchronous=OFF");
