@@ -25,6 +25,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <ctime>
+#include <filesystem>
 #include <limits>
 
 #include <unistd.h>
@@ -67,15 +68,27 @@ double convertit(app::Session& session, std::size_t stockage) {
     return bench::meilleureDuree(1, [&] { session.execute(db::cmdMajBase_Click); });
 }
 
-// Every poster to a folder, with the compaction that belongs to it, and back; then a compaction of the whole.
-void mesureConversion(app::Session& session, const bench::Machine& machine, const std::string& films) {
+double compacte(app::Session& session, const bench::Machine& machine) {
+    sync();
+    const double duree = bench::meilleureDuree(1, [&] { session.execute(db::cmdCompacter_Click); });
+    machine.attend("Compactage effectué.");
+    return duree;
+}
+
+// Every poster to a folder, with the compaction that belongs to it, and back; then a compaction of the whole. First with
+// the safety copy that each takes; then those of a large base again, which has one of this hour and takes none.
+void mesureConversion(app::Session& session, const bench::Machine& machine, const std::string& dossier,
+                      const std::string& films) {
+    const auto sansCopies = [&] { std::filesystem::remove_all(dossier + "/Sauvegardes"); };
     bench::declare("vers_dossier", convertit(session, 1));
     machine.attend(films + " fichiers créés.");
     bench::declare("vers_base", convertit(session, 0));
     machine.attend(films + " fichiers inclus.");
-    sync();
-    bench::declare("compactage", bench::meilleureDuree(1, [&] { session.execute(db::cmdCompacter_Click); }));
-    machine.attend("Compactage effectué.");
+    sansCopies();
+    bench::declare("compactage", compacte(session, machine));
+    bench::declare("compactage_sans_copie", compacte(session, machine));
+    bench::declare("vers_dossier_sans_copie", convertit(session, 1));
+    machine.attend(films + " fichiers créés.");
 }
 
 // The same command, recorded or not, each in its turn.
@@ -185,7 +198,7 @@ int main(int nombre, char** mots) try {
     else if (genre == "sauvegarde")
         mesureSauvegarde(session);
     else
-        mesureConversion(session, machine, mots[3]);
+        mesureConversion(session, machine, mots[2], mots[3]);
     session.Form_Unload();
     return 0;
 } catch (const std::exception& e) {

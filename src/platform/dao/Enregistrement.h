@@ -28,7 +28,7 @@ struct Morceau {
     std::int64_t octets = 0;
     bool modifie = false;  // rows were modified, and not only added or deleted
     // Which films the modified rows were, and which they are: of such a row the changeset holds what was changed alone,
-    // and another program may have given its id to another film.
+    // and another program may have given its id to another film. Those whose title was changed it tells by itself.
     std::uint64_t avant = 0;
     std::uint64_t apres = 0;
 };

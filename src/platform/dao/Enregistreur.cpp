@@ -114,6 +114,17 @@ class Identites {
     std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)> m_lecture{nullptr, &sqlite3_finalize};
 };
 
+// Then the changeset itself says which film the row must be: SQLite compares what it changes with what is there.
+bool changeLeTitre(sqlite3_changeset_iter* changement, const Table& table) {
+    const char* nom = nullptr;
+    int colonnes = 0, operation = 0;
+    sqlite3changeset_op(changement, &nom, &colonnes, &operation, nullptr);
+    if (!table.cle || colonnes != std::ssize(table.colonnes)) return false;
+    sqlite3_value* titre = nullptr;
+    return sqlite3changeset_new(changement, static_cast<int>(table.cle->premiere), &titre) == SQLITE_OK &&
+           titre != nullptr;
+}
+
 Releve releve(Connexion& connexion, const Depot& depot, const Morceau& morceau) {
     Lecture lecture(depot, morceau);
     sqlite3_changeset_iter* brut = nullptr;
@@ -130,6 +141,7 @@ Releve releve(Connexion& connexion, const Depot& depot, const Morceau& morceau) 
             resultat.ajoutsEtRetraits.push_back(ligne);
             continue;
         }
+        if (changeLeTitre(brut, *ligne.table)) continue;
         if (!identites || identites->table() != ligne.table) identites.emplace(connexion, *ligne.table);
         resultat.empreinte += identites->de(ligne.id);
     }

@@ -98,6 +98,7 @@ TEST_F(EnregistrementTest, NothingIsAppliedToRowsThatAreNoLongerWhatTheyWere) {
         {"UPDATE Films SET Genre='Drame' WHERE id=2", Application::Faite},  // was not changed by the command
         {"DELETE FROM Films WHERE id=2", Application::Changees},
         {"UPDATE Films SET Titre='Autre film' WHERE id=2", Application::Changees},  // another film under that id
+        {"UPDATE Films SET Titre='Autre film' WHERE id=1", Application::Changees},  // which the command retitled
         {"INSERT INTO Films (id,Titre) VALUES (3,'Nouveau')", Application::Changees},
         {"UPDATE Films SET Resume='lu' WHERE id=4", Application::Changees},
         {"ALTER TABLE Films RENAME COLUMN Note TO Cote", Application::Faite},  // told by their places
@@ -113,6 +114,7 @@ TEST_F(EnregistrementTest, NothingIsAppliedToRowsThatAreNoLongerWhatTheyWere) {
             essai.film(titre, "x");
         commence();
         note("Brazil", 7);
+        note("Avatar", "Avatar II", "Titre");
         supprime("Casino");
         essai.film("Dune", "x");
         base.enregistre(nullptr);
