@@ -189,7 +189,7 @@ void Connexion::relitLesTables() {
     for (auto position = m_tables.begin(); position != m_tables.end();) {
         const auto nouvelle = litTable(*this, position->first);
         if (nouvelle != nullptr && nouvelle->memeForme(*position->second)) {
-            ++position;
+            position++->second->aCleEntiere.reset();
             continue;
         }
         for (Jeu* jeu : m_jeux)

@@ -232,9 +232,12 @@ void Enregistreur::commence() noexcept {
     essaie([this] {
         m_manqueAvant = m_suite.manque;
         if (!m_suite.manque.empty()) return;
-        for (const std::string& nom : m_suite.tables)
-            if (!cleEntiere(m_connexion, m_connexion.table(nom).nom))
+        for (const std::string& nom : m_suite.tables) {
+            Table& table = m_connexion.table(nom);
+            if (!table.aCleEntiere) table.aCleEntiere = cleEntiere(m_connexion, table.nom).has_value();
+            if (!*table.aCleEntiere)
                 jette(kErreurFormat, "la table « " + nom + " » n'a pas de clé primaire entière");
+        }
         ouvre();
     });
 }
