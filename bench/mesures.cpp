@@ -266,11 +266,14 @@ void mesureConversion(bench::Tableau& tableau, const Options& options, int films
                     {}});
     compare("compaction with the posters", "compactage");
     if (fs::file_size(modele / "Films.mdb") < (100 << 20)) return;  // a small base is copied each time
-    const auto contreSansCopie = [&, &q = programme](const char* texte, const std::string& nom) {
-        tableau.ajoute({texte, "ms", q.at(nom), q.at(nom + "_sans_copie"), {}});
-    };
-    contreSansCopie("  to a folder, against no safety copy", "vers_dossier");
-    contreSansCopie("  compaction, against no safety copy", "compactage");
+    std::vector<Figures> passages;
+    for (int i = 0; i < 2; ++i)
+        passages.push_back(
+            bench::lance("mesure_commandes", {"conversion_copiee", copieDe(options, modele).string(), nombre}));
+    const Figures sansCopie = bench::retenues(passages);
+    for (const auto& [texte, nom] : {std::pair("  to a folder, against no safety copy", "vers_dossier"),
+                                     std::pair("  compaction, against no safety copy", "compactage")})
+        tableau.ajoute({texte, "ms", programme.at(nom), sansCopie.at(nom), {}});
 }
 
 void mesureSauvegardes(bench::Tableau& tableau, const Options& options, int films) {
