@@ -1,5 +1,5 @@
 // mesure_commandes recherche DOSSIER TEXTE | ajout DOSSIER | sauvegarde DOSSIER | conversion DOSSIER FILMS |
-// annulation DOSSIER FICHES
+// conversion_copiee DOSSIER FILMS | annulation DOSSIER FICHES
 // Single commands of the program without its window, in a program folder, to be held against plancher_commandes.
 
 #include "Mesure.h"
@@ -25,6 +25,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <ctime>
+#include <filesystem>
 #include <limits>
 
 #include <unistd.h>
@@ -67,12 +68,22 @@ double convertit(app::Session& session, std::size_t stockage) {
     return bench::meilleureDuree(1, [&] { session.execute(db::cmdMajBase_Click); });
 }
 
-// Every poster to a folder, with the compaction that belongs to it, and back; then a compaction of the whole.
-void mesureConversion(app::Session& session, const bench::Machine& machine, const std::string& films) {
+// Every poster to a folder, with the compaction that belongs to it, and back; then a compaction of the whole. Each with the
+// safety copy that it takes, or without one: a large base that has one of this hour takes no other.
+void mesureConversion(app::Session& session, const bench::Machine& machine, const std::string& dossier,
+                      const std::string& films, bool copies) {
+    const auto prepare = [&] {
+        if (copies)
+            std::filesystem::remove_all(dossier + "/Sauvegardes");
+        else
+            session.execute([](const db::Contexte& c) { (void)db::sauvegarde(c, db::Avant::Compactage); });
+    };
+    prepare();
     bench::declare("vers_dossier", convertit(session, 1));
     machine.attend(films + " fichiers créés.");
     bench::declare("vers_base", convertit(session, 0));
     machine.attend(films + " fichiers inclus.");
+    prepare();
     sync();
     bench::declare("compactage", bench::meilleureDuree(1, [&] { session.execute(db::cmdCompacter_Click); }));
     machine.attend("Compactage effectué.");
@@ -171,9 +182,11 @@ void mesureSauvegarde(app::Session& session) {
 int main(int nombre, char** mots) try {
     const std::string genre = nombre > 2 ? mots[1] : "";
     if (genre != "ajout" && genre != "sauvegarde" &&
-        (nombre < 4 || (genre != "recherche" && genre != "conversion" && genre != "annulation")))
+        (nombre < 4 ||
+         (genre != "recherche" && genre != "conversion" && genre != "conversion_copiee" && genre != "annulation")))
         throw std::invalid_argument(
-            "usage: mesure_commandes recherche|ajout|sauvegarde|conversion|annulation DOSSIER [TEXTE|FILMS|FICHES]");
+            "usage: mesure_commandes recherche|ajout|sauvegarde|conversion|conversion_copiee|annulation DOSSIER "
+            "[TEXTE|FILMS|FICHES]");
     if (genre == "recherche") return mesureRecherche(mots[2], mots[3]), 0;
     bench::Machine machine;
     app::Session session(machine.pour(mots[2]));
@@ -185,7 +198,7 @@ int main(int nombre, char** mots) try {
     else if (genre == "sauvegarde")
         mesureSauvegarde(session);
     else
-        mesureConversion(session, machine, mots[3]);
+        mesureConversion(session, machine, mots[2], mots[3], genre == "conversion");
     session.Form_Unload();
     return 0;
 } catch (const std::exception& e) {

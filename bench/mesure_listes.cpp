@@ -67,6 +67,7 @@ struct Machine {
     db::EtatTravaux travaux;
     db::Base base;
     db::Chemins chemins;
+    db::Annulations annulations{base, chemins};
     db::EtatStockage stockage;
     doubles::RafraichissementNote rafraichissement;
     browse::EtatListe liste;
@@ -76,7 +77,7 @@ struct Machine {
     browse::FilmCourant film;
     exportation::EtatNom nom;
     exportation::Contexte c{{{boites, ecranMuet, images, horloge, documents, programmes, volumes, avis, demandes,
-                              travaux, base, chemins, stockage, rafraichissement},
+                              travaux, base, chemins, stockage, rafraichissement, annulations},
                              liste,
                              recherche,
                              fiche,

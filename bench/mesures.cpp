@@ -147,10 +147,17 @@ Figures importe(const Options& options, const std::string& programme, const fs::
     return bench::lance("mesure_session", {programme, copie.string(), fiches});
 }
 
+// Made where they are missing.
+std::string fichesAImporter(const Options& options) {
+    const fs::path fiches = options.dossier / "fiches";
+    if (!fs::exists(fiches))
+        static_cast<void>(bench::lance("generateur", {"fiches", std::to_string(kFiches), fiches.string(), "--affiches",
+                                                      "--depuis", std::to_string(kPremiereFiche)}));
+    return fiches.string();
+}
+
 void mesureImport(bench::Tableau& tableau, const Options& options, const std::vector<int>& tailles) {
-    static_cast<void>(
-        bench::lance("generateur", {"fiches", std::to_string(kFiches), (options.dossier / "fiches").string(),
-                                    "--affiches", "--depuis", std::to_string(kPremiereFiche)}));
+    static_cast<void>(fichesAImporter(options));
     tableau.titre("import of " + std::to_string(kFiches) + " sheets with their posters, into the base");
     std::map<int, double> durees;
     for (int films : tailles) {
@@ -211,6 +218,25 @@ void mesureDoublons(bench::Tableau& tableau, const Options& options, int films, 
                     auPlus});
 }
 
+// What can be taken back, against the same commands that are not recorded, in one run.
+void mesureAnnulations(bench::Tableau& tableau, const Options& options, int films) {
+    const fs::path modele = collection(options, {films, false});
+    const std::string fiches = fichesAImporter(options), nombre = std::to_string(films);
+    std::vector<Figures> passages;
+    for (int i = 0; i < (options.vite ? 1 : 3); ++i)
+        passages.push_back(bench::lance("mesure_commandes", {"annulation", copieDe(options, modele).string(), fiches}));
+    const Figures figures = bench::retenues(passages);
+    tableau.titre("commands recorded so that they can be taken back, among " + nombre + " films");
+    const auto compare = [&](const std::string& texte, const std::string& nom) {
+        tableau.ajoute({texte, "ms", figures.at(nom + "_avec"), figures.at(nom + "_sans"), 1.25, true});
+        tableau.ajoute({"  taken back", "ms", figures.at(nom + "_annulee"), {}, {}});
+    };
+    compare("a deletion", "suppression");
+    compare("correction of " + nombre + " titles", "correction");
+    compare("import of " + std::to_string(kFiches) + " sheets", "import");
+    tableau.ajoute({"peak memory", "MB", figures.at("memoire"), {}, {}});
+}
+
 // What looks at a whole collection: the filter of the tree, and resemblances.
 void mesureEnsemble(bench::Tableau& tableau, const Options& options, int films, double doublonsMax) {
     const std::string dossier = collection(options, {films, false}).string();
@@ -247,6 +273,15 @@ void mesureConversion(bench::Tableau& tableau, const Options& options, int films
                     plancher.at("vers_base_sans_copie"),
                     {}});
     compare("compaction with the posters", "compactage");
+    if (fs::file_size(modele / "Films.mdb") < (100 << 20)) return;  // a small base is copied each time
+    std::vector<Figures> passages;
+    for (int i = 0; i < 2; ++i)
+        passages.push_back(
+            bench::lance("mesure_commandes", {"conversion_copiee", copieDe(options, modele).string(), nombre}));
+    const Figures sansCopie = bench::retenues(passages);
+    for (const auto& [texte, nom] : {std::pair("  to a folder, against no safety copy", "vers_dossier"),
+                                     std::pair("  compaction, against no safety copy", "compactage")})
+        tableau.ajoute({texte, "ms", programme.at(nom), sansCopie.at(nom), {}});
 }
 
 void mesureSauvegardes(bench::Tableau& tableau, const Options& options, int films) {
@@ -353,6 +388,7 @@ int main(int nombre, char** mots) try {
     bench::Tableau tableau;
     if (!options.commandes) mesureFenetresEtImports(tableau, options);
     mesureCommandes(tableau, options, options.vite ? 10000 : 100000);
+    mesureAnnulations(tableau, options, options.vite ? 10000 : 100000);
     mesureEnsemble(tableau, options, 10000, 2000);
     mesureDoublons(tableau, options, 3000, {});
     if (!options.vite) mesureEnsemble(tableau, options, 100000, 60000);

@@ -1,6 +1,7 @@
 #include "acquire/CompteFilmsRepertoire.h"
 
 #include "platform/fichiers/Fichiers.h"
+#include "util/NomsFichiers.h"
 #include "util/Texte.h"
 
 #include <algorithm>
@@ -25,6 +26,14 @@ std::string texteNombreDeFiches(long nombre) {
 std::vector<std::string> fichiersDuDossier(const std::string& dossier) {
     if (dossier.empty()) return {};
     return fichiers::listeFichiers(dossier);
+}
+
+std::int64_t octetsAAjouter(const std::string& dossier, bool affichesEnBase) {
+    std::int64_t octets = 0;
+    for (const std::string& nom : fichiersDuDossier(dossier))
+        if (estFiche(nom) || (affichesEnBase && util::majuscules(fichiers::extension(nom)) == "JPG"))
+            octets += std::max<std::int64_t>(0, fichiers::longueur(util::avecSeparateur(dossier) + nom));
+    return octets;
 }
 
 }  // namespace acquire

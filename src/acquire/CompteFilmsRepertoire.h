@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -16,5 +17,8 @@ namespace acquire {
 
 // The names of the folder's files, in name order; none for an empty path.
 [[nodiscard]] std::vector<std::string> fichiersDuDossier(const std::string& dossier);
+
+// About how much of rows and posters an import of that folder adds to the base.
+[[nodiscard]] std::int64_t octetsAAjouter(const std::string& dossier, bool affichesEnBase);
 
 }  // namespace acquire

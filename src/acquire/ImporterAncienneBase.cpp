@@ -1,6 +1,7 @@
 #include "acquire/ImporterAncienneBase.h"
 
 #include "acquire/AncienneInstallation.h"
+#include "acquire/CompteFilmsRepertoire.h"
 #include "acquire/CopieAncienneBase.h"
 #include "acquire/PassageAncienne.h"
 #include "acquire/ProgressionVisible.h"
@@ -10,6 +11,7 @@
 #include "platform/fichiers/Fichiers.h"
 #include "util/NomsFichiers.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -79,7 +81,9 @@ std::optional<Bilan> litEtReprend(const Contexte& c, const AncienneInstallation&
     if (copie.abimee()) issue = ouvreCeQuiEstLisible(c, copie, ancienne, *motDePasse);
     if (!issue) return std::nullopt;
     if (*issue == Issue::Ouverte) {
-        if (!db::sauvegardeAvant(c, db::Avant::ImportAncienne)) return std::nullopt;
+        const std::int64_t octets =
+            fichiers::longueur(copie.base().nom()) + octetsAAjouter(ancienne.dossierImages, c.stockage.dansLaBase());
+        if (!db::sauvegardeAvant(c, db::Avant::ImportAncienne, octets)) return std::nullopt;
         return reprend(c, copie, ancienne);
     }
     if (*issue == Issue::Interrompue) return Bilan{std::nullopt, RapportAncienne{.interrompu = true}};

@@ -46,7 +46,7 @@ void importeFiches(const Contexte& c, const std::function<void(RapportImport&)>&
         return;
     }
     const ChoixImport choix = demandeChoix(c, nombre);
-    if (!db::sauvegardeAvant(c, db::Avant::ImportFiches)) return;
+    if (!db::sauvegardeAvant(c, db::Avant::ImportFiches, octetsAAjouter(dossier, c.stockage.dansLaBase()))) return;
     RapportImport rapport = PassageImport(c, choix, dossier).execute();
     c.annulations.nomme("import de " + util::phraseCompte(nombre, "# fiche", "# fiches"),
                         "Import : " + util::phraseCompte(rapport.ajoutes, "# film ajouté.", "# films ajoutés."));

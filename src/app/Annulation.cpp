@@ -2,6 +2,7 @@
 
 #include "app/Saisies.h"
 #include "app/Vue.h"
+#include "db/CopieVisible.h"
 #include "platform/systeme/FinDuProgramme.h"
 
 #include <utility>
@@ -17,13 +18,20 @@ struct Vues {
     Vue avant, apres;
 };
 
+db::Annulations::Issue appliqueVisiblement(const Contexte& c, bool annule) {
+    constexpr std::int64_t kEnUnMoment = 1 << 20;  // bytes that were recorded
+    db::OctetsVisibles visibles(c, annule ? "Annulation…" : "Rétablissement…", kEnUnMoment);
+    const auto avance = [&visibles](std::int64_t faits, std::int64_t total) { return visibles.avance(faits, total); };
+    return annule ? c.annulations.annule(avance) : c.annulations.retablit(avance);
+}
+
 void applique(const Contexte& c, bool annule) {
     const Commande* commande = annule ? c.annulations.aAnnuler() : c.annulations.aRetablir();
     if (!commande) return;
     const int numero = commande->numero;
     const std::string quoi = commande->quoi;
     const Vues vues = std::any_cast<const Vues&>(commande->vues);
-    const db::Annulations::Issue issue = annule ? c.annulations.annule() : c.annulations.retablit();
+    const db::Annulations::Issue issue = appliqueVisiblement(c, annule);
     if (!issue.faite) return c.avis.montre(issue.texte);
     (annule ? vues.avant : vues.apres).remets(c);
     c.avis.montre((annule ? "Annulé : " : "Rétabli : ") + quoi + ".",

@@ -11,6 +11,7 @@ namespace db {
 namespace {
 
 constexpr const char* kChangees = "Impossible : ces films ont changé depuis.";
+constexpr const char* kArretee = "Arrêté : rien n'a changé.";
 
 // By the names that the films' values give, without regard to letter case, as they are looked for.
 std::unordered_set<std::string> nomsDesAffiches(dao::Database& base) {
@@ -92,6 +93,13 @@ void Annulations::renonce() {
     m_renonce = true;
 }
 
+std::string Annulations::renonceSiTropGrande(std::int64_t octets) {
+    if (!m_enCours) return {};
+    std::string raison = m_enCours->depot.manquePour(octets);
+    if (!raison.empty()) renonce();
+    return raison;
+}
+
 void Annulations::suisLaBase() {
     m_base.base.enregistre(m_enCours ? &m_enCours->lignes : nullptr);
 }
@@ -101,9 +109,9 @@ void Annulations::oublie() {
     m_defaites.clear();
 }
 
-Annulations::Issue Annulations::applique(Pile& de, Pile& vers, dao::Sens sens) {
+Annulations::Issue Annulations::applique(Pile& de, Pile& vers, dao::Sens sens, const dao::Avance& avance) {
     if (de.empty()) return {};
-    Issue issue = appliqueAvecFichiers(*de.back(), sens);
+    Issue issue = appliqueAvecFichiers(*de.back(), sens, avance);
     if (issue.faite)
         vers.push_back(std::move(de.back()));
     else if (issue.texte != kChangees)
@@ -113,7 +121,7 @@ Annulations::Issue Annulations::applique(Pile& de, Pile& vers, dao::Sens sens) {
 }
 
 // The files that the rows will name stand there first, those that they no longer name go last.
-Annulations::Issue Annulations::appliqueAvecFichiers(Commande& commande, dao::Sens sens) {
+Annulations::Issue Annulations::appliqueAvecFichiers(Commande& commande, dao::Sens sens, const dao::Avance& avance) {
     switch (commande.fichiers.pose(sens)) {
         case FichiersChanges::Issue::Changes:
             return {false, kChangees};
@@ -123,9 +131,10 @@ Annulations::Issue Annulations::appliqueAvecFichiers(Commande& commande, dao::Se
             break;
     }
     try {
-        if (m_base.base.applique(commande.lignes, sens) == dao::Application::Changees) {
+        const dao::Application issue = m_base.base.applique(commande.lignes, sens, avance);
+        if (issue != dao::Application::Faite) {
             commande.fichiers.remets(sens);
-            return {false, kChangees};
+            return {false, issue == dao::Application::Changees ? kChangees : kArretee};
         }
     } catch (...) {
         commande.fichiers.remets(sens);

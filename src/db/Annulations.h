@@ -50,6 +50,9 @@ class Annulations {
     void aEcrit(const std::string& fichier, std::string_view octets);
     // It is not recorded from here on, and what came before can no longer be taken back. The user was told.
     void renonce();
+    // So too where so many bytes are more than can be kept, or than there is room for: answers why, which the user is to be
+    // told before anything changes. "": it will be recorded.
+    [[nodiscard]] std::string renonceSiTropGrande(std::int64_t octets);
     // The same base was opened again, its rows under their ids.
     void suisLaBase();
     void oublie();  // all of them
@@ -61,16 +64,20 @@ class Annulations {
         bool faite = false;
         std::string texte{};  // what prevented it
     };
-    // The last one. One that what changed meanwhile prevents is given up; anything else leaves all as it was. Throws
-    // dao::ErreurDao, which does so too.
-    [[nodiscard]] Issue annule() { return applique(m_faites, m_defaites, dao::Sens::Defaire); }
-    [[nodiscard]] Issue retablit() { return applique(m_defaites, m_faites, dao::Sens::Refaire); }
+    // The last one. One that what changed meanwhile prevents is given up; anything else leaves all as it was, a stop by
+    // `avance` too. Throws dao::ErreurDao, which does so as well.
+    [[nodiscard]] Issue annule(const dao::Avance& avance = {}) {
+        return applique(m_faites, m_defaites, dao::Sens::Defaire, avance);
+    }
+    [[nodiscard]] Issue retablit(const dao::Avance& avance = {}) {
+        return applique(m_defaites, m_faites, dao::Sens::Refaire, avance);
+    }
 
   private:
     using Pile = std::deque<std::unique_ptr<Commande>>;  // the last one last
 
-    [[nodiscard]] Issue applique(Pile& de, Pile& vers, dao::Sens sens);
-    [[nodiscard]] Issue appliqueAvecFichiers(Commande& commande, dao::Sens sens);
+    [[nodiscard]] Issue applique(Pile& de, Pile& vers, dao::Sens sens, const dao::Avance& avance);
+    [[nodiscard]] Issue appliqueAvecFichiers(Commande& commande, dao::Sens sens, const dao::Avance& avance);
     void retireFichiers(Commande& commande, dao::Sens sens);
     void limite();
 

@@ -39,7 +39,7 @@ std::string decrit(const dao::DBEngine::Contenu& contenu) {
 }  // namespace
 
 std::string comparaison(const Contexte& c, const Sauvegarde& copie) {
-    const std::string ici = fichierDeLaBase(c.base.base.nom());
+    const std::string ici = fichierAJour(c);
     std::string texte = "Sauvegarde du " + dateDe(copie) + ", avant : " + libelle(copie.nom.avant) + "\n    " +
                         decrit(dao::DBEngine::contenuDe(copie.chemin)) + "\nAujourd'hui\n    " +
                         decrit(dao::DBEngine::contenuDe(ici)) + "\n";

@@ -10,8 +10,7 @@ namespace db {
 
 namespace {
 
-constexpr std::int64_t kEnUnMoment = 32 << 20;  // bytes
-constexpr std::int64_t kUnite = 1 << 20;        // of the progress
+constexpr std::int64_t kUnite = 64 << 10;  // of the progress
 
 // A working file, gone unless it is kept.
 class FichierDeTravail {
@@ -31,7 +30,7 @@ class FichierDeTravail {
 
 }  // namespace
 
-CopieVisible::~CopieVisible() {
+OctetsVisibles::~OctetsVisibles() {
     if (!m_travail) return;
     m_c.travaux.ProgressBar3.Visible = false;
     m_c.travaux.lblTravail.Caption.clear();
@@ -47,13 +46,13 @@ dao::DBEngine::IssueDeCopie CopieVisible::copie(const std::string& source, const
     const auto droits = std::filesystem::status(source, ignoree).permissions();
     std::filesystem::permissions(travail, droits & std::filesystem::perms::all, ignoree);
     const auto issue = dao::DBEngine::copieBase(
-        source, travail, [this](std::int64_t faits, std::int64_t total) { return avance(faits, total); });
+        source, travail, [this](std::int64_t faits, std::int64_t total) { return m_visible.avance(faits, total); });
     if (issue == dao::DBEngine::IssueDeCopie::Faite) fichier.garde();
     return issue;
 }
 
-bool CopieVisible::avance(std::int64_t faits, std::int64_t total) {
-    if (total < kEnUnMoment) return true;
+bool OctetsVisibles::avance(std::int64_t faits, std::int64_t total) {
+    if (total < m_enUnMoment) return true;
     ecran::Progression& barre = m_c.travaux.ProgressBar3;
     if (!m_travail) {
         m_travail.emplace(m_c.ecran);

@@ -3,9 +3,22 @@
 #include "platform/fichiers/Fichiers.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <new>
+#include <system_error>
 
 namespace db {
+
+std::string DepotDAnnulation::manquePour(std::int64_t octets) const {
+    constexpr std::int64_t kMo = 1'000'000;
+    const std::int64_t total = taille() + octets;
+    if (total > kAuPlus) return "elle change environ " + std::to_string(total / kMo) + " Mo";
+    if (total <= static_cast<std::int64_t>(kEnMemoire)) return {};
+    std::error_code erreur;
+    const auto place = std::filesystem::space(std::filesystem::path(m_dossier).parent_path(), erreur);
+    if (erreur || place.available >= static_cast<std::uintmax_t>(total + kLaisseLibre)) return {};
+    return "le disque n'a plus que " + std::to_string(place.available / kMo) + " Mo de libres";
+}
 
 bool DepotDAnnulation::ajoute(std::string_view octets) {
     if (taille() + static_cast<std::int64_t>(octets.size()) > kAuPlus) return false;

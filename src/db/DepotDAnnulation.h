@@ -23,6 +23,8 @@ class DepotDAnnulation final : public dao::Depot {
         return surDisque() + static_cast<std::int64_t>(m_memoire.size());
     }
     [[nodiscard]] std::size_t lit(std::int64_t place, char* tampon, std::size_t octets) const override;
+    // Why so many more bytes cannot be kept, for brackets; "" when they can.
+    [[nodiscard]] std::string manquePour(std::int64_t octets) const;
     void tasse() { m_memoire.shrink_to_fit(); }  // no more is added, or little
     [[nodiscard]] std::size_t enMemoire() const { return m_memoire.capacity(); }
 

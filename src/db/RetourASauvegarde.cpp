@@ -121,11 +121,13 @@ void metDeCoteLesSuites(const std::string& base, const std::string& autre) {
             throw RetourImpossible{"Le fichier " + base + suite + " n'a pas pu être mis de côté."};
 }
 
+// A way back that was cut off may have given it that name already.
 std::string metDeCote(const std::string& base) {
+    std::error_code ignoree;
     for (int numero = 1; numero < kNomsEssayes; ++numero) {
         const std::string autre = nomMisDeCote(base, numero);
         const auto creation = fichiers::donneAutreNom(base, autre);
-        if (creation == fichiers::Creation::ExisteDeja) continue;
+        if (creation == fichiers::Creation::ExisteDeja && !fs::equivalent(base, autre, ignoree)) continue;
         if (creation == fichiers::Creation::Echouee) break;
         metDeCoteLesSuites(base, autre);
         return autre;

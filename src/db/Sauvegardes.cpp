@@ -73,7 +73,7 @@ void effaceLesAnciennes(const std::string& base, const ReglesDesSauvegardes& reg
 
 IssueSauvegarde prends(const Contexte& c, Avant avant, const ReglesDesSauvegardes& regles, const std::string& aGarder) {
     if (c.base.base.emplacement() != dao::Emplacement::EnPlace) throw Impossible{"son fichier n'est plus à sa place"};
-    const std::string base = fichierDeLaBase(c.base.base.nom());
+    const std::string base = fichierAJour(c);
     const std::string dossier = dossierDesSauvegardes(base);
     const std::int64_t octets = std::max<std::int64_t>(0, fichiers::longueur(base));
     const std::time_t maintenant = c.horloge.maintenant();
@@ -149,13 +149,24 @@ ResultatSauvegarde sauvegarde(const Contexte& c, Avant avant, const ReglesDesSau
     }
 }
 
-bool sauvegardeAvant(const Contexte& c, Avant avant) {
+std::string fichierAJour(const Contexte& c) {
+    (void)c.base.base.OpenRecordset("Films");
+    return fichierDeLaBase(c.base.base.nom());
+}
+
+bool sauvegardeAvant(const Contexte& c, Avant avant, std::int64_t octets) {
     const ResultatSauvegarde resultat = sauvegarde(c, avant);
     if (resultat.issue == IssueSauvegarde::Impossible)
         c.avis.remarque("La base n'a pas été sauvegardée avant cette commande : " + resultat.raison + ".");
     if (resultat.issue == IssueSauvegarde::Arretee)
         c.avis.montre("La sauvegarde de la base a été arrêtée : la commande n'a rien fait.");
-    return resultat.issue != IssueSauvegarde::Arretee;
+    if (resultat.issue == IssueSauvegarde::Arretee) return false;
+    if (const std::string raison = c.annulations.renonceSiTropGrande(octets); !raison.empty())
+        c.avis.remarque("Cette commande ne pourra pas être annulée avec Ctrl+Z, ni ce qui la précède (" + raison + ")" +
+                        (resultat.issue == IssueSauvegarde::Impossible
+                             ? "."
+                             : " : la dernière sauvegarde en tient lieu (Configuration, « Sauvegardes… »)."));
+    return true;
 }
 
 std::string dateDe(const Sauvegarde& sauvegarde) {

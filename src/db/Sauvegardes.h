@@ -33,6 +33,9 @@ struct ReglesDesSauvegardes {
 // The file itself that a base's path leads to, and the copies that it has, the last one first. A folder that is none, or
 // cannot be read, has none.
 [[nodiscard]] std::string fichierDeLaBase(const std::string& base);
+// That of the open base, with nothing half written in it: what another program left so, our own reading undoes. Throws
+// ErreurDao.
+[[nodiscard]] std::string fichierAJour(const Contexte& c);
 [[nodiscard]] std::string dossierDesSauvegardes(const std::string& base);
 [[nodiscard]] std::vector<Sauvegarde> sauvegardesDe(const std::string& base);
 // The last one that can be read.
@@ -55,9 +58,11 @@ struct ResultatSauvegarde {
                                             const std::string& aGarder = {});
 
 // The same, before a command changes many rows or what has no way back: the user has agreed, nothing has changed yet.
-// Where no copy can be taken a remark in the notice line says why. False when the user stopped it: the command is not to
-// begin.
-[[nodiscard]] bool sauvegardeAvant(const Contexte& c, Avant avant);
+// Where no copy can be taken a remark in the notice line says why. `octets`: about how much of rows and posters the command
+// changes; where that is too much to be taken back, it says so now and is not recorded. False when the user stopped it:
+// the command is not to begin.
+[[nodiscard]] bool sauvegardeAvant(const Contexte& c, Avant avant, std::int64_t octets = 0);
+inline constexpr std::int64_t kOctetsParLigne = 512;  // of a change that touches no poster
 
 // "21/11/2026 à 14:05".
 [[nodiscard]] std::string dateDe(const Sauvegarde& sauvegarde);

@@ -35,7 +35,8 @@ void cmdSupprInfosPerso_Click(const Contexte& c) {
         c.dialogues.MsgBox("Aucun titre personnel !", dialogues::kExclamation);
         return;
     }
-    if (!confirmeLaSuppression(c) || !sauvegardeAvant(c, Avant::Possessions)) return;
+    if (!confirmeLaSuppression(c)) return;
+    if (!sauvegardeAvant(c, Avant::Possessions, possedes.RecordCount() * kOctetsParLigne)) return;
     const long supprimes = supprimeTout(c, possedes);
     const std::string combien = util::phraseCompte(supprimes, "# titre personnel", "# titres personnels");
     c.annulations.nomme("suppression de " + combien, "Appartenance supprimée : " + combien + ".");

@@ -97,7 +97,7 @@ void RecupereInfosGroupeSelectionne(const Contexte& c, std::string& genre, std::
 
 void ModifieGroupe(const Contexte& c, const std::string& champ, const std::string& valeur, bool personnel) {
     if (valeur.empty() || !groupeChoisi(c)) return;
-    if (!db::sauvegardeAvant(c, db::Avant::Renommage)) return;
+    if (!db::sauvegardeAvant(c, db::Avant::Renommage, std::ssize(enfants(c)) * db::kOctetsParLigne)) return;
     const std::string nouvelle = util::coupe(valeur, personnel ? kLongueurSupport : kLongueurGenre);
     const std::string groupe = personnel ? "support" : "genre";
     c.annulations.nomme("renommage du " + groupe + " en " + titreCite(nouvelle),

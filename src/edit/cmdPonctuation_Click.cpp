@@ -8,6 +8,8 @@
 #include "util/Nombres.h"
 #include "util/Sql.h"
 
+#include <cstdint>
+
 namespace edit {
 
 namespace {
@@ -39,6 +41,11 @@ long corrigeEnsemble(TravailParLots& travail, const std::string& titre) {
 }
 
 }  // namespace
+
+bool sauvegardeAvantLesTitres(const Contexte& c) {
+    const std::int64_t lignes = c.base.films.RecordCount() + c.base.personnel.RecordCount();
+    return db::sauvegardeAvant(c, db::Avant::Titres, lignes * db::kOctetsParLigne);
+}
 
 long corrigeTousLesTitres(const Contexte& c) {
     constexpr auto kNumero = db::NumeroErreur::cmdPonctuation;
@@ -79,10 +86,8 @@ void cmdPonctuation_Click(const Contexte& c) {
     if (c.dialogues.MsgBox("Êtes-vous sûr(e) de vouloir corriger tous les titres de la base ?", dialogues::kQuestion) !=
         dialogues::kOui)
         return;
-    if (!db::sauvegardeAvant(c, db::Avant::Titres)) return;
+    if (!sauvegardeAvantLesTitres(c)) return;
     const long modifies = corrigeTousLesTitres(c);
-    c.annulations.nomme("correction de " + util::phraseCompte(modifies, "# titre", "# titres"),
-                        util::phraseCompte(modifies, "# titre corrigé.", "# titres corrigés."));
     if (modifies > 0) rafraichit(c);
     c.dialogues.MsgBox(rapportTitresModifies(modifies), dialogues::kInformation);
 }

@@ -13,8 +13,10 @@ namespace edit {
 // where a rare letter makes them differ, the films and the holdings of that title are corrected together.
 void cmdPonctuation_Click(const Contexte& c);
 
-// The same without its question, its report and the refresh that follows. Answers how many films changed.
+// The same without its question, its safety copy, its report and the refresh that follows. Answers how many films changed.
 long corrigeTousLesTitres(const Contexte& c);
+
+[[nodiscard]] bool sauvegardeAvantLesTitres(const Contexte& c);  // false: the user stopped it
 
 [[nodiscard]] std::string rapportTitresModifies(long nombre);
 

@@ -8,8 +8,11 @@
 #include "db/Sauvegardes.h"
 #include "edit/LignePossession.h"
 #include "edit/TravailParLots.h"
+#include "platform/fichiers/Fichiers.h"
 #include "util/Nombres.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <iterator>
 #include <vector>
 
@@ -31,6 +34,12 @@ std::vector<db::CleFilm> lis(const Contexte& c, const std::vector<int>& noeuds) 
     for (const int noeud : noeuds)
         if (auto film = filmDuNoeud(c, noeud)) films.push_back(std::move(*film));
     return films;
+}
+
+// Films go with their posters: as many as their share of the file, whoever has the large ones.
+std::int64_t octetsDe(const Contexte& c, std::ptrdiff_t films) {
+    const std::int64_t base = fichiers::longueur(c.base.base.nom());
+    return base / std::max(1L, c.base.films.RecordCount()) * films;
 }
 
 struct Supprimes {
@@ -99,7 +108,7 @@ void cmdSupprTitresSelect_Click(const Contexte& c) {
         return;
     }
     if (c.dialogues.MsgBox(questionSuppression(noeuds.size()), dialogues::kQuestion) != dialogues::kOui) return;
-    if (!db::sauvegardeAvant(c, db::Avant::Suppression)) return;
+    if (!db::sauvegardeAvant(c, db::Avant::Suppression, octetsDe(c, std::ssize(noeuds)))) return;
     const Supprimes supprimes = supprime(c, lis(c, noeuds));
     c.annulations.nomme("suppression de " + util::phraseCompte(supprimes.films, "# film", "# films"),
                         util::phraseCompte(supprimes.films, "# film supprimé.", "# films supprimés."));

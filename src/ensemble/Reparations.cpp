@@ -107,7 +107,7 @@ long repare(const Contexte& c, Mal mal) {
             repares = avec(reunit);
             break;
         case Mal::TitreACorriger:
-            repares = edit::corrigeTousLesTitres(c);
+            if (edit::sauvegardeAvantLesTitres(c)) repares = edit::corrigeTousLesTitres(c);
             break;
         default:
             break;

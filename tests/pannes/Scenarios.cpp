@@ -7,7 +7,9 @@
 #include "app/Commandes.h"
 #include "app/LogicielsExternes.h"
 #include "app/RaccourcisClavier.h"
+#include "app/Sauvegardes.h"
 #include "browse/ChoixTri.h"
+#include "db/NomsSauvegardes.h"
 #include "db/Option3_Click.h"
 #include "db/Schema.h"
 #include "db/cmdCompacter_Click.h"
@@ -82,6 +84,14 @@ void indiqueLesFiches(Seance& s, const std::string& dossier) {
 void choisitLeStockage(Seance& s, std::size_t option) {
     ecran::choisit(s.etats.stockage.Option3, option);
     s.commande(db::Option3_Click);
+}
+
+// Its head overwritten, a safety copy beside it.
+void abime(const std::string& dossier) {
+    const std::string base = dossier + "Films.mdb";
+    std::filesystem::create_directory(dossier + "Sauvegardes");
+    std::filesystem::copy_file(base, dossier + "Sauvegardes/" + db::nomDeSauvegarde("Films.mdb", {1, 1795262407}));
+    std::fstream(base, std::ios::in | std::ios::out | std::ios::binary) << std::string(4096, 'x');
 }
 
 template <typename... Arguments>
@@ -187,6 +197,16 @@ std::vector<Scenario> tous() {
          false},
         {"rétablissement des titres", puis(puis(rien, edit::cmdPonctuation_Click), app::cmdAnnuler_Click),
          fait(app::cmdRetablir_Click), true, false, false},
+        {"retour à une sauvegarde",
+         [](Seance& s, Dossier) {
+             s.commande(db::cmdCompacter_Click);
+             montre(s, "FILM 3");
+             s.commande(edit::cmdSupprimerTitre_Click);
+             s.commande(app::cmdSauvegardes_Click);
+         },
+         fait(app::cmdRevenirSauvegarde_Click, 0), true, false, false},
+        {"base endommagée", [](Seance&, Dossier d) { abime(d); }, [](Seance& s) { s.demarre(); }, true, true, true,
+         true, true},
         {"arrêt",
          [](Seance& s, Dossier) {
              montre(s, "FILM 1");

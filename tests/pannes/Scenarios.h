@@ -22,6 +22,7 @@ struct Scenario {
     bool dansLeDossier = false;  // posters are files
     bool rejouable = true;       // told again after a fault, it ends what it had begun
     bool auDemarrage = false;    // the command is the start itself
+    bool reprise = false;        // which the next start does, where it was not done
 };
 
 [[nodiscard]] const std::vector<Scenario>& scenarios();

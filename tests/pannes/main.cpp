@@ -149,14 +149,15 @@ bool estLeJournalDUneAutre(const std::string& nom) {
 }
 
 // What a next start finds, after its own cleaning.
-std::string demarreEnsuite(const std::string& dossier, const Etat& avant, const Etat& apres, bool entiere) {
+std::string demarreEnsuite(const std::string& dossier, const Etat& avant, const Etat& apres, bool entiere,
+                           bool reprend = false) {
     return Enfant([&](std::FILE* sortie) {
                Seance s(dossier);
                s.demarre();
                const Etat trouve = Etat::de(dossier);
                std::string texte = trouve.ecart(avant, apres, entiere);
                if (s.finie) texte += "the next start ends\n";
-               if (!s.finie && !s.boites.dits.empty()) texte += "the next start says " + s.boites.dits;
+               if (!s.finie && !reprend && !s.boites.dits.empty()) texte += "the next start says " + s.boites.dits;
                if (!s.finie) texte += utilisable(s);
                s.session.Form_Unload();
                for (const auto& [nom, octets] : Etat::de(dossier).fichiers)
@@ -201,7 +202,8 @@ class Epreuve {
         std::string texte = issue.texte;
         if (issue.signal != (faute == Faute::Mort ? SIGKILL : 0))
             texte += "ended by signal " + std::to_string(issue.signal) + "\n";
-        if (issue.signal != 0) return texte + demarreEnsuite(m_dossier, m_avant, m_apres, m_scenario.entiere);
+        if (issue.signal != 0 || m_scenario.reprise)
+            return texte + demarreEnsuite(m_dossier, m_avant, m_apres, m_scenario.entiere, m_scenario.reprise);
         const Etat laisse = Etat::de(m_dossier);
         return texte + demarreEnsuite(m_dossier, laisse, laisse, true);
     }
@@ -231,7 +233,7 @@ class Epreuve {
         Etat fait = Etat::de(m_dossier);
         std::string texte = fait.dommage;
         if (circonstance.sansEffet && !fait.memesFilms(m_apres)) texte += "the work was not done: " + dits;
-        if (circonstance.nom == "base changée" && noteDe(kAilleurs, m_dossier + "Films.mdb") < 0)
+        if (circonstance.nom == "base changée" && !estQuelquePart(kAilleurs))
             texte += "what another program added is gone\n";
         if (!circonstance.sansEffet) texte += fait.ecart(m_avant, m_apres, m_scenario.entiere);
         if (!circonstance.sansEffet && dits == m_dits && !estComplet(fait)) texte += "nothing was told\n";
@@ -242,6 +244,14 @@ class Epreuve {
         if (m_scenario.rejouable && !fait.memesFilms(m_apres)) texte += rejoue(s);
         s.session.Form_Unload();
         return texte;
+    }
+    // In the base, or in a safety copy of it.
+    [[nodiscard]] bool estQuelquePart(const char* titre) const {
+        return std::ranges::any_of(fs::recursive_directory_iterator(m_dossier), [&](const auto& entree) {
+            const std::string nom = entree.path().lexically_relative(m_dossier).string();
+            return (nom == "Films.mdb" || nom.starts_with("Sauvegardes/")) && entree.is_regular_file() &&
+                   noteDe(titre, entree.path()) >= 0;
+        });
     }
     [[nodiscard]] bool estComplet(const Etat& fait) const {
         const auto manque = [&](const auto& fichier) {

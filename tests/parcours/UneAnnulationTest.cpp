@@ -14,9 +14,13 @@
 #include "edit/cmdSupprTitresSelect_Click.h"
 #include "edit/cmdSupprimerTitre_Click.h"
 #include "edit/cmdValiderInfosPossessions_Click.h"
+#include "ensemble/Fusion.h"
+#include "ensemble/Prets.h"
+#include "ensemble/Sante.h"
 #include "parcours/Gestes.h"
 #include "view/cmdRemplacerImage_Click.h"
 
+#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <map>
@@ -215,6 +219,36 @@ class UneAnnulation : public testing::Test {
                  return true;
              },
              [this] { session.execute(edit::cmdSupprTitresSelect_Click); }},
+            {[this] { return choisisUnFilm(); },
+             [this] {
+                 const bool rend = auHasard(2) == 0;
+                 session.execute([rend](const ensemble::Contexte& c) {
+                     const auto films = ensemble::filmsChoisis(c);
+                     rend ? ensemble::rendFilms(c, films) : ensemble::preteFilms(c, films, "Zoé");
+                 });
+             }},
+            {rien,
+             [this] {
+                 session.execute([this](const ensemble::Contexte& c) {
+                     const auto cle = [&] {
+                         return db::CleFilm{"film " + std::to_string(auHasard(20)),
+                                            "Ada " + std::to_string(auHasard(7))};
+                     };
+                     for (int essai = 0; essai < 60; ++essai)
+                         if (const auto plan = ensemble::planDeFusion(c, cle(), cle())) {
+                             EXPECT_TRUE(ensemble::fusionne(c, *plan));
+                             return;
+                         }
+                 });
+             }},
+            {[this] { return auHasard(2) == 0; },
+             [this] {
+                 using ensemble::Mal;
+                 const std::array maux{Mal::AfficheAbsente, Mal::AfficheSansFilm, Mal::PossessionSansFilm,
+                                       Mal::PossessionDouble, Mal::TitreACorriger};
+                 const Mal mal = maux[static_cast<std::size_t>(auHasard(5))];
+                 session.execute([mal](const ensemble::Contexte& c) { ensemble::repare(c, mal); });
+             }},
             {rien, [this] { importe(); }},
             {[this] { return auHasard(4) == 0; }, [this] { session.execute(edit::cmdPonctuation_Click); }},
             {[this] { return auHasard(8) == 0; }, [this] { session.execute(db::cmdSupprInfosPerso_Click); }},
@@ -261,6 +295,7 @@ class UneAnnulation : public testing::Test {
     // The film of the sheet with what the sheet says of it; "" where a panel covers it.
     [[nodiscard]] std::string filmVu() const {
         if (etats.panneaux.frameListeFonctions.Visible) return "?";
+        if (filmMontre(etats).empty()) return "";
         const std::string holder =
             etats.fiche.Text10[3].Text + etats.fiche.Label12.Caption + etats.fiche.lblNote.Caption;
         return filmMontre(etats) + " " + holder;

@@ -25,13 +25,19 @@ std::optional<std::pair<dev_t, ino_t>> fichierNomme(const std::string& chemin) {
 
 }  // namespace
 
-Regard::Regard(Connexion& connexion) : m_connexion(connexion), m_ouvert(!connexion.enTransaction()) {
-    if (m_ouvert) m_connexion.prepare("BEGIN").execute();
+Regard::Regard(Connexion& connexion) : m_connexion(connexion) {
+    m_connexion.acheveLeReste();
+    m_ouvert = !connexion.enTransaction();
+    if (!m_ouvert) return;
+    m_connexion.prepare("BEGIN").execute();
+    ++m_connexion.m_regards;
 }
 
-// Nothing was written, so nothing can be lost by a failure here.
+// Nothing was written, so nothing can be lost by a failure here: whoever comes next ends it.
 Regard::~Regard() {
-    if (!m_ouvert || !m_connexion.enTransaction()) return;
+    if (!m_ouvert) return;
+    --m_connexion.m_regards;
+    if (!m_connexion.enTransaction()) return;
     try {
         m_connexion.prepare("ROLLBACK").execute();
     } catch (...) {
@@ -85,8 +91,8 @@ bool Connexion::enTransaction() const {
 void Connexion::commence() {
     if (m_commencee) jette(kErreurTransaction, "Une transaction est déjà ouverte.");
     exigeEnPlace();
-    if (enTransaction()) annule();  // one that could not be rolled back when it was given up
-    (void)prepare(kAnnulation);     // at hand where memory lacks
+    acheveLeReste();
+    (void)prepare(kAnnulation);  // at hand where memory lacks
     prepare("BEGIN IMMEDIATE").execute();
     try {
         suitLeFichier();
@@ -113,6 +119,13 @@ void Connexion::confirme() {
     m_commencee = false;
     for (const auto& [nom, table] : m_tables)
         table->suivi.supprimeesEnCours.clear();
+}
+
+// What would come after it would be stored with it, which is never.
+void Connexion::acheveLeReste() {
+    if (m_commencee || m_regards > 0 || !enTransaction()) return;
+    prepare(kAnnulation).execute();
+    oublieLesLignes();
 }
 
 void Connexion::annule() {
@@ -146,6 +159,7 @@ void Connexion::relisToutesLesLignes() {
 }
 
 void Connexion::veille() {
+    acheveLeReste();
     if (enTransaction()) return;  // nobody else can write
     exigeEnPlace();
     suitLeFichier();
@@ -175,7 +189,7 @@ void Connexion::relitLesTables() {
     for (auto position = m_tables.begin(); position != m_tables.end();) {
         const auto nouvelle = litTable(*this, position->first);
         if (nouvelle != nullptr && nouvelle->memeForme(*position->second)) {
-            ++position;
+            position++->second->aCleEntiere.reset();
             continue;
         }
         for (Jeu* jeu : m_jeux)

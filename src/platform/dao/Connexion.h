@@ -47,6 +47,8 @@ class Connexion {
     void annule();
     // Between commence and confirme or annule.
     [[nodiscard]] bool estCommencee() const { return m_commencee; }
+    // Ends a transaction that was given up and could not be rolled back then, for want of memory.
+    void acheveLeReste();
     // What the file engine says: it ends a transaction by itself when the disk is full or fails.
     [[nodiscard]] bool enTransaction() const;
 
@@ -72,6 +74,7 @@ class Connexion {
     void desinscrit(Jeu& jeu) { std::erase(m_jeux, &jeu); }
 
   private:
+    friend class Regard;
     void suitLeFichier();
     void relitLesTables();
     void oublieLesLignes();
@@ -86,6 +89,7 @@ class Connexion {
     std::vector<Cle> m_cles;
     std::vector<Jeu*> m_jeux;
     bool m_commencee = false;
+    int m_regards = 0;  // open, each with the transaction in it
     std::uint64_t m_epoque = 0;
     std::uint64_t m_version = 0;
     long long m_versionDuFichier = 0;
@@ -103,7 +107,7 @@ class Regard {
 
   private:
     Connexion& m_connexion;
-    bool m_ouvert;
+    bool m_ouvert = false;
 };
 
 // Reads the columns of a table. Null when the base has no plain table of that name.

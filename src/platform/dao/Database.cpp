@@ -74,10 +74,10 @@ bool Database::enregistre(Enregistrement* suite) {
     return ouverte(m_connexion).enregistre(suite);
 }
 
-Application Database::applique(Enregistrement& changements, Sens sens) {
+Application Database::applique(Enregistrement& changements, Sens sens, const Avance& avance) {
     interne::Connexion& connexion = ouverte(m_connexion);
     connexion.enregistre(nullptr);
-    return interne::applique(connexion, changements, sens);
+    return interne::applique(connexion, changements, sens, avance);
 }
 
 void Database::Close() {

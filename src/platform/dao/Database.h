@@ -60,7 +60,7 @@ class Database {
     bool enregistre(Enregistrement* suite);
     // Takes the recorded changes back or makes them again, all or nothing, in one transaction; it is not recorded.
     // Throws ErreurDao, nothing done.
-    [[nodiscard]] Application applique(Enregistrement& changements, Sens sens);
+    [[nodiscard]] Application applique(Enregistrement& changements, Sens sens, const Avance& avance = {});
 
     // Others after each change that is known: of a row by this program, of the file by another one.
     struct Changements {

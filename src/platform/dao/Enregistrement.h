@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,7 +28,7 @@ struct Morceau {
     std::int64_t octets = 0;
     bool modifie = false;  // rows were modified, and not only added or deleted
     // Which films the modified rows were, and which they are: of such a row the changeset holds what was changed alone,
-    // and another program may have given its id to another film.
+    // and another program may have given its id to another film. Those whose title was changed it tells by itself.
     std::uint64_t avant = 0;
     std::uint64_t apres = 0;
 };
@@ -44,6 +45,9 @@ enum class Sens { Defaire, Refaire };
 enum class Application {
     Faite,
     Changees,  // rows are no longer what they were: nothing was done
+    Arretee,   // by `Avance`: nothing was done
 };
+// How far it is, in bytes of what was recorded; false stops it.
+using Avance = std::function<bool(std::int64_t faits, std::int64_t total)>;
 
 }  // namespace dao

@@ -14,8 +14,9 @@ namespace dao::interne {
 
 namespace {
 
-// A session keeps the whole of each row that is changed or deleted, its poster included.
-constexpr sqlite3_int64 kEnMemoire = 8 << 20;
+// A session keeps the whole of each row that is changed or deleted, its poster included, and reads the rows again when it
+// is handed over: while they are few, their pages are still in SQLite's cache.
+constexpr sqlite3_int64 kEnMemoire = 512 << 10;
 constexpr int kBloc = 64 << 10;  // that is read or written at a time
 
 // --- the depot as SQLite reads and writes it ---------------------------------------------------------------------
@@ -113,6 +114,17 @@ class Identites {
     std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)> m_lecture{nullptr, &sqlite3_finalize};
 };
 
+// Then the changeset itself says which film the row must be: SQLite compares what it changes with what is there.
+bool changeLeTitre(sqlite3_changeset_iter* changement, const Table& table) {
+    const char* nom = nullptr;
+    int colonnes = 0, operation = 0;
+    sqlite3changeset_op(changement, &nom, &colonnes, &operation, nullptr);
+    if (!table.cle || colonnes != std::ssize(table.colonnes)) return false;
+    sqlite3_value* titre = nullptr;
+    return sqlite3changeset_new(changement, static_cast<int>(table.cle->premiere), &titre) == SQLITE_OK &&
+           titre != nullptr;
+}
+
 Releve releve(Connexion& connexion, const Depot& depot, const Morceau& morceau) {
     Lecture lecture(depot, morceau);
     sqlite3_changeset_iter* brut = nullptr;
@@ -129,6 +141,7 @@ Releve releve(Connexion& connexion, const Depot& depot, const Morceau& morceau) 
             resultat.ajoutsEtRetraits.push_back(ligne);
             continue;
         }
+        if (changeLeTitre(brut, *ligne.table)) continue;
         if (!identites || identites->table() != ligne.table) identites.emplace(connexion, *ligne.table);
         resultat.empreinte += identites->de(ligne.id);
     }
@@ -164,16 +177,24 @@ bool appliqueMorceau(Connexion& connexion, const Depot& depot, Morceau& morceau,
     return true;
 }
 
-bool appliqueTout(Connexion& connexion, Enregistrement& changements, Sens sens,
-                  std::vector<LigneChangee>& ajoutsEtRetraits) {
+Application appliqueTout(Connexion& connexion, Enregistrement& changements, Sens sens, const Avance& avance,
+                         std::vector<LigneChangee>& ajoutsEtRetraits) {
     std::vector<Morceau> morceaux = changements.morceaux;
+    std::int64_t faits = 0, total = 0;
+    for (const Morceau& morceau : morceaux)
+        total += morceau.octets;
+    bool arretee = false;
     const auto applique = [&](Morceau& morceau) {
-        return appliqueMorceau(connexion, changements.depot, morceau, sens, ajoutsEtRetraits);
+        if (!appliqueMorceau(connexion, changements.depot, morceau, sens, ajoutsEtRetraits)) return false;
+        faits += morceau.octets;
+        arretee = faits < total && avance && !avance(faits, total);
+        return !arretee;
     };
     const bool faite = sens == Sens::Defaire ? std::all_of(morceaux.rbegin(), morceaux.rend(), applique)
                                              : std::all_of(morceaux.begin(), morceaux.end(), applique);
-    if (faite) changements.morceaux = std::move(morceaux);
-    return faite;
+    if (!faite) return arretee ? Application::Arretee : Application::Changees;
+    changements.morceaux = std::move(morceaux);
+    return Application::Faite;
 }
 
 // A row that comes back under its id is the one that the recordsets knew.
@@ -210,7 +231,14 @@ void Enregistreur::commence() noexcept {
     m_empeche.clear();
     essaie([this] {
         m_manqueAvant = m_suite.manque;
-        if (m_suite.manque.empty()) ouvre();
+        if (!m_suite.manque.empty()) return;
+        for (const std::string& nom : m_suite.tables) {
+            Table& table = m_connexion.table(nom);
+            if (!table.aCleEntiere) table.aCleEntiere = cleEntiere(m_connexion, table.nom).has_value();
+            if (!*table.aCleEntiere)
+                jette(kErreurFormat, "la table « " + nom + " » n'a pas de clé primaire entière");
+        }
+        ouvre();
     });
 }
 
@@ -219,9 +247,6 @@ void Enregistreur::ouvre() {
         return sqlite3session_config(SQLITE_SESSION_CONFIG_STRMSIZE, &octets) == SQLITE_OK;
     }();
     static_cast<void>(parGrandsBlocs);
-    for (const std::string& nom : m_suite.tables)
-        if (!cleEntiere(m_connexion, m_connexion.table(nom).nom))
-            jette(kErreurFormat, "la table « " + nom + " » n'a pas de clé primaire entière");
     int code = sqlite3session_create(m_connexion.brute(), "main", &m_session);
     for (const std::string& nom : m_suite.tables)
         if (code == SQLITE_OK) code = sqlite3session_attach(m_session, m_connexion.table(nom).nom.c_str());
@@ -272,14 +297,15 @@ void Enregistreur::annule() noexcept {
     m_suite.morceaux.resize(std::min(m_suite.morceaux.size(), m_premier));
 }
 
-Application applique(Connexion& connexion, Enregistrement& changements, Sens sens) {
+Application applique(Connexion& connexion, Enregistrement& changements, Sens sens, const Avance& avance) {
     std::vector<LigneChangee> ajoutsEtRetraits;
     connexion.commence();
     try {
         const std::vector<Morceau> avant = changements.morceaux;
-        if (!appliqueTout(connexion, changements, sens, ajoutsEtRetraits)) {
+        const Application issue = appliqueTout(connexion, changements, sens, avance, ajoutsEtRetraits);
+        if (issue != Application::Faite) {
             connexion.annule();
-            return Application::Changees;
+            return issue;
         }
         try {
             connexion.confirme();

@@ -41,6 +41,6 @@ class Enregistreur {
 
 // All the changes or none, in a transaction of its own; what is known of the rows is then as after another program's
 // change. Throws ErreurDao, nothing done.
-[[nodiscard]] Application applique(Connexion& connexion, Enregistrement& changements, Sens sens);
+[[nodiscard]] Application applique(Connexion& connexion, Enregistrement& changements, Sens sens, const Avance& avance);
 
 }  // namespace dao::interne

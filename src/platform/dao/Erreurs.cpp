@@ -29,6 +29,10 @@ void jetteDeplacee(const std::string& chemin) {
 void jetteSqlite(sqlite3* base, int code, Acces acces) {
     const std::string detail = base != nullptr ? sqlite3_errmsg(base) : sqlite3_errstr(code);
     if (code == SQLITE_READONLY_DBMOVED) jetteDeplacee(sqlite3_db_filename(base, "main"));
+    if (code == SQLITE_READONLY_ROLLBACK)
+        jette(kErreurFormat,
+              "La base « " + std::string(sqlite3_db_filename(base, "main")) +
+                  " » a été laissée au milieu d'une modification, et ne peut pas être lue telle quelle.");
     switch (code & 0xff) {
         case SQLITE_NOMEM:
             throw std::bad_alloc();

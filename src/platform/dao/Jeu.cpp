@@ -164,6 +164,7 @@ void Jeu::ecrit() {
     if (m_edition == Edition::Aucune) jette(kErreurEditSansEdition, "Update ou CancelUpdate sans AddNew ni Edit.");
     if (m_edition == Edition::Courant) exigeCourant();
     // One row alone is whole by itself, unless it is to be recorded with it.
+    base.acheveLeReste();
     const bool sienne = (m_tables.size() > 1 || base.estEnregistree()) && !base.enTransaction();
     if (sienne) base.commence();
     try {
@@ -180,6 +181,7 @@ void Jeu::ecrit() {
 
 void Jeu::supprimeLaLigne(Table& table, long long ligne) {
     Connexion& base = connexion();
+    base.acheveLeReste();
     const bool sienne = base.estEnregistree() && !base.enTransaction();
     if (sienne) base.commence();
     try {

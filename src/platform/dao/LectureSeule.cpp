@@ -14,6 +14,7 @@ Poignee ouvreEnLecture(const std::string& chemin) {
     std::error_code erreur;
     if (!std::filesystem::is_regular_file(chemin, erreur))
         jette(kErreurFichierIntrouvable, "Fichier introuvable : « " + chemin + " ».");
+    exigeJournauxSimples(chemin);
     Poignee base(chemin, SQLITE_OPEN_READONLY);
     for (const int reglage : {SQLITE_DBCONFIG_TRUSTED_SCHEMA, SQLITE_DBCONFIG_ENABLE_VIEW})
         sqlite3_db_config(base.brute(), reglage, 0, nullptr);  // what a file made elsewhere may hold must not act

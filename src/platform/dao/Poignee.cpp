@@ -36,24 +36,6 @@ void exigeSignature(const std::string& chemin) {
     if (lu != kSignature) jette(kErreurFormat, "« " + chemin + " » n'est pas une base, ou elle est endommagée.");
 }
 
-// What SQLite takes for the base's own where it stands beside it came from wherever the base did. A pipe would be waited
-// for; and a journal that ends as those of several bases do names a file that SQLite deletes, whichever it is.
-void exigeJournauxSimples(const std::string& chemin) {
-    constexpr std::string_view kMarque = "\xd9\xd5\x05\xf9\x20\xa1\x63\xd7";
-    std::error_code erreur;
-    const std::string base = std::filesystem::canonical(chemin, erreur).string();
-    for (const char* suite : {"-journal", "-wal", "-shm"}) {
-        const auto etat = std::filesystem::symlink_status(base + suite, erreur);
-        if (std::filesystem::exists(etat) && !std::filesystem::is_regular_file(etat))
-            jette(kErreurFormat, "« " + base + suite + " » n'est pas un fichier.");
-    }
-    std::ifstream journal(base + "-journal", std::ios::binary | std::ios::ate);
-    std::array<char, kMarque.size()> fin{};
-    journal.seekg(-static_cast<std::streamoff>(fin.size()), std::ios::cur).read(fin.data(), fin.size());
-    if (journal && kMarque == std::string_view(fin.data(), fin.size()))
-        jette(kErreurFormat, "Le journal de la base « " + chemin + " » nomme un autre fichier.");
-}
-
 // What a file made elsewhere may hold must not act by itself.
 void protege(sqlite3* base) {
     sqlite3_db_config(base, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
@@ -98,6 +80,22 @@ void ouvre(Poignee& base, bool exclusif) {
 }
 
 }  // namespace
+
+void exigeJournauxSimples(const std::string& chemin) {
+    constexpr std::string_view kMarque = "\xd9\xd5\x05\xf9\x20\xa1\x63\xd7";
+    std::error_code erreur;
+    const std::string base = std::filesystem::canonical(chemin, erreur).string();
+    for (const char* suite : {"-journal", "-wal", "-shm"}) {
+        const auto etat = std::filesystem::symlink_status(base + suite, erreur);
+        if (std::filesystem::exists(etat) && !std::filesystem::is_regular_file(etat))
+            jette(kErreurFormat, "« " + base + suite + " » n'est pas un fichier.");
+    }
+    std::ifstream journal(base + "-journal", std::ios::binary | std::ios::ate);
+    std::array<char, kMarque.size()> fin{};
+    journal.seekg(-static_cast<std::streamoff>(fin.size()), std::ios::cur).read(fin.data(), fin.size());
+    if (journal && kMarque == std::string_view(fin.data(), fin.size()))
+        jette(kErreurFormat, "Le journal de la base « " + chemin + " » nomme un autre fichier.");
+}
 
 Requete::~Requete() {
     sqlite3_reset(m_brute);

@@ -57,6 +57,11 @@ class Poignee {
     std::unordered_map<std::string, std::unique_ptr<sqlite3_stmt, Ferme>> m_requetes;
 };
 
+// What SQLite takes for the base's own where it stands beside it came from wherever the base did. A pipe would be waited
+// for; and a journal that ends as those of several bases do names a file that SQLite deletes, whichever it is. Throws
+// ErreurDao 3343 where one of them is so.
+void exigeJournauxSimples(const std::string& chemin);
+
 // Opens an existing base as DBEngine::OpenDatabase says, and throws what it throws.
 [[nodiscard]] Poignee ouvreBase(const std::string& chemin, bool exclusif);
 

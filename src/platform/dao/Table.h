@@ -67,6 +67,7 @@ struct Table {
     std::string ligneSql;  // what the row id is called: "rowid", or another of its names when a column bears that one
     Par<RangColonne, ColonneDeTable> colonnes;
     std::optional<CleDeTable> cle{};
+    std::optional<bool> aCleEntiere{};  // once it was looked
     Suivi suivi{};
 };
 

@@ -19,6 +19,7 @@ namespace {
 
 constexpr std::string_view kDebut = ".ambrelis-";
 constexpr std::string_view kFin = ".tmp";
+constexpr std::string_view kJournal = "-journal";
 constexpr std::time_t kPlusLongueEcriture = 3600;  // seconds without a byte: nobody writes it any more
 
 // ".ambrelis-NUMBER-NUMBER-NUMBER.tmp": the number of the process that made it; nothing for any other name.
@@ -54,6 +55,18 @@ bool supprimeReste(const std::string& chemin, pid_t processus) {
     return !estEnUsage(fichier, *infos, processus) && unlink(chemin.c_str()) == 0;
 }
 
+// The journal of a base under such a name: once that base is gone, nobody's.
+bool supprimeJournal(const std::string& dossier, std::string_view nom) {
+    if (!nom.ends_with(kJournal)) return false;
+    const std::string_view base = nom.substr(0, nom.size() - kJournal.size());
+    if (!auteur(base)) return false;
+    struct stat infos {};
+    const std::string chemin = util::avecSeparateur(dossier) + std::string(nom);
+    if (lstat((util::avecSeparateur(dossier) + std::string(base)).c_str(), &infos) == 0) return false;
+    const bool sien = lstat(chemin.c_str(), &infos) == 0 && S_ISREG(infos.st_mode) && infos.st_uid == geteuid();
+    return sien && unlink(chemin.c_str()) == 0;
+}
+
 }  // namespace
 
 std::string nomProvisoire() {
@@ -70,11 +83,14 @@ void marqueEnUsage(int descripteur) {
 }
 
 int supprimeRestes(const std::string& dossier) {
+    const std::vector<std::string> noms = listeNoms(dossier);
     std::vector<std::pair<std::string, pid_t>> restes;
-    for (const std::string& nom : listeNoms(dossier))
+    for (const std::string& nom : noms)
         if (const auto processus = auteur(nom)) restes.emplace_back(util::avecSeparateur(dossier) + nom, *processus);
-    return static_cast<int>(
-        std::ranges::count_if(restes, [](const auto& reste) { return supprimeReste(reste.first, reste.second); }));
+    auto partis =
+        std::ranges::count_if(restes, [](const auto& reste) { return supprimeReste(reste.first, reste.second); });
+    partis += std::ranges::count_if(noms, [&](const std::string& nom) { return supprimeJournal(dossier, nom); });
+    return static_cast<int>(partis);
 }
 
 }  // namespace fichiers

@@ -12,7 +12,7 @@ namespace fichiers {
 void marqueEnUsage(int descripteur);
 
 // Removes from the folder what killed programs of ours left behind: regular files of such a name, the user's own, in use
-// nowhere. A program of another installation, or of another machine, may be writing into the folder meanwhile. Answers
+// nowhere, and the journals of such bases as are gone. A program of another installation, or of another machine, may be writing into the folder meanwhile. Answers
 // how many went.
 int supprimeRestes(const std::string& dossier);
 

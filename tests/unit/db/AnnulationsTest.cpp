@@ -114,6 +114,39 @@ TEST_F(Annulations, TheyOutliveACompactionAndNoOtherBase) {
     EXPECT_EQ(annulations.termine(), Fin::Rien);
 }
 
+TEST_F(Annulations, WhatIsTooLargeSaysSoBeforeAndAStopLeavesAllAsItWas) {
+    for (int i = 0; i < 4; ++i)
+        ajoute("Film " + std::to_string(i), "Z", dao::Valeur::octets(std::string(1 << 20, 'a')));
+    annulations.commence();
+    EXPECT_EQ(annulations.renonceSiTropGrande(1 << 20), "");
+    {
+        dao::Transaction ensemble(base.base);
+        for (dao::Recordset films = base.base.OpenRecordset("SELECT * FROM films"); !films.Eof(); films.MoveNext())
+            films.Delete();
+        ensemble.confirme();
+    }
+    ASSERT_EQ(annulations.termine(), Fin::Annulable);
+    EXPECT_TRUE(affiches().empty());
+    std::int64_t etapes = 0;
+    const auto arrete = annulations.annule([&](std::int64_t faits, std::int64_t total) {
+        EXPECT_TRUE(0 < faits && faits < total);
+        return ++etapes < 2;
+    });
+    EXPECT_EQ(arrete.texte, "Arrêté : rien n'a changé.");
+    EXPECT_EQ(etapes, 2);
+    EXPECT_TRUE(affiches().empty());
+    EXPECT_TRUE(annulations.annule().faite);
+    EXPECT_EQ(affiches().size(), 5U);
+
+    annulations.commence();
+    EXPECT_EQ(annulations.renonceSiTropGrande(3LL << 30), "elle change environ 3221 Mo");
+    ajoute("C", "Z", dao::Valeur());
+    EXPECT_EQ(annulations.termine(), Fin::Perdue);
+    EXPECT_EQ(annulations.manque(), "") << "it was told before";
+    EXPECT_EQ(annulations.aAnnuler(), nullptr);
+    EXPECT_EQ(annulations.aRetablir(), nullptr);
+}
+
 TEST_F(Annulations, MuchIsKeptOnTheDiskAndTheOldestGoesFirst) {
     const std::string affiche(1 << 20, 'a');
     base.base.Execute("PRAGMA synchronous=OFF");  // hundreds of commands

@@ -5,6 +5,7 @@
 #include "db/cmdCompacter_Click.h"
 #include "db/cmdMajBase_Click.h"
 #include "db/cmdSupprInfosPerso_Click.h"
+#include "doubles/Mort.h"
 #include "platform/dao/Copie.h"
 
 #include <filesystem>
@@ -111,6 +112,38 @@ TEST_F(SauvegardesTest, TheLastTenOfThisBaseAreKeptWhateverTheClockSays) {
     }
     EXPECT_THAT(numeros(), ElementsAre(12, 11, 10, 9, 8, 7, 6, 5, 4, 3));
     EXPECT_EQ(fichiersDuDossier(), 13);
+}
+
+TEST_F(SauvegardesTest, WhatIsTooLargeToBeTakenBackSaysSoBeforeItBegins) {
+    annulations.commence();
+    EXPECT_TRUE(db::sauvegardeAvant(c, Avant::Suppression, 2LL << 30));
+    EXPECT_EQ(etatAvis.lblAvis.Caption,
+              "Cette commande ne pourra pas être annulée avec Ctrl+Z, ni ce qui la précède (elle change environ 2147 "
+              "Mo) : la dernière sauvegarde en tient lieu (Configuration, « Sauvegardes… »).");
+    EXPECT_EQ(copies().size(), 1U);
+}
+
+TEST_F(SauvegardesTest, WhatAnotherProgramLeftHalfDoneIsInNoCopy) {
+    remplit(1);
+    ASSERT_TRUE(doubles::meurtEnRoute([&] {
+        dao::Database autre = dao::DBEngine::OpenDatabase(chemins.base);
+        autre.Execute("PRAGMA cache_size=5; BEGIN; UPDATE Films SET Titre='à demi', Affiche=zeroblob(300000)");
+        doubles::meurs();
+    }));
+    ASSERT_TRUE(dossier.existe("Films.mdb-journal"));
+    const std::string octets = dossier.lit("Films.mdb");
+    try {
+        (void)dao::DBEngine::contenuDe(chemins.base);
+        ADD_FAILURE() << "read as it is";
+    } catch (const dao::ErreurDao& erreur) {
+        EXPECT_THAT(erreur.description,
+                    EndsWith("au milieu d'une modification, et ne peut pas être lue telle quelle."));
+    }
+    EXPECT_TRUE(dossier.lit("Films.mdb") == octets && dossier.existe("Films.mdb-journal")) << "only read";
+    ASSERT_EQ(prends(), db::IssueSauvegarde::Faite);
+    EXPECT_EQ(dao::DBEngine::textesDe(copies()[0].chemin, "SELECT Titre FROM Films"),
+              std::vector<std::string>{"Film 0"});
+    EXPECT_FALSE(dossier.existe("Films.mdb-journal"));
 }
 
 TEST_F(SauvegardesTest, OfALargeBaseOneForEachHour) {

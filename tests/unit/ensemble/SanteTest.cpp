@@ -1,3 +1,4 @@
+#include "db/Sauvegardes.h"
 #include "ensemble/Sante.h"
 #include "unit/edit/FenetreEdition.h"
 
@@ -118,6 +119,7 @@ TEST_F(SanteTest, TitlesAreCorrectedAndAnExaminationCanBeStopped) {
     montre(browse::kZoneTous, browse::kTriTitre2);
     EXPECT_THAT(lignes(Mal::TitreACorriger), ElementsAre("le parrain ii=Le Parrain II *"));
     EXPECT_EQ(repare(c, Mal::TitreACorriger), 1);
+    EXPECT_EQ(db::derniereSauvegarde(base.base.nom())->nom.avant, db::Avant::Titres);
     EXPECT_THAT(titres(), ElementsAre("Le Parrain", "Le Parrain II")) << "the listing shows it";
     ecranMuet.souffles = 0;
     ecranMuet.arretApres = 1;

@@ -299,14 +299,16 @@ TEST(FichiersRestes, WhatKilledProgramsLeftGoesAndNothingElse) {
     const std::string mien = ".ambrelis-" + std::to_string(getpid()) + "-1-2.tmp";
     for (const std::string& nom : {mien, "x.ambrelis-999999999-1-2.tmp"s, ".ambrelis-999999999-1-2.tmp.jpg"s,
                                    ".ambrelis-999999999-1.tmp"s, ".ambrelis-999999999--2.tmp"s, ".ambrelis-a-1-2.tmp"s,
-                                   ".ambrelis-999999999-1-2.tmp"s, ".ambrelis-1-1-2.tmp"s, ".ambrelis.verrou"s})
+                                   ".ambrelis-999999999-1-2.tmp"s, ".ambrelis-999999999-1-2.tmp-journal"s,
+                                   ".ambrelis-1-1-2.tmp"s, ".ambrelis-1-1-2.tmp-journal"s, ".ambrelis.verrou"s})
         d.ecrit(nom, "");
     fs::create_symlink("source", d.chemin(".ambrelis-999999999-3-3.tmp"));
     fs::create_directory(d.chemin(".ambrelis-999999999-4-4.tmp"));
     const auto avant = entrees(d);
-    EXPECT_EQ(fichiers::supprimeRestes(d.chemin()), 3) << "the killed one's, mine of an earlier run, and nobody's";
+    EXPECT_EQ(fichiers::supprimeRestes(d.chemin()), 4)
+        << "the killed one's, mine of an earlier run, nobody's, a journal";
     const auto apres = entrees(d);
-    EXPECT_EQ(apres.size(), avant.size() - 3);
+    EXPECT_EQ(apres.size(), avant.size() - 4);
     for (const std::string& nom : {mien, ".ambrelis-999999999-1-2.tmp"s})
         EXPECT_THAT(apres, testing::Not(testing::Contains(nom)));
     EXPECT_THAT(apres, testing::IsSupersetOf({".ambrelis-1-1-2.tmp", ".ambrelis-999999999-3-3.tmp",
@@ -314,7 +316,7 @@ TEST(FichiersRestes, WhatKilledProgramsLeftGoesAndNothingElse) {
     EXPECT_EQ(fichiers::supprimeRestes(d.chemin()), 0) << "they may be being written";
     for (const std::string& nom : entrees(d))
         vieillit(d.chemin(nom));
-    EXPECT_EQ(fichiers::supprimeRestes(d.chemin()), 1) << "but for one, nobody does for an hour without a byte";
+    EXPECT_EQ(fichiers::supprimeRestes(d.chemin()), 2) << "but for one, nobody does for an hour without a byte";
     EXPECT_FALSE(d.existe(".ambrelis-1-1-2.tmp"));
 }
 

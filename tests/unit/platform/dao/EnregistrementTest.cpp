@@ -98,6 +98,7 @@ TEST_F(EnregistrementTest, NothingIsAppliedToRowsThatAreNoLongerWhatTheyWere) {
         {"UPDATE Films SET Genre='Drame' WHERE id=2", Application::Faite},  // was not changed by the command
         {"DELETE FROM Films WHERE id=2", Application::Changees},
         {"UPDATE Films SET Titre='Autre film' WHERE id=2", Application::Changees},  // another film under that id
+        {"UPDATE Films SET Titre='Autre film' WHERE id=1", Application::Changees},  // which the command retitled
         {"INSERT INTO Films (id,Titre) VALUES (3,'Nouveau')", Application::Changees},
         {"UPDATE Films SET Resume='lu' WHERE id=4", Application::Changees},
         {"ALTER TABLE Films RENAME COLUMN Note TO Cote", Application::Faite},  // told by their places
@@ -113,6 +114,7 @@ TEST_F(EnregistrementTest, NothingIsAppliedToRowsThatAreNoLongerWhatTheyWere) {
             essai.film(titre, "x");
         commence();
         note("Brazil", 7);
+        note("Avatar", "Avatar II", "Titre");
         supprime("Casino");
         essai.film("Dune", "x");
         base.enregistre(nullptr);
@@ -125,6 +127,20 @@ TEST_F(EnregistrementTest, NothingIsAppliedToRowsThatAreNoLongerWhatTheyWere) {
             EXPECT_EQ(refais(), Application::Faite);
         }
     }
+}
+
+// As want of memory leaves one: what comes after it would never be stored, and what was recorded be forgotten with it.
+TEST_F(EnregistrementTest, ATransactionThatWasLeftOpenTakesNothingWithIt) {
+    commence();
+    note("Avatar", 1);
+    base.Execute("BEGIN; SELECT * FROM Films");
+    note("Brazil", 2);
+    base.Execute("BEGIN; SELECT * FROM Films");
+    supprime("Casino");
+    essai.ouvre();
+    EXPECT_THAT(lignes(), ElementsAre("1 Avatar 1", "2 Brazil 2"));
+    ASSERT_EQ(defais(), Application::Faite);
+    EXPECT_THAT(lignes(), ElementsAre("1 Avatar ", "2 Brazil ", "3 Casino "));
 }
 
 TEST_F(EnregistrementTest, ALargeTransactionIsHandedOverInPieces) {

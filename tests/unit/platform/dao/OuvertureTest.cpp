@@ -2,6 +2,7 @@
 #include "doubles/DossierTemporaire.h"
 #include "doubles/Mort.h"
 #include "doubles/SansPrivileges.h"
+#include "platform/dao/Copie.h"
 
 #include <array>
 #include <filesystem>
@@ -245,6 +246,8 @@ TEST(Ouverture, NoJournalLeadsToAnotherFile) {
     fs::remove(journal);
     ASSERT_EQ(mkfifo(journal.c_str(), 0600), 0);
     EXPECT_EQ(numeroDOuverture(essai.chemin), dao::kErreurFormat);
+    EXPECT_EQ(numeroErreur([&] { (void)dao::DBEngine::contenuDe(essai.chemin); }), dao::kErreurFormat)
+        << "a safety copy that came from elsewhere";
     fs::remove(journal);
     essai.dossier.ecrit("films.mdb-journal", tete);
     EXPECT_EQ(numeroDOuverture(essai.chemin), 0) << "one that a killed program left";
