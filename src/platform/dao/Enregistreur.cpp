@@ -235,8 +235,7 @@ void Enregistreur::commence() noexcept {
         for (const std::string& nom : m_suite.tables) {
             Table& table = m_connexion.table(nom);
             if (!table.aCleEntiere) table.aCleEntiere = cleEntiere(m_connexion, table.nom).has_value();
-            if (!*table.aCleEntiere)
-                jette(kErreurFormat, "la table « " + nom + " » n'a pas de clé primaire entière");
+            if (!*table.aCleEntiere) jette(kErreurFormat, "la table « " + nom + " » n'a pas de clé primaire entière");
         }
         ouvre();
     });
