@@ -28,8 +28,8 @@ namespace ui {
 
 namespace {
 
-constexpr double kGrandTitre = 1.9, kPetitTitre = 1.5;
-constexpr int kPlaceDuGrandTitre = 640;  // logical pixels that the sheet has for it and the poster
+constexpr double kGrandTitre = 1.9, kPetitTitre = 1.5, kGrandResume = 1.15;
+constexpr int kPlaceDuGrandTitre = 640, kPlaceDuGrandResume = 1300;  // logical pixels of the sheet
 
 QWidget* page(std::initializer_list<QWidget*> cadres) {
     auto* boite = colonne(kMoyen);
@@ -302,6 +302,7 @@ QWidget* PanneauFiche::resume() {
     auto& fiche = m_atelier.etats().fiche;
     auto* cadre = nomme(new QWidget, "frameGeneralites", 1);
     auto* texte = nomme(new TexteEntier, "Text1", tr("Résumé"));
+    m_resume = texte;
     texte->setReadOnly(true);
     texte->setTabChangesFocus(true);
     texte->setFrameShape(QFrame::NoFrame);
@@ -319,6 +320,7 @@ QWidget* PanneauFiche::resume() {
 
 void PanneauFiche::resizeEvent(QResizeEvent*) {
     m_titre->avecPolice(width() < kPlaceDuGrandTitre ? kPetitTitre : kGrandTitre, QFont::DemiBold);
+    m_resume->setFont(policeRelative(width() < kPlaceDuGrandResume ? 1 : kGrandResume));
     dimensionneAffiche();
 }
 

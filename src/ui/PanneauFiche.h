@@ -35,6 +35,7 @@ class PanneauFiche final : public QWidget {
     CadreAffiche* m_affiche = nullptr;
     QWidget* m_sousAffiche = nullptr;
     Etiquette* m_titre = nullptr;
+    QWidget* m_resume = nullptr;
 };
 
 }  // namespace ui

@@ -135,6 +135,9 @@ void StyleAmbrelis::drawPrimitive(PrimitiveElement element, const QStyleOption* 
             peintSurface(*peintre, option->rect, {}, filet(option->palette));
             if (a(*option, State_HasFocus)) peintContourDeFocus(*peintre, option->rect, accentLisible(option->palette));
             return;
+        case PE_FrameMenu:  // Fusion's cannot be told from a dark list below it
+            peintSurface(*peintre, option->rect, {}, filet(option->palette), 0);
+            return;
         case PE_IndicatorCheckBox:
         case PE_IndicatorItemViewItemCheck:
             peintCase(*peintre, *option);
@@ -219,6 +222,8 @@ int StyleAmbrelis::pixelMetric(PixelMetric mesure, const QStyleOption* option, c
         case PM_ButtonShiftHorizontal:
         case PM_ButtonShiftVertical:
             return 0;
+        case PM_MenuPanelWidth:
+            return 1;
         case PM_ScrollBarExtent:
             return 12;
         case PM_SplitterWidth:
