@@ -3,6 +3,7 @@
 #include "db/Affiches.h"
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
+#include "db/TitreCite.h"
 #include "ensemble/PossessionsJointes.h"
 #include "ensemble/Suites.h"
 #include "platform/dao/Comparaison.h"
@@ -165,8 +166,8 @@ bool ChampCompare::conflit() const {
 }
 
 std::string PlanDeFusion::texte() const {
-    std::string texte = "La fiche " + util::entreChevrons(gauche.titre) + " reste, la fiche " +
-                        util::entreChevrons(droite.titre) + " est supprimée.";
+    std::string texte = "La fiche " + db::titreCite(gauche.titre) + " reste, la fiche " + db::titreCite(droite.titre) +
+                        " est supprimée.";
     const auto pris = [](const ChampCompare& champ) { return champ.prendDroite; };
     const auto perdu = [](const ChampCompare& champ) { return !champ.prendDroite && champ.conflit(); };
     const auto liste = [&](const char* debut, bool (*convient)(const ChampCompare&)) {
@@ -205,7 +206,7 @@ bool fusionne(const Contexte& c, const PlanDeFusion& plan) {
     reunitLesPossessions(siennes, plan, nomFinal(plan));
     lignes.droite().Delete();
     ensemble.confirme();
-    const std::string titres = util::entreChevrons(plan.gauche.titre) + " et " + util::entreChevrons(plan.droite.titre);
+    const std::string titres = db::titreCite(plan.gauche.titre) + " et " + db::titreCite(plan.droite.titre);
     c.annulations.nomme("fusion de " + titres, "Fiches " + titres + " réunies.");
     rafraichit(c, true);
     return true;

@@ -2,6 +2,7 @@
 
 #include "db/Affiches.h"
 #include "db/Requete.h"
+#include "db/TitreCite.h"
 #include "ensemble/Avancement.h"
 #include "ensemble/CleDeFilm.h"
 #include "ensemble/PossessionsJointes.h"
@@ -271,8 +272,8 @@ std::string Constat::texteReparation() const {
 }
 
 std::string LigneDeSante::pourquoiSansFiche() const {
-    if (film.titre.empty()) return "Aucun film ne correspond à " + util::entreChevrons(detail) + ".";
-    return util::entreChevrons(film.titre) + " n'a pas de fiche.";
+    if (film.titre.empty()) return "Aucun film ne correspond à " + db::titreCite(detail) + ".";
+    return db::titreCite(film.titre) + " n'a pas de fiche.";
 }
 
 std::string Examen::bilan() const {

@@ -14,9 +14,17 @@
 
 namespace ui {
 
+QString texteDeLigne(std::string_view texte) {
+    constexpr std::size_t kLu = 2400;  // bytes, of at most so many characters as below
+    constexpr qsizetype kAssez = 500;
+    const std::string_view debut = texte.substr(0, kLu);
+    return QString::fromUtf8(debut.data(), static_cast<qsizetype>(debut.size())).left(kAssez);
+}
+
 void DelegueLignes::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
     option->state &= ~QStyle::State_HasFocus;
+    option->text = option->text.replace(QChar::LineSeparator, QLatin1Char(' '));
     if (index.data(kLigneForte).toBool()) {
         option->font.setWeight(QFont::DemiBold);
         option->fontMetrics = QFontMetrics(option->font);

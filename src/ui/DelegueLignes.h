@@ -9,6 +9,9 @@ namespace ui {
 // Asked of a model beside what Qt asks: how a row is written.
 enum RoleDeLigne { kLigneDiscrete = Qt::UserRole + 100, kLigneForte };
 
+// As much of a text as a row can show; laying out megabytes would hold the window.
+[[nodiscard]] QString texteDeLigne(std::string_view texte);
+
 // The rows of a page's list: as far apart as the rest of the window, what does not fit told by a tool tip.
 class DelegueLignes final : public QStyledItemDelegate {
     Q_OBJECT

@@ -43,6 +43,7 @@ FenetreApercu::FenetreApercu(const Atelier& atelier, Sujet sujet, QWidget* paren
     auto* fermer = bouton("cmdFermerApercu", tr("Fermer"), tr("Ne rien changer (Échap)"));
     connect(fermer, &QAbstractButton::clicked, this, &QDialog::reject);
     connect(m_executer, &QAbstractButton::clicked, this, &FenetreApercu::execute);
+    m_executer->setDefault(true);
     auto* boite = new QVBoxLayout(this);
     boite->setContentsMargins(kGrand, kGrand, kGrand, kGrand);
     boite->setSpacing(kMoyen);

@@ -27,7 +27,7 @@ QVariant ModeleApercu::data(const QModelIndex& index, int role) const {
     if (role != Qt::DisplayRole) return {};
     const ensemble::Changement& celui = m_changements[static_cast<std::size_t>(index.row())];
     const std::string* textes[] = {&celui.film.titre, &celui.film.realisateur, &celui.avant, &celui.apres};
-    return QString::fromStdString(*textes[index.column()]);
+    return texteDeLigne(*textes[index.column()]);
 }
 
 QVariant ModeleApercu::headerData(int section, Qt::Orientation sens, int role) const {

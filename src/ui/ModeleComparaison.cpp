@@ -16,15 +16,17 @@ bool seChoisit(const ChampCompare& champ) {
     return champ.differe() && !champ.ailleurs && !champ.droite.empty();
 }
 
-// On one line. Of two long texts that begin alike, what is theirs alone must be seen: the common part is cut.
+// On one line, and no more than one could hold. Of two texts that begin alike for long, what is theirs alone must be seen.
 QString enUneLigne(const ChampCompare& champ, const std::string& valeur) {
-    constexpr qsizetype kDebutVu = 16, kAssez = 400;  // characters
-    const QString texte = QString::fromStdString(valeur),
-                  autre = QString::fromStdString(&valeur == &champ.gauche ? champ.droite : champ.gauche);
-    const auto commun = std::mismatch(texte.begin(), texte.end(), autre.begin(), autre.end()).first - texte.begin();
-    const bool coupe = champ.differe() && commun > 2 * kDebutVu;
-    const QString montre = coupe ? QStringLiteral("… ") + texte.mid(commun - kDebutVu, kAssez) : texte.left(kAssez);
-    return montre.simplified();
+    constexpr std::size_t kDebutVu = 16;  // bytes
+    const std::string& autre = &valeur == &champ.gauche ? champ.droite : champ.gauche;
+    const auto commun = static_cast<std::size_t>(
+        std::mismatch(valeur.begin(), valeur.end(), autre.begin(), autre.end()).first - valeur.begin());
+    std::size_t debut = champ.differe() && commun > 2 * kDebutVu ? commun - kDebutVu : 0;
+    while (debut > 0 && debut < valeur.size() && (static_cast<unsigned char>(valeur[debut]) & 0xc0) == 0x80)
+        --debut;
+    const QString texte = texteDeLigne(std::string_view(valeur).substr(debut)).simplified();
+    return debut > 0 ? QStringLiteral("… ") + texte : texte;
 }
 
 }  // namespace

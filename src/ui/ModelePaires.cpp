@@ -1,12 +1,14 @@
 #include "ui/ModelePaires.h"
 
+#include "ui/DelegueLignes.h"
+
 namespace ui {
 
 namespace {
 
 QString nomComplet(const db::CleFilm& film) {
-    const QString titre = QString::fromStdString(film.titre);
-    return film.realisateur.empty() ? titre : titre + QStringLiteral(" - ") + QString::fromStdString(film.realisateur);
+    const QString titre = texteDeLigne(film.titre);
+    return film.realisateur.empty() ? titre : titre + QStringLiteral(" - ") + texteDeLigne(film.realisateur);
 }
 
 }  // namespace

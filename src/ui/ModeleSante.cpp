@@ -73,9 +73,8 @@ Qt::ItemFlags ModeleSante::flags(const QModelIndex& index) const {
 
 QString ModeleSante::texte(const ensemble::LigneDeSante& ligne, int colonne) const {
     if (colonne == Titre)
-        return ligne.film.titre.empty() && !ligne.aUneFiche ? tr("(sans film)")
-                                                            : QString::fromStdString(ligne.film.titre);
-    return QString::fromStdString(colonne == Realisateur ? ligne.film.realisateur : ligne.detail);
+        return ligne.film.titre.empty() && !ligne.aUneFiche ? tr("(sans film)") : texteDeLigne(ligne.film.titre);
+    return texteDeLigne(colonne == Realisateur ? ligne.film.realisateur : ligne.detail);
 }
 
 QVariant ModeleSante::data(const QModelIndex& index, int role) const {

@@ -103,6 +103,9 @@ TEST_F(NotesEtGroupesTest, AGenreIsRenamedUnderItsHeadingOnly) {
     RenommerGenreFilms_Click(c);  // the heading of the same name for the base, where it stands now
     EXPECT_EQ(liste.TreeView1.Nodes.enfants(liste.TreeView1.SelectedItem).size(), 3U);
     EXPECT_EQ(liste.TreeView1.aOuvrir, liste.TreeView1.SelectedItem);
+    attendGenre("Noir", "Gris");  // the same question, which proposes what was looked at before
+    RenommeEnProposant(c, false, "Gris");
+    EXPECT_EQ(colonne("Films", "Genre").front(), "Noir");
 }
 
 TEST_F(NotesEtGroupesTest, ARenamingStopsAtTheFirstFilmWithoutAHolding) {
