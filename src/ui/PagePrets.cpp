@@ -90,10 +90,10 @@ QLayout* PagePrets::entete() {
 
 QLayout* PagePrets::depart() {
     m_choix = nomme(new Etiquette, "lblAPreter");
-    m_aQui = nomme(listeDeSaisie(), "PreterA", tr("Prêter à"));
+    m_aQui = nomme(listeDeSaisie(), "PreterA");
     m_aQui->lineEdit()->setMaxLength(static_cast<int>(edit::kLongueurDivers));
     m_aQui->lineEdit()->setPlaceholderText(tr("nom de la personne"));
-    m_aQui->setMinimumContentsLength(18);
+    m_aQui->setMinimumContentsLength(15);
     m_preter = bouton<BoutonAccent>("cmdPreter", tr("&Prêter"), tr("Prêter à cette personne, à partir d'aujourd'hui"));
     connect(m_preter, &QPushButton::clicked, this, &PagePrets::prete);
     connect(m_aQui->lineEdit(), &QLineEdit::returnPressed, this, [this] {
@@ -104,6 +104,8 @@ QLayout* PagePrets::depart() {
     });
     auto* ligne = rangee({}, kPetit);
     ligne->addWidget(m_choix);
+    ligne->addWidget(legende(tr("à q&ui"), m_aQui));
+    m_aQui->setAccessibleName(tr("Prêter à qui"));
     ligne->addWidget(m_aQui);
     ligne->addWidget(m_preter);
     ligne->addStretch();
@@ -162,7 +164,7 @@ void PagePrets::montreLeBilan() {
 void PagePrets::suisLeChoix() {
     const std::string choix = ensemble::texteDuChoix(atelier().etats().liste.TreeView1);
     m_choix->setText(choix.empty() ? tr("Choisissez un film de la liste")
-                                   : tr("Prêter %1 à").arg(QString::fromStdString(choix)));
+                                   : tr("Prêter %1").arg(QString::fromStdString(choix)));
     m_aQui->setEnabled(!choix.empty());
     m_preter->setEnabled(!choix.empty());
 }

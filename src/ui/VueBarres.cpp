@@ -61,7 +61,7 @@ QVariant ModeleBarres::data(const QModelIndex& index, int role) const {
 }
 
 VueBarres::VueBarres(const char* nom) {
-    nomme(this, nom);
+    nomme(this, nom, tr("Diagramme"));
     setModel(&m_modele);
     setItemDelegate(new DelegueDeBarre(this));
     setUniformItemSizes(true);

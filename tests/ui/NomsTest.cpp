@@ -1,6 +1,7 @@
 #include "ProgrammeDEssai.h"
 #include "ui/Boutons.h"
 
+#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QAction>
 #include <QLineEdit>
@@ -73,10 +74,11 @@ bool aUnMnemonique(QWidget& fenetre, const QWidget& champ) {
 
 // What is typed or chosen in.
 bool estUnChamp(const QWidget& widget) {
-    if (qobject_cast<const QComboBox*>(widget.parent())) return false;  // the list is the field
-    return qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QComboBox*>(&widget) ||
-           qobject_cast<const QPlainTextEdit*>(&widget) || qobject_cast<const QCheckBox*>(&widget) ||
-           qobject_cast<const QRadioButton*>(&widget);
+    if (qobject_cast<const QComboBox*>(widget.parent()) || qobject_cast<const QAbstractSpinBox*>(widget.parent()))
+        return false;  // the list, the number is the field
+    return qobject_cast<const QAbstractSpinBox*>(&widget) || qobject_cast<const QLineEdit*>(&widget) ||
+           qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QPlainTextEdit*>(&widget) ||
+           qobject_cast<const QCheckBox*>(&widget) || qobject_cast<const QRadioButton*>(&widget);
 }
 
 void verifiePage(QWidget& fenetre, const char* page) {

@@ -80,7 +80,7 @@ TEST_F(BureauDesPrets, AFilmComesBackIsHandedOnAndAllIsTakenBack) {
 TEST_F(BureauDesPrets, LendsWhatTheTreeHasChosenAndSortsByItsHeadings) {
     essai.cliqueTitre("Cube");
     essai.clique("cmdCollection");
-    EXPECT_EQ(essai.texte("lblAPreter"), "Prêter « Cube » à");
+    EXPECT_EQ(essai.texte("lblAPreter"), "Prêter « Cube »");
     auto& nom = *essai.trouve<QComboBox>("PreterA").lineEdit();
     nom.setFocus();
     QTest::keyClicks(&nom, "Irma");
