@@ -11,13 +11,14 @@
 #include <QComboBox>
 #include <QImageReader>
 #include <QScrollBar>
-#include <QThread>
+#include <QTreeView>
 #include <stdexcept>
 
 namespace {
 
 constexpr double kImage = 1000.0 / 60;  // milliseconds
-constexpr int kImages = 600;            // frames from top to bottom
+constexpr QSize kFenetre{1366, 740};
+constexpr int kImages = 600;  // frames from top to bottom
 
 double memoirePresente() {
     return bench::nombreDuSysteme("/proc/self/status", "VmRSS:") / 1024;
@@ -86,15 +87,15 @@ void mesure(const std::string& dossier) {
     ui::habille(dossier);
     ui::Programme programme(dossier);
     QWidget& fenetre = programme.fenetre();
-    fenetre.resize(1180, 760);
-    bench::Guetteur arbre(*fenetre.findChild<QListView*>("MurDAffiches")->viewport());
-    const double depart = bench::maintenant();
-    if (!programme.demarre()) throw std::runtime_error("the program ended at its start");
-    const double avant = memoirePresente();
     auto& mur = *fenetre.findChild<ui::MurDAffiches*>("MurDAffiches");
+    bench::Guetteur arbre(*fenetre.findChild<QTreeView*>("TreeView1")->viewport());
+    if (!programme.demarre()) throw std::runtime_error("the program ended at its start");
+    arbre.attend();
+    const double avant = memoirePresente();
     while (mur.model()->rowCount() == 0 || !mur.estComplet())
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    bench::declare("premier_mur", bench::maintenant() - depart);
+    bench::declare("demarrage", bench::depuisLeDepart());
+    fenetre.resize(kFenetre);  // the offscreen platform's screen is smaller, and the window was held to it
     bench::laisseFinir();
     auto& tri = *fenetre.findChild<QComboBox*>("ChoixTri");
     mesureLeMur(tri, 2, mur);

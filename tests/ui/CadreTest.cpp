@@ -35,8 +35,9 @@ struct Cadre : testing::Test {
     [[nodiscard]] bool attendsLaPage(const std::string& nom) {
         return essais::attends([&] { return essai.texte("lblGroupe") == nom; });
     }
-    // Of the poster of a tile, once all that are in sight are there.
+    // Of the poster of a tile, once all that are in sight with it are there.
     [[nodiscard]] QColor couleur(int tuile) {
+        mur().scrollTo(mur().model()->index(tuile, 0));
         if (!essais::attends([&] { return mur().estComplet(); })) return {};
         const QRect entiere = place(tuile);
         const QImage image = mur().viewport()->grab().toImage();
