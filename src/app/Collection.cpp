@@ -24,6 +24,7 @@ int noeudAMontrer(const Contexte& c, const db::CleFilm& film) {
 
 void cmdCollection_Click(const Contexte& c) {
     c.panneaux.montre(c.panneaux.frameCollection);
+    if (c.etats.collection.page == PageDeCollection::Affiches) c.demandes.focus = "MurDAffiches";
 }
 
 void OngletCollection_Click(const Contexte& c, PageDeCollection page) {

@@ -8,6 +8,7 @@
 
 #include <QAccessible>
 #include <QContextMenuEvent>
+#include <QCryptographicHash>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -171,8 +172,9 @@ const MurDAffiches::Legende& MurDAffiches::legendeLue(int tuile) {
         auto lue = m_atelier.session.regarde(browse::legendeDuNoeud, voulue.noeud);
         realisateur = std::move(lue.realisateur), annee = std::move(lue.annee);
     }
+    const QByteArray film = QByteArray::fromStdString(titre + '\0' + realisateur);
     return m_legendes[tuile] = {texteDe(titre), texteDe(realisateur), texteDe(annee),
-                                QByteArray::fromStdString(titre.append(1, '\0').append(realisateur))};
+                                QCryptographicHash::hash(film, QCryptographicHash::Sha1)};
 }
 
 bool MurDAffiches::aUneAffiche(int tuile) const {
@@ -231,9 +233,10 @@ bool MurDAffiches::lisProchaine() {
     const Legende& l = legendeLue(tuile);
     if (m_chargeur.estAJour(l.film, tailleDesAffiches()) || m_chargeur.prendDeja(l.film)) return true;
     const auto& voulue = m_mur.tuiles[static_cast<std::size_t>(tuile)];
-    auto source = voulue.film >= 0 ? m_atelier.session.regarde(browse::sourceDuFilm,
-                                                               m_mur.films[static_cast<std::size_t>(voulue.film)].film)
-                                   : m_atelier.session.regarde(browse::sourceDuNoeud, voulue.noeud);
+    auto source = m_atelier.session.regarde([&](const app::Contexte& c) {
+        if (voulue.film < 0) return browse::sourceDuNoeud(c, voulue.noeud);
+        return browse::sourceDuFilm(c, m_mur.films[static_cast<std::size_t>(voulue.film)].film);
+    });
     m_chargeur.prends(l.film, std::move(source), tailleDesAffiches());
     return true;
 }

@@ -72,8 +72,10 @@ PageGroupe::Origine PageGroupe::origine() const {
     const browse::VueArbre& vue = m_atelier.etats().liste.TreeView1;
     const int choisi = vue.SelectedItem;
     const bool groupe = choisi >= 1 && choisi <= vue.Nodes.Count() && vue.Nodes.estGroupe(choisi);
-    return {vue.Nodes.generation(), groupe ? choisi : 0, m_rangeesVoulues,
-            m_atelier.session.regarde([](const app::Contexte& c) { return c.base.base.changements(); })};
+    return m_atelier.session.regarde([&](const app::Contexte& c) {
+        return Origine{vue.Nodes.generation(), groupe ? choisi : 0,   m_rangeesVoulues,
+                       c.chemins.base,         c.stockage.Text4.Text, c.base.base.changements()};
+    });
 }
 
 void PageGroupe::perime() {
@@ -85,7 +87,7 @@ void PageGroupe::perime() {
 void PageGroupe::metVues(std::optional<ensemble::LignesVues> vues) {
     if (vues == m_vues) return;
     m_vues = std::move(vues);
-    m_origine = {};
+    m_origine.generation = -1;
     perime();
 }
 
@@ -97,8 +99,10 @@ void PageGroupe::metAJour() {
     const browse::EtatListe& liste = m_atelier.etats().liste;
     const Origine avant = std::exchange(m_origine, origine());
     m_page = browse::pageDuGroupe(liste);
-    if (m_rangeesVoulues && std::exchange(m_rangeesDe, m_origine.changements) != m_origine.changements)
+    if (m_rangeesVoulues && (!m_rangeesDe || !m_rangeesDe->memesFilms(m_origine))) {
         m_rangees = m_atelier.session.regarde(ensemble::rangeesDuMur);
+        m_rangeesDe = m_origine;
+    }
     const bool rangees = m_rangeesVoulues && !m_vues && ensemble::peutAvoirDesRangees(liste, m_page);
     ensemble::Mur mur = ensemble::murDAffiches(liste, m_page, m_vues ? &*m_vues : nullptr,
                                                rangees ? m_rangees : std::vector<ensemble::RangeeDuMur>());
@@ -109,7 +113,7 @@ void PageGroupe::metAJour() {
     Contenu contenu{liste.triDeLArbre, liste.zoneDeLArbre, liste.critereRecherche,
                     m_page.groupe == 0 ? "" : m_page.nom};
     const bool memeContenu = std::exchange(m_contenu, contenu) == contenu;
-    if (avant.changements != m_origine.changements) m_mur->perime();
+    if (!avant.memesFilms(m_origine)) m_mur->perime();
     if (avant.generation != m_origine.generation || mur != m_mur->mur())
         m_mur->montre(std::move(mur), memeContenu && !m_vues);
 }

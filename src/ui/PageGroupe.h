@@ -38,7 +38,11 @@ class PageGroupe final : public QWidget {
     struct Origine {
         int generation = -1, groupe = 0;
         bool rangees = false;
+        std::string base, images;  // where it is, and its poster files
         dao::Database::Changements changements;
+        [[nodiscard]] bool memesFilms(const Origine& autre) const {
+            return base == autre.base && images == autre.images && changements == autre.changements;
+        }
         friend bool operator==(const Origine&, const Origine&) = default;
     };
     // What a list that is filled again is known by.
@@ -62,7 +66,7 @@ class PageGroupe final : public QWidget {
     browse::PageDuGroupe m_page;
     std::optional<ensemble::LignesVues> m_vues;
     std::vector<ensemble::RangeeDuMur> m_rangees;
-    std::optional<dao::Database::Changements> m_rangeesDe;  // what they were read from
+    std::optional<Origine> m_rangeesDe;  // what they were read from
     Origine m_origine;
     Contenu m_contenu;
     bool m_perimee = false;  // the page is not theirs any more
