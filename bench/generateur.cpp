@@ -1,6 +1,6 @@
-// generateur base|fiches N CHEMIN [--affiches] [--possedes] [--depuis NUMERO]
+// generateur base|fiches N CHEMIN [--affiches] [--en-fichiers] [--possedes] [--depuis NUMERO]
 // Writes N films as a base of the program (the file CHEMIN), or as .FILM sheets in the folder CHEMIN. --possedes: the
-// base holds N films that are all owned, the others are passed over.
+// base holds N films that are all owned, the others are passed over. --en-fichiers: its posters are files of "Images" beside it.
 
 #include "Affiches.h"
 #include "Film.h"
@@ -24,10 +24,10 @@ struct Demande {
     std::string genre;
     std::uint64_t nombre = 0, premier = 0;
     fs::path chemin;
-    bool affiches = false, possedes = false;
+    bool affiches = false, possedes = false, enFichiers = false;
 };
 
-void ajoute(dao::Recordset& films, const bench::Film& f, const std::optional<std::string>& affiche) {
+void ajoute(dao::Recordset& films, const bench::Film& f, const std::optional<dao::Valeur>& affiche) {
     films.AddNew();
     films.assigne("Titre", f.titre);
     films.assigne("Realisateur", f.realisateur);
@@ -40,7 +40,7 @@ void ajoute(dao::Recordset& films, const bench::Film& f, const std::optional<std
     films.assigne("Production", f.production);
     films.assigne("DateAjout", f.dateAjout);
     if (f.note > 0) films.assigne("Note", f.note);
-    if (affiche) films.assigne("Affiche", db::valeurAfficheDansLaBase(*affiche));
+    if (affiche) films.assigne("Affiche", *affiche);
     films.Update();
 }
 
@@ -60,6 +60,20 @@ void ajoute(dao::Recordset& personnel, const bench::Film& f, const bench::Posses
     personnel.Update();
 }
 
+void ecritFichier(const fs::path& chemin, const std::string& octets) {
+    std::ofstream flux(chemin, std::ios::binary);
+    if (!flux.write(octets.data(), static_cast<std::streamsize>(octets.size())).flush())
+        throw std::runtime_error("cannot write " + chemin.string());
+}
+
+dao::Valeur valeur(const Demande& d, std::uint64_t numero, const std::string& affiche) {
+    if (!d.enFichiers) return db::valeurAfficheDansLaBase(affiche);
+    const std::string nom = "film" + std::to_string(numero) + ".jpg";
+    fs::create_directories(d.chemin.parent_path() / "Images");
+    ecritFichier(d.chemin.parent_path() / "Images" / nom, affiche);
+    return db::valeurAfficheFichier(nom);
+}
+
 void ecritBase(const Demande& d, const std::optional<bench::Affiches>& affiches) {
     fs::remove(d.chemin);
     dao::DBEngine::CreateDatabase(d.chemin, db::schema());
@@ -71,16 +85,10 @@ void ecritBase(const Demande& d, const std::optional<bench::Affiches>& affiches)
         const bench::Film f = bench::film(i);
         if (d.possedes && !f.possession) continue;
         --reste;
-        ajoute(films, f, affiches ? std::optional(affiches->affiche(i)) : std::nullopt);
+        ajoute(films, f, affiches ? std::optional(valeur(d, i, affiches->affiche(i))) : std::nullopt);
         if (f.possession) ajoute(personnel, f, *f.possession);
     }
     transaction.confirme();
-}
-
-void ecritFichier(const fs::path& chemin, const std::string& octets) {
-    std::ofstream flux(chemin, std::ios::binary);
-    if (!flux.write(octets.data(), static_cast<std::streamsize>(octets.size())).flush())
-        throw std::runtime_error("cannot write " + chemin.string());
 }
 
 void ecritFiches(const Demande& d, const std::optional<bench::Affiches>& affiches) {
@@ -100,10 +108,11 @@ void ecritFiches(const Demande& d, const std::optional<bench::Affiches>& affiche
 Demande lisDemande(int nombre, char** mots) {
     if (nombre < 4)
         throw std::invalid_argument(
-            "usage: generateur base|fiches N CHEMIN [--affiches] [--possedes] [--depuis NUMERO]");
+            "usage: generateur base|fiches N CHEMIN [--affiches] [--en-fichiers] [--possedes] [--depuis NUMERO]");
     Demande d{mots[1], std::stoull(mots[2]), 0, mots[3]};
     for (int i = 4; i < nombre; ++i) {
         if (std::strcmp(mots[i], "--affiches") == 0) d.affiches = true;
+        if (std::strcmp(mots[i], "--en-fichiers") == 0) d.affiches = d.enFichiers = true;
         if (std::strcmp(mots[i], "--possedes") == 0) d.possedes = true;
         if (std::strcmp(mots[i], "--depuis") == 0 && i + 1 < nombre) d.premier = std::stoull(mots[i + 1]);
     }

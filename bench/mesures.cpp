@@ -28,8 +28,10 @@ struct Collection {
     bool affiches = false;
     double demarrageMax = 0, memoireMax = 0;  // targets; 0: none
     bool possedes = false;                    // all of them
+    bool enFichiers = false;                  // the posters
     [[nodiscard]] std::string nom() const {
-        return std::to_string(films) + (affiches ? "-affiches" : "") + (possedes ? "-possedes" : "");
+        return std::to_string(films) + (affiches ? "-affiches" : "") + (enFichiers ? "-fichiers" : "") +
+               (possedes ? "-possedes" : "");
     }
 };
 
@@ -57,6 +59,7 @@ void installe(const Options& options, const Collection& c) {
     installe(options, dossierDe(options, c));
     std::vector<std::string> mots{"base", std::to_string(c.films), (dossierDe(options, c) / "Films.mdb").string()};
     if (c.affiches) mots.emplace_back("--affiches");
+    if (c.enFichiers) mots.emplace_back("--en-fichiers");
     if (c.possedes) mots.emplace_back("--possedes");
     static_cast<void>(bench::lance("generateur", mots));
 }
@@ -250,6 +253,26 @@ void mesureEnsemble(bench::Tableau& tableau, const Options& options, int films, 
     mesureDoublons(tableau, options, films, doublonsMax);
 }
 
+// The wall of posters, beside the bare decoding of those of one page.
+void mesureMur(bench::Tableau& tableau, const Options& options, int films) {
+    for (const bool enFichiers : {false, true}) {
+        const std::string dossier = collection(options, {films, true, 0, 0, false, enFichiers}).string();
+        std::vector<Figures> passages;
+        for (int i = 0; i < (options.vite ? 3 : 5); ++i)
+            passages.push_back(bench::lance("mesure_mur", {dossier}));
+        const Figures mur = bench::retenues(passages);
+        const auto affiches = std::to_string(static_cast<long>(mur.at("affiches")));
+        tableau.titre("wall of " + std::to_string(films) + " posters, " + (enFichiers ? "in files" : "in the base"));
+        tableau.ajoute({"choice of a sort to the wall painted", "ms", mur.at("mur"), {}, 150.0});
+        tableau.ajoute(
+            {"page of " + affiches + " new posters; one decode each", "ms", mur.at("page"), mur.at("plancher"), 150.0});
+        tableau.ajoute({"start to all of its posters in sight", "ms", mur.at("demarrage"), {}, {}});
+        tableau.ajoute({"frame, top to bottom, median", "ms", mur.at("image_median"), {}, {}});
+        tableau.ajoute({"frame, top to bottom, worst of 600", "ms", mur.at("image_pire"), {}, 16.0});
+        tableau.ajoute({"memory beside the tree's", "MB", mur.at("memoire"), {}, 90.0});
+    }
+}
+
 void mesureConversion(bench::Tableau& tableau, const Options& options, int films) {
     const fs::path modele = collection(options, {films, true});
     const std::string nombre = std::to_string(films);
@@ -392,6 +415,7 @@ int main(int nombre, char** mots) try {
     mesureEnsemble(tableau, options, 10000, 2000);
     mesureDoublons(tableau, options, 3000, {});
     if (!options.vite) mesureEnsemble(tableau, options, 100000, 60000);
+    mesureMur(tableau, options, 10000);
     mesureListes(tableau, options);
     mesureConversion(tableau, options, options.vite ? 2000 : 10000);
     mesureSauvegardes(tableau, options, options.vite ? 2000 : 10000);

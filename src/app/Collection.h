@@ -11,5 +11,6 @@ void OngletCollection_Click(const Contexte& c, PageDeCollection page);
 // Shows the sheet of a film that a page names, from the listing of all films where the one shown does not have it. One
 // that is gone is told in the notice line.
 void montreLeFilm(const Contexte& c, db::CleFilm film);
+void menuDuFilm(const Contexte& c, db::CleFilm film);  // and asks for its menu: etats.menu
 
 }  // namespace app

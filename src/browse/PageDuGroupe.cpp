@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 namespace browse {
 
@@ -38,16 +39,6 @@ long compteFilms(const Arbre& arbre, int groupe) {
     return films;
 }
 
-void ajoutePremiers(const Arbre& arbre, int groupe, std::vector<int>& noeuds) {
-    for (const int noeud : arbre.enfants(groupe)) {
-        if (noeuds.size() == kAffichesDeLaPage) return;
-        if (arbre.estGroupe(noeud))
-            ajoutePremiers(arbre, noeud, noeuds);
-        else
-            noeuds.push_back(noeud);
-    }
-}
-
 // Where the context menu of the heading has its command too.
 Renommage renommageDe(int tri) {
     if (tri == kTriGenre) return Renommage::Genre;
@@ -63,23 +54,18 @@ std::optional<fichiers::Place> fichierSansRienFixer(const Contexte& c, const std
     return fichier ? fichier : db::afficheVoisine(c.chemins.base, affiche);
 }
 
-std::optional<std::string> octets(const Contexte& c, std::string affiche) {
-    if (affiche.size() <= db::kTaillePrefixe) return std::nullopt;
-    if (db::estDansLaBase(affiche)) {
-        if (affiche.size() > static_cast<std::size_t>(kTailleMaxApercu)) return std::nullopt;
-        return affiche.erase(0, db::kTaillePrefixe);
+SourceAffiche source(const Contexte& c, std::string affiche) {
+    if (affiche.size() <= db::kTaillePrefixe) return {};
+    if (!db::estDansLaBase(affiche)) {
+        const auto fichier = fichierSansRienFixer(c, affiche);
+        return {"", fichier ? fichier->chemin : ""};
     }
-    const auto fichier = fichierSansRienFixer(c, affiche);
-    return fichier ? fichiers::litSansLien(fichier->chemin, kTailleMaxApercu) : std::nullopt;
+    if (affiche.size() > static_cast<std::size_t>(kTailleMaxApercu)) return {};
+    return {affiche.erase(0, db::kTaillePrefixe), ""};
 }
 
-std::string valeurAffiche(const Contexte& c, int noeud) {
-    try {
-        vaSurLaLigne(c, noeud);
-        return c.base.liste.texte("Affiche");
-    } catch (const dao::ErreurDao&) {  // the film is gone, or the base
-        return {};
-    }
+bool estUnFilm(const Arbre& arbre, int noeud) {
+    return noeud >= 1 && noeud <= arbre.Count() && !arbre.estGroupe(noeud);
 }
 
 }  // namespace
@@ -89,26 +75,50 @@ PageDuGroupe pageDuGroupe(const EtatListe& liste) {
     const int groupe = groupeChoisi(liste.TreeView1);
     PageDuGroupe page;
     page.nom = groupe != 0 ? sansBlancDeTete(arbre.texteDuGroupe(groupe)) : nomDeLaListe(liste);
-    page.compte = util::phraseCompte(compteFilms(arbre, groupe), "# film", "# films");
-    ajoutePremiers(arbre, groupe, page.noeuds);
+    page.groupe = groupe;
+    page.films = compteFilms(arbre, groupe);
+    page.compte = util::phraseCompte(page.films, "# film", "# films");
     if (groupe != 0) page.renommage = renommageDe(liste.triDeLArbre);
     return page;
 }
 
-std::optional<std::string> afficheDuNoeud(const Contexte& c, int noeud) {
-    const Arbre& arbre = c.liste.TreeView1.Nodes;
-    if (noeud < 1 || noeud > arbre.Count() || arbre.estGroupe(noeud)) return std::nullopt;
-    return octets(c, valeurAffiche(c, noeud));
+SourceAffiche sourceDuNoeud(const Contexte& c, int noeud) {
+    if (!estUnFilm(c.liste.TreeView1.Nodes, noeud)) return {};
+    try {
+        vaSurLaLigne(c, noeud);
+        return source(c, c.base.liste.texte("Affiche"));
+    } catch (const dao::ErreurDao&) {  // the film is gone, or the base
+        return {};
+    }
 }
 
-std::optional<std::string> afficheDuFilm(const Contexte& c, const db::CleFilm& film, long rang) {
+SourceAffiche sourceDuFilm(const Contexte& c, const db::CleFilm& film, long rang) {
     try {
         dao::Recordset ligne = c.base.base.OpenRecordset(db::enonceFilm(film));
         for (; rang > 0 && !ligne.Eof(); --rang)
             ligne.MoveNext();
-        return ligne.Eof() ? std::nullopt : octets(c, ligne.texte("Affiche"));
+        return ligne.Eof() ? SourceAffiche() : source(c, ligne.texte("Affiche"));
     } catch (const dao::ErreurDao&) {
-        return std::nullopt;
+        return {};
+    }
+}
+
+std::optional<std::string> octetsDe(SourceAffiche source) {
+    if (!source.octets.empty()) return std::move(source.octets);
+    return source.fichier.empty() ? std::nullopt : fichiers::litSansLien(source.fichier, kTailleMaxApercu);
+}
+
+std::optional<std::string> afficheDuFilm(const Contexte& c, const db::CleFilm& film, long rang) {
+    return octetsDe(sourceDuFilm(c, film, rang));
+}
+
+LegendeFilm legendeDuNoeud(const Contexte& c, int noeud) {
+    if (!estUnFilm(c.liste.TreeView1.Nodes, noeud)) return {};
+    try {
+        vaSurLaLigne(c, noeud);
+        return {c.base.liste.texte("Realisateur"), c.base.liste.texte("Annee")};
+    } catch (const dao::ErreurDao&) {
+        return {};
     }
 }
 

@@ -1,5 +1,6 @@
 #include "ui/FenetrePrincipale.h"
 
+#include "app/Collection.h"
 #include "app/Commandes.h"
 #include "ui/BarreFonctions.h"
 #include "ui/Composition.h"
@@ -154,9 +155,15 @@ void FenetrePrincipale::suitLesCommandes() {
     m_atelier.commande.accompagne({[this] { m_atelier.session.vaCommencer(); },
                                    [this](const std::string& raison) { m_atelier.session.expliqueEchec(raison); }});
     connect(&m_atelier.commande, &Commande::terminee, this, &FenetrePrincipale::executeDemandes);
-    connect(m_liste->titres(), &VueTitres::menuDemande, this, [this](int indice, const QPoint& endroit) {
+    const auto menuDuNoeud = [this](int indice, const QPoint& endroit) {
         m_endroitMenu = endroit;
         m_atelier.execute(app::TreeView1_MouseUpDroit, indice);
+    };
+    connect(m_liste->titres(), &VueTitres::menuDemande, this, menuDuNoeud);
+    connect(m_page, &PageGroupe::menuDemande, this, menuDuNoeud);
+    connect(m_page, &PageGroupe::menuDuFilmDemande, this, [this](const db::CleFilm& film, const QPoint& endroit) {
+        m_endroitMenu = endroit;
+        m_atelier.execute(app::menuDuFilm, film);
     });
 }
 

@@ -1,41 +1,20 @@
 #include "ui/PageGroupe.h"
 
+#include "app/Collection.h"
 #include "app/Commandes.h"
 #include "browse/ListeVide.h"
 #include "edit/ModifieGroupe.h"
 #include "ui/Composition.h"
 #include "ui/FenetreApercu.h"
-#include "ui/Vignette.h"
+#include "ui/MurDAffiches.h"
 
-#include <QKeyEvent>
-#include <algorithm>
+#include <utility>
 
 namespace ui {
 
 namespace {
 
-constexpr int kEntreVignettes = 16;
-constexpr int kLargeurMax = 230, kLargeurMin = 84;  // of a poster; where fewer fit, fewer are shown
-constexpr int kReposDeLaTaille = 150;               // milliseconds after which posters are decoded at a new size
-constexpr int kPendantUneCommande = 50;             // milliseconds until the next try
-
-// So many posters in a place: as large as may be.
-struct Damier {
-    int colonnes = 1, largeur = 0;
-};
-
-Damier damierPour(int nombre, const QSize& place, const QFontMetrics& mesure) {
-    Damier meilleur;
-    for (int colonnes = 1; colonnes <= nombre; ++colonnes) {
-        const int rangees = (nombre + colonnes - 1) / colonnes;
-        const int enLargeur = (place.width() + kEntreVignettes) / colonnes - kEntreVignettes;
-        const int haute = (place.height() + kEntreVignettes) / rangees - kEntreVignettes;
-        const int enHauteur = (haute - Vignette::hauteurPour(0, mesure)) * 2 / 3;
-        const int largeur = std::min({enLargeur, enHauteur, kLargeurMax});
-        if (largeur >= meilleur.largeur) meilleur = {colonnes, largeur};
-    }
-    return meilleur;
-}
+constexpr int kPendantUneCommande = 50;  // milliseconds until the next try
 
 }  // namespace
 
@@ -46,7 +25,7 @@ PageGroupe::PageGroupe(const Atelier& atelier, QWidget* parent)
       m_compte(nomme((new Etiquette)->avecTon(Ton::Discret), "lblNombreGroupe")),
       m_apercu(bouton("cmdApercuGroupe", tr("Aperçu…"), tr("Voir d'abord ce qu'un autre nom changera"))),
       m_renommer(bouton("cmdRenommerGroupe", tr("Renommer…"), tr("Donner un autre nom à ce groupe de films"))),
-      m_mur(new QWidget) {
+      m_mur(nomme(new MurDAffiches(atelier), "MurDAffiches", tr("Affiches"))) {
     nomme(this, "framePageGroupe");
     auto* textes = colonne(2);
     textes->addWidget(m_nom);
@@ -55,17 +34,9 @@ PageGroupe::PageGroupe(const Atelier& atelier, QWidget* parent)
     entete->addLayout(textes, 1);
     entete->addWidget(m_apercu, 0, Qt::AlignVCenter);
     entete->addWidget(m_renommer, 0, Qt::AlignVCenter);
-    for (std::size_t i = 0; i < m_vignettes.size(); ++i) {
-        auto* vignette = m_vignettes[i] = nomme(new Vignette(m_mur), "cmdVignette", i);
-        vignette->hide();
-        vignette->installEventFilter(this);
-        connect(vignette, &QAbstractButton::clicked, this, [this, i] {
-            if (!m_perimee) m_atelier.execute(app::TreeView1_NodeClick, m_page.noeuds[i]);
-        });
-    }
-    entrePar(0);
-    auto* boite = colonne(kGrand);
-    boite->setContentsMargins(kPetit, kMoyen, kGrand, kMoyen);
+    auto* boite = colonne(kMoyen);
+    entete->setContentsMargins(MurDAffiches::kAuBord, 0, 0, 0);
+    boite->setContentsMargins(kPetit - MurDAffiches::kAuBord, kMoyen, kSerre, 0);
     boite->addLayout(entete);
     boite->addWidget(m_mur, 1);
     setLayout(boite);
@@ -74,8 +45,10 @@ PageGroupe::PageGroupe(const Atelier& atelier, QWidget* parent)
     connect(m_apercu, &QAbstractButton::clicked, this,
             [this] { ouvreApercuDuRenommage(m_atelier, this, m_page.renommage == browse::Renommage::Support); });
     connect(m_renommer, &QAbstractButton::clicked, this, &PageGroupe::renomme);
+    connect(m_mur, &MurDAffiches::choisie, this, &PageGroupe::choisit);
+    connect(m_mur, &MurDAffiches::menuDemande, this, &PageGroupe::demandeMenu);
     m_suite.setSingleShot(true);
-    connect(&m_suite, &QTimer::timeout, this, &PageGroupe::avance);
+    connect(&m_suite, &QTimer::timeout, this, &PageGroupe::metAJour);
     atelier.liaison.apresEcriture([this] { suis(); });
     hide();
 }
@@ -90,101 +63,82 @@ void PageGroupe::suis() {
         panneaux.frameCollection.Visible && etats.collection.page == app::PageDeCollection::Affiches;
     const bool accueil = panneaux.framePresentation.Visible && !browse::catalogueVide(etats.liste);
     const bool voulue = sousUneBande || accueil || collection;
-    const browse::VueArbre& vue = etats.liste.TreeView1;
-    if (voulue && std::exchange(m_vue, {vue.Nodes.generation(), vue.SelectedItem}) != m_vue) {
-        m_perimee = true;
-        m_suite.stop();  // until the list and this were painted
-        update();
-    }
+    m_rangeesVoulues = !sousUneBande;
+    if (voulue && origine() != m_origine) perime();
     setVisible(voulue);
 }
 
-void PageGroupe::metAJour() {
-    m_perimee = false;
-    const browse::EtatListe& liste = m_atelier.etats().liste;
-    const browse::Arbre& arbre = liste.TreeView1.Nodes;
-    browse::PageDuGroupe page = browse::pageDuGroupe(liste);
-    if (std::exchange(m_generation, arbre.generation()) == arbre.generation() && page == m_page) return;
-    m_page = std::move(page);
-    m_nom->setText(QString::fromStdString(m_page.nom));
-    m_compte->setText(QString::fromStdString(m_page.compte));
-    m_apercu->setVisible(m_page.renommage != browse::Renommage::Aucun);
-    m_renommer->setVisible(m_page.renommage != browse::Renommage::Aucun);
-    for (std::size_t i = 0; i < m_page.noeuds.size(); ++i) {
-        const std::string_view titre = arbre.Text(m_page.noeuds[i]);
-        m_vignettes[i]->metTitre(QString::fromUtf8(titre.data(), static_cast<qsizetype>(titre.size())).trimmed());
-    }
-    entrePar(0);
-    range();
-    recharge(0);
+PageGroupe::Origine PageGroupe::origine() const {
+    const browse::VueArbre& vue = m_atelier.etats().liste.TreeView1;
+    const int choisi = vue.SelectedItem;
+    const bool groupe = choisi >= 1 && choisi <= vue.Nodes.Count() && vue.Nodes.estGroupe(choisi);
+    return m_atelier.session.regarde([&](const app::Contexte& c) {
+        return Origine{vue.Nodes.generation(), groupe ? choisi : 0,   m_rangeesVoulues,
+                       c.chemins.base,         c.stockage.Text4.Text, c.base.base.changements()};
+    });
 }
 
-// What does not fit is left out, the last first.
-void PageGroupe::range() {
-    auto nombre = static_cast<int>(m_page.noeuds.size());
-    Damier damier = damierPour(nombre, m_mur->size(), m_mur->fontMetrics());
-    while (nombre > 1 && damier.largeur < kLargeurMin)
-        damier = damierPour(--nombre, m_mur->size(), m_mur->fontMetrics());
-    const int haute = Vignette::hauteurPour(damier.largeur, m_mur->fontMetrics());
-    for (int i = 0; i < static_cast<int>(m_vignettes.size()); ++i) {
-        Vignette* vignette = m_vignettes[static_cast<std::size_t>(i)];
-        vignette->setVisible(i < nombre && damier.largeur > 0);
-        vignette->setGeometry(i % damier.colonnes * (damier.largeur + kEntreVignettes),
-                              i / damier.colonnes * (haute + kEntreVignettes), damier.largeur, haute);
-    }
-}
-
-void PageGroupe::recharge(int apres) {
-    m_rang = 0;
-    m_suite.stop();
-    if (apres > 0) m_suite.start(apres);
+void PageGroupe::perime() {
+    m_perimee = true;
+    m_suite.stop();  // until the list and this were painted
     update();
 }
 
+void PageGroupe::metVues(std::optional<ensemble::LignesVues> vues) {
+    if (vues == m_vues) return;
+    m_vues = std::move(vues);
+    m_origine.generation = -1;
+    perime();
+}
+
 // Another command may be running: the base is its own then.
-void PageGroupe::avance() {
-    if (!isVisible()) return;
-    if (m_atelier.commande.enCours()) return m_suite.start(kPendantUneCommande);
-    if (m_perimee) return metAJour();
-    while (m_rang < m_page.noeuds.size() && m_vignettes[m_rang]->isHidden())
-        ++m_rang;
-    if (m_rang >= m_page.noeuds.size()) return;
-    const auto octets = m_atelier.session.regarde(browse::afficheDuNoeud, m_page.noeuds[m_rang]);
-    m_vignettes[m_rang++]->chargeAffiche(octets ? QByteArray::fromStdString(*octets) : QByteArray());
-    m_suite.start(0);
+void PageGroupe::metAJour() {
+    if (!isVisible() || !m_perimee) return;
+    if (m_atelier.commande.enCours() || m_atelier.commande.finie()) return m_suite.start(kPendantUneCommande);
+    m_perimee = false;
+    const browse::EtatListe& liste = m_atelier.etats().liste;
+    const Origine avant = std::exchange(m_origine, origine());
+    m_page = browse::pageDuGroupe(liste);
+    if (m_rangeesVoulues && (!m_rangeesDe || !m_rangeesDe->memesFilms(m_origine))) {
+        m_rangees = m_atelier.session.regarde(ensemble::rangeesDuMur);
+        m_rangeesDe = m_origine;
+    }
+    const bool rangees = m_rangeesVoulues && !m_vues && ensemble::peutAvoirDesRangees(liste, m_page);
+    ensemble::Mur mur = ensemble::murDAffiches(liste, m_page, m_vues ? &*m_vues : nullptr,
+                                               rangees ? m_rangees : std::vector<ensemble::RangeeDuMur>());
+    m_nom->setText(QString::fromStdString(m_page.nom));
+    m_compte->setText(QString::fromStdString(m_vues ? ensemble::compteDuMur(mur, m_page) : m_page.compte));
+    m_apercu->setVisible(m_page.renommage != browse::Renommage::Aucun);
+    m_renommer->setVisible(m_page.renommage != browse::Renommage::Aucun);
+    Contenu contenu{liste.triDeLArbre, liste.zoneDeLArbre, liste.critereRecherche,
+                    m_page.groupe == 0 ? "" : m_page.nom};
+    const bool memeContenu = std::exchange(m_contenu, contenu) == contenu;
+    if (!avant.memesFilms(m_origine)) m_mur->perime();
+    if (avant.generation != m_origine.generation || mur != m_mur->mur())
+        m_mur->montre(std::move(mur), memeContenu && !m_vues);
 }
 
 void PageGroupe::paintEvent(QPaintEvent*) {
-    if ((m_perimee || m_rang < m_page.noeuds.size()) && !m_suite.isActive()) m_suite.start(0);
+    if (m_perimee && !m_suite.isActive()) m_suite.start(0);
 }
 
-void PageGroupe::resizeEvent(QResizeEvent* evenement) {
-    QWidget::resizeEvent(evenement);
-    layout()->activate();
-    const int avant = m_vignettes[0]->width();
-    range();
-    if (m_vignettes[0]->width() != avant) recharge(kReposDeLaTaille);
+void PageGroupe::choisit(int tuile) {
+    if (m_perimee) return;  // the tiles are of before
+    const ensemble::Mur::Tuile choisie = m_mur->mur().tuiles[static_cast<std::size_t>(tuile)];
+    if (choisie.film < 0) {
+        m_atelier.execute(app::TreeView1_NodeClick, choisie.noeud);
+        return;
+    }
+    const ensemble::FilmDuMur film = m_mur->mur().films[static_cast<std::size_t>(choisie.film)];
+    m_atelier.execute(app::montreLeFilm, film.film);
 }
 
-// The posters are one stop of the focus; the arrows go from one to the next.
-void PageGroupe::entrePar(std::size_t rang) {
-    for (std::size_t i = 0; i < m_vignettes.size(); ++i)
-        m_vignettes[i]->setFocusPolicy(i == rang ? Qt::StrongFocus : Qt::ClickFocus);
-}
-
-bool PageGroupe::eventFilter(QObject* objet, QEvent* evenement) {
-    const auto ici = std::ranges::find(m_vignettes, objet);
-    if (ici == m_vignettes.end()) return QWidget::eventFilter(objet, evenement);
-    const auto rang = static_cast<std::size_t>(ici - m_vignettes.begin());
-    if (evenement->type() == QEvent::FocusIn) entrePar(rang);
-    if (evenement->type() != QEvent::KeyPress) return false;
-    const int touche = static_cast<QKeyEvent*>(evenement)->key();
-    const bool avance = touche == Qt::Key_Right || touche == Qt::Key_Down;
-    if (!avance && touche != Qt::Key_Left && touche != Qt::Key_Up) return false;
-    const std::size_t voisin = avance ? rang + 1 : rang - 1;
-    if (voisin < m_vignettes.size() && !m_vignettes[voisin]->isHidden())
-        m_vignettes[voisin]->setFocus(Qt::OtherFocusReason);
-    return true;
+void PageGroupe::demandeMenu(int tuile, const QPoint& endroit) {
+    if (m_perimee) return;
+    const ensemble::Mur::Tuile choisie = m_mur->mur().tuiles[static_cast<std::size_t>(tuile)];
+    if (choisie.film < 0) return emit menuDemande(choisie.noeud, endroit);
+    const ensemble::FilmDuMur film = m_mur->mur().films[static_cast<std::size_t>(choisie.film)];
+    emit menuDuFilmDemande(film.film, endroit);
 }
 
 void PageGroupe::renomme() const {

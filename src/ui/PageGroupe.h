@@ -1,51 +1,76 @@
 #pragma once
 
-#include "browse/PageDuGroupe.h"
+#include "ensemble/MurDAffiches.h"
 #include "ui/Atelier.h"
 
 #include <QTimer>
 #include <QWidget>
-#include <array>
+#include <optional>
+#include <string>
 
 class QPushButton;
 
 namespace ui {
 
 class Etiquette;
-class Vignette;
+class MurDAffiches;
 
-// What stands beside the list while no film is chosen: what it lists, how many films, and the posters of the first ones.
-// The list is painted first: the page follows it, then its posters, read one at a time between two events and decoded
-// aside.
+// What stands beside the list while no film is chosen, and on the page of posters of the collection: what the list holds,
+// how many films, and their wall of posters. The list is painted first: the page follows it.
 class PageGroupe final : public QWidget {
     Q_OBJECT
   public:
     explicit PageGroupe(const Atelier& atelier, QWidget* parent = nullptr);
 
+    // Only these rows of the listing are shown from now on; nothing: all of them. They hold for the tree as it is.
+    void metVues(std::optional<ensemble::LignesVues> vues);
+
+  signals:
+    // A right click on the tile of a node, or of a film that the tree need not have; the place is global.
+    void menuDemande(int indice, const QPoint& endroit);
+    void menuDuFilmDemande(const db::CleFilm& film, const QPoint& endroit);
+
   protected:
     void paintEvent(QPaintEvent* evenement) override;
-    void resizeEvent(QResizeEvent* evenement) override;
-    bool eventFilter(QObject* objet, QEvent* evenement) override;
 
   private:
+    // What the page was made from.
+    struct Origine {
+        int generation = -1, groupe = 0;
+        bool rangees = false;
+        std::string base, images;  // where it is, and its poster files
+        dao::Database::Changements changements;
+        [[nodiscard]] bool memesFilms(const Origine& autre) const {
+            return base == autre.base && images == autre.images && changements == autre.changements;
+        }
+        friend bool operator==(const Origine&, const Origine&) = default;
+    };
+    // What a list that is filled again is known by.
+    struct Contenu {
+        int tri = 0, zone = -1;
+        std::string critere, groupe;
+        friend bool operator==(const Contenu&, const Contenu&) = default;
+    };
     void suis();
     void metAJour();
-    void range();
-    void recharge(int apres);
-    void avance();
-    void entrePar(std::size_t rang);
+    [[nodiscard]] Origine origine() const;
+    void perime();
+    void choisit(int tuile);
+    void demandeMenu(int tuile, const QPoint& endroit);
     void renomme() const;
 
     const Atelier m_atelier;
     Etiquette *m_nom, *m_compte;
     QPushButton *m_apercu, *m_renommer;
-    QWidget* m_mur;
-    std::array<Vignette*, browse::kAffichesDeLaPage> m_vignettes{};
+    MurDAffiches* m_mur;
     browse::PageDuGroupe m_page;
-    int m_generation = -1;             // of the tree that the page was made from
-    std::pair<int, int> m_vue{-1, 0};  // of the tree as it is now, and its chosen node
-    bool m_perimee = false;            // the page is not theirs any more
-    std::size_t m_rang = 0;            // of the next poster to be read
+    std::optional<ensemble::LignesVues> m_vues;
+    std::vector<ensemble::RangeeDuMur> m_rangees;
+    std::optional<Origine> m_rangeesDe;  // what they were read from
+    Origine m_origine;
+    Contenu m_contenu;
+    bool m_perimee = false;  // the page is not theirs any more
+    bool m_rangeesVoulues = false;
     QTimer m_suite;
 };
 

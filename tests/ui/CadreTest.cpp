@@ -1,11 +1,16 @@
 #include "ProgrammeDEssai.h"
+#include "db/Affiches.h"
 #include "platform/fichiers/Fichiers.h"
 #include "ui/Mouvement.h"
-#include "ui/Vignette.h"
+#include "ui/MurDAffiches.h"
+#include "ui/PageGroupe.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QLineEdit>
+#include <QMenu>
 #include <QProgressBar>
+#include <QSettings>
 #include <tuple>
 
 namespace {
@@ -24,44 +29,115 @@ struct Cadre : testing::Test {
         essai.choisit("ChoixZone", 1);
         essai.choisit("ChoixTri", 4);
     }
-    [[nodiscard]] ui::Vignette& vignette(int rang) {
-        return essai.trouve<ui::Vignette>(("cmdVignette_" + std::to_string(rang)).c_str());
-    }
+    [[nodiscard]] ui::MurDAffiches& mur() { return essai.trouve<ui::MurDAffiches>("MurDAffiches"); }
+    [[nodiscard]] QRect place(int tuile) { return mur().visualRect(mur().model()->index(tuile, 0)); }
+    void clique(int tuile) { QTest::mouseClick(mur().viewport(), Qt::LeftButton, {}, place(tuile).center()); }
     // It follows the list once that was painted.
     [[nodiscard]] bool attendsLaPage(const std::string& nom) {
         return essais::attends([&] { return essai.texte("lblGroupe") == nom; });
     }
-    [[nodiscard]] QColor couleur(ui::Vignette& vignette) {
-        return vignette.grab().toImage().pixelColor(vignette.rect().center() * vignette.devicePixelRatio());
+    // Of the poster of a tile, once all that are in sight with it are there.
+    [[nodiscard]] QColor couleur(int tuile) {
+        mur().scrollTo(mur().model()->index(tuile, 0));
+        if (!essais::attends([&] { return mur().estComplet(); })) return {};
+        const QRect entiere = place(tuile);
+        const QImage image = mur().viewport()->grab().toImage();
+        return image.pixelColor((entiere.topLeft() + QPoint(entiere.width() / 2, entiere.width() / 2)) *
+                                image.devicePixelRatio());
     }
     [[nodiscard]] bool presse(const char* nom) { return essai.trouve<QAbstractButton>(nom).isChecked(); }
 };
 
-TEST_F(Cadre, AHeadingHasItsPageOfPostersThatLeadToTheirFilms) {
+TEST_F(Cadre, AHeadingHasItsWallOfPostersThatLeadToTheirFilms) {
     EXPECT_FALSE(essai.trouve("framePageGroupe").isVisible()) << "an empty base says how to begin";
     importe();
     ASSERT_TRUE(attendsLaPage("Tous les films"));
     EXPECT_EQ(essai.texte("lblNombreGroupe"), "3 films");
     EXPECT_FALSE(essai.trouve("cmdRenommerGroupe").isVisible());
-    ASSERT_TRUE(essais::attends([&] { return vignette(0).aUneAffiche() && vignette(1).aUneAffiche(); }));
+    ASSERT_TRUE(essais::attends([&] { return mur().mur().tuiles.size() == 9; })) << "added, to watch, and the listing";
+    EXPECT_GT(couleur(6).red(), 200) << "the tree's first";
 
     essai.cliqueTitre("Humour");
     ASSERT_TRUE(attendsLaPage("Humour"));
     EXPECT_TRUE(essai.trouve("framePresentation").isVisible());
-    ASSERT_TRUE(essais::attends([&] { return couleur(vignette(0)).green() > 100 && couleur(vignette(0)).red() < 40; }));
-    EXPECT_FALSE(vignette(1).aUneAffiche());
-    EXPECT_TRUE(vignette(2).isHidden());
+    EXPECT_GT(couleur(0).green(), 100);
+    EXPECT_LT(couleur(0).red(), 40);
+    EXPECT_FALSE(mur().aUneAffiche(1));
+    QAccessibleInterface* liste = QAccessible::queryAccessibleInterface(&mur());
+    ASSERT_TRUE(liste && liste->childCount() == 2);
+    EXPECT_EQ(liste->role(), QAccessible::List);
+    EXPECT_EQ(liste->child(1)->text(QAccessible::Name), "Trafic, de Jacques Tati, 2001");
     essai.boites.reponse = "Comédie";
     essai.clique("cmdRenommerGroupe");
     ASSERT_TRUE(attendsLaPage("Comédie"));
 
-    vignette(0).setFocus();
-    QTest::keyClick(&vignette(0), Qt::Key_Right);
-    EXPECT_TRUE(vignette(1).hasFocus());
-    QTest::keyClick(&vignette(1), Qt::Key_Return);
+    mur().setFocus();
+    QTest::keyClick(&mur(), Qt::Key_Right);
+    QTest::keyClicks(&mur(), "tra");
+    EXPECT_EQ(mur().currentIndex().row(), 1);
+    QTest::keyClick(&mur(), Qt::Key_Return);
     EXPECT_EQ(essai.texte("Label1_0"), "Trafic");
     EXPECT_EQ(essai.arbre().currentIndex().data().toString(), "Trafic");
     EXPECT_FALSE(essai.trouve("framePageGroupe").isVisible());
+}
+
+TEST_F(Cadre, TheWallFollowsWhatChangesAndDecodesNothingTwice) {
+    importe();
+    ASSERT_TRUE(attendsLaPage("Tous les films"));
+    ASSERT_TRUE(essais::attends([&] { return mur().mur().tuiles.size() == 9; }));
+    EXPECT_GT(couleur(6).red(), 200);
+    const long decodees = mur().chargeur().decodees();
+    EXPECT_EQ(decodees, 2) << "once for all the tiles of a film";
+    essai.choisit("ChoixTri", 1);
+    ASSERT_TRUE(essais::attends([&] { return mur().mur().sections.back().nombre == 3; }));
+    EXPECT_GT(couleur(6).red(), 200);
+    EXPECT_EQ(mur().chargeur().decodees(), decodees) << "another sort has the same posters";
+
+    essai.programme->commande().execute([&] {
+        essai.programme->session().regarde([](const app::Contexte& c) {
+            dao::Recordset film =
+                c.base.base.OpenRecordset("SELECT * FROM Films WHERE Titre = \"Avatar\" ORDER BY Titre ASC");
+            film.Edit();
+            film.assigne("Affiche", db::valeurAfficheDansLaBase(octetsDImage(Qt::blue)));
+            film.Update();
+        });
+    });
+    ASSERT_TRUE(essais::attends([&] { return couleur(6).blue() > 200; })) << "the poster of one film";
+    EXPECT_EQ(mur().chargeur().decodees(), decodees + 1) << "the others did not change";
+
+    const int avant = place(6).width();
+    QTest::keyClick(&essai.fenetre(), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_GT(place(6).width(), avant);
+    EXPECT_GT(couleur(6).blue(), 200);
+    EXPECT_EQ(QSettings(QString::fromStdString(essai.dossier.chemin("Interface.ini")), QSettings::IniFormat)
+                  .value("Affiches/Largeur"),
+              156);
+    QTest::keyClick(&essai.fenetre(), Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(place(6).width(), avant);
+}
+
+TEST_F(Cadre, TheWallShowsWhatAFilterLeavesAndAsksForTheMenuOfAFilm) {
+    importe();
+    ASSERT_TRUE(attendsLaPage("Tous les films"));
+    const browse::Arbre& arbre = essai.etats().liste.TreeView1.Nodes;
+    ensemble::LignesVues vues(3);
+    for (int noeud = 1; noeud <= arbre.Count(); ++noeud)
+        if (arbre.Text(noeud) == "Trafic") vues.ajoute(arbre.position(noeud));
+    auto& page = essai.trouve<ui::PageGroupe>("framePageGroupe");
+    page.metVues(vues);
+    ASSERT_TRUE(essais::attends([&] { return mur().mur().tuiles.size() == 1; }));
+    EXPECT_EQ(essai.texte("lblNombreGroupe"), "1 film sur 3");
+    QTest::mouseClick(mur().viewport(), Qt::RightButton, {}, place(0).center());
+    auto& menu = essai.trouve<QMenu>("MenuClicDroitFilm");
+    EXPECT_TRUE(menu.isVisible());
+    menu.close();
+    EXPECT_EQ(essai.texte("Label1_0"), "Trafic") << "as a right click in the tree";
+
+    essai.clique("cmdCollection");
+    page.metVues({});
+    ASSERT_TRUE(essais::attends([&] { return mur().mur().tuiles.size() == 9; }));
+    clique(0);
+    EXPECT_EQ(essai.texte("Label1_0"), "Trafic") << "the last one added";
 }
 
 TEST_F(Cadre, AnEmptyZoneSaysWhyAndOffersAllFilms) {

@@ -38,6 +38,11 @@ void JeuVivant::premier() {
 void JeuVivant::pas(long nombre) {
     const bool avant = nombre < 0;
     if (nombre == 0 || m_ou == (avant ? Ou::Avant : Ou::Apres)) return;
+    if (nombre > 1 && nombre > combien()) {  // past the end from wherever it is: no row has to be walked over
+        m_ou = Ou::Apres;
+        m_ligne = 0;
+        return;
+    }
     const auto depuis = m_ou == Ou::Dedans ? std::optional(m_ligne) : std::nullopt;
     const auto trouvee = rangee(depuis, avant ? -nombre : nombre, avant);
     m_ou = trouvee ? Ou::Dedans : avant ? Ou::Avant : Ou::Apres;

@@ -1,0 +1,213 @@
+#include "ensemble/MurDAffiches.h"
+
+#include "browse/ZonesEtTris.h"
+#include "platform/dao/Comparaison.h"
+#include "platform/dao/LigneSupprimee.h"
+#include "util/Nombres.h"
+#include "util/Repli.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+
+namespace ensemble {
+
+namespace {
+
+constexpr std::size_t kAuPlus = 40;  // films of a line: what the widest screen has room for
+constexpr int kBonneNote = 7;
+constexpr long kGrandCatalogue = 30'000;  // films, whose holdings take too long to be joined for a first page
+
+FilmDuMur litFilm(const dao::Recordset& ligne) {
+    return {{ligne.texte("Titre"), ligne.texte("Realisateur")}, ligne.texte("Annee")};
+}
+
+// A film owned twice stands once.
+void ajoute(std::vector<FilmDuMur>& films, FilmDuMur film) {
+    if (films.empty() || !(films.back() == film)) films.push_back(std::move(film));
+}
+
+// The last rows of the catalogue, the newest first: no film leaves its row.
+std::vector<FilmDuMur> derniersAjouts(const Contexte& c) {
+    std::vector<FilmDuMur> films;
+    dao::Recordset catalogue = c.base.base.OpenRecordset("Films");
+    const long nombre = std::min(catalogue.RecordCount(), static_cast<long>(kAuPlus));
+    catalogue.Move(std::numeric_limits<long>::max());
+    for (long i = 0; i < nombre; ++i) {
+        catalogue.Move(-1);
+        static_cast<void>(dao::siPresente([&] { ajoute(films, litFilm(catalogue)); }));
+    }
+    return films;
+}
+
+// So many records from there on, going round within [debut, fin).
+std::vector<FilmDuMur> lis(dao::Recordset& liste, long debut, long fin, long depuis) {
+    std::vector<FilmDuMur> films;
+    for (long i = 0; i < fin - debut && films.size() < kAuPlus; ++i) {
+        liste.MoveFirst();
+        liste.Move(debut + (depuis + i) % (fin - debut));
+        static_cast<void>(dao::siPresente([&] { ajoute(films, litFilm(liste)); }));
+    }
+    return films;
+}
+
+std::string enonce(std::string_view condition, std::string_view tri) {
+    return std::string("SELECT * ")
+        .append(browse::kJointure)
+        .append(" WHERE ")
+        .append(condition)
+        .append(" ORDER BY ")
+        .append(tri)
+        .append(" ASC, Titre2 ASC");
+}
+
+RangeeDuMur pretes(const Contexte& c) {
+    dao::Recordset liste = c.base.base.OpenRecordset(enonce(R"(Pret<>"")", "Pret"));
+    const long nombre = liste.RecordCount();
+    return {"Prêtés", util::phraseCompte(nombre, "# film", "# films"), lis(liste, 0, nombre, 0)};
+}
+
+int noteA(dao::Recordset& liste, long position) {
+    int note = 0;
+    liste.MoveFirst();
+    liste.Move(position);
+    static_cast<void>(dao::siPresente([&] { note = util::valEntier(liste.texte("Note")); }));
+    return note;
+}
+
+// Where the ratings begin that are at least so high, in a listing by rating.
+long premiereNote(dao::Recordset& liste, int note) {
+    long debut = 0, fin = liste.RecordCount();
+    while (debut < fin) {
+        const long milieu = debut + (fin - debut) / 2;
+        if (noteA(liste, milieu) < note)
+            debut = milieu + 1;
+        else
+            fin = milieu;
+    }
+    return debut;
+}
+
+// Another part of the listing each day.
+long depuisAujourdhui(const Contexte& c, long nombre) {
+    const auto jour = systeme::dateLue(c.horloge.dateDuJour(), systeme::ordreDesDates());
+    if (!jour || nombre == 0) return 0;
+    return std::chrono::sys_days(*jour).time_since_epoch().count() * static_cast<long>(kAuPlus / 2) % nombre;
+}
+
+RangeeDuMur aVoir(const Contexte& c) {
+    dao::Recordset liste = c.base.base.OpenRecordset(enonce(R"(Pret="")", "Note"));
+    const long notes = premiereNote(liste, 1), bonnes = premiereNote(liste, kBonneNote);
+    if (notes > 0)
+        return {"À voir", "possédés, non prêtés, pas encore notés", lis(liste, 0, notes, depuisAujourdhui(c, notes))};
+    const long nombre = liste.RecordCount() - bonnes;
+    return {"À voir", "possédés, non prêtés, les mieux notés",
+            lis(liste, bonnes, liste.RecordCount(), depuisAujourdhui(c, nombre))};
+}
+
+void ajouteLesFilms(const browse::Arbre& arbre, int groupe, const LignesVues* vues, Mur& mur) {
+    for (const std::int32_t noeud : arbre.enfants(groupe)) {
+        if (arbre.estGroupe(noeud) || (vues && !vues->contient(arbre.position(noeud)))) continue;
+        mur.tuiles.push_back({noeud, -1});
+        ++mur.sections.back().nombre;
+    }
+}
+
+void ajouteLaSection(const browse::Arbre& arbre, int groupe, bool nommee, const LignesVues* vues, Mur& mur) {
+    Mur::Section section;
+    if (nommee) {
+        const std::string_view texte = arbre.texteDuGroupe(groupe);
+        section.titre = texte.substr(std::min(texte.find_first_not_of(' '), texte.size()));
+    }
+    mur.sections.push_back(std::move(section));
+    ajouteLesFilms(arbre, groupe, vues, mur);
+    if (mur.sections.back().nombre == 0) return mur.sections.pop_back();
+    if (nommee) mur.sections.back().precision = util::phraseCompte(mur.sections.back().nombre, "# film", "# films");
+}
+
+void ajouteLaRangee(const RangeeDuMur& rangee, Mur& mur) {
+    mur.sections.push_back({rangee.titre, rangee.precision, static_cast<int>(rangee.films.size()), true});
+    for (const FilmDuMur& film : rangee.films) {
+        mur.tuiles.push_back({0, static_cast<std::int32_t>(mur.films.size())});
+        mur.films.push_back(film);
+    }
+}
+
+bool commencePar(std::string_view titre, std::string_view frappe, std::string& repli) {
+    constexpr std::size_t kOctetsParLettre = 4, kEnPlus = 16;
+    repli.clear();
+    util::ajouteRepli(titre.substr(0, kOctetsParLettre * frappe.size() + kEnPlus), repli);
+    const std::string_view texte = repli;
+    return texte.substr(std::min(texte.find_first_not_of(' '), texte.size())).starts_with(frappe);
+}
+
+}  // namespace
+
+std::vector<RangeeDuMur> rangeesDuMur(const Contexte& c) {
+    std::vector<RangeeDuMur> rangees;
+    const auto ajouteSiPleine = [&](RangeeDuMur rangee) {
+        if (!rangee.films.empty()) rangees.push_back(std::move(rangee));
+    };
+    try {
+        ajouteSiPleine({"Derniers ajouts", "", derniersAjouts(c)});
+        if (c.base.base.OpenRecordset("Films").RecordCount() > kGrandCatalogue) return rangees;
+        ajouteSiPleine(pretes(c));
+        ajouteSiPleine(aVoir(c));
+    } catch (const dao::ErreurDao&) {
+        return rangees;
+    }
+    return rangees;
+}
+
+bool peutAvoirDesRangees(const browse::EtatListe& liste, const browse::PageDuGroupe& page) {
+    const int zone = liste.zoneDeLArbre;
+    return page.groupe == 0 && page.films > 0 && (zone == browse::kZoneTous || zone == browse::kZoneMesFilms);
+}
+
+Mur murDAffiches(const browse::EtatListe& liste, const browse::PageDuGroupe& page, const LignesVues* vues,
+                 const std::vector<RangeeDuMur>& rangees) {
+    const browse::Arbre& arbre = liste.TreeView1.Nodes;
+    Mur mur;
+    for (const RangeeDuMur& rangee : rangees)
+        ajouteLaRangee(rangee, mur);
+    mur.tuiles.reserve(mur.tuiles.size() + static_cast<std::size_t>(page.films));
+    if (page.groupe != 0) {
+        ajouteLaSection(arbre, page.groupe, false, vues, mur);
+        return mur;
+    }
+    ajouteLaSection(arbre, 0, false, vues, mur);
+    if (!mur.sections.empty() && !rangees.empty() && !mur.sections.back().uneLigne)
+        mur.sections.back().titre = page.nom;
+    for (const std::int32_t racine : arbre.enfants(0))
+        if (arbre.estGroupe(racine)) ajouteLaSection(arbre, racine, true, vues, mur);
+    return mur;
+}
+
+std::string compteDuMur(const Mur& mur, const browse::PageDuGroupe& page) {
+    const auto films = std::count_if(mur.tuiles.begin(), mur.tuiles.end(), [](const auto& t) { return t.film < 0; });
+    return util::phraseCompte(films, "# film", "# films") + " sur " + std::to_string(page.films);
+}
+
+std::string nomDuFilm(std::string_view titre, std::string_view realisateur, std::string_view annee) {
+    std::string nom(titre);
+    if (!realisateur.empty()) nom.append(", de ").append(realisateur);
+    if (!annee.empty()) nom.append(", ").append(annee);
+    return nom;
+}
+
+int tuileQuiCommencePar(const Mur& mur, const browse::Arbre& arbre, std::string_view frappe, int depuis) {
+    std::string voulu, repli;
+    util::ajouteRepli(frappe, voulu);
+    const auto debut = std::find_if(mur.tuiles.begin(), mur.tuiles.end(), [](const auto& t) { return t.noeud != 0; });
+    const auto saut = debut - mur.tuiles.begin(), nombre = mur.tuiles.end() - debut;
+    if (voulu.empty() || nombre == 0) return -1;
+    const auto premier = std::max<std::ptrdiff_t>(0, depuis - saut);
+    for (std::ptrdiff_t pas = 0; pas < nombre; ++pas) {
+        const auto tuile = saut + (premier + pas) % nombre;
+        if (commencePar(arbre.Text(mur.tuiles[static_cast<std::size_t>(tuile)].noeud), voulu, repli))
+            return static_cast<int>(tuile);
+    }
+    return -1;
+}
+
+}  // namespace ensemble
