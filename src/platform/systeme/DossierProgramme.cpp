@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include <glib.h>
+#include <gio/gio.h>
 
 namespace systeme {
 
