@@ -253,18 +253,21 @@ void MurDAffiches::repeins(const QByteArray& film) {
 
 // ---- where it stands
 
+ensemble::PlanDuMur::Mesures MurDAffiches::mesures(int niveau) const {
+    const int barre = verticalScrollBar()->sizeHint().width();
+    return {.largeur = width() - barre - 2 * kAuBord,
+            .tuile = kLargeurs.at(static_cast<std::size_t>(std::max(0, niveau))),
+            .sousLAffiche = kSousLAffiche + fontMetrics().height(),
+            .espace = kEspace,
+            .entete = QFontMetrics(policeDEntete(font())).height() + kEspace};
+}
+
 void MurDAffiches::pose() {
     std::vector<ensemble::PlanDuMur::Section> sections;
     sections.reserve(m_mur.sections.size());
     for (const auto& section : m_mur.sections)
         sections.push_back({section.nombre, !section.titre.empty(), section.uneLigne});
-    const int barre = verticalScrollBar()->sizeHint().width();
-    m_plan = {sections,
-              {.largeur = width() - barre - 2 * kAuBord,
-               .tuile = kLargeurs.at(static_cast<std::size_t>(std::max(0, m_niveau))),
-               .sousLAffiche = kSousLAffiche + fontMetrics().height(),
-               .espace = kEspace,
-               .entete = QFontMetrics(policeDEntete(font())).height() + kEspace}};
+    m_plan = {sections, mesures(m_niveau)};
     updateGeometries();
     viewport()->update();
 }
@@ -338,8 +341,15 @@ void MurDAffiches::metNiveau(int niveau, std::optional<QPoint> sous) {
     replace(verticalOffset() == 0 && !sous ? -1 : ancre, hauteur);
 }
 
-void MurDAffiches::changeTaille(int pas) {
-    metNiveau(m_niveau + pas);
+// Tiles fill their line: a size at which they would be as wide as they are is passed over.
+void MurDAffiches::changeTaille(int pas, std::optional<QPoint> sous) {
+    int niveau = m_niveau + pas;
+    const auto memeLargeur = [this](int autre) {
+        return ensemble::PlanDuMur({}, mesures(autre)).largeurDeTuile() == m_plan.largeurDeTuile();
+    };
+    while (niveau > 0 && niveau + 1 < static_cast<int>(kLargeurs.size()) && memeLargeur(niveau))
+        niveau += pas;
+    metNiveau(niveau, sous);
 }
 
 void MurDAffiches::tailleParDefaut() {
@@ -433,11 +443,10 @@ void MurDAffiches::peintTuile(QPainter& peintre, int tuile) const {
         place = QRect(QPoint(place.x() + (place.width() - taille.width()) / 2, place.bottom() + 1 - taille.height()),
                       taille);
         peintre.drawPixmap(place, *image);
+    } else if (image) {
+        peintAfficheDessinee(peintre, place, tuile, *connue);
     } else {
-        peintre.setRenderHint(QPainter::Antialiasing);
-        peintSurface(peintre, QRectF(place), surfaceDeCarte(palette()), filet(palette()));
-        if (image) peintAfficheDessinee(peintre, place, tuile, *connue);
-        peintre.setRenderHint(QPainter::Antialiasing, false);
+        peintSurface(peintre, QRectF(place), voile(palette()), {});  // not known yet
     }
     const bool courante = hasFocus() && currentIndex().row() == tuile;
     const bool sous = viewport()->underMouse() && entiere.contains(viewport()->mapFromGlobal(QCursor::pos()));
@@ -452,8 +461,10 @@ void MurDAffiches::peintTuile(QPainter& peintre, int tuile) const {
 }
 
 void MurDAffiches::peintAfficheDessinee(QPainter& peintre, const QRect& place, int tuile, const Legende& l) const {
-    const int marge = std::max(6, place.width() / 12);
-    QRect dedans = place.adjusted(marge, marge + place.height() / 10, -marge, -marge);
+    peintAfficheVierge(peintre, place, palette());
+    const QColor fond = palette().color(QPalette::Window), teinte = accent(palette());
+    const int marge = std::max(6, place.width() / 12), ligne = fontMetrics().height();
+    QRect dedans = place.adjusted(marge, marge + place.height() / 14, -marge, -marge);
     QFont police = font();
     police.setWeight(QFont::DemiBold);
     if (place.width() >= kLargeurs[4]) police.setPointSizeF(police.pointSizeF() * 1.2);
@@ -461,12 +472,15 @@ void MurDAffiches::peintAfficheDessinee(QPainter& peintre, const QRect& place, i
     peintre.setPen(palette().color(QPalette::WindowText));
     dedans.setTop(dedans.top() + dessineLignes(peintre, dedans, titre(tuile), 4) + marge / 2);
     peintre.setFont(font());
-    peintre.setPen(texteDiscret(palette()));
+    peintre.setPen(lisible(texteDiscret(palette()), {melange(teinte, fond, 0.26), melange(teinte, fond, 0.10)}));
     dedans.setTop(dedans.top() + dessineLignes(peintre, dedans, l.realisateur, 2));
-    const int ligne = fontMetrics().height();
-    peintre.drawText(QRect(dedans.x(), dedans.bottom() - ligne, dedans.width(), ligne),
-                     Qt::AlignHCenter | Qt::AlignBottom,
+    peintre.drawText(QRect(dedans.x(), dedans.bottom() + 1 - ligne, dedans.width(), ligne), Qt::AlignCenter,
                      fontMetrics().elidedText(l.annee, Qt::ElideRight, dedans.width()));
+    const qreal cote = std::min(place.width() * 0.3, dedans.height() - ligne - marge - 0.0);
+    if (cote < 20) return;
+    const QPointF milieu(dedans.center().x(), dedans.top() + (dedans.height() - ligne) / 2.0);
+    peintPictogramme(peintre, QRectF(milieu.x() - cote / 2, milieu.y() - cote / 2, cote, cote), Pictogramme::Clap,
+                     melange(teinte, fond, 0.55));
 }
 
 // ---- gestures
@@ -537,7 +551,7 @@ void MurDAffiches::keyPressEvent(QKeyEvent* evenement) {
 void MurDAffiches::wheelEvent(QWheelEvent* evenement) {
     if (!(evenement->modifiers() & Qt::ControlModifier)) return QAbstractScrollArea::wheelEvent(evenement);
     if (const int cran = evenement->angleDelta().y(); cran != 0)
-        metNiveau(m_niveau + (cran > 0 ? 1 : -1), evenement->position().toPoint());
+        changeTaille(cran > 0 ? 1 : -1, evenement->position().toPoint());
     evenement->accept();
 }
 

@@ -39,7 +39,8 @@ class MurDAffiches final : public QListView {
     [[nodiscard]] QString nom(int tuile) const;  // "Alien, de Ridley Scott, 1979"
     [[nodiscard]] QString titre(int tuile) const;
 
-    void changeTaille(int pas);  // so many steps larger, or smaller
+    // A step larger, or smaller (-1); the tile at that place of the viewport stays there.
+    void changeTaille(int pas, std::optional<QPoint> sous = {});
     void tailleParDefaut();
 
     QRect visualRect(const QModelIndex& index) const override;
@@ -80,6 +81,7 @@ class MurDAffiches final : public QListView {
         QByteArray film;  // what its poster is kept under
     };
     void replace(int ancre, int hauteurDeLAncre);
+    [[nodiscard]] ensemble::PlanDuMur::Mesures mesures(int niveau) const;
     void pose();
     void metNiveau(int niveau, std::optional<QPoint> sous = {});
     void reprends(int apres = 0);

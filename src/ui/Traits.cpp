@@ -66,6 +66,19 @@ void peintChevron(QPainter& peintre, const QRectF& zone, qreal angle, const QCol
     peintre.restore();
 }
 
+void peintAfficheVierge(QPainter& peintre, const QRectF& zone, const QPalette& palette) {
+    const QColor fond = palette.color(QPalette::Window), teinte = accent(palette);
+    QLinearGradient lumiere(zone.topLeft(), zone.bottomLeft());
+    lumiere.setColorAt(0, melange(teinte, fond, 0.26));
+    lumiere.setColorAt(1, melange(teinte, fond, 0.10));
+    peintre.save();
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.setPen(QPen(melange(teinte, fond, 0.40), 1));
+    peintre.setBrush(lumiere);
+    peintre.drawRoundedRect(demiPixel(zone), kRayon, kRayon);
+    peintre.restore();
+}
+
 void peintCase(QPainter& peintre, const QStyleOption& option) {
     const Habit habit = habitDeMarque(option);
     const QRectF zone = option.rect;

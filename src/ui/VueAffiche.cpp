@@ -187,18 +187,11 @@ void CadreAffiche::mouseReleaseEvent(QMouseEvent* evenement) {
         emit statutClique();
 }
 
-// A sheet tinted with the accent colour, lit from above.
 void CadreAffiche::paintEvent(QPaintEvent*) {
     if (!m_image->isHidden()) return;
     QPainter peintre(this);
-    peintre.setRenderHint(QPainter::Antialiasing);
+    peintAfficheVierge(peintre, rect(), palette());
     const QColor fond = palette().color(QPalette::Window), teinte = accent(palette());
-    QLinearGradient lumiere(0, 0, 0, height());
-    lumiere.setColorAt(0, melange(teinte, fond, 0.26));
-    lumiere.setColorAt(1, melange(teinte, fond, 0.10));
-    peintre.setPen(QPen(melange(teinte, fond, 0.40), 1));
-    peintre.setBrush(lumiere);
-    peintre.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRayon, kRayon);
     if (m_clap.width() >= 20) peintPictogramme(peintre, m_clap, Pictogramme::Clap, melange(teinte, fond, 0.55));
     if (hasFocus()) peintContourDeFocus(peintre, rect(), accent(palette()));
 }
