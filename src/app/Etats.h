@@ -11,6 +11,7 @@
 #include "db/EtatTravaux.h"
 #include "edit/EtatAjout.h"
 #include "edit/EtatMultiSuppression.h"
+#include "ensemble/EtatFiltre.h"
 #include "export/EtatNom.h"
 #include "platform/ecran/Avis.h"
 #include "platform/ecran/Ecran.h"
@@ -34,6 +35,7 @@ struct Etats {
     edit::EtatAjout ajout;
     edit::EtatMultiSuppression multiSuppression;
     EtatFonctions fonctions;
+    ensemble::EtatFiltre filtre;
     EtatAnnulation annulation;
     view::EtatAffiche affiche;
     view::EtatFichiers fichiers;

@@ -4,8 +4,8 @@
 
 namespace ui {
 
-// Paints a row of the title tree: headings in semibold with the number of their films, films plainly; what does not fit
-// is elided and told by a tool tip.
+// Paints a row of the title tree: headings in semibold with the number of their films, films plainly with the letters that
+// the filter found; what does not fit is elided and told by a tool tip.
 class DelegueTitres final : public QStyledItemDelegate {
     Q_OBJECT
   public:

@@ -1,12 +1,14 @@
 #include "ui/PanneauListe.h"
 
 #include "app/Commandes.h"
+#include "app/Filtre.h"
 #include "browse/AfficheTitres.h"
 #include "browse/ChoixTri.h"
 #include "browse/ChoixZone.h"
 #include "browse/ListeVide.h"
 #include "ui/Boutons.h"
 #include "ui/Cartes.h"
+#include "ui/ChampFiltre.h"
 #include "ui/Composition.h"
 
 #include <QVBoxLayout>
@@ -60,6 +62,7 @@ QWidget* PanneauListe::cadreTitres() {
     auto* titre = (new Etiquette)->avecPolice(1.08, QFont::DemiBold);
     connect(cadre, &QWidget::windowTitleChanged, titre, &QLabel::setText);
     m_titres = nomme(new VueTitres(liste.TreeView1), "TreeView1", tr("Liste des titres"));
+    m_filtre = new ChampFiltre(m_atelier, *m_titres);
     auto* statistiques =
         nomme(new Bascule(tr("Afficher des &statistiques lors du tri par catégorie"), QStringLiteral("%")), "AffStats");
     statistiques->setToolTip(
@@ -67,19 +70,25 @@ QWidget* PanneauListe::cadreTitres() {
            "la part des films que contient chaque catégorie (Alt+S)"));
     m_atelier.liaison.lie(liste.AffStats, statistiques);
     m_atelier.auClic(statistiques, browse::AffStats_Click);
-    auto* entete = rangee({titre});
+    // How many titles the filter leaves stands where all of them are told.
+    auto* entete = rangee({titre, m_filtre->compte()}, 0);
     entete->setStretch(0, 1);
+    entete->setStretch(1, 1);
     entete->addWidget(statistiques);
     auto* titres = new QGridLayout;
     titres->setContentsMargins(0, 0, 0, 0);
     titres->addWidget(m_titres, 0, 0);
     titres->addWidget(raisonDuVide(), 0, 0);
+    titres->addWidget(filtreVide(), 0, 0);
     auto* boite = colonne(kSerre);
     boite->addLayout(entete);
+    boite->addWidget(m_filtre);
     boite->addLayout(titres, 1);
     cadre->setLayout(boite);
     m_atelier.liaison.lie(liste.Frame1, cadre);
     m_atelier.liaison.ajoute(m_titres->lien(liste));
+    m_atelier.liaison.apresEcriture([=, this] { titre->setVisible(m_filtre->compte()->isHidden()); });
+    QWidget::setTabOrder(m_filtre, m_titres);
     return cadre;
 }
 
@@ -94,6 +103,32 @@ QWidget* PanneauListe::comptes() {
     auto* cadre = new QWidget;
     cadre->setLayout(rangee({titres, personnels}, kGrand));
     cadre->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    return cadre;
+}
+
+void PanneauListe::montreSeulement(const std::vector<std::uint32_t>& lignes, const QString& libelle) {
+    m_filtre->montreSeulement(lignes, libelle);
+}
+
+QWidget* PanneauListe::filtreVide() {
+    auto* texte = nomme((new Etiquette)->avecTon(Ton::Discret)->avecLignes(8), "lblFiltreVide");
+    texte->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    auto* tout = bouton<BoutonLien>("cmdToutAfficher", tr("Tout afficher"), tr("Vider le filtre (Échap)"));
+    connect(tout, &QAbstractButton::clicked, m_filtre, &ChampFiltre::montreTout);
+    auto* boite = colonne(kMoyen);
+    boite->setContentsMargins(kLarge, kLarge, kLarge, kLarge);
+    boite->addWidget(texte);
+    boite->addWidget(tout, 0, Qt::AlignHCenter);
+    boite->addStretch();
+    auto* cadre = new QWidget;
+    cadre->setLayout(boite);
+    cadre->hide();
+    m_atelier.liaison.apresEcriture([=, this] {
+        const app::Etats& etats = m_atelier.etats();
+        const ModeleArbre& modele = m_titres->modele();
+        cadre->setVisible(modele.estFiltre() && modele.rowCount() == 0 && etats.liste.TreeView1.Nodes.Count() > 0);
+        if (cadre->isVisibleTo(this)) texte->setText(QString::fromStdString(app::raisonDuFiltreVide(etats.filtre)));
+    });
     return cadre;
 }
 

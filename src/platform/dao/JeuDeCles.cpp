@@ -39,7 +39,7 @@ void JeuDeCles::pas(long nombre) {
 }
 
 const long long* JeuDeCles::ligne(RangTable table) {
-    const RangLigne rang = place(table);
+    const RangLigne rang = ligneGardee(table);
     return rang == kSansLigne ? nullptr : &m_resultat.magasins[table].id(rang);
 }
 
@@ -56,7 +56,7 @@ void JeuDeCles::exigePresent() {
 std::optional<ValeurVue> JeuDeCles::gardee(ChampDeJeu champ) {
     const Gardees& gardees = m_gardees[champ.table];
     const auto rang = gardees.rangs[champ.colonne];
-    const RangLigne ou = place(champ.table);
+    const RangLigne ou = ligneGardee(champ.table);
     if (!rang || static_cast<std::size_t>(ou) >= gardees.lignes) return std::nullopt;
     const Magasin& magasin = m_resultat.magasins[champ.table];
     if (!m_fige &&
