@@ -35,8 +35,7 @@ std::string raisonDuFiltreVide(const ensemble::EtatFiltre& filtre) {
     const std::string cite = "« " + filtre.saisie + " »", limite = "« " + filtre.libelle + " »";
     if (filtre.saisie.empty()) return "Aucun film de " + limite + " n’est dans cette liste.";
     return (filtre.titres.estLimite() ? "Aucun film de " + limite : std::string("Aucun film de cette liste")) +
-           " ne contient " + cite +
-           ".\n\nChaque mot est cherché dans le titre, le réalisateur, l’année, le genre et les acteurs.";
+           " ne contient " + cite + ".";
 }
 
 bool prepareLeFiltre(const Contexte& c, std::chrono::milliseconds duree) {

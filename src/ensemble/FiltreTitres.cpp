@@ -1,6 +1,7 @@
 #include "ensemble/FiltreTitres.h"
 
 #include "platform/dao/LigneSupprimee.h"
+#include "platform/dao/PlaceGardee.h"
 #include "util/Ascii.h"
 #include "util/Nombres.h"
 #include "util/Repli.h"
@@ -49,27 +50,6 @@ std::string cleDeLaLigne(const dao::Recordset& liste, dao::Colonne titre, dao::C
     std::string cle(liste.vue(titre));
     return (cle += kEntreChamps).append(liste.vue(realisateur));
 }
-
-// A command may be in the middle of a walk while it lets the window paint.
-class RecordGarde {
-  public:
-    explicit RecordGarde(dao::Recordset& liste)
-        : m_liste(liste), m_place(liste.Eof() ? liste.RecordCount() : liste.AbsolutePosition()) {}
-    RecordGarde(const RecordGarde&) = delete;
-    RecordGarde& operator=(const RecordGarde&) = delete;
-    ~RecordGarde() {
-        if (m_place < 0) return;  // a table's
-        try {
-            m_liste.MoveFirst();
-            m_liste.Move(m_place);
-        } catch (const dao::ErreurDao&) {  // the base is gone: the next call says so
-        }
-    }
-
-  private:
-    dao::Recordset& m_liste;
-    const long m_place;
-};
 
 }  // namespace
 
@@ -131,7 +111,7 @@ LignesVues FiltreTitres::lignesLimitees(const Contexte& c) const {
     LignesVues lignes(m_lignes);
     if (m_lignes == 0) return lignes;
     dao::Recordset& liste = c.base.liste;
-    const RecordGarde garde(liste);
+    const dao::PlaceGardee garde(liste);
     liste.MoveFirst();
     for (std::uint32_t position = 1; position <= m_lignes; ++position, liste.MoveNext())
         dao::siPresente([&] {
@@ -156,7 +136,7 @@ void FiltreTitres::lit(const Contexte& c, std::size_t lignes) {
     dao::Recordset& liste = c.base.liste;
     const std::size_t fin = std::min(m_lignes, lues() + lignes);
     if (lues() == fin) return;
-    const RecordGarde garde(liste);
+    const dao::PlaceGardee garde(liste);
     liste.MoveFirst();
     liste.Move(static_cast<long>(lues()));
     for (; lues() < fin; liste.MoveNext())
@@ -218,7 +198,7 @@ void FiltreTitres::limite(const Contexte& c, const std::vector<std::uint32_t>& l
     m_perimees = true;
     if (m_lignes == 0) return;
     dao::Recordset& liste = c.base.liste;
-    const RecordGarde garde(liste);
+    const dao::PlaceGardee garde(liste);
     for (const std::uint32_t position : lignes) {
         if (position < 1 || position > m_lignes) continue;
         m_limite->ajoute(position);

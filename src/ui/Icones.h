@@ -22,6 +22,9 @@ enum class Pictogramme {
     Film,
     Annule,
     Retablit,
+    Possede,
+    Prete,
+    Reserve,
     MovieCovers  // a logo: filled, and always in the accent colour
 };
 

@@ -123,9 +123,24 @@ QVariant ModeleArbre::data(const QModelIndex& index, int role) const {
             return arbre.estGroupe(indice);
         case NombreDEnfants:
             return rowCount(index);
+        default:
+            return arbre.estGroupe(indice) ? QVariant() : duFilm(indice, role);
+    }
+}
+
+QVariant ModeleArbre::duFilm(int indice, int role) const {
+    const auto titre = [&] { return debutDuTexte(m_etat.Nodes.Text(indice)).trimmed(); };
+    switch (role) {
         case Lettres:
-            if (!m_vus || !m_lettres || arbre.estGroupe(indice)) return {};
-            return QVariant::fromValue(m_lettres(debutDuTexte(arbre.Text(indice)).trimmed()));
+            return m_vus && m_lettres ? QVariant::fromValue(m_lettres(titre())) : QVariant();
+        case Marques:
+            return m_marques ? QVariant::fromValue(m_marques(indice)) : QVariant();
+        case Qt::ToolTipRole:
+            return m_infobulle ? m_infobulle(indice) : QVariant();
+        case Qt::AccessibleTextRole: {
+            const std::string marques = m_marques ? browse::texteDesMarques(m_marques(indice)) : "";
+            return marques.empty() ? titre() : titre() + QStringLiteral(", ") + QString::fromStdString(marques);
+        }
         default:
             return {};
     }

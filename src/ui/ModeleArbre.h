@@ -1,6 +1,7 @@
 #pragma once
 
 #include "browse/EtatListe.h"
+#include "browse/MarquesFilm.h"
 
 #include <QAbstractItemModel>
 #include <functional>
@@ -18,7 +19,7 @@ using Noeuds = std::optional<std::vector<std::int32_t>>;
 class ModeleArbre final : public QAbstractItemModel {
     Q_OBJECT
   public:
-    enum Role { EstGroupe = Qt::UserRole, NombreDEnfants, Lettres };
+    enum Role { EstGroupe = Qt::UserRole, NombreDEnfants, Lettres, Marques };  // the last: a browse::MarquesFilm
     // Letters to be marked in a row's text without the blanks around it: where they begin, and their number.
     using Plages = QList<std::pair<qsizetype, qsizetype>>;
 
@@ -29,7 +30,12 @@ class ModeleArbre final : public QAbstractItemModel {
     void coches();
     void textes();  // those of the headings
     [[nodiscard]] browse::VueArbre& etat() const { return m_etat; }
+    // What is asked of a film when its row is painted or read out.
     void marquePar(std::function<Plages(const QString& titre)> lettres) { m_lettres = std::move(lettres); }
+    void regardePar(std::function<browse::MarquesFilm(int)> marques, std::function<QString(int)> infobulle) {
+        m_marques = std::move(marques);
+        m_infobulle = std::move(infobulle);
+    }
 
     [[nodiscard]] bool estFiltre() const { return m_vus.has_value(); }
     [[nodiscard]] bool estVu(int indice) const;
@@ -53,10 +59,13 @@ class ModeleArbre final : public QAbstractItemModel {
   private:
     [[nodiscard]] std::span<const std::int32_t> enfants(int indice) const;
     [[nodiscard]] int rang(int indice) const;
+    [[nodiscard]] QVariant duFilm(int indice, int role) const;
     void numerote();
 
     browse::VueArbre& m_etat;
     std::function<Plages(const QString&)> m_lettres;
+    std::function<browse::MarquesFilm(int)> m_marques;
+    std::function<QString(int)> m_infobulle;
     Noeuds m_vus;
     // Of those: the ones at the root, with the place of the first of their films in m_vus, and each node's row; -1 is hidden.
     std::vector<std::int32_t> m_racines;

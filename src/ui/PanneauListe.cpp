@@ -6,6 +6,7 @@
 #include "browse/ChoixTri.h"
 #include "browse/ChoixZone.h"
 #include "browse/ListeVide.h"
+#include "browse/MarquesFilm.h"
 #include "ui/Boutons.h"
 #include "ui/Cartes.h"
 #include "ui/ChampFiltre.h"
@@ -17,7 +18,9 @@ namespace ui {
 
 namespace {
 
-constexpr int kDeuxListes = 280;  // the width from which zone and sort stand side by side
+constexpr std::chrono::milliseconds kTranche{4};  // of idle time
+constexpr int kApresLaPeinture = 100;             // milliseconds: what is behind the first page comes first
+constexpr int kDeuxListes = 280;                  // the width from which zone and sort stand side by side
 
 }  // namespace
 
@@ -28,6 +31,7 @@ PanneauListe::PanneauListe(const Atelier& atelier, QWidget* parent) : QWidget(pa
     boite->addWidget(choix());
     boite->addWidget(cadreTitres(), 1);
     suisLesGestes();
+    suisLesMarques();
 }
 
 QWidget* PanneauListe::choix() {
@@ -111,14 +115,20 @@ void PanneauListe::montreSeulement(const std::vector<std::uint32_t>& lignes, con
 }
 
 QWidget* PanneauListe::filtreVide() {
-    auto* texte = nomme((new Etiquette)->avecTon(Ton::Discret)->avecLignes(8), "lblFiltreVide");
-    texte->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    auto* texte = nomme((new Etiquette)->avecTon(Ton::Discret)->avecLignes(4), "lblFiltreVide");
+    auto* aide = (new Etiquette(tr("Chaque mot est cherché dans le titre, le réalisateur, l’année, le genre et les "
+                                   "acteurs.")))
+                     ->avecTon(Ton::Discret)
+                     ->avecLignes(5);
+    for (Etiquette* etiquette : {texte, aide})
+        etiquette->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     auto* tout = bouton<BoutonLien>("cmdToutAfficher", tr("Tout afficher"), tr("Vider le filtre (Échap)"));
     connect(tout, &QAbstractButton::clicked, m_filtre, &ChampFiltre::montreTout);
     auto* boite = colonne(kMoyen);
     boite->setContentsMargins(kLarge, kLarge, kLarge, kLarge);
     boite->addWidget(texte);
     boite->addWidget(tout, 0, Qt::AlignHCenter);
+    boite->addWidget(aide);
     boite->addStretch();
     auto* cadre = new QWidget;
     cadre->setLayout(boite);
@@ -166,6 +176,28 @@ void PanneauListe::suisLesGestes() {
             m_atelier.session.execute(app::TreeView1_NodeCheck, indice, cochee);
         });
     });
+}
+
+// What the films' rows show is read once the list was painted, and again after a command that changed it.
+void PanneauListe::suisLesMarques() {
+    const app::Session& session = m_atelier.session;
+    m_titres->modele().regardePar(
+        [&session](int noeud) { return session.regarde(browse::marquesDuNoeud, noeud); },
+        [&session](int noeud) { return QString::fromStdString(session.regarde(browse::infobulleDuNoeud, noeud)); });
+    m_marques.setSingleShot(true);
+    connect(&m_marques, &QTimer::timeout, this, &PanneauListe::prepareLesMarques);
+    connect(m_titres, &VueTitres::peinte, this, [this] {
+        m_marques.start(kApresLaPeinture);
+        connect(&m_atelier.commande, &Commande::terminee, &m_marques, [this] { m_marques.start(0); });
+    });
+}
+
+void PanneauListe::prepareLesMarques() {
+    if (m_atelier.commande.enCours()) return;  // its end comes here again
+    if (m_atelier.session.regarde(browse::suisLesMarques, kTranche))
+        m_titres->viewport()->update();
+    else
+        m_marques.start(0);
 }
 
 }  // namespace ui

@@ -3,6 +3,7 @@
 #include "ui/Atelier.h"
 #include "ui/VueTitres.h"
 
+#include <QTimer>
 #include <QWidget>
 #include <cstdint>
 #include <vector>
@@ -27,10 +28,13 @@ class PanneauListe final : public QWidget {
     [[nodiscard]] QWidget* raisonDuVide();
     [[nodiscard]] QWidget* filtreVide();
     void suisLesGestes();
+    void suisLesMarques();
+    void prepareLesMarques();
 
     const Atelier m_atelier;
     VueTitres* m_titres = nullptr;
     ChampFiltre* m_filtre = nullptr;
+    QTimer m_marques;
 };
 
 }  // namespace ui

@@ -85,11 +85,12 @@ bool JeuDeCles::litVue(ChampDeJeu champ, std::string_view& texte) {
 }
 
 void JeuDeCles::vaParcourir(ChampDeJeu champ) {
-    m_avances[champ.table].demande(champ.colonne);
+    if (!m_gardees[champ.table].rangs[champ.colonne]) m_avances[champ.table].demande(champ.colonne);
 }
 
 bool JeuDeCles::litDAvance(ChampDeJeu champ, std::string_view& texte) {
     LectureDAvance& avance = m_avances[champ.table];
+    avance.demande(champ.colonne);  // one that is kept, and was changed
     Connexion& base = connexion();
     const Table& lue = table(champ.table);
     const long long id = *ligne(champ.table);
