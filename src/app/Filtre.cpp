@@ -3,21 +3,15 @@
 #include "edit/cmdSupprTitresSelect_Click.h"
 
 #include <algorithm>
+#include <new>
 
 namespace app {
 
 namespace {
 
-std::optional<std::vector<std::int32_t>> filtreLaListe(const Contexte& c) {
-    ensemble::EtatFiltre& filtre = c.etats.filtre;
-    filtre.echec.clear();
+std::optional<std::vector<std::int32_t>> filtreLaListe(const Contexte& c, ensemble::EtatFiltre& filtre) {
     if (filtre.saisie.empty() && !filtre.titres.actif()) return std::nullopt;
-    try {
-        filtre.titres.filtre(c, filtre.saisie);
-    } catch (const dao::ErreurDao& erreur) {
-        filtre.echec = erreur.description;
-        return std::nullopt;
-    }
+    filtre.titres.filtre(c, filtre.saisie);
     if (!filtre.titres.estLimite()) filtre.libelle.clear();
     if (!filtre.titres.actif()) return std::nullopt;
     return filtre.titres.noeudsVus(c.liste.TreeView1.Nodes);
@@ -26,7 +20,17 @@ std::optional<std::vector<std::int32_t>> filtreLaListe(const Contexte& c) {
 }  // namespace
 
 std::optional<std::vector<std::int32_t>> noeudsFiltres(const Contexte& c) {
-    auto noeuds = filtreLaListe(c);
+    ensemble::EtatFiltre& filtre = c.etats.filtre;
+    std::optional<std::vector<std::int32_t>> noeuds;
+    filtre.echec.clear();
+    try {
+        noeuds = filtreLaListe(c, filtre);
+    } catch (const dao::ErreurDao& erreur) {
+        filtre.echec = erreur.description;
+    } catch (const std::bad_alloc&) {
+        filtre.titres = {};
+        filtre.echec = "la mémoire manque.";
+    }
     montreCoches(c);
     return noeuds;
 }
@@ -42,6 +46,9 @@ bool prepareLeFiltre(const Contexte& c, std::chrono::milliseconds duree) {
     try {
         return c.etats.filtre.titres.prepare(c, duree);
     } catch (const dao::ErreurDao&) {  // told where it is asked for
+        return true;
+    } catch (const std::bad_alloc&) {
+        c.etats.filtre.titres = {};
         return true;
     }
 }

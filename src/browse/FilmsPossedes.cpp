@@ -28,14 +28,23 @@ bool FilmsPossedes::prepare(const db::Contexte& c, std::chrono::milliseconds dur
     const bool memeBase = m_base == c.chemins.base;
     if (!memeBase || version != m_version) commence(c, version);
     if (m_aJour) return true;
+    try {
+        if (!lit(c, duree)) return false;
+    } catch (...) {  // the next call begins anew
+        m_version = {};
+        throw;
+    }
+    m_connues = std::exchange(m_enCours, {});
+    m_lignes.Close();
+    return m_aJour = true;
+}
+
+bool FilmsPossedes::lit(const db::Contexte& c, std::chrono::milliseconds duree) {
     const auto fin = c.montre() + duree;
     while (!m_lignes.Eof() && c.montre() < fin)
         for (int i = 0; i < kLignesParPas && !m_lignes.Eof(); ++i, m_lignes.MoveNext())
             ajouteLigne();
-    if (!m_lignes.Eof()) return false;
-    m_connues = std::exchange(m_enCours, {});
-    m_lignes.Close();
-    return m_aJour = true;
+    return m_lignes.Eof();
 }
 
 void FilmsPossedes::commence(const db::Contexte& c, const dao::Database::Version& version) {

@@ -27,6 +27,7 @@ class FilmsPossedes {
 
   private:
     void commence(const db::Contexte& c, const dao::Database::Version& version);
+    [[nodiscard]] bool lit(const db::Contexte& c, std::chrono::milliseconds duree);
     void ajouteLigne();
 
     using Possessions = std::unordered_map<std::uint64_t, Possession>;  // by a hash of both

@@ -1,12 +1,11 @@
 #include "browse/MarquesFilm.h"
 
-#include "platform/dao/ErreurDao.h"
 #include "platform/dao/PlaceGardee.h"
 #include "util/Ascii.h"
 #include "util/Nombres.h"
 #include "util/Texte.h"
 
-#include <algorithm>
+#include <exception>
 #include <optional>
 
 namespace browse {
@@ -33,7 +32,7 @@ std::optional<Ligne> ligneDuNoeud(const Contexte& c, int noeud) {
         const auto texte = [&liste](const char* champ) { return std::string(liste.vue(liste.colonne(champ))); };
         const int note = util::valEntier(texte("Note"));
         return Ligne{texte("Titre"), texte("Realisateur"), texte("Annee"), note < 1 || note > kNoteMax ? 0 : note};
-    } catch (const dao::ErreurDao&) {
+    } catch (const std::exception&) {  // memory too: a row is painted
         return std::nullopt;
     }
 }
@@ -78,7 +77,7 @@ std::string infobulleDuNoeud(const Contexte& c, int noeud) {
 bool suisLesMarques(const Contexte& c, std::chrono::milliseconds duree) {
     try {
         return c.liste.possedes.prepare(c, duree);
-    } catch (const dao::ErreurDao&) {
+    } catch (const std::exception&) {  // none is told of idle work, which the next command begins anew
         return true;
     }
 }

@@ -44,7 +44,8 @@ Recordset Database::OpenRecordset(std::string_view source, std::span<const std::
 
 Database::Version Database::version(std::string_view table) const {
     interne::Connexion& connexion = ouverte(m_connexion);
-    return {connexion.epoque(), connexion.table(table).suivi.derniereEcriture};
+    return {(std::uint64_t{connexion.numero()} << 32) + connexion.epoque(),
+            connexion.table(table).suivi.derniereEcriture};
 }
 
 void Database::declareCles(std::vector<Cle> cles) {
