@@ -1,4 +1,4 @@
-// mesure_fenetre DOSSIER [CLICS]: the program itself in a program folder, started as its main does, driven and watched from
+// mesure_fenetre DOSSIER [CLICS | filtre]: the program itself in a program folder, started as its main does, driven and watched from
 // outside by its published control names.
 
 #include "Guetteur.h"
@@ -13,9 +13,13 @@
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QTreeView>
+#include <array>
+#include <chrono>
 #include <stdexcept>
 
 namespace {
+
+using namespace std::chrono_literals;
 
 template <typename Type>
 Type& controle(const QWidget& fenetre, const char* nom) {
@@ -115,7 +119,35 @@ void mesureChoix(const QWidget& fenetre, bench::Guetteur& arbre) {
         bench::declare("zone" + std::to_string(i), choisit(zone, i, arbre));
 }
 
-void mesure(const std::string& dossier, std::size_t clics) {
+constexpr std::array<const char*, 6> kSaisies{"coeur de l'horloger", "zoé lamlet", "drame 1979", "l ete",
+                                              "Agnès Ber k",         "introuvable"};
+constexpr int kToutesLesFiches = 1;              // of the zones
+constexpr std::chrono::seconds kPreparation{3};  // idle, after which the filter has read what it needs
+
+// From each key to the end of the tree's repaint: texts are typed, and taken back letter by letter.
+void mesureFiltre(const QWidget& fenetre, bench::Guetteur& arbre) {
+    auto& champ = controle<QWidget>(fenetre, "Filtre");
+    champ.setFocus();
+    for (const double depart = bench::maintenant(); bench::maintenant() - depart < kPreparation / 1.0ms;)
+        QApplication::processEvents();
+    std::vector<double> durees;
+    const auto frappe = [&](int touche, const QString& texte) {
+        bench::laisseFinir();
+        durees.push_back(arbre.dureeDe([&] {
+            QKeyEvent evenement(QEvent::KeyPress, touche, Qt::NoModifier, texte);
+            QApplication::sendEvent(&champ, &evenement);
+        }));
+    };
+    for (const QString saisie : kSaisies) {
+        for (const QChar lettre : saisie)
+            frappe(Qt::Key_A, lettre);
+        for (qsizetype i = 0; i < saisie.size(); ++i)
+            frappe(Qt::Key_Backspace, {});
+    }
+    bench::declareSerie("frappe", std::move(durees));
+}
+
+void mesure(const std::string& dossier, std::size_t clics, bool filtre) {
     ui::habille(dossier);
     ui::Programme programme(dossier);
     QWidget& fenetre = programme.fenetre();
@@ -126,6 +158,12 @@ void mesure(const std::string& dossier, std::size_t clics) {
     bench::declare("peint", bench::depuisLeDepart());
     if (arbre.model()->rowCount() == 0) throw std::runtime_error("the tree shows no film");
     bench::laisseFinir();
+    if (filtre) {
+        choisit(controle<QComboBox>(fenetre, "ChoixZone"), kToutesLesFiches, guetteur);
+        mesureFiltre(fenetre, guetteur);
+        bench::declare("memoire", bench::memoireDePointe());
+        return;
+    }
     mesureChoix(fenetre, guetteur);
     if (clics > 0) mesureClics(fenetre, arbre, clics);
     if (clics > 0) mesureVisionneuse(fenetre, arbre, dossier, clics);
@@ -137,8 +175,10 @@ void mesure(const std::string& dossier, std::size_t clics) {
 int main(int nombre, char** mots) try {
     QApplication application(nombre, mots);
     QApplication::setApplicationName(QStringLiteral("Ambrelis"));
-    if (nombre < 2) throw std::invalid_argument("usage: mesure_fenetre DOSSIER [CLICS]");
-    mesure(std::string(mots[1]) + "/", nombre > 2 ? std::stoul(mots[2]) : 0);
+    if (nombre < 2) throw std::invalid_argument("usage: mesure_fenetre DOSSIER [CLICS | filtre]");
+    const std::string quoi = nombre > 2 ? mots[2] : "0";
+    const bool filtre = quoi == "filtre";
+    mesure(std::string(mots[1]) + "/", filtre ? 0 : std::stoul(quoi), filtre);
     return 0;
 } catch (const std::exception& e) {
     std::cerr << "mesure_fenetre: " << e.what() << '\n';

@@ -244,10 +244,15 @@ void mesureAnnulations(bench::Tableau& tableau, const Options& options, int film
 void mesureEnsemble(bench::Tableau& tableau, const Options& options, int films, double doublonsMax) {
     const std::string dossier = collection(options, {films, false}).string();
     const Figures filtre = bench::lance("mesure_ensemble", {"filtre", dossier});
+    const Figures fenetre = bench::lance("mesure_fenetre", {dossier, "filtre"});
     tableau.titre("a collection of " + std::to_string(films) + " films at a glance");
     const double grep = filtre.at("grep");
-    tableau.ajoute({"filter of the tree, a keystroke, median; grep -i", "ms", filtre.at("frappe_mediane"), grep, 16.0});
-    tableau.ajoute({"filter of the tree, a keystroke, worst; grep -i", "ms", filtre.at("frappe_pire"), grep, 33.0});
+    tableau.ajoute(
+        {"filter of the tree, key to repaint, median; grep -i", "ms", fenetre.at("frappe_median"), grep, 16.0});
+    tableau.ajoute({"filter of the tree, key to repaint, worst; grep -i", "ms", fenetre.at("frappe_pire"), grep, 33.0});
+    tableau.ajoute({"  without the window, median", "ms", filtre.at("frappe_mediane"), grep, {}});
+    tableau.ajoute({"  without the window, worst", "ms", filtre.at("frappe_pire"), grep, {}});
+    tableau.ajoute({"  peak memory of the window with it", "MB", fenetre.at("memoire"), {}, {}});
     tableau.ajoute({"  its index, in slices of idle time", "ms", filtre.at("index"), {}, {}});
     tableau.ajoute({"  its index", "MB", filtre.at("memoire_index"), {}, {}});
     mesureDoublons(tableau, options, films, doublonsMax);

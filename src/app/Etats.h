@@ -12,6 +12,7 @@
 #include "db/EtatTravaux.h"
 #include "edit/EtatAjout.h"
 #include "edit/EtatMultiSuppression.h"
+#include "ensemble/EtatFiltre.h"
 #include "export/EtatNom.h"
 #include "platform/ecran/Avis.h"
 #include "platform/ecran/Ecran.h"
@@ -36,6 +37,7 @@ struct Etats {
     edit::EtatMultiSuppression multiSuppression;
     EtatFonctions fonctions;
     EtatCollection collection;
+    ensemble::EtatFiltre filtre;
     EtatAnnulation annulation;
     view::EtatAffiche affiche;
     view::EtatFichiers fichiers;

@@ -74,6 +74,7 @@ std::string texteTouches() {
            "\n"
            "F1 : ces touches\n"
            "Ctrl+F : rechercher\n"
+           "Ctrl+K : filtrer les titres de la liste (/ aussi, dans la liste)\n"
            "Ctrl+L : la collection d'un coup d'œil\n"
            "Ctrl+N : saisir un film\n"
            "Ctrl+O : ouvrir ou créer une base\n"

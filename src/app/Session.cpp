@@ -4,6 +4,7 @@
 #include "app/Arret.h"
 #include "app/BaseAbsente.h"
 #include "app/Demarrage.h"
+#include "app/Filtre.h"
 #include "app/Saisies.h"
 #include "browse/AfficheAccueil.h"
 #include "browse/AfficheVolet.h"
@@ -87,7 +88,7 @@ const Contexte& Session::contexte() const {
 void Session::accompagne(const std::function<void()>& commande) {
     const auto suite = [&c = contexte()] {
         if (!c.panneaux.frameMultiSuppression.Visible) edit::rangeMultiSuppression(c);
-        edit::montreCoches(c);
+        montreCoches(c);
         if (!c.film.estUnFilm()) c.etats.fichiers.Visible = false;
         nommeLaBase(c);
     };

@@ -2,6 +2,7 @@
 
 #include "browse/AfficheTitres.h"
 #include "browse/ListesDeChoix.h"
+#include "browse/MarquesFilm.h"
 #include "browse/TexteRequete.h"
 #include "db/Requete.h"
 
@@ -16,7 +17,7 @@ constexpr const char* kTriParSupportImpossible =
 // The old listing goes only once the new one stands: the tree's nodes lead to it.
 dao::Recordset ouvre(const Contexte& c, const std::string& requete) {
     try {
-        return db::ouvreRequete(c, requete, db::NumeroErreur::CreeRequeteAffichage);
+        return db::ouvreRequete(c, requete, db::NumeroErreur::CreeRequeteAffichage, kPorteesParLaListe);
     } catch (const db::RequeteEchouee&) {
         nommeCeQuiEstMontre(c.liste);
         throw;

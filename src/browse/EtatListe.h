@@ -1,6 +1,7 @@
 #pragma once
 
 #include "browse/Arbre.h"
+#include "browse/FilmsPossedes.h"
 #include "browse/ZonesEtTris.h"
 #include "platform/ecran/Controles.h"
 
@@ -33,6 +34,7 @@ struct EtatListe {
     int triDeLArbre = 0;            // the sort the tree was filled with: a refused sort leaves it as it was
     int zoneDeLArbre = -1;          // and the zone, kZoneRecherche for a search; -1 before the first filling
     bool occupe = false;            // the program itself is changing ChoixZone or ChoixTri
+    FilmsPossedes possedes;         // for the marks of the films
     std::string critereRecherche;   // search condition, empty when no search was made
     int zoneRecherche = kZoneTous;  // saved search zone
 };

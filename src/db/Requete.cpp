@@ -19,9 +19,10 @@ std::string texteErreurRequete(NumeroErreur numero) {
     return "Erreur (" + std::to_string(static_cast<int>(numero)) + ") : Etablissement de requête";
 }
 
-dao::Recordset ouvreRequete(const Contexte& c, const std::string& enonce, NumeroErreur numero) {
+dao::Recordset ouvreRequete(const Contexte& c, const std::string& enonce, NumeroErreur numero,
+                            std::span<const std::string_view> portees) {
     try {
-        return c.base.base.OpenRecordset(enonce);
+        return c.base.base.OpenRecordset(enonce, portees);
     } catch (const dao::ErreurDao& erreur) {
         c.dialogues.MsgBox(texteErreurRequete(numero), dialogues::kCritique);
         throw RequeteEchouee(erreur);

@@ -2,7 +2,9 @@
 
 #include "db/Contexte.h"
 
+#include <span>
 #include <string>
+#include <string_view>
 
 namespace db {
 
@@ -44,7 +46,9 @@ struct RequeteEchouee {
 
 [[nodiscard]] std::string texteErreurRequete(NumeroErreur numero);
 
-// Opens a statement; on failure shows its message (style 16) and throws RequeteEchouee.
-[[nodiscard]] dao::Recordset ouvreRequete(const Contexte& c, const std::string& enonce, NumeroErreur numero);
+// Opens a statement, whose records keep `portees` (dao::Database::OpenRecordset); on failure shows its message (style 16) and
+// throws RequeteEchouee.
+[[nodiscard]] dao::Recordset ouvreRequete(const Contexte& c, const std::string& enonce, NumeroErreur numero,
+                                          std::span<const std::string_view> portees = {});
 
 }  // namespace db

@@ -93,12 +93,15 @@ void Option4_Click(const Contexte& c) {
     c.multiSuppression.cmdSupprTitresSelect.Visible = active;
 }
 
-void montreCoches(const Contexte& c) {
+void montreCoches(const Contexte& c, std::ptrdiff_t masques) {
     ecran::Etiquette& etiquette = c.multiSuppression.lblCoches;
     etiquette.Visible = c.liste.TreeView1.Checkboxes;
     if (!etiquette.Visible) return;
     etiquette.Caption =
         util::phraseCompte(std::ssize(filmsCoches(c.liste.TreeView1)), "# film coché", "# films cochés");
+    if (masques > 0)
+        etiquette.Caption +=
+            util::phraseCompte(masques, ", dont # masqué par le filtre", ", dont # masqués par le filtre");
 }
 
 void cmdSupprTitresSelect_Click(const Contexte& c) {

@@ -1,6 +1,7 @@
 #include "ensemble/FiltreTitres.h"
 
 #include "platform/dao/LigneSupprimee.h"
+#include "platform/dao/PlaceGardee.h"
 #include "util/Ascii.h"
 #include "util/Nombres.h"
 #include "util/Repli.h"
@@ -45,6 +46,11 @@ std::string groupeParMilliers(long nombre) {
     return texte;
 }
 
+std::string cleDeLaLigne(const dao::Recordset& liste, dao::Colonne titre, dao::Colonne realisateur) {
+    std::string cle(liste.vue(titre));
+    return (cle += kEntreChamps).append(liste.vue(realisateur));
+}
+
 }  // namespace
 
 void FiltreTitres::ajouteSignes(std::string_view texte, Signes& signes) {
@@ -86,13 +92,36 @@ bool FiltreTitres::prolonge(const std::vector<std::string>& mots, const std::vec
 void FiltreTitres::suisLaListe(const Contexte& c) {
     const int remplissage = c.liste.TreeView1.Nodes.remplissages();
     if (remplissage == m_remplissage) return;
-    *this = FiltreTitres();
+    FiltreTitres neuf;
+    neuf.m_version = m_version;
+    neuf.m_mots = std::move(m_mots);
+    if (m_base == c.chemins.base) neuf.m_limites = std::move(m_limites);
+    neuf.m_base = c.chemins.base;
+    *this = std::move(neuf);
     m_remplissage = remplissage;
     m_lignes = c.base.liste.estOuvert() ? static_cast<std::size_t>(c.base.liste.RecordCount()) : 0;
     m_fins.reserve(m_lignes);
     m_signes.reserve(m_lignes);
     for (std::size_t i = 0; m_lignes > 0 && i < kChamps.size(); ++i)
         m_colonnes[i] = c.base.liste.colonne(kChamps[i]);
+    if (estLimite()) m_limite = lignesLimitees(c);
+}
+
+LignesVues FiltreTitres::lignesLimitees(const Contexte& c) const {
+    LignesVues lignes(m_lignes);
+    if (m_lignes == 0) return lignes;
+    dao::Recordset& liste = c.base.liste;
+    const dao::PlaceGardee garde(liste);
+    liste.MoveFirst();
+    for (std::uint32_t position = 1; position <= m_lignes; ++position, liste.MoveNext())
+        dao::siPresente([&] {
+            if (m_limites->contains(cleDeLaLigne(liste, m_colonnes[0], m_colonnes[1]))) lignes.ajoute(position);
+        });
+    return lignes;
+}
+
+bool FiltreTitres::estVu(const browse::Arbre& arbre, int noeud) const {
+    return !actif() || m_perimees || m_remplissage != arbre.remplissages() || m_vues.contient(arbre.position(noeud));
 }
 
 bool FiltreTitres::prepare(const Contexte& c, std::chrono::milliseconds duree) {
@@ -107,6 +136,7 @@ void FiltreTitres::lit(const Contexte& c, std::size_t lignes) {
     dao::Recordset& liste = c.base.liste;
     const std::size_t fin = std::min(m_lignes, lues() + lignes);
     if (lues() == fin) return;
+    const dao::PlaceGardee garde(liste);
     liste.MoveFirst();
     liste.Move(static_cast<long>(lues()));
     for (; lues() < fin; liste.MoveNext())
@@ -150,6 +180,7 @@ const LignesVues& FiltreTitres::filtre(const Contexte& c, std::string_view saisi
     const bool suite = !m_perimees && prolonge(mots, m_mots);
     const LignesVues depart = suite ? std::move(m_vues) : m_limite ? *m_limite : LignesVues::toutes(m_lignes);
     m_perimees = false;
+    ++m_version;
     m_mots = std::move(mots);
     Signes voulus;
     for (const std::string& mot : m_mots)
@@ -163,13 +194,23 @@ const LignesVues& FiltreTitres::filtre(const Contexte& c, std::string_view saisi
 void FiltreTitres::limite(const Contexte& c, const std::vector<std::uint32_t>& lignes) {
     suisLaListe(c);
     m_limite = LignesVues(m_lignes);
-    for (const std::uint32_t position : lignes)
-        if (position >= 1 && position <= m_lignes) m_limite->ajoute(position);
+    m_limites.emplace();
     m_perimees = true;
+    if (m_lignes == 0) return;
+    dao::Recordset& liste = c.base.liste;
+    const dao::PlaceGardee garde(liste);
+    for (const std::uint32_t position : lignes) {
+        if (position < 1 || position > m_lignes) continue;
+        m_limite->ajoute(position);
+        liste.MoveFirst();
+        liste.Move(static_cast<long>(position) - 1);
+        dao::siPresente([&] { m_limites->insert(cleDeLaLigne(liste, m_colonnes[0], m_colonnes[1])); });
+    }
 }
 
 void FiltreTitres::leveLaLimite() {
     m_limite.reset();
+    m_limites.reset();
     m_perimees = true;
 }
 

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 namespace ensemble {
@@ -17,7 +18,7 @@ namespace ensemble {
 // difference.
 //
 // Its index is built once for each filling of the tree, from the listing itself, and holds a few hundred bytes a film; a
-// listing whose texts exceed kOctetsMax is searched by title alone from there on. The listing's current record moves.
+// listing whose texts exceed kOctetsMax is searched by title alone from there on. The listing's current record stays.
 class FiltreTitres {
   public:
     static constexpr std::size_t kOctetsMax = std::size_t{128} << 20, kOctetsParChamp = 4096;
@@ -28,13 +29,19 @@ class FiltreTitres {
 
     // The films in which the text's words stand; all of them for a text without one. Throws dao::ErreurDao.
     const LignesVues& filtre(const Contexte& c, std::string_view saisie);
-    // Only these rows of the listing shown now are looked at, until it is another or `leveLaLimite`: the films of a bar.
+    // Only the films of these rows of the listing shown now are looked at, until `leveLaLimite`: those of a bar. They are
+    // found again in a listing filled later, by title and director; in another base there is no limit.
     void limite(const Contexte& c, const std::vector<std::uint32_t>& lignes);
     void leveLaLimite();
+    [[nodiscard]] bool estLimite() const { return m_limites.has_value(); }
+    [[nodiscard]] bool estPerime() const { return m_perimees; }  // what `filtre` answered is no longer so
 
     // Of the last `filtre`.
-    [[nodiscard]] bool actif() const { return !m_mots.empty() || m_limite; }  // something may be hidden
+    [[nodiscard]] bool actif() const { return !m_mots.empty() || estLimite(); }  // something may be hidden
     [[nodiscard]] const LignesVues& vues() const { return m_vues; }
+    // Whether a film's node is to be seen; true for all those of a tree filled since.
+    [[nodiscard]] bool estVu(const browse::Arbre& arbre, int noeud) const;
+    [[nodiscard]] int version() const { return m_version; }  // rises with each `filtre`
     // "12 titres sur 840", or that there is none; empty while nothing is filtered.
     [[nodiscard]] std::string texteDuCompte() const;
     // What stays of the tree: its nodes in their order, a heading before the first of its films.
@@ -59,6 +66,7 @@ class FiltreTitres {
     [[nodiscard]] static bool prolonge(const std::vector<std::string>& mots, const std::vector<std::string>& autres);
 
     void suisLaListe(const Contexte& c);
+    [[nodiscard]] LignesVues lignesLimitees(const Contexte& c) const;
     void lit(const Contexte& c, std::size_t lignes);
     void ajouteLigne(dao::Recordset& liste);
     void ajouteChamp(std::string_view valeur, std::size_t auPlus);
@@ -74,8 +82,11 @@ class FiltreTitres {
 
     std::vector<std::string> m_mots;
     LignesVues m_vues;
-    std::optional<LignesVues> m_limite;
+    std::optional<std::unordered_set<std::string>> m_limites;  // title and director of the films looked at
+    std::optional<LignesVues> m_limite;                        // their rows of this listing
+    std::string m_base;                                        // that they are of
     bool m_perimees = true;  // m_vues are of before: of another listing, or of another limit
+    int m_version = 0;
 };
 
 }  // namespace ensemble

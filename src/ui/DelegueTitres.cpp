@@ -1,6 +1,7 @@
 #include "ui/DelegueTitres.h"
 
 #include "ui/Couleurs.h"
+#include "ui/Icones.h"
 #include "ui/Infobulles.h"
 #include "ui/ModeleArbre.h"
 #include "ui/Traits.h"
@@ -10,6 +11,7 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <utility>
 
 namespace ui {
 
@@ -17,10 +19,64 @@ namespace {
 
 constexpr int kAir = 4;             // above and below the text
 constexpr int kMargeDuNombre = 10;  // right of a heading's number
+constexpr int kAvantLeTexte = 4, kEntreMarques = 5;
+constexpr qreal kTeinteDesLettres = 0.22;
 
 int largeurDuNombre(const QStyleOptionViewItem& option, const QModelIndex& index) {
     const QString nombre = QString::number(index.data(ModeleArbre::NombreDEnfants).toInt());
     return QFontMetrics(option.font).horizontalAdvance(nombre) + 2 * kMargeDuNombre;
+}
+
+// Behind the letters and under them; on a chosen row a tint would take their contrast away.
+void peintLettres(QPainter& peintre, const QStyleOptionViewItem& ligne, const QRect& zone, const QString& montre,
+                  const ModeleArbre::Plages& plages) {
+    const bool choisie = ligne.state.testFlag(QStyle::State_Selected);
+    const QFontMetrics& mesure = ligne.fontMetrics;
+    const int haut = zone.center().y() - mesure.height() / 2, bas = haut + mesure.height();
+    for (const auto& [debut, nombre] : plages) {
+        if (debut >= montre.size()) return;
+        const int gauche = zone.left() + mesure.horizontalAdvance(montre, static_cast<int>(debut));
+        const int droite = zone.left() + mesure.horizontalAdvance(montre, static_cast<int>(debut + nombre));
+        if (!choisie)
+            peintre.fillRect(QRect(QPoint(gauche, haut), QPoint(droite - 1, bas - 1)),
+                             melange(accent(ligne.palette), ligne.palette.color(QPalette::Base), kTeinteDesLettres));
+        peintre.fillRect(QRect(gauche, bas - 1, droite - gauche, 2),
+                         choisie ? ligne.palette.color(QPalette::HighlightedText) : accentLisible(ligne.palette));
+    }
+}
+
+QColor encre(const QStyleOptionViewItem& ligne) {
+    const bool choisie = ligne.state.testFlag(QStyle::State_Selected);
+    return ligne.palette.color(choisie ? QPalette::HighlightedText : QPalette::Text);
+}
+
+// At the right of a heading; how much room it takes.
+int peintNombre(QPainter& peintre, const QStyleOptionViewItem& ligne, const QFont& police, const QModelIndex& index) {
+    peintre.setFont(police);
+    peintre.setPen(ligne.state.testFlag(QStyle::State_Selected) ? encre(ligne) : texteDiscret(ligne.palette));
+    peintre.drawText(ligne.rect.adjusted(0, 0, -kMargeDuNombre, 0), Qt::AlignVCenter | Qt::AlignRight,
+                     QString::number(index.data(ModeleArbre::NombreDEnfants).toInt()));
+    return largeurDuNombre(ligne, index);
+}
+
+// At the right of a film, the one that most have last; how much room they take.
+int peintMarques(QPainter& peintre, const QStyleOptionViewItem& ligne, const browse::MarquesFilm& marques) {
+    const bool choisie = ligne.state.testFlag(QStyle::State_Selected);
+    const QColor calme = choisie ? encre(ligne) : texteDiscret(ligne.palette);
+    const QColor vive = choisie ? encre(ligne) : accentLisible(ligne.palette);
+    const int cote = ligne.fontMetrics.ascent();
+    int droite = ligne.rect.right() - kMargeDuNombre + 1;
+    const auto peint = [&](bool vrai, Pictogramme pictogramme, const QColor& couleur) {
+        if (!vrai) return;
+        peintPictogramme(peintre, QRect(droite - cote, ligne.rect.center().y() - cote / 2, cote, cote), pictogramme,
+                         couleur);
+        droite -= cote + kEntreMarques;
+    };
+    peint(marques.possession.possede, Pictogramme::Possede, calme);
+    peint(marques.possession.prete, Pictogramme::Prete, vive);
+    peint(marques.possession.reserve, Pictogramme::Reserve, vive);
+    peint(marques.note != 0, Pictogramme::Etoile, calme);
+    return ligne.rect.right() + 1 - droite;
 }
 
 }  // namespace
@@ -38,30 +94,25 @@ void DelegueTitres::paint(QPainter* peintre, const QStyleOptionViewItem& option,
     QStyleOptionViewItem ligne = option;
     initStyleOption(&ligne, index);
     const QStyle* style = ligne.widget ? ligne.widget->style() : QApplication::style();
-    const bool groupe = index.data(ModeleArbre::EstGroupe).toBool();
-    const int place = groupe ? largeurDuNombre(option, index) : 0;
-    const QString texte = ligne.text;
-    const QRect entier = ligne.rect;
-    if (groupe) ligne.text.clear();
+    const QString texte = std::exchange(ligne.text, QString());
     style->drawControl(QStyle::CE_ItemViewItem, &ligne, peintre, ligne.widget);
     // Where the keys stand, as long as nothing is chosen there.
     if (option.state.testFlag(QStyle::State_HasFocus) && !ligne.state.testFlag(QStyle::State_Selected))
-        peintContourDeFocus(*peintre, QRectF(entier).adjusted(0, 1, -2, -1), accentLisible(ligne.palette));
-    if (!groupe) return;
+        peintContourDeFocus(*peintre, QRectF(ligne.rect).adjusted(0, 1, -2, -1), accentLisible(ligne.palette));
 
     ligne.text = texte;
-    const bool choisie = ligne.state.testFlag(QStyle::State_Selected);
-    const QRect zone =
-        style->subElementRect(QStyle::SE_ItemViewItemText, &ligne, ligne.widget).adjusted(4, 0, -place, 0);
     peintre->save();
+    const int place =
+        index.data(ModeleArbre::EstGroupe).toBool()
+            ? peintNombre(*peintre, ligne, option.font, index)
+            : peintMarques(*peintre, ligne, index.data(ModeleArbre::Marques).value<browse::MarquesFilm>());
+    const QRect zone =
+        style->subElementRect(QStyle::SE_ItemViewItemText, &ligne, ligne.widget).adjusted(kAvantLeTexte, 0, -place, 0);
+    const QString montre = ligne.fontMetrics.elidedText(texte, Qt::ElideRight, zone.width());
+    peintLettres(*peintre, ligne, zone, montre, index.data(ModeleArbre::Lettres).value<ModeleArbre::Plages>());
     peintre->setFont(ligne.font);
-    peintre->setPen(ligne.palette.color(choisie ? QPalette::HighlightedText : QPalette::Text));
-    peintre->drawText(zone, Qt::AlignVCenter | Qt::AlignLeft,
-                      ligne.fontMetrics.elidedText(texte, Qt::ElideRight, zone.width()));
-    peintre->setFont(option.font);
-    if (!choisie) peintre->setPen(texteDiscret(ligne.palette));
-    peintre->drawText(entier.adjusted(0, 0, -kMargeDuNombre, 0), Qt::AlignVCenter | Qt::AlignRight,
-                      QString::number(index.data(ModeleArbre::NombreDEnfants).toInt()));
+    peintre->setPen(encre(ligne));
+    peintre->drawText(zone, Qt::AlignVCenter | Qt::AlignLeft, montre);
     peintre->restore();
 }
 
@@ -75,7 +126,12 @@ bool DelegueTitres::helpEvent(QHelpEvent* evenement, QAbstractItemView* vue, con
         return QStyledItemDelegate::helpEvent(evenement, vue, option, index);
     QStyleOptionViewItem ligne = option;
     initStyleOption(&ligne, index);
-    const int place = index.data(ModeleArbre::EstGroupe).toBool() ? largeurDuNombre(option, index) : 0;
+    if (!index.data(ModeleArbre::EstGroupe).toBool()) {
+        const QString texte = index.data(Qt::ToolTipRole).toString();
+        QToolTip::showText(evenement->globalPos(), enInfobulle(texte.isEmpty() ? ligne.text : texte), vue);
+        return true;
+    }
+    const int place = largeurDuNombre(option, index);
     const bool coupe = ligne.fontMetrics.horizontalAdvance(ligne.text) + 12 > option.rect.width() - place;
     QToolTip::showText(evenement->globalPos(), coupe ? enInfobulle(ligne.text) : QString(), vue);
     return true;

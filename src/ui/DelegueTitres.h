@@ -4,8 +4,9 @@
 
 namespace ui {
 
-// Paints a row of the title tree: headings in semibold with the number of their films, films plainly; what does not fit
-// is elided and told by a tool tip.
+// Paints a row of the title tree: headings in semibold with the number of their films, films plainly with the letters that
+// the filter found and, at the right, a small drawing for each of rated, reserved, lent and owned. Its tool tip says what
+// the drawings say, and who made the film when; that of a heading what does not fit.
 class DelegueTitres final : public QStyledItemDelegate {
     Q_OBJECT
   public:

@@ -98,6 +98,19 @@ QPainterPath trace(Pictogramme pictogramme) {
             t.moveTo(19.5, 9), t.lineTo(10, 9);
             t.cubicTo(2.5, 9, 2.5, 19.5, 10, 19.5), t.lineTo(14.5, 19.5);
             break;
+        case Pictogramme::Possede:  // a disc
+            t.addEllipse(QPointF(12, 12), 8.5, 8.5);
+            t.addEllipse(QPointF(12, 12), 2.2, 2.2);
+            break;
+        case Pictogramme::Prete:  // what has left its place
+            t.moveTo(10, 5), t.lineTo(4, 5), t.lineTo(4, 20), t.lineTo(19, 20), t.lineTo(19, 14);
+            t.moveTo(10.5, 13.5), t.lineTo(20, 4);
+            t.moveTo(13.5, 4), t.lineTo(20, 4), t.lineTo(20, 10.5);
+            break;
+        case Pictogramme::Reserve:  // a marker left in it
+            t.moveTo(6.5, 3.5), t.lineTo(17.5, 3.5), t.lineTo(17.5, 20.5), t.lineTo(12, 16), t.lineTo(6.5, 20.5);
+            t.closeSubpath();
+            break;
         case Pictogramme::MovieCovers: {  // the letters are cut out of a film's box
             t.addRoundedRect(QRectF(0.5, 2, 23, 20), 3.5, 3.5);
             QFont lettres = QApplication::font();

@@ -23,6 +23,9 @@ enum class Pictogramme {
     Collection,
     Annule,
     Retablit,
+    Possede,
+    Prete,
+    Reserve,
     MovieCovers  // a logo: filled, and always in the accent colour
 };
 

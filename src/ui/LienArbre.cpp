@@ -17,9 +17,7 @@ VueTitres::LienArbre::Vue VueTitres::LienArbre::releve() const {
 }
 
 void VueTitres::LienArbre::lit() {
-    // The selected row: the current one also moves when the tree merely takes the focus.
-    const QModelIndexList choisis = m_vue.selectionModel()->selectedIndexes();
-    m_etat.SelectedItem = m_choisi = choisis.isEmpty() ? 0 : ModeleArbre::noeud(choisis.first());
+    m_etat.SelectedItem = m_choisi = m_vue.choisi();
     m_avant = releve();
     m_recommencee = false;
 }
@@ -48,27 +46,32 @@ void VueTitres::LienArbre::recommence() {
     m_recommencee = true;
     m_remplie = contenu();
     m_vue.m_ouverts.clear();
-    m_vue.m_modele.recommence();
-    // A flat list has no arrows to leave room for.
-    m_vue.setRootIsDecorated(m_etat.Nodes.Count() > 0 && m_etat.Nodes.estGroupe(m_etat.Nodes.enfants(0).front()));
-    if (!memeListe()) {
-        m_vue.scrollToTop();
+    const bool filtree = m_vue.m_modele.estFiltre();
+    m_vue.m_modele.recommence(m_vue.m_filtre ? m_vue.m_filtre() : std::nullopt);
+    // A flat list has no arrows to leave room for, and stands off the edge.
+    const bool plate = m_etat.Nodes.Count() == 0 || !m_etat.Nodes.estGroupe(m_etat.Nodes.enfants(0).front());
+    m_vue.setIndentation(plate ? kRetraitDeListe : kRetraitDArbre);
+    if (m_vue.m_modele.estFiltre()) {
+        if (!memeListe())
+            m_vue.m_avantFiltre = {};
+        else if (!filtree)
+            m_vue.m_avantFiltre = {m_avant.ouverts, m_avant.defilement, 0};
+        m_vue.m_avantFiltre.choisi = -1;  // the nodes are others
+        m_vue.ouvreTout();
+        m_vue.verticalScrollBar()->setValue(filtree && memeListe() ? m_avant.defilement : 0);
+    } else if (memeListe()) {
+        m_vue.ouvre(filtree ? m_vue.m_avantFiltre.ouverts : m_avant.ouverts);
+        m_vue.verticalScrollBar()->setValue(filtree ? m_vue.m_avantFiltre.defilement : m_avant.defilement);
     } else {
-        for (const std::int32_t indice : m_etat.Nodes.enfants(0)) {
-            const QModelIndex index = m_vue.m_modele.indexDuNoeud(indice);
-            if (m_avant.ouverts.count(libelle(index))) m_vue.expand(index);
-        }
-        m_vue.verticalScrollBar()->setValue(m_avant.defilement);
+        m_vue.scrollToTop();
     }
-    // Without a current row nothing would tell where the keys stand.
-    if (m_vue.hasFocus())
-        m_vue.selectionModel()->setCurrentIndex(m_vue.m_modele.index(0, 0), QItemSelectionModel::NoUpdate);
+    m_vue.entreParLaPremiere();
 }
 
 void VueTitres::LienArbre::montreChoix() {
     m_choisi = m_etat.SelectedItem;
     m_vue.montreNoeud(m_choisi);
-    if (!m_recommencee || !memeListe() || !m_avant.hauteurDuChoix || m_choisi == 0) return;
+    if (!m_recommencee || !memeListe() || !m_avant.hauteurDuChoix || !m_vue.m_modele.estVu(m_choisi)) return;
     const int ecart = m_vue.visualRect(m_vue.m_modele.indexDuNoeud(m_choisi)).top() - *m_avant.hauteurDuChoix;
     m_vue.verticalScrollBar()->setValue(m_vue.verticalScrollBar()->value() + ecart);
 }

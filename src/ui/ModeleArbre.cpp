@@ -18,9 +18,58 @@ QString debutDuTexte(std::string_view texte) {
 
 ModeleArbre::ModeleArbre(browse::VueArbre& etat, QObject* parent) : QAbstractItemModel(parent), m_etat(etat) {}
 
-void ModeleArbre::recommence() {
+void ModeleArbre::recommence(Noeuds noeuds) {
     beginResetModel();
+    m_vus = std::move(noeuds);
+    numerote();
     endResetModel();
+}
+
+void ModeleArbre::numerote() {
+    m_racines.clear();
+    m_debuts.clear();
+    if (!m_vus) return;
+    const browse::Arbre& arbre = m_etat.Nodes;
+    m_rangs.assign(static_cast<std::size_t>(arbre.Count()) + 1, -1);
+    std::int32_t rangDuFilm = 0;
+    for (std::size_t i = 0; i < m_vus->size(); ++i) {
+        const std::int32_t indice = (*m_vus)[i];
+        const bool sousUnGroupe = arbre.Parent(indice) != 0;
+        m_rangs[static_cast<std::size_t>(indice)] =
+            sousUnGroupe ? rangDuFilm++ : static_cast<std::int32_t>(m_racines.size());
+        if (sousUnGroupe) continue;
+        rangDuFilm = 0;
+        m_racines.push_back(indice);
+        m_debuts.push_back(i + 1);
+    }
+    m_debuts.push_back(m_vus->size() + 1);
+}
+
+std::span<const std::int32_t> ModeleArbre::enfants(int indice) const {
+    if (!m_vus) return m_etat.Nodes.enfants(indice);
+    if (indice == 0) return m_racines;
+    const int racine = rang(indice);
+    if (racine < 0) return {};
+    const std::size_t debut = m_debuts[static_cast<std::size_t>(racine)];
+    const std::size_t fin = m_debuts[static_cast<std::size_t>(racine) + 1] - 1;  // where the next heading stands
+    return std::span(*m_vus).subspan(debut, fin - debut);
+}
+
+int ModeleArbre::rang(int indice) const {
+    if (!m_vus) return m_etat.Nodes.rang(indice);
+    return static_cast<std::size_t>(indice) < m_rangs.size() ? m_rangs[static_cast<std::size_t>(indice)] : -1;
+}
+
+bool ModeleArbre::estVu(int indice) const {
+    return indice >= 1 && indice <= m_etat.Nodes.Count() && rang(indice) >= 0;
+}
+
+int ModeleArbre::premierFilm() const {
+    for (const std::int32_t racine : enfants(0)) {
+        if (!m_etat.Nodes.estGroupe(racine)) return racine;
+        if (const auto films = enfants(racine); !films.empty()) return films.front();
+    }
+    return 0;
 }
 
 void ModeleArbre::coches() {
@@ -32,14 +81,14 @@ void ModeleArbre::textes() {
 }
 
 QModelIndex ModeleArbre::indexDuNoeud(int indice) const {
-    if (indice < 1 || indice > m_etat.Nodes.Count()) return {};
-    return createIndex(m_etat.Nodes.rang(indice), 0, static_cast<quintptr>(indice));
+    if (!estVu(indice)) return {};
+    return createIndex(rang(indice), 0, static_cast<quintptr>(indice));
 }
 
 QModelIndex ModeleArbre::index(int ligne, int colonne, const QModelIndex& parent) const {
     if (colonne != 0 || ligne < 0 || ligne >= rowCount(parent)) return {};
-    const auto& enfants = m_etat.Nodes.enfants(parent.isValid() ? noeud(parent) : 0);
-    return createIndex(ligne, 0, static_cast<quintptr>(enfants[static_cast<std::size_t>(ligne)]));
+    const auto siens = enfants(parent.isValid() ? noeud(parent) : 0);
+    return createIndex(ligne, 0, static_cast<quintptr>(siens[static_cast<std::size_t>(ligne)]));
 }
 
 QModelIndex ModeleArbre::parent(const QModelIndex& enfant) const {
@@ -47,9 +96,9 @@ QModelIndex ModeleArbre::parent(const QModelIndex& enfant) const {
 }
 
 int ModeleArbre::rowCount(const QModelIndex& parent) const {
-    if (!parent.isValid()) return static_cast<int>(m_etat.Nodes.enfants(0).size());
+    if (!parent.isValid()) return static_cast<int>(enfants(0).size());
     if (!m_etat.Nodes.estGroupe(noeud(parent))) return 0;
-    return static_cast<int>(m_etat.Nodes.enfants(noeud(parent)).size());
+    return static_cast<int>(enfants(noeud(parent)).size());
 }
 
 int ModeleArbre::columnCount(const QModelIndex&) const {
@@ -74,6 +123,24 @@ QVariant ModeleArbre::data(const QModelIndex& index, int role) const {
             return arbre.estGroupe(indice);
         case NombreDEnfants:
             return rowCount(index);
+        default:
+            return arbre.estGroupe(indice) ? QVariant() : duFilm(indice, role);
+    }
+}
+
+QVariant ModeleArbre::duFilm(int indice, int role) const {
+    const auto titre = [&] { return debutDuTexte(m_etat.Nodes.Text(indice)).trimmed(); };
+    switch (role) {
+        case Lettres:
+            return m_vus && m_lettres ? QVariant::fromValue(m_lettres(titre())) : QVariant();
+        case Marques:
+            return m_marques ? QVariant::fromValue(m_marques(indice)) : QVariant();
+        case Qt::ToolTipRole:
+            return m_infobulle ? m_infobulle(indice) : QVariant();
+        case Qt::AccessibleTextRole: {
+            const std::string marques = m_marques ? browse::texteDesMarques(m_marques(indice)) : "";
+            return marques.empty() ? titre() : titre() + QStringLiteral(", ") + QString::fromStdString(marques);
+        }
         default:
             return {};
     }

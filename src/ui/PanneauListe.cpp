@@ -1,12 +1,15 @@
 #include "ui/PanneauListe.h"
 
 #include "app/Commandes.h"
+#include "app/Filtre.h"
 #include "browse/AfficheTitres.h"
 #include "browse/ChoixTri.h"
 #include "browse/ChoixZone.h"
 #include "browse/ListeVide.h"
+#include "browse/MarquesFilm.h"
 #include "ui/Boutons.h"
 #include "ui/Cartes.h"
+#include "ui/ChampFiltre.h"
 #include "ui/Composition.h"
 
 #include <QVBoxLayout>
@@ -15,7 +18,9 @@ namespace ui {
 
 namespace {
 
-constexpr int kDeuxListes = 280;  // the width from which zone and sort stand side by side
+constexpr std::chrono::milliseconds kTranche{4};  // of idle time
+constexpr int kApresLaPeinture = 100;             // milliseconds: what is behind the first page comes first
+constexpr int kDeuxListes = 280;                  // the width from which zone and sort stand side by side
 
 }  // namespace
 
@@ -26,6 +31,7 @@ PanneauListe::PanneauListe(const Atelier& atelier, QWidget* parent) : QWidget(pa
     boite->addWidget(choix());
     boite->addWidget(cadreTitres(), 1);
     suisLesGestes();
+    suisLesMarques();
 }
 
 QWidget* PanneauListe::choix() {
@@ -60,6 +66,7 @@ QWidget* PanneauListe::cadreTitres() {
     auto* titre = (new Etiquette)->avecPolice(1.08, QFont::DemiBold);
     connect(cadre, &QWidget::windowTitleChanged, titre, &QLabel::setText);
     m_titres = nomme(new VueTitres(liste.TreeView1), "TreeView1", tr("Liste des titres"));
+    m_filtre = new ChampFiltre(m_atelier, *m_titres);
     auto* statistiques =
         nomme(new Bascule(tr("Afficher des &statistiques lors du tri par catégorie"), QStringLiteral("%")), "AffStats");
     statistiques->setToolTip(
@@ -67,19 +74,25 @@ QWidget* PanneauListe::cadreTitres() {
            "la part des films que contient chaque catégorie (Alt+S)"));
     m_atelier.liaison.lie(liste.AffStats, statistiques);
     m_atelier.auClic(statistiques, browse::AffStats_Click);
-    auto* entete = rangee({titre});
+    // How many titles the filter leaves stands where all of them are told.
+    auto* entete = rangee({titre, m_filtre->compte()}, 0);
     entete->setStretch(0, 1);
+    entete->setStretch(1, 1);
     entete->addWidget(statistiques);
     auto* titres = new QGridLayout;
     titres->setContentsMargins(0, 0, 0, 0);
     titres->addWidget(m_titres, 0, 0);
     titres->addWidget(raisonDuVide(), 0, 0);
+    titres->addWidget(filtreVide(), 0, 0);
     auto* boite = colonne(kSerre);
     boite->addLayout(entete);
+    boite->addWidget(m_filtre);
     boite->addLayout(titres, 1);
     cadre->setLayout(boite);
     m_atelier.liaison.lie(liste.Frame1, cadre);
     m_atelier.liaison.ajoute(m_titres->lien(liste));
+    m_atelier.liaison.apresEcriture([=, this] { titre->setVisible(m_filtre->compte()->isHidden()); });
+    QWidget::setTabOrder(m_filtre, m_titres);
     return cadre;
 }
 
@@ -94,6 +107,38 @@ QWidget* PanneauListe::comptes() {
     auto* cadre = new QWidget;
     cadre->setLayout(rangee({titres, personnels}, kGrand));
     cadre->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    return cadre;
+}
+
+void PanneauListe::montreSeulement(const std::vector<std::uint32_t>& lignes, const QString& libelle) {
+    m_filtre->montreSeulement(lignes, libelle);
+}
+
+QWidget* PanneauListe::filtreVide() {
+    auto* texte = nomme((new Etiquette)->avecTon(Ton::Discret)->avecLignes(4), "lblFiltreVide");
+    auto* aide = (new Etiquette(tr("Chaque mot est cherché dans le titre, le réalisateur, l’année, le genre et les "
+                                   "acteurs.")))
+                     ->avecTon(Ton::Discret)
+                     ->avecLignes(5);
+    for (Etiquette* etiquette : {texte, aide})
+        etiquette->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    auto* tout = bouton<BoutonLien>("cmdToutAfficher", tr("Tout afficher"), tr("Vider le filtre (Échap)"));
+    connect(tout, &QAbstractButton::clicked, m_filtre, &ChampFiltre::montreTout);
+    auto* boite = colonne(kMoyen);
+    boite->setContentsMargins(kLarge, kLarge, kLarge, kLarge);
+    boite->addWidget(texte);
+    boite->addWidget(tout, 0, Qt::AlignHCenter);
+    boite->addWidget(aide);
+    boite->addStretch();
+    auto* cadre = new QWidget;
+    cadre->setLayout(boite);
+    cadre->hide();
+    m_atelier.liaison.apresEcriture([=, this] {
+        const app::Etats& etats = m_atelier.etats();
+        const ModeleArbre& modele = m_titres->modele();
+        cadre->setVisible(modele.estFiltre() && modele.rowCount() == 0 && etats.liste.TreeView1.Nodes.Count() > 0);
+        if (cadre->isVisibleTo(this)) texte->setText(QString::fromStdString(app::raisonDuFiltreVide(etats.filtre)));
+    });
     return cadre;
 }
 
@@ -131,6 +176,28 @@ void PanneauListe::suisLesGestes() {
             m_atelier.session.execute(app::TreeView1_NodeCheck, indice, cochee);
         });
     });
+}
+
+// What the films' rows show is read once the list was painted, and again after a command that changed it.
+void PanneauListe::suisLesMarques() {
+    const app::Session& session = m_atelier.session;
+    m_titres->modele().regardePar(
+        [&session](int noeud) { return session.regarde(browse::marquesDuNoeud, noeud); },
+        [&session](int noeud) { return QString::fromStdString(session.regarde(browse::infobulleDuNoeud, noeud)); });
+    m_marques.setSingleShot(true);
+    connect(&m_marques, &QTimer::timeout, this, &PanneauListe::prepareLesMarques);
+    connect(m_titres, &VueTitres::peinte, this, [this] {
+        m_marques.start(kApresLaPeinture);
+        connect(&m_atelier.commande, &Commande::terminee, &m_marques, [this] { m_marques.start(0); });
+    });
+}
+
+void PanneauListe::prepareLesMarques() {
+    if (m_atelier.commande.enCours()) return;  // its end comes here again
+    if (m_atelier.session.regarde(browse::suisLesMarques, kTranche))
+        m_titres->viewport()->update();
+    else
+        m_marques.start(0);
 }
 
 }  // namespace ui

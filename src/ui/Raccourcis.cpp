@@ -79,6 +79,10 @@ Raccourcis::Raccourcis(const Atelier& atelier, QWidget* fenetre)
 bool Raccourcis::eventFilter(QObject* objet, QEvent* evenement) {
     if (evenement->type() != QEvent::ShortcutOverride) return false;
     const auto* touche = static_cast<const QKeyEvent*>(evenement);
+    if (touche->key() == Qt::Key_K && touche->modifiers() == Qt::ControlModifier) {  // a field would cut its text there
+        evenement->ignore();
+        return true;
+    }
     const bool annuler = touche->matches(QKeySequence::Undo);
     if ((!annuler && !touche->matches(QKeySequence::Redo)) || objet != m_fenetre->focusWidget()) return false;
     const Reprises reprises = reprisesDe(objet);

@@ -18,6 +18,8 @@ namespace ui {
 namespace {
 
 constexpr qint64 kEntreDeuxLettres = 1500;  // milliseconds after which typing begins anew
+constexpr int kLignesDAbord = 1000;         // opened with a keystroke in the filter; more than any screen shows
+constexpr int kReposDeLaFrappe = 150;       // milliseconds after which the others are
 
 // A title as it is typed without minding accents and case; ligatures as their letters.
 QString pourLaFrappe(const QString& texte) {
@@ -42,11 +44,12 @@ bool commencePar(std::string_view titre, const QString& frappe) {
     return pourLaFrappe(QString::fromUtf8(titre.data(), static_cast<qsizetype>(assez)).trimmed()).startsWith(frappe);
 }
 
-// The next node that begins so after `depuis`, in turn; 0 for none.
-int cherche(const browse::Arbre& arbre, const QString& frappe, int depuis, bool groupes) {
+// The next node shown that begins so after `depuis`, in turn; 0 for none.
+int cherche(const ModeleArbre& modele, const browse::Arbre& arbre, const QString& frappe, int depuis, bool groupes) {
     for (int pas = 0; pas < arbre.Count(); ++pas) {
         const int indice = (std::max(depuis, 1) - 1 + pas) % arbre.Count() + 1;
-        if (arbre.estGroupe(indice) == groupes && commencePar(arbre.Text(indice), frappe)) return indice;
+        if (arbre.estGroupe(indice) == groupes && modele.estVu(indice) && commencePar(arbre.Text(indice), frappe))
+            return indice;
     }
     return 0;
 }
@@ -74,12 +77,21 @@ VueTitres::VueTitres(browse::VueArbre& etat, QWidget* parent) : QTreeView(parent
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
     setTextElideMode(Qt::ElideRight);
-    setIndentation(18);
+    setIndentation(kRetraitDArbre);
     setMouseTracking(true);
     header()->setStretchLastSection(true);
     connect(this, &QTreeView::clicked, this, &VueTitres::clique);
-    connect(this, &QTreeView::expanded, this, [this](const QModelIndex& groupe) { m_ouverts.insert(libelle(groupe)); });
+    connect(this, &QTreeView::expanded, this, [this](const QModelIndex& groupe) {
+        if (!m_modele.estFiltre()) m_ouverts.insert(libelle(groupe));
+    });
     connect(this, &QTreeView::collapsed, this, [this](const QModelIndex& groupe) { m_ouverts.erase(libelle(groupe)); });
+    m_resteAOuvrir.setSingleShot(true);
+    connect(&m_resteAOuvrir, &QTimer::timeout, this, [this] {
+        if (!m_modele.estFiltre()) return;
+        const int place = verticalScrollBar()->value();
+        expandAll();
+        verticalScrollBar()->setValue(place);
+    });
 }
 
 std::unique_ptr<Lien> VueTitres::lien(const browse::EtatListe& liste) {
@@ -93,6 +105,69 @@ void VueTitres::clique(const QModelIndex& index) {
 
 void VueTitres::basculeGroupe(const QModelIndex& index) {
     if (m_modele.hasChildren(index)) setExpanded(index, !isExpanded(index));
+}
+
+// Of the row that was chosen; one that is out of sight stays so.
+int VueTitres::choisi() const {
+    const QModelIndexList choisis = selectionModel()->selectedIndexes();
+    if (!choisis.isEmpty()) return ModeleArbre::noeud(choisis.first());
+    const int note = m_modele.etat().SelectedItem;
+    return m_modele.estVu(note) ? 0 : note;
+}
+
+void VueTitres::filtreANouveau() {
+    Noeuds noeuds = m_filtre ? m_filtre() : std::nullopt;
+    const bool filtrait = m_modele.estFiltre(), filtre = noeuds.has_value();
+    if (!filtre && !filtrait) return;
+    const int leChoisi = choisi();
+    if (!filtrait) m_avantFiltre = {m_ouverts, verticalScrollBar()->value(), leChoisi};
+    m_ouverts.clear();
+    m_modele.recommence(std::move(noeuds));
+    filtre ? ouvreTout() : ouvre(m_avantFiltre.ouverts);
+    executeDelayedItemsLayout();
+    updateGeometries();
+    setAutoScroll(false);
+    if (m_modele.estVu(leChoisi))
+        selectionModel()->setCurrentIndex(m_modele.indexDuNoeud(leChoisi), QItemSelectionModel::ClearAndSelect);
+    else
+        entreParLaPremiere();
+    setAutoScroll(true);
+    verticalScrollBar()->setValue(filtre ? 0 : m_avantFiltre.defilement);
+    if (!filtre && leChoisi != 0 && leChoisi != m_avantFiltre.choisi)
+        scrollTo(m_modele.indexDuNoeud(leChoisi), PositionAtCenter);
+}
+
+bool VueTitres::choisitPremierFilm() {
+    const int premier = m_modele.premierFilm();
+    if (premier == 0) return false;
+    montreNoeud(premier);
+    emit noeudChoisi(premier);
+    return true;
+}
+
+void VueTitres::ouvre(const std::set<QString>& libelles) {
+    if (libelles.empty()) return;
+    for (int ligne = 0; ligne < m_modele.rowCount(); ++ligne) {
+        const QModelIndex index = m_modele.index(ligne, 0);
+        if (libelles.contains(libelle(index))) expand(index);
+    }
+}
+
+void VueTitres::ouvreTout() {
+    m_resteAOuvrir.stop();
+    int lignes = 0, rang = 0;
+    for (; rang < m_modele.rowCount() && lignes < kLignesDAbord; ++rang) {
+        const QModelIndex groupe = m_modele.index(rang, 0);
+        if (!m_modele.hasChildren(groupe)) return;  // a flat list
+        lignes += 1 + m_modele.rowCount(groupe);
+        expand(groupe);
+    }
+    if (rang < m_modele.rowCount()) m_resteAOuvrir.start(kReposDeLaFrappe);
+}
+
+// Without a current row nothing would tell where the keys stand.
+void VueTitres::entreParLaPremiere() {
+    if (hasFocus()) selectionModel()->setCurrentIndex(m_modele.index(0, 0), QItemSelectionModel::NoUpdate);
 }
 
 // The headings' texts: those that are open are known by theirs.
@@ -120,8 +195,8 @@ void VueTitres::keyboardSearch(const QString& texte) {
     const browse::Arbre& arbre = m_modele.etat().Nodes;
     const bool seDeplace = frappe.size() == 1 && !selectedIndexes().isEmpty();
     const int depuis = (currentIndex().isValid() ? ModeleArbre::noeud(currentIndex()) : 1) + (seDeplace ? 1 : 0);
-    int trouve = cherche(arbre, frappe, depuis, false);
-    if (trouve == 0) trouve = cherche(arbre, frappe, depuis, true);
+    int trouve = cherche(m_modele, arbre, frappe, depuis, false);
+    if (trouve == 0) trouve = cherche(m_modele, arbre, frappe, depuis, true);
     if (trouve != 0) montreNoeud(trouve);
 }
 
@@ -136,6 +211,10 @@ void VueTitres::keyPressEvent(QKeyEvent* evenement) {
     const bool choisi = selectionModel()->isSelected(avant);
     const bool valide = evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter;
     if (valide && avant.isValid()) return clique(avant);
+    if (evenement->text() == QLatin1String("/") && !frappeEnCours()) {
+        emit filtreVoulu();
+        return;
+    }
     if (frappeEnCours() && estUneLettre(*evenement))  // a blank, a sign: no longer the tree's own
         keyboardSearch(evenement->text());
     else if (!choisitCourant(*evenement))

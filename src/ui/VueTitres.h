@@ -5,7 +5,9 @@
 #include "ui/ModeleArbre.h"
 
 #include <QElapsedTimer>
+#include <QTimer>
 #include <QTreeView>
+#include <functional>
 #include <set>
 
 namespace ui {
@@ -19,6 +21,12 @@ class VueTitres final : public QTreeView {
 
     [[nodiscard]] ModeleArbre& modele() { return m_modele; }
     [[nodiscard]] std::unique_ptr<Lien> lien(const browse::EtatListe& liste);
+
+    // What is shown of the tree, asked for at each filling of it. The headings of what is filtered are open; those that
+    // were before are again when nothing is any more.
+    void filtrePar(std::function<Noeuds()> filtre) { m_filtre = std::move(filtre); }
+    void filtreANouveau();      // it answers something else
+    bool choisitPremierFilm();  // of those shown, as a click on it does; false: there is none
     // What is typed leads to the next film whose title begins so, letter case and accents aside, its heading open or
     // not; to a heading only where there is no such film.
     void keyboardSearch(const QString& texte) override;
@@ -26,6 +34,7 @@ class VueTitres final : public QTreeView {
   signals:
     void noeudChoisi(int indice);                         // click, or a key that moved to it or pressed it
     void menuDemande(int indice, const QPoint& endroit);  // right click, 0 over no node; the place is global
+    void filtreVoulu();                                   // "/" was typed
     void peinte();                                        // painted for the first time
 
   protected:
@@ -40,8 +49,20 @@ class VueTitres final : public QTreeView {
 
   private:
     class LienArbre;
+    static constexpr int kRetraitDArbre = 18, kRetraitDeListe = 6;
+
+    // What comes back when the filter goes.
+    struct AvantFiltre {
+        std::set<QString> ouverts;
+        int defilement = 0;
+        int choisi = 0;
+    };
 
     void clique(const QModelIndex& index);
+    [[nodiscard]] int choisi() const;
+    void ouvre(const std::set<QString>& libelles);
+    void ouvreTout();
+    void entreParLaPremiere();
     [[nodiscard]] bool prends(const QMouseEvent& evenement);
     [[nodiscard]] QModelIndex caseSous(const QMouseEvent& evenement) const;
     void basculeGroupe(const QModelIndex& index);
@@ -50,9 +71,12 @@ class VueTitres final : public QTreeView {
     [[nodiscard]] bool choisitCourant(const QKeyEvent& evenement) const;
 
     ModeleArbre m_modele;
+    std::function<Noeuds()> m_filtre;
+    AvantFiltre m_avantFiltre;
     std::set<QString> m_ouverts;  // the labels of the open headings
     QPersistentModelIndex m_casePressee, m_pressee;
-    QString m_frappe;  // typed so far, to find a title
+    QTimer m_resteAOuvrir;  // headings of what is filtered, beyond those first seen
+    QString m_frappe;       // typed so far, to find a title
     QElapsedTimer m_depuisLaFrappe;
     bool m_peinte = false;
 };

@@ -32,6 +32,10 @@ struct Liste : testing::Test {
         const QModelIndexList choisis = essai.arbre().selectionModel()->selectedIndexes();
         return choisis.isEmpty() ? QString() : choisis.first().data().toString();
     }
+    // What a screen reader says of the row.
+    [[nodiscard]] std::string lu() {
+        return essai.arbre().currentIndex().data(Qt::AccessibleTextRole).toString().toStdString();
+    }
     [[nodiscard]] int hauteur() { return essai.arbre().visualRect(essai.arbre().currentIndex()).top(); }
     [[nodiscard]] QScrollBar& ascenseur() { return *essai.arbre().verticalScrollBar(); }
     // Brings a film deep in the list to a height of its own.
@@ -102,6 +106,7 @@ TEST_F(Liste, TheChosenRowStaysWhereItWasThroughACommand) {
     essai.clique("cmdModifieNote");
     EXPECT_EQ(choisi(), "Film 20");
     EXPECT_EQ(hauteur(), 70);
+    EXPECT_TRUE(essais::attends([&] { return lu() == "Film 20, possédé, noté 7/10"; }));
 
     essai.choisit("ChoixTri", 4);
     EXPECT_EQ(ascenseur().value(), 0) << "another sort begins at its top";
@@ -109,10 +114,13 @@ TEST_F(Liste, TheChosenRowStaysWhereItWasThroughACommand) {
     descends("Film 22");
     essai.clique("cmdAutresInfos");
     QTest::keyClicks(&essai.trouve("Text10_3"), "Grenier");
+    essai.trouve<QComboBox>("Combo7_0").setEditText("Paul");
     essai.clique("cmdValiderInfosPossessions");
     EXPECT_EQ(choisi(), "Film 22");
     EXPECT_EQ(hauteur(), 70);
     EXPECT_TRUE(essai.arbre().isExpanded(essai.arbre().model()->index(1, 0))) << "the other heading stays open";
+    EXPECT_TRUE(essais::attends([&] { return lu() == "Film 22, possédé, prêté"; }));
+    EXPECT_EQ(essai.arbre().currentIndex().data(Qt::ToolTipRole).toString(), "Film 22\nQuelqu'un, 2001\nPossédé, prêté");
 
     essai.choisit("ChoixZone", 0);
     EXPECT_EQ(ascenseur().value(), 0);

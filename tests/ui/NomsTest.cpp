@@ -75,7 +75,8 @@ bool aUnMnemonique(QWidget& fenetre, const QWidget& champ) {
 // What is typed or chosen in.
 bool estUnChamp(const QWidget& widget) {
     if (qobject_cast<const QComboBox*>(widget.parent()) || qobject_cast<const QAbstractSpinBox*>(widget.parent()))
-        return false;  // the list, the number is the field
+        return false;                                                  // the list, the number is the field
+    if (widget.objectName() == QLatin1String("Filtre")) return false;  // Ctrl+K goes there
     return qobject_cast<const QAbstractSpinBox*>(&widget) || qobject_cast<const QLineEdit*>(&widget) ||
            qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QPlainTextEdit*>(&widget) ||
            qobject_cast<const QCheckBox*>(&widget) || qobject_cast<const QRadioButton*>(&widget);

@@ -56,6 +56,7 @@ class Connexion {
     // 3024 when the base's path no longer leads to the file that was opened.
     void veille();
     [[nodiscard]] Emplacement emplacement() const;
+    [[nodiscard]] std::uint32_t numero() const { return m_numero; }  // of this opening, among those of the program
     // Grows when everything known before may be wrong.
     [[nodiscard]] std::uint64_t epoque() const { return m_epoque; }
     // Grows with each change to a row.
@@ -82,8 +83,11 @@ class Connexion {
     void exigeEnPlace() const;
     void exigeTransaction() const;  // the one that was begun is still there; throws ErreurDao 3043
 
+    inline static std::uint32_t s_ouvertes = 0;
+
     Poignee m_base;
     std::string m_nom;
+    const std::uint32_t m_numero = ++s_ouvertes;
     std::optional<std::pair<dev_t, ino_t>> m_fichier;                     // the one that was opened
     std::map<std::string, std::unique_ptr<Table>, std::less<>> m_tables;  // by lower-case name
     std::vector<Cle> m_cles;

@@ -34,12 +34,18 @@ Database::Database(Database&&) noexcept = default;
 Database& Database::operator=(Database&&) noexcept = default;
 Database::~Database() = default;
 
-Recordset Database::OpenRecordset(std::string_view source) {
+Recordset Database::OpenRecordset(std::string_view source, std::span<const std::string_view> portees) {
     interne::Connexion& connexion = ouverte(m_connexion);
     connexion.veille();
     if (estUnNom(source)) return Recordset(std::make_unique<interne::JeuVivant>(connexion, connexion.table(source)));
-    const interne::Plan plan = interne::planifie(connexion, interne::analyseEnonce(source));
+    const interne::Plan plan = interne::planifie(connexion, interne::analyseEnonce(source), portees);
     return Recordset(std::make_unique<interne::JeuDeCles>(connexion, plan, interne::execute(connexion, plan)));
+}
+
+Database::Version Database::version(std::string_view table) const {
+    interne::Connexion& connexion = ouverte(m_connexion);
+    return {(std::uint64_t{connexion.numero()} << 32) + connexion.epoque(),
+            connexion.table(table).suivi.derniereEcriture};
 }
 
 void Database::declareCles(std::vector<Cle> cles) {

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,7 +37,16 @@ class Database {
 
     // A table name gives a live recordset, a SELECT a keyset. The statement is taken as the program writes it, with
     // Jet's text comparison. Throws ErreurDao 3075 (syntax), 3061 (unknown column), 3078 (unknown table), or a disk error.
-    [[nodiscard]] Recordset OpenRecordset(std::string_view source);
+    // `portees` are columns that a keyset keeps with its records, as it keeps those that order them: `vue` of one then asks
+    // nothing of the file as long as nobody changes the row. A table without one of them does without.
+    [[nodiscard]] Recordset OpenRecordset(std::string_view source, std::span<const std::string_view> portees = {});
+
+    // Differs from what it was once a row of the table was changed, or may have been. Throws ErreurDao 3078.
+    struct Version {
+        std::uint64_t epoque = 0, ecriture = 0;
+        friend bool operator==(const Version&, const Version&) = default;
+    };
+    [[nodiscard]] Version version(std::string_view table) const;
 
     // What rows are found by, in whichever table has both columns of a pair. Without it, rows are looked up by reading
     // all of them, and what Cle says does not hold. To be called before anything is opened on the base.

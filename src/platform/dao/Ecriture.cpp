@@ -95,7 +95,7 @@ long long ajouteLigne(Connexion& connexion, Table& table, const Assignees& assig
     suivi.plusHaute = std::max(suivi.plusHaute, ligne);
     if (suivi.compte) ++*suivi.compte;
     if (suivi.index.estConstruit()) indexe(connexion, table, ligne);
-    connexion.nouvelleVersion();
+    suivi.derniereEcriture = connexion.nouvelleVersion();
     return ligne;
 }
 
@@ -113,7 +113,7 @@ void modifieLigne(Connexion& connexion, Table& table, long long ligne, const Ass
         modification.execute();
     }
     if (sqlite3_changes(connexion.brute()) == 0) jetteSupprime();
-    ecrite = connexion.nouvelleVersion();
+    ecrite = table.suivi.derniereEcriture = connexion.nouvelleVersion();
     if (ancien) table.suivi.index.retire(*ancien, ligne);
     if (aSuivre) indexe(connexion, table, ligne);
 }
@@ -136,7 +136,7 @@ void supprimeLigne(Connexion& connexion, Table& table, long long ligne) {
     if (ancien) suivi.index.retire(*ancien, ligne);
     suivi.plusHaute = std::max(suivi.plusHaute, ligne);
     if (suivi.compte) --*suivi.compte;
-    connexion.nouvelleVersion();
+    suivi.derniereEcriture = connexion.nouvelleVersion();
 }
 
 Valeur litChamp(Connexion& connexion, const Table& table, RangColonne colonne, long long ligne) {

@@ -28,6 +28,7 @@ class Jeu {
     void deplace(long pas);
     [[nodiscard]] bool fini() const;
     [[nodiscard]] long compte();
+    [[nodiscard]] virtual long place() const { return -1; }  // of the current record, where they have places
 
     // None: no such field, reading it gives "".
     [[nodiscard]] std::optional<RangChamp> rang(std::string_view nom) const;

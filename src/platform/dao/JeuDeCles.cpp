@@ -39,7 +39,7 @@ void JeuDeCles::pas(long nombre) {
 }
 
 const long long* JeuDeCles::ligne(RangTable table) {
-    const RangLigne rang = place(table);
+    const RangLigne rang = ligneGardee(table);
     return rang == kSansLigne ? nullptr : &m_resultat.magasins[table].id(rang);
 }
 
@@ -56,7 +56,7 @@ void JeuDeCles::exigePresent() {
 std::optional<ValeurVue> JeuDeCles::gardee(ChampDeJeu champ) {
     const Gardees& gardees = m_gardees[champ.table];
     const auto rang = gardees.rangs[champ.colonne];
-    const RangLigne ou = place(champ.table);
+    const RangLigne ou = ligneGardee(champ.table);
     if (!rang || static_cast<std::size_t>(ou) >= gardees.lignes) return std::nullopt;
     const Magasin& magasin = m_resultat.magasins[champ.table];
     if (!m_fige &&
@@ -85,11 +85,12 @@ bool JeuDeCles::litVue(ChampDeJeu champ, std::string_view& texte) {
 }
 
 void JeuDeCles::vaParcourir(ChampDeJeu champ) {
-    m_avances[champ.table].demande(champ.colonne);
+    if (!m_gardees[champ.table].rangs[champ.colonne]) m_avances[champ.table].demande(champ.colonne);
 }
 
 bool JeuDeCles::litDAvance(ChampDeJeu champ, std::string_view& texte) {
     LectureDAvance& avance = m_avances[champ.table];
+    avance.demande(champ.colonne);  // one that is kept, and was changed
     Connexion& base = connexion();
     const Table& lue = table(champ.table);
     const long long id = *ligne(champ.table);

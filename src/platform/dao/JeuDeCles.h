@@ -16,6 +16,8 @@ class JeuDeCles : public Jeu {
   public:
     JeuDeCles(Connexion& connexion, const Plan& plan, Resultat resultat);
 
+    [[nodiscard]] long place() const override { return aUnCourant() ? m_position : -1; }
+
   protected:
     void premier() override { m_position = 0; }
     void pas(long nombre) override;
@@ -31,7 +33,7 @@ class JeuDeCles : public Jeu {
 
   private:
     [[nodiscard]] long taille() const { return static_cast<long>(m_resultat.lignes[kPremiere].size()); }
-    [[nodiscard]] RangLigne place(RangTable table) const {
+    [[nodiscard]] RangLigne ligneGardee(RangTable table) const {
         return m_resultat.lignes[table][static_cast<std::size_t>(m_position)];
     }
     [[nodiscard]] std::optional<ValeurVue> gardee(ChampDeJeu champ);

@@ -24,7 +24,7 @@ class Planificateur {
         m_plan.gauche = enonce.jointure->gauche;
     }
 
-    Plan plan() {
+    Plan plan(std::span<const std::string_view> portees) {
         montre();
         if (m_enonce.jointure) joint(*m_enonce.jointure);
         for (const Terme& terme : m_enonce.termes)
@@ -33,6 +33,8 @@ class Planificateur {
         departage();
         for (const RangTable rang : m_plan.tables.rangs())
             gardeLaCle(rang);
+        for (const std::string_view nom : portees)
+            porte(nom);
         chercheLaCle();
         return std::move(m_plan);
     }
@@ -176,6 +178,11 @@ class Planificateur {
         lit({rang, cle->seconde});
     }
 
+    void porte(std::string_view nom) {
+        for (const RangTable rang : m_plan.tables.rangs())
+            if (const auto colonne = table(rang).rang(nom); colonne && !m_plan.distinct) lit({rang, *colonne});
+    }
+
     void chercheLaCle() {
         const auto& cle = table(kPremiere).cle;
         if (m_plan.tables.size() != 1 || !cle) return;
@@ -204,8 +211,8 @@ class Planificateur {
 
 }  // namespace
 
-Plan planifie(Connexion& connexion, const Enonce& enonce) {
-    return Planificateur(connexion, enonce).plan();
+Plan planifie(Connexion& connexion, const Enonce& enonce, std::span<const std::string_view> portees) {
+    return Planificateur(connexion, enonce).plan(portees);
 }
 
 }  // namespace dao::interne

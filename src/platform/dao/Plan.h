@@ -4,7 +4,9 @@
 #include "platform/dao/Jeu.h"
 
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -50,7 +52,8 @@ struct Plan {
     std::optional<CleCherchee> cle;     // the one table is looked up by its key
 };
 
+// `portees`: columns to be kept with the rows, where a table has them.
 // Throws ErreurDao 3061 (unknown column), 3078 (unknown table), 3075 (a condition that is asked of both tables at once).
-[[nodiscard]] Plan planifie(Connexion& connexion, const Enonce& enonce);
+[[nodiscard]] Plan planifie(Connexion& connexion, const Enonce& enonce, std::span<const std::string_view> portees = {});
 
 }  // namespace dao::interne

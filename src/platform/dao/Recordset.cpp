@@ -41,6 +41,9 @@ void Recordset::Move(long pas) {
 bool Recordset::Eof() const {
     return ouvert(m_jeu).fini();
 }
+long Recordset::AbsolutePosition() const {
+    return ouvert(m_jeu).place();
+}
 long Recordset::RecordCount() const {
     return ouvert(m_jeu).compte();
 }

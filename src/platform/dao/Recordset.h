@@ -60,6 +60,8 @@ class Recordset {
     void MoveNext();
     void Move(long pas);  // steps from the current record, either way; past either end there is no current record
     [[nodiscard]] bool Eof() const;
+    // Of a statement's current record, from 0: what Move goes to from the first one. -1 without one, and on a table.
+    [[nodiscard]] long AbsolutePosition() const;
     [[nodiscard]] long RecordCount() const;
 
     [[nodiscard]] Champ Fields(std::string_view nom) { return Champ(*this, nom); }

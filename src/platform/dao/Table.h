@@ -41,6 +41,7 @@ struct Suivi {
     std::unordered_set<long long> supprimees;
     std::vector<long long> supprimeesEnCours;  // by the open transaction
     long long plusHaute = 0;
+    std::uint64_t derniereEcriture = 0;  // the version of the last change
     std::optional<long> compte;
     IndexDeCles index;
 };

@@ -65,6 +65,10 @@ double ValeurVue::enNombre() const {
 
 std::string_view texteDe(const ValeurVue& valeur, std::string& tampon) {
     if (valeur.type != ValeurVue::Type::Nombre) return valeur.texte;
+    // A listing keeps a rating of each film: the general way takes longer than reading it.
+    if (const int chiffre = valeur.nombre >= 1 && valeur.nombre <= 9 ? static_cast<int>(valeur.nombre) : 0;
+        chiffre != 0 && chiffre == valeur.nombre)
+        return tampon.assign(1, static_cast<char>('0' + chiffre));
     return tampon = texteDeNombre(valeur.nombre);
 }
 

@@ -73,16 +73,23 @@ TEST_F(FiltreTitresTest, ItsIndexFollowsTheListingAndOnlyThat) {
     EXPECT_THAT(trouves("varda"), IsEmpty());
 }
 
-TEST_F(FiltreTitresTest, ALimitNarrowsUntilTheListingIsAnother) {
+TEST_F(FiltreTitresTest, ALimitNarrowsToItsFilmsWhateverIsListedNext) {
     filtre.limite(c, {1, 4, 9, 0});
     EXPECT_THAT(trouves(""), ElementsAre("C", "Cléo de 5 à 7", "S", "Sans toit ni loi"));
     EXPECT_TRUE(filtre.actif());
     EXPECT_THAT(trouves("1962"), ElementsAre("C", "Cléo de 5 à 7"));
     filtre.leveLaLimite();
     EXPECT_EQ(filtre.filtre(c, "dra").nombre(), 2);
-    filtre.limite(c, {2});
+    filtre.limite(c, {3});
+    ajouteFilm("Avant lui", {{"Genre", "Drame"}});
     AffichageApresModification(c);
-    EXPECT_EQ(filtre.filtre(c, "dra").nombre(), 2);
+    EXPECT_THAT(trouves("dra"), ElementsAre("L", "Le Cœur en hiver"));
+    base.liste.MoveFirst();
+    base.liste.Move(2);
+    filtre = FiltreTitres();
+    filtre.limite(c, {});
+    EXPECT_EQ(filtre.filtre(c, "").nombre(), 0);
+    EXPECT_EQ(base.liste.AbsolutePosition(), 2) << "a command may be walking there";
 }
 
 TEST_F(FiltreTitresTest, MarksTheLettersOfATitle) {

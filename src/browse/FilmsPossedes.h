@@ -1,0 +1,41 @@
+#pragma once
+
+#include "db/Contexte.h"
+
+#include <chrono>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace browse {
+
+struct Possession {
+    bool possede = false, prete = false, reserve = false;
+    friend bool operator==(const Possession&, const Possession&) = default;
+};
+
+// Which films are owned, lent and reserved, by title and director as the listings join them. Read from the index of the
+// holdings, never from their rows: a dozen bytes a holding. Of a film's several holdings, each counts.
+class FilmsPossedes {
+  public:
+    // Reads on, for about as long as said, what changed since; the opening of the index is one piece. True once all is
+    // known. Throws dao::ErreurDao.
+    bool prepare(const db::Contexte& c, std::chrono::milliseconds duree);
+    // What was known when `prepare` last ended; nothing of another base.
+    [[nodiscard]] Possession cherche(std::string_view titre, std::string_view realisateur) const;
+
+  private:
+    void commence(const db::Contexte& c, const dao::Database::Version& version);
+    [[nodiscard]] bool lit(const db::Contexte& c, std::chrono::milliseconds duree);
+    void ajouteLigne();
+
+    using Possessions = std::unordered_map<std::uint64_t, Possession>;  // by a hash of both
+    Possessions m_connues, m_enCours;
+    dao::Recordset m_lignes;  // open while they are read
+    dao::Database::Version m_version{};
+    std::string m_base;
+    bool m_aJour = false;
+};
+
+}  // namespace browse
