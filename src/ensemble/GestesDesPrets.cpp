@@ -26,9 +26,9 @@ void cmdRendu_Click(const Contexte& c, const std::vector<db::CleFilm>& films) {
     c.avis.montre(bilan.texte("rendu"), std::move(actions));
 }
 
-void cmdPreter_Click(const Contexte& c, const std::string& saisie) {
+void cmdPreter_Click(const Contexte& c, const FiltreTitres& filtre, const std::string& saisie) {
     const std::string aQui = util::coupe(sansBlancsAuBord(saisie), edit::kLongueurDivers);
-    const std::vector<db::CleFilm> films = filmsChoisis(c);
+    const std::vector<db::CleFilm> films = filmsChoisis(c, filtre);
     if (films.empty()) return c.avis.montre("Choisissez d'abord dans la liste le film à prêter.");
     if (aQui.empty()) return c.avis.montre("Tapez le nom de la personne à qui prêter.");
     c.avis.montre(preteFilms(c, films, aQui).texte("prêté"));

@@ -260,14 +260,17 @@ BilanDesPrets prete(const Contexte& c, const std::vector<db::CleFilm>& films, Ch
     return bilan;
 }
 
-// Of the tree: the nodes that are ticked, else those under the heading that is selected, else the one that is.
-std::vector<std::int32_t> noeudsChoisis(const browse::VueArbre& vue) {
+// Of the tree: the nodes that are ticked, else those in sight under the heading that is selected, else the one that is.
+std::vector<std::int32_t> noeudsChoisis(const browse::VueArbre& vue, const FiltreTitres& filtre) {
     std::vector<std::int32_t> noeuds(vue.coches.begin(), vue.coches.end());
     const auto existe = [&](std::int32_t noeud) { return noeud >= 1 && noeud <= vue.Nodes.Count(); };
     std::erase_if(noeuds, [&](std::int32_t noeud) { return !existe(noeud) || vue.Nodes.estGroupe(noeud); });
     if (!noeuds.empty() || !existe(vue.SelectedItem)) return noeuds;
-    if (vue.Nodes.estGroupe(vue.SelectedItem)) return vue.Nodes.enfants(vue.SelectedItem);
-    return {vue.SelectedItem};
+    if (!vue.Nodes.estGroupe(vue.SelectedItem)) return {vue.SelectedItem};
+    const auto& enfants = vue.Nodes.enfants(vue.SelectedItem);
+    std::ranges::copy_if(enfants, std::back_inserter(noeuds),
+                         [&](std::int32_t noeud) { return filtre.estVu(vue.Nodes, noeud); });
+    return noeuds;
 }
 
 }  // namespace
@@ -281,15 +284,15 @@ BilanDesPrets preteAQuiAttend(const Contexte& c, const std::vector<db::CleFilm>&
     return prete(c, films, [](const Pret& pret) -> const std::string& { return pret.pourQui; });
 }
 
-std::vector<db::CleFilm> filmsChoisis(const Contexte& c) {
+std::vector<db::CleFilm> filmsChoisis(const Contexte& c, const FiltreTitres& filtre) {
     std::vector<db::CleFilm> films;
-    for (const std::int32_t noeud : noeudsChoisis(c.liste.TreeView1))
+    for (const std::int32_t noeud : noeudsChoisis(c.liste.TreeView1, filtre))
         if (auto film = browse::filmDuNoeud(c, noeud)) films.push_back(std::move(*film));
     return films;
 }
 
-std::string texteDuChoix(const browse::VueArbre& vue) {
-    const std::vector<std::int32_t> noeuds = noeudsChoisis(vue);
+std::string texteDuChoix(const browse::VueArbre& vue, const FiltreTitres& filtre) {
+    const std::vector<std::int32_t> noeuds = noeudsChoisis(vue, filtre);
     if (noeuds.empty()) return {};
     if (noeuds.size() == 1) return util::entreChevrons(vue.Nodes.Text(noeuds.front()));
     const std::string films = util::phraseCompte(std::ssize(noeuds), "# film", "# films");

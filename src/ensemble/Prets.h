@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ensemble/Contexte.h"
+#include "ensemble/FiltreTitres.h"
 
 #include <chrono>
 #include <optional>
@@ -64,8 +65,8 @@ BilanDesPrets preteFilms(const Contexte& c, const std::vector<db::CleFilm>& film
 BilanDesPrets preteAQuiAttend(const Contexte& c, const std::vector<db::CleFilm>& films);
 
 // Of the tree: the films that are ticked, else those under the heading that is selected, else the film that is.
-[[nodiscard]] std::vector<db::CleFilm> filmsChoisis(const Contexte& c);
+[[nodiscard]] std::vector<db::CleFilm> filmsChoisis(const Contexte& c, const FiltreTitres& filtre);
 // The same films in words, without a look at the base: "« Alien »", "12 films de « Drame »", "3 films cochés"; "" for none.
-[[nodiscard]] std::string texteDuChoix(const browse::VueArbre& vue);
+[[nodiscard]] std::string texteDuChoix(const browse::VueArbre& vue, const FiltreTitres& filtre);
 
 }  // namespace ensemble

@@ -88,10 +88,6 @@ ChampFiltre::ChampFiltre(const Atelier& atelier, VueTitres& titres, QWidget* par
     });
 }
 
-void ChampFiltre::montreSeulement(const std::vector<std::uint32_t>& lignes, const QString& libelle) {
-    m_atelier.execute(app::montreSeulement, lignes, libelle.toStdString());
-}
-
 void ChampFiltre::montreTout() {
     m_champ->clear();
     if (m_atelier.etats().filtre.titres.estLimite()) m_atelier.execute(app::leveLaLimite);

@@ -5,8 +5,6 @@
 #include <QLabel>
 #include <QTimer>
 #include <QWidget>
-#include <cstdint>
-#include <vector>
 
 class QKeyEvent;
 class QLineEdit;
@@ -23,8 +21,6 @@ class ChampFiltre final : public QWidget {
   public:
     ChampFiltre(const Atelier& atelier, VueTitres& titres, QWidget* parent = nullptr);
 
-    // These rows of the listing alone; `libelle` is what they are called.
-    void montreSeulement(const std::vector<std::uint32_t>& lignes, const QString& libelle);
     void montreTout();  // neither words nor limit
 
     [[nodiscard]] QLabel* compte() { return m_compte; }  // "12 titres sur 840", hidden while nothing is filtered

@@ -3,6 +3,7 @@
 #include "ui/Couleurs.h"
 #include "ui/Icones.h"
 #include "ui/Infobulles.h"
+#include "ui/Marques.h"
 #include "ui/ModeleArbre.h"
 #include "ui/Traits.h"
 
@@ -66,16 +67,11 @@ int peintMarques(QPainter& peintre, const QStyleOptionViewItem& ligne, const bro
     const QColor vive = choisie ? encre(ligne) : accentLisible(ligne.palette);
     const int cote = ligne.fontMetrics.ascent();
     int droite = ligne.rect.right() - kMargeDuNombre + 1;
-    const auto peint = [&](bool vrai, Pictogramme pictogramme, const QColor& couleur) {
-        if (!vrai) return;
-        peintPictogramme(peintre, QRect(droite - cote, ligne.rect.center().y() - cote / 2, cote, cote), pictogramme,
-                         couleur);
+    for (const Marque& marque : marquesDessinees(marques)) {
+        peintPictogramme(peintre, QRect(droite - cote, ligne.rect.center().y() - cote / 2, cote, cote),
+                         marque.pictogramme, marque.vive ? vive : calme);
         droite -= cote + kEntreMarques;
-    };
-    peint(marques.possession.possede, Pictogramme::Possede, calme);
-    peint(marques.possession.prete, Pictogramme::Prete, vive);
-    peint(marques.possession.reserve, Pictogramme::Reserve, vive);
-    peint(marques.note != 0, Pictogramme::Etoile, calme);
+    }
     return ligne.rect.right() + 1 - droite;
 }
 

@@ -106,6 +106,7 @@ void FenetrePrincipale::compose() {
     boite->addWidget(partage, 1);
     m_bas = new Pied(m_atelier, m_liste->comptes());
     boite->addWidget(m_bas);
+    connect(m_liste, &PanneauListe::marquesLues, m_page, &PageGroupe::repeins);
     connect(m_liste->titres(), &VueTitres::peinte, this,
             [this] { QTimer::singleShot(0, this, [this] { completePanneaux(); }); });
 }

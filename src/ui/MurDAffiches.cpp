@@ -3,6 +3,7 @@
 #include "ui/Couleurs.h"
 #include "ui/Icones.h"
 #include "ui/Interface.h"
+#include "ui/Marques.h"
 #include "ui/ModeleMur.h"
 #include "ui/Traits.h"
 
@@ -23,7 +24,7 @@ namespace {
 
 constexpr std::array kLargeurs{84, 104, 128, 156, 190, 230, 280, 340};  // that tiles are wished to have
 constexpr int kNiveauParDefaut = 2;
-constexpr int kEspace = 14, kSousLAffiche = 6;
+constexpr int kEspace = 14, kSousLAffiche = 6, kEntreMarques = 4;
 constexpr int kReposDeLaTaille = 150;    // milliseconds after which posters are decoded at a new size
 constexpr int kPendantUneCommande = 50;  // milliseconds until the next try
 constexpr qint64 kLectureDAffilee = 4;   // milliseconds that reading may take between two events
@@ -146,8 +147,17 @@ QString MurDAffiches::nom(int tuile) const {
     const Legende* connue = legende(tuile);
     if (!connue && peutLire()) connue = &const_cast<MurDAffiches*>(this)->legendeLue(tuile);
     if (!connue) return titre(tuile);
-    return QString::fromStdString(ensemble::nomDuFilm(connue->titre.toStdString(), connue->realisateur.toStdString(),
-                                                      connue->annee.toStdString()));
+    const std::string film = ensemble::nomDuFilm(connue->titre.toStdString(), connue->realisateur.toStdString(),
+                                                 connue->annee.toStdString());
+    const std::string marquee = browse::texteDesMarques(marques(tuile));
+    return QString::fromStdString(marquee.empty() ? film : film + ", " + marquee);
+}
+
+// Those of the listing's rows; of a film above it its line tells.
+browse::MarquesFilm MurDAffiches::marques(int tuile) const {
+    const auto& voulue = m_mur.tuiles[static_cast<std::size_t>(tuile)];
+    if (voulue.film >= 0 || !peutLire()) return {};
+    return m_atelier.session.regarde(browse::marquesDuNoeud, voulue.noeud);
 }
 
 // While a command runs the base is its own, and a tree that was filled anew has other nodes.
@@ -448,6 +458,7 @@ void MurDAffiches::peintTuile(QPainter& peintre, int tuile) const {
     } else {
         peintSurface(peintre, QRectF(place), voile(palette()), {});  // not known yet
     }
+    peintMarques(peintre, place, marques(tuile));
     const bool courante = hasFocus() && currentIndex().row() == tuile;
     const bool sous = viewport()->underMouse() && entiere.contains(viewport()->mapFromGlobal(QCursor::pos()));
     if (courante || sous)
@@ -458,6 +469,24 @@ void MurDAffiches::peintTuile(QPainter& peintre, int tuile) const {
     peintre.setPen(courante ? palette().color(QPalette::WindowText) : texteDiscret(palette()));
     peintre.drawText(ligne, Qt::AlignHCenter | Qt::AlignVCenter,
                      fontMetrics().elidedText(titre(tuile), Qt::ElideRight, ligne.width()));
+}
+
+// In the poster's lower corner, on a ground of their own.
+void MurDAffiches::peintMarques(QPainter& peintre, const QRect& affiche, const browse::MarquesFilm& marques) const {
+    const std::vector<Marque> dessinees = marquesDessinees(marques);
+    if (dessinees.empty()) return;
+    const int cote = fontMetrics().ascent(), large = cote + kEntreMarques, air = kEntreMarques;
+    const QRect fond(affiche.right() + 1 - air - static_cast<int>(dessinees.size()) * large - kEntreMarques,
+                     affiche.bottom() + 1 - air - cote - 2 * kEntreMarques,
+                     static_cast<int>(dessinees.size()) * large + kEntreMarques, cote + 2 * kEntreMarques);
+    const QColor surface = palette().color(QPalette::Base);
+    peintSurface(peintre, QRectF(fond), surface, filet(palette()), kRayon);
+    int droite = fond.right() + 1 - kEntreMarques;
+    for (const Marque& marque : dessinees) {
+        peintPictogramme(peintre, QRect(droite - cote, fond.y() + kEntreMarques, cote, cote), marque.pictogramme,
+                         marque.vive ? accentLisible(palette()) : lisible(texteDiscret(palette()), {surface}));
+        droite -= large;
+    }
 }
 
 void MurDAffiches::peintAfficheDessinee(QPainter& peintre, const QRect& place, int tuile, const Legende& l) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "browse/MarquesFilm.h"
 #include "ensemble/MurDAffiches.h"
 #include "ensemble/PlanDuMur.h"
 #include "ui/Atelier.h"
@@ -80,6 +81,8 @@ class MurDAffiches final : public QListView {
         QString titre, realisateur, annee;
         QByteArray film;  // what its poster is kept under
     };
+    [[nodiscard]] browse::MarquesFilm marques(int tuile) const;
+    void peintMarques(QPainter& peintre, const QRect& affiche, const browse::MarquesFilm& marques) const;
     void replace(int ancre, int hauteurDeLAncre);
     [[nodiscard]] ensemble::PlanDuMur::Mesures mesures(int niveau) const;
     void pose();

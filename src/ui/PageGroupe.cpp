@@ -64,6 +64,7 @@ void PageGroupe::suis() {
     const bool accueil = panneaux.framePresentation.Visible && !browse::catalogueVide(etats.liste);
     const bool voulue = sousUneBande || accueil || collection;
     m_rangeesVoulues = !sousUneBande;
+    suisLeFiltre();
     if (voulue && origine() != m_origine) perime();
     setVisible(voulue);
 }
@@ -84,7 +85,11 @@ void PageGroupe::perime() {
     update();
 }
 
-void PageGroupe::metVues(std::optional<ensemble::LignesVues> vues) {
+// Between a new listing and the filter's next answer all of it is shown.
+void PageGroupe::suisLeFiltre() {
+    const ensemble::FiltreTitres& filtre = m_atelier.etats().filtre.titres;
+    std::optional<ensemble::LignesVues> vues;
+    if (filtre.actif() && !filtre.estPerime()) vues = filtre.vues();
     if (vues == m_vues) return;
     m_vues = std::move(vues);
     m_origine.generation = -1;
@@ -116,6 +121,10 @@ void PageGroupe::metAJour() {
     if (!avant.memesFilms(m_origine)) m_mur->perime();
     if (avant.generation != m_origine.generation || mur != m_mur->mur())
         m_mur->montre(std::move(mur), memeContenu && !m_vues);
+}
+
+void PageGroupe::repeins() {
+    m_mur->viewport()->update();
 }
 
 void PageGroupe::paintEvent(QPaintEvent*) {

@@ -22,8 +22,7 @@ class PageGroupe final : public QWidget {
   public:
     explicit PageGroupe(const Atelier& atelier, QWidget* parent = nullptr);
 
-    // Only these rows of the listing are shown from now on; nothing: all of them. They hold for the tree as it is.
-    void metVues(std::optional<ensemble::LignesVues> vues);
+    void repeins();  // what the films' marks are is known now
 
   signals:
     // A right click on the tile of a node, or of a film that the tree need not have; the place is global.
@@ -52,6 +51,7 @@ class PageGroupe final : public QWidget {
         friend bool operator==(const Contenu&, const Contenu&) = default;
     };
     void suis();
+    void suisLeFiltre();
     void metAJour();
     [[nodiscard]] Origine origine() const;
     void perime();

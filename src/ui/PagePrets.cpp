@@ -162,7 +162,8 @@ void PagePrets::montreLeBilan() {
 
 // What "Prêter" would lend. The tree is beside the page: another choice there is told here.
 void PagePrets::suisLeChoix() {
-    const std::string choix = ensemble::texteDuChoix(atelier().etats().liste.TreeView1);
+    const std::string choix =
+        ensemble::texteDuChoix(atelier().etats().liste.TreeView1, atelier().etats().filtre.titres);
     m_choix->setText(choix.empty() ? tr("Choisissez un film de la liste")
                                    : tr("Prêter %1").arg(QString::fromStdString(choix)));
     m_aQui->setEnabled(!choix.empty());
@@ -183,8 +184,10 @@ void PagePrets::activeLesBoutons() {
 void PagePrets::prete() {
     const QString nom = m_aQui->currentText();
     if (nom.trimmed().isEmpty()) return m_aQui->setFocus(Qt::OtherFocusReason);
-    if (atelier().execute(ensemble::cmdPreter_Click, nom.toStdString()) == Commande::Issue::Faite)
-        m_aQui->setEditText({});
+    const auto prete = [&](const app::Contexte& c) {
+        ensemble::cmdPreter_Click(c, c.etats.filtre.titres, nom.toStdString());
+    };
+    if (atelier().execute(prete) == Commande::Issue::Faite) m_aQui->setEditText({});
 }
 
 void PagePrets::rend() {

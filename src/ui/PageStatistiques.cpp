@@ -1,5 +1,6 @@
 #include "ui/PageStatistiques.h"
 
+#include "app/Filtre.h"
 #include "export/DernierExport.h"
 #include "platform/fichiers/Fichiers.h"
 #include "ui/Boutons.h"
@@ -172,8 +173,8 @@ void PageStatistiques::montre() {
 
 void PageStatistiques::demandeLesFilms(int rang) {
     const ensemble::Barre& barre = diagramme()->barres.at(static_cast<std::size_t>(rang));
-    emit filmsDemandes(barre.lignes,
-                       m_sujet->currentText() + QStringLiteral(" : ") + QString::fromStdString(barre.libelle));
+    const QString libelle = m_sujet->currentText() + QStringLiteral(" : ") + QString::fromStdString(barre.libelle);
+    atelier().execute(app::montreSeulement, barre.lignes, libelle.toStdString());
 }
 
 void PageStatistiques::copie() {

@@ -19,10 +19,6 @@ class PageStatistiques final : public PageCollection {
   public:
     explicit PageStatistiques(const Atelier& atelier);
 
-  signals:
-    // A bar's films are to be shown, by their positions in the listing, under those words.
-    void filmsDemandes(const std::vector<std::uint32_t>& lignes, const QString& libelle);
-
   protected:
     void relis(const app::Contexte& c) override;
 

@@ -110,10 +110,6 @@ QWidget* PanneauListe::comptes() {
     return cadre;
 }
 
-void PanneauListe::montreSeulement(const std::vector<std::uint32_t>& lignes, const QString& libelle) {
-    m_filtre->montreSeulement(lignes, libelle);
-}
-
 QWidget* PanneauListe::filtreVide() {
     auto* texte = nomme((new Etiquette)->avecTon(Ton::Discret)->avecLignes(4), "lblFiltreVide");
     auto* aide = (new Etiquette(tr("Chaque mot est cherché dans le titre, le réalisateur, l’année, le genre et les "
@@ -184,6 +180,7 @@ void PanneauListe::suisLesMarques() {
     m_titres->modele().regardePar(
         [&session](int noeud) { return session.regarde(browse::marquesDuNoeud, noeud); },
         [&session](int noeud) { return QString::fromStdString(session.regarde(browse::infobulleDuNoeud, noeud)); });
+    connect(this, &PanneauListe::marquesLues, m_titres->viewport(), qOverload<>(&QWidget::update));
     m_marques.setSingleShot(true);
     connect(&m_marques, &QTimer::timeout, this, &PanneauListe::prepareLesMarques);
     connect(m_titres, &VueTitres::peinte, this, [this] {
@@ -195,7 +192,7 @@ void PanneauListe::suisLesMarques() {
 void PanneauListe::prepareLesMarques() {
     if (m_atelier.commande.enCours()) return;  // its end comes here again
     if (m_atelier.session.regarde(browse::suisLesMarques, kTranche))
-        m_titres->viewport()->update();
+        emit marquesLues();
     else
         m_marques.start(0);
 }

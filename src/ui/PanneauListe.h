@@ -5,8 +5,6 @@
 
 #include <QTimer>
 #include <QWidget>
-#include <cstdint>
-#include <vector>
 
 namespace ui {
 
@@ -19,8 +17,9 @@ class PanneauListe final : public QWidget {
     explicit PanneauListe(const Atelier& atelier, QWidget* parent = nullptr);
     [[nodiscard]] VueTitres* titres() const { return m_titres; }
     [[nodiscard]] QWidget* comptes();  // for the window's foot
-    // Shows these rows of the listing alone, the films of a bar for instance; a button that bears `libelle` ends it.
-    void montreSeulement(const std::vector<std::uint32_t>& lignes, const QString& libelle);
+
+  signals:
+    void marquesLues();  // what the films' marks tell is known
 
   private:
     [[nodiscard]] QWidget* choix();

@@ -223,7 +223,7 @@ class UneAnnulation : public testing::Test {
              [this] {
                  const bool rend = auHasard(2) == 0;
                  session.execute([rend](const ensemble::Contexte& c) {
-                     const auto films = ensemble::filmsChoisis(c);
+                     const auto films = ensemble::filmsChoisis(c, {});
                      rend ? ensemble::rendFilms(c, films) : ensemble::preteFilms(c, films, "Zoé");
                  });
              }},

@@ -120,7 +120,8 @@ TEST_F(Liste, TheChosenRowStaysWhereItWasThroughACommand) {
     EXPECT_EQ(hauteur(), 70);
     EXPECT_TRUE(essai.arbre().isExpanded(essai.arbre().model()->index(1, 0))) << "the other heading stays open";
     EXPECT_TRUE(essais::attends([&] { return lu() == "Film 22, possédé, prêté"; }));
-    EXPECT_EQ(essai.arbre().currentIndex().data(Qt::ToolTipRole).toString(), "Film 22\nQuelqu'un, 2001\nPossédé, prêté");
+    EXPECT_EQ(essai.arbre().currentIndex().data(Qt::ToolTipRole).toString(),
+              "Film 22\nQuelqu'un, 2001\nPossédé, prêté");
 
     essai.choisit("ChoixZone", 0);
     EXPECT_EQ(ascenseur().value(), 0);

@@ -82,9 +82,9 @@ TEST_F(PretsTest, AFilmThatComesBackSaysWhoWaitsForIt) {
 
 TEST_F(PretsTest, SeveralAreLentAtOnceAndNoneIsTakenFromAnyone) {
     liste.TreeView1.coches = {noeud("Alien"), noeud("Dune"), noeud("Éden"), noeud("Fargo"), 99};
-    const auto films = filmsChoisis(c);
+    const auto films = filmsChoisis(c, {});
     ASSERT_EQ(films.size(), 4U);
-    EXPECT_EQ(texteDuChoix(liste.TreeView1), "4 films cochés");
+    EXPECT_EQ(texteDuChoix(liste.TreeView1, {}), "4 films cochés");
     EXPECT_EQ(preteFilms(c, films, "Bob").texte("prêté"),
               "2 films prêtés à Bob. 1 film n'est pas possédé : « Fargo ». « Alien » est chez Zoé.");
     EXPECT_THAT(colonne("Personnel", "Pret"), ElementsAre("Zoé", "alice", "Alice", "Bob", "Bob"));
@@ -107,10 +107,10 @@ TEST_F(PretsTest, WhatCameBackIsHandedOnByTheNotice) {
     cmdPreterAQuiAttend_Click(c, {cle("Brazil"), cle("Dune"), cle("Éden")});
     EXPECT_EQ(etatAvis.lblAvis.Caption, "1 film prêté à Alice. « Brazil » est chez Bob.");
     clique("Éden");
-    EXPECT_EQ(texteDuChoix(liste.TreeView1), "« Éden »");
-    cmdPreter_Click(c, "  Zoé\t");
+    EXPECT_EQ(texteDuChoix(liste.TreeView1, {}), "« Éden »");
+    cmdPreter_Click(c, {}, "  Zoé\t");
     EXPECT_EQ(etatAvis.lblAvis.Caption, "1 film prêté à Zoé.");
-    cmdPreter_Click(c, "zoé");
+    cmdPreter_Click(c, {}, "zoé");
     EXPECT_EQ(etatAvis.lblAvis.Caption, "0 film prêté. « Éden » est chez Zoé.");
     EXPECT_THAT(personnes(bureauDesPrets(c)), ElementsAre("Alice", "Bob", "Zoé"));
 }
@@ -118,7 +118,7 @@ TEST_F(PretsTest, WhatCameBackIsHandedOnByTheNotice) {
 TEST_F(PretsTest, AnEmptyDeskSaysSo) {
     base.base.Execute("DELETE FROM Personnel");
     EXPECT_EQ(bilan(bureauDesPrets(c), 30), "Aucun film n'est prêté ni réservé.");
-    EXPECT_THAT(filmsChoisis(c), IsEmpty());
+    EXPECT_THAT(filmsChoisis(c, {}), IsEmpty());
 }
 
 }  // namespace
