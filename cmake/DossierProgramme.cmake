@@ -45,7 +45,8 @@ endfunction()
 
 file(GLOB fiches CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/samples/*.FILM" "${PROJECT_SOURCE_DIR}/samples/*.jpg")
 recopie(samples ${fiches})
-set(guide "${PROJECT_SOURCE_DIR}/docs/guide/index.html" "${PROJECT_SOURCE_DIR}/docs/fenetre.png")
+set(guide "${PROJECT_SOURCE_DIR}/docs/guide/index.html" "${PROJECT_SOURCE_DIR}/docs/fenetre.png"
+    "${PROJECT_SOURCE_DIR}/docs/mur.png" "${PROJECT_SOURCE_DIR}/docs/statistiques.png")
 recopie(Guide ${guide})
 
 add_custom_target(dossier_programme ALL

@@ -84,6 +84,7 @@ std::string texteTouches() {
            "F2 : modifier le film affiché\n"
            "Suppr : supprimer le film affiché\n"
            "Ctrl+Entrée : enregistrer ce qui est saisi (Entrée aussi, dans un champ d'une ligne)\n"
+           "Ctrl+C : copier l'affiche ou la fiche ; Ctrl+V : coller une affiche\n"
            "Échap : quitter le panneau, ou revenir à la liste\n"
            "\n"
            "Dans la liste :\n"
