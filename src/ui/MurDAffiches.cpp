@@ -1,11 +1,9 @@
 #include "ui/MurDAffiches.h"
 
 #include "ui/Couleurs.h"
-#include "ui/Icones.h"
+#include "ui/DessinDeTuile.h"
 #include "ui/Interface.h"
-#include "ui/Marques.h"
 #include "ui/ModeleMur.h"
-#include "ui/Traits.h"
 
 #include <QAccessible>
 #include <QContextMenuEvent>
@@ -14,7 +12,6 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QTextLayout>
 #include <array>
 #include <utility>
 
@@ -24,7 +21,7 @@ namespace {
 
 constexpr std::array kLargeurs{84, 104, 128, 156, 190, 230, 280, 340};  // that tiles are wished to have
 constexpr int kNiveauParDefaut = 2;
-constexpr int kEspace = 14, kSousLAffiche = 6, kEntreMarques = 4;
+constexpr int kEspace = 14, kSousLAffiche = 6;
 constexpr int kReposDeLaTaille = 150;    // milliseconds after which posters are decoded at a new size
 constexpr int kPendantUneCommande = 50;  // milliseconds until the next try
 constexpr qint64 kLectureDAffilee = 4;   // milliseconds that reading may take between two events
@@ -48,29 +45,6 @@ QFont policeDEntete(const QFont& police) {
     grasse.setPointSizeF(police.pointSizeF() * 1.15);
     grasse.setWeight(QFont::DemiBold);
     return grasse;
-}
-
-// So many lines at most, in the middle; the height that they take.
-int dessineLignes(QPainter& peintre, const QRect& place, const QString& texte, int lignesAuPlus) {
-    const QFontMetrics mesure = peintre.fontMetrics();
-    QTextLayout mise(texte, peintre.font());
-    QTextOption option(Qt::AlignHCenter);
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    mise.setTextOption(option);
-    mise.beginLayout();
-    int y = place.y();
-    for (int i = 0; i < lignesAuPlus; ++i) {
-        QTextLine ligne = mise.createLine();
-        if (!ligne.isValid()) break;
-        ligne.setLineWidth(place.width());
-        const bool derniere = i + 1 == lignesAuPlus;
-        const QString reste = texte.mid(ligne.textStart(), derniere ? -1 : ligne.textLength()).trimmed();
-        peintre.drawText(QRect(place.x(), y, place.width(), mesure.height()), Qt::AlignHCenter | Qt::AlignTop,
-                         derniere ? mesure.elidedText(reste, Qt::ElideRight, place.width()) : reste);
-        y += mesure.height();
-    }
-    mise.endLayout();
-    return y - place.y();
 }
 
 }  // namespace
@@ -413,10 +387,6 @@ void MurDAffiches::scrollContentsBy(int, int dy) {
 
 // ---- painting
 
-QRect MurDAffiches::cadre(const QRect& tuile) const {
-    return {tuile.x(), tuile.y(), tuile.width(), tuile.width() * 3 / 2};
-}
-
 void MurDAffiches::paintEvent(QPaintEvent* evenement) {
     QPainter peintre(viewport());
     peintre.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -445,71 +415,16 @@ void MurDAffiches::peintEntete(QPainter& peintre, std::size_t section) const {
 
 void MurDAffiches::peintTuile(QPainter& peintre, int tuile) const {
     const QRect entiere = rectDe(m_plan.place(tuile), verticalOffset());
-    QRect place = cadre(entiere);
-    const Legende* connue = legende(tuile);
-    const QPixmap* image = connue ? m_chargeur.affiche(connue->film) : nullptr;
-    if (image && !image->isNull()) {
-        const QSize taille = image->size().scaled(place.size(), Qt::KeepAspectRatio);
-        place = QRect(QPoint(place.x() + (place.width() - taille.width()) / 2, place.bottom() + 1 - taille.height()),
-                      taille);
-        peintre.drawPixmap(place, *image);
-    } else if (image) {
-        peintAfficheDessinee(peintre, place, tuile, *connue);
-    } else {
-        peintSurface(peintre, QRectF(place), voile(palette()), {});  // not known yet
+    TuileDessinee dessinee;
+    dessinee.titre = titre(tuile);
+    dessinee.marques = marques(tuile);
+    if (const Legende* connue = legende(tuile)) {
+        dessinee.image = m_chargeur.affiche(connue->film);
+        dessinee.realisateur = connue->realisateur, dessinee.annee = connue->annee;
     }
-    peintMarques(peintre, place, marques(tuile));
-    const bool courante = hasFocus() && currentIndex().row() == tuile;
-    const bool sous = viewport()->underMouse() && entiere.contains(viewport()->mapFromGlobal(QCursor::pos()));
-    if (courante || sous)
-        peintContourDeFocus(peintre, place, courante ? accentLisible(palette()) : filet(palette()), 3);
-    const QRect ligne(entiere.x(), entiere.bottom() + 1 - fontMetrics().height(), entiere.width(),
-                      fontMetrics().height());
-    peintre.setFont(font());
-    peintre.setPen(courante ? palette().color(QPalette::WindowText) : texteDiscret(palette()));
-    peintre.drawText(ligne, Qt::AlignHCenter | Qt::AlignVCenter,
-                     fontMetrics().elidedText(titre(tuile), Qt::ElideRight, ligne.width()));
-}
-
-// In the poster's lower corner, on a ground of their own.
-void MurDAffiches::peintMarques(QPainter& peintre, const QRect& affiche, const browse::MarquesFilm& marques) const {
-    const std::vector<Marque> dessinees = marquesDessinees(marques);
-    if (dessinees.empty()) return;
-    const int cote = fontMetrics().ascent(), large = cote + kEntreMarques, air = kEntreMarques;
-    const QRect fond(affiche.right() + 1 - air - static_cast<int>(dessinees.size()) * large - kEntreMarques,
-                     affiche.bottom() + 1 - air - cote - 2 * kEntreMarques,
-                     static_cast<int>(dessinees.size()) * large + kEntreMarques, cote + 2 * kEntreMarques);
-    const QColor surface = palette().color(QPalette::Base);
-    peintSurface(peintre, QRectF(fond), surface, filet(palette()), kRayon);
-    int droite = fond.right() + 1 - kEntreMarques;
-    for (const Marque& marque : dessinees) {
-        peintPictogramme(peintre, QRect(droite - cote, fond.y() + kEntreMarques, cote, cote), marque.pictogramme,
-                         marque.vive ? accentLisible(palette()) : lisible(texteDiscret(palette()), {surface}));
-        droite -= large;
-    }
-}
-
-void MurDAffiches::peintAfficheDessinee(QPainter& peintre, const QRect& place, int tuile, const Legende& l) const {
-    peintAfficheVierge(peintre, place, palette());
-    const QColor fond = palette().color(QPalette::Window), teinte = accent(palette());
-    const int marge = std::max(6, place.width() / 12), ligne = fontMetrics().height();
-    QRect dedans = place.adjusted(marge, marge + place.height() / 14, -marge, -marge);
-    QFont police = font();
-    police.setWeight(QFont::DemiBold);
-    if (place.width() >= kLargeurs[4]) police.setPointSizeF(police.pointSizeF() * 1.2);
-    peintre.setFont(police);
-    peintre.setPen(palette().color(QPalette::WindowText));
-    dedans.setTop(dedans.top() + dessineLignes(peintre, dedans, titre(tuile), 4) + marge / 2);
-    peintre.setFont(font());
-    peintre.setPen(lisible(texteDiscret(palette()), {melange(teinte, fond, 0.26), melange(teinte, fond, 0.10)}));
-    dedans.setTop(dedans.top() + dessineLignes(peintre, dedans, l.realisateur, 2));
-    peintre.drawText(QRect(dedans.x(), dedans.bottom() + 1 - ligne, dedans.width(), ligne), Qt::AlignCenter,
-                     fontMetrics().elidedText(l.annee, Qt::ElideRight, dedans.width()));
-    const qreal cote = std::min(place.width() * 0.3, dedans.height() - ligne - marge - 0.0);
-    if (cote < 20) return;
-    const QPointF milieu(dedans.center().x(), dedans.top() + (dedans.height() - ligne) / 2.0);
-    peintPictogramme(peintre, QRectF(milieu.x() - cote / 2, milieu.y() - cote / 2, cote, cote), Pictogramme::Clap,
-                     melange(teinte, fond, 0.55));
+    dessinee.courante = hasFocus() && currentIndex().row() == tuile;
+    dessinee.survolee = viewport()->underMouse() && entiere.contains(viewport()->mapFromGlobal(QCursor::pos()));
+    dessineTuile(peintre, entiere, dessinee, *this);
 }
 
 // ---- gestures

@@ -82,7 +82,6 @@ class MurDAffiches final : public QListView {
         QByteArray film;  // what its poster is kept under
     };
     [[nodiscard]] browse::MarquesFilm marques(int tuile) const;
-    void peintMarques(QPainter& peintre, const QRect& affiche, const browse::MarquesFilm& marques) const;
     void replace(int ancre, int hauteurDeLAncre);
     [[nodiscard]] ensemble::PlanDuMur::Mesures mesures(int niveau) const;
     void pose();
@@ -96,11 +95,9 @@ class MurDAffiches final : public QListView {
     [[nodiscard]] bool estDeLArbre() const;
     [[nodiscard]] bool peutLire() const;
     [[nodiscard]] int premiereEnVue() const;
-    [[nodiscard]] QRect cadre(const QRect& tuile) const;
     void repeins(const QByteArray& film);
     void peintEntete(QPainter& peintre, std::size_t section) const;
     void peintTuile(QPainter& peintre, int tuile) const;
-    void peintAfficheDessinee(QPainter& peintre, const QRect& place, int tuile, const Legende& legende) const;
     [[nodiscard]] bool frappeEnCours() const;
     Interface& interface();
 
