@@ -49,7 +49,8 @@ std::string texteChemin(const std::string& chemin, const std::string& dossier) {
     if (chemin.find_first_of("\r\n") != std::string::npos) return {};  // it would shift every line after it
     const bool dedans = chemin.size() > dossier.size() && util::commencePar(chemin, dossier);
     const std::string relatif = dedans ? chemin.substr(dossier.size()) : chemin;
-    return dedans && estAbsolu(relatif) ? chemin : relatif;
+    const bool seRelit = !estAbsolu(relatif) && util::decodeTexteExterne(relatif) == relatif;
+    return dedans && !seRelit ? chemin : relatif;
 }
 
 bool tailleSensee(int twips) {

@@ -34,7 +34,7 @@ std::string capitalesDesMots(std::string_view texte) {
             capitale = false;
             continue;
         }
-        ajoutePoint(resultat, capitale ? majusculeDe(minusculeDe(point.valeur)) : minusculeDe(point.valeur));
+        ajoutePoint(resultat, capitale ? majusculeDe(point.valeur) : minusculeDe(point.valeur));
         capitale = point.valeur == '\'' ? apostropheOuvreUnMot(texte, i)
                                         : point.valeur < 0x80 && kOuvrentUnMot.find(static_cast<char>(point.valeur)) !=
                                                                      std::string_view::npos;

@@ -88,7 +88,8 @@ void codage(std::string_view octets) {
           "a cut is a beginning");
     exige(util::longueur(util::coupe(octets, longueur / 2)) <= longueur / 2, "a cut is as short as asked");
     const std::string titre = util::metEnCapitales(octets);
-    const bool turc = octets.find("ı") != std::string_view::npos;  // its capital is the one of another letter
+    const auto contient = [&](std::string_view lettre) { return octets.find(lettre) != std::string_view::npos; };
+    const bool turc = contient("ı") || contient("İ");  // whose other case is the one of another letter
     exige(turc || util::egalSansCasse(titre, octets), "capitals change letter case alone");
     exige(util::metEnCapitales(titre) == titre, "capitals are put once");
     exige(util::nettoieNomFichier(octets).find('/') == std::string::npos, "a name leads to no folder");

@@ -26,6 +26,7 @@ TEST(Capitales, PutsTitlesInTheHouseForm) {
                {"\"été\" e\u0301te\u0301", "\"Été\" E\u0301te\u0301"},
                {"straße ßa", "Straße ßa"},
                {"les x-men ii", "Les X-Men II"},
+               {"İSTANBUL", "İstanbul"},
                {"  ivre", "  Ivre"}};
     for (const auto& c : cas)
         EXPECT_EQ(util::metEnCapitales(c.titre), c.attendu);
