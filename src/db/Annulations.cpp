@@ -3,6 +3,7 @@
 #include "db/Affiches.h"
 #include "util/Texte.h"
 
+#include <numeric>
 #include <unordered_set>
 #include <utility>
 
@@ -122,16 +123,24 @@ Annulations::Issue Annulations::applique(Pile& de, Pile& vers, dao::Sens sens, c
 
 // The files that the rows will name stand there first, those that they no longer name go last.
 Annulations::Issue Annulations::appliqueAvecFichiers(Commande& commande, dao::Sens sens, const dao::Avance& avance) {
-    switch (commande.fichiers.pose(sens)) {
-        case FichiersChanges::Issue::Changes:
-            return {false, kChangees};
-        case FichiersChanges::Issue::Echouee:
-            return {false, commande.fichiers.raison()};
-        case FichiersChanges::Issue::Faite:
-            break;
-    }
+    const std::int64_t desFichiers = commande.fichiers.octetsAPoser(sens);
+    const std::int64_t total =
+        std::accumulate(commande.lignes.morceaux.begin(), commande.lignes.morceaux.end(), desFichiers,
+                        [](std::int64_t octets, const dao::Morceau& morceau) { return octets + morceau.octets; });
+    const auto jusquA = [&](std::int64_t faits) { return faits >= total || !avance || avance(faits, total); };
     try {
-        const dao::Application issue = m_base.base.applique(commande.lignes, sens, avance);
+        switch (commande.fichiers.pose(sens, jusquA)) {
+            case FichiersChanges::Issue::Changes:
+                return {false, kChangees};
+            case FichiersChanges::Issue::Echouee:
+                return {false, commande.fichiers.raison()};
+            case FichiersChanges::Issue::Arretee:
+                return {false, kArretee};
+            case FichiersChanges::Issue::Faite:
+                break;
+        }
+        const dao::Application issue = m_base.base.applique(
+            commande.lignes, sens, [&](std::int64_t faits, std::int64_t) { return jusquA(desFichiers + faits); });
         if (issue != dao::Application::Faite) {
             commande.fichiers.remets(sens);
             return {false, issue == dao::Application::Changees ? kChangees : kArretee};

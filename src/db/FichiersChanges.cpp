@@ -97,11 +97,10 @@ FichiersChanges::Issue FichiersChanges::prepare(const std::string& chemin, Chang
 }
 
 FichiersChanges::Issue FichiersChanges::ecrit(const std::string& chemin, const Change& change, dao::Sens sens) {
-    Change copie = change;
-    const auto octets = relit(*copie.voulu(sens));
+    const auto octets = relit(*change.voulu(sens));
     const auto issue = [&] {
         if (!octets) return fichiers::Creation::Echouee;
-        if (!copie.present(sens)) return fichiers::cree(chemin, *octets);
+        if (!change.present(sens)) return fichiers::cree(chemin, *octets);
         return fichiers::remplace(chemin, *octets) ? fichiers::Creation::Faite : fichiers::Creation::Echouee;
     }();
     if (issue == fichiers::Creation::Faite) return Issue::Faite;
@@ -110,9 +109,21 @@ FichiersChanges::Issue FichiersChanges::ecrit(const std::string& chemin, const C
     return Issue::Echouee;
 }
 
-FichiersChanges::Issue FichiersChanges::pose(dao::Sens sens) {
+std::int64_t FichiersChanges::octetsAPoser(dao::Sens sens) const {
+    std::int64_t octets = 0;
+    for (const auto& [chemin, change] : m_fichiers)
+        octets += octetsDe(change.present(sens)) + octetsDe(change.voulu(sens));
+    return octets;
+}
+
+FichiersChanges::Issue FichiersChanges::pose(dao::Sens sens, const std::function<bool(std::int64_t faits)>& avance) {
+    std::int64_t faits = 0;
+    const auto apres = [&](Issue issue, const Etat& etat) {
+        faits += octetsDe(etat);
+        return issue == Issue::Faite && !avance(faits) ? Issue::Arretee : issue;
+    };
     for (auto& [chemin, change] : m_fichiers)
-        if (const Issue issue = prepare(chemin, change, sens); issue != Issue::Faite) {
+        if (const Issue issue = apres(prepare(chemin, change, sens), change.present(sens)); issue != Issue::Faite) {
             for (auto& [autre, prevu] : m_fichiers)
                 prevu.pose = false;
             return issue;
@@ -121,9 +132,10 @@ FichiersChanges::Issue FichiersChanges::pose(dao::Sens sens) {
     Issue issue = Issue::Faite;
     for (auto& [chemin, change] : m_fichiers) {
         if (!change.pose) continue;
-        if (issue == Issue::Faite) issue = ecrit(chemin, change, sens);
-        change.pose = issue == Issue::Faite;
-        if (change.pose) poses.push_back(chemin);
+        change.pose = issue == Issue::Faite && (issue = ecrit(chemin, change, sens)) == Issue::Faite;
+        if (!change.pose) continue;
+        poses.push_back(chemin);
+        issue = apres(issue, change.voulu(sens));
     }
     if (issue == Issue::Faite && !fichiers::synchronise(poses)) {
         m_raison = "Les fichiers image n'ont pas pu être écrits (" + fichiers::raisonDeLEchec() + ").";
@@ -145,10 +157,8 @@ void FichiersChanges::remets(dao::Sens sens) {
 }
 
 bool FichiersChanges::retireraDesFichiers(dao::Sens sens) const {
-    return std::any_of(m_fichiers.begin(), m_fichiers.end(), [sens](const auto& element) {
-        Change change = element.second;
-        return !change.voulu(sens);
-    });
+    return std::any_of(m_fichiers.begin(), m_fichiers.end(),
+                       [sens](const auto& element) { return !element.second.voulu(sens); });
 }
 
 void FichiersChanges::retire(dao::Sens sens, const std::function<bool(const std::string& chemin)>& estNomme) {

@@ -23,10 +23,12 @@ class FichiersChanges {
     void acheve();  // the command is done: what it left as it was is forgotten
     [[nodiscard]] bool vides() const { return m_fichiers.empty(); }
 
-    enum class Issue { Faite, Changes, Echouee };
+    enum class Issue { Faite, Changes, Echouee, Arretee };
     // The steps of taking back or making again, around the rows: the files that the rows will name stand there and are on
-    // the disk when `pose` returns; `retire` removes those that no row names any more, `remets` undoes `pose`.
-    [[nodiscard]] Issue pose(dao::Sens sens);
+    // the disk when `pose` returns; `retire` removes those that no row names any more, `remets` undoes `pose`. `avance`
+    // is told how many of `octetsAPoser` are done; false stops it, nothing done.
+    [[nodiscard]] Issue pose(dao::Sens sens, const std::function<bool(std::int64_t faits)>& avance);
+    [[nodiscard]] std::int64_t octetsAPoser(dao::Sens sens) const;  // those that are looked at as well
     void retire(dao::Sens sens, const std::function<bool(const std::string& chemin)>& estNomme);
     void remets(dao::Sens sens);
     [[nodiscard]] const std::string& raison() const { return m_raison; }  // of Echouee
@@ -42,12 +44,14 @@ class FichiersChanges {
     struct Change {
         Etat avant, apres;
         bool pose = false;
-        [[nodiscard]] Etat& voulu(dao::Sens sens) { return sens == dao::Sens::Defaire ? avant : apres; }
+        [[nodiscard]] const Etat& voulu(dao::Sens sens) const { return sens == dao::Sens::Defaire ? avant : apres; }
+        [[nodiscard]] const Etat& present(dao::Sens sens) const { return sens == dao::Sens::Defaire ? apres : avant; }
         [[nodiscard]] Etat& present(dao::Sens sens) { return sens == dao::Sens::Defaire ? apres : avant; }
     };
     [[nodiscard]] static Contenu contenuDe(std::string_view octets);
     [[nodiscard]] bool garde(Contenu& contenu, std::string_view octets);
     [[nodiscard]] std::optional<std::string> relit(const Contenu& contenu) const;
+    [[nodiscard]] static std::int64_t octetsDe(const Etat& etat) { return etat ? etat->octets : 0; }
     [[nodiscard]] Issue prepare(const std::string& chemin, Change& change, dao::Sens sens);
     [[nodiscard]] Issue ecrit(const std::string& chemin, const Change& change, dao::Sens sens);
 

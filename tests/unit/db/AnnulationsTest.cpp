@@ -49,6 +49,16 @@ class Annulations : public AvecEntretien {
 TEST_F(Annulations, PosterFilesGoAndComeBackWithTheirFilms) {
     changeLesAffiches();
     EXPECT_EQ(images(), apres);
+    for (int etapes = 1; etapes <= 3; ++etapes) {  // two files are looked at, one is written
+        int reste = etapes;
+        const auto issue = annulations.annule([&reste](std::int64_t faits, std::int64_t total) {
+            EXPECT_TRUE(0 < faits && faits < total);
+            return --reste > 0;
+        });
+        ASSERT_EQ(issue.texte, "Arrêté : rien n'a changé.") << etapes;
+        EXPECT_EQ(images(), apres);
+        EXPECT_EQ(affiches().size(), 2U);
+    }
     EXPECT_TRUE(annulations.annule().faite);
     EXPECT_EQ(images(), avant);
     EXPECT_THAT(affiches(), testing::ElementsAre("JPGA - X.jpg"));
