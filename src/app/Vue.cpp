@@ -48,6 +48,7 @@ Vue Vue::de(const Contexte& c) {
     vue.m_tris = c.liste.ChoixTri;
     vue.m_critere = c.liste.critereRecherche;
     vue.m_zoneRecherche = c.liste.zoneRecherche;
+    vue.m_legende = c.liste.Frame1.Caption;
     vue.m_noeuds = arbre.Nodes.Count();
     if (arbre.Checkboxes) vue.m_coches = arbre.coches;
     if (existe(arbre.Nodes, arbre.SelectedItem)) {
@@ -81,6 +82,7 @@ void Vue::remetsLaListe(const Contexte& c) const {
     c.liste.critereRecherche = m_critere;
     c.liste.zoneRecherche = m_zoneRecherche;
     browse::AffichageApresModification(c);
+    if (m_legende.find('(') == std::string::npos) c.liste.Frame1.Caption = m_legende;  // it counts nothing
 }
 
 // The very node where it still bears the same film or heading: a film may be listed twice.

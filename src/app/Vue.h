@@ -21,7 +21,7 @@ class Vue {
     void remetsLesPanneaux(const Contexte& c, const browse::EtatPanneaux& actuels) const;
 
     ecran::Liste m_zones, m_tris;
-    std::string m_critere;
+    std::string m_critere, m_legende;
     int m_zoneRecherche = 0;
     int m_noeuds = 0;
     std::set<int> m_coches;

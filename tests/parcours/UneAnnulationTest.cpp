@@ -286,6 +286,10 @@ class UneAnnulation : public testing::Test {
         std::string lignes;
         for (const std::string& texte : arbre(etats))
             lignes += texte + "\n";
+        return lignes + legendes();
+    }
+    [[nodiscard]] std::string legendes() const {
+        std::string lignes;
         for (const std::string& texte :
              {etats.liste.Frame1.Caption, etats.liste.Label9[0].Caption, etats.liste.Label9[1].Caption,
               etats.liste.ChoixZone.Text, etats.liste.ChoixTri.Text})
@@ -317,7 +321,7 @@ TEST_F(UneAnnulation, TakesBackEveryCommandToTheFirstAndMakesThemAgain) {
         liste(browse::kZoneTous, browse::kTriTitre1);
         struct Etape {
             Photographie photo;
-            std::string vue, film, quoi;
+            std::string vue, film, quoi, legendes{};
         };
         const std::vector<Geste> tous = gestes();
         std::vector<Etape> avant;
@@ -333,6 +337,7 @@ TEST_F(UneAnnulation, TakesBackEveryCommandToTheFirstAndMakesThemAgain) {
             ASSERT_TRUE(etats.annulation.cmdAnnuler.Enabled);
             ASSERT_NE(etats.annulation.aAnnuler, "dernière modification");
             etape.quoi = etats.annulation.aAnnuler;
+            etape.legendes = legendes();
             avant.push_back(std::move(etape));
             derniere = std::move(apres);
         }
@@ -354,6 +359,7 @@ TEST_F(UneAnnulation, TakesBackEveryCommandToTheFirstAndMakesThemAgain) {
             session.execute(app::cmdRetablir_Click);
             const Photographie& voulue = i + 1 < avant.size() ? avant[i + 1].photo : derniere;
             ASSERT_EQ(differences(voulue, photographie(installation)), "");
+            ASSERT_EQ(avant[i].legendes, legendes());
         }
         EXPECT_FALSE(etats.annulation.cmdRetablir.Enabled);
         while (etats.annulation.cmdAnnuler.Enabled)
