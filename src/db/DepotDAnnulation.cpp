@@ -15,9 +15,11 @@ std::string DepotDAnnulation::manquePour(std::int64_t octets) const {
     if (total > kAuPlus) return "elle change environ " + std::to_string(total / kMo) + " Mo";
     if (total <= static_cast<std::int64_t>(kEnMemoire)) return {};
     std::error_code erreur;
-    const auto place = std::filesystem::space(std::filesystem::path(m_dossier).parent_path(), erreur);
+    auto place = std::filesystem::space(m_dossier, erreur);
+    if (erreur)  // it is made when it is needed
+        place = std::filesystem::space(std::filesystem::path(m_dossier).parent_path(), erreur);
     if (erreur || place.available >= static_cast<std::uintmax_t>(total + kLaisseLibre)) return {};
-    return "le disque n'a plus que " + std::to_string(place.available / kMo) + " Mo de libres";
+    return "le disque n'a plus que " + std::to_string(place.available / kMo) + " Mo";
 }
 
 bool DepotDAnnulation::ajoute(std::string_view octets) {

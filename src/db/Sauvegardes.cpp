@@ -162,10 +162,9 @@ bool sauvegardeAvant(const Contexte& c, Avant avant, std::int64_t octets) {
         c.avis.montre("La sauvegarde de la base a été arrêtée : la commande n'a rien fait.");
     if (resultat.issue == IssueSauvegarde::Arretee) return false;
     if (const std::string raison = c.annulations.renonceSiTropGrande(octets); !raison.empty())
-        c.avis.remarque("Cette commande ne pourra pas être annulée avec Ctrl+Z, ni ce qui la précède (" + raison + ")" +
-                        (resultat.issue == IssueSauvegarde::Impossible
-                             ? "."
-                             : " : la dernière sauvegarde en tient lieu (Configuration, « Sauvegardes… »)."));
+        c.avis.remarque(
+            "Ctrl+Z n'annulera ni cette commande ni les précédentes (" + raison + ")" +
+            (resultat.issue == IssueSauvegarde::Impossible ? "." : " : voir Configuration, « Sauvegardes… »."));
     return true;
 }
 

@@ -117,9 +117,10 @@ TEST_F(SauvegardesTest, TheLastTenOfThisBaseAreKeptWhateverTheClockSays) {
 TEST_F(SauvegardesTest, WhatIsTooLargeToBeTakenBackSaysSoBeforeItBegins) {
     annulations.commence();
     EXPECT_TRUE(db::sauvegardeAvant(c, Avant::Suppression, 2LL << 30));
-    EXPECT_EQ(etatAvis.lblAvis.Caption,
-              "Cette commande ne pourra pas être annulée avec Ctrl+Z, ni ce qui la précède (elle change environ 2147 "
-              "Mo) : la dernière sauvegarde en tient lieu (Configuration, « Sauvegardes… »).");
+    EXPECT_EQ(
+        etatAvis.lblAvis.Caption,
+        "Ctrl+Z n'annulera ni cette commande ni les précédentes (elle change environ 2147 Mo) : voir Configuration, "
+        "« Sauvegardes… ».");
     EXPECT_EQ(copies().size(), 1U);
 }
 
