@@ -171,8 +171,8 @@ std::string demarreEnsuite(const std::string& dossier, const Etat& avant, const 
 class Epreuve {
   public:
     explicit Epreuve(const Scenario& scenario) : m_scenario(scenario) {
+        cale_dossier(m_lieu.chemin().c_str());
         construit(fs::path(m_lieu.chemin("modele")), scenario.dansLeDossier);
-        cale_dossier(m_dossier.c_str());
         for (const Faute faute : {Faute::Aucune, Faute::Memoire}) {
             copie(m_lieu.chemin("modele"), m_dossier);
             const Issue issue = Enfant([&](std::FILE* sortie) {
@@ -351,6 +351,7 @@ int tueAuHasard(int combien, unsigned graine) {
         static unsigned seance;
         const std::string modele = lieu.chemin("modele"), dossier = lieu.chemin("Ambrelis/");
         if (faits % kParSeance == 0) {
+            cale_dossier(lieu.chemin().c_str());
             seance = static_cast<unsigned>(hasard());
             fs::remove_all(modele);
             construit(modele, seance % 2 == 0);
