@@ -17,7 +17,8 @@ install(FILES ${fiches} DESTINATION "${place}/samples")
 install(FILES ${guide} DESTINATION "${place}/Guide")
 
 set(CPACK_PACKAGE_NAME "ambrelis")
-set(CPACK_PACKAGE_CONTACT "Ambrelis <ambrelis@example.org>")
+# The project has no public address. A package must name one; ".invalid" is the ending reserved for what is none.
+set(CPACK_PACKAGE_CONTACT "The Ambrelis authors <no-address@ambrelis.invalid>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_PACKAGE_FILE_NAME "ambrelis-${PROJECT_VERSION}-linux-${CMAKE_SYSTEM_PROCESSOR}")

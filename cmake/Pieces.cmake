@@ -18,7 +18,7 @@ if(AMBRELIS_FUZZ)
 endif()
 
 # What nearly every file includes is parsed once for all rooms but Qt's: they are compiled alike. The preset tidy has none
-# of it, and so sees the #include that a file forgot.
+# of it: clang-tidy does not read what g++ parsed.
 file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/entetes.cpp" CONTENT "")
 add_library(ambrelis_entetes STATIC "${CMAKE_BINARY_DIR}/entetes.cpp")
 target_link_libraries(ambrelis_entetes PRIVATE ambrelis_options)

@@ -5,7 +5,7 @@
 #include "acquire/cmdAjoutAuto_Click.h"
 #include "acquire/cmdParcourir2_Click.h"
 #include "platform/fichiers/Fichiers.h"
-#include "util/NomsFichiers.h"
+#include "util/Nombres.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -28,7 +28,7 @@ class DossierDeCopies {
     [[nodiscard]] const std::string& chemin() const { return m_dossier; }
     // False when the disk took no copy. Numbers keep sheets of one name from several folders apart.
     bool recois(const std::string& fiche) {
-        const DossierFiches source(fichiers::dossierDe(fiche));
+        const DossierFiches& source = dossierDe(fiche);
         const std::string nom = std::to_string(++m_nombre) + " " + fichiers::nomDeFichier(fiche);
         const auto affiche = source.trouveAffiche(fichiers::nomDeFichier(fiche));
         return fichiers::creeDossier(m_dossier) && fichiers::copie(fiche, m_dossier + nom) &&
@@ -41,9 +41,69 @@ class DossierDeCopies {
         std::error_code ignoree;
         std::filesystem::remove(m_dossier.substr(0, m_dossier.size() - 1), ignoree);
     }
+    // Thousands of sheets of one folder list it once.
+    const DossierFiches& dossierDe(const std::string& fiche) {
+        const std::string dossier = fichiers::dossierDe(fiche);
+        if (!m_source || m_source->chemin("") != dossier) m_source.emplace(dossier);
+        return *m_source;
+    }
+
     std::string m_dossier;
     int m_nombre = 0;
+    std::optional<DossierFiches> m_source;  // of the last sheet
 };
+
+// What the user put before the program.
+struct Lot {
+    std::vector<std::string> fiches, dossiers;
+    std::vector<std::string> absents, fermes, autres;  // what is none of them, and why
+
+    explicit Lot(const std::vector<std::string>& chemins) {
+        for (const std::string& chemin : chemins)
+            sorteDe(chemin).push_back(chemin);
+    }
+
+  private:
+    std::vector<std::string>& sorteDe(const std::string& chemin) {
+        // A folder without the right to enter it exists, and nothing in it does, were it itself.
+        if (fichiers::dossierExiste(chemin)) return fichiers::dossierExiste(chemin + "/.") ? dossiers : fermes;
+        if (!fichiers::existe(chemin)) return absents;
+        return estFiche(chemin) ? fiches : autres;
+    }
+};
+
+// A name fit for one line.
+std::string nomMontre(std::string chemin) {
+    while (chemin.size() > 1 && chemin.ends_with('/'))
+        chemin.pop_back();
+    std::string nom = fichiers::nomDeFichier(chemin);
+    std::ranges::replace_if(
+        nom, [](unsigned char c) { return c < ' ' || c == 0x7F; }, ' ');
+    return "« " + nom + " »";
+}
+
+std::string ecart(const std::vector<std::string>& chemins, const std::string& un, const std::string& plusieurs) {
+    if (chemins.empty()) return "";
+    const std::string nom = nomMontre(chemins.front());
+    if (chemins.size() == 1) return " " + nom + un;
+    return " " + util::phraseCompte(static_cast<long>(chemins.size()), "", plusieurs) + ", dont " + nom + ".";
+}
+
+std::string ecarts(const Lot& lot) {
+    return ecart(lot.absents, " est introuvable.", "# fichiers sont introuvables") +
+           ecart(lot.fermes, " ne peut pas être ouvert (Accès refusé).",
+                 "# dossiers ne peuvent pas être ouverts (Accès refusé)") +
+           ecart(lot.autres, " n'est pas une fiche .FILM.", "# fichiers ne sont pas des fiches .FILM");
+}
+
+// Of several folders, or of one among sheets, all sheets are one lot.
+void ouvreLesDossiers(Lot& lot) {
+    for (const std::string& dossier : lot.dossiers) {
+        const DossierFiches source(dossier);
+        for (const std::string& nom : source.fiches())
+            lot.fiches.push_back(source.chemin(nom));
+    }
+}
 
 void importeLeDossier(const Contexte& c, const std::string& dossier) {
     c.ajout.txtCheminAjoutAuto.Text = dossier;
@@ -54,18 +114,19 @@ void importeLeDossier(const Contexte& c, const std::string& dossier) {
 }  // namespace
 
 void importeFichesDeposees(const Contexte& c, const std::vector<std::string>& chemins) {
-    const auto dossier = std::ranges::find_if(chemins, fichiers::dossierExiste);
-    if (dossier != chemins.end()) return importeLeDossier(c, *dossier);
-    DossierDeCopies copies(c.chemins);
-    long recues = 0;
-    for (const std::string& chemin : chemins) {
-        if (!estFiche(chemin) || !fichiers::existe(chemin)) continue;
-        if (!copies.recois(chemin))
-            return c.avis.montre("« " + fichiers::nomDeFichier(chemin) +
-                                 " » n'a pas pu être lue : rien n'a été importé.");
-        ++recues;
+    Lot lot(chemins);
+    const std::string aDire = ecarts(lot);
+    if (lot.dossiers.size() == 1 && lot.fiches.empty()) {
+        if (!aDire.empty()) c.avis.remarque(aDire.substr(1));
+        return importeLeDossier(c, lot.dossiers.front());
     }
-    if (recues == 0) return c.avis.montre("Aucune fiche .FILM dans ce qui a été déposé.");
+    ouvreLesDossiers(lot);
+    if (lot.fiches.empty()) return c.avis.montre("Aucune fiche .FILM à importer." + aDire);
+    DossierDeCopies copies(c.chemins);
+    for (const std::string& fiche : lot.fiches)
+        if (!copies.recois(fiche))
+            return c.avis.montre(nomMontre(fiche) + " n'a pas pu être lue : rien n'a été importé.");
+    if (!aDire.empty()) c.avis.remarque(aDire.substr(1));
     const std::string avant = c.ajout.txtCheminAjoutAuto.Text;
     try {
         importeLeDossier(c, copies.chemin());

@@ -2,6 +2,7 @@
 
 #include "app/Aide.h"
 #include "app/Extensions.h"
+#include "app/Ouvertures.h"
 #include "app/Sauvegardes.h"
 #include "browse/AfficheNbTitres.h"
 #include "browse/ChoixTri.h"
@@ -64,7 +65,7 @@ void Demarrage::acheve() {
     effaceRestes();
 }
 
-// From the folders that the program writes to: its own, "Tmp", the images', the base's and that of its safety copies.
+// From the folders that the program writes to: its own, "Tmp", the images', that of requests, the base's and that of its safety copies.
 // Nothing else goes.
 void Demarrage::effaceRestes() {
     const db::EtatStockage montre = m_c.stockage;
@@ -73,9 +74,9 @@ void Demarrage::effaceRestes() {
     std::error_code ignoree;
     const auto base =
         std::filesystem::weakly_canonical(m_c.chemins.base, ignoree);  // beside the file, not beside a link
-    for (const std::string& dossier :
-         std::set<std::string>{m_c.chemins.dossier, m_c.chemins.dossierTmp + "/", images,
-                               fichiers::dossierDe(base.string()), db::dossierDesSauvegardes(m_c.chemins.base)})
+    for (const std::string& dossier : std::set<std::string>{
+             m_c.chemins.dossier, m_c.chemins.dossierTmp + "/", images, dossierDesDemandes(m_c.chemins.dossier),
+             fichiers::dossierDe(base.string()), db::dossierDesSauvegardes(m_c.chemins.base)})
         fichiers::supprimeRestes(dossier);
     for (const std::string& dossier : {m_c.chemins.dossier, fichiers::dossierDe(base.string())})
         db::effaceTravauxInacheves(dossier);

@@ -11,12 +11,12 @@ enum Marqueur : unsigned char {
     Debut = 0xD8,
     Fin = 0xD9,
     Balayage = 0xDA,
-    Marque = 0xFF
+    Annonce = 0xFF
 };
 
 // Between the compressed data, these stand alone: no length follows them.
 bool estSeul(unsigned char marqueur) {
-    return marqueur == Bourrage || marqueur == Isole || marqueur == Marque ||
+    return marqueur == Bourrage || marqueur == Isole || marqueur == Annonce ||
            (marqueur >= Reprise0 && marqueur <= Debut);
 }
 
@@ -26,9 +26,9 @@ bool estSeul(unsigned char marqueur) {
 // through compressed data by looking for what is no part of it.
 qint64 compteBalayages(const QByteArray& octets) {
     const auto octet = [&](qsizetype ou) { return static_cast<unsigned char>(octets[ou]); };
-    if (octets.size() < 2 || octet(0) != Marque || octet(1) != Debut) return 0;
+    if (octets.size() < 2 || octet(0) != Annonce || octet(1) != Debut) return 0;
     qint64 balayages = 0;
-    for (qsizetype ou = 0; (ou = octets.indexOf(static_cast<char>(Marque), ou)) >= 0 && ou + 3 < octets.size();) {
+    for (qsizetype ou = 0; (ou = octets.indexOf(static_cast<char>(Annonce), ou)) >= 0 && ou + 3 < octets.size();) {
         const unsigned char marqueur = octet(ou + 1);
         if (marqueur == Fin) break;
         if (marqueur == Balayage) ++balayages;

@@ -11,6 +11,7 @@
 #include "ui/FenetreSauvegardes.h"
 #include "ui/Icones.h"
 #include "ui/Infobulles.h"
+#include "ui/Ouvertures.h"
 #include "ui/PageGroupe.h"
 #include "ui/PageVide.h"
 #include "ui/PanneauAccueil.h"
@@ -135,6 +136,7 @@ void FenetrePrincipale::completePanneaux() {
     new FenetreFichiers(m_atelier, this);
     new FenetreSauvegardes(m_atelier, this);
     m_atelier.execute(&app::Session::Form_Activate);
+    new Ouvertures(m_atelier, this);
 }
 
 // Tab goes from the list to the panel beside it, and only then to what is below it, which was there first.

@@ -23,7 +23,7 @@ namespace ui {
 namespace {
 
 // A heading over one row of fields.
-QGridLayout* groupe(const QString& titre) {
+QGridLayout* grilleSous(const QString& titre) {
     auto* grille = new QGridLayout;
     grille->setContentsMargins(0, 0, 0, 0);
     grille->setHorizontalSpacing(kPetit);
@@ -134,7 +134,7 @@ QLayout* PanneauPossession::ou() {
     auto& fiche = m_atelier.etats().fiche;
     auto* actualiser = nomme(new BoutonActualiser, "cmdRaffraichirListe", tr("Actualiser les listes"));
     actualiser->setToolTip(tr("Actualiser les listes : relire les supports et les personnes déjà notés"));
-    auto* grille = groupe(tr("Où"));
+    auto* grille = grilleSous(tr("Où"));
     auto* support = liste(2);
     grille->addLayout(champ(tr("S&upport"), support), 1, 0);
     grille->addWidget(actualiser, 1, 1, Qt::AlignBottom);
@@ -147,7 +147,7 @@ QLayout* PanneauPossession::ou() {
 }
 
 QLayout* PanneauPossession::qui() {
-    auto* grille = groupe(tr("Qui"));
+    auto* grille = grilleSous(tr("Qui"));
     grille->addLayout(champ(tr("P&rêté à"), liste(0)), 1, 0);
     grille->addLayout(champ(tr("Réser&vé pour"), liste(1)), 1, 1);
     auto* date = texte(6, {});
@@ -160,7 +160,7 @@ QLayout* PanneauPossession::qui() {
 }
 
 QLayout* PanneauPossession::fichiers() {
-    auto* grille = groupe(tr("Fichiers"));
+    auto* grille = grilleSous(tr("Fichiers"));
     auto* lignes = colonne(kSerre);
     for (std::size_t i = 0; i < 3; ++i)
         lignes->addLayout(fichier(i));

@@ -1,11 +1,15 @@
 #include "ProgrammeDEssai.h"
+#include "app/Ouvertures.h"
 
 #include <QClipboard>
+#include <QDialog>
 #include <QDropEvent>
+#include <QFileSystemWatcher>
 #include <QMimeData>
 
 namespace {
 
+using essais::attends;
 using essais::ProgrammeDEssai;
 
 struct Depot : testing::Test {
@@ -56,6 +60,33 @@ TEST_F(Depot, SheetsAreImportedFromSeveralFoldersAndStayThere) {
     fichier("c/autre.FILM", std::string("Fantômas") + fiche);
     EXPECT_TRUE(depose({essai.dossier.chemin("c")}));
     EXPECT_EQ(essai.texte("Label9_0"), "4 titres");
+}
+
+// What a start of the program is asked to open while another one runs.
+TEST_F(Depot, SheetsOpenedFromTheDesktopWaitForACommandAndABox) {
+    const std::string demandes = app::dossierDesDemandes(essai.dossier.chemin());
+    int vues = 0;
+    QFileSystemWatcher temoin({QString::fromStdString(demandes)});
+    QObject::connect(&temoin, &QFileSystemWatcher::directoryChanged, [&] { ++vues; });
+    const auto enAttente = [&] { return !std::filesystem::is_empty(demandes); };
+    const auto ouvre = [&](const char* nom) {
+        const std::string fiche = fichier(nom, std::string(nom) + "\nGérard Oury\n1966\n");
+        const int avant = vues;
+        ASSERT_TRUE(app::demandeOuverture(essai.dossier.chemin(), {fiche}));
+        ASSERT_TRUE(attends([&] { return vues > avant; }));
+    };
+    essai.programme->commande().execute([&] {
+        ouvre("un.FILM");
+        EXPECT_TRUE(enAttente());
+    });
+    EXPECT_TRUE(attends([&] { return essai.texte("Label9_0") == "2 titres"; }));
+    QDialog boite(&essai.fenetre());
+    boite.open();
+    ouvre("deux.FILM");
+    EXPECT_TRUE(enAttente());
+    boite.close();
+    EXPECT_TRUE(attends([&] { return essai.texte("Label9_0") == "3 titres"; }));
+    EXPECT_FALSE(enAttente());
 }
 
 TEST_F(Depot, APictureOnThePosterIsAttachedThenReplacesAndAVideoFillsABox) {
