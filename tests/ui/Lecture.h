@@ -102,13 +102,15 @@ inline QAccessibleInterface* focusLu() {
     return objet;
 }
 
-// What was announced last, wherever the keys are; the texts of the box that is open, the entries of the menu.
+// What was announced last, wherever the keys are; the pages that are chosen; the texts of the box that is open, the
+// entries of the menu.
 inline QString annonceLue() {
     QStringList textes;
     QAccessibleInterface* programme = QAccessible::queryAccessibleInterface(qApp);
     for (int rang = 0; rang < programme->childCount(); ++rang)
         parcours(programme->child(rang), [&](QAccessibleInterface& objet) {
             if (objet.role() == QAccessible::Notification) textes << objet.text(QAccessible::Name) + ", annonce";
+            if (objet.role() == QAccessible::PageTab && objet.state().selected) textes << phrase(objet);
         });
     return textes.join('\n');
 }
