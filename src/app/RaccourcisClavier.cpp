@@ -85,6 +85,8 @@ std::string texteTouches() {
            "Suppr : supprimer le film affiché\n"
            "Ctrl+Entrée : enregistrer ce qui est saisi (Entrée aussi, dans un champ d'une ligne)\n"
            "Ctrl+C : copier l'affiche ou la fiche ; Ctrl+V : coller une affiche\n"
+           "F6, Maj+F6 : aller de la liste à la page, puis à l'avis du bas ; et en arrière\n"
+           "Ctrl+Page suivante, Ctrl+Page précédente : la page d'à côté, où il y a des onglets\n"
            "Échap : quitter le panneau, ou revenir à la liste\n"
            "\n"
            "Dans la liste :\n"

@@ -3,14 +3,14 @@
 #include "app/Commandes.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
-
-#include <QAccessible>
+#include "ui/Lecteur.h"
 
 namespace ui {
 
 BandeAvis::BandeAvis(const Atelier& atelier, QWidget* parent)
     : QWidget(parent), m_etat(atelier.etats().avis), m_texte(nomme(new Etiquette, "lblAvis")) {
     nomme(this, "frameAvis");
+    seLitCommeGroupe(this, tr("Avis"));
     auto& etat = atelier.etats().avis;
     atelier.liaison.lie(etat.lblAvis, static_cast<Etiquette*>(m_texte));
     auto* ligne = rangee({filetVertical(), m_texte}, kGrand);
@@ -33,8 +33,7 @@ BandeAvis::BandeAvis(const Atelier& atelier, QWidget* parent)
 void BandeAvis::annonce() {
     if (m_annonce == m_etat.numero) return;
     m_annonce = m_etat.numero;
-    QAccessibleEvent evenement(m_texte, QAccessible::Alert);
-    QAccessible::updateAccessibility(&evenement);
+    ui::annonce(static_cast<QLabel*>(m_texte));
 }
 
 }  // namespace ui

@@ -2,6 +2,7 @@
 
 #include "ui/Composition.h"
 #include "ui/EcranQt.h"
+#include "ui/Lecteur.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -37,6 +38,7 @@ BandeTravail::BandeTravail(const Atelier& atelier, QWidget* parent)
 
 void BandeTravail::montre() {
     m_annuler->setEnabled(true);
+    m_aAnnoncer = true;
     show();
     m_annuler->setFocus();
 }
@@ -51,6 +53,10 @@ void BandeTravail::suis(const app::Etats& etats) {
     const bool ailleurs = ajout ? seVoitDansSonPanneau("ProgressBar1") : !autre && seVoitDansSonPanneau("ProgressBar2");
     m_texte->setText(ailleurs ? tr("Travail en cours…") : QString::fromStdString(texte));
     m_progression->setVisible(!ailleurs);
+    if (m_aAnnoncer && !m_texte->text().isEmpty()) {
+        m_aAnnoncer = false;
+        annonce(m_texte);
+    }
     m_progression->setRange(0, static_cast<int>(progression.Max));
     m_progression->setValue(static_cast<int>(progression.Value));
 }

@@ -26,6 +26,7 @@ class BandeTravail final : public QWidget {
     QLabel* m_texte;
     QProgressBar* m_progression;
     QPushButton* m_annuler;
+    bool m_aAnnoncer = false;  // what it is, to screen readers
 };
 
 }  // namespace ui

@@ -8,6 +8,7 @@
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/Icones.h"
+#include "ui/Lecteur.h"
 
 namespace ui {
 
@@ -39,6 +40,8 @@ void nommeLaSuite(QPushButton& bouton, const std::string& suite, const QString& 
 }  // namespace
 
 BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
+    seLit(this, {.role = QAccessible::ToolBar});
+    setAccessibleName(tr("Fonctions"));
     auto* nom1 = nomme((new Etiquette)->avecPolice(1.7, QFont::DemiBold), "lblNom1");
     auto* nom2 = nomme((new Etiquette)->avecPolice(1.7, QFont::DemiBold)->avecTon(Ton::Accent), "lblNom2");
     auto* version = nomme((new Etiquette)->avecPolice(0.85)->avecTon(Ton::Discret), "Label13");
@@ -72,6 +75,10 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
         ajout->setChecked(ajoute);
         outils->setChecked((fonctions && !ajoute) || etats->panneaux.frameMultiSuppression.Visible);
     });
+    for (BoutonDePanneau* panneau : {recherche, ajout, outils, collection})
+        seLit(panneau, {.role = QAccessible::Button,
+                        .presse = [panneau] { panneau->click(); },
+                        .enfoncee = [panneau] { return panneau->isChecked(); }});
     atelier.auClic(recherche, browse::cmdFonctionRecherche_Click);
     atelier.auClic(ajout, app::cmdAfficherFonctions_Click);
     atelier.auClic(outils, app::cmdConfigurer_Click);

@@ -177,6 +177,7 @@ void Bascule::paintEvent(QPaintEvent*) {
 
 void ListeDeroulante::showPopup() {
     emit vaSOuvrir();
+    view()->setAccessibleName(accessibleName());
     QComboBox::showPopup();
     donneLaFormeDuChamp(*view()->window());
 }

@@ -4,10 +4,10 @@
 #include "ui/BoutonPuce.h"
 #include "ui/Composition.h"
 #include "ui/Icones.h"
+#include "ui/Lecteur.h"
 #include "ui/UneSeuleLigne.h"
 #include "ui/VueTitres.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QShortcut>
@@ -72,10 +72,7 @@ ChampFiltre::ChampFiltre(const Atelier& atelier, VueTitres& titres, QWidget* par
     for (QTimer* minuterie : {&m_preparation, &m_annonce})
         minuterie->setSingleShot(true);
     connect(&m_preparation, &QTimer::timeout, this, &ChampFiltre::prepare);
-    connect(&m_annonce, &QTimer::timeout, this, [this] {
-        QAccessibleEvent evenement(m_compte, QAccessible::Alert);
-        QAccessible::updateAccessibility(&evenement);
-    });
+    connect(&m_annonce, &QTimer::timeout, this, [this] { annonce(m_compte); });
     connect(&titres, &VueTitres::peinte, this, [this] {
         m_peinte = true;
         m_preparation.start(kRepos);

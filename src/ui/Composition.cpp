@@ -1,7 +1,9 @@
 #include "ui/Composition.h"
 
 #include "ui/Couleurs.h"
+#include "ui/Lecteur.h"
 
+#include <QComboBox>
 #include <QPainter>
 
 namespace ui {
@@ -9,6 +11,9 @@ namespace ui {
 namespace {
 
 class Filet final : public QFrame {
+  public:
+    Filet() { seLit(this, {.role = QAccessible::Separator}); }
+
   protected:
     void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), filet(palette())); }
 };
@@ -25,6 +30,8 @@ Etiquette* legende(const QString& texte, QWidget* champ) {
     if (!champ) return etiquette;
     etiquette->setBuddy(champ);
     if (champ->accessibleName().isEmpty()) champ->setAccessibleName(sansMnemonique(texte));
+    if (auto* liste = qobject_cast<QComboBox*>(champ); liste && liste->lineEdit())
+        liste->lineEdit()->setAccessibleName(champ->accessibleName());
     return etiquette;
 }
 

@@ -67,4 +67,11 @@ QTreeView* vueDeLignes(const char* nom, const QString& pourLecteur, QAbstractIte
     return vue;
 }
 
+QString ligneLue(const QModelIndex& index) {
+    QStringList textes;
+    for (int colonne = 0; colonne < index.model()->columnCount(index.parent()); ++colonne)
+        if (const QString texte = index.siblingAtColumn(colonne).data().toString(); !texte.isEmpty()) textes << texte;
+    return textes.join(QStringLiteral(", "));
+}
+
 }  // namespace ui

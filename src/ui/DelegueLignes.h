@@ -6,6 +6,9 @@ class QTreeView;
 
 namespace ui {
 
+// A row in one sentence, for who hears it: what its columns show, from the first to the last.
+[[nodiscard]] QString ligneLue(const QModelIndex& index);
+
 // Asked of a model beside what Qt asks: how a row is written.
 enum RoleDeLigne { kLigneDiscrete = Qt::UserRole + 100, kLigneForte };
 

@@ -6,6 +6,7 @@
 #include "ui/Couleurs.h"
 #include "ui/Icones.h"
 #include "ui/ImageAffiche.h"
+#include "ui/Lecteur.h"
 #include "view/TouchesAffiche.h"
 #include "view/cmdRemplacerImage_Click.h"
 
@@ -85,6 +86,7 @@ class FenetreAffiche::LienAffiche final : public Lien {
 FenetreAffiche::FenetreAffiche(const Atelier& atelier, QWidget* parent)
     : QWidget(parent, Qt::Window), m_atelier(atelier) {
     nomme(this, "frmAffiche");
+    seLit(this, {.role = QAccessible::Window});
     lit();
     m_atelier.liaison.ajoute(std::make_unique<LienAffiche>(*this));
     // A step to another title hides the viewer and shows it again: what it comes to is known at the end.
@@ -113,6 +115,10 @@ void FenetreAffiche::ecrit() {
     if (titre != m_titre) setWindowTitle(QString::fromStdString(m_titre = titre).left(kTitreMax));
     if (!etat().Visible) return;
     if (!m_image) compose();
+    if (const QString nom = windowTitle(); m_image->accessibleName() != nom) {
+        m_image->setAccessibleName(nom);
+        if (isVisible()) annonce(this, nom);  // its opening is told by its title
+    }
     const bool nouvelle = m_numero != etat().Picture1.numero;
     if (nouvelle) dimensionne();
     place();
@@ -121,7 +127,7 @@ void FenetreAffiche::ecrit() {
 }
 
 void FenetreAffiche::compose() {
-    m_image = nomme(new ImageAffiche(m_atelier.images, this), "Picture1", tr("Affiche en grand"));
+    m_image = nomme(new ImageAffiche(m_atelier.images, this), "Picture1");
     m_image->setToolTip(tr("Curseurs pour visionner l'image, Clic pour fermer, Page suiv/préc pour suivant"));
     m_bandeau = bande(this);
     m_barre = nomme(new BarreAffiche(m_bandeau), "HScroll1", tr("Défilement de l'affiche"));

@@ -5,6 +5,7 @@
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/DelegueLignes.h"
+#include "ui/Lecteur.h"
 #include "ui/ModeleApercu.h"
 
 #include <QHeaderView>
@@ -84,6 +85,7 @@ void FenetreApercu::regarde() {
 
 void FenetreApercu::montre(ensemble::Apercu apercu) {
     m_texte->setText(QString::fromStdString(apercu.texte));
+    annonce(m_texte);
     m_executer->setEnabled(!apercu.changements.empty());
     m_modele->met(std::move(apercu.changements));
 }

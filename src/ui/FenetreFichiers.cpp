@@ -1,6 +1,7 @@
 #include "ui/FenetreFichiers.h"
 
 #include "ui/Composition.h"
+#include "ui/Lecteur.h"
 #include "view/Command1_Click.h"
 
 #include <QCloseEvent>
@@ -30,6 +31,7 @@ QString abrege(QString nom, const QWidget& bouton) {
 FenetreFichiers::FenetreFichiers(const Atelier& atelier, QWidget* parent)
     : QWidget(parent, Qt::Dialog), m_atelier(atelier) {  // what window managers place over its owner
     nomme(this, "frmFichiersFilm");
+    seLit(this, {.role = QAccessible::Dialog});
     auto* texte = new QLabel(
         tr("  Cette fonction permet de lancer un des fichiers associés à un titre. Elle le recherchera sur tous les "
            "lecteurs de la machine et exécutera l'application associée."));

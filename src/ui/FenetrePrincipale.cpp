@@ -11,6 +11,7 @@
 #include "ui/FenetreSauvegardes.h"
 #include "ui/Icones.h"
 #include "ui/Infobulles.h"
+#include "ui/Lecteur.h"
 #include "ui/Ouvertures.h"
 #include "ui/PageGroupe.h"
 #include "ui/PageVide.h"
@@ -27,6 +28,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QShortcut>
 #include <QSplitter>
 #include <QTimer>
 
@@ -71,10 +73,18 @@ class FenetrePrincipale::LienTaille final : public Lien {
 
 FenetrePrincipale::FenetrePrincipale(const Atelier& atelier) : m_atelier(atelier), m_raccourcis(atelier, this) {
     nomme(this, "frmPrincipal");
+    seLit(this, {.role = QAccessible::Window});
     setWindowTitle(QStringLiteral("Ambrelis"));
     setMinimumSize(kTailleMinimale);
     compose();
     m_depot = new Depot(m_atelier, this);
+    const std::pair<QKeySequence, std::function<void()>> touches[] = {
+        {Qt::Key_F6, [this] { vaDansLaZone(1); }},
+        {Qt::SHIFT | Qt::Key_F6, [this] { vaDansLaZone(-1); }},
+        {Qt::CTRL | Qt::Key_PageDown, [this] { tourneLaPage(this, 1); }},
+        {Qt::CTRL | Qt::Key_PageUp, [this] { tourneLaPage(this, -1); }}};
+    for (const auto& [touche, geste] : touches)
+        connect(new QShortcut(touche, this), &QShortcut::activated, this, geste);
     m_focus.emplace(*this, *m_liste->titres());
     suitLesCommandes();
     m_atelier.liaison.ajoute(std::make_unique<LienTaille>(*this));
@@ -96,6 +106,8 @@ void FenetrePrincipale::compose() {
     partage->setChildrenCollapsible(false);
     partage->addWidget(m_liste);
     partage->addWidget(droite);
+    litDansLOrdre({m_liste, partage->handle(1), droite});
+    seLit(partage->handle(1), {.role = QAccessible::Separator});
     partage->setStretchFactor(1, 1);
     connect(partage, &QSplitter::splitterMoved, this, [this] { m_partageChoisi = true; });
 
@@ -127,8 +139,11 @@ void FenetrePrincipale::completePanneaux() {
     }
     m_depot->prepare(this);
     entreParLeChoisi(m_atelier.liaison, *this);
+    for (int rang = 0; rang < m_droite->count(); ++rang)
+        litDansLOrdre({m_droite->itemAt(rang)->widget()});
+    // Tab goes from the list to the panel beside it, and only then to what is below it, which was there first.
     for (QWidget* zone : {static_cast<QWidget*>(m_page), m_bas})
-        metEnDernier(zone);
+        suisAuClavier(previousInFocusChain(), *zone);
     setWindowIcon(icone(Pictogramme::Clap));
     tiensALEcran();
     // The windows of their own. Viewer and safety copies are composed when they first open.
@@ -139,14 +154,24 @@ void FenetrePrincipale::completePanneaux() {
     new Ouvertures(m_atelier, this);
 }
 
-// Tab goes from the list to the panel beside it, and only then to what is below it, which was there first.
-void FenetrePrincipale::metEnDernier(QWidget* zone) {
-    QWidget* dernier = previousInFocusChain();
-    for (QWidget* widget : zone->findChildren<QWidget*>()) {
-        if (widget->focusPolicy() == Qt::NoFocus || widget == dernier) continue;
-        setTabOrder(dernier, widget);
-        dernier = widget;
-    }
+// The titles, the page beside them, the notice, and round: what each has first for the keys, or the whole list.
+void FenetrePrincipale::vaDansLaZone(int pas) {
+    QWidget* const zones[] = {m_liste, m_droite->parentWidget(), m_bas};
+    const auto premiers = [&](QWidget* zone) -> QWidget* {
+        if (zone == m_liste) return m_liste->titres();
+        for (QWidget* widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain())
+            if (zone->isAncestorOf(widget) && widget->isVisible() && widget->isEnabled() && !widget->focusProxy() &&
+                (widget->focusPolicy() & Qt::TabFocus))
+                return widget;
+        return nullptr;
+    };
+    constexpr int kZones = std::size(zones);
+    int ici = pas > 0 ? 0 : 1;  // from the buttons above: to the page that they open, or back to the titles
+    for (int rang = 0; rang < kZones; ++rang)
+        if (focusWidget() && zones[rang]->isAncestorOf(focusWidget())) ici = rang;
+    for (int tour = 1; tour <= kZones; ++tour)
+        if (QWidget* premier = premiers(zones[(ici + pas * tour + kZones * kZones) % kZones]))
+            return premier->setFocus(Qt::TabFocusReason);
 }
 
 void FenetrePrincipale::suitLesCommandes() {

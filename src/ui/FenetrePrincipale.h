@@ -39,7 +39,7 @@ class FenetrePrincipale final : public QWidget {
 
     void compose();
     void completePanneaux();
-    void metEnDernier(QWidget* zone);
+    void vaDansLaZone(int pas);
     void suitLesCommandes();
     void executeDemandes();
     void vientDevant();

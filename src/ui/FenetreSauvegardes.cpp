@@ -2,6 +2,8 @@
 
 #include "app/Sauvegardes.h"
 #include "ui/Composition.h"
+#include "ui/DelegueLignes.h"
+#include "ui/Lecteur.h"
 
 #include <QCloseEvent>
 #include <QHeaderView>
@@ -30,6 +32,7 @@ class DelegueAere final : public QStyledItemDelegate {
 FenetreSauvegardes::FenetreSauvegardes(const Atelier& atelier, QWidget* parent)
     : QWidget(parent, Qt::Dialog), m_atelier(atelier) {  // what window managers place over its owner
     nomme(this, "frmSauvegardes");
+    seLit(this, {.role = QAccessible::Dialog});
     setWindowTitle(tr("Sauvegardes"));
     m_atelier.liaison.apresEcriture([this] { suitLEtat(); });
 }
@@ -114,6 +117,7 @@ void FenetreSauvegardes::remplit() {
         int colonne = 0;
         for (const std::string* texte : {&ligne.date, &ligne.films, &ligne.possessions, &ligne.taille, &ligne.avant})
             rangee->setText(colonne++, QString::fromStdString(*texte));
+        rangee->setData(0, Qt::AccessibleTextRole, ligneLue(m_liste->indexFromItem(rangee)));
         for (const int nombre : {1, 2, 3})
             rangee->setTextAlignment(nombre, Qt::AlignRight | Qt::AlignVCenter);
     }

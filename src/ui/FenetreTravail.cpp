@@ -3,6 +3,7 @@
 #include "ui/BandeTravail.h"
 #include "ui/Composition.h"
 #include "ui/EcranQt.h"
+#include "ui/Lecteur.h"
 
 #include <QCloseEvent>
 #include <QScreen>
@@ -12,6 +13,7 @@ namespace ui {
 FenetreTravail::FenetreTravail(const Atelier& atelier) : m_ecran(atelier.ecran), m_bande(new BandeTravail(atelier)) {
     setObjectName(QStringLiteral("frmTravail"));
     setWindowTitle(QStringLiteral("Ambrelis"));
+    seLit(this, {.role = QAccessible::Dialog});
     auto* boite = colonne(0);
     boite->setContentsMargins(0, 0, 0, 0);
     boite->addWidget(m_bande);

@@ -1,6 +1,7 @@
 #include "ui/ImageAffiche.h"
 
 #include "ui/Couleurs.h"
+#include "ui/Lecteur.h"
 #include "ui/Traits.h"
 
 #include <QApplication>
@@ -26,6 +27,7 @@ ImageAffiche::ImageAffiche(ImagesQt& images, QWidget* parent) : QWidget(parent),
     setFocusPolicy(Qt::TabFocus);  // a drag leaves the arrows to the scroll bar
     setCursor(Qt::PointingHandCursor);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    seLit(this, {.role = QAccessible::Graphic, .presse = [this] { emit cliquee(); }});
 }
 
 void ImageAffiche::paintEvent(QPaintEvent* evenement) {

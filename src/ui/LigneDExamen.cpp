@@ -2,6 +2,7 @@
 
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
+#include "ui/Lecteur.h"
 
 namespace ui {
 
@@ -33,8 +34,10 @@ void LigneDExamen::rienDeLu() {
 void LigneDExamen::lu(const std::string& bilan, bool perime) {
     m_bouton->setText(m_textes.recommencer);
     m_bouton->metPrincipal(perime);
+    const bool autre = m_bilan->isHidden() || m_bilan->text().toStdString() != bilan;
     m_bilan->setText(QString::fromStdString(bilan));
     m_bilan->show();
+    if (autre) annonce(m_bilan);
     m_perime->setVisible(perime);
 }
 

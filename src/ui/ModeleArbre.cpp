@@ -146,6 +146,10 @@ QVariant ModeleArbre::duFilm(int indice, int role) const {
     }
 }
 
+QVariant ModeleArbre::headerData(int, Qt::Orientation sens, int role) const {
+    return sens == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(tr("Titres")) : QVariant();
+}
+
 bool ModeleArbre::setData(const QModelIndex& index, const QVariant& valeur, int role) {
     if (!index.isValid() || role != Qt::CheckStateRole) return false;
     emit coche(noeud(index), valeur.value<Qt::CheckState>() == Qt::Checked);

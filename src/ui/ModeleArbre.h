@@ -52,6 +52,7 @@ class ModeleArbre final : public QAbstractItemModel {
     QVariant data(const QModelIndex& index, int role) const override;
     bool setData(const QModelIndex& index, const QVariant& valeur, int role) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation sens, int role) const override;
 
   signals:
     void coche(int indice, bool cochee);  // the user's tick

@@ -71,6 +71,7 @@ QVariant ModeleComparaison::data(const QModelIndex& index, int role) const {
     if (role == kLigneForte) return celui.differe();
     if (role == kLigneDiscrete) return !celui.differe();
     if (index.column() == Champ) {
+        if (role == Qt::AccessibleTextRole) return ligneLue(index);
         if (role != Qt::DisplayRole) return {};
         return (celui.differe() ? QStringLiteral("≠ ") : QString()) + QString::fromStdString(celui.legende);
     }

@@ -29,6 +29,7 @@ QVariant ModelePaires::data(const QModelIndex& index, int role) const {
     if (score && (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole))
         return QString::fromStdString(index.column() == Titre ? ensemble::texteRessemblanceTitre(paire)
                                                               : ensemble::texteRessemblanceReali(paire));
+    if (role == Qt::AccessibleTextRole && index.column() == Gauche) return ligneLue(index);
     if (role != Qt::DisplayRole) return {};
     if (score) return tr("%1 %").arg(index.column() == Titre ? paire.titre : paire.realisateur);
     return nomComplet(index.column() == Gauche ? paire.gauche : paire.droite);

@@ -83,6 +83,7 @@ QVariant ModeleSante::data(const QModelIndex& index, int role) const {
     const ensemble::LigneDeSante* celle = ligne(index);
     if (role == kLigneForte) return !celle && !sien->lignes.empty();
     if (role == kLigneDiscrete) return celle ? index.column() != Titre || !celle->aUneFiche : sien->lignes.empty();
+    if (role == Qt::AccessibleTextRole && index.column() == Titre) return ligneLue(index);
     if (role != Qt::DisplayRole) return {};
     if (celle) return texte(*celle, index.column());
     return index.column() == Titre ? QString::fromStdString(sien->texte()) : QVariant();

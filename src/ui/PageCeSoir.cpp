@@ -5,6 +5,7 @@
 #include "ui/Boutons.h"
 #include "ui/Cartes.h"
 #include "ui/Composition.h"
+#include "ui/Lecteur.h"
 #include "ui/Vignette.h"
 
 #include <QRandomGenerator>
@@ -123,6 +124,7 @@ void PageCeSoir::propose(const app::Contexte& c) {
     m_autre->setEnabled(m_tirage->nombre() > 1);
     m_titre->setText(QString::fromStdString(m_film->film.titre));
     m_texte->setText(QString::fromStdString(m_film->texte()));
+    annonce(m_titre);
     m_affiche->metTitre(QString::fromStdString(m_film->film.titre));
     const auto octets = browse::afficheDuFilm(c, m_film->film);
     m_affiche->chargeAffiche(octets ? QByteArray::fromStdString(*octets) : QByteArray());

@@ -1,6 +1,7 @@
 #include "ui/PageCollection.h"
 
 #include "ui/Composition.h"
+#include "ui/Lecteur.h"
 
 #include <QTimer>
 #include <exception>
@@ -21,6 +22,7 @@ PageCollection::PageCollection(const Atelier& atelier, const char* nom, const QS
     boite->addLayout(m_contenu, 1);
     setLayout(boite);
     m_raison->hide();
+    seLitCommeGroupe(this, titre);
 }
 
 void PageCollection::suis() {
@@ -45,6 +47,7 @@ void PageCollection::relisSiPerimee() {
 void PageCollection::ditPourquoi(const QString& raison) {
     m_raison->setText(raison);
     m_raison->setVisible(!raison.isEmpty());
+    annonce(m_raison);
 }
 
 }  // namespace ui

@@ -6,6 +6,7 @@
 #include "edit/ModifieGroupe.h"
 #include "ui/Composition.h"
 #include "ui/FenetreApercu.h"
+#include "ui/Lecteur.h"
 #include "ui/MurDAffiches.h"
 
 #include <utility>
@@ -27,6 +28,7 @@ PageGroupe::PageGroupe(const Atelier& atelier, QWidget* parent)
       m_renommer(bouton("cmdRenommerGroupe", tr("Renommer…"), tr("Donner un autre nom à ce groupe de films"))),
       m_mur(nomme(new MurDAffiches(atelier), "MurDAffiches", tr("Affiches"))) {
     nomme(this, "framePageGroupe");
+    seLitCommeGroupe(this, tr("Affiches des films de la liste"));
     auto* textes = colonne(2);
     textes->addWidget(m_nom);
     textes->addWidget(m_compte);

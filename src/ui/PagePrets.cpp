@@ -6,6 +6,7 @@
 #include "platform/dao/Comparaison.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
+#include "ui/Lecteur.h"
 #include "ui/ListeDeSaisie.h"
 #include "ui/TablePrets.h"
 
@@ -104,8 +105,8 @@ QLayout* PagePrets::depart() {
     });
     auto* ligne = rangee({}, kPetit);
     ligne->addWidget(m_choix);
-    ligne->addWidget(legende(tr("à q&ui"), m_aQui));
     m_aQui->setAccessibleName(tr("Prêter à qui"));
+    ligne->addWidget(legende(tr("à q&ui"), m_aQui));
     ligne->addWidget(m_aQui);
     ligne->addWidget(m_preter);
     ligne->addStretch();
@@ -157,7 +158,10 @@ void PagePrets::relis(const app::Contexte& c) {
 }
 
 void PagePrets::montreLeBilan() {
-    m_bilan->setText(QString::fromStdString(ensemble::bilan(m_bureau, m_retard->value())));
+    const QString bilan = QString::fromStdString(ensemble::bilan(m_bureau, m_retard->value()));
+    if (bilan == m_bilan->text()) return;
+    m_bilan->setText(bilan);
+    annonce(m_bilan);
 }
 
 // What "Prêter" would lend. The tree is beside the page: another choice there is told here.

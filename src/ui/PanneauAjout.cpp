@@ -8,6 +8,7 @@
 #include "ui/Boutons.h"
 #include "ui/Cartes.h"
 #include "ui/Composition.h"
+#include "ui/Lecteur.h"
 #include "ui/PanneauSaisie.h"
 #include "ui/Sections.h"
 
@@ -34,7 +35,7 @@ PanneauAjout::PanneauAjout(const Atelier& atelier, QWidget* parent) : QWidget(pa
     suis();
     atelier.liaison.apresEcriture(suis);
     auto* boite = colonne(kGrand);
-    boite->addLayout(manieres(atelier));
+    boite->addWidget(listeDOnglets(manieres(atelier), tr("Manières d'ajouter des films")));
     boite->addWidget(intitule);
     boite->addWidget(pageAutomatique(atelier));
     boite->addWidget(new PanneauSaisie(atelier));

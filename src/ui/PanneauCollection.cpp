@@ -3,11 +3,13 @@
 #include "app/Collection.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
+#include "ui/Lecteur.h"
 #include "ui/PageCeSoir.h"
 #include "ui/PageDoublons.h"
 #include "ui/PagePrets.h"
 #include "ui/PageSante.h"
 #include "ui/PageStatistiques.h"
+#include "ui/SuiviDuFocus.h"
 
 #include <QStackedWidget>
 #include <functional>
@@ -49,7 +51,8 @@ std::vector<Onglet> onglets() {
 
 PanneauCollection::PanneauCollection(const Atelier& atelier, QWidget* parent)
     : QWidget(parent), m_atelier(atelier), m_pages(new QStackedWidget) {
-    nomme(this, "frameCollection", tr("Collection"));
+    nomme(this, "frameCollection");
+    seLitCommeGroupe(this, tr("Collection"));
     auto* barre = rangee({}, kSerre);
     for (const Onglet& onglet : onglets()) {
         auto* boutonOnglet = bouton<BoutonOnglet>(onglet.nom, onglet.texte, onglet.infobulle);
@@ -59,12 +62,12 @@ PanneauCollection::PanneauCollection(const Atelier& atelier, QWidget* parent)
             police.setBold(etat.page == page);
             boutonOnglet->setFont(police);
         });
-        barre->addWidget(boutonOnglet);
+        barre->addWidget(m_dernierOnglet = boutonOnglet);
     }
     barre->addStretch();
     auto* boite = colonne(kSerre);
     boite->setContentsMargins(0, kPetit, 0, 0);
-    boite->addLayout(barre);
+    boite->addWidget(listeDOnglets(barre, tr("Pages de la collection")));
     boite->addWidget(m_pages, 1);
     setLayout(boite);
     atelier.liaison.lie(atelier.etats().panneaux.frameCollection, this);
@@ -90,6 +93,7 @@ PageCollection* PanneauCollection::page() {
         if (onglet.page != voulue || !onglet.construit) continue;
         place = onglet.construit(m_atelier);
         m_pages->addWidget(place);
+        suisAuClavier(m_dernierOnglet, *place);
     }
     return place;
 }

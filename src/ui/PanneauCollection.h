@@ -25,6 +25,7 @@ class PanneauCollection final : public QWidget {
 
     const Atelier m_atelier;
     QStackedWidget* m_pages = nullptr;
+    QWidget* m_dernierOnglet = nullptr;  // before the pages
     std::array<PageCollection*, app::kPagesDeCollection> m_construites{};
 };
 

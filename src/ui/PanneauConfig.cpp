@@ -10,6 +10,7 @@
 #include "ui/Cartes.h"
 #include "ui/Composition.h"
 #include "ui/Infobulles.h"
+#include "ui/Lecteur.h"
 #include "ui/Sections.h"
 
 #include <QProgressBar>
@@ -26,6 +27,7 @@ constexpr int kDeuxColonnes = 920;  // what a window of 1366 leaves to the panel
 
 PanneauConfig::PanneauConfig(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
     nomme(this, "frameConfig");
+    seLitCommeGroupe(this, tr("Configuration"));
     const auto carte = [](QLayout* partie) { return new Carte(partie); };
     auto* gauche = pile({carte(images(atelier)), carte(sauvegardes(atelier))});
     auto* droite = pile({carte(logiciels(atelier)), carte(programme(atelier))});

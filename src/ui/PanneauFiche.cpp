@@ -9,26 +9,32 @@
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/EtoilesNote.h"
+#include "ui/Lecteur.h"
 #include "ui/PanneauPossession.h"
 #include "ui/VueAffiche.h"
+#include "ui/VueTitres.h"
 #include "view/Command1_Click.h"
 #include "view/TouchesAffiche.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTextEdit>
+#include <QTimer>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace ui {
 
 namespace {
 
 constexpr double kGrandTitre = 1.9, kPetitTitre = 1.5, kGrandResume = 1.15;
+constexpr qsizetype kFaitsLus = 2000;                                // characters
 constexpr int kPlaceDuGrandTitre = 640, kPlaceDuGrandResume = 1300;  // logical pixels of the sheet
 
 QWidget* page(std::initializer_list<QWidget*> cadres) {
@@ -107,6 +113,9 @@ QScrollArea* defilante(QWidget* page) {
 
 PanneauFiche::PanneauFiche(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameFiche");
+    seLit(this, {.role = QAccessible::Grouping, .nom = [titre = &m_atelier.etats().fiche.Label1[0].Caption] {
+                     return tr("Fiche de « %1 »").arg(QString::fromStdString(*titre));
+                 }});
     auto* boite = new QHBoxLayout(this);
     boite->setContentsMargins(kPetit, kMoyen, kGrand, kGrand);
     boite->setSpacing(kLarge);
@@ -127,6 +136,20 @@ PanneauFiche::PanneauFiche(const Atelier& atelier, QWidget* parent) : QWidget(pa
     };
     suis();
     m_atelier.liaison.apresEcriture(suis);
+    m_atelier.liaison.apresEcriture([this] { suisLeFilm(); });
+}
+
+// Another film is told, but where the row of the list that has the focus tells it; what stands of it in labels, which no
+// key comes to, is told with the summary.
+void PanneauFiche::suisLeFilm() {
+    const browse::EtatFiche& fiche = m_atelier.etats().fiche;
+    if (!m_atelier.etats().panneaux.frameFiche.Visible) return m_film.clear();
+    const QString film = QString::fromStdString(fiche.Label1[0].Caption) + QStringLiteral(", ") +
+                         QString::fromStdString(fiche.lblRealisateur.Caption);
+    if (std::exchange(m_film, film) == film) return;
+    QTimer::singleShot(0, this, [this] {
+        if (!qobject_cast<VueTitres*>(QApplication::focusWidget())) annonce(window(), m_film);
+    });
 }
 
 QWidget* PanneauFiche::colonneFilm(QWidget* generalites, QWidget* autres) {
@@ -198,8 +221,7 @@ QWidget* PanneauFiche::onglets() {
     m_atelier.auClic(autres, browse::cmdAutresInfos_Click);
     auto* ligne = rangee({generalites, autres}, kSerre);
     ligne->addStretch();
-    auto* resultat = new QWidget;
-    resultat->setLayout(ligne);
+    QWidget* resultat = listeDOnglets(ligne, tr("Pages de la fiche"));
     m_atelier.liaison.apresEcriture([resultat, &fiche] { resultat->setVisible(fiche.cmdGeneralites.Visible); });
     return resultat;
 }
@@ -207,8 +229,8 @@ QWidget* PanneauFiche::onglets() {
 QLayout* PanneauFiche::colonneAffiche() {
     auto& fiche = m_atelier.etats().fiche;
     m_affiche = new CadreAffiche(m_atelier.images);
-    nomme(m_affiche, "cadreAffiche", tr("Pas d'affiche : en ajouter une"));
-    nomme(m_affiche->image(), "Image1", tr("Affiche du film"));
+    nomme(m_affiche, "cadreAffiche");
+    nomme(m_affiche->image(), "Image1");
     nomme(m_affiche->statut(), "Label12");
     nomme(m_affiche->ajouter(), "cmdAjouterAffiche");
     m_affiche->image()->setToolTip(tr("Voir l'affiche en grand"));
@@ -292,6 +314,19 @@ QWidget* PanneauFiche::faits() {
     auto* boite = new QHBoxLayout(cadre);
     boite->setContentsMargins(0, 0, 0, 0);
     boite->setSpacing(kLarge);
+    m_atelier.liaison.apresEcriture([this, &fiche] {
+        QStringList faits;
+        for (const auto& [intitule, texte] :
+             {std::pair(tr("Production et année"), &fiche.Label1[2].Caption),
+              std::pair(tr("Origine"), &fiche.Label1[4].Caption), std::pair(tr("Durée"), &fiche.Label1[5].Caption),
+              std::pair(tr("Genre"), &fiche.Label1[6].Caption),
+              std::pair(tr("Acteurs"), &fiche.lblInfosActeurs.Caption)})
+            if (!texte->empty())
+                faits << intitule + QStringLiteral(" : ") +
+                             QString::fromStdString(*texte).replace(u'\n', QStringLiteral(", "));
+        const QString tous = faits.join(QStringLiteral(". ")).left(kFaitsLus);
+        if (tous != m_resume->accessibleDescription()) m_resume->setAccessibleDescription(tous);
+    });
     boite->addLayout(grille, 1);
     boite->addLayout(distribution, 1);
     m_atelier.liaison.lie(fiche.frameGeneralites[0], cadre);

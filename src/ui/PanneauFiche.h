@@ -4,8 +4,6 @@
 
 #include <QWidget>
 
-class QVBoxLayout;
-
 namespace ui {
 
 class CadreAffiche;
@@ -22,6 +20,7 @@ class PanneauFiche final : public QWidget {
 
   private:
     void dimensionneAffiche();
+    void suisLeFilm();
     [[nodiscard]] QWidget* colonneFilm(QWidget* generalites, QWidget* autres);
     [[nodiscard]] QLayout* entete();
     [[nodiscard]] QLayout* puces();
@@ -36,6 +35,7 @@ class PanneauFiche final : public QWidget {
     QWidget* m_sousAffiche = nullptr;
     Etiquette* m_titre = nullptr;
     QWidget* m_resume = nullptr;
+    QString m_film;  // told last
 };
 
 }  // namespace ui

@@ -3,6 +3,7 @@
 #include "app/ChoixFonction.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
+#include "ui/Lecteur.h"
 #include "ui/PanneauAjout.h"
 #include "ui/PanneauConfig.h"
 #include "ui/PanneauOutils.h"
@@ -59,9 +60,7 @@ QWidget* PanneauFonctions::onglets(const Atelier& atelier) {
     }
     boite->addStretch();
     boite->setContentsMargins(kPetit, kMoyen, kGrand, 0);
-    auto* cadre = new QWidget;
-    cadre->setLayout(boite);
-    return cadre;
+    return listeDOnglets(boite, tr("Pages d'outils"));
 }
 
 }  // namespace ui

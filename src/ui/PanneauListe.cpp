@@ -11,6 +11,7 @@
 #include "ui/Cartes.h"
 #include "ui/ChampFiltre.h"
 #include "ui/Composition.h"
+#include "ui/Lecteur.h"
 
 #include <QVBoxLayout>
 
@@ -154,9 +155,11 @@ QWidget* PanneauListe::raisonDuVide() {
     cadre->hide();
     m_atelier.liaison.apresEcriture([=, this] {
         const auto vide = browse::listeVide(m_atelier.etats().liste);
+        const bool dejaDit = !cadre->isHidden() && vide && texte->text().toStdString() == vide->raison;
         cadre->setVisible(vide.has_value());
         if (!vide) return;
         texte->setText(QString::fromStdString(vide->raison));
+        if (!dejaDit) annonce(texte);
         tous->setVisible(vide->autresFilms);
     });
     return cadre;

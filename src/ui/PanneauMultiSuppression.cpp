@@ -4,6 +4,7 @@
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/Couleurs.h"
+#include "ui/Lecteur.h"
 #include "ui/Sections.h"
 
 #include <QPainter>
@@ -27,6 +28,7 @@ class Bande final : public QWidget {
 
 PanneauMultiSuppression::PanneauMultiSuppression(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
     nomme(this, "frameMultiSuppression");
+    seLitCommeGroupe(this, tr("Supprimer plusieurs films"));
     auto* boite = colonne(0);
     boite->addWidget(bande(atelier));
     setLayout(boite);

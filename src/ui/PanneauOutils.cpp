@@ -10,6 +10,7 @@
 #include "ui/Cartes.h"
 #include "ui/Composition.h"
 #include "ui/FenetreApercu.h"
+#include "ui/Lecteur.h"
 #include "ui/Sections.h"
 
 namespace ui {
@@ -41,6 +42,7 @@ QPushButton* PanneauOutils::outil(const char* nom, const QString& texte, const Q
 
 PanneauOutils::PanneauOutils(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameOutils");
+    seLitCommeGroupe(this, tr("Outils"));
     auto* gauche = pile({base(), exporter()});
     auto* droite = pile({corriger(), zoneDangereuse()});
     auto* boite = colonne(0);

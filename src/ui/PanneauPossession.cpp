@@ -9,6 +9,7 @@
 #include "ui/BoutonActualiser.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
+#include "ui/Lecteur.h"
 #include "ui/ListeDeSaisie.h"
 
 #include <QApplication>
@@ -61,6 +62,7 @@ class ZoneDesGroupes final : public QScrollArea {
 
 PanneauPossession::PanneauPossession(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameAutresInfos", 0);
+    seLitCommeGroupe(this, tr("Votre exemplaire"));
     auto* boite = colonne(kPetit);
     boite->addLayout(choix());
     boite->addWidget(suite(), 1);

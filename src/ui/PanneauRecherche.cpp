@@ -4,6 +4,7 @@
 #include "ui/Boutons.h"
 #include "ui/Cartes.h"
 #include "ui/Composition.h"
+#include "ui/Lecteur.h"
 #include "ui/Sections.h"
 
 #include <QKeyEvent>
@@ -19,6 +20,7 @@ constexpr int kUneSeuleLigne = 860;
 
 PanneauRecherche::PanneauRecherche(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameRecherche");
+    seLitCommeGroupe(this, tr("Rechercher des films"));
     auto& recherche = atelier.etats().recherche;
     auto* texte = m_texte = nomme(new QLineEdit, "Text2");
     texte->setClearButtonEnabled(true);
@@ -41,6 +43,7 @@ PanneauRecherche::PanneauRecherche(const Atelier& atelier, QWidget* parent) : QW
     setLayout(boite);
     // It stands beside the text, where Enter presses it, and is the last that the keys come to.
     setTabOrder(findChild<QWidget*>(QStringLiteral("TypeFilm_2")), lancer);
+    litDansLOrdre({lancer});
     atelier.liaison.lie(atelier.etats().panneaux.frameRecherche, this);
 }
 

@@ -5,6 +5,7 @@
 #include "ui/Cartes.h"
 #include "ui/Composition.h"
 #include "ui/ImagesQt.h"
+#include "ui/Lecteur.h"
 #include "ui/ListeDeSaisie.h"
 #include "ui/Sections.h"
 #include "ui/TexteLong.h"
@@ -49,6 +50,7 @@ QWidget* cadre(QLayout* contenu) {
 
 PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "Frame13");
+    seLitCommeGroupe(this, tr("Fiche à remplir"));
     auto& ajout = m_atelier.etats().ajout;
     auto* resume = nomme(new TexteLong, "txtResume");
     resume->setTabChangesFocus(true);
@@ -86,6 +88,8 @@ PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(
     champs->addLayout(bas);
     auto* affiche = m_affichette = nomme(new Affichette(m_atelier.images), "imgCorrection");
     affiche->setFixedSize(kAffichette);
+    seLit(affiche, {.role = QAccessible::Graphic});
+    affiche->setAccessibleName(tr("Affiche du film"));
     auto* contenu = rangee({}, kGrand);
     contenu->addWidget(affiche, 0, Qt::AlignTop);
     contenu->addLayout(champs, 1);

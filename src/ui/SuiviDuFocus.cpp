@@ -18,6 +18,19 @@ void SuiviDuFocus::donne(const std::string& demande) {
     if (voulu->window()->focusWidget() != voulu) voulu->setFocus(Qt::OtherFocusReason);
 }
 
+// Qt puts nothing behind what takes no keys or lies in another window, as the opened part of a list does; the inside of a
+// list or of a number goes with it.
+void suisAuClavier(QWidget* apres, const QWidget& zone) {
+    while (apres->focusPolicy() == Qt::NoFocus || zone.isAncestorOf(apres))
+        apres = apres->previousInFocusChain();
+    for (QWidget* widget : zone.findChildren<QWidget*>()) {
+        if (widget->focusPolicy() == Qt::NoFocus || widget->focusProxy() || widget == apres) continue;
+        if (widget->window() != apres->window()) continue;
+        QWidget::setTabOrder(apres, widget);
+        apres = widget;
+    }
+}
+
 void entreParLeChoisi(Liaison& liaison, QWidget& fenetre) {
     QHash<QWidget*, QList<QRadioButton*>> groupes;  // option buttons exclude one another within their parent
     for (auto* option : fenetre.findChildren<QRadioButton*>())

@@ -26,4 +26,7 @@ class SuiviDuFocus final {
 // Tab enters a group of option buttons at its checked one; the arrows go from one to the next, as ever.
 void entreParLeChoisi(Liaison& liaison, QWidget& fenetre);
 
+// Tab goes from `apres` into the zone, and through it as it is read.
+void suisAuClavier(QWidget* apres, const QWidget& zone);
+
 }  // namespace ui

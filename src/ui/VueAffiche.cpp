@@ -4,6 +4,7 @@
 #include "ui/Couleurs.h"
 #include "ui/Etiquettes.h"
 #include "ui/Icones.h"
+#include "ui/Lecteur.h"
 #include "ui/Traits.h"
 
 #include <QKeyEvent>
@@ -49,6 +50,7 @@ class VueAffiche::LienImage final : public Lien {
 VueAffiche::VueAffiche(ImagesQt& images, QWidget* parent) : QWidget(parent), m_images(images) {
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
+    seLit(this, {.role = QAccessible::Button, .presse = [this] { emit cliquee(); }});
 }
 
 std::unique_ptr<Lien> VueAffiche::lien(ecran::Image& etat) {
@@ -118,12 +120,18 @@ void CadreAffiche::montreImage(bool visible) {
     m_realisateur->setVisible(!visible);
     setFocusPolicy(visible ? Qt::NoFocus : Qt::TabFocus);
     setFocusProxy(visible ? m_image : nullptr);
+    if (visible)
+        seLit(this, {.role = QAccessible::Grouping, .nom = [] { return tr("Affiche"); }});
+    else
+        seLit(this, {.role = QAccessible::Button, .presse = [this] { emit statutClique(); }});
 }
 
 void CadreAffiche::metNoms(const QString& titre, const QString& realisateur) {
     if (titre == m_titre->text() && realisateur == m_realisateur->text()) return;
     m_titre->setText(titre);
     m_realisateur->setText(realisateur);
+    m_image->setAccessibleName(tr("Affiche de « %1 »").arg(titre));
+    setAccessibleName(tr("Pas d'affiche pour « %1 » : en ajouter une").arg(titre));
     composeDessin();
 }
 

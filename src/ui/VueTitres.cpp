@@ -1,6 +1,7 @@
 #include "ui/VueTitres.h"
 
 #include "ui/DelegueTitres.h"
+#include "ui/Lecteur.h"
 #include "ui/LienArbre.h"
 
 #include <QContextMenuEvent>
@@ -209,6 +210,7 @@ bool VueTitres::choisitCourant(const QKeyEvent& evenement) const {
 void VueTitres::keyPressEvent(QKeyEvent* evenement) {
     const QModelIndex avant = currentIndex();
     const bool choisi = selectionModel()->isSelected(avant);
+    const QVariant coche = avant.data(Qt::CheckStateRole);
     const bool valide = evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter;
     if (valide && avant.isValid()) return clique(avant);
     if (evenement->text() == QLatin1String("/") && !frappeEnCours()) {
@@ -220,6 +222,7 @@ void VueTitres::keyPressEvent(QKeyEvent* evenement) {
     else if (!choisitCourant(*evenement))
         QTreeView::keyPressEvent(evenement);
     const QModelIndex apres = currentIndex();
+    if (apres == avant && apres.data(Qt::CheckStateRole) != coche) annonceCoche(this);
     static constexpr int kDeplacements[] = {Qt::Key_Down, Qt::Key_Up,     Qt::Key_Home,
                                             Qt::Key_End,  Qt::Key_PageUp, Qt::Key_PageDown};
     const bool deplace = std::ranges::count(kDeplacements, evenement->key()) > 0;

@@ -33,10 +33,10 @@ class Affiche : public ::testing::Test {
 
 TEST_F(Affiche, OpensAtThePicturesSizeAndIsOnlyHidden) {
     essai.demarre();
-    EXPECT_TRUE(fenetre().children().isEmpty()) << "composed when it first opens";
+    EXPECT_TRUE(fenetre().findChildren<QWidget*>().isEmpty()) << "composed when it first opens";
     essai.importe({{"Alien", "Ridley Scott", "Angoisse", essais::octetsDImage(Qt::red, {200, 300})}});
     essai.cliqueTitre("Alien");
-    EXPECT_TRUE(fenetre().children().isEmpty());
+    EXPECT_TRUE(fenetre().findChildren<QWidget*>().isEmpty());
     essai.clique("Image1");
     EXPECT_TRUE(fenetre().isVisible());
     EXPECT_FALSE(fenetre().isModal());

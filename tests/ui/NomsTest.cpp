@@ -1,9 +1,11 @@
+#include "Lecture.h"
 #include "ProgrammeDEssai.h"
 #include "ui/Boutons.h"
 
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QAction>
+#include <QHash>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
@@ -90,28 +92,55 @@ void verifiePage(QWidget& fenetre, const char* page) {
     EXPECT_GT(lettres.size(), 6) << page;
     EXPECT_EQ(QSet<QString>(lettres.begin(), lettres.end()).size(), lettres.size())
         << page << " " << lettres.join(' ').toStdString();
-    for (QWidget* widget : fenetre.findChildren<QWidget*>()) {
-        if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus) || widget->focusProxy()) continue;
-        if (qobject_cast<QLineEdit*>(widget) && qobject_cast<QComboBox*>(widget->parent()))
-            continue;  // the list speaks for it
-        QAccessibleInterface* lu = QAccessible::queryAccessibleInterface(widget);
-        ASSERT_NE(lu, nullptr);
-        EXPECT_FALSE(lu->text(QAccessible::Name).isEmpty()) << page << " " << widget->objectName().toStdString();
-    }
 }
 
-// Tabbing must go as one reads: the bar, then the list, then the panel, each from its top.
-void verifieOrdre(QWidget& fenetre, const char* page) {
-    QWidget* precedent = nullptr;
-    for (QWidget* w = fenetre.nextInFocusChain(); w != &fenetre; w = w->nextInFocusChain()) {
-        if (!w->isVisible() || !w->isEnabled() || !(w->focusPolicy() & Qt::TabFocus) || w->objectName().isEmpty())
-            continue;
-        if (precedent && precedent->parentWidget() == w->parentWidget()) {
-            const QPoint avant = precedent->pos(), apres = w->pos();
-            EXPECT_TRUE(apres.y() > avant.y() || (apres.x() > avant.x() && apres.y() + w->height() > avant.y()))
-                << page << ": " << w->objectName().toStdString() << " after " << precedent->objectName().toStdString();
-        }
-        precedent = w;
+// A stop of the Tab key. A group of option buttons, and a list of pages, have one at what is chosen.
+bool estUnArret(const QWidget& widget) {
+    return widget.isVisible() && widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) && !widget.focusProxy();
+}
+
+// What a screen reader finds on the page: each control under its name and a role of its own, none named as another of its
+// group; Tab comes to all of them in the order in which they are read, and round, and back.
+void verifieLecture(QWidget& fenetre, const char* page) {
+    QAccessibleInterface* lue = QAccessible::queryAccessibleInterface(&fenetre);
+    EXPECT_EQ(lue->role(), QAccessible::Window);
+    QHash<QString, int> noms;
+    QList<QWidget*> lus;
+    essais::parcours(lue, [&](QAccessibleInterface& objet) {
+        const auto* widget = qobject_cast<QWidget*>(objet.object());
+        const QAccessible::State etat = objet.state();
+        if (!widget || !etat.focusable) return;
+        const QString dit = essais::phrase(objet), nom = essais::nomLu(objet);
+        EXPECT_NE(nom, "") << page << " " << widget->objectName().toStdString();
+        EXPECT_FALSE(objet.role() == QAccessible::Client || objet.role() == QAccessible::NoRole)
+            << page << ": " << dit.toStdString();
+        const QAccessible::Role role = objet.role();
+        if (role == QAccessible::StaticText || qobject_cast<const QComboBox*>(widget->parentWidget())) return;
+        const QAccessibleInterface* groupe = objet.parent();
+        while (groupe->role() != QAccessible::Grouping && groupe->role() != QAccessible::Window &&
+               groupe->role() != QAccessible::ToolBar && groupe->role() != QAccessible::PageTabList)
+            groupe = groupe->parent();
+        EXPECT_EQ(noms[QString::number(QAccessible::uniqueId(const_cast<QAccessibleInterface*>(groupe))) + nom]++, 0)
+            << page << ": twice " << dit.toStdString() << " in "
+            << essais::phrase(*const_cast<QAccessibleInterface*>(groupe)).toStdString();
+        if (estUnArret(*widget)) lus << const_cast<QWidget*>(widget);
+    });
+    ASSERT_FALSE(lus.isEmpty());
+    lus.first()->setFocus();
+    for (const int touche : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        QList<QWidget*> parTab;
+        do {
+            parTab << fenetre.focusWidget();
+            QTest::keyClick(fenetre.focusWidget(), static_cast<Qt::Key>(touche));
+        } while (fenetre.focusWidget() != lus.first() && parTab.size() <= lus.size());
+        if (touche == Qt::Key_Backtab) std::reverse(parTab.begin() + 1, parTab.end());
+        const auto nomme = [](const QList<QWidget*>& widgets) {
+            QStringList textes;
+            for (QWidget* widget : widgets)
+                textes << essais::phrase(*QAccessible::queryAccessibleInterface(widget));
+            return textes.join('\n').toStdString();
+        };
+        EXPECT_EQ(nomme(parTab), nomme(lus)) << page;
     }
 }
 
@@ -120,7 +149,7 @@ TEST(Noms, EachPageHasItsOwnMnemonicsAndNamesForScreenReaders) {
     essai.demarre();
     const auto verifie = [&](const char* page) {
         verifiePage(essai.fenetre(), page);
-        verifieOrdre(essai.fenetre(), page);
+        verifieLecture(essai.fenetre(), page);
     };
     verifie("welcome");
     essai.importe({{"L'Été", "Agnès Varda", "Drame", ""}});

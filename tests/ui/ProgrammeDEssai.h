@@ -62,8 +62,8 @@ class ProgrammeDEssai {
     }
 
     void demarre() {
-        programme.emplace(dossier.chemin(), ui::Programme::Services{&boites, &horloge, &documents,
-                                                                    vrais ? vrais : &programmes, &volumes});
+        programme.emplace(dossier.chemin(), ui::Programme::Services{vraiesBoites ? nullptr : &boites, &horloge,
+                                                                    &documents, vrais ? vrais : &programmes, &volumes});
         ASSERT_TRUE(programme->demarre());
         ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre(), kPatience));
         // The panels behind the first page are built after the first painting.
@@ -130,6 +130,7 @@ class ProgrammeDEssai {
     doubles::ProgrammesSimules programmes;
     systeme::Programmes* vrais = nullptr;  // really start programs, in the place of those
     doubles::VolumesSimules volumes;
+    bool vraiesBoites = false;  // Qt's, in the place of those
     std::optional<ui::Programme> programme;
 };
 
