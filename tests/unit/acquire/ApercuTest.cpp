@@ -72,6 +72,7 @@ class ApercuTest : public FenetreAcquisition {
     }
     // Of the sheets' films some are in the base, lacking this and that, and some have a near namesake there.
     void remplitLaBase() {
+        dao::Transaction toutes(base.base);
         int rang = 0;
         const acquire::DossierFiches leDossier(fiches.chemin());
         for (const std::string& nom : leDossier.fiches()) {
@@ -85,6 +86,7 @@ class ApercuTest : public FenetreAcquisition {
                                 {"Duree", "9H99"},
                                 {"Affiche", rang % 2 == 0 ? "JPGla sienne.jpg" : ""}});
         }
+        toutes.confirme();
     }
     void importeEtCompare();
     void completeEtCompare();
