@@ -23,8 +23,8 @@ namespace {
 
 using edit::GenreDExamen;
 
-constexpr QSize kTaille{860, 540}, kTailleDeLaFiche{760, 520};
-constexpr int kLargeurs[] = {0, 150, 60, 0, 90, 130};  // of the columns; 0: what is left
+constexpr QSize kTaille{980, 560}, kTailleDeLaFiche{760, 520};
+constexpr int kLargeurs[] = {0, 150, 60, 0, 90, 110};  // of the columns; 0: what is left
 
 QByteArray octets(const std::optional<std::string>& affiche) {
     return affiche ? QByteArray::fromStdString(*affiche) : QByteArray();
@@ -90,7 +90,6 @@ FenetreExamen::FenetreExamen(const Atelier& atelier, Sujet sujet, QWidget* paren
 QTreeView* FenetreExamen::liste() {
     QTreeView* vue = vueDeLignes("lstExamen", tr("Les films lus, et ce que l'import ferait de chacun"), m_trie);
     vue->setUniformRowHeights(true);
-    vue->setAllColumnsShowFocus(true);
     vue->setSelectionMode(QAbstractItemView::ExtendedSelection);
     vue->setContextMenuPolicy(Qt::ActionsContextMenu);
     QHeaderView& entete = *vue->header();
@@ -133,6 +132,7 @@ QLayout* FenetreExamen::choixDuGenre() {
         });
         m_genre->addItem(tr("%1 (%2)").arg(nom).arg(nombre), static_cast<int>(genre));
     }
+    m_genre->setMinimumWidth(m_genre->sizeHint().width() + kLarge);  // the style's frame is no part of it
     connect(m_genre, &QComboBox::currentIndexChanged, this, [this] {
         m_trie->montreLeGenre(static_cast<GenreDExamen>(m_genre->currentData().toInt()));
         if (!m_liste->currentIndex().isValid()) m_liste->setCurrentIndex(m_trie->index(0, 0));
@@ -172,16 +172,17 @@ QLayout* FenetreExamen::boutons() {
 void FenetreExamen::suisLesCoches() {
     const auto aAjouter = static_cast<int>(m_modele->aAjouter().size());
     const auto aCompleter = static_cast<int>(m_modele->aCompleter().size());
-    const auto texte = [](const QString& un, const QString& plusieurs, int nombre) {
-        return nombre > 1 ? plusieurs.arg(nombre) : un.arg(nombre);
+    const auto texte = [](const QString& geste, int nombre) {
+        if (nombre == 0) return geste + QStringLiteral("…");
+        return (nombre == 1 ? tr("%1 %2 film…") : tr("%1 %2 films…")).arg(geste).arg(nombre);
     };
-    m_ajouter->setText(texte(tr("Ajouter %1 film…"), tr("Ajouter %1 films…"), aAjouter));
-    m_completer->setText(texte(tr("Compléter %1 film…"), tr("Compléter %1 films…"), aCompleter));
+    m_ajouter->setText(texte(tr("Ajouter"), aAjouter));
+    m_completer->setText(texte(tr("Compléter"), aCompleter));
     m_ajouter->setEnabled(aAjouter > 0);
     m_completer->setEnabled(aCompleter > 0);
     const QString arret = m_sujet.complet ? QString() : tr("La lecture a été arrêtée avant la fin. ");
     m_texte->setText(arret + QString::fromStdString(edit::bilan(m_modele->films())) +
-                     tr(" Rien n'est écrit tant que vous n'ajoutez rien."));
+                     tr(" Rien n'est écrit sans vous."));
 }
 
 std::vector<int> FenetreExamen::choisies() const {
@@ -238,12 +239,15 @@ void FenetreExamen::ajoute() {
 }
 
 void FenetreExamen::complete() {
+    const QPoint place = pos();
     hide();
     const QPointer<FenetreExamen> encoreLa = this;
     const Rangs faits = m_sujet.complete(m_modele->aCompleter());
     if (!encoreLa || m_atelier.commande.finie()) return;
     m_modele->completees(faits);
     open();
+    move(place);
+    m_liste->setFocus(Qt::OtherFocusReason);
 }
 
 // In the list Enter shows the film, and presses no button.

@@ -85,7 +85,7 @@ TEST_F(FenetreApercu, WhatIsTickedOfAFolderIsWhatTheImportAdds) {
     EXPECT_EQ(
         essai.texte("lblExamen"),
         "6 films lus : 1 nouveau, 1 qui ressemble à un autre, 3 déjà là, dont 1 à compléter, 1 illisible. Affiches : "
-        "2 absentes. Rien n'est écrit tant que vous n'ajoutez rien.");
+        "2 absentes. Rien n'est écrit sans vous.");
     auto& liste = essai.trouve<QTreeView>("lstExamen");
     const auto texte = [&](const char* nom) { return essai.trouve<QAbstractButton>(nom).text().toStdString(); };
     const auto lignes = [&] {
