@@ -51,6 +51,7 @@ void JugeFilms::examineLePresent(FilmExamine& examen, const std::function<SortDe
     examen.aCompleter = champsACompleter(present, examen.film);
     if (!present.texte(kChampAffiche).empty()) return;
     examen.affiche = affiche();
+    if (examen.affiche == SortDeLAffiche::Absente) examen.affiche = SortDeLAffiche::SansObjet;  // neither has one
     if (examen.affiche == SortDeLAffiche::Prise) examen.aCompleter.emplace_back(kChampAffiche);
 }
 
