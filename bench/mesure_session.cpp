@@ -1,8 +1,10 @@
-// mesure_session listes DOSSIER | import DOSSIER FICHES | ressemblance DOSSIER FICHES
-// The program without its window, in a program folder: what its listings read of the file, how long an import lasts.
+// mesure_session listes DOSSIER | import DOSSIER FICHES | ressemblance DOSSIER FICHES | apercu DOSSIER FICHES
+// The program without its window, in a program folder: what its listings read of the file, how long an import lasts, and
+// its preview.
 
 #include "Mesure.h"
 #include "SansFenetre.h"
+#include "acquire/ApercuFiches.h"
 #include "acquire/cmdAjoutAuto_Click.h"
 #include "app/ChoixFonction.h"
 #include "browse/ChoixTri.h"
@@ -41,18 +43,29 @@ void mesureImport(app::Session& session, const bench::Machine& machine, const st
     machine.attend("1000 films ajoutés.");
 }
 
+void mesureApercu(app::Session& session, const std::string& fiches) {
+    session.etats.ajout.txtCheminAjoutAuto.Text = fiches;
+    const double depart = bench::maintenant();
+    std::size_t films = 0;
+    session.execute([&films](const app::Contexte& c) { films = acquire::apercuDesFiches(c).value().films.size(); });
+    bench::declare("apercu", bench::maintenant() - depart);
+    bench::declare("apercu_fiches", static_cast<double>(films));
+}
+
 }  // namespace
 
 int main(int nombre, char** mots) try {
     const std::string genre = nombre > 2 ? mots[1] : "";
     if (genre.empty() || (genre != "listes" && nombre < 4))
-        throw std::invalid_argument("usage: mesure_session listes|import|ressemblance DOSSIER [FICHES]");
+        throw std::invalid_argument("usage: mesure_session listes|import|ressemblance|apercu DOSSIER [FICHES]");
     bench::Machine machine(genre == "ressemblance");
     app::Session session(machine.pour(mots[2]));
     const double avant = bench::octetsLus();
     session.Form_Load();
     if (genre == "listes")
         mesureListes(session, bench::octetsLus() - avant);
+    else if (genre == "apercu")
+        mesureApercu(session, mots[3]);
     else
         mesureImport(session, machine, mots[3]);
     session.Form_Unload();

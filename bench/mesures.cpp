@@ -176,6 +176,7 @@ void mesureImport(bench::Tableau& tableau, const Options& options, const std::ve
         if (films <= 1000)  // each question lists the catalogue, and this one holds thousands of likenesses
             tableau.ajoute(
                 {"  with the resemblance test", "ms", importe(options, "ressemblance", modele).at("import"), {}, {}});
+        tableau.ajoute({"  its preview", "ms", importe(options, "apercu", modele).at("apercu"), {}, {}});
         tableau.ajoute({"  peak memory", "MB", programme.at("memoire"), plancher.at("memoire"), {}});
     }
     const int petite = tailles[1], grande = tailles.back();

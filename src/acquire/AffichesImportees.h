@@ -20,14 +20,18 @@ struct AfficheImportee {
     std::size_t octets = 0;
 };
 
+// The bytes of a picture's file that are read at most.
+[[nodiscard]] constexpr std::int64_t limiteDesAffiches(bool dansLaBase) {
+    return dansLaBase ? db::kTailleMaxAffiche : db::kTailleMaxImage;
+}
+
 // Where the posters of an import go: in the base, or as files of a lot in the images folder.
 class AffichesImportees {
   public:
     explicit AffichesImportees(const db::Contexte& c);  // which outlives it
 
     [[nodiscard]] bool dansLaBase() const { return m_c.stockage.dansLaBase(); }
-    // The bytes of a picture's file that are read at most.
-    [[nodiscard]] std::int64_t limite() const { return dansLaBase() ? db::kTailleMaxAffiche : db::kTailleMaxImage; }
+    [[nodiscard]] std::int64_t limite() const { return limiteDesAffiches(dansLaBase()); }
     // Where posters are files, makes their folder. Throws db::EchecConversion.
     void prepareDossier();
     // Stores the picture of a film whose value is `actuelle`, in a folder that is prepared. Nothing when the base has no

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "db/CleFilm.h"
+#include "edit/FilmExamine.h"
 
 #include <optional>
 #include <string>
@@ -12,9 +12,8 @@ inline constexpr const char* kNonDefini = "Non défini";
 
 // What a .FILM sheet says: its first nine lines, by position, each cut to its column except the summary, so that a line
 // of any length does no harm. Its title, in the house capitals, and its director are never empty.
-struct FicheFilm : db::CleFilm {
+struct FicheFilm : edit::FilmLu {
     std::string premiereLigne;  // the title as the sheet writes it
-    std::string annee, origine, genre, duree, acteurs, resume, production;
 };
 
 // Reads the text of a sheet: UTF-8, UTF-16, UTF-32 or Windows-1252, lines ended by CR LF, LF or CR. Missing lines are

@@ -1,6 +1,5 @@
 #include "acquire/cmdAjoutAuto_Click.h"
 
-#include "acquire/CompteFilmsRepertoire.h"
 #include "acquire/PassageImport.h"
 #include "acquire/cmdParcourir2_Click.h"
 #include "browse/AfficheNbTitres.h"
@@ -34,20 +33,19 @@ ChoixImport demandeChoix(const Contexte& c, long nombre) {
 
 void cmdAjoutAuto_Click(const Contexte& c) {
     if (!remplaceCheminWindows(c)) return;
-    browse::puisVersLaListe(c, [&c] { importeFiches(c, [](RapportImport&) {}); });
+    browse::puisVersLaListe(c, [&c] { importeFiches(c, {dossierDesFiches(c)}, [](RapportImport&) {}); });
 }
 
-void importeFiches(const Contexte& c, const std::function<void(RapportImport&)>& range) {
-    const std::string dossier = dossierDesFiches(c);
-    const long nombre = CompteFilmsRepertoire(dossier);
+void importeFiches(const Contexte& c, const FichesChoisies& fiches, const std::function<void(RapportImport&)>& range) {
+    const long nombre = fiches.nombre();
     montreNombreDeFiches(c);
     if (nombre == 0) {
         c.dialogues.MsgBox("Aucun fichier .film trouvé !", dialogues::kExclamation);
         return;
     }
     const ChoixImport choix = demandeChoix(c, nombre);
-    if (!db::sauvegardeAvant(c, db::Avant::ImportFiches, octetsAAjouter(dossier, c.stockage.dansLaBase()))) return;
-    RapportImport rapport = PassageImport(c, choix, dossier).execute();
+    if (!db::sauvegardeAvant(c, db::Avant::ImportFiches, fiches.octets(c.stockage.dansLaBase()))) return;
+    RapportImport rapport = PassageImport(c, choix, fiches).execute();
     c.annulations.nomme("import de " + util::phraseCompte(nombre, "# fiche", "# fiches"),
                         "Import : " + util::phraseCompte(rapport.ajoutes, "# film ajouté.", "# films ajoutés."));
     range(rapport);

@@ -108,7 +108,7 @@ std::string cherche(const Contexte& c, const std::string& programme) {
     if (nombre == 0 || (!fini && !importeQuandMeme(c, nombre)))
         fiches.refusees();
     else
-        importeFiches(c, [&](RapportImport& rapport) { fiches.range(rapport); });
+        importeFiches(c, {dossierDesFiches(c)}, [&](RapportImport& rapport) { fiches.range(rapport); });
     return fiches.attente();
 }
 

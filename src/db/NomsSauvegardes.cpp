@@ -19,7 +19,7 @@ struct Mots {
     std::string_view libelle;
 };
 
-constexpr std::array<Mots, 10> kMots = {{
+constexpr std::array<Mots, 11> kMots = {{
     {Avant::ImportFiches, "import de fiches", "import de fiches"},
     {Avant::ImportAncienne, "import d'une autre version", "import d'une version précédente"},
     {Avant::AffichesEnBase, "affiches dans la base", "conversion des affiches vers la base"},
@@ -29,6 +29,7 @@ constexpr std::array<Mots, 10> kMots = {{
     {Avant::Renommage, "renommage", "renommage d'un groupe"},
     {Avant::Titres, "correction des titres", "correction des titres"},
     {Avant::Suppression, "suppression de films", "suppression de plusieurs films"},
+    {Avant::Complement, "complement de fiches", "complément de films"},
     {Avant::Retour, "retour en arriere", "retour à une sauvegarde"},
 }};
 

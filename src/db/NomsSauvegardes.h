@@ -17,6 +17,7 @@ enum class Avant {
     Renommage,
     Titres,
     Suppression,
+    Complement,
     Retour
 };
 

@@ -3,6 +3,7 @@
 #include "edit/TitreDejaExistant_TestRessemblance.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace edit {
 
@@ -10,25 +11,63 @@ LettresDuCatalogue LettresDuCatalogue::de(const Contexte& c) {
     LettresDuCatalogue lettres;
     dao::Recordset films = ouvreFilmsParTitre(c);
     const dao::Colonne titre = films.colonne("Titre"), realisateur = films.colonne("Realisateur");
-    for (; !films.Eof(); films.MoveNext())  // the view of the one goes when the other is taken
-        lettres.ajoute({std::string(films.vue(titre)), std::string(films.vue(realisateur))});
+    for (; !films.Eof(); films.MoveNext()) {  // the view of the one goes when the other is taken
+        std::string leTitre(films.vue(titre));
+        lettres.ajoute({std::move(leTitre), std::string(films.vue(realisateur))});
+    }
     return lettres;
 }
 
 void LettresDuCatalogue::ajoute(const db::CleFilm& film) {
     const auto [place, nouveau] = m_rangs.try_emplace(film.realisateur, m_realisateurs.size());
-    if (nouveau) m_realisateurs.push_back({util::compteLettres(film.realisateur), {}});
-    m_realisateurs[place->second].titres.push_back(util::compteLettres(film.titre));
+    if (nouveau) {
+        const LettresAbregees lettres = abrege(util::compteLettres(film.realisateur));
+        m_parLettres[lettres.total].push_back(m_realisateurs.size());
+        m_realisateurs.push_back({film.realisateur, lettres, {}});
+    }
+    m_realisateurs[place->second].titres.push_back({film.titre, abrege(util::compteLettres(film.titre))});
+}
+
+template <typename Recoit>
+void LettresDuCatalogue::chercheProches(const db::CleFilm& film, Recoit recoit) const {
+    const LettresAbregees duTitre = abrege(util::compteLettres(film.titre)),
+                          duRealisateur = abrege(util::compteLettres(film.realisateur));
+    const auto fin = m_parLettres.upper_bound(totalAuPlus(duRealisateur.total));
+    for (auto autres = m_parLettres.begin(); autres != fin; ++autres) {
+        if (totalAuPlus(autres->first) < duRealisateur.total) continue;
+        for (const std::size_t rang : autres->second) {
+            const Realisateur& autre = m_realisateurs[rang];
+            if (!peutRessembler(duRealisateur, autre.lettres)) continue;
+            const int score = util::similarite(film.realisateur, autre.nom);
+            if (score <= kSeuilRessemblance) continue;
+            for (const Titre& titre : autre.titres) {
+                if (!peutRessembler(duTitre, titre.lettres)) continue;
+                const int duLeur = util::similarite(film.titre, titre.texte);
+                if (duLeur > kSeuilRessemblance && !recoit(FilmProche{{titre.texte, autre.nom}, duLeur, score})) return;
+            }
+        }
+    }
 }
 
 bool LettresDuCatalogue::aUnProche(const db::CleFilm& film) const {
-    const util::CompteLettres duTitre = util::compteLettres(film.titre),
-                              duRealisateur = util::compteLettres(film.realisateur);
-    return std::any_of(m_realisateurs.begin(), m_realisateurs.end(), [&](const Realisateur& autre) {
-        return ressemble(duRealisateur, autre.lettres) &&
-               std::any_of(autre.titres.begin(), autre.titres.end(),
-                           [&](const util::CompteLettres& autreTitre) { return ressemble(duTitre, autreTitre); });
+    bool trouve = false;
+    chercheProches(film, [&trouve](const FilmProche&) {
+        trouve = true;
+        return false;
     });
+    return trouve;
+}
+
+std::vector<FilmProche> LettresDuCatalogue::proches(const db::CleFilm& film) const {
+    std::vector<FilmProche> trouves;
+    chercheProches(film, [&trouves](FilmProche proche) {
+        trouves.push_back(std::move(proche));
+        return true;
+    });
+    std::ranges::stable_sort(trouves, std::greater<>{}, [](const FilmProche& proche) {
+        return std::tuple(proche.titre + proche.realisateur, proche.titre);
+    });
+    return trouves;
 }
 
 }  // namespace edit

@@ -1,17 +1,20 @@
 #pragma once
 
 #include "edit/Contexte.h"
-#include "util/Similarite.h"
+#include "edit/FilmExamine.h"
+#include "edit/LettresAbregees.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <map>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
 namespace edit {
 
-// The letters of every film of the catalogue, counted once for a batch: tells without reading the catalogue again that
-// nothing resembles a new film, which is nearly always so.
+// The letters of every film of the catalogue, counted once for a batch: tells without reading the catalogue again what
+// resembles a new film, which nearly always is nothing.
 class LettresDuCatalogue {
   public:
     // Counts the films of the base; those the batch adds afterwards come by `ajoute`, as they are stored.
@@ -19,15 +22,26 @@ class LettresDuCatalogue {
 
     void ajoute(const db::CleFilm& film);
     [[nodiscard]] bool aUnProche(const db::CleFilm& film) const;
+    // All that resemble it, the closest first.
+    [[nodiscard]] std::vector<FilmProche> proches(const db::CleFilm& film) const;
 
   private:
-    struct Realisateur {
-        util::CompteLettres lettres;
-        std::vector<util::CompteLettres> titres;
+    struct Titre {
+        std::string texte;
+        LettresAbregees lettres;
     };
+    struct Realisateur {
+        std::string nom;
+        LettresAbregees lettres;
+        std::vector<Titre> titres;
+    };
+    // Hands each film that resembles, until `recoit` answers false.
+    template <typename Recoit>
+    void chercheProches(const db::CleFilm& film, Recoit recoit) const;
 
     std::vector<Realisateur> m_realisateurs;
-    std::unordered_map<std::string, std::size_t> m_rangs;  // in m_realisateurs
+    std::unordered_map<std::string, std::size_t> m_rangs;            // in m_realisateurs
+    std::map<std::uint64_t, std::vector<std::size_t>> m_parLettres;  // likewise, by how many letters they have
 };
 
 }  // namespace edit

@@ -1,14 +1,13 @@
 #include "ensemble/Ressemblances.h"
 
+#include "edit/LettresAbregees.h"
 #include "edit/TitreDejaExistant_TestRessemblance.h"
 #include "ensemble/Avancement.h"
 #include "util/Nombres.h"
 #include "util/Similarite.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
-#include <cstdlib>
 #include <tuple>
 #include <unordered_map>
 #include <utility>
@@ -17,49 +16,15 @@ namespace ensemble {
 
 namespace {
 
-// The counts of a text in bytes, which are compared several at a time. A count that no byte holds stops at the largest:
-// texts then look closer than they are, never farther.
-struct Lettres {
-    std::array<std::uint8_t, 40> nombre{};
-    std::uint32_t total = 0;
-};
-
-Lettres abrege(const util::CompteLettres& compte) {
-    Lettres lettres;
-    for (std::size_t i = 0; i < lettres.nombre.size(); ++i)
-        lettres.nombre[i] = static_cast<std::uint8_t>(std::min<unsigned>(compte.nombre[i], UINT8_MAX));
-    lettres.total = compte.total;
-    return lettres;
-}
-
-std::uint32_t ecart(const Lettres& gauche, const Lettres& droite) {
-    std::uint32_t somme = 0;
-    for (std::size_t i = 0; i < gauche.nombre.size(); ++i)
-        somme += static_cast<std::uint32_t>(std::abs(gauche.nombre[i] - droite.nombre[i]));
-    return somme;
-}
-
-// A score above the threshold is one of at least half a point more: of all letters the differing ones then make at most
-// this many, in two hundreds.
-constexpr std::uint64_t kEcartPermis = 200 - (2 * edit::kSeuilRessemblance + 1);
-
-// Sound, and nearly exact: what it refuses does not resemble.
-bool peutRessembler(const Lettres& gauche, const Lettres& droite) {
-    return 200 * std::uint64_t{ecart(gauche, droite)} <= kEcartPermis * (gauche.total + droite.total);
-}
-
-// The most letters that a text may have to resemble one of so many: their difference alone is an ecart.
-std::uint64_t totalAuPlus(std::uint64_t total) {
-    return total * (200 + kEcartPermis) / (200 - kEcartPermis);
-}
+using edit::LettresAbregees;
 
 struct Titre {
-    Lettres lettres;
+    LettresAbregees lettres;
     std::uint32_t film;
 };
 
 struct Realisateur {
-    Lettres lettres;
+    LettresAbregees lettres;
     util::CompteLettres compte;
     std::vector<Titre> titres;  // by their letters
 };
@@ -96,10 +61,10 @@ class Recherche {
             const auto [place, nouveau] = rangs.try_emplace(sien, m_realisateurs.size());
             if (nouveau) {
                 const util::CompteLettres compte = util::compteLettres(sien);
-                m_realisateurs.push_back({abrege(compte), compte, {}});
+                m_realisateurs.push_back({edit::abrege(compte), compte, {}});
             }
             m_realisateurs[place->second].titres.push_back(
-                {abrege(util::compteLettres(leTitre)), static_cast<std::uint32_t>(m_films.size())});
+                {edit::abrege(util::compteLettres(leTitre)), static_cast<std::uint32_t>(m_films.size())});
             m_films.push_back({std::move(leTitre), std::move(sien)});
         }
         const auto parLettres = [](const auto& a, const auto& b) { return a.lettres.total < b.lettres.total; };
@@ -111,9 +76,10 @@ class Recherche {
     bool compareTout() {
         Avancement avancement(m_c, static_cast<long>(m_realisateurs.size()), "Recherche de doublons");
         for (std::size_t i = 0; i < m_realisateurs.size(); ++i) {
-            const std::uint64_t limite = totalAuPlus(m_realisateurs[i].lettres.total);
+            const std::uint64_t limite = edit::totalAuPlus(m_realisateurs[i].lettres.total);
             for (std::size_t j = i; j < m_realisateurs.size() && m_realisateurs[j].lettres.total <= limite; ++j)
-                if (peutRessembler(m_realisateurs[i].lettres, m_realisateurs[j].lettres) && !compare(i, j, avancement))
+                if (edit::peutRessembler(m_realisateurs[i].lettres, m_realisateurs[j].lettres) &&
+                    !compare(i, j, avancement))
                     return false;
             if (!avancement.avance()) return false;
         }
@@ -130,11 +96,11 @@ class Recherche {
             const Titre& titre = gauche[rang];
             debut = i == j ? droite.begin() + static_cast<std::ptrdiff_t>(rang) + 1
                            : std::find_if(debut, droite.end(), [&](const Titre& autre) {
-                                 return totalAuPlus(autre.lettres.total) >= titre.lettres.total;
+                                 return edit::totalAuPlus(autre.lettres.total) >= titre.lettres.total;
                              });
-            const std::uint64_t limite = totalAuPlus(titre.lettres.total);
+            const std::uint64_t limite = edit::totalAuPlus(titre.lettres.total);
             for (auto autre = debut; autre != droite.end() && autre->lettres.total <= limite; ++autre)
-                if (peutRessembler(titre.lettres, autre->lettres)) ajoute(titre.film, autre->film, score);
+                if (edit::peutRessembler(titre.lettres, autre->lettres)) ajoute(titre.film, autre->film, score);
             if (gauche.size() > kBeaucoup && !avancement.avance(0)) return false;
         }
         return true;

@@ -45,6 +45,15 @@ Comparaison::Comparaison(QWidget* parent)
     connect(&m_repos, &QTimer::timeout, this, &Comparaison::decode);
 }
 
+void Comparaison::metEnLecture(const QString& gauche, const QString& droite) {
+    m_modele->metEnLecture(gauche, droite);
+    m_champs->setAccessibleName(gauche.isEmpty() ? droite : tr("%1 et %2, champ par champ").arg(gauche, droite));
+    m_champs->setColumnHidden(ModeleComparaison::Gauche, gauche.isEmpty());
+    m_vignettes[0]->setVisible(!gauche.isEmpty());
+    for (Vignette* vignette : m_vignettes)
+        vignette->setFocusPolicy(Qt::NoFocus);
+}
+
 void Comparaison::montre(ensemble::PlanDeFusion plan, std::array<QByteArray, 2> affiches) {
     const int rang = m_champs->currentIndex().row();
     m_affiches = std::move(affiches);

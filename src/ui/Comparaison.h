@@ -19,6 +19,8 @@ class Comparaison final : public QWidget {
   public:
     explicit Comparaison(QWidget* parent = nullptr);
 
+    // To be looked at only, under these headings; without the first one, the right film alone.
+    void metEnLecture(const QString& gauche, const QString& droite);
     void montre(ensemble::PlanDeFusion plan, std::array<QByteArray, 2> affiches);
     [[nodiscard]] const ensemble::PlanDeFusion& plan() const { return m_modele->plan(); }
 

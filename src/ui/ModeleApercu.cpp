@@ -2,22 +2,12 @@
 
 #include "ui/DelegueLignes.h"
 
-#include <iterator>
-
 namespace ui {
 
 void ModeleApercu::met(std::vector<ensemble::Changement> changements) {
     beginResetModel();
     m_changements = std::move(changements);
     endResetModel();
-}
-
-int ModeleApercu::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(std::ssize(m_changements));
-}
-
-Qt::ItemFlags ModeleApercu::flags(const QModelIndex& index) const {
-    return QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
 }
 
 QVariant ModeleApercu::data(const QModelIndex& index, int role) const {
@@ -29,12 +19,6 @@ QVariant ModeleApercu::data(const QModelIndex& index, int role) const {
     const ensemble::Changement& celui = m_changements[static_cast<std::size_t>(index.row())];
     const std::string* textes[] = {&celui.film.titre, &celui.film.realisateur, &celui.avant, &celui.apres};
     return texteDeLigne(*textes[index.column()]);
-}
-
-QVariant ModeleApercu::headerData(int section, Qt::Orientation sens, int role) const {
-    if (sens != Qt::Horizontal || role != Qt::DisplayRole) return {};
-    const QString titres[] = {tr("Film"), tr("Réalisateur"), tr("Avant"), tr("Après")};
-    return titres[section];
 }
 
 }  // namespace ui

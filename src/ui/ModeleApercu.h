@@ -1,27 +1,24 @@
 #pragma once
 
 #include "ensemble/Apercus.h"
-
-#include <QAbstractTableModel>
+#include "ui/ModeleDeLignes.h"
 
 namespace ui {
 
 // What would change, film by film.
-class ModeleApercu final : public QAbstractTableModel {
+class ModeleApercu final : public ModeleDeLignes {
     Q_OBJECT
   public:
-    enum Colonne { Film, Realisateur, Avant, Apres, kColonnes };
-    using QAbstractTableModel::QAbstractTableModel;
+    enum Colonne { Film, Realisateur, Avant, Apres };
+    ModeleApercu() : ModeleDeLignes({tr("Film"), tr("Réalisateur"), tr("Avant"), tr("Après")}) {}
 
     void met(std::vector<ensemble::Changement> changements);
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] int columnCount(const QModelIndex&) const override { return kColonnes; }
-    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QVariant headerData(int section, Qt::Orientation sens, int role) const override;
 
   private:
+    [[nodiscard]] int nombre() const override { return static_cast<int>(m_changements.size()); }
+
     std::vector<ensemble::Changement> m_changements;
 };
 

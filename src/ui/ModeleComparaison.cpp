@@ -4,17 +4,12 @@
 #include "ui/Infobulles.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace ui {
 
 namespace {
 
 using ensemble::ChampCompare;
-
-bool seChoisit(const ChampCompare& champ) {
-    return champ.differe() && !champ.ailleurs && !champ.droite.empty();
-}
 
 // On one line, and no more than one could hold. Of two texts that begin alike for long, what is theirs alone must be seen.
 QString enUneLigne(const ChampCompare& champ, const std::string& valeur) {
@@ -30,6 +25,16 @@ QString enUneLigne(const ChampCompare& champ, const std::string& valeur) {
 }
 
 }  // namespace
+
+void ModeleComparaison::metEnLecture(const QString& gauche, const QString& droite) {
+    m_enLecture = true;
+    m_seule = gauche.isEmpty();
+    metTitres({QString(), gauche, droite});
+}
+
+bool ModeleComparaison::seChoisit(const ChampCompare& champ) const {
+    return !m_enLecture && champ.differe() && !champ.ailleurs && !champ.droite.empty();
+}
 
 void ModeleComparaison::met(ensemble::PlanDeFusion plan) {
     beginResetModel();
@@ -48,19 +53,11 @@ void ModeleComparaison::choisit(int rang, bool droite) {
     ChampCompare& celui =
         place < m_plan.film.size() ? m_plan.film[place] : m_plan.possession[place - m_plan.film.size()];
     celui.prendDroite = droite;
-    emit dataChanged(index(rang, 0), index(rang, kColonnes - 1));
+    emit dataChanged(index(rang, 0), index(rang, Droite));
 }
 
 void ModeleComparaison::bascule(int rang) {
     if (rang >= 0 && rang < rowCount()) choisit(rang, !champ(rang).prendDroite);
-}
-
-int ModeleComparaison::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(std::ssize(m_plan.film) + std::ssize(m_plan.possession));
-}
-
-Qt::ItemFlags ModeleComparaison::flags(const QModelIndex& index) const {
-    return QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
 }
 
 QVariant ModeleComparaison::data(const QModelIndex& index, int role) const {
@@ -68,23 +65,19 @@ QVariant ModeleComparaison::data(const QModelIndex& index, int role) const {
     const ChampCompare& celui = champ(index.row());
     const bool aDroite = index.column() == Droite;
     const std::string& valeur = aDroite ? celui.droite : celui.gauche;
-    if (role == kLigneForte) return celui.differe();
-    if (role == kLigneDiscrete) return !celui.differe();
+    const bool differe = celui.differe() && !m_seule;
+    if (role == kLigneForte) return differe;
+    if (role == kLigneDiscrete) return !differe && !m_seule;
     if (index.column() == Champ) {
         if (role == Qt::AccessibleTextRole) return ligneLue(index);
         if (role != Qt::DisplayRole) return {};
-        return (celui.differe() ? QStringLiteral("≠ ") : QString()) + QString::fromStdString(celui.legende);
+        return (differe ? QStringLiteral("≠ ") : QString()) + QString::fromStdString(celui.legende);
     }
     if (role == Qt::DisplayRole) return enUneLigne(celui, valeur);
     if (role == Qt::ToolTipRole && !valeur.empty()) return enInfobulle(QString::fromStdString(valeur));
     if (role == Qt::CheckStateRole && seChoisit(celui))
         return celui.prendDroite == aDroite ? Qt::Checked : Qt::Unchecked;
     return {};
-}
-
-QVariant ModeleComparaison::headerData(int section, Qt::Orientation sens, int role) const {
-    if (sens != Qt::Horizontal || role != Qt::DisplayRole) return {};
-    return section == Champ ? QString() : section == Gauche ? tr("À gauche (reste)") : tr("À droite");
 }
 
 }  // namespace ui

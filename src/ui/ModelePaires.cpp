@@ -13,14 +13,6 @@ QString nomComplet(const db::CleFilm& film) {
 
 }  // namespace
 
-int ModelePaires::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_paires.nombre());
-}
-
-Qt::ItemFlags ModelePaires::flags(const QModelIndex& index) const {
-    return QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
-}
-
 QVariant ModelePaires::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
     const ensemble::Paire& paire = m_paires.paire(static_cast<std::size_t>(index.row()));
@@ -33,12 +25,6 @@ QVariant ModelePaires::data(const QModelIndex& index, int role) const {
     if (role != Qt::DisplayRole) return {};
     if (score) return tr("%1 %").arg(index.column() == Titre ? paire.titre : paire.realisateur);
     return nomComplet(index.column() == Gauche ? paire.gauche : paire.droite);
-}
-
-QVariant ModelePaires::headerData(int section, Qt::Orientation sens, int role) const {
-    if (sens != Qt::Horizontal || role != Qt::DisplayRole) return {};
-    const QString titres[] = {tr("Film"), tr("ressemble à"), tr("Titre"), tr("Réali")};
-    return titres[section];
 }
 
 }  // namespace ui

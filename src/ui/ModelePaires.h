@@ -1,27 +1,25 @@
 #pragma once
 
 #include "ensemble/PairesAVoir.h"
-
-#include <QAbstractTableModel>
+#include "ui/ModeleDeLignes.h"
 
 namespace ui {
 
 // The pairs of films that are to be looked at, which live with the page.
-class ModelePaires final : public QAbstractTableModel {
+class ModelePaires final : public ModeleDeLignes {
     Q_OBJECT
   public:
-    enum Colonne { Gauche, Droite, Titre, Realisateur, kColonnes };
-    explicit ModelePaires(const ensemble::PairesAVoir& paires) : m_paires(paires) {}
+    enum Colonne { Gauche, Droite, Titre, Realisateur };
+    explicit ModelePaires(const ensemble::PairesAVoir& paires)
+        : ModeleDeLignes({tr("Film"), tr("ressemble à"), tr("Titre"), tr("Réali")}), m_paires(paires) {}
 
     void change() { beginResetModel(), endResetModel(); }  // after each change of the pairs
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] int columnCount(const QModelIndex&) const override { return kColonnes; }
-    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QVariant headerData(int section, Qt::Orientation sens, int role) const override;
 
   private:
+    [[nodiscard]] int nombre() const override { return static_cast<int>(m_paires.nombre()); }
+
     const ensemble::PairesAVoir& m_paires;
 };
 

@@ -5,6 +5,7 @@
 #include "acquire/cmdParcourir2_Click.h"
 #include "acquire/cmdTelecharge_Click.h"
 #include "app/ChoixFonction.h"
+#include "ui/ApercuDesFiches.h"
 #include "ui/Boutons.h"
 #include "ui/Cartes.h"
 #include "ui/Composition.h"
@@ -99,8 +100,10 @@ QLayout* PanneauAjout::fiches(const Atelier& atelier) {
     auto* boite = section(atelier, Aide::Fiches);
     boite->addSpacing(kSerre);
     boite->addLayout(dossierDesFiches(atelier));
-    auto* ligne = rangee({lancer, nombre}, kMoyen);
-    ligne->setStretch(1, 1);
+    auto* apercu = bouton("cmdApercuFiches", tr("Aperçu…"), tr("Voir d'abord ce que l'ajout ferait ; rien ne change"));
+    connect(apercu, &QAbstractButton::clicked, this, [this] { ouvreApercuDesFiches(m_atelier, this); });
+    auto* ligne = rangee({lancer, apercu, nombre}, kMoyen);
+    ligne->setStretch(2, 1);
     boite->addLayout(ligne);
     boite->addWidget(titre);
     boite->addWidget(progression);

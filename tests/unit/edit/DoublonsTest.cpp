@@ -1,4 +1,5 @@
-#include "edit/LettresDuCatalogue.h"
+#include "edit/Complement.h"
+#include "edit/JugeFilms.h"
 #include "edit/TitreDejaExistant.h"
 #include "edit/TitreDejaExistant_TestRessemblance.h"
 #include "unit/edit/FenetreEdition.h"
@@ -63,7 +64,9 @@ TEST_F(DoublonsTest, callsAlikeOnlyWhatIsAboveEightyPerCentOnBothSides) {
             dialogues.attendMsgBox(edit::questionRessemblance(cas.nouveau, cas.ancien), dialogues::kQuestion,
                                    dialogues::kNon);
         EXPECT_EQ(TitreDejaExistant_TestRessemblance(c, cas.nouveau), cas.proche) << cas.nouveau.titre;
-        EXPECT_EQ(edit::LettresDuCatalogue::de(c).aUnProche(cas.nouveau), cas.proche) << cas.nouveau.titre;
+        const auto lettres = edit::LettresDuCatalogue::de(c);
+        EXPECT_EQ(lettres.aUnProche(cas.nouveau), cas.proche) << cas.nouveau.titre;
+        EXPECT_EQ(lettres.proches(cas.nouveau).size(), cas.proche ? 1U : 0U) << cas.nouveau.titre;
     }
 }
 
@@ -74,6 +77,44 @@ TEST_F(DoublonsTest, lettersOfTheCatalogueFollowWhatABatchAdds) {
     lettres.ajoute({"Solarise", "Ridley Scot"});
     EXPECT_TRUE(lettres.aUnProche({"Solaris", "Ridley Scott"}));
     EXPECT_TRUE(lettres.aUnProche({"aliens", "Scott Ridley"}));
+}
+
+TEST_F(DoublonsTest, aFilmIsJudgedByTheCatalogueAndByWhatComesBeforeIt) {
+    ajoute(base.films, {{"Titre", "Solaris"},
+                        {"Realisateur", "Andreï Tarkovski"},
+                        {"Annee", "1972"},
+                        {"Genre", dao::Valeur()},
+                        {"Duree", " "},
+                        {"Affiche", "JPGelle.jpg"}});
+    ajoute(base.films, {{"Titre", "Solarise"}, {"Realisateur", "Andrei Tarkovsky"}, {"Origine", ""}});
+    edit::JugeFilms juge(c, true);
+    int affichesLues = 0;
+    const auto dit = [&](const db::CleFilm& cle) {
+        const edit::FilmLu lu{cle, "1999", "URSS", "SF", "2H", "", "", " "};
+        const edit::FilmExamine examen = juge.examine(lu, [&] {
+            ++affichesLues;
+            return edit::SortDeLAffiche::Prise;
+        });
+        EXPECT_EQ(juge.juge(lu), examen.sort);
+        return texteDuSort(examen);
+    };
+    EXPECT_EQ(dit({"SOLARIS ", "andreï tarkovski"}), "Déjà là, à compléter : origine, genre");
+    EXPECT_EQ(affichesLues, 0) << "its poster stays";
+    EXPECT_EQ(dit({"Solarise", "Andrei Tarkovsky"}), "Déjà là, à compléter : année, origine, genre, durée, affiche");
+    EXPECT_EQ(dit({"Solari", "Andreï Tarkovski"}), "Ressemble à « Solaris » à 92 % et à 1 autre film");
+    EXPECT_EQ(dit({"Alien", "Ridley Scott"}), "Nouveau");
+    juge.ajoute({"Alien", "Ridley Scott"});
+    EXPECT_EQ(dit({"ALIEN", "Ridley Scott"}), "Déjà là : lu deux fois");
+    EXPECT_EQ(dit({"Aliens", "Ridley Scott"}), "Ressemble à « Alien » à 91 %");
+
+    dao::Recordset ligne = base.base.OpenRecordset(edit::requeteTitreDejaExistant({"Solaris", "Andreï Tarkovski"}));
+    ligne.Edit();
+    edit::complete(ligne, {{"Autre", "Autre"}, "1999", "URSS", "SF", "2H", "", "", ""});
+    ligne.Update();
+    std::string champs;
+    for (const char* champ : {"Titre", "Annee", "Origine", "Genre", "Duree", "Acteurs"})
+        champs += ligne.texte(champ) + "|";
+    EXPECT_EQ(champs, "Solaris|1972|URSS|SF| ||");
 }
 
 }  // namespace

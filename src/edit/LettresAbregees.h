@@ -1,0 +1,26 @@
+#pragma once
+
+#include "util/Similarite.h"
+
+#include <array>
+#include <cstdint>
+
+namespace edit {
+
+// The letters of a text in bytes, which are compared several at a time: what rules out nearly every pair of texts before
+// their likeness is worked out. A count that no byte holds stops at the largest: texts then look closer than they are,
+// never farther.
+struct LettresAbregees {
+    std::array<std::uint8_t, 40> nombre{};
+    std::uint32_t total = 0;
+};
+
+[[nodiscard]] LettresAbregees abrege(const util::CompteLettres& compte);
+
+// Sound, and nearly exact: what it refuses does not resemble.
+[[nodiscard]] bool peutRessembler(const LettresAbregees& gauche, const LettresAbregees& droite);
+
+// The most letters that a text may have to resemble one of so many.
+[[nodiscard]] std::uint64_t totalAuPlus(std::uint64_t total);
+
+}  // namespace edit
