@@ -15,6 +15,7 @@ install(FILES "${AMBRELIS_DOSSIER}/Modele.dat" "${PROJECT_SOURCE_DIR}/src/app/Ex
 install(FILES "${AMBRELIS_DOSSIER}/traductions/qtbase_fr.qm" DESTINATION "${place}/traductions")
 install(FILES ${fiches} DESTINATION "${place}/samples")
 install(FILES ${guide} DESTINATION "${place}/Guide")
+install(FILES ${images_du_guide} DESTINATION "${place}/Guide/images")
 
 set(CPACK_PACKAGE_NAME "ambrelis")
 set(CPACK_PACKAGE_CONTACT "Ambrelis <ambrelis@example.org>")
