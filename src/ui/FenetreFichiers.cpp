@@ -1,6 +1,7 @@
 #include "ui/FenetreFichiers.h"
 
 #include "ui/Composition.h"
+#include "ui/FenetreGuide.h"
 #include "view/Command1_Click.h"
 
 #include <QCloseEvent>
@@ -30,6 +31,7 @@ QString abrege(QString nom, const QWidget& bouton) {
 FenetreFichiers::FenetreFichiers(const Atelier& atelier, QWidget* parent)
     : QWidget(parent, Qt::Dialog), m_atelier(atelier) {  // what window managers place over its owner
     nomme(this, "frmFichiersFilm");
+    donneUnePage(this, "fichiers.html");
     auto* texte = new QLabel(
         tr("  Cette fonction permet de lancer un des fichiers associés à un titre. Elle le recherchera sur tous les "
            "lecteurs de la machine et exécutera l'application associée."));
@@ -93,6 +95,8 @@ void FenetreFichiers::closeEvent(QCloseEvent* evenement) {
 void FenetreFichiers::keyPressEvent(QKeyEvent* evenement) {
     if (evenement->key() == Qt::Key_Escape)
         close();
+    else if (evenement->key() == Qt::Key_F1)
+        demandeLeGuide(m_atelier, this);
     else
         QWidget::keyPressEvent(evenement);
 }

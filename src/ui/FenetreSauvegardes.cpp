@@ -2,6 +2,7 @@
 
 #include "app/Sauvegardes.h"
 #include "ui/Composition.h"
+#include "ui/FenetreGuide.h"
 
 #include <QCloseEvent>
 #include <QHeaderView>
@@ -31,6 +32,7 @@ FenetreSauvegardes::FenetreSauvegardes(const Atelier& atelier, QWidget* parent)
     : QWidget(parent, Qt::Dialog), m_atelier(atelier) {  // what window managers place over its owner
     nomme(this, "frmSauvegardes");
     setWindowTitle(tr("Sauvegardes"));
+    donneUnePage(this, "sauvegardes.html");
     m_atelier.liaison.apresEcriture([this] { suitLEtat(); });
 }
 
@@ -145,6 +147,8 @@ void FenetreSauvegardes::closeEvent(QCloseEvent* evenement) {
 void FenetreSauvegardes::keyPressEvent(QKeyEvent* evenement) {
     if (evenement->key() == Qt::Key_Escape)
         close();
+    else if (evenement->key() == Qt::Key_F1)
+        demandeLeGuide(m_atelier, this);
     else
         QWidget::keyPressEvent(evenement);
 }
