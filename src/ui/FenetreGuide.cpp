@@ -68,7 +68,7 @@ void FenetreGuide::compose() {
     auto* boite = new QVBoxLayout(this);
     boite->setContentsMargins(0, 0, 0, 0);
     boite->addWidget(partage);
-    connect(m_vue, &QTextBrowser::sourceChanged, this, &FenetreGuide::suisLaPage);
+    connect(m_vue, &QTextBrowser::historyChanged, this, &FenetreGuide::suisLaPage);
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
         m_recherche->setFocus(Qt::ShortcutFocusReason);
         m_recherche->selectAll();
@@ -218,8 +218,9 @@ void FenetreGuide::suisLaRecherche() {
 
 // From a passage to the next one of the page, then to the page after it, and from the last one to the first.
 void FenetreGuide::cherche(int sens) {
-    if (m_recherche->text().trimmed().isEmpty() || m_trouvees.empty() || m_vue->passe(sens)) return ditOuOnEnEst();
+    if (m_recherche->text().trimmed().isEmpty() || m_trouvees.empty()) return;
     const std::size_t nombre = m_trouvees.size(), ici = pageMontree();
+    if (ici < nombre && m_vue->passe(sens)) return ditOuOnEnEst();
     std::size_t voulue = sens > 0 ? 0 : nombre - 1;
     if (ici < nombre) voulue = (ici + (sens > 0 ? 1 : nombre - 1)) % nombre;
     m_vue->montre(m_pages->pages()[m_trouvees[voulue]].nom);

@@ -2,6 +2,7 @@
 
 #include "ui/Composition.h"
 #include "ui/Couleurs.h"
+#include "ui/Typographie.h"
 
 #include <QBuffer>
 #include <QEvent>
@@ -28,13 +29,14 @@ QUrl adresse(const QString& page) {
 QString preparee(QString page) {
     static const QRegularExpression kTete(QStringLiteral("<header>\\s*<p>.*?</p>"));
     page.replace(kTete, QStringLiteral("<header>"));  // back to the contents, which stand beside it
+    page.replace(QStringLiteral("rel=\"stylesheet\""), QStringLiteral("rel=\"stylesheet\" type=\"text/css\""));
     page.replace(QStringLiteral("<kbd>"), QStringLiteral("<kbd>&nbsp;"));
     page.replace(QStringLiteral("</kbd>"), QStringLiteral("&nbsp;</kbd>"));
     page.replace(QStringLiteral("<table>"), QStringLiteral("<table width=\"100%\" cellspacing=\"0\">"));
     page.replace(QStringLiteral("<footer>"), QStringLiteral("<hr>"));
     page.replace(QStringLiteral("<a rel=\"prev\""), QStringLiteral("←&nbsp;<a"));
     page.replace(QStringLiteral("<a rel=\"next\""), QStringLiteral("→&nbsp;<a"));
-    return page;
+    return sansSigneIsole(page);
 }
 
 QString feuilleDeStyle(const QPalette& palette) {
@@ -99,7 +101,7 @@ void VueGuide::suisLeLien(const QUrl& lien) {
 }
 
 QVariant VueGuide::loadResource(int genre, const QUrl& nom) {
-    const QUrl cible = source().resolved(nom);
+    const QUrl cible = adresse({}).resolved(nom);  // the source is not yet the page that is read
     if (cible.scheme() != adresse({}).scheme()) return {};
     if (genre == QTextDocument::StyleSheetResource) return feuilleDeStyle(palette());
     const QByteArray octets = m_pages.lis(cible.path().mid(1));

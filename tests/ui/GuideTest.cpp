@@ -108,6 +108,7 @@ QString enFrancais(const QKeySequence& touche) {
 // The window with the guide beside it, every page of it built.
 struct FenetreDuGuide : testing::Test {
     essais::ProgrammeDEssai essai;
+    const std::string rouge = essais::octetsDImage(Qt::red);
 
     FenetreDuGuide() { fs::copy(kGuide, essai.dossier.chemin("Guide"), fs::copy_options::recursive); }
 
@@ -121,7 +122,11 @@ struct FenetreDuGuide : testing::Test {
         return guide().isVisible() ? vue().page() : QString();
     }
     void ouvreTout() {
-        essai.importe({{"L'Été", "Agnès Varda", "Drame", ""}});
+        essai.importe({{"L'Été", "Agnès Varda", "Drame", ""}, {"Avatar", "James Cameron", "Drame", rouge}});
+        essai.cliqueTitre("Avatar");
+        essai.clique("Image1");
+        touche(essai.trouve("frmAffiche"), Qt::Key_Escape);
+        essai.cliqueTitre("L'Été");
         essai.clique("cmdCollection");
         for (auto* onglet : essai.trouve("frameCollection").findChildren<ui::BoutonOnglet*>())
             onglet->click();
@@ -206,6 +211,7 @@ TEST_F(FenetreDuGuide, OpensWhereOneIsAndIsReadFromPageToPage) {
 TEST_F(FenetreDuGuide, FindsWordsWithoutTheirAccentsInThePagesThatHoldThemAll) {
     essai.demarre();
     touche(essai.fenetre(), Qt::Key_F1);
+    ASSERT_TRUE(essais::attends([&] { return QApplication::activeWindow() == &guide(); }));
     touche(guide(), Qt::Key_F, Qt::ControlModifier);
     auto& liste = essai.trouve<QTreeWidget>("lstPagesGuide");
     auto& champ = essai.trouve<QLineEdit>("txtChercheGuide");

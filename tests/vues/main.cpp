@@ -163,7 +163,7 @@ class Photographe {
         saisie();
         m_essai.clique("cmdConfigurer");
         ditChezElle("lblCheminBase");
-        photoDuPanneau("outils", "frameListeFonctions");
+        photoDuPanneau("outils", "frameListeFonctions", 730);
     }
 
     void saisis(const Champs& champs) {
@@ -207,6 +207,8 @@ class Photographe {
         m_essai.clique("cmdConfigurer");
         m_essai.clique("cmdMultiSuppress");
         m_essai.clique("Option4_1");
+        for (const char* titre : {"La Vie Des Autres", "L'Atalante"})
+            QTest::mouseClick(m_essai.arbre().viewport(), Qt::LeftButton, {}, {18, m_essai.place(titre).y()});
         photo("supprimer", m_essai.fenetre(), {0, 0, kPourUnePage.width(), 420});
         m_essai.clique("Option4_0");
         m_essai.clique("cmdConfigurer");
@@ -243,6 +245,7 @@ class Photographe {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" AMBRELIS_SOURCE_DIR "/tests/ui/ecran.json");
     qputenv("QT_QPA_PLATFORMTHEME", "none");
+    qputenv("TZ", "UTC");
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setCursorFlashTime(0);
