@@ -165,6 +165,7 @@ QWidget* FenetreGuide::droite() {
 void FenetreGuide::presente() {
     m_presentation = m_atelier.etats().guide.presentations;
     if (!m_pages) compose();
+    m_recherche->clear();
     m_vue->montre(QString::fromStdString(m_atelier.etats().guide.page));
     show();
     raise();

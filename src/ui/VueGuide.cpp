@@ -69,13 +69,14 @@ VueGuide::VueGuide(const PagesDuGuide& pages, QWidget* parent) : QTextBrowser(pa
     setFrameShape(QFrame::NoFrame);
     setOpenLinks(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // pictures are made as wide as it leaves room for
     QFont lettres = font();
     lettres.setPointSizeF(lettres.pointSizeF() * 1.1);
     document()->setDefaultFont(lettres);
     m_repos.setSingleShot(true);
     m_repos.setInterval(kReposDesBords);
     connect(&m_repos, &QTimer::timeout, this, [this] {
-        if (m_largeur != largeurDeTexte()) relis();
+        if (m_largeurDesImages != largeurDeTexte()) relis();
     });
     connect(this, &QTextBrowser::anchorClicked, this, &VueGuide::suisLeLien);
     connect(this, &QTextBrowser::sourceChanged, this, [this] {
@@ -106,6 +107,7 @@ QVariant VueGuide::loadResource(int genre, const QUrl& nom) {
     if (genre == QTextDocument::StyleSheetResource) return feuilleDeStyle(palette());
     const QByteArray octets = m_pages.lis(cible.path().mid(1));
     if (genre == QTextDocument::ImageResource) return image(octets);
+    m_largeurDesImages = largeurDeTexte();
     if (octets.isEmpty()) return tr("<p>Cette page du guide n'est pas dans le dossier du programme.</p>");
     return preparee(QString::fromUtf8(octets));
 }
@@ -130,9 +132,8 @@ int VueGuide::largeurDeTexte() const {
 }
 
 void VueGuide::metEnPage() {
-    m_largeur = largeurDeTexte();
     QTextFrameFormat format = document()->rootFrame()->frameFormat();
-    const int bord = std::max(kLarge, (viewport()->width() - m_largeur) / 2);
+    const int bord = std::max(kLarge, (viewport()->width() - largeurDeTexte()) / 2);
     format.setLeftMargin(bord);
     format.setRightMargin(bord);
     document()->rootFrame()->setFrameFormat(format);

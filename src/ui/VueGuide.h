@@ -46,8 +46,8 @@ class VueGuide final : public QTextBrowser {
     QStringList m_mots;
     std::vector<Passage> m_passages;
     qsizetype m_passage = -1;
-    int m_largeur = 0;  // that the pictures were made for
-    QTimer m_repos;     // of the window's edges
+    int m_largeurDesImages = 0;  // that those of the page were made for
+    QTimer m_repos;              // of the window's edges
 };
 
 }  // namespace ui

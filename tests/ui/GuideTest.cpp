@@ -198,6 +198,9 @@ TEST_F(FenetreDuGuide, OpensWhereOneIsAndIsReadFromPageToPage) {
     EXPECT_EQ(vue().page(), "fiche.html");
     EXPECT_FALSE(vue().toPlainText().isEmpty());
 
+    emit vue().anchorClicked(QUrl("outils.html"));
+    guide().resize(700, 500);
+    EXPECT_TRUE(essais::attends([&] { return vue().horizontalScrollBar()->maximum() == 0; })) << "its picture fits";
     emit vue().anchorClicked(QUrl("ordre.html#doublons"));
     EXPECT_EQ(vue().page(), "ordre.html");
     emit vue().anchorClicked(QUrl("../Films.mdb"));
