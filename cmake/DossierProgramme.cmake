@@ -45,9 +45,10 @@ endfunction()
 
 file(GLOB fiches CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/samples/*.FILM" "${PROJECT_SOURCE_DIR}/samples/*.jpg")
 recopie(samples ${fiches})
-set(guide "${PROJECT_SOURCE_DIR}/docs/guide/index.html" "${PROJECT_SOURCE_DIR}/docs/fenetre.png"
-    "${PROJECT_SOURCE_DIR}/docs/mur.png" "${PROJECT_SOURCE_DIR}/docs/statistiques.png")
+file(GLOB guide CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/docs/guide/*.html" "${PROJECT_SOURCE_DIR}/docs/guide/*.css")
+file(GLOB images_du_guide CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/docs/guide/images/*.png")
 recopie(Guide ${guide})
+recopie(Guide/images ${images_du_guide})
 
 add_custom_target(dossier_programme ALL
   DEPENDS "${AMBRELIS_DOSSIER}/Modele.dat" "${AMBRELIS_DOSSIER}/Extensions.txt"

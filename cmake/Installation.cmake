@@ -15,6 +15,7 @@ install(FILES "${AMBRELIS_DOSSIER}/Modele.dat" "${PROJECT_SOURCE_DIR}/src/app/Ex
 install(FILES "${AMBRELIS_DOSSIER}/traductions/qtbase_fr.qm" DESTINATION "${place}/traductions")
 install(FILES ${fiches} DESTINATION "${place}/samples")
 install(FILES ${guide} DESTINATION "${place}/Guide")
+install(FILES ${images_du_guide} DESTINATION "${place}/Guide/images")
 
 set(CPACK_PACKAGE_NAME "ambrelis")
 # The project has no public address. A package must name one; ".invalid" is the ending reserved for what is none.

@@ -1,6 +1,9 @@
 #include "app/Aide.h"
 
 #include "acquire/AdresseRecherche.h"
+#include "app/RaccourcisClavier.h"
+#include "browse/ListeVide.h"
+#include "platform/fichiers/Fichiers.h"
 
 namespace app {
 
@@ -38,6 +41,31 @@ void ouvre(const Contexte& c, const std::string& adresse) {
         c.dialogues.MsgBox("Le navigateur n'a pas pu être ouvert (" + adresse + ").", dialogues::kExclamation);
 }
 
+const char* pageDeLaCollection(PageDeCollection page) {
+    switch (page) {
+        case PageDeCollection::Prets:
+            return "prets.html";
+        case PageDeCollection::Statistiques:
+            return "statistiques.html";
+        case PageDeCollection::Sante:
+            return "ordre.html#sante";
+        case PageDeCollection::Doublons:
+            return "ordre.html#doublons";
+        case PageDeCollection::CeSoir:
+            return "collection.html#cesoir";
+        case PageDeCollection::Affiches:
+            break;
+    }
+    return "collection.html";
+}
+
+const char* pageDeLaFonction(const Etats& etats) {
+    if (etats.fonctions.frameConfig.Visible) return "outils.html#configuration";
+    if (etats.fonctions.frameOutils.Visible) return "outils.html";
+    if (etats.ajout.Frame13.Visible) return "saisir.html";
+    return etats.ajout.frameImportBase.Visible ? "venir.html" : "importer.html";
+}
+
 }  // namespace
 
 void cmdAide_Click(const Contexte& c) {
@@ -49,7 +77,35 @@ void Image3_Click(const Contexte& c) {
 }
 
 void Label4_Click(const Contexte& c) {
-    ouvre(c, c.chemins.dansDossier(kGuide));
+    montreLeGuide(c, kSommaireDuGuide);
+}
+
+void AideDuPanneau(const Contexte& c) {
+    montreLeGuide(c, pageDuPanneau(c.etats));
+}
+
+void montreLeGuide(const Contexte& c, std::string page) {
+    if (!fichiers::existe(c.chemins.dansDossier(kDossierDuGuide) + kSommaireDuGuide)) return MontreTouches(c);
+    c.etats.guide.page = std::move(page);
+    ++c.etats.guide.presentations;
+}
+
+std::string pageDuPanneau(const Etats& etats) {
+    const browse::EtatPanneaux& panneaux = etats.panneaux;
+    if (panneaux.frameMultiSuppression.Visible) return "supprimer.html#plusieurs";
+    if (panneaux.frameCollection.Visible) return pageDeLaCollection(etats.collection.page);
+    if (panneaux.frameRecherche.Visible) return "chercher.html";
+    if (panneaux.frameListeFonctions.Visible) return pageDeLaFonction(etats);
+    if (panneaux.frameFiche.Visible) return etats.fiche.frameGeneralites[0].Visible ? "fiche.html" : "exemplaire.html";
+    return browse::catalogueVide(etats.liste) ? "premier.html" : "parcourir.html";
+}
+
+void cmdPageAuNavigateur_Click(const Contexte& c, std::string page) {
+    ouvre(c, c.chemins.dansDossier(kDossierDuGuide) + page);
+}
+
+void LienDuGuide_Click(const Contexte& c, std::string adresse) {
+    ouvre(c, adresse);
 }
 
 std::string texteAPropos() {

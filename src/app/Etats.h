@@ -3,6 +3,7 @@
 #include "app/EtatAnnulation.h"
 #include "app/EtatCollection.h"
 #include "app/EtatFonctions.h"
+#include "app/EtatGuide.h"
 #include "app/EtatSauvegardes.h"
 #include "browse/EtatFiche.h"
 #include "browse/EtatListe.h"
@@ -43,6 +44,7 @@ struct Etats {
     view::EtatFichiers fichiers;
     exportation::EtatNom nom;
     EtatSauvegardes sauvegardes;
+    EtatGuide guide;
     ecran::EtatAvis avis;
     ecran::Demandes demandes;
     MenuContextuel menu = MenuContextuel::Aucun;

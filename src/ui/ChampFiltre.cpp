@@ -3,6 +3,7 @@
 #include "app/Filtre.h"
 #include "ui/BoutonPuce.h"
 #include "ui/Composition.h"
+#include "ui/FenetreGuide.h"
 #include "ui/Icones.h"
 #include "ui/Lecteur.h"
 #include "ui/UneSeuleLigne.h"
@@ -36,6 +37,7 @@ ChampFiltre::ChampFiltre(const Atelier& atelier, VueTitres& titres, QWidget* par
         tr("Ne montrer que les films où se trouvent ces mots : titre, réalisateur,\n"
            "année, genre ou acteurs, dans n’importe quel ordre (Ctrl+K)"));
     m_champ->setClearButtonEnabled(true);
+    donneUnePage(m_champ, "filtrer.html");
     m_champ->setMaxLength(kLettresAuPlus);
     m_champ->addAction(icone(Pictogramme::Loupe), QLineEdit::LeadingPosition);
     m_champ->setMinimumWidth(m_champ->fontMetrics().averageCharWidth() * 14);

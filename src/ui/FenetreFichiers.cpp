@@ -1,6 +1,7 @@
 #include "ui/FenetreFichiers.h"
 
 #include "ui/Composition.h"
+#include "ui/FenetreGuide.h"
 #include "ui/Lecteur.h"
 #include "view/Command1_Click.h"
 
@@ -32,6 +33,7 @@ FenetreFichiers::FenetreFichiers(const Atelier& atelier, QWidget* parent)
     : QWidget(parent, Qt::Dialog), m_atelier(atelier) {  // what window managers place over its owner
     nomme(this, "frmFichiersFilm");
     seLit(this, {.role = QAccessible::Dialog});
+    donneUnePage(this, "fichiers.html");
     auto* texte = new QLabel(
         tr("  Cette fonction permet de lancer un des fichiers associés à un titre. Elle le recherchera sur tous les "
            "lecteurs de la machine et exécutera l'application associée."));
@@ -95,6 +97,8 @@ void FenetreFichiers::closeEvent(QCloseEvent* evenement) {
 void FenetreFichiers::keyPressEvent(QKeyEvent* evenement) {
     if (evenement->key() == Qt::Key_Escape)
         close();
+    else if (evenement->key() == Qt::Key_F1)
+        demandeLeGuide(m_atelier, this);
     else
         QWidget::keyPressEvent(evenement);
 }

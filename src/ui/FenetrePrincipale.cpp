@@ -8,6 +8,7 @@
 #include "ui/EcranQt.h"
 #include "ui/FenetreAffiche.h"
 #include "ui/FenetreFichiers.h"
+#include "ui/FenetreGuide.h"
 #include "ui/FenetreSauvegardes.h"
 #include "ui/Icones.h"
 #include "ui/Infobulles.h"
@@ -146,10 +147,11 @@ void FenetrePrincipale::completePanneaux() {
         suisAuClavier(previousInFocusChain(), *zone);
     setWindowIcon(icone(Pictogramme::Clap));
     tiensALEcran();
-    // The windows of their own. Viewer and safety copies are composed when they first open.
+    // The windows of their own. Viewer, safety copies and guide are composed when they first open.
     new FenetreAffiche(m_atelier, this);
     new FenetreFichiers(m_atelier, this);
     new FenetreSauvegardes(m_atelier, this);
+    new FenetreGuide(m_atelier, this);
     m_atelier.execute(&app::Session::Form_Activate);
     new Ouvertures(m_atelier, this);
 }

@@ -3,6 +3,7 @@
 #include "app/Sauvegardes.h"
 #include "ui/Composition.h"
 #include "ui/DelegueLignes.h"
+#include "ui/FenetreGuide.h"
 #include "ui/Lecteur.h"
 
 #include <QCloseEvent>
@@ -34,6 +35,7 @@ FenetreSauvegardes::FenetreSauvegardes(const Atelier& atelier, QWidget* parent)
     nomme(this, "frmSauvegardes");
     seLit(this, {.role = QAccessible::Dialog});
     setWindowTitle(tr("Sauvegardes"));
+    donneUnePage(this, "sauvegardes.html");
     m_atelier.liaison.apresEcriture([this] { suitLEtat(); });
 }
 
@@ -149,6 +151,8 @@ void FenetreSauvegardes::closeEvent(QCloseEvent* evenement) {
 void FenetreSauvegardes::keyPressEvent(QKeyEvent* evenement) {
     if (evenement->key() == Qt::Key_Escape)
         close();
+    else if (evenement->key() == Qt::Key_F1)
+        demandeLeGuide(m_atelier, this);
     else
         QWidget::keyPressEvent(evenement);
 }

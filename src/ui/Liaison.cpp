@@ -257,10 +257,10 @@ void Liaison::lit() {
 }
 
 void Liaison::ecrit() {
-    for (const auto& lien : m_liens)
-        lien->ecrit();
-    for (const auto& suite : m_suites)
-        suite();
+    for (std::size_t i = 0; i < m_liens.size(); ++i)
+        m_liens[i]->ecrit();
+    for (std::size_t i = 0; i < m_suites.size(); ++i)
+        m_suites[i]();
 }
 
 }  // namespace ui

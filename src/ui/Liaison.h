@@ -2,6 +2,7 @@
 
 #include "platform/ecran/Controles.h"
 
+#include <deque>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -45,7 +46,7 @@ class Liaison {
     void lie(ecran::Liste& etat, QComboBox* widget);
     void lie(ecran::Progression& etat, QProgressBar* widget);
     void ajoute(std::unique_ptr<Lien> lien);
-    // Called after each writing, for what depends on several values.
+    // Called after each writing, for what depends on several values. What it builds may tie more, and follow as well.
     void apresEcriture(std::function<void()> suite) { m_suites.push_back(std::move(suite)); }
 
     void lit();
@@ -53,7 +54,7 @@ class Liaison {
 
   private:
     std::vector<std::unique_ptr<Lien>> m_liens;
-    std::vector<std::function<void()>> m_suites;
+    std::deque<std::function<void()>> m_suites;  // one that is running stays where it is when another is added
 };
 
 }  // namespace ui

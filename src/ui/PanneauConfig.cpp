@@ -126,7 +126,7 @@ QLayout* PanneauConfig::programme(const Atelier& atelier) {
     auto* connexion =
         nomme(new QCheckBox(tr("&Lancer la connexion au démarrage du téléchargement")), "chkLancerConnexion");
     auto* page = nomme(new BoutonLien(tr("Le guide d'Ambrelis")), "Label4");
-    page->setToolTip(tr("Lire le guide du programme dans le navigateur"));
+    page->setToolTip(tr("Lire le guide du programme (F1 : la page de ce qui est montré)"));
     atelier.liaison.lie(fonctions.chkLancerConnexion, connexion);
     atelier.liaison.lie(fonctions.Label4, page);
     atelier.auClic(page, app::Label4_Click);

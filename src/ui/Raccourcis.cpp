@@ -5,6 +5,7 @@
 #include "app/Commandes.h"
 #include "app/RaccourcisClavier.h"
 #include "browse/cmdFonctionRecherche_Click.h"
+#include "ui/FenetreGuide.h"
 #include "ui/PanneauFiche.h"
 #include "ui/VueTitres.h"
 
@@ -100,7 +101,7 @@ bool Raccourcis::prends(const QKeyEvent& evenement) const {
         return true;
     }
     if (evenement.key() == Qt::Key_F1) {  // no shortcut: the poster viewer has its own F1
-        m_atelier.execute(app::MontreTouches);
+        demandeLeGuide(m_atelier, m_fenetre->focusWidget());
         return true;
     }
     if (evenement.key() != Qt::Key_Delete || !surLeFilm()) return false;

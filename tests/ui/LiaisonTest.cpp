@@ -107,4 +107,20 @@ TEST(Liaison, AWidgetTiedLateShowsItsValueAndOnlyChangesAreWritten) {
     EXPECT_EQ(etiquette.text(), "intact");
 }
 
+// A page that is built when it is first shown.
+TEST(Liaison, WhatIsBuiltWhileTheStateIsShownFollowsAtOnce) {
+    ui::Liaison liaison;
+    ecran::Etiquette etat;
+    QLabel etiquette;
+    int suites = 0;
+    liaison.apresEcriture([&, reste = std::string(50, 'r')] {
+        for (int i = suites; i < 200; ++i)
+            liaison.apresEcriture([&suites] { ++suites; });
+        liaison.lie(etat, &etiquette);
+        EXPECT_EQ(reste, std::string(50, 'r')) << "it is still there itself";
+    });
+    liaison.ecrit();
+    EXPECT_EQ(suites, 200);
+}
+
 }  // namespace

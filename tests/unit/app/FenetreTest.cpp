@@ -2,6 +2,7 @@
 #include "app/Aide.h"
 #include "app/ChoixFonction.h"
 #include "app/Commandes.h"
+#include "app/RaccourcisClavier.h"
 #include "browse/ChoixZone.h"
 #include "db/cmdMajBase_Click.h"
 #include "parcours/Installation.h"
@@ -95,14 +96,48 @@ TEST(Liens, OpenInTheBrowserOrGiveTheirAddress) {
     const Installation installation;
     Execution execution(installation.chemin());
     execution.session.execute(app::Image3_Click);
-    execution.session.execute(app::Label4_Click);
+    execution.session.execute(app::cmdPageAuNavigateur_Click, "prets.html");
     EXPECT_EQ(execution.documents.ouverts,
-              (std::vector<std::string>{acquire::kSiteMovieCovers, installation.chemin("Guide/index.html")}));
+              (std::vector<std::string>{acquire::kSiteMovieCovers, installation.chemin("Guide/prets.html")}));
     execution.documents.reussit = false;
     execution.boites.attendMsgBox(
         std::string("Le navigateur n'a pas pu être ouvert (") + acquire::kSiteMovieCovers + ").",
         dialogues::kExclamation);
     execution.session.execute(app::Image3_Click);
+}
+
+TEST(Guide, OpensAtThePageOfWhatIsShown) {
+    const Installation installation;
+    Execution execution(installation.chemin());
+    execution.session.Form_Load();
+    app::Etats& etats = execution.session.etats;
+    const auto page = [&](ecran::Cadre& cadre) {
+        etats.panneaux.montre(cadre);
+        return app::pageDuPanneau(etats);
+    };
+    browse::EtatPanneaux& panneaux = etats.panneaux;
+    EXPECT_EQ(page(panneaux.framePresentation), "premier.html") << "there is no film";
+    EXPECT_EQ(page(panneaux.frameRecherche), "chercher.html");
+    etats.collection.page = app::PageDeCollection::Doublons;
+    EXPECT_EQ(page(panneaux.frameCollection), "ordre.html#doublons");
+    etats.fiche.frameGeneralites[0].Visible = true;
+    EXPECT_EQ(page(panneaux.frameFiche), "fiche.html");
+    etats.fiche.frameGeneralites[0].Visible = false;
+    EXPECT_EQ(page(panneaux.frameFiche), "exemplaire.html");
+    execution.session.execute(app::cmdConfig_Click, 0);
+    EXPECT_EQ(app::pageDuPanneau(etats), "outils.html");
+    execution.session.execute(app::cmdConfig_Click, 1);
+    EXPECT_EQ(app::pageDuPanneau(etats), "outils.html#configuration");
+
+    execution.boites.attendMsgBox(app::texteTouches(), dialogues::kInformation);
+    execution.session.execute(app::Label4_Click);
+    EXPECT_EQ(etats.guide.presentations, 0) << "there is no guide in the program folder: the keys are told";
+    installation.ecrit("Guide/index.html", "<p>");
+    execution.session.execute(app::Label4_Click);
+    EXPECT_EQ(etats.guide.page, "index.html");
+    execution.session.execute(app::AideDuPanneau);
+    EXPECT_EQ(etats.guide.page, "outils.html#configuration");
+    EXPECT_EQ(etats.guide.presentations, 2);
 }
 
 }  // namespace
