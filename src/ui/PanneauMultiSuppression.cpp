@@ -4,6 +4,7 @@
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/Couleurs.h"
+#include "ui/FenetreExport.h"
 #include "ui/Sections.h"
 
 #include <QPainter>
@@ -60,7 +61,15 @@ QWidget* PanneauMultiSuppression::bande(const Atelier& atelier) {
     QSizePolicy politique = supprimer->sizePolicy();
     politique.setRetainSizeWhenHidden(true);  // the row keeps its height
     supprimer->setSizePolicy(politique);
+    auto* exporter = bouton("cmdExporterCoches", tr("Exporter…"), tr("Écrire les films cochés dans un autre format"));
+    QObject::connect(exporter, &QAbstractButton::clicked, this, [this, atelier] { ouvreExport(atelier, this); });
+    const auto suisLesCases = [exporter, arbre = &atelier.etats().liste.TreeView1] {
+        exporter->setVisible(arbre->Checkboxes && !arbre->coches.empty());
+    };
+    suisLesCases();
+    atelier.liaison.apresEcriture(suisLesCases);
     ligne->addWidget(coches);
+    ligne->addWidget(exporter);
     ligne->addWidget(supprimer);
 
     auto* boite = section(atelier, Aide::MultiSuppression);
