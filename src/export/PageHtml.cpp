@@ -27,9 +27,10 @@ label{font-weight:600}
 input{width:min(100%,28rem);margin-left:.5rem;padding:.45rem .7rem;font:inherit;color:inherit;background:var(--carte);border:1px solid var(--discret);border-radius:.4rem}
 input:focus,summary:focus-visible{outline:3px solid var(--accent);outline-offset:1px}
 .films{display:grid;grid-template-columns:repeat(auto-fill,minmax(min(100%,23rem),1fr));gap:.9rem;margin:0;padding:0;list-style:none}
-.film{display:flow-root;padding:.8rem;background:var(--carte);border-radius:.5rem;overflow-wrap:anywhere;content-visibility:auto;contain-intrinsic-size:auto 11rem}
+.film{display:flex;gap:.9rem;align-items:flex-start;padding:.8rem;background:var(--carte);border-radius:.5rem;overflow-wrap:anywhere;content-visibility:auto;contain-intrinsic-size:auto 11rem}
 .film[hidden],section[hidden]{display:none}
-.film img{float:left;width:6.5rem;height:auto;margin:0 .9rem .3rem 0;border-radius:.25rem}
+.film img{flex:none;width:6.5rem;height:auto;border-radius:.25rem}
+.film div{flex:1;min-width:0}
 h3{margin:0;font-size:1.08rem;line-height:1.3}
 p{margin:.25rem 0}
 .faits,.possession{color:var(--discret);font-size:.93rem}
@@ -126,7 +127,7 @@ void PageHtml::ajouteLesFaits(std::string& page, const FilmExporte& film) const 
         if (!texte.empty()) faits.append(faits.empty() ? "" : " · ").append(texte);
     }
     if (const std::string note = valeur(film, Champ::Note); !note.empty() && note != "0")
-        faits.append(faits.empty() ? "" : " · ").append("note ").append(note).append(" sur 10");
+        faits.append(faits.empty() ? "" : " · ").append("note\u00A0").append(note).append("/10");
     ajouteParagraphe(page, "faits", faits);
 }
 
@@ -165,11 +166,11 @@ std::string PageHtml::film(const FilmExporte& film, const Vignette* vignette) {
             .append("\" src=\"data:image/jpeg;base64,")
             .append(util::enBase64(vignette->jpeg))
             .append("\">\n");
-    page.append("<h3>").append(util::enHtml(film.valeur(Champ::Titre))).append("</h3>\n");
+    page.append("<div><h3>").append(util::enHtml(film.valeur(Champ::Titre))).append("</h3>\n");
     ajouteLesFaits(page, film);
     ajouteLesTextes(page, film);
     ajouteLaPossession(page, film);
-    return page.append("</li>\n");
+    return page.append("</div></li>\n");
 }
 
 std::string PageHtml::fin() const {

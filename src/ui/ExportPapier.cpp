@@ -1,5 +1,6 @@
 #include "ui/ExportPapier.h"
 
+#include "ui/Typographie.h"
 #include "util/Nombres.h"
 #include "util/Texte.h"
 
@@ -40,7 +41,7 @@ QString propre(const std::string& texte) {
     std::replace_if(
         propre.begin(), propre.end(),
         [](QChar c) { return c != QLatin1Char('\n') && (c.category() == QChar::Other_Control); }, QLatin1Char(' '));
-    return propre;
+    return sansSigneIsole(propre);
 }
 
 QTextOption coupe(bool justifie = false) {
@@ -288,7 +289,7 @@ bool CatalogueSurPapier::ajouteFiche(const FilmExporte& film, const QImage& affi
     const QString realisateur = valeur(film, Champ::Realisateur), acteurs = valeur(film, Champ::Acteurs);
     QString faits = joints({Champ::Annee, Champ::Origine, Champ::Genre, Champ::Duree, Champ::Production}, false);
     if (const QString note = valeur(film, Champ::Note); !note.isEmpty())
-        faits += (faits.isEmpty() ? QString() : QStringLiteral(" · ")) + QStringLiteral("note %1/10").arg(note);
+        faits += (faits.isEmpty() ? QString() : QStringLiteral(" · ")) + QStringLiteral("note\u00A0%1/10").arg(note);
     const bool ecrite =
         paragraphe(realisateur.isEmpty() ? realisateur : QStringLiteral("de ") + realisateur, police(kTexte), kEncre) &&
         paragraphe(faits, police(kTexte), kDiscret) &&

@@ -8,6 +8,7 @@
 #include "ui/Composition.h"
 #include "ui/EcranQt.h"
 #include "ui/ImagesQt.h"
+#include "ui/Interface.h"
 #include "util/Nombres.h"
 #include "util/NomsFichiers.h"
 #include "util/Texte.h"
@@ -15,6 +16,7 @@
 #include <QBuffer>
 #include <QButtonGroup>
 #include <QCloseEvent>
+#include <QDir>
 #include <QListWidget>
 #include <QPaintEngine>
 #include <QPdfWriter>
@@ -34,6 +36,7 @@ using exportation::Champ;
 using exportation::Champs;
 
 constexpr QSize kTaille{800, 540};
+const QString kCleDossier = QStringLiteral("Export/dossier");
 constexpr int kPagesDApercu = 40, kResolutionPdf = 600;
 constexpr qreal kMarge = 15;  // millimetres
 constexpr int kToutesLesPages = std::numeric_limits<int>::max();
@@ -143,7 +146,7 @@ FenetreExport::FenetreExport(const Atelier& atelier, QWidget* parent)
     m_champsDe.fill(kPourMontrer);
     m_champsDe[rang(Sortie::Tableau)] = Champs::tous();
     m_champsDe[rang(Sortie::Page)].met(Champ::Possede);
-    m_dossier = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    choisisLeDossier();
     m_contenu = new QWidget;
     auto* gauche = colonne(kMoyen);
     gauche->addLayout(quoi());
@@ -214,6 +217,7 @@ QLayout* FenetreExport::champs() {
         ligne->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         ligne->setCheckState(Qt::Unchecked);
     }
+    m_champs->setSpacing(1);
     connect(m_champs, &QListWidget::itemChanged, this, [this] { noteLesChamps(); });
     auto* boite = colonne(kSerre);
     boite->addWidget((new Etiquette(tr("Que dire de chaque film ?")))->avecPolice(1.08, QFont::DemiBold));
@@ -255,6 +259,23 @@ QLayout* FenetreExport::pied() {
     boutons->addWidget(m_fermer);
     boutons->addWidget(m_exporter);
     return boutons;
+}
+
+void FenetreExport::choisisLeDossier() {
+    const std::string programme = m_atelier.session.regarde([](const app::Contexte& c) { return c.chemins.dossier; });
+    for (const QString& dossier :
+         {Interface(programme).texte(kCleDossier), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+          QDir::homePath()}) {
+        m_dossier = dossier;
+        if (!dossier.isEmpty() && QDir(dossier).exists()) return;
+    }
+}
+
+void FenetreExport::retiensLeDossier(const std::string& chemin) {
+    m_dossier = QFileInfo(QString::fromStdString(chemin)).absolutePath();
+    Interface(m_atelier.session.regarde([](const app::Contexte& c) {
+        return c.chemins.dossier;
+    })).note(kCleDossier, m_dossier);
 }
 
 FenetreExport::Sortie FenetreExport::sortie() const {
@@ -375,8 +396,7 @@ void FenetreExport::parcourt() {
     if (choisi.empty()) return;
     m_chemin->setText(QString::fromStdString(choisi));
     m_chemin->setModified(true);
-    m_dossier = QString::fromStdString(fichiers::dossierDe(choisi));
-    m_dossier.chop(m_dossier.size() > 1 ? 1 : 0);
+    m_dossier = QFileInfo(m_chemin->text()).absolutePath();
 }
 
 std::string FenetreExport::cheminVoulu() const {
@@ -447,7 +467,9 @@ void FenetreExport::exporteVers(const std::string& chemin) {
     });
     m_auTravail = false;
     suisLeTravail();
-    if (faite) accept();
+    if (!faite) return;
+    retiensLeDossier(chemin);
+    accept();
 }
 
 CatalogueSurPapier::Sujet FenetreExport::sujet(const app::Contexte& c, const exportation::FilmsAExporter& films) const {

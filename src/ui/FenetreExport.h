@@ -41,6 +41,8 @@ class FenetreExport final : public QDialog {
     [[nodiscard]] QLayout* ou();
     [[nodiscard]] QLayout* pied();
     void proposeLesChamps();
+    void choisisLeDossier();  // where the last export went, else the user's documents
+    void retiensLeDossier(const std::string& chemin);
     [[nodiscard]] Sortie sortie() const;
     [[nodiscard]] app::Etendue etendue() const;
     void suisLaSortie();

@@ -231,7 +231,7 @@ TEST_F(Export, ThePageShowsTextsAsTexts) {
     EXPECT_EQ(combien("<img "), 1u);
     EXPECT_TRUE(util::estUtf8(page));
     for (const char* morceau :
-         {"<h3>&lt;script&gt;alert(1)&lt;/script&gt;</h3>", "<h2>&lt;/h2&gt;&lt;style&gt;</h2>",
+         {"<div><h3>&lt;script&gt;alert(1)&lt;/script&gt;</h3>", "<h2>&lt;/h2&gt;&lt;style&gt;</h2>",
           "l&#39;un\r\n&amp; \uFFFDf</p>", "Prêté à\u00A0: &lt;i&gt;", "<p class=\"sous\">1 film, le ",
           "width=\"208\" height=\"416\" src=\"data:image/jpeg;base64,/9ggb2N0ZXRz\""})
         EXPECT_EQ(combien(morceau), 1u) << morceau;
