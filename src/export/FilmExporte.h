@@ -39,7 +39,7 @@ struct DescriptionDuChamp {
     const char* intitule;
     const char* colonne;  // of the base
 };
-// "Nom de l'affiche": the bytes themselves are no text.
+// Of a poster its file's name, since its bytes are no text. "Date" alone would be taken for the year of a film.
 inline constexpr std::array<DescriptionDuChamp, kNombreDeChamps> kChamps{{
     {"Titre", "Titre"},
     {"Réalisateur", "Realisateur"},
@@ -58,7 +58,7 @@ inline constexpr std::array<DescriptionDuChamp, kNombreDeChamps> kChamps{{
     {"Rangement", "Rangement"},
     {"Prêté à", "Pret"},
     {"Réservé pour", "Reserve"},
-    {"Date", "Date"},
+    {"Date de possession", "Date"},
     {"Divers", "Divers"},
     {"Fichier 1", "Fichier1"},
     {"Fichier 2", "Fichier2"},
