@@ -20,17 +20,17 @@ using exportation::FilmExporte;
 const QColor kEncre(0x22, 0x26, 0x2b), kDiscret(0x55, 0x59, 0x60), kTrait(0xc8, 0xc4, 0xbc), kAccent(0x9a, 0x4b, 0x12);
 constexpr qreal kLargeurAffiche = 26, kHauteurAffiche = 38, kEcart = 4;  // millimetres
 constexpr qreal kTitre = 11.5, kTexte = 9, kPetit = 8;                   // points
-constexpr int kLignesDeRangee = 3;
-constexpr long kGrandCatalogue = 2000;  // films
+constexpr int kLignesDeRangee = 6;                                       // the longest title of the base
+constexpr long kGrandCatalogue = 2000;                                   // films
 
 // What a list has a column for, and how wide it is beside the others.
 struct Part {
     Champ champ;
     qreal part;
 };
-constexpr std::array kParts{Part{Champ::Titre, 34}, Part{Champ::Realisateur, 22}, Part{Champ::Annee, 7},
-                            Part{Champ::Genre, 14}, Part{Champ::Duree, 8},        Part{Champ::Origine, 11},
-                            Part{Champ::Note, 6},   Part{Champ::Support, 11},     Part{Champ::Rangement, 14},
+constexpr std::array kParts{Part{Champ::Titre, 30}, Part{Champ::Realisateur, 21}, Part{Champ::Annee, 9},
+                            Part{Champ::Genre, 15}, Part{Champ::Duree, 9},        Part{Champ::Origine, 15},
+                            Part{Champ::Note, 8},   Part{Champ::Support, 12},     Part{Champ::Rangement, 14},
                             Part{Champ::Pret, 13}};
 
 // What makes a line of its own out of a value, and what no font shows.

@@ -556,7 +556,7 @@ void FenetreExport::apercu() {
     boite.setWindowTitle(tr("Aperçu avant impression (%1 premières pages au plus)").arg(kPagesDApercu));
     boite.resize(size().expandedTo({760, 560}));
     connect(&boite, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter* demandee) {
-        static_cast<void>(surImprimante(*demandee, estUnApercu(*demandee) ? kPagesDApercu : kToutesLesPages));
+        static_cast<void>(surImprimante(*demandee, estUnApercu(*demandee) ? kPagesDApercu - 1 : kToutesLesPages));
     });
     boite.exec();
 }
