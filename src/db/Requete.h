@@ -34,6 +34,7 @@ enum class NumeroErreur : int {
     QueRegarder = 31,
     Apercus = 32,
     Statistiques = 33,
+    Export = 36,
 };
 
 // Thrown after its message was shown: the running command stops, the window stays as it is.

@@ -19,6 +19,8 @@ class Interface final {
         return lisible ? std::clamp(valeur, auMoins, auPlus) : defaut;
     }
     void note(const QString& cle, int valeur) { m_reglages.setValue(cle, valeur); }
+    [[nodiscard]] QString texte(const QString& cle) const { return m_reglages.value(cle).toString(); }
+    void note(const QString& cle, const QString& valeur) { m_reglages.setValue(cle, valeur); }
 
   private:
     QSettings m_reglages;

@@ -4,6 +4,7 @@
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/Couleurs.h"
+#include "ui/FenetreExport.h"
 #include "ui/Lecteur.h"
 #include "ui/Sections.h"
 
@@ -33,9 +34,11 @@ PanneauMultiSuppression::PanneauMultiSuppression(const Atelier& atelier, QWidget
     boite->addWidget(bande(atelier));
     setLayout(boite);
     atelier.liaison.lie(atelier.etats().panneaux.frameMultiSuppression, this);
-    // Over a sheet the band is low.
-    const auto suis = [explication = findChild<QLabel*>("Label7_9"), fiche = &atelier.etats().panneaux.frameFiche] {
-        explication->setVisible(!fiche->Visible);
+    // Over a sheet the band is low; what is done with ticks is there while there are some.
+    const auto suis = [explication = findChild<QLabel*>("Label7_9"),
+                       exporter = findChild<QPushButton*>("cmdExporterCoches"), etats = &atelier.etats()] {
+        explication->setVisible(!etats->panneaux.frameFiche.Visible);
+        exporter->setVisible(etats->liste.TreeView1.Checkboxes && !etats->liste.TreeView1.coches.empty());
     };
     suis();
     atelier.liaison.apresEcriture(suis);
@@ -62,7 +65,10 @@ QWidget* PanneauMultiSuppression::bande(const Atelier& atelier) {
     QSizePolicy politique = supprimer->sizePolicy();
     politique.setRetainSizeWhenHidden(true);  // the row keeps its height
     supprimer->setSizePolicy(politique);
+    auto* exporter = bouton("cmdExporterCoches", tr("Exporter…"), tr("Écrire les films cochés dans un autre format"));
+    QObject::connect(exporter, &QAbstractButton::clicked, this, [this, atelier] { ouvreExport(atelier, this); });
     ligne->addWidget(coches);
+    ligne->addWidget(exporter);
     ligne->addWidget(supprimer);
 
     auto* boite = section(atelier, Aide::MultiSuppression);

@@ -10,6 +10,7 @@
 #include "ui/Cartes.h"
 #include "ui/Composition.h"
 #include "ui/FenetreApercu.h"
+#include "ui/FenetreExport.h"
 #include "ui/Lecteur.h"
 #include "ui/Sections.h"
 
@@ -77,8 +78,15 @@ QWidget* PanneauOutils::base() {
 QWidget* PanneauOutils::exporter() {
     auto* liste = outil("cmdCreerListe", tr("Créer un &fichier…"), tr("Écrire la liste de vos films"),
                         m_atelier.etats().fonctions.cmdCreerListe, exportation::cmdCreerListe_Click);
+    auto* tout = bouton("cmdExporter", tr("E&xporter…"), tr("Tableau, page web, PDF, papier ou fiches .FILM"));
+    connect(tout, &QAbstractButton::clicked, this, [this] { ouvreExport(m_atelier, this); });
     auto* boite = groupe(tr("Exporter"));
     boite->addLayout(ligneDOutil(section(m_atelier, Aide::FichierTexte), {liste}));
+    boite->addWidget(filetHorizontal());
+    boite->addLayout(ligneDOutil(
+        section(tr("Dans un autre format"), tr("Un tableau, une page web avec les affiches, un PDF, du papier, ou des "
+                                               "fiches à importer ailleurs.")),
+        {tout}));
     return new Carte(boite);
 }
 

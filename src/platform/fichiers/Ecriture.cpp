@@ -1,4 +1,5 @@
 #include "platform/fichiers/Descripteur.h"
+#include "platform/fichiers/Remplacement.h"
 #include "platform/fichiers/Restes.h"
 
 #include <algorithm>
@@ -174,6 +175,45 @@ bool remplace(const std::string& chemin, std::string_view octets) {
     if (!neuf.estPret() || !ecritTout(neuf.numero(), octets) || !neuf.synchronise() || !neuf.prendLaPlace())
         return false;
     neuf.synchroniseDossier();
+    return true;
+}
+
+struct Remplacement::Fichier {
+    static constexpr std::size_t kTampon = 1 << 18;
+
+    explicit Fichier(const std::string& chemin) : neuf(chemin) { note(neuf.estPret()); }
+    bool note(bool reussi) {
+        if (!reussi && raison.empty()) raison = raisonDeLEchec();
+        return raison.empty();
+    }
+    bool vide() {
+        const bool reussi = note(ecritTout(neuf.numero(), tampon));
+        tampon.clear();
+        return reussi;
+    }
+
+    FichierNeuf neuf;
+    std::string tampon, raison;
+};
+
+Remplacement::Remplacement(const std::string& chemin) : m_fichier(std::make_unique<Fichier>(chemin)) {}
+Remplacement::~Remplacement() = default;
+
+const std::string& Remplacement::raison() const {
+    return m_fichier->raison;
+}
+
+bool Remplacement::ecrit(std::string_view octets) {
+    Fichier& f = *m_fichier;
+    if (!f.raison.empty()) return false;
+    f.tampon += octets;
+    return f.tampon.size() < Fichier::kTampon || f.vide();
+}
+
+bool Remplacement::termine() {
+    Fichier& f = *m_fichier;
+    if (!f.raison.empty() || !f.vide() || !f.note(f.neuf.synchronise()) || !f.note(f.neuf.prendLaPlace())) return false;
+    f.neuf.synchroniseDossier();
     return true;
 }
 

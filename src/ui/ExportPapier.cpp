@@ -1,0 +1,317 @@
+#include "ui/ExportPapier.h"
+
+#include "ui/Typographie.h"
+#include "util/Nombres.h"
+#include "util/Texte.h"
+
+#include <QLocale>
+#include <QPagedPaintDevice>
+#include <QTextLayout>
+#include <algorithm>
+#include <array>
+
+namespace ui {
+
+namespace {
+
+using exportation::Champ;
+using exportation::FilmExporte;
+
+const QColor kEncre(0x22, 0x26, 0x2b), kDiscret(0x55, 0x59, 0x60), kTrait(0xc8, 0xc4, 0xbc), kAccent(0x9a, 0x4b, 0x12);
+constexpr qreal kLargeurAffiche = 26, kHauteurAffiche = 38, kEcart = 4;  // millimetres
+constexpr qreal kTitre = 11.5, kTexte = 9, kPetit = 8;                   // points
+constexpr int kLignesDeRangee = 6;                                       // the longest title of the base
+constexpr long kGrandCatalogue = 2000;                                   // films
+
+// What a list has a column for, and how wide it is beside the others.
+struct Part {
+    Champ champ;
+    qreal part;
+};
+constexpr std::array kParts{Part{Champ::Titre, 30}, Part{Champ::Realisateur, 21}, Part{Champ::Annee, 9},
+                            Part{Champ::Genre, 15}, Part{Champ::Duree, 9},        Part{Champ::Origine, 15},
+                            Part{Champ::Note, 8},   Part{Champ::Support, 12},     Part{Champ::Rangement, 14},
+                            Part{Champ::Pret, 13}};
+
+// What makes a line of its own out of a value, and what no font shows.
+QString propre(const std::string& texte) {
+    QString propre = QString::fromStdString(texte);
+    propre.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    propre.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    std::replace_if(
+        propre.begin(), propre.end(),
+        [](QChar c) { return c != QLatin1Char('\n') && (c.category() == QChar::Other_Control); }, QLatin1Char(' '));
+    return sansSigneIsole(propre);
+}
+
+QTextOption coupe(bool justifie = false) {
+    QTextOption option(justifie ? Qt::AlignJustify : Qt::AlignLeft);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    return option;
+}
+
+// Each paragraph is laid out by itself; `recoit` gets its lines.
+template <typename Recoit>
+bool metEnLignes(const QString& texte, const QFont& police, qreal largeur, bool justifie, Recoit recoit) {
+    for (const QString& paragraphe : texte.split(QLatin1Char('\n'))) {
+        QTextLayout bloc(paragraphe.trimmed(), police);
+        bloc.setTextOption(coupe(justifie));
+        bloc.beginLayout();
+        std::vector<QTextLine> lignes;
+        for (QTextLine ligne = bloc.createLine(); ligne.isValid(); ligne = bloc.createLine()) {
+            ligne.setLineWidth(largeur);
+            lignes.push_back(ligne);
+        }
+        bloc.endLayout();
+        for (const QTextLine& ligne : lignes)
+            if (!recoit(ligne)) return false;
+    }
+    return true;
+}
+
+QString enTete(Champ champ) {
+    return QString::fromUtf8(exportation::intitule(champ));
+}
+
+}  // namespace
+
+CatalogueSurPapier::CatalogueSurPapier(QPagedPaintDevice& papier, int resolution, Sujet sujet)
+    : m_papier(papier), m_resolution(resolution), m_sujet(std::move(sujet)) {}
+
+bool CatalogueSurPapier::montre(MiseEnPage miseEnPage, Champ champ) {
+    if (miseEnPage == MiseEnPage::Fiches) return champ != Champ::Possede;
+    return std::any_of(kParts.begin(), kParts.end(), [champ](const Part& part) { return part.champ == champ; });
+}
+
+QSize CatalogueSurPapier::pixelsDAffiche(long films) {
+    const qreal parPouce = films > kGrandCatalogue ? 110 : 190;
+    return {qRound(kLargeurAffiche / 25.4 * parPouce), qRound(kHauteurAffiche / 25.4 * parPouce)};
+}
+
+// Sized in the device's own pixels, so that every device breaks the lines at the same words.
+QFont CatalogueSurPapier::police(qreal points, QFont::Weight graisse, bool italique) const {
+    QFont resultat;
+    resultat.setPixelSize(std::max(1, qRound(points * m_resolution / 72)));
+    resultat.setWeight(graisse);
+    resultat.setItalic(italique);
+    resultat.setHintingPreference(QFont::PreferNoHinting);
+    return resultat;
+}
+
+qreal CatalogueSurPapier::interligne(const QFont& police) const {
+    return 1.22 * police.pixelSize();
+}
+
+bool CatalogueSurPapier::commence() {
+    if (!m_peintre.begin(&m_papier)) return false;
+    const QSizeF feuille = m_papier.pageLayout().paintRectPixels(m_resolution).size();
+    const qreal haut = mm(9), bas = mm(8);
+    m_feuille = QRectF(0, haut, feuille.width(), std::max(mm(40), feuille.height() - haut - bas));
+    m_page = 1;
+    m_y = m_feuille.top();
+    composeLesColonnes();
+    peintCadre();
+    peintTitre();
+    if (m_sujet.miseEnPage == MiseEnPage::Liste && m_sujet.groupes.empty()) peintEnTete();
+    return true;
+}
+
+void CatalogueSurPapier::peintTitre() {
+    peintLignes(QString::fromStdString(m_sujet.titre), police(20, QFont::DemiBold),
+                {0, m_y, m_feuille.width(), m_feuille.height()}, 2);
+    m_y += hauteurDe(QString::fromStdString(m_sujet.titre), police(20, QFont::DemiBold), m_feuille.width(), 2) + mm(1);
+    const QString sous =
+        QString::fromStdString(util::phraseCompte(m_sujet.films, "# film", "# films")) +
+        (m_sujet.date.empty() ? QString() : QStringLiteral(", le ") + QString::fromStdString(m_sujet.date));
+    m_peintre.setPen(kDiscret);
+    peintLignes(sous, police(kTexte), {0, m_y, m_feuille.width(), mm(10)}, 1);
+    m_y += mm(8);
+}
+
+// The title of the catalogue from the second page on, and the page's number.
+void CatalogueSurPapier::peintCadre() {
+    const QFont petite = police(kPetit);
+    m_peintre.setFont(petite);
+    m_peintre.setPen(kDiscret);
+    const QString titre = QFontMetricsF(petite).elidedText(QString::fromStdString(m_sujet.titre), Qt::ElideRight,
+                                                           m_feuille.width() * 0.7);
+    if (m_page > 1) {
+        m_peintre.drawText(QRectF(0, 0, m_feuille.width(), mm(5)), Qt::AlignLeft | Qt::AlignVCenter, titre);
+        m_peintre.setPen(QPen(kTrait, mm(0.2)));
+        m_peintre.drawLine(QPointF(0, mm(6)), QPointF(m_feuille.width(), mm(6)));
+        m_peintre.setPen(kDiscret);
+    }
+    m_peintre.drawText(QRectF(0, m_feuille.bottom() + mm(2), m_feuille.width(), mm(5)),
+                       Qt::AlignHCenter | Qt::AlignVCenter, QString::number(m_page));
+    m_peintre.setPen(kEncre);
+}
+
+bool CatalogueSurPapier::pageSuivante() {
+    if (!m_papier.newPage()) return false;
+    ++m_page;
+    m_y = m_feuille.top();
+    peintCadre();
+    return true;
+}
+
+bool CatalogueSurPapier::assure(qreal hauteur) {
+    if (m_y + hauteur <= m_feuille.bottom() || m_y <= m_feuille.top()) return true;
+    if (!pageSuivante()) return false;
+    if (m_sujet.miseEnPage == MiseEnPage::Liste) peintEnTete();
+    return true;
+}
+
+void CatalogueSurPapier::composeLesColonnes() {
+    qreal toutes = 0;
+    for (const Part& part : kParts)
+        if (m_sujet.champs.contient(part.champ)) toutes += part.part;
+    qreal gauche = 0;
+    for (const Part& part : kParts) {
+        if (!m_sujet.champs.contient(part.champ)) continue;
+        const qreal largeur = m_feuille.width() * part.part / toutes;
+        m_colonnes.push_back({part.champ, gauche, largeur - mm(2)});
+        gauche += largeur;
+    }
+}
+
+void CatalogueSurPapier::peintEnTete() {
+    const QFont petite = police(kPetit, QFont::DemiBold);
+    m_peintre.setPen(kDiscret);
+    m_peintre.setFont(petite);
+    for (const Colonne& colonne : m_colonnes)
+        m_peintre.drawText(QRectF(colonne.gauche, m_y, colonne.largeur, interligne(petite)),
+                           Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                           QFontMetricsF(petite).elidedText(enTete(colonne.champ), Qt::ElideRight, colonne.largeur));
+    m_y += interligne(petite) + mm(0.8);
+    m_peintre.setPen(QPen(kDiscret, mm(0.25)));
+    m_peintre.drawLine(QPointF(0, m_y), QPointF(m_feuille.width(), m_y));
+    m_peintre.setPen(kEncre);
+    m_y += mm(1.2);
+}
+
+qreal CatalogueSurPapier::hauteurDe(const QString& texte, const QFont& police, qreal largeur, int lignes) const {
+    int nombre = 0;
+    static_cast<void>(metEnLignes(texte, police, largeur, false, [&](const QTextLine&) { return ++nombre < lignes; }));
+    return nombre * interligne(police);
+}
+
+void CatalogueSurPapier::peintLignes(const QString& texte, const QFont& police, const QRectF& place, int lignes) {
+    int nombre = 0;
+    static_cast<void>(metEnLignes(texte, police, place.width(), false, [&](const QTextLine& ligne) {
+        ligne.draw(&m_peintre, {place.left(), place.top() + nombre * interligne(police)});
+        return ++nombre < lignes;
+    }));
+}
+
+bool CatalogueSurPapier::ecrit(const QString& texte, const QFont& police, qreal gauche, qreal largeur, bool justifie) {
+    const QPen encre = m_peintre.pen();
+    return metEnLignes(texte, police, largeur, justifie, [&](const QTextLine& ligne) {
+        if (m_y + interligne(police) > m_feuille.bottom() && !pageSuivante()) return false;
+        m_peintre.setPen(encre);
+        ligne.draw(&m_peintre, {gauche, m_y});
+        m_y += interligne(police);
+        return true;
+    });
+}
+
+QString CatalogueSurPapier::valeur(const FilmExporte& film, Champ champ) const {
+    if (!m_sujet.champs.contient(champ)) return {};
+    QString texte = propre(exportation::estDePossession(champ) ? film.valeursDePossession(champ) : film.valeur(champ));
+    if (champ == Champ::Note && texte == QLatin1String("0")) texte.clear();
+    if (champ == Champ::Acteurs) texte.replace(QLatin1Char(';'), QLatin1String(", "));
+    return texte;
+}
+
+// With room for the first of its films.
+bool CatalogueSurPapier::ajouteGroupe(int groupe) {
+    if (!m_premier && groupe == m_groupe) return true;
+    m_premier = false;
+    m_groupe = groupe;
+    if (groupe < 0) return true;
+    const QFont titre = police(13, QFont::DemiBold);
+    const bool liste = m_sujet.miseEnPage == MiseEnPage::Liste;
+    if (m_y + mm(liste ? 26 : kHauteurAffiche + 14) > m_feuille.bottom() && !pageSuivante()) return false;
+    if (m_y > m_feuille.top() + mm(1)) m_y += mm(3);
+    m_peintre.setPen(kAccent);
+    peintLignes(propre(m_sujet.groupes.at(static_cast<std::size_t>(groupe))), titre, {0, m_y, m_feuille.width(), 0}, 1);
+    m_y += interligne(titre) + mm(1.5);
+    m_peintre.setPen(kEncre);
+    if (liste) peintEnTete();
+    return true;
+}
+
+bool CatalogueSurPapier::ajouteRangee(const FilmExporte& film) {
+    const QFont texte = police(kTexte), titre = police(kTexte, QFont::DemiBold);
+    const auto policeDe = [&](Champ champ) { return champ == Champ::Titre ? titre : texte; };
+    qreal hauteur = interligne(texte);
+    for (const Colonne& colonne : m_colonnes)
+        hauteur = std::max(
+            hauteur, hauteurDe(valeur(film, colonne.champ), policeDe(colonne.champ), colonne.largeur, kLignesDeRangee));
+    if (!assure(hauteur)) return false;
+    m_peintre.setPen(kEncre);
+    for (const Colonne& colonne : m_colonnes)
+        peintLignes(valeur(film, colonne.champ), policeDe(colonne.champ), {colonne.gauche, m_y, colonne.largeur, 0},
+                    kLignesDeRangee);
+    m_y += hauteur + mm(0.7);
+    m_peintre.setPen(QPen(kTrait, mm(0.1)));
+    m_peintre.drawLine(QPointF(0, m_y), QPointF(m_feuille.width(), m_y));
+    m_y += mm(0.7);
+    return true;
+}
+
+bool CatalogueSurPapier::ajouteFiche(const FilmExporte& film, const QImage& affiche) {
+    const bool avecAffiche = m_sujet.champs.contient(Champ::Affiche);
+    const qreal gauche = avecAffiche ? mm(kLargeurAffiche + kEcart) : 0, largeur = m_feuille.width() - gauche;
+    if (!assure(mm(avecAffiche && !affiche.isNull() ? kHauteurAffiche : 22))) return false;
+    const int page = m_page;
+    const qreal haut = m_y;
+    if (!affiche.isNull()) {
+        const QSizeF taille =
+            QSizeF(affiche.size()).scaled(mm(kLargeurAffiche), mm(kHauteurAffiche), Qt::KeepAspectRatio);
+        m_peintre.drawImage(QRectF({0, m_y}, taille), affiche);
+    }
+    m_peintre.setPen(kEncre);
+    if (!ecrit(valeur(film, Champ::Titre), police(kTitre, QFont::DemiBold), gauche, largeur)) return false;
+    const auto paragraphe = [&](const QString& texte, const QFont& lettres, const QColor& encre,
+                                bool justifie = false) {
+        if (texte.isEmpty()) return true;
+        m_peintre.setPen(encre);
+        return ecrit(texte, lettres, gauche, largeur, justifie);
+    };
+    const auto joints = [&](std::initializer_list<Champ> champs, bool nommes) {
+        QStringList textes;
+        for (const Champ champ : champs) {
+            const QString texte = valeur(film, champ);
+            if (!texte.isEmpty()) textes << (nommes ? enTete(champ) + QStringLiteral("\u00A0: ") + texte : texte);
+        }
+        return textes.join(QStringLiteral(" · "));
+    };
+    const QString realisateur = valeur(film, Champ::Realisateur), acteurs = valeur(film, Champ::Acteurs);
+    QString faits = joints({Champ::Annee, Champ::Origine, Champ::Genre, Champ::Duree, Champ::Production}, false);
+    if (const QString note = valeur(film, Champ::Note); !note.isEmpty())
+        faits += (faits.isEmpty() ? QString() : QStringLiteral(" · ")) + QStringLiteral("note\u00A0%1/10").arg(note);
+    const bool ecrite =
+        paragraphe(realisateur.isEmpty() ? realisateur : QStringLiteral("de ") + realisateur, police(kTexte), kEncre) &&
+        paragraphe(faits, police(kTexte), kDiscret) &&
+        paragraphe(acteurs.isEmpty() ? acteurs : QStringLiteral("Avec ") + acteurs, police(kPetit, QFont::Normal, true),
+                   kEncre) &&
+        paragraphe(valeur(film, Champ::Resume), police(kTexte), kEncre, true) &&
+        paragraphe(joints({Champ::Support, Champ::Rangement, Champ::Pret, Champ::Reserve, Champ::Date, Champ::Divers,
+                           Champ::Fichier1, Champ::Fichier2, Champ::Fichier3, Champ::DateAjout},
+                          true),
+                   police(kPetit), kDiscret);
+    if (m_page == page && !affiche.isNull()) m_y = std::max(m_y, haut + mm(kHauteurAffiche));
+    m_y += mm(5);
+    return ecrite;
+}
+
+bool CatalogueSurPapier::ajoute(const FilmExporte& film, const QImage& affiche) {
+    if (!ajouteGroupe(film.groupe)) return false;
+    return m_sujet.miseEnPage == MiseEnPage::Liste ? ajouteRangee(film) : ajouteFiche(film, affiche);
+}
+
+bool CatalogueSurPapier::termine() {
+    return m_peintre.end();
+}
+
+}  // namespace ui
