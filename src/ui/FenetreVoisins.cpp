@@ -4,6 +4,7 @@
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/DelegueLignes.h"
+#include "ui/FenetreTableau.h"
 #include "ui/ModeleVoisins.h"
 #include "voisins/ImporteCollection.h"
 
@@ -105,12 +106,17 @@ void FenetreVoisins::importe() {
 void ouvreImportDeCollection(const Atelier& atelier, QWidget* widget, bool unDossier, std::string& depart) {
     std::optional<voisins::CollectionChoisie> choisie;
     std::optional<voisins::Examen> examen;
+    std::optional<voisins::Tableau> tableau;
     atelier.execute([&](const app::Contexte& c) {
         choisie = voisins::choisitCollection(c, unDossier, depart);
         if (!choisie) return;
         depart = unDossier ? choisie->chemin : fichiers::dossierDe(choisie->chemin);
-        if (choisie->programme != voisins::Programme::Csv) examen = voisins::examineCollection(c, choisie->chemin);
+        if (choisie->programme == voisins::Programme::Csv)
+            tableau = voisins::litTableauChoisi(c, choisie->chemin);
+        else
+            examen = voisins::examineCollection(c, choisie->chemin);
     });
+    if (tableau) (new FenetreTableau(atelier, std::move(*tableau), widget->window()))->open();
     if (examen) (new FenetreVoisins(atelier, std::move(*examen), widget->window()))->open();
 }
 

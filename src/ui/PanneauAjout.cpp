@@ -8,7 +8,6 @@
 #include "ui/Boutons.h"
 #include "ui/Cartes.h"
 #include "ui/Composition.h"
-#include "ui/FenetreVoisins.h"
 #include "ui/PanneauSaisie.h"
 #include "ui/Sections.h"
 
@@ -161,27 +160,6 @@ QLayout* PanneauAjout::internet(const Atelier& atelier) {
     return boite;
 }
 
-// No command of its own: what is found is shown before anything is done.
-QLayout* PanneauAjout::autreCollection() {
-    auto* fichier =
-        bouton("cmdCollectionFichier", tr("Choisir un &fichier…"),
-               tr("Une collection de Tellico, de GCstar, d'Ant Movie Catalog ou de Kodi, ou un tableau CSV"));
-    auto* dossier = bouton("cmdCollectionDossier", tr("C&hoisir un dossier…"),
-                           tr("Un dossier de films avec leurs fiches .nfo, ou celui d'une collection"));
-    connect(fichier, &QAbstractButton::clicked, this,
-            [this] { ouvreImportDeCollection(m_atelier, this, false, m_dossierDesCollections); });
-    connect(dossier, &QAbstractButton::clicked, this,
-            [this] { ouvreImportDeCollection(m_atelier, this, true, m_dossierDesCollections); });
-    auto* boite =
-        section(tr("Importer une autre collection"),
-                tr("Celles de Tellico (.tc), de GCstar (.gcs), d'Ant Movie Catalog (exportées en XML), de Kodi (fiches "
-                   ".nfo) et "
-                   "les tableaux CSV : films, exemplaires, prêts et affiches. Vous voyez d'abord ce qui sera ajouté."));
-    boite->addSpacing(kSerre);
-    boite->addLayout(aGauche({fichier, dossier}));
-    return boite;
-}
-
 QWidget* PanneauAjout::pageAncienneVersion(const Atelier& atelier) {
     auto& ajout = atelier.etats().ajout;
     auto* importer = bouton<BoutonAccent>("cmdImporterBase", tr("Choisir le dossier de cette &version…"),
@@ -207,7 +185,7 @@ QWidget* PanneauAjout::pageAncienneVersion(const Atelier& atelier) {
     boite->addWidget(base);
     boite->addLayout(aGauche({importer}));
     auto* cadre = nomme(new QWidget, "frameImportBase");
-    auto* dehors = rangee({pile({new Carte(boite), new Carte(autreCollection())})}, 0);
+    auto* dehors = rangee({pile({new Carte(boite)})}, 0);
     dehors->setStretch(0, 1);
     dehors->addStretch(0);
     cadre->setLayout(dehors);

@@ -3,7 +3,6 @@
 #include "ui/Atelier.h"
 
 #include <QWidget>
-#include <string>
 
 namespace ui {
 
@@ -23,11 +22,9 @@ class PanneauAjout final : public QWidget {
     [[nodiscard]] QLayout* dossierDesFiches(const Atelier& atelier);
     [[nodiscard]] QLayout* internet(const Atelier& atelier);
     [[nodiscard]] QWidget* pageAncienneVersion(const Atelier& atelier);
-    [[nodiscard]] QLayout* autreCollection();
 
     const Atelier m_atelier;
     QLineEdit* m_rechercheInternet = nullptr;
-    std::string m_dossierDesCollections;  // last chosen, where the next choice begins
 };
 
 }  // namespace ui

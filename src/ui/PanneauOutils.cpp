@@ -10,6 +10,7 @@
 #include "ui/Cartes.h"
 #include "ui/Composition.h"
 #include "ui/FenetreApercu.h"
+#include "ui/FenetreVoisins.h"
 #include "ui/Sections.h"
 
 namespace ui {
@@ -41,7 +42,7 @@ QPushButton* PanneauOutils::outil(const char* nom, const QString& texte, const Q
 
 PanneauOutils::PanneauOutils(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameOutils");
-    auto* gauche = pile({base(), exporter()});
+    auto* gauche = pile({base(), importer(), exporter()});
     auto* droite = pile({corriger(), zoneDangereuse()});
     auto* boite = colonne(0);
     boite->addWidget(new CoteACote({gauche, droite}, kDeuxColonnes, kGrand));
@@ -69,6 +70,28 @@ QWidget* PanneauOutils::base() {
                                  {ouvrir, infos}));
     boite->addWidget(filetHorizontal());
     boite->addLayout(ligneDOutil(section(m_atelier, Aide::Compactage), {compacter}));
+    return new Carte(boite);
+}
+
+// No command of its own: what is found is shown before anything is done.
+QWidget* PanneauOutils::importer() {
+    auto* fichier =
+        bouton("cmdCollectionFichier", tr("Choisir un fic&hier…"),
+               tr("Une collection de Tellico, de GCstar, d'Ant Movie Catalog ou de Kodi, ou un tableau CSV"));
+    auto* dossier = bouton("cmdCollectionDossier", tr("Choisir un &dossier…"),
+                           tr("Un dossier de films avec leurs fiches .nfo, ou celui d'une collection"));
+    const std::pair<QPushButton*, bool> choix[] = {{fichier, false}, {dossier, true}};
+    for (const auto& [celui, unDossier] : choix)
+        connect(celui, &QAbstractButton::clicked, this, [this, unDossier = unDossier] {
+            ouvreImportDeCollection(m_atelier, this, unDossier, m_dossierDesCollections);
+        });
+    auto* boite = groupe(tr("Importer"));
+    boite->setSpacing(kPetit);
+    boite->addLayout(
+        section(tr("Importer une autre collection"),
+                tr("Celles de Tellico, de GCstar, d'Ant Movie Catalog (en XML) et de Kodi (fiches .nfo), et les "
+                   "tableaux CSV : films, exemplaires, prêts, affiches. Ce qui sera ajouté est d'abord montré.")));
+    boite->addLayout(aGauche({fichier, dossier}));
     return new Carte(boite);
 }
 

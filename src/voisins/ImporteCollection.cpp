@@ -39,6 +39,12 @@ Collection litAvecProgression(const acquire::Contexte& c, const std::string& che
     return litCollection(chemin, [&](long) { return avancement.avance(0); });
 }
 
+Collection lisLesLignes(const acquire::Contexte& c, const Tableau& tableau) {
+    ensemble::Avancement avancement(c, std::ssize(tableau.lignes),
+                                    "Lecture de " + fichiers::nomDeFichier(tableau.chemin));
+    return collectionDe(tableau, [&](long) { return avancement.avance(); });
+}
+
 // About what it will take in the base.
 std::int64_t octetsAAjouter(const Examen& examen) {
     constexpr std::int64_t kAffiche = 100'000;
@@ -69,6 +75,21 @@ std::optional<CollectionChoisie> choisitCollection(const acquire::Contexte& c, b
 
 std::optional<Examen> examineCollection(const acquire::Contexte& c, const std::string& chemin) {
     return ouRefuse<Examen>(c, [&] { return examine(c, litAvecProgression(c, chemin)); });
+}
+
+std::optional<Tableau> litTableauChoisi(const acquire::Contexte& c, const std::string& chemin) {
+    return ouRefuse<Tableau>(c, [&] { return litTableau(chemin); });
+}
+
+// Of a table that says nothing of any copy, films are not the user's own until he says so.
+std::optional<Examen> examineTableau(const acquire::Contexte& c, const Tableau& tableau) {
+    auto examen = ouRefuse<Examen>(c, [&] { return examine(c, lisLesLignes(c, tableau)); });
+    if (examen)
+        examen->possedes = std::ranges::find(tableau.colonnes, Colonne::Possede) != tableau.colonnes.end() ||
+                           std::ranges::any_of(examen->collection.films, [](const FilmVoisin& film) {
+                               return film.possession && *film.possession != PossessionVoisine();
+                           });
+    return examen;
 }
 
 void importeCollection(const acquire::Contexte& c, const Examen& examen) {

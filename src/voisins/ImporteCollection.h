@@ -1,6 +1,7 @@
 #pragma once
 
 #include "voisins/Examen.h"
+#include "voisins/Tableau.h"
 
 #include <optional>
 #include <string>
@@ -20,9 +21,13 @@ struct CollectionChoisie {
 [[nodiscard]] std::optional<CollectionChoisie> reconnaitCollection(const acquire::Contexte& c,
                                                                    const std::string& chemin);
 
-// Reads it and compares it with the base, with progress and stop; of a table, its columns come by examineTable. Nothing
+// Reads it and compares it with the base, with progress and stop; Nothing
 // when it was stopped, or once the user was told why it cannot be read.
 [[nodiscard]] std::optional<Examen> examineCollection(const acquire::Contexte& c, const std::string& chemin);
+
+// The same of a table: first its lines, to show and match its columns, then its films.
+[[nodiscard]] std::optional<Tableau> litTableauChoisi(const acquire::Contexte& c, const std::string& chemin);
+[[nodiscard]] std::optional<Examen> examineTableau(const acquire::Contexte& c, const Tableau& tableau);
 
 // Adds what the examination proposes, or what the user made of it; reports, and shows the base as it is then.
 void importeCollection(const acquire::Contexte& c, const Examen& examen);

@@ -109,7 +109,7 @@ class Lecteur {
             else if (element->nom == "entry")
                 ajouteFiche(m_document.prends());
             else if (element->nom == "image")
-                ajouteImage(*element, images++);
+                ajouteImage(std::string(element->attribut("id")), images++);
             else if (element->nom == "borrower")
                 ajoutePrets(m_document.prends());
             else if (element->nom == "filters")
@@ -195,11 +195,9 @@ class Lecteur {
         fiche.ligne(nomDeLaLigne(champ, m_champs), assemble(dits, ", "));
     }
 
-    // A link is to the user's own file.
-    void ajouteImage(const xml::Element& image, long rang) {
-        const bool dedans = image.attribut("link") != "true" && m_document.chemin().size() > 1;
-        if (dedans) m_affiches.connaisImage(std::string(image.attribut("id")), rang);
-        m_document.saute();
+    // The picture itself may stand elsewhere: in the archive, beside the document, or where a link leads.
+    void ajouteImage(const std::string& nom, long rang) {
+        if (!sansBlancs(m_document.prends().texte).empty()) m_affiches.connaisImage(nom, rang);
     }
 
     void ajoutePrets(const xml::Element& emprunteur) {
