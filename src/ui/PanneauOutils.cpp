@@ -76,9 +76,9 @@ QWidget* PanneauOutils::base() {
 // No command of its own: what is found is shown before anything is done.
 QWidget* PanneauOutils::importer() {
     auto* fichier =
-        bouton("cmdCollectionFichier", tr("Choisir un fic&hier…"),
+        bouton("cmdCollectionFichier", tr("Un fichi&er…"),
                tr("Une collection de Tellico, de GCstar, d'Ant Movie Catalog ou de Kodi, ou un tableau CSV"));
-    auto* dossier = bouton("cmdCollectionDossier", tr("Choisir un &dossier…"),
+    auto* dossier = bouton("cmdCollectionDossier", tr("Un &dossier…"),
                            tr("Un dossier de films avec leurs fiches .nfo, ou celui d'une collection"));
     const std::pair<QPushButton*, bool> choix[] = {{fichier, false}, {dossier, true}};
     for (const auto& [celui, unDossier] : choix)
@@ -86,12 +86,11 @@ QWidget* PanneauOutils::importer() {
             ouvreImportDeCollection(m_atelier, this, unDossier, m_dossierDesCollections);
         });
     auto* boite = groupe(tr("Importer"));
-    boite->setSpacing(kPetit);
-    boite->addLayout(
-        section(tr("Importer une autre collection"),
-                tr("Celles de Tellico, de GCstar, d'Ant Movie Catalog (en XML) et de Kodi (fiches .nfo), et les "
-                   "tableaux CSV : films, exemplaires, prêts, affiches. Ce qui sera ajouté est d'abord montré.")));
-    boite->addLayout(aGauche({fichier, dossier}));
+    boite->addLayout(ligneDOutil(
+        section(tr("Importer une autre collection"), tr("Celles de Tellico, de GCstar, d'Ant Movie Catalog (en XML) et "
+                                                        "de Kodi (fiches .nfo), et les tableaux CSV. "
+                                                        "Ce qui sera ajouté est d'abord montré.")),
+        {fichier, dossier}));
     return new Carte(boite);
 }
 

@@ -61,7 +61,7 @@ std::string Examen::texte() const {
     if (const long n = nombre(Sort::Ressemblant); n > 0)
         texte += util::phraseCompte(n, ", # qui ressemble à un film de la base (à cocher pour l'ajouter)",
                                     ", # qui ressemblent à un film de la base (à cocher pour les ajouter)");
-    texte += util::phraseCompte(affiches, ". # affiche.", ". # affiches.");
+    texte += affiches == 0 ? "." : util::phraseCompte(affiches, ". # affiche.", ". # affiches.");
     for (const std::string& remarque : collection.remarques)
         texte += "\n" + remarque;
     return texte;

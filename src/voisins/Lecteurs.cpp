@@ -58,8 +58,11 @@ std::string sansBalises(std::string_view texte) {
     std::string resultat;
     for (std::size_t i = 0; i < texte.size(); ++i) {
         const std::size_t fin = texte[i] == '<' ? texte.find('>', i) : std::string_view::npos;
-        std::string balise =
-            fin == std::string_view::npos ? "" : util::minuscules(texte.substr(i + 1, std::min(fin - i - 1, 20UL)));
+        if (fin == std::string_view::npos) {
+            resultat += texte[i];
+            continue;
+        }
+        std::string balise = util::minuscules(texte.substr(i + 1, std::min(fin - i - 1, 20UL)));
         if (balise.ends_with('/')) balise.pop_back();
         balise = sansBlancs(balise);
         const bool saut = balise == "br" || balise == "/p";
