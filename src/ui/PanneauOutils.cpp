@@ -76,7 +76,7 @@ QWidget* PanneauOutils::base() {
 // No command of its own: what is found is shown before anything is done.
 QWidget* PanneauOutils::importer() {
     auto* fichier =
-        bouton("cmdCollectionFichier", tr("Un fichi&er…"),
+        bouton("cmdCollectionFichier", tr("U&n fichier…"),
                tr("Une collection de Tellico, de GCstar, d'Ant Movie Catalog ou de Kodi, ou un tableau CSV"));
     auto* dossier = bouton("cmdCollectionDossier", tr("Un &dossier…"),
                            tr("Un dossier de films avec leurs fiches .nfo, ou celui d'une collection"));
