@@ -22,6 +22,7 @@ struct Mots {
 constexpr std::array<Mots, 11> kMots = {{
     {Avant::ImportFiches, "import de fiches", "import de fiches"},
     {Avant::ImportAncienne, "import d'une autre version", "import d'une version précédente"},
+    {Avant::ImportCollection, "import d'une collection", "import d'une autre collection"},
     {Avant::AffichesEnBase, "affiches dans la base", "conversion des affiches vers la base"},
     {Avant::AffichesEnFichiers, "affiches en fichiers", "conversion des affiches vers un dossier"},
     {Avant::Compactage, "compactage", "compactage"},

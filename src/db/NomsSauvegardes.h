@@ -10,6 +10,7 @@ namespace db {
 enum class Avant {
     ImportFiches,
     ImportAncienne,
+    ImportCollection,
     AffichesEnBase,
     AffichesEnFichiers,
     Compactage,

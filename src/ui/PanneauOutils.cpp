@@ -11,6 +11,7 @@
 #include "ui/Composition.h"
 #include "ui/FenetreApercu.h"
 #include "ui/FenetreExport.h"
+#include "ui/FenetreVoisins.h"
 #include "ui/Lecteur.h"
 #include "ui/Sections.h"
 
@@ -44,7 +45,7 @@ QPushButton* PanneauOutils::outil(const char* nom, const QString& texte, const Q
 PanneauOutils::PanneauOutils(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameOutils");
     seLitCommeGroupe(this, tr("Outils"));
-    auto* gauche = pile({base(), exporter()});
+    auto* gauche = pile({base(), importer(), exporter()});
     auto* droite = pile({corriger(), zoneDangereuse()});
     auto* boite = colonne(0);
     boite->addWidget(new CoteACote({gauche, droite}, kDeuxColonnes, kGrand));
@@ -72,6 +73,27 @@ QWidget* PanneauOutils::base() {
                                  {ouvrir, infos}));
     boite->addWidget(filetHorizontal());
     boite->addLayout(ligneDOutil(section(m_atelier, Aide::Compactage), {compacter}));
+    return new Carte(boite);
+}
+
+// No command of its own: what is found is shown before anything is done.
+QWidget* PanneauOutils::importer() {
+    auto* fichier =
+        bouton("cmdCollectionFichier", tr("U&n fichier…"),
+               tr("Une collection de Tellico, de GCstar, d'Ant Movie Catalog ou de Kodi, ou un tableau CSV"));
+    auto* dossier = bouton("cmdCollectionDossier", tr("Un &dossier…"),
+                           tr("Un dossier de films avec leurs fiches .nfo, ou celui d'une collection"));
+    const std::pair<QPushButton*, bool> choix[] = {{fichier, false}, {dossier, true}};
+    for (const auto& [celui, unDossier] : choix)
+        connect(celui, &QAbstractButton::clicked, this, [this, unDossier = unDossier] {
+            ouvreImportDeCollection(m_atelier, this, unDossier, m_dossierDesCollections);
+        });
+    auto* boite = groupe(tr("Importer"));
+    boite->addLayout(ligneDOutil(
+        section(tr("Importer une autre collection"), tr("Celles de Tellico, de GCstar, d'Ant Movie Catalog (en XML) et "
+                                                        "de Kodi (fiches .nfo), et les tableaux CSV. "
+                                                        "Ce qui sera ajouté est d'abord montré.")),
+        {fichier, dossier}));
     return new Carte(boite);
 }
 

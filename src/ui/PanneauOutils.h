@@ -3,6 +3,7 @@
 #include "ui/Atelier.h"
 
 #include <QWidget>
+#include <string>
 
 class QPushButton;
 
@@ -16,6 +17,7 @@ class PanneauOutils final : public QWidget {
 
   private:
     [[nodiscard]] QWidget* base();
+    [[nodiscard]] QWidget* importer();
     [[nodiscard]] QWidget* exporter();
     [[nodiscard]] QWidget* corriger();
     [[nodiscard]] QWidget* zoneDangereuse();
@@ -24,6 +26,7 @@ class PanneauOutils final : public QWidget {
                                      ecran::Bouton& etat, Procedure procedure);
 
     const Atelier m_atelier;
+    std::string m_dossierDesCollections;  // last chosen, where the next choice begins
 };
 
 }  // namespace ui

@@ -15,6 +15,7 @@ namespace {
 // A room may include itself and every room of a lower level.
 const std::map<std::string, int> kNiveaux = {
     {"util", 0},
+    {"platform/archives", 1},
     {"platform/dao", 1},
     {"platform/dialogues", 1},
     {"platform/ecran", 1},
@@ -22,6 +23,7 @@ const std::map<std::string, int> kNiveaux = {
     {"platform/jet", 1},
     {"platform/systeme", 1},
     {"platform/texteriche", 1},
+    {"platform/xml", 1},
     {"db", 2},
     {"browse", 3},
     {"edit", 4},
@@ -29,9 +31,10 @@ const std::map<std::string, int> kNiveaux = {
     {"acquire", 5},
     {"export", 5},
     {"ensemble", 5},
-    {"app", 6},
-    {"ui", 7},
-    {"rapatrix", 8},
+    {"voisins", 6},
+    {"app", 7},
+    {"ui", 8},
+    {"rapatrix", 9},
 };
 
 // What only one room may touch: a header, or a call of the C library (members and other classes may bear its name).
@@ -43,7 +46,8 @@ struct Reserve {
 };
 const std::vector<Reserve> kEntetesReserves = {
     {std::regex(R"(Q[A-Z].*|Qt.*)"), "ui", "rapatrix"},
-    {std::regex(R"(libxml/.*|archive(_entry)?\.h)"), "rapatrix"},
+    {std::regex(R"(libxml/.*)"), "platform/xml", "rapatrix"},
+    {std::regex(R"(archive(_entry)?\.h)"), "platform/archives", "rapatrix"},
     {std::regex(R"(sqlite3\.h)"), "platform/dao"},
     {std::regex(R"(mdbtools\.h|glib\.h)"), "platform/jet"},
     {std::regex(R"(spawn\.h|sys/(wait|pidfd)\.h|gio/.*)"), "platform/systeme"},
@@ -124,7 +128,7 @@ std::set<std::string> commandesDApp(const std::map<std::string, fs::path>& sourc
 }
 
 std::string fauteCommande(const std::set<std::string>& commandes, const std::string& ligne) {
-    static const std::regex nom(R"(\b(db|browse|edit|view|acquire|exportation|ensemble)::(\w+))");
+    static const std::regex nom(R"(\b(db|browse|edit|view|acquire|exportation|ensemble|voisins)::(\w+))");
     for (std::sregex_iterator it(ligne.begin(), ligne.end(), nom), fin; it != fin; ++it)
         if (commandes.contains(it->str(2))) return it->str() + " has more around it in app";
     return {};

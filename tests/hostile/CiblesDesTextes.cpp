@@ -11,9 +11,12 @@
 #include "util/NomsFichiers.h"
 #include "util/Similarite.h"
 #include "util/Texte.h"
+#include "voisins/Lecteurs.h"
+#include "voisins/Tableau.h"
 
 #include <algorithm>
 #include <array>
+#include <functional>
 
 namespace hostile {
 
@@ -99,6 +102,26 @@ void codage(std::string_view octets) {
     static_cast<void>(fichiers::cheminTape(octets, "/opt/Ambrelis/"));
 }
 
+// A refusal, or films that fit their columns.
+void examineFilms(const std::function<std::vector<voisins::FilmVoisin>()>& lit) {
+    std::vector<voisins::FilmVoisin> films;
+    try {
+        films = lit();
+    } catch (const voisins::Refus& refus) {
+        exige(!refus.texte.empty(), "a refusal says why");
+    } catch (const xml::Illisible&) {
+    }
+    for (const voisins::FilmVoisin& film : films) {
+        exige(!film.titre.empty() && !film.realisateur.empty(), "a film has a title and a director");
+        exige(util::longueur(film.titre) <= edit::kLongueurTitre, "the title fits its column");
+        exige(util::longueur(film.acteurs) <= edit::kLongueurActeurs, "the cast fits its column");
+        exige(film.note >= 0 && film.note <= 10, "a note is none, or 1 to 10");
+        for (const std::string* texte :
+             {&film.titre, &film.realisateur, &film.genre, &film.origine, &film.acteurs, &film.resume})
+            exige(util::estUtf8(*texte) && texte->find('\0') == std::string::npos, "a field is UTF-8 without NUL");
+    }
+}
+
 // What any reader of RTF relies on: one group, closed at the very end, of ASCII alone.
 bool estUnRtf(const std::string& rtf) {
     long profondeur = 0;
@@ -140,9 +163,42 @@ void rtf(std::string_view octets) {
     }
 }
 
-constexpr std::array kCibles{Cible{"fiche", fiche, 4096, 1500}, Cible{"reglages", reglages, 1024, 3000},
-                             Cible{"extensions", extensions, 1024, 3000}, Cible{"codage", codage, 512, 3000},
-                             Cible{"rtf", rtf, 2048, 1500}};
+// The first byte is the program, the others its document.
+void voisin(std::string_view octets) {
+    if (octets.empty()) return;
+    const std::string_view reste = octets.substr(1);
+    if (octets[0] == 'C') {
+        voisins::Tableau tableau = voisins::analyseTableau(reste);
+        exige(tableau.colonnes.size() == tableau.entetes.size(), "each column is matched");
+        if (tableau.aUnTitre() && !tableau.lignes.empty())
+            examineFilms([&] { return voisins::collectionDe(tableau).films; });
+        return;
+    }
+    examineFilms([&] {
+        xml::Lecture document([reste, place = std::size_t{0}](char* vers, std::size_t nombre) mutable {
+            nombre = std::min(nombre, reste.size() - place);
+            std::copy_n(reste.begin() + static_cast<std::ptrdiff_t>(place), nombre, vers);
+            place += nombre;
+            return static_cast<std::ptrdiff_t>(nombre);
+        });
+        voisins::Affiches affiches;
+        voisins::Films films;
+        if (octets[0] == 'T') voisins::litTellico(document, affiches, {}, films);
+        if (octets[0] == 'G') voisins::litGcstar(document, affiches, {}, films);
+        if (octets[0] == 'A') voisins::litAnt(document, affiches, {}, films);
+        if (octets[0] == 'K') voisins::litVideodb(document, affiches, {}, films);
+        voisins::Collection collection;
+        films.verse(collection);
+        return collection.films;
+    });
+}
+
+constexpr std::array kCibles{Cible{"fiche", fiche, 4096, 1500},
+                             Cible{"reglages", reglages, 1024, 3000},
+                             Cible{"extensions", extensions, 1024, 3000},
+                             Cible{"codage", codage, 512, 3000},
+                             Cible{"rtf", rtf, 2048, 1500},
+                             Cible{"voisin", voisin, 4096, 1500}};
 
 }  // namespace
 

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+// Archives of the outside world (zip; tar, compressed or not), read from their beginning to their end. Nothing is ever
+// unpacked on the disk: a name in an archive is a text.
+namespace archives {
+
+class Archive {
+  public:
+    static constexpr long kEntreesAuPlus = 500'000;
+    static constexpr std::int64_t kOctetsAuPlus = 32LL << 30;  // unpacked, all together
+
+    struct Entree {
+        std::string nom;  // UTF-8, with "/" between folders
+        long rang;        // among the ordinary files, from 0
+    };
+
+    // Nothing where the file is no such archive, or cannot be read.
+    [[nodiscard]] static std::optional<Archive> ouvre(const std::string& chemin);
+    Archive(Archive&&) noexcept;
+    Archive& operator=(Archive&&) noexcept;
+    ~Archive();
+
+    // The next ordinary file; nothing at the end.
+    [[nodiscard]] std::optional<Entree> suivante();
+    // Whether the end came by damage, or by a bound above.
+    [[nodiscard]] bool abimee() const;
+    // Of that file, as xml::Source: the bytes written, 0 at its end, less than 0 where it is broken or enciphered.
+    [[nodiscard]] std::ptrdiff_t lis(char* vers, std::size_t place);
+    // The whole of it; nothing where it is longer, or broken. A longer one is `tropLongue`.
+    struct Contenu {
+        std::optional<std::string> octets;
+        bool tropLongue = false;
+    };
+    [[nodiscard]] Contenu contenu(std::int64_t limite);
+
+  private:
+    struct Etat;
+    explicit Archive(std::unique_ptr<Etat> etat);
+    std::unique_ptr<Etat> m_etat;
+};
+
+}  // namespace archives

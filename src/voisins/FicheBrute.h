@@ -1,0 +1,58 @@
+#pragma once
+
+#include "voisins/FilmVoisin.h"
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace voisins {
+
+// A film as another program tells it: texts as they came. What has no field of its own is a line, which ends up below the
+// summary: nothing that was known of a film is lost.
+struct FicheBrute {
+    struct Acteur {
+        std::string nom, role;
+    };
+    std::string titre, titreOriginal, annee, duree, resume, dateAjout;
+    int note = 0;
+    std::vector<std::string> realisateurs, genres, pays, productions;
+    std::vector<Acteur> acteurs;
+    PossessionVoisine possession;
+    std::vector<std::string> fichiers;
+    std::vector<std::string> commentaires;                    // paragraphs
+    std::vector<std::pair<std::string, std::string>> lignes;  // "Scénario", "Dan O'Bannon"
+    AfficheVoisine affiche;
+
+    // A line; nothing for an empty value.
+    void ligne(std::string nom, std::string_view valeur);
+    [[nodiscard]] bool estSansTitre() const;
+};
+
+inline constexpr const char* kVu = "Vu";  // the name of the line that says it
+
+// The film in this program's forms and words, each field cut to its column between two of its pieces; what a column has no
+// room for is a line as well. `possede`: it has a holding, were nothing known of it.
+[[nodiscard]] FilmVoisin redige(FicheBrute fiche, bool possede);
+
+// The films of a collection: what has no title is left out and told. One that bears the name of an earlier one (as the
+// base compares them) is another copy of it, which its summary then tells, unless their years differ: then the year goes
+// into its title.
+class Films {
+  public:
+    // Throws Refus for more than a collection may hold.
+    void ajoute(FicheBrute fiche, bool possede);
+    [[nodiscard]] std::size_t nombre() const { return m_films.size(); }
+    // Hands them and what is to be told.
+    void verse(Collection& collection);
+
+  private:
+    std::vector<FilmVoisin> m_films;
+    std::unordered_map<std::string, std::size_t> m_rangs;  // by what the base compares
+    std::size_t m_texte = 0;
+    long m_sansTitre = 0, m_exemplaires = 0, m_annees = 0;
+};
+
+}  // namespace voisins

@@ -1,0 +1,198 @@
+#include "voisins/PassageVoisins.h"
+
+#include "db/EnonceFilm.h"
+#include "db/Requete.h"
+#include "edit/LignePossession.h"
+#include "edit/TitreDejaExistant.h"
+#include "util/Nombres.h"
+#include "voisins/Affiches.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace voisins {
+
+namespace {
+
+// Those of files and those without any keep their order; those of an archive are taken as they lie in it.
+std::vector<std::size_t> ordreDesAffiches(const Examen& examen) {
+    std::vector<std::size_t> ordre(examen.collection.films.size());
+    std::iota(ordre.begin(), ordre.end(), 0U);
+    std::erase_if(ordre, [&](std::size_t rang) {
+        const Jugement& celui = examen.jugements[rang];
+        return !celui.aAjouter && !(celui.sort == Sort::DejaLa && examen.complete);
+    });
+    std::ranges::stable_sort(ordre, {}, [&](std::size_t rang) { return examen.collection.films[rang].affiche.rang; });
+    return ordre;
+}
+
+}  // namespace
+
+PassageVoisins::PassageVoisins(const acquire::Contexte& c, const Examen& examen)
+    : m_c(c),
+      m_examen(examen),
+      m_ordre(ordreDesAffiches(examen)),
+      m_lot(c),
+      m_affiches(c),
+      m_jour(c.horloge.dateDuJour()) {}
+
+acquire::RapportImport PassageVoisins::execute() {
+    std::string echec;
+    int style = dialogues::kSimple;
+    try {
+        importeTout();
+    } catch (const db::EchecConversion& affiche) {
+        echec = affiche.texte;
+        style = dialogues::kCritique;
+        gardeLeLotEntier();
+    } catch (const dao::ErreurDao& erreur) {
+        echec = erreur.texte();
+    } catch (const db::RequeteEchouee&) {  // already shown
+    }
+    m_lot.abandonne();
+    m_affiches.apresAnnulation();
+    if (!echec.empty()) m_c.dialogues.MsgBox(echec, style);
+    return rapport();
+}
+
+// A poster is written before the row that names it: the films before it are whole.
+void PassageVoisins::gardeLeLotEntier() {
+    try {
+        confirmeLot();
+    } catch (const db::EchecConversion&) {
+    } catch (const dao::ErreurDao&) {
+    }
+}
+
+acquire::RapportImport PassageVoisins::rapport() {
+    const auto ligne = [this](long nombre, std::string_view un, std::string_view plusieurs) {
+        if (nombre > 0) m_acquis.rangement.push_back(util::phraseCompte(nombre, un, plusieurs));
+    };
+    ligne(m_compteAcquis.possedes, "# film ajouté est possédé.", "# films ajoutés sont possédés.");
+    ligne(m_compteAcquis.possessions, "# film déjà présent est maintenant possédé.",
+          "# films déjà présents sont maintenant possédés.");
+    ligne(m_compteAcquis.pretes, "# film est prêté.", "# films sont prêtés.");
+    m_acquis.rangement.insert(m_acquis.rangement.end(), m_examen.collection.remarques.begin(),
+                              m_examen.collection.remarques.end());
+    ligne(static_cast<long>(m_ordre.size() - m_faitsAcquis),
+          "L'import a été interrompu : relancez-le pour ajouter le film qui reste.",
+          "L'import a été interrompu : relancez-le pour ajouter les # films qui restent.");
+    return m_acquis;
+}
+
+void PassageVoisins::importeTout() {
+    m_affiches.prepareDossier();
+    ensemble::Avancement avancement(m_c, std::ssize(m_ordre), "");
+    for (const std::size_t rang : m_ordre) {
+        m_c.travaux.lblTravail.Caption = m_examen.collection.films[rang].titre;
+        importe(rang);
+        ++m_faits;
+        if (m_lot.estPlein()) confirmeLot();
+        if (!avancement.avance()) break;
+    }
+    confirmeLot();
+}
+
+void PassageVoisins::importe(std::size_t rang) {
+    const FilmVoisin& film = m_examen.collection.films[rang];
+    m_lot.commence();  // the checks of one lot share what they read
+    if (!edit::TitreDejaExistant(m_c, film))
+        ajoute(film);
+    else {
+        m_rapport.titresRefuses.push_back(film.titre);
+        if (m_examen.complete) complete(film);
+    }
+}
+
+void PassageVoisins::ajoute(const FilmVoisin& film) {
+    const acquire::AfficheImportee affiche = afficheDe(film);
+    dao::Recordset& films = m_c.base.films;
+    films.AddNew();
+    films.assigne("Titre", film.titre);
+    films.assigne("Realisateur", film.realisateur);
+    films.assigne("Annee", film.annee);
+    films.assigne("Origine", film.origine);
+    films.assigne("Genre", film.genre);
+    films.assigne("Duree", film.duree);
+    films.assigne("Acteurs", film.acteurs);
+    films.assigne("Resume", film.resume);
+    films.assigne("Production", film.production);
+    films.assigne("Note", film.note == 0 ? dao::Valeur() : dao::Valeur(film.note));
+    films.assigne("DateAjout", film.dateAjout.empty() ? m_jour : film.dateAjout);
+    films.assigne("Affiche", affiche.valeur);
+    films.Update();
+    if (film.possession != std::nullopt && (m_examen.possedes || *film.possession != PossessionVoisine())) {
+        ajoutePossession(film);
+        ++m_compte.possedes;
+    }
+    ++m_rapport.ajoutes;
+    m_lot.compteFiche(film.resume.size() + affiche.octets);
+}
+
+void PassageVoisins::ajoutePossession(const FilmVoisin& film) {
+    const PossessionVoisine& celle = *film.possession;
+    dao::Recordset& personnel = m_c.base.personnel;
+    personnel.AddNew();
+    edit::nommeFilmPossede(personnel, film);
+    personnel.assigne("Support", celle.support);
+    personnel.assigne("Rangement", celle.rangement);
+    personnel.assigne("Fichier1", celle.fichiers[0]);
+    personnel.assigne("Fichier2", celle.fichiers[1]);
+    personnel.assigne("Fichier3", celle.fichiers[2]);
+    personnel.assigne("Pret", celle.pret);
+    personnel.assigne("Reserve", celle.reserve);
+    personnel.assigne("Date", celle.date);
+    personnel.assigne("Divers", celle.divers);
+    personnel.Update();
+    if (!celle.pret.empty()) ++m_compte.pretes;
+}
+
+// What is there is never changed: only a holding, or a poster, that is missing comes.
+void PassageVoisins::complete(const FilmVoisin& film) {
+    std::size_t octets = 0;
+    if (film.possession && (m_examen.possedes || *film.possession != PossessionVoisine()) &&
+        m_c.base.base.OpenRecordset(db::enoncePossession(film)).Eof()) {
+        ajoutePossession(film);
+        ++m_compte.possessions;
+    }
+    if (film.affiche.ou != AfficheVoisine::Ou::Nulle) {
+        dao::Recordset fiche = m_c.base.base.OpenRecordset(db::enonceFilm(film));
+        if (!fiche.Eof() && fiche.texte("Affiche").empty()) {
+            const acquire::AfficheImportee affiche = afficheDe(film);
+            if (affiche.octets > 0 || !affiche.valeur.texte().empty()) {
+                fiche.Edit();
+                fiche.assigne("Affiche", affiche.valeur);
+                fiche.Update();
+                ++m_rapport.affichesAjoutees;
+                octets = affiche.octets;
+            }
+        }
+    }
+    m_lot.compteFiche(octets);
+}
+
+acquire::AfficheImportee PassageVoisins::afficheDe(const FilmVoisin& film) {
+    const auto manque = [&](const std::string& raison) {
+        m_rapport.affichesManquantes.push_back(film.titre + raison);
+        return acquire::AfficheImportee();
+    };
+    if (film.affiche.ou == AfficheVoisine::Ou::Nulle)
+        return film.affiche.nommee ? manque("") : acquire::AfficheImportee();
+    const Affiches::Lecture lue = m_examen.collection.affiches->lis(film.affiche, m_affiches.limite());
+    const std::string tropGrande = m_affiches.dansLaBase() ? " (trop grande pour la base) " : " (trop grande) ";
+    if (!lue.octets) return manque(lue.tropGrande ? tropGrande : " (illisible) ");
+    const bool tientDansLaBase = static_cast<std::int64_t>(lue.octets->size()) < db::kTailleMaxAffiche;
+    const auto placee = m_affiches.place(film, *lue.octets, tientDansLaBase);
+    return placee ? *placee : manque(tropGrande);
+}
+
+void PassageVoisins::confirmeLot() {
+    m_affiches.avantValidation();
+    m_lot.confirme();
+    m_affiches.apresValidation();
+    m_acquis = m_rapport;
+    m_compteAcquis = m_compte;
+    m_faitsAcquis = m_faits;
+}
+
+}  // namespace voisins
