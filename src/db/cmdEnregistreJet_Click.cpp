@@ -9,6 +9,7 @@
 
 #include <ctime>
 #include <filesystem>
+#include <fstream>
 #include <system_error>
 
 namespace db {
@@ -34,7 +35,20 @@ void exigeUnAutreFichier(const Contexte& c, const std::string& fichier) {
     if (const auto identite = fichiers::identite(fichier);
         identite && identite == fichiers::identite(c.base.base.nom()))
         throw Refus{"Ce fichier est la base ouverte : choisissez un autre nom."};
-    if (fichiers::dossierExiste(fichier)) throw Refus{"Un dossier porte déjà ce nom."};
+    std::error_code ignoree;
+    const fs::file_status la = fs::status(fichier, ignoree);
+    if (!fs::exists(la)) return;
+    if (fs::is_directory(la)) throw Refus{"Un dossier porte déjà ce nom."};
+    // Opened as it is, a file shows whether the user may write it; anything else is never opened.
+    if (!fs::is_regular_file(la) || !std::fstream(fichier, std::ios::in | std::ios::out | std::ios::binary))
+        throw Refus{"Le fichier " + fichier + " ne peut pas être remplacé."};
+}
+
+// Those of the file that it replaces, or of the base that it is a copy of.
+fs::perms droitsPour(const Contexte& c, const std::string& fichier) {
+    std::error_code ignoree;
+    const fs::file_status remplace = fs::status(fichier, ignoree);
+    return (fs::exists(remplace) ? remplace : fs::status(c.base.base.nom(), ignoree)).permissions() & fs::perms::all;
 }
 
 // The box asks about the name that it was given; the one that the extension makes of it may be another file's.
@@ -61,7 +75,10 @@ std::string demandeFichier(const Contexte& c) {
 // Gone again unless it is kept, and marked as in use.
 class FichierDeTravail {
   public:
-    explicit FichierDeTravail(const std::string& chemin) : m_chemin(chemin), m_verrou(cree(chemin)) {}
+    FichierDeTravail(const std::string& chemin, fs::perms droits) : m_chemin(chemin), m_verrou(cree(chemin)) {
+        std::error_code ignoree;
+        fs::permissions(m_chemin, droits | fs::perms::owner_read | fs::perms::owner_write, ignoree);
+    }
     FichierDeTravail(const FichierDeTravail&) = delete;
     FichierDeTravail& operator=(const FichierDeTravail&) = delete;
     ~FichierDeTravail() {
@@ -144,7 +161,7 @@ void cmdEnregistreJet_Click(const Contexte& c) {
     try {
         const std::string fichier = demandeFichier(c);
         if (fichier.empty()) return;
-        FichierDeTravail travail(fichier + std::string(kVersJet));
+        FichierDeTravail travail(fichier + std::string(kVersJet), droitsPour(c, fichier));
         bool interrompu = false;
         const RapportVersJet rapport = ecrit(c, travail.chemin(), interrompu);
         if (interrompu)

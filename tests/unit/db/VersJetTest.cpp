@@ -190,6 +190,7 @@ TEST_F(VersJetTest, TheUserNamesACopyThatReplacesAFileWholeOrNotAtAll) {
 
     dialogues.verifie();
     dossier.ecrit("Copie.mdb", "ce qui y était");
+    fs::permissions(chemin("Copie.mdb"), fs::perms::owner_read | fs::perms::owner_write);
     ecranMuet.arretApres = 1;
     enregistreSous(chemin("Copie.mdb"), ou);
     EXPECT_EQ(etatAvis.lblAvis.Caption, "L'enregistrement au format Jet a été arrêté : aucun fichier n'a été écrit.");
@@ -202,6 +203,7 @@ TEST_F(VersJetTest, TheUserNamesACopyThatReplacesAFileWholeOrNotAtAll) {
     EXPECT_EQ(litJet(chemin("Copie.mdb"), "Films", {"Titre", "Note"}), (Tableau{{"=L'Été meurtrier", "N"}}));
     EXPECT_EQ(etatAvis.lblAvis.Caption,
               "Base enregistrée au format Jet (1 film, 0 possession) : " + chemin("Copie.mdb"));
+    EXPECT_EQ(fs::status(chemin("Copie.mdb")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
     avis.cmdAvis_Click(0);
     EXPECT_THAT(documents.fichiers, ElementsAre(ou + "/"));
     EXPECT_THAT(restes(), IsEmpty());
@@ -228,6 +230,8 @@ TEST_F(VersJetTest, TheOpenBaseAndFilesOfOthersAreLeftAlone) {
         refuse(chemin(nom), "Ce fichier est la base ouverte : choisissez un autre nom.");
     fs::create_directory(chemin("dossier.mdb"));
     refuse(chemin("dossier.mdb"), "Un dossier porte déjà ce nom.");
+    fs::create_symlink("/dev/zero", chemin("zero.mdb"));
+    refuse(chemin("zero.mdb"), "Le fichier " + chemin("zero.mdb") + " ne peut pas être remplacé.");
     dossier.ecrit("x.mdb-jet.tmp", "la lettre de quelqu'un");
     refuse(chemin("x.mdb"),
            "Le fichier " + chemin("x.mdb-jet.tmp") + " gêne l'enregistrement. Déplacez-le, puis recommencez.");
