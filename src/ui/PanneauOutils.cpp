@@ -74,10 +74,9 @@ QWidget* PanneauOutils::base() {
     boite->addWidget(filetHorizontal());
     boite->addLayout(ligneDOutil(section(m_atelier, Aide::Compactage), {compacter}));
     boite->addWidget(filetHorizontal());
-    boite->addLayout(
-        ligneDOutil(section(tr("Format Jet"), tr("Une copie de tous les films et possessions, qu'Access 2000 à "
-                                                 "2003 et d'autres programmes ouvrent.")),
-                    {versJet}));
+    boite->addLayout(ligneDOutil(
+        section(tr("Format Jet"), tr("Une copie de la base, pour Access 2000 à 2003 et d'autres programmes.")),
+        {versJet}));
     return new Carte(boite);
 }
 
