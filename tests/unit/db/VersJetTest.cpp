@@ -3,6 +3,7 @@
 #include "db/VersJet.h"
 #include "db/cmdEnregistreJet_Click.h"
 #include "doubles/CollectionJet.h"
+#include "doubles/DisquePlein.h"
 #include "platform/jet/LecteurJet.h"
 
 #include <cstdlib>
@@ -53,13 +54,11 @@ class VersJetTest : public testing::Test, protected Installation {
         std::ofstream(destination, std::ios::trunc).close();
         return db::VersJet(progression, ecranMuet)(source, destination, kJour);
     }
-    void enregistreSous(const std::string& reponse, const std::string& dossierDeDepart) {
-        dialogues.attendFichier({.titre = "Enregistrer au format Jet",
-                                 .filtre = "Bases Access (Jet)|*.mdb",
-                                 .dossier = dossierDeDepart,
-                                 .peutCreer = true,
-                                 .nom = "Films (Jet).mdb"},
-                                reponse);
+    // What the file box of the command asks.
+    const dialogues::DemandeFichier demande{"Enregistrer au format Jet", "Bases Access (Jet)|*.mdb",
+                                            fs::path(chemin("x")).parent_path().string(), true, "Films (Jet).mdb"};
+    void enregistreSous(const std::string& reponse) {
+        dialogues.attendFichier(demande, reponse);
         db::cmdEnregistreJet_Click(c);
         dialogues.verifie();
     }
@@ -183,44 +182,48 @@ TEST_F(VersJetTest, WhatJetCannotSayIsTold) {
 
 TEST_F(VersJetTest, TheUserNamesACopyThatReplacesAFileWholeOrNotAtAll) {
     ouvre();
-    const std::string ici = dossier.chemin();
-    const std::string ou = ici.ends_with('/') ? ici.substr(0, ici.size() - 1) : ici;
-    enregistreSous("", ou);
+    enregistreSous("");
     EXPECT_FALSE(etatAvis.frameAvis.Visible);
 
-    dialogues.verifie();
     dossier.ecrit("Copie.mdb", "ce qui y était");
     fs::permissions(chemin("Copie.mdb"), fs::perms::owner_read | fs::perms::owner_write);
     ecranMuet.arretApres = 1;
-    enregistreSous(chemin("Copie.mdb"), ou);
+    enregistreSous(chemin("Copie.mdb"));
     EXPECT_EQ(etatAvis.lblAvis.Caption, "L'enregistrement au format Jet a été arrêté : aucun fichier n'a été écrit.");
     EXPECT_EQ(dossier.lit("Copie.mdb"), "ce qui y était");
     EXPECT_THAT(restes(), IsEmpty());
 
     ecranMuet.arretApres = 0;
+    dialogues.attendFichier(demande, chemin("Copie.mdb"));
+    dialogues.attendMsgBox("La base n'a pas pu être enregistrée au format Jet.\nLe fichier \"" +
+                               chemin("Copie.mdb-jet.tmp") +
+                               "\" ne peut pas être écrit (Disque plein/Lecture seule ?).",
+                           dialogues::kCritique);
+    {
+        const doubles::DisquePlein plein(40000);
+        db::cmdEnregistreJet_Click(c);
+    }
+    dialogues.verifie();
+    EXPECT_EQ(dossier.lit("Copie.mdb"), "ce qui y était");
+    EXPECT_THAT(restes(), IsEmpty());
+
     dossier.ecrit("Copie.mdb-jet.tmp", std::string(9000, '\0'));  // of a run that was killed
-    enregistreSous(chemin("Copie.mdb"), ou);
+    enregistreSous(chemin("Copie.mdb"));
     EXPECT_EQ(litJet(chemin("Copie.mdb"), "Films", {"Titre", "Note"}), (Tableau{{"=L'Été meurtrier", "N"}}));
     EXPECT_EQ(etatAvis.lblAvis.Caption,
               "Base enregistrée au format Jet (1 film, 0 possession) : " + chemin("Copie.mdb"));
     EXPECT_EQ(fs::status(chemin("Copie.mdb")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
     avis.cmdAvis_Click(0);
-    EXPECT_THAT(documents.fichiers, ElementsAre(ou + "/"));
+    EXPECT_THAT(documents.fichiers, ElementsAre(demande.dossier + "/"));
     EXPECT_THAT(restes(), IsEmpty());
     EXPECT_EQ(premierTitre(), "L'Été meurtrier");
 }
 
 TEST_F(VersJetTest, TheOpenBaseAndFilesOfOthersAreLeftAlone) {
     ouvre();
-    const std::string ou = fs::path(chemin("Films.mdb")).parent_path().string();
     const std::string debut = "La base n'a pas pu être enregistrée au format Jet.\n";
     const auto refuse = [&](const std::string& choisi, const std::string& raison) {
-        dialogues.attendFichier({.titre = "Enregistrer au format Jet",
-                                 .filtre = "Bases Access (Jet)|*.mdb",
-                                 .dossier = ou,
-                                 .peutCreer = true,
-                                 .nom = "Films (Jet).mdb"},
-                                choisi);
+        dialogues.attendFichier(demande, choisi);
         dialogues.attendMsgBox(debut + raison, dialogues::kCritique);
         db::cmdEnregistreJet_Click(c);
         dialogues.verifie();
