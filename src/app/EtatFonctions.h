@@ -20,7 +20,7 @@ struct EtatFonctions {
     // Tools.
     ecran::Etiquette lblCheminBase;  // of the open base
     ecran::Bouton cmdChargeOuvreBase, cmdCompacter, cmdInfosBase, cmdSupprInfosPerso, cmdPonctuation, cmdMultiSuppress,
-        cmdCreerListe;
+        cmdCreerListe, cmdEnregistreJet;
     // Configuration.
     ecran::Bouton cmdMajBase;
     ecran::CaseACocher chkLancerConnexion;

@@ -1,6 +1,7 @@
 #include "db/ConversionJet.h"
 
 #include "db/Affiches.h"
+#include "db/ChampsPublies.h"
 #include "db/DommagesJet.h"
 #include "db/Schema.h"
 #include "platform/dao/DBEngine.h"
@@ -8,7 +9,6 @@
 #include "util/Texte.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <filesystem>
 #include <functional>
@@ -23,16 +23,6 @@ namespace db {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::array<std::string_view, 12> kChampsFilms{"Titre",      "Realisateur", "Annee",     "Origine",
-                                                        "Genre",      "Duree",       "Acteurs",   "Resume",
-                                                        "Production", "Note",        "DateAjout", "Affiche"};
-constexpr std::array<std::string_view, 11> kChampsPersonnel{"Titre2",   "Realisateur2", "Rangement", "Fichier1",
-                                                            "Fichier2", "Fichier3",     "Pret",      "Reserve",
-                                                            "Date",     "Divers",       "Support"};
-constexpr std::string_view kAffiche = "Affiche";
-constexpr std::string_view kNote = "Note";
-constexpr std::size_t kChampsCle = 2;  // title and director come first in both tables: without them a row is lost
 
 // Of one transaction.
 constexpr long kLignesParLot = 2000;

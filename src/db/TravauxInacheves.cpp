@@ -3,6 +3,7 @@
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
 #include "platform/fichiers/Verrou.h"
+#include "platform/jet/LecteurJet.h"
 #include "util/NomsFichiers.h"
 
 #include <array>
@@ -19,15 +20,16 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kJournal = "-journal";
 
-// Whoever converts a base holds its lock. One that is compacted does not open anywhere else, and the file of one that is
+// Whoever converts a base holds its lock, and who writes a Jet base that of the file itself. One that is compacted does not open anywhere else, and the file of one that is
 // made stands there for no time.
 bool estEnUsage(const std::string& travail) {
+    if (travail.ends_with(kVersJet)) return !fichiers::Verrou(travail).estPris();
     if (!travail.ends_with(kConversion)) return false;
     return !fichiers::Verrou(travail.substr(0, travail.size() - kConversion.size())).estPris();
 }
 
 bool estDeTravail(std::string_view nom) {
-    return nom == kCompactageIci || nom.ends_with(kCreation) || nom.ends_with(kConversion) ||
+    return nom == kCompactageIci || nom.ends_with(kCreation) || nom.ends_with(kConversion) || nom.ends_with(kVersJet) ||
            nom.ends_with(".mdb" + std::string(kCompactage));
 }
 
@@ -53,7 +55,8 @@ bool estInacheve(const std::string& travail) {
     for (const char c : lu.substr(kPlaceIdentifiant))
         identifiant = identifiant << 8 | static_cast<unsigned char>(c);
     return lu.find_first_not_of('\0') == std::string_view::npos ||
-           (lu.starts_with(kSignature) && identifiant == dao::DBEngine::kIdentifiantApplication);
+           (lu.starts_with(kSignature) && identifiant == dao::DBEngine::kIdentifiantApplication) ||
+           (travail.ends_with(kVersJet) && jet::estBaseJet(travail));
 }
 
 void effaceTravauxInacheves(const std::string& dossier) {

@@ -2,6 +2,7 @@
 
 #include "app/Commandes.h"
 #include "db/cmdCompacter_Click.h"
+#include "db/cmdEnregistreJet_Click.h"
 #include "db/cmdInfosBase_Click.h"
 #include "db/cmdSupprInfosPerso_Click.h"
 #include "edit/cmdPonctuation_Click.h"
@@ -62,6 +63,9 @@ QWidget* PanneauOutils::base() {
                         fonctions.cmdInfosBase, db::cmdInfosBase_Click);
     auto* compacter = outil("cmdCompacter", tr("&Compacter"), tr("Réduire la taille du fichier de la base"),
                             fonctions.cmdCompacter, db::cmdCompacter_Click);
+    auto* versJet = outil("cmdEnregistreJet", tr("E&nregistrer au format Jet…"),
+                          tr("Écrire une copie de la base pour Access et d'autres programmes ; rien ne change ici"),
+                          fonctions.cmdEnregistreJet, db::cmdEnregistreJet_Click);
     auto* chemin = nomme(new Etiquette, "lblCheminBase");
     m_atelier.liaison.lie(fonctions.lblCheminBase, chemin);
     auto* boite = groupe(tr("Base"));
@@ -73,6 +77,10 @@ QWidget* PanneauOutils::base() {
                                  {ouvrir, infos}));
     boite->addWidget(filetHorizontal());
     boite->addLayout(ligneDOutil(section(m_atelier, Aide::Compactage), {compacter}));
+    boite->addWidget(filetHorizontal());
+    boite->addLayout(ligneDOutil(
+        section(tr("Format Jet"), tr("Une copie de la base, pour Access 2000 à 2003 et d'autres programmes.")),
+        {versJet}));
     return new Carte(boite);
 }
 
