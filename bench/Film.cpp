@@ -15,7 +15,13 @@ using namespace std::string_view_literals;
 constexpr std::uint64_t kFormes = 48;
 constexpr std::uint64_t kNombreComplements = std::size(kComplements) + std::size(kPrenoms);
 constexpr std::uint64_t kTitres = std::size(kNoms) * kNombreComplements * kFormes;
-static_assert(kTitres > kNombreMaxFilms);
+// Beyond these, a title comes again as the next part of its film, and a name as the next generation's.
+constexpr std::array kParties = {"", ", deuxième époque", ", troisième époque", ", quatrième époque"};
+static_assert(kTitres * kParties.size() > kNombreMaxFilms);
+constexpr std::uint64_t kNombreNoms = std::size(kDebutsDeNom) * std::size(kFinsDeNom);
+constexpr std::uint64_t kPersonnes = kNombreNoms * std::size(kPrenoms);
+constexpr std::array kGenerations = {"", " fils", " petit-fils", " III"};
+static_assert(kPersonnes * kGenerations.size() > kNombreMaxFilms / 6);
 
 template <std::size_t N>
 std::string_view tire(Hasard& hasard, const Pese (&liste)[N]) {
@@ -72,23 +78,22 @@ std::string debutDeTitre(const Nom& nom, std::uint64_t forme) {
 }
 
 std::string titreOriginal(std::uint64_t numero) {
-    // A prime that does not divide kTitres, so that each number below it has a title of its own.
+    // A prime that does not divide kTitres, so that each number has a title of its own.
     const std::uint64_t rang = numero * 1000003 % kTitres;
     const Nom& nom = kNoms[rang % std::size(kNoms)];
     const std::uint64_t forme = rang / (std::size(kNoms) * kNombreComplements);
     std::string titre = debutDeTitre(nom, forme);
     titre += ' ';
     titre += complement(rang / std::size(kNoms) % kNombreComplements);
-    return titre;
+    return titre += kParties[numero / kTitres];
 }
 
 std::string personne(std::uint64_t numero) {
-    constexpr std::uint64_t kNombreNoms = std::size(kDebutsDeNom) * std::size(kFinsDeNom);
-    const std::uint64_t rang = numero * 7919 % (kNombreNoms * std::size(kPrenoms));
+    const std::uint64_t rang = numero * 7919 % kPersonnes;
     const std::uint64_t nom = rang / std::size(kPrenoms);
     return std::string(kPrenoms[rang % std::size(kPrenoms)]) + " " +
            std::string(kDebutsDeNom[nom % std::size(kDebutsDeNom)]) +
-           std::string(kFinsDeNom[nom / std::size(kDebutsDeNom)]);
+           std::string(kFinsDeNom[nom / std::size(kDebutsDeNom)]) + kGenerations[numero / kPersonnes];
 }
 
 // One film in six brings a new director, so those have one film each at first and the oldest ones the most.

@@ -18,7 +18,7 @@ struct Film {
 };
 
 // Title and director are distinct below this number.
-inline constexpr std::uint64_t kNombreMaxFilms = 380000;
+inline constexpr std::uint64_t kNombreMaxFilms = 1400000;
 
 // The film of that number: always the same one, whatever the machine and the number of films around it. Among the
 // first N films there are N/6 directors, seven films out of ten are owned, and one in 240 bears an older film's title.

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QTimer>
 #include <QWidget>
 #include <algorithm>
 #include <vector>
@@ -40,6 +41,30 @@ class Guetteur : public QObject {
   private:
     QWidget& m_cible;
     bool m_peint = false;
+};
+
+// How long the program let no event through, at most, since it was made: a watch of a millisecond tells.
+class Veille {
+  public:
+    Veille() {
+        m_montre.setTimerType(Qt::PreciseTimer);
+        QObject::connect(&m_montre, &QTimer::timeout, [this] { note(); });
+        m_montre.start(1);
+    }
+    [[nodiscard]] double pire() {
+        note();
+        return m_pire;
+    }
+
+  private:
+    void note() {
+        const double instant = maintenant();
+        m_pire = std::max(m_pire, instant - m_vue);
+        m_vue = instant;
+    }
+
+    QTimer m_montre;
+    double m_vue = maintenant(), m_pire = 0;
 };
 
 // Lets a program do what it left for its idle moments.
