@@ -3,6 +3,7 @@
 #include "platform/dao/Comparaison.h"
 #include "platform/dao/LigneSupprimee.h"
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <utility>
@@ -15,9 +16,12 @@ constexpr std::string_view kTable = "Personnel", kEnonce = "SELECT * FROM Person
 constexpr std::array<std::string_view, 4> kChamps{"Titre2", "Realisateur2", "Pret", "Reserve"};
 constexpr int kLignesParPas = 64;
 
+constexpr std::uint64_t kPrete = 1, kReserve = 2, kDrapeaux = kPrete | kReserve;
+
 std::uint64_t hachage(std::string_view titre, std::string_view realisateur) {
     // A comparison key holds no zero byte.
-    return std::hash<std::string>{}(dao::cleDeComparaison(titre) + '\0' + dao::cleDeComparaison(realisateur));
+    const std::string cle = dao::cleDeComparaison(titre) + '\0' + dao::cleDeComparaison(realisateur);
+    return std::hash<std::string>{}(cle) & ~kDrapeaux;
 }
 
 }  // namespace
@@ -34,8 +38,9 @@ bool FilmsPossedes::prepare(const db::Contexte& c, std::chrono::milliseconds dur
         m_version = {};
         throw;
     }
-    m_connues = std::exchange(m_enCours, {});
     m_lignes.Close();
+    std::sort(m_enCours.begin(), m_enCours.end());
+    m_connues = std::exchange(m_enCours, {});
     return m_aJour = true;
 }
 
@@ -60,16 +65,23 @@ void FilmsPossedes::commence(const db::Contexte& c, const dao::Database::Version
 void FilmsPossedes::ajouteLigne() {
     dao::siPresente([this] {
         const std::string titre(m_lignes.vue(m_lignes.colonne(kChamps[0])));
-        Possession& possession = m_enCours[hachage(titre, m_lignes.vue(m_lignes.colonne(kChamps[1])))];
-        possession.possede = true;
-        if (!m_lignes.vue(m_lignes.colonne(kChamps[2])).empty()) possession.prete = true;
-        if (!m_lignes.vue(m_lignes.colonne(kChamps[3])).empty()) possession.reserve = true;
+        std::uint64_t possession = hachage(titre, m_lignes.vue(m_lignes.colonne(kChamps[1])));
+        if (!m_lignes.vue(m_lignes.colonne(kChamps[2])).empty()) possession |= kPrete;
+        if (!m_lignes.vue(m_lignes.colonne(kChamps[3])).empty()) possession |= kReserve;
+        m_enCours.push_back(possession);
     });
 }
 
 Possession FilmsPossedes::cherche(std::string_view titre, std::string_view realisateur) const {
-    const auto trouvee = m_connues.find(hachage(titre, realisateur));
-    return trouvee == m_connues.end() ? Possession{} : trouvee->second;
+    const std::uint64_t cherchee = hachage(titre, realisateur);
+    Possession possession;
+    for (auto ou = std::lower_bound(m_connues.begin(), m_connues.end(), cherchee);
+         ou != m_connues.end() && (*ou & ~kDrapeaux) == cherchee; ++ou) {
+        possession.possede = true;
+        possession.prete |= (*ou & kPrete) != 0;
+        possession.reserve |= (*ou & kReserve) != 0;
+    }
+    return possession;
 }
 
 }  // namespace browse

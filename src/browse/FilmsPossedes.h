@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <vector>
 
 namespace browse {
 
@@ -16,7 +16,7 @@ struct Possession {
 };
 
 // Which films are owned, lent and reserved, by title and director as the listings join them. Read from the index of the
-// holdings, never from their rows: a dozen bytes a holding. Of a film's several holdings, each counts.
+// holdings, never from their rows: eight bytes a holding. Of a film's several holdings, each counts.
 class FilmsPossedes {
   public:
     // Reads on, for about as long as said, what changed since; the opening of the index is one piece. True once all is
@@ -30,8 +30,8 @@ class FilmsPossedes {
     [[nodiscard]] bool lit(const db::Contexte& c, std::chrono::milliseconds duree);
     void ajouteLigne();
 
-    using Possessions = std::unordered_map<std::uint64_t, Possession>;  // by a hash of both
-    Possessions m_connues, m_enCours;
+    std::vector<std::uint64_t> m_connues,
+        m_enCours;            // a hash of both, and in its low bits what is so; the first in order
     dao::Recordset m_lignes;  // open while they are read
     dao::Database::Version m_version{};
     std::string m_base;

@@ -30,10 +30,11 @@ std::optional<std::uint64_t> hachageDeLigne(Connexion& connexion, const Table& t
 void construitIndex(Connexion& connexion, Table& table) {
     Requete lecture = connexion.prepare("SELECT " + table.ligneSql + "," + table.clesSql() + " FROM " + table.nomSql);
     IndexDeCles& index = table.suivi.index;
-    index.commence(static_cast<std::size_t>(table.suivi.compte.value_or(0)));
+    index.commence();
     try {
         while (lecture.avance())
-            index.ajoute(hachageDeColonnes(lecture, 1), lecture.entier(0));
+            index.range(hachageDeColonnes(lecture, 1), lecture.entier(0));
+        index.acheve();
     } catch (...) {
         index.oublie();
         throw;

@@ -23,27 +23,39 @@ std::uint64_t hacheCle(std::string_view premiere, std::string_view seconde) {
     return hache(cle, hachage);
 }
 
-void IndexDeCles::commence(std::size_t lignes) {
-    m_lignes.clear();
-    m_lignes.reserve(lignes);
+void IndexDeCles::commence() {
+    oublie();
+}
+
+void IndexDeCles::acheve() {
+    std::sort(m_lignes.begin(), m_lignes.end());
     m_construit = true;
 }
 
 void IndexDeCles::oublie() {
-    m_lignes = {};
-    m_construit = false;
+    *this = {};
 }
 
 void IndexDeCles::retire(std::uint64_t hachage, long long ligne) {
-    const auto [debut, fin] = m_lignes.equal_range(hachage);
+    const auto [debut, fin] = m_ajoutees.equal_range(hachage);
     const auto trouvee = std::find_if(debut, fin, [ligne](const auto& place) { return place.second == ligne; });
-    if (trouvee != fin) m_lignes.erase(trouvee);
+    if (trouvee != fin) {
+        m_ajoutees.erase(trouvee);
+    } else if (std::binary_search(m_lignes.begin(), m_lignes.end(), Place{hachage, ligne})) {
+        m_retirees.emplace(hachage, ligne);
+    }
 }
 
 std::vector<long long> IndexDeCles::candidats(std::uint64_t hachage) const {
     std::vector<long long> lignes;
-    const auto [debut, fin] = m_lignes.equal_range(hachage);
-    std::for_each(debut, fin, [&lignes](const auto& place) { lignes.push_back(place.second); });
+    const auto premiere = std::lower_bound(m_lignes.begin(), m_lignes.end(), hachage,
+                                           [](const Place& place, std::uint64_t h) { return place.hachage < h; });
+    for (auto place = premiere; place != m_lignes.end() && place->hachage == hachage; ++place)
+        lignes.push_back(place->ligne);
+    const auto [retiree, finRetirees] = m_retirees.equal_range(hachage);
+    std::for_each(retiree, finRetirees, [&lignes](const auto& place) { std::erase(lignes, place.second); });
+    const auto [ajoutee, finAjoutees] = m_ajoutees.equal_range(hachage);
+    std::for_each(ajoutee, finAjoutees, [&lignes](const auto& place) { lignes.push_back(place.second); });
     std::sort(lignes.begin(), lignes.end());
     return lignes;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <cstdint>
 #include <string_view>
 #include <unordered_map>
@@ -17,15 +18,27 @@ namespace dao::interne {
 class IndexDeCles {
   public:
     [[nodiscard]] bool estConstruit() const { return m_construit; }
-    void commence(std::size_t lignes);  // empty, and ready for so many
+    // Takes the rows of a whole table: commence, range for each of them, acheve.
+    void commence();
+    void range(std::uint64_t hachage, long long ligne) { m_lignes.push_back({hachage, ligne}); }
+    void acheve();
     void oublie();
 
-    void ajoute(std::uint64_t hachage, long long ligne) { m_lignes.emplace(hachage, ligne); }
+    void ajoute(std::uint64_t hachage, long long ligne) { m_ajoutees.emplace(hachage, ligne); }
     void retire(std::uint64_t hachage, long long ligne);
     [[nodiscard]] std::vector<long long> candidats(std::uint64_t hachage) const;  // in row id order
 
   private:
-    std::unordered_multimap<std::uint64_t, long long> m_lignes;
+    struct Place {
+        std::uint64_t hachage;
+        long long ligne;
+        friend auto operator<=>(const Place&, const Place&) = default;
+    };
+    using Places = std::vector<Place>;
+
+    Places m_lignes;                                               // in order
+    std::unordered_multimap<std::uint64_t, long long> m_ajoutees;  // since
+    std::unordered_multimap<std::uint64_t, long long> m_retirees;  // of m_lignes
     bool m_construit = false;
 };
 
