@@ -42,6 +42,10 @@ std::string raisonDuFiltreVide(const ensemble::EtatFiltre& filtre) {
            " ne contient " + cite + ".";
 }
 
+bool filtreTarderait(const Contexte& c) {
+    return c.etats.filtre.titres.tarderait(c);
+}
+
 bool prepareLeFiltre(const Contexte& c, std::chrono::milliseconds duree) {
     try {
         return c.etats.filtre.titres.prepare(c, duree);

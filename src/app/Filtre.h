@@ -18,6 +18,8 @@ namespace app {
 [[nodiscard]] std::optional<std::vector<std::int32_t>> noeudsFiltres(const Contexte& c);
 // What stands over the tree when it has none.
 [[nodiscard]] std::string raisonDuFiltreVide(const ensemble::EtatFiltre& filtre);
+// It would read a large listing first.
+[[nodiscard]] bool filtreTarderait(const Contexte& c);
 // Reads on for it, between two commands. True when there is nothing left to read, or nothing to be read.
 [[nodiscard]] bool prepareLeFiltre(const Contexte& c, std::chrono::milliseconds duree);
 

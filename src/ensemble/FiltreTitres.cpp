@@ -132,6 +132,12 @@ bool FiltreTitres::prepare(const Contexte& c, std::chrono::milliseconds duree) {
     return lues() == m_lignes;
 }
 
+bool FiltreTitres::tarderait(const Contexte& c) const {
+    const browse::Arbre& arbre = c.liste.TreeView1.Nodes;
+    const bool lue = m_remplissage == arbre.remplissages() && lues() == m_lignes;
+    return !lue && c.base.liste.estOuvert() && c.base.liste.RecordCount() > kGrandeListe;
+}
+
 void FiltreTitres::lit(const Contexte& c, std::size_t lignes) {
     dao::Recordset& liste = c.base.liste;
     const std::size_t fin = std::min(m_lignes, lues() + lignes);

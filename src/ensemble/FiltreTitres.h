@@ -22,10 +22,15 @@ namespace ensemble {
 class FiltreTitres {
   public:
     static constexpr std::size_t kOctetsMax = std::size_t{128} << 20, kOctetsParChamp = 4096;
+    // A listing of more films is read once the filter is about to be used, and not before.
+    static constexpr long kGrandeListe = 200000;
 
     // Reads on, for about as long as said. True once all of the listing is read; `filtre` else reads the rest at once.
     // Throws dao::ErreurDao.
     bool prepare(const Contexte& c, std::chrono::milliseconds duree);
+
+    // Whether `filtre` would read a large listing first.
+    [[nodiscard]] bool tarderait(const Contexte& c) const;
 
     // The films in which the text's words stand; all of them for a text without one. Throws dao::ErreurDao.
     const LignesVues& filtre(const Contexte& c, std::string_view saisie);

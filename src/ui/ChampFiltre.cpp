@@ -19,7 +19,7 @@ namespace {
 
 // What a filter needs is read while nothing else is done: a while after the list was shown, a little at a time.
 constexpr int kRepos = 250, kPendantUneCommande = 50;  // milliseconds
-constexpr std::chrono::milliseconds kTranche{4};
+constexpr std::chrono::milliseconds kTranche{4}, kTrancheAttendue{30};
 constexpr int kLettresAuPlus = 200;
 constexpr int kAvantLAnnonce = 700;  // milliseconds after the last letter
 
@@ -77,7 +77,7 @@ ChampFiltre::ChampFiltre(const Atelier& atelier, VueTitres& titres, QWidget* par
     connect(&m_annonce, &QTimer::timeout, this, [this] { annonce(m_compte); });
     connect(&titres, &VueTitres::peinte, this, [this] {
         m_peinte = true;
-        m_preparation.start(kRepos);
+        if (!grandeListe()) m_preparation.start(kRepos);
     });
     atelier.liaison.apresEcriture([this] { suisLEtat(); });
     connect(&atelier.commande, &Commande::terminee, this, [this] {
@@ -97,9 +97,15 @@ void ChampFiltre::suisLaSaisie() {
     applique();
 }
 
-// The base is a running command's own.
+// The base is a running command's own. A large listing is read in slices first, which are no longer those of idle time.
 void ChampFiltre::applique() {
-    m_enAttente = m_atelier.commande.enCours();
+    const bool lecture = m_atelier.session.regarde(app::filtreTarderait);
+    m_enAttente = lecture || m_atelier.commande.enCours();
+    if (lecture) {
+        m_compte->setText(tr("Lecture de la liste…"));
+        m_compte->show();
+        m_preparation.start(0);
+    }
     if (m_enAttente) return;
     m_titres.filtreANouveau();
     m_atelier.liaison.ecrit();
@@ -123,17 +129,24 @@ void ChampFiltre::suisLEtat() {
     m_compte->setText(QString::fromStdString(compte));
     m_compte->setVisible(!filtre.echec.empty() || m_titres.modele().estFiltre());
 
-    if (std::exchange(m_remplissage, etats.liste.TreeView1.Nodes.remplissages()) != m_remplissage && m_peinte)
+    if (std::exchange(m_remplissage, etats.liste.TreeView1.Nodes.remplissages()) != m_remplissage && m_peinte &&
+        (m_champ->hasFocus() || !grandeListe()))
         m_preparation.start(m_champ->hasFocus() ? 0 : kRepos);
 }
 
 void ChampFiltre::prepare() {
     if (m_atelier.commande.enCours()) return m_preparation.start(kPendantUneCommande);
-    if (!m_atelier.session.regarde(app::prepareLeFiltre, kTranche)) m_preparation.start(0);
+    const bool pret = m_atelier.session.regarde(app::prepareLeFiltre, m_enAttente ? kTrancheAttendue : kTranche);
+    if (!pret) return m_preparation.start(0);
+    if (m_enAttente) applique();
+}
+
+bool ChampFiltre::grandeListe() const {
+    return m_atelier.etats().liste.TreeView1.Nodes.Count() > ensemble::FiltreTitres::kGrandeListe;
 }
 
 bool ChampFiltre::eventFilter(QObject* objet, QEvent* evenement) {
-    if (evenement->type() == QEvent::FocusIn && m_preparation.isActive()) m_preparation.start(0);
+    if (evenement->type() == QEvent::FocusIn) m_preparation.start(0);
     if (evenement->type() == QEvent::KeyPress && prends(*static_cast<QKeyEvent*>(evenement))) return true;
     return QWidget::eventFilter(objet, evenement);
 }

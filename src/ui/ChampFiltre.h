@@ -31,6 +31,7 @@ class ChampFiltre final : public QWidget {
   private:
     void suisLaSaisie();
     void applique();
+    [[nodiscard]] bool grandeListe() const;
     void suisLEtat();
     void prepare();
     [[nodiscard]] bool prends(const QKeyEvent& evenement);
@@ -40,7 +41,7 @@ class ChampFiltre final : public QWidget {
     QLineEdit* m_champ;
     BoutonPuce* m_limite;
     QLabel* m_compte;
-    bool m_enAttente = false;  // of the end of a command
+    bool m_enAttente = false;  // of the end of a command, or of the preparation
     bool m_peinte = false;     // the list was shown
     int m_remplissage = 0;     // of the tree that is prepared, or will be
     std::string m_base;
