@@ -16,6 +16,7 @@ constexpr const char* kTriParSupportImpossible =
 
 // The old listing goes only once the new one stands: the tree's nodes lead to it.
 dao::Recordset ouvre(const Contexte& c, const std::string& requete) {
+    c.base.liste.allege();
     try {
         return db::ouvreRequete(c, requete, db::NumeroErreur::CreeRequeteAffichage, kPorteesParLaListe);
     } catch (const db::RequeteEchouee&) {

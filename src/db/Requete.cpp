@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 
 namespace db {
 
@@ -22,11 +23,20 @@ std::string texteErreurRequete(NumeroErreur numero) {
 dao::Recordset ouvreRequete(const Contexte& c, const std::string& enonce, NumeroErreur numero,
                             std::span<const std::string_view> portees) {
     try {
-        return c.base.base.OpenRecordset(enonce, portees);
+        return c.base.base.OpenRecordset(enonce, portees, souffle(c));
     } catch (const dao::ErreurDao& erreur) {
         c.dialogues.MsgBox(texteErreurRequete(numero), dialogues::kCritique);
         throw RequeteEchouee(erreur);
     }
+}
+
+dao::Souffle souffle(const Contexte& c) {
+    static constexpr std::chrono::milliseconds kPatience{50};
+    return [&c, prochain = c.montre() + kPatience]() mutable {
+        if (c.montre() < prochain) return;
+        c.ecran.patiente();
+        prochain = c.montre() + kPatience;
+    };
 }
 
 }  // namespace db

@@ -49,7 +49,11 @@ struct RequeteEchouee {
 
 // Opens a statement, whose records keep `portees` (dao::Database::OpenRecordset); on failure shows its message (style 16) and
 // throws RequeteEchouee.
+// A command's window lives on while it reads.
 [[nodiscard]] dao::Recordset ouvreRequete(const Contexte& c, const std::string& enonce, NumeroErreur numero,
                                           std::span<const std::string_view> portees = {});
+
+// For what a command reads at length (dao::Database::OpenRecordset): lets the window live on, several times a second.
+[[nodiscard]] dao::Souffle souffle(const Contexte& c);
 
 }  // namespace db

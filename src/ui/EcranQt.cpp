@@ -49,6 +49,10 @@ void EcranQt::rafraichit() {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
+void EcranQt::patiente() {
+    if (m_commandeEnCours && m_commandeEnCours()) rafraichit();
+}
+
 void EcranQt::debutTravail() {
     if (m_travaux++ > 0) return;
     m_arretDemande = false;

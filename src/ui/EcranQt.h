@@ -6,6 +6,8 @@
 #include <QElapsedTimer>
 #include <QList>
 #include <QObject>
+#include <functional>
+#include <utility>
 
 namespace ui {
 
@@ -18,8 +20,12 @@ class EcranQt final : public QObject, public ecran::Ecran {
 
     bool respire() override;
     void rafraichit() override;
+    void patiente() override;
     void debutTravail() override;
     void finTravail() override;
+
+    // Whether a command runs: the state is no one else's to show.
+    void patientePendant(std::function<bool()> commandeEnCours) { m_commandeEnCours = std::move(commandeEnCours); }
 
     // The user wants the work to stop. Forgotten when the work ends.
     void demandeArret() { m_arretDemande = true; }
@@ -36,6 +42,7 @@ class EcranQt final : public QObject, public ecran::Ecran {
     [[nodiscard]] bool continuer() const { return !m_arretDemande && !m_finDemandee; }
 
     Liaison& m_liaison;
+    std::function<bool()> m_commandeEnCours;
     QList<QObject*> m_admis;
     QElapsedTimer m_depuisSouffle;
     int m_travaux = 0;  // works may lie within one another

@@ -27,6 +27,7 @@ Programme::Programme(const std::string& dossier, const Services& services)
       m_commande(m_liaison, choisi<dialogues::Dialogues>(services.dialogues, m_boites)),
       m_fenetre(Atelier{m_session, m_liaison, m_commande, m_images, m_ecran}) {
     m_boites.metParent(&m_fenetre);
+    m_ecran.patientePendant([this] { return m_commande.enCours(); });
     QObject::connect(&m_commande, &Commande::finDuProgramme, &m_fenetre, [this] {
         m_fenetre.hide();
         QCoreApplication::quit();

@@ -34,12 +34,13 @@ Database::Database(Database&&) noexcept = default;
 Database& Database::operator=(Database&&) noexcept = default;
 Database::~Database() = default;
 
-Recordset Database::OpenRecordset(std::string_view source, std::span<const std::string_view> portees) {
+Recordset Database::OpenRecordset(std::string_view source, std::span<const std::string_view> portees,
+                                  const Souffle& souffle) {
     interne::Connexion& connexion = ouverte(m_connexion);
     connexion.veille();
     if (estUnNom(source)) return Recordset(std::make_unique<interne::JeuVivant>(connexion, connexion.table(source)));
     const interne::Plan plan = interne::planifie(connexion, interne::analyseEnonce(source), portees);
-    return Recordset(std::make_unique<interne::JeuDeCles>(connexion, plan, interne::execute(connexion, plan)));
+    return Recordset(std::make_unique<interne::JeuDeCles>(connexion, plan, interne::execute(connexion, plan, souffle)));
 }
 
 Database::Version Database::version(std::string_view table) const {

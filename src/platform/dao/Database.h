@@ -3,6 +3,7 @@
 #include "platform/dao/Enregistrement.h"
 #include "platform/dao/ErreurDao.h"
 #include "platform/dao/Recordset.h"
+#include "platform/dao/Souffle.h"
 
 #include <cstdint>
 #include <memory>
@@ -39,7 +40,8 @@ class Database {
     // Jet's text comparison. Throws ErreurDao 3075 (syntax), 3061 (unknown column), 3078 (unknown table), or a disk error.
     // `portees` are columns that a keyset keeps with its records, as it keeps those that order them: `vue` of one then asks
     // nothing of the file as long as nobody changes the row. A table without one of them does without.
-    [[nodiscard]] Recordset OpenRecordset(std::string_view source, std::span<const std::string_view> portees = {});
+    [[nodiscard]] Recordset OpenRecordset(std::string_view source, std::span<const std::string_view> portees = {},
+                                          const Souffle& souffle = {});
 
     // Differs from what it was once a row of the table was changed, or may have been. Throws ErreurDao 3078.
     struct Version {

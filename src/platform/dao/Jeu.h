@@ -43,6 +43,7 @@ class Jeu {
     void supprime();
 
     void perdLaBase() { m_connexion = nullptr; }
+    virtual void allege() {}  // what is kept beside the row ids is read from the base from now on
 
   protected:
     Jeu(Connexion& connexion, Par<RangTable, Table*> tables, Par<RangChamp, ChampDeJeu> champs);

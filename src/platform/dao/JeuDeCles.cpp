@@ -34,6 +34,13 @@ JeuDeCles::JeuDeCles(Connexion& connexion, const Plan& plan, Resultat resultat)
     }
 }
 
+// The rows of a DISTINCT have their values from nowhere else.
+void JeuDeCles::allege() {
+    if (m_fige) return;
+    for (Magasin& magasin : m_resultat.magasins)
+        magasin.oublieLesValeurs();
+}
+
 void JeuDeCles::pas(long nombre) {
     m_position = std::clamp(m_position + std::clamp(nombre, -taille() - 1, taille() + 1), -1L, taille());
 }

@@ -17,6 +17,7 @@ class JeuDeCles : public Jeu {
     JeuDeCles(Connexion& connexion, const Plan& plan, Resultat resultat);
 
     [[nodiscard]] long place() const override { return aUnCourant() ? m_position : -1; }
+    void allege() override;
 
   protected:
     void premier() override { m_position = 0; }

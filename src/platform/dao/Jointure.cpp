@@ -8,12 +8,16 @@
 namespace dao::interne {
 
 Partenaires::Partenaires(const Par<RangLigne, std::uint64_t>& hachages)
-    : m_places(std::bit_ceil(hachages.size() + hachages.size() / 2 + 2)) {
+    : m_places(std::bit_ceil(hachages.size() + hachages.size() / 2 + 2)), m_accompagnees(hachages.size()) {
     for (const RangLigne ligne : hachages.rangs()) {
+        const auto marque = static_cast<std::uint32_t>(hachages[ligne] >> 32);
         std::size_t rang = hachages[ligne] & masque();
-        while (m_places[rang].ligne != kSansLigne)
-            rang = (rang + 1) & masque();
-        m_places[rang] = {static_cast<std::uint32_t>(hachages[ligne] >> 32), ligne};
+        for (; m_places[rang].ligne != kSansLigne; rang = (rang + 1) & masque()) {
+            if (m_places[rang].marque != marque) continue;
+            for (const RangLigne compagne : {ligne, m_places[rang].ligne})
+                m_accompagnees[static_cast<std::size_t>(compagne)] = true;
+        }
+        m_places[rang] = {marque, ligne};
     }
 }
 

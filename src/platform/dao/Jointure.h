@@ -16,6 +16,9 @@ class Partenaires {
   public:
     explicit Partenaires(const Par<RangLigne, std::uint64_t>& hachages);
 
+    // No other row has its hash.
+    [[nodiscard]] bool estSeule(RangLigne ligne) const { return !m_accompagnees[static_cast<std::size_t>(ligne)]; }
+
     template <typename Visite>
     void chaque(std::uint64_t hachage, Visite visite) const {
         const auto marque = static_cast<std::uint32_t>(hachage >> 32);
@@ -32,6 +35,7 @@ class Partenaires {
     [[nodiscard]] std::size_t masque() const { return m_places.size() - 1; }
 
     std::vector<Place> m_places;
+    std::vector<bool> m_accompagnees;  // by row
 };
 
 // The Jet keys of the row being read, each worked out once at most.

@@ -12,32 +12,39 @@ constexpr auto kAbsent = ValeurVue::Type::Nombre;  // no value is kept as a numb
 }  // namespace
 
 RangLigne Magasin::ajoute(long long id) {
-    return m_ids.ajoute(id);
+    m_ids.push_back(id);
+    return static_cast<RangLigne>(m_ids.size() - 1);
 }
 
 void Magasin::ajouteValeur(const ValeurVue& valeur) {
     std::string tampon;
     const std::string_view texte = texteDe(valeur, tampon);
     const bool tient = texte.size() <= kTexteMax && m_caracteres.size() + texte.size() <= kMasque;
-    if (tient) m_caracteres += texte;
+    if (tient) m_caracteres.ajoute(texte);
     const auto type = valeur.type == ValeurVue::Type::Nombre ? ValeurVue::Type::Octets : valeur.type;
     const auto marque = static_cast<std::uint32_t>(tient ? type : kAbsent) << kBitsDePosition;
     m_fins.push_back(marque | static_cast<std::uint32_t>(m_caracteres.size()));
 }
 
 void Magasin::serre() {
-    m_ids.shrink_to_fit();
-    m_fins.shrink_to_fit();
-    m_caracteres.shrink_to_fit();
+    m_ids.serre();
+    m_fins.serre();
+    m_caracteres.serre();
+}
+
+void Magasin::oublieLesValeurs() {
+    m_fins = {};
+    m_caracteres = {};
 }
 
 std::optional<ValeurVue> Magasin::valeur(RangLigne ligne, RangLu colonne) const {
     const std::size_t rang = static_cast<std::size_t>(ligne) * m_colonnes + static_cast<std::size_t>(colonne);
+    if (rang >= m_fins.size()) return std::nullopt;
     const std::uint32_t debut = rang == 0 ? 0 : m_fins[rang - 1] & kMasque;
     const std::uint32_t fin = m_fins[rang] & kMasque;
     const auto type = static_cast<ValeurVue::Type>(m_fins[rang] >> kBitsDePosition);
     if (type == kAbsent) return std::nullopt;
-    return ValeurVue{type, std::string_view(m_caracteres).substr(debut, fin - debut), 0};
+    return ValeurVue{type, std::string_view(m_caracteres.begin() + debut, fin - debut), 0};
 }
 
 }  // namespace dao::interne

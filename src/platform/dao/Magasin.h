@@ -2,11 +2,10 @@
 
 #include "platform/dao/AccesValeur.h"
 #include "platform/dao/Rangs.h"
+#include "platform/dao/Tampon.h"
 
 #include <cstdint>
 #include <optional>
-#include <string>
-#include <vector>
 
 namespace dao::interne {
 
@@ -17,19 +16,20 @@ class Magasin {
 
     RangLigne ajoute(long long id);
     void ajouteValeur(const ValeurVue& valeur);  // of the last row, column after column
-    void change(RangLigne ligne, long long id) { m_ids[ligne] = id; }
-    void serre();  // no row follows
+    void change(RangLigne ligne, long long id) { m_ids[static_cast<std::size_t>(ligne)] = id; }
+    void serre();             // no row follows
+    void oublieLesValeurs();  // all are answered as too long to be kept
 
     [[nodiscard]] std::size_t taille() const { return m_ids.size(); }
-    [[nodiscard]] const long long& id(RangLigne ligne) const { return m_ids[ligne]; }
+    [[nodiscard]] const long long& id(RangLigne ligne) const { return m_ids[static_cast<std::size_t>(ligne)]; }
     // A number comes back as the bytes of its text. None: it was too long to be kept. Holds until a row is added.
     [[nodiscard]] std::optional<ValeurVue> valeur(RangLigne ligne, RangLu colonne) const;
 
   private:
     std::size_t m_colonnes;
-    Par<RangLigne, long long> m_ids;
-    std::vector<std::uint32_t> m_fins;  // where each value ends in the buffer, its type in the two high bits
-    std::string m_caracteres;
+    Tampon<long long> m_ids;
+    Tampon<std::uint32_t> m_fins;  // where each value ends in the buffer, its type in the two high bits
+    Tampon<char> m_caracteres;
 };
 
 }  // namespace dao::interne

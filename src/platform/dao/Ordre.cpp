@@ -13,23 +13,38 @@ constexpr char kMarqueDeNombre = 0x02;
 
 constexpr std::size_t kGroupesMax = 1024;
 constexpr int kBitsDuGroupe = 16;
+constexpr std::ptrdiff_t kMorceau = 1 << 15;  // entries that are ordered in one go
 
-std::uint64_t premiersOctets(std::string_view cle) {
-    std::uint64_t prefixe = 0;
-    std::memcpy(&prefixe, cle.data(), std::min<std::size_t>(8, cle.size()));
-    if constexpr (std::endian::native == std::endian::little) prefixe = __builtin_bswap64(prefixe);
-    return prefixe;
+// Eight bytes of a key, the missing ones as zeros.
+std::uint64_t octets(std::string_view cle, std::size_t debut) {
+    std::uint64_t lus = 0;
+    if (debut < cle.size()) std::memcpy(&lus, cle.data() + debut, std::min<std::size_t>(8, cle.size() - debut));
+    if constexpr (std::endian::native == std::endian::little) lus = __builtin_bswap64(lus);
+    return lus;
+}
+
+// As std::sort, with a breath between parts of a few milliseconds.
+void trie(auto* debut, auto* fin, const auto& avant, const Souffle& souffle) {
+    while (souffle && fin - debut > kMorceau) {
+        auto* const milieu = debut + (fin - debut) / 2;
+        std::nth_element(debut, milieu, fin, avant);
+        souffle();
+        trie(debut, milieu, avant, souffle);
+        debut = milieu;
+    }
+    std::sort(debut, fin, avant);
+    if (souffle) souffle();
 }
 
 }  // namespace
 
 void Ordre::finitColonne(std::size_t debut) {
-    if (debut == m_debut) m_finPremiere = m_cles.size();
+    if (debut == debutDeLigne()) m_finPremiere = m_cles.size();
 }
 
 void Ordre::ajouteTexte(std::string_view cleJet) {
     const std::size_t debut = m_cles.size();
-    m_cles += cleJet;
+    m_cles.ajoute(cleJet);
     m_cles.push_back(kFinDeColonne);
     finitColonne(debut);
 }
@@ -58,16 +73,15 @@ std::uint32_t Ordre::groupe(std::string_view premiereColonne) {
     return numero;
 }
 
-void Ordre::finit(long long premier, long long second) {
-    const std::string_view cle = std::string_view(m_cles).substr(m_debut);
-    const std::uint64_t numero = m_parGroupes ? groupe(cle.substr(0, std::max(m_finPremiere, m_debut) - m_debut)) : 0;
-    m_entrees.push_back(
-        {numero, m_debut, static_cast<std::uint32_t>(cle.size()), static_cast<std::uint32_t>(m_entrees.size())});
-    m_suites.emplace_back(premier, second);
-    m_debut = m_cles.size();
+void Ordre::finit() {
+    const std::size_t debut = debutDeLigne();
+    if (m_parGroupes) {
+        const std::size_t taille = std::max(m_finPremiere, debut) - debut;
+        m_numeros.push_back(groupe({m_cles.begin() + debut, taille}));
+    }
+    m_fins.push_back(m_cles.size());
 }
 
-// Until now the prefix of each row was the number of its group.
 void Ordre::prefixeParGroupes() {
     std::vector<std::pair<std::string_view, Groupe>> groupes(m_groupes.begin(), m_groupes.end());
     std::sort(groupes.begin(), groupes.end(),
@@ -76,37 +90,42 @@ void Ordre::prefixeParGroupes() {
     for (std::size_t i = 0; i < groupes.size(); ++i) {
         rangs[groupes[i].second.numero] = {static_cast<std::uint32_t>(i), groupes[i].second.taille};
     }
-    for (Entree& entree : m_entrees) {
-        const Groupe& groupe = rangs[entree.prefixe];
-        entree.debut += groupe.taille;
-        entree.taille -= groupe.taille;
-        entree.prefixe = static_cast<std::uint64_t>(groupe.numero) << (64 - kBitsDuGroupe) |
-                         premiersOctets(cle(entree)) >> kBitsDuGroupe;
+    constexpr std::size_t kOctetsDuGroupe = kBitsDuGroupe / 8;
+    for (std::uint32_t rang = 0; rang < m_fins.size(); ++rang) {
+        const Groupe& groupe = rangs[m_numeros[rang]];
+        const std::string_view reste = cle(rang).substr(groupe.taille);
+        const std::uint64_t prefixe =
+            static_cast<std::uint64_t>(groupe.numero) << (64 - kBitsDuGroupe) | octets(reste, 0) >> kBitsDuGroupe;
+        m_entrees.push_back({prefixe, octets(reste, sizeof prefixe - kOctetsDuGroupe), rang, groupe.taille});
     }
 }
 
 void Ordre::prefixeParOctets() {
-    for (Entree& entree : m_entrees)
-        entree.prefixe = premiersOctets(cle(entree));
+    for (std::uint32_t rang = 0; rang < m_fins.size(); ++rang)
+        m_entrees.push_back({octets(cle(rang), 0), octets(cle(rang), sizeof(std::uint64_t)), rang, 0});
 }
 
-std::vector<std::uint32_t> Ordre::rangs(bool sansDoublons) {
+std::vector<std::uint32_t> Ordre::rangs(bool sansDoublons, const Precede& precede, const Souffle& souffle) {
     if (m_parGroupes) {
         prefixeParGroupes();
     } else {
         prefixeParOctets();
     }
-    std::sort(m_entrees.begin(), m_entrees.end(), [this](const Entree& gauche, const Entree& droite) {
+    m_numeros = {};
+    const auto avant = [this, &precede](const Entree& gauche, const Entree& droite) {
         if (gauche.prefixe != droite.prefixe) return gauche.prefixe < droite.prefixe;
+        if (gauche.suite != droite.suite) return gauche.suite < droite.suite;
         const int ordre = cle(gauche).compare(cle(droite));
         if (ordre != 0) return ordre < 0;
-        return m_suites[gauche.rang] < m_suites[droite.rang];
-    });
+        return precede(gauche.rang, droite.rang);
+    };
+    trie(m_entrees.begin(), m_entrees.end(), avant, souffle);
     if (sansDoublons) {
         const auto memeCle = [this](const Entree& gauche, const Entree& droite) {
             return ontLaMemeCle(gauche, droite);
         };
-        m_entrees.erase(std::unique(m_entrees.begin(), m_entrees.end(), memeCle), m_entrees.end());
+        const auto* fin = std::unique(m_entrees.begin(), m_entrees.end(), memeCle);
+        m_entrees.retireLaFin(static_cast<std::size_t>(fin - m_entrees.begin()));
     }
     std::vector<std::uint32_t> resultat;
     resultat.reserve(m_entrees.size());

@@ -77,6 +77,9 @@ void Recordset::Update() {
 void Recordset::Delete() {
     ouvert(m_jeu).supprime();
 }
+void Recordset::allege() {
+    if (m_jeu != nullptr) m_jeu->allege();
+}
 void Recordset::Close() {
     m_jeu.reset();
 }

@@ -82,6 +82,9 @@ class Recordset {
     void Update();
     void Delete();  // the row of the current record; its slot stays
 
+    // Gives back the memory of what a statement's records keep beside their row ids; their fields are read from the base
+    // from now on. Nothing on a closed one.
+    void allege();
     void Close();  // closing twice is harmless
     [[nodiscard]] bool estOuvert() const { return m_jeu != nullptr; }
 

@@ -8,9 +8,11 @@
 #include "platform/dao/RegistresLarges.h"
 
 #include <algorithm>
+#include <functional>
 #include <span>
 #include <string>
 #include <unordered_map>
+#include <utility>
 
 namespace dao::interne {
 
@@ -18,7 +20,13 @@ namespace {
 
 class Execution {
   public:
-    Execution(Connexion& connexion, const Plan& plan) : m_connexion(connexion), m_plan(plan) {
+    Execution(Connexion& connexion, const Plan& plan, const Souffle& souffle) : m_connexion(connexion), m_plan(plan) {
+        if (souffle) {
+            m_souffle = [&souffle] {
+                souffle();
+                rendsRegistresLarges();  // who paints uses them
+            };
+        }
         for (const TableDuPlan& table : plan.tables) {
             m_resultat.magasins.emplace_back(table.lues.size());
             m_cles.emplace_back(table.lues.size());
@@ -43,6 +51,11 @@ class Execution {
   private:
     const TableDuPlan& premiere() const { return m_plan.tables[kPremiere]; }
 
+    void respire() {
+        constexpr unsigned kLignesParSouffle = 4096;
+        if (m_souffle && ++m_lignesLues % kLignesParSouffle == 0) m_souffle();
+    }
+
     RangLigne range(RangTable table, const Balayage& balayage) {
         Magasin& magasin = m_resultat.magasins[table];
         for (const ValeurVue& valeur : balayage.valeurs())
@@ -62,6 +75,7 @@ class Execution {
     void balaie(const std::string& condition, std::optional<long long> ligne = std::nullopt) {
         Balayage balayage(m_connexion, premiere(), condition, ligne);
         while (balayage.avance()) {
+            respire();
             if (m_plan.distinct && dejaVue(balayage)) continue;
             m_cles[kPremiere].change(balayage.valeurs());
             retient(range(kPremiere, balayage), kSansLigne);
@@ -80,35 +94,53 @@ class Execution {
         Magasin& magasin = m_resultat.magasins[kPremiere];
         const auto [vue, nouvelle] = m_vues.try_emplace(m_lettres, static_cast<RangLigne>(magasin.taille()));
         if (nouvelle) return false;
-        if (balayage.id() < magasin.id(vue->second)) {
-            magasin.change(vue->second, balayage.id());
-            m_ordre.change(static_cast<std::uint32_t>(vue->second), balayage.id());
-        }
+        if (balayage.id() < magasin.id(vue->second)) magasin.change(vue->second, balayage.id());
         return true;
     }
 
+    // Indexes bring both tables in the same order: as a rule a row's only partner is the one after the last that was met,
+    // which the letters tell. Everything else is found by the hashes of the keys.
     void joint() {
         const Partenaires partenaires(rangePartenaires());
         Balayage balayage(m_connexion, premiere(), premiere().condition);
+        RangLigne suivante{0};
         while (balayage.avance()) {
+            respire();
             m_cles[kPremiere].change(balayage.valeurs());
             m_ligneDeGauche = kSansLigne;
             bool jointe = false;
-            if (const auto hachage = hachageDeJointure(kPremiere)) {
+            const auto joins = [&](RangLigne droite) {
+                jointe = true;
+                suivante = static_cast<RangLigne>(static_cast<std::uint32_t>(droite) + 1);
+                retientSiNulles(balayage, droite);
+            };
+            if (ontLesMemesLettres(balayage.valeurs(), suivante) && partenaires.estSeule(suivante)) {
+                joins(suivante);
+            } else if (const auto hachage = hachageDeJointure(kPremiere)) {
                 partenaires.chaque(*hachage, [&](RangLigne droite) {
-                    if (!seJoignent(balayage.valeurs(), droite)) return;
-                    jointe = true;
-                    retientSiNulles(balayage, droite);
+                    if (seJoignent(balayage.valeurs(), droite)) joins(droite);
                 });
             }
             if (!jointe && m_plan.gauche) retientSiNulles(balayage, kSansLigne);
         }
     }
 
+    bool ontLesMemesLettres(const Par<RangLu, ValeurVue>& valeurs, RangLigne droite) const {
+        const Magasin& magasin = m_resultat.magasins[kSeconde];
+        if (static_cast<std::size_t>(droite) >= magasin.taille()) return false;
+        return std::all_of(m_plan.egalites.begin(), m_plan.egalites.end(), [&](const auto& egalite) {
+            const ValeurVue& gauche = valeurs[egalite.first];
+            const auto gardee = magasin.valeur(droite, egalite.second);
+            return gauche.type == ValeurVue::Type::Texte && gardee && gardee->type == gauche.type &&
+                   gardee->texte == gauche.texte;
+        });
+    }
+
     Par<RangLigne, std::uint64_t> rangePartenaires() {
         Par<RangLigne, std::uint64_t> hachages;
         Balayage balayage(m_connexion, m_plan.tables[kSeconde], m_plan.tables[kSeconde].condition);
         while (balayage.avance()) {
+            respire();
             m_cles[kSeconde].change(balayage.valeurs());
             const auto hachage = hachageDeJointure(kSeconde);
             if (!hachage) continue;
@@ -164,10 +196,19 @@ class Execution {
     void retient(RangLigne gauche, RangLigne droite) {
         for (const TriDuPlan& tri : m_plan.tris)
             ajouteCle(tri, droite);
-        const bool seule = droite == kSansLigne;
-        m_ordre.finit(m_resultat.magasins[kPremiere].id(gauche), seule ? 0 : m_resultat.magasins[kSeconde].id(droite));
+        m_ordre.finit();
         m_gauches.push_back(gauche);
         if (m_plan.tables.size() > 1) m_droites.push_back(droite);
+    }
+
+    // Rows of equal keys, by the ids of their rows.
+    bool precede(std::uint32_t gauche, std::uint32_t droite) const {
+        const auto ids = [this](std::uint32_t rang) {
+            const RangLigne seconde = m_plan.tables.size() > 1 ? m_droites[rang] : kSansLigne;
+            return std::pair(m_resultat.magasins[kPremiere].id(m_gauches[rang]),
+                             seconde == kSansLigne ? 0 : m_resultat.magasins[kSeconde].id(seconde));
+        };
+        return ids(gauche) < ids(droite);
     }
 
     void ajouteCle(const TriDuPlan& tri, RangLigne droite) {
@@ -194,9 +235,10 @@ class Execution {
             Ordre parColonne(Ordre::PremiereColonne::SansGroupes);
             for (std::size_t i = 0; i < avant.size(); ++i) {
                 ajouteDepartage(parColonne, m_gauches[avant[i]], m_plan.departages[colonne]);
-                parColonne.finit(static_cast<long long>(i), 0);
+                parColonne.finit();
+                respire();
             }
-            const std::vector<std::uint32_t> apres = parColonne.rangs(false);
+            const std::vector<std::uint32_t> apres = parColonne.rangs(false, std::less<>(), m_souffle);
             std::transform(apres.begin(), apres.end(), egales.begin(), [&](std::uint32_t rang) { return avant[rang]; });
             if (colonne + 1 < m_plan.departages.size()) departage(egales, parColonne, colonne + 1);
         }
@@ -209,8 +251,12 @@ class Execution {
     }
 
     void ordonne() {
-        std::vector<std::uint32_t> rangs = m_ordre.rangs(m_plan.distinct);
+        const auto precede = [this](std::uint32_t gauche, std::uint32_t droite) {
+            return this->precede(gauche, droite);
+        };
+        std::vector<std::uint32_t> rangs = m_ordre.rangs(m_plan.distinct, precede, m_souffle);
         if (!m_plan.departages.empty()) departage(rangs, m_ordre, 0);
+        m_ordre = Ordre();
         const auto suit = [&rangs](const std::vector<RangLigne>& lignes) {
             std::vector<RangLigne> resultat;
             resultat.reserve(rangs.size());
@@ -234,13 +280,15 @@ class Execution {
     std::string m_lettres;  // of the row being looked up
     std::string m_cle;
     std::string m_longue;
+    Souffle m_souffle;
+    unsigned m_lignesLues = 0;
 };
 
 }  // namespace
 
-Resultat execute(Connexion& connexion, const Plan& plan) {
+Resultat execute(Connexion& connexion, const Plan& plan, const Souffle& souffle) {
     rendsRegistresLarges();
-    return Execution(connexion, plan).resultat();
+    return Execution(connexion, plan, souffle).resultat();
 }
 
 }  // namespace dao::interne

@@ -2,6 +2,7 @@
 
 #include "platform/dao/Magasin.h"
 #include "platform/dao/Plan.h"
+#include "platform/dao/Souffle.h"
 
 #include <vector>
 
@@ -13,6 +14,6 @@ struct Resultat {
     Par<RangTable, std::vector<RangLigne>> lignes{};
 };
 
-[[nodiscard]] Resultat execute(Connexion& connexion, const Plan& plan);
+[[nodiscard]] Resultat execute(Connexion& connexion, const Plan& plan, const Souffle& souffle = {});
 
 }  // namespace dao::interne

@@ -14,6 +14,8 @@ class Ecran {
     [[nodiscard]] virtual bool respire() = 0;
     // Shows the state now; takes no input.
     virtual void rafraichit() = 0;
+    // Amid something that cannot be stopped: what rafraichit does, where a command runs, and nothing else.
+    virtual void patiente() {}
     // The long work that respire belongs to begins or ends: while it lasts the window offers "Annuler".
     virtual void debutTravail() = 0;
     virtual void finTravail() = 0;

@@ -25,10 +25,14 @@ TEST(Ordre, IsTheSameForFewValuesAndForMany) {
                 ordre.ajouteTexte(dao::interne::cleJet(texte));
             }
             ordre.ajouteNombre(second - 25.5);
-            ordre.finit(id, 0);
+            ordre.finit();
         }
         std::vector<std::tuple<int, int, int>> obtenues;
-        for (const std::uint32_t rang : ordre.rangs(false))
+        const auto precede = [&lignes](std::uint32_t a, std::uint32_t b) {
+            return std::get<2>(lignes[a]) < std::get<2>(lignes[b]);
+        };
+        int souffles = 0;
+        for (const std::uint32_t rang : ordre.rangs(false, precede, [&souffles] { ++souffles; }))
             obtenues.push_back(lignes[rang]);
         std::sort(lignes.begin(), lignes.end());
         ASSERT_EQ(obtenues, lignes) << valeurs;
