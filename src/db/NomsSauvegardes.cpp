@@ -19,7 +19,7 @@ struct Mots {
     std::string_view libelle;
 };
 
-constexpr std::array<Mots, 11> kMots = {{
+constexpr std::array<Mots, 12> kMots = {{
     {Avant::ImportFiches, "import de fiches", "import de fiches"},
     {Avant::ImportAncienne, "import d'une autre version", "import d'une version précédente"},
     {Avant::ImportCollection, "import d'une collection", "import d'une autre collection"},
