@@ -5,6 +5,7 @@
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/DelegueLignes.h"
+#include "ui/FenetreGuide.h"
 #include "ui/Lecteur.h"
 #include "ui/ModeleApercu.h"
 
@@ -41,6 +42,7 @@ FenetreApercu::FenetreApercu(const Atelier& atelier, Sujet sujet, QWidget* paren
     nomme(this, "frmApercu");
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(m_sujet.titre);
+    donneUnePage(atelier, this, "ordre.html#apercus");
     auto* fermer = bouton("cmdFermerApercu", tr("Fermer"), tr("Ne rien changer (Échap)"));
     connect(fermer, &QAbstractButton::clicked, this, &QDialog::reject);
     connect(m_executer, &QAbstractButton::clicked, this, &FenetreApercu::execute);

@@ -6,6 +6,7 @@
 #include "ui/Comparaison.h"
 #include "ui/Composition.h"
 #include "ui/DelegueLignes.h"
+#include "ui/FenetreGuide.h"
 #include "ui/ModeleExamen.h"
 
 #include <QAction>
@@ -35,11 +36,12 @@ bool valide(const QKeyEvent& evenement) {
 }
 
 // A film that is read, alone or beside the one that it resembles.
-void ouvreLaFiche(QWidget* parent, const QString& titre, const std::optional<FenetreExamen::Vue>& presente,
-                  const FenetreExamen::Vue& lue) {
+void ouvreLaFiche(const Atelier& atelier, QWidget* parent, const QString& titre,
+                  const std::optional<FenetreExamen::Vue>& presente, const FenetreExamen::Vue& lue) {
     auto* fenetre = nomme(new QDialog(parent), "frmFicheLue");
     fenetre->setAttribute(Qt::WA_DeleteOnClose);
     fenetre->setWindowTitle(titre);
+    donneUnePage(atelier, fenetre, "apercu.html");
     auto* comparaison = new Comparaison;
     comparaison->metEnLecture(presente ? FenetreExamen::tr("Le film présent") : QString(),
                               FenetreExamen::tr("Ce qui est lu"));
@@ -73,6 +75,7 @@ FenetreExamen::FenetreExamen(const Atelier& atelier, Sujet sujet, QWidget* paren
     nomme(this, "frmExamen");
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(m_sujet.titre);
+    donneUnePage(atelier, this, "apercu.html");
     auto* boite = new QVBoxLayout(this);
     boite->setContentsMargins(kGrand, kGrand, kGrand, kGrand);
     boite->setSpacing(kMoyen);
@@ -211,7 +214,7 @@ void FenetreExamen::voit() {
     const edit::FilmExamine& film = m_modele->film(courant.row());
     const auto lue = m_sujet.vue(static_cast<std::size_t>(courant.row()));
     if (!lue) return m_texte->setText(tr("« %1 » ne peut pas être lu.").arg(texteDeLigne(film.provenance)));
-    ouvreLaFiche(this, texteDeLigne(edit::texteDuSort(film)), autre(film), *lue);
+    ouvreLaFiche(m_atelier, this, texteDeLigne(edit::texteDuSort(film)), autre(film), *lue);
 }
 
 // The film of the base, or the one that comes earlier in the same import.

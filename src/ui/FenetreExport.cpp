@@ -7,6 +7,7 @@
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/EcranQt.h"
+#include "ui/FenetreGuide.h"
 #include "ui/ImagesQt.h"
 #include "ui/Interface.h"
 #include "util/Nombres.h"
@@ -142,6 +143,7 @@ FenetreExport::FenetreExport(const Atelier& atelier, QWidget* parent)
       m_exporter(bouton<BoutonAccent>("cmdFaireExport", tr("E&xporter"))) {
     nomme(this, "frmExport");
     setWindowTitle(tr("Exporter"));
+    donneUnePage(atelier, this, "formats.html");
     setModal(true);
     m_champsDe.fill(kPourMontrer);
     m_champsDe[rang(Sortie::Tableau)] = Champs::tous();

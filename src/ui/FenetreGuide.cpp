@@ -6,6 +6,7 @@
 #include "ui/VueGuide.h"
 
 #include <QCloseEvent>
+#include <QDialog>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScreen>
@@ -13,6 +14,7 @@
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTreeWidget>
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
@@ -30,6 +32,12 @@ constexpr const char* kPropriete = "pageDuGuide";
 
 void donneUnePage(QWidget* widget, const char* page) {
     widget->setProperty(kPropriete, QByteArray(page));
+}
+
+void donneUnePage(const Atelier& atelier, QDialog* fenetre, const char* page) {
+    donneUnePage(static_cast<QWidget*>(fenetre), page);
+    QObject::connect(new QShortcut(Qt::Key_F1, fenetre), &QShortcut::activated, fenetre,
+                     [atelier, fenetre] { demandeLeGuide(atelier, fenetre); });
 }
 
 void demandeLeGuide(const Atelier& atelier, const QWidget* enUsage) {
@@ -167,6 +175,8 @@ void FenetreGuide::presente() {
     if (!m_pages) compose();
     m_recherche->clear();
     m_vue->montre(QString::fromStdString(m_atelier.etats().guide.page));
+    winId();
+    windowHandle()->setTransientParent(nullptr);  // one that waits for an answer over the main window leaves it free
     show();
     raise();
     activateWindow();

@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <optional>
 
+class QDialog;
 class QLabel;
 class QLineEdit;
 class QTreeWidget;
@@ -19,6 +20,8 @@ class VueGuide;
 // that of the panel shown.
 void demandeLeGuide(const Atelier& atelier, const QWidget* enUsage);
 void donneUnePage(QWidget* widget, const char* page);
+// Of a window of its own, which is given F1 too.
+void donneUnePage(const Atelier& atelier, QDialog* fenetre, const char* page);
 
 // The guide in a window of its own: its contents, which a search narrows, and a page. It needs no browser and no network;
 // a browser shows the same files. Composed when it is first asked for.

@@ -4,6 +4,7 @@
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/DelegueLignes.h"
+#include "ui/FenetreGuide.h"
 #include "ui/FenetreVoisins.h"
 #include "util/Nombres.h"
 #include "voisins/ImporteCollection.h"
@@ -44,6 +45,7 @@ FenetreTableau::FenetreTableau(const Atelier& atelier, voisins::Tableau tableau,
     nomme(this, "frmTableau");
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(tr("Importer un tableau"));
+    donneUnePage(atelier, this, "autres.html#tableau");
     auto* fermer = bouton("cmdFermerTableau", tr("Fermer"), tr("Ne rien importer (Échap)"));
     connect(fermer, &QAbstractButton::clicked, this, &QDialog::reject);
     connect(m_continuer, &QAbstractButton::clicked, this, &FenetreTableau::examine);

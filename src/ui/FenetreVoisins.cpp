@@ -4,6 +4,7 @@
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
 #include "ui/DelegueLignes.h"
+#include "ui/FenetreGuide.h"
 #include "ui/FenetreTableau.h"
 #include "ui/ModeleVoisins.h"
 #include "voisins/ImporteCollection.h"
@@ -52,6 +53,7 @@ FenetreVoisins::FenetreVoisins(const Atelier& atelier, voisins::Examen examen, Q
     nomme(this, "frmVoisins");
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(tr("Importer une autre collection"));
+    donneUnePage(atelier, this, "autres.html");
     auto* tout = bouton("cmdVoisinsTout", tr("&Tout cocher"), tr("Ajouter aussi les films qui ressemblent à un autre"));
     auto* rien = bouton("cmdVoisinsRien", tr("Tout &décocher"));
     auto* fermer = bouton("cmdFermerVoisins", tr("Fermer"), tr("Ne rien importer (Échap)"));

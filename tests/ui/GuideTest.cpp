@@ -4,11 +4,13 @@
 #include "ui/VueGuide.h"
 
 #include <QAction>
+#include <QDialog>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QShortcut>
 #include <QTreeWidget>
+#include <QWindow>
 #include <filesystem>
 #include <set>
 
@@ -134,6 +136,20 @@ struct FenetreDuGuide : testing::Test {
         essai.clique("cmdConfigurer");
         essai.clique("cmdConfig_1");
         essai.clique("cmdSauvegardes");
+        ouvre("cmdExporter");
+        ouvre("cmdApercuFiches");
+        ouvre("cmdCollectionFichier", "c.gcs");
+    }
+    // A window that waits for an answer, and the file that is chosen for it.
+    void ouvre(const char* bouton, const char* fichier = "") {
+        essai.dossier.ecrit("c.gcs", "<collection type=\"GCfilms\"><item title=\"Playtime\"/></collection>");
+        essai.dossier.ecrit("t.csv", "Titre;Par\nPlaytime;T\n");
+        essai.boites.fichier = essai.dossier.chemin(fichier);
+        essai.trouve<QAbstractButton>(bouton).click();
+    }
+    void cliqueDansLeGuide(const char* nom) {
+        const QWidget& bouton = essai.trouve(nom);
+        QTest::mouseClick(guide().windowHandle(), Qt::LeftButton, {}, bouton.mapTo(&guide(), bouton.rect().center()));
     }
 };
 
@@ -209,6 +225,35 @@ TEST_F(FenetreDuGuide, OpensWhereOneIsAndIsReadFromPageToPage) {
     EXPECT_THAT(essai.documents.ouverts, testing::ElementsAre("https://example.org/"));
     essai.fenetre().close();
     EXPECT_FALSE(essai.fenetre().isVisible());
+}
+
+// They keep the main window waiting, but not the guide.
+TEST_F(FenetreDuGuide, IsReadBesideAWindowThatWaitsForAnAnswer) {
+    essai.demarre();
+    essai.importe({{"l'été", "Agnès Varda", "Drame", ""}});
+    const std::array<const char*, 4> fenetres[] = {{"cmdExporter", "", "frmExport", "formats.html"},
+                                                   {"cmdApercuFiches", "", "frmExamen", "apercu.html"},
+                                                   {"cmdApercuTitres", "", "frmApercu", "ordre.html"},
+                                                   {"cmdCollectionFichier", "c.gcs", "frmVoisins", "autres.html"},
+                                                   {"cmdCollectionFichier", "t.csv", "frmTableau", "autres.html"}};
+    for (const auto& [bouton, fichier, nom, page] : fenetres) {
+        SCOPED_TRACE(nom);
+        ouvre(bouton, fichier);
+        auto& fenetre = essai.trouve<QDialog>(nom);
+        ASSERT_TRUE(essais::attends([&] { return QApplication::activeWindow() == &fenetre; }));
+        touche(fenetre, Qt::Key_F1);
+        ASSERT_TRUE(guide().isVisible());
+        EXPECT_EQ(vue().page(), page);
+        EXPECT_TRUE(fenetre.isVisible());
+        cliqueDansLeGuide("cmdGuideTouches");
+        EXPECT_EQ(vue().page(), "touches.html");
+        touche(guide(), Qt::Key_Escape);
+        fenetre.reject();
+        ASSERT_TRUE(essais::attends([&] {
+            const auto* encore = essai.fenetre().findChild<QWidget*>(nom);
+            return !encore || !encore->isVisible();
+        }));
+    }
 }
 
 TEST_F(FenetreDuGuide, FindsWordsWithoutTheirAccentsInThePagesThatHoldThemAll) {

@@ -39,6 +39,8 @@ class Photographe {
         laCollection();
         ceQuiChange();
         lesRessemblances();
+        avantDImporter();
+        lesFormats();
     }
 
   private:
@@ -234,6 +236,50 @@ class Photographe {
         auto& paires = m_essai.trouve<QAbstractItemView>("lstDoublons");
         if (!essais::attends([&] { return paires.model()->rowCount() > 0; })) throw std::runtime_error("no pair");
         photoDuPanneau("doublons", "frameCollection");
+    }
+
+    void avantDImporter() {
+        const fs::path ici = m_essai.dossier.chemin("fiches"), livrees = AMBRELIS_SOURCE_DIR "/samples";
+        fs::create_directory(ici);
+        for (const char* nom : {"Alien, le huitieme passager", "Citizen Kane", "Delicatessen", "Jules et Jim"})
+            fs::copy(livrees / (std::string(nom) + ".FILM"), ici);
+        for (const char* nom : {"Alien, le huitieme passager.jpg", "Citizen Kane.jpg", "Delicatessen.jpg"})
+            fs::copy(livrees / nom, ici);
+        fs::copy(livrees / "Les Temps modernes.jpg", ici);
+        m_essai.dossier.ecrit("fiches/Les Temps modernes.FILM",
+                              "Les Temps modèrnes\nCharlie Chaplin\n1936\n\nComédie\n1H27\nCharlie Chaplin");
+        m_essai.dossier.ecrit("fiches/L'ete aux fenetres.FILM", "L'été aux fenêtres\nClaire Morel\n2019");
+        m_essai.dossier.ecrit("fiches/Metropolys.FILM", "Métropolys\nFritz Lang\n1927");
+        m_essai.dossier.ecrit("fiches/Rue des Lilas.FILM", "Rue des Lilas\nPaul Vidal\n2008");
+        m_essai.dossier.ecrit("fiches/Vacances.FILM", std::string(40, '\1'));
+        m_essai.clique("cmdAfficherFonctions");
+        m_essai.boites.dossier = ici;
+        m_essai.clique("cmdParcourir2");
+        m_essai.clique("cmdApercuFiches");
+        photo("apercu", m_essai.trouve("frmExamen"));
+        m_essai.clique("cmdFermerExamen");
+
+        m_essai.dossier.ecrit("Ma collection.gcs", R"(<collection type="GCfilms">
+<item title="La Rue des Lilas" director="Paul Vidal" date="2008" format="DVD"/>
+<item title="Le Jardin d'hiver" director="Claire Morel" date="2014" format="Blu-ray"/>
+<item title="Delicatessen" director="Marc Caro, Jean-Pierre Jeunet" date="1991" format="DVD"/>
+<item title="Mon Oncl" director="Jacques Tati" date="1958" format="DVD"/>
+<item title="Une heure à tuer" director="Lise Arnaud" date="1999" format="DVD"/></collection>)");
+        m_essai.boites.fichier = m_essai.dossier.chemin("Ma collection.gcs");
+        m_essai.clique("cmdConfigurer");
+        m_essai.clique("cmdConfig_0");
+        m_essai.clique("cmdCollectionFichier");
+        m_essai.trouve("frmVoisins").resize(900, 400);
+        photo("autres", m_essai.trouve("frmVoisins"));
+        m_essai.clique("cmdFermerVoisins");
+    }
+
+    void lesFormats() {
+        m_essai.clique("cmdExporter");
+        m_essai.clique("optHtml");
+        tape("txtCheminExport", "/home/claire/Documents/Liste de films.html");
+        photo("formats", m_essai.trouve("frmExport"));
+        m_essai.clique("cmdFermerExport");
     }
 
     QString m_images;
