@@ -102,6 +102,8 @@ QString enFrancais(const QKeySequence& touche) {
                                             {"Right", "Droite"},
                                             {"Home", "Origine"},
                                             {"Space", "Espace"},
+                                            {"PgDown", "Page suivante"},
+                                            {"PgUp", "Page précédente"},
                                             {"Ctrl+=", "Ctrl++"}})
         texte.replace(anglais, QString::fromUtf8(francais));
     return texte;
@@ -154,7 +156,7 @@ struct FenetreDuGuide : testing::Test {
 };
 
 void ajoute(QSet<QString>& noms, QString texte) {
-    noms << texte.remove('&').section('\t', 0, 0).trimmed();
+    noms << texte.remove('&').section('\t', 0, 0).section(" : ", 0, 0).trimmed();
 }
 
 // What buttons, captions, lists and menus of the window are called.
@@ -210,6 +212,7 @@ TEST_F(FenetreDuGuide, OpensWhereOneIsAndIsReadFromPageToPage) {
     essai.trouve("Filtre").setFocus();
     touche(essai.trouve("Filtre"), Qt::Key_F1);
     EXPECT_EQ(vue().page(), "filtrer.html");
+    ASSERT_TRUE(essais::attends([&] { return QApplication::activeWindow() == &guide(); }));
     touche(guide(), Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(vue().page(), "fiche.html");
     EXPECT_FALSE(vue().toPlainText().isEmpty());

@@ -165,7 +165,7 @@ class Photographe {
         saisie();
         m_essai.clique("cmdConfigurer");
         ditChezElle("lblCheminBase");
-        photoDuPanneau("outils", "frameListeFonctions", 730);
+        photoDuPanneau("outils", "frameListeFonctions", 654);
     }
 
     void saisis(const Champs& champs) {
@@ -262,7 +262,7 @@ class Photographe {
         m_essai.dossier.ecrit("Ma collection.gcs", R"(<collection type="GCfilms">
 <item title="La Rue des Lilas" director="Paul Vidal" date="2008" format="DVD"/>
 <item title="Le Jardin d'hiver" director="Claire Morel" date="2014" format="Blu-ray"/>
-<item title="Delicatessen" director="Marc Caro, Jean-Pierre Jeunet" date="1991" format="DVD"/>
+<item title="Metropolis" director="Fritz Lang" date="1927" format="DVD"/>
 <item title="Mon Oncl" director="Jacques Tati" date="1958" format="DVD"/>
 <item title="Une heure à tuer" director="Lise Arnaud" date="1999" format="DVD"/></collection>)");
         m_essai.boites.fichier = m_essai.dossier.chemin("Ma collection.gcs");
@@ -275,8 +275,11 @@ class Photographe {
     }
 
     void lesFormats() {
+        m_essai.choisit("ChoixZone", 0);
+        m_essai.cliqueTitre("Citizen Kane");
+        m_essai.clique("cmdConfigurer");
         m_essai.clique("cmdExporter");
-        m_essai.clique("optHtml");
+        m_essai.trouve<QAbstractButton>("optHtml").click();
         tape("txtCheminExport", "/home/claire/Documents/Liste de films.html");
         photo("formats", m_essai.trouve("frmExport"));
         m_essai.clique("cmdFermerExport");
