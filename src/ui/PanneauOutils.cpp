@@ -63,7 +63,7 @@ QWidget* PanneauOutils::base() {
                         fonctions.cmdInfosBase, db::cmdInfosBase_Click);
     auto* compacter = outil("cmdCompacter", tr("&Compacter"), tr("Réduire la taille du fichier de la base"),
                             fonctions.cmdCompacter, db::cmdCompacter_Click);
-    auto* versJet = outil("cmdEnregistreJet", tr("Enregi&strer au format Jet…"),
+    auto* versJet = outil("cmdEnregistreJet", tr("En&registrer au format Jet…"),
                           tr("Écrire une copie de la base pour Access et d'autres programmes ; rien ne change ici"),
                           fonctions.cmdEnregistreJet, db::cmdEnregistreJet_Click);
     auto* chemin = nomme(new Etiquette, "lblCheminBase");
