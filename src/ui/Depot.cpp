@@ -4,11 +4,13 @@
 #include "acquire/FichesDeposees.h"
 #include "app/Depot.h"
 #include "edit/SaisiePossession.h"
+#include "ui/FenetreVoisins.h"
 
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QTimer>
 #include <QUrl>
 #include <algorithm>
 
@@ -28,6 +30,15 @@ std::vector<std::string> cheminsDe(const QDropEvent& evenement) {
 bool estUneImage(const std::string& chemin) {
     const QString suite = QFileInfo(QString::fromStdString(chemin)).suffix().toLower();
     return suite == QLatin1String("jpg") || suite == QLatin1String("jpeg");
+}
+
+// By its name alone: what is in it is looked at once it is dropped.
+bool estUneCollection(const std::string& chemin) {
+    static const QStringList kSuites{QStringLiteral("tc"),  QStringLiteral("gcs"), QStringLiteral("gcz"),
+                                     QStringLiteral("xml"), QStringLiteral("nfo"), QStringLiteral("csv"),
+                                     QStringLiteral("tsv")};
+    const QFileInfo fichier(QString::fromStdString(chemin));
+    return kSuites.contains(fichier.suffix().toLower()) && !fichier.isDir();
 }
 
 bool portentDesFiches(const std::vector<std::string>& chemins) {
@@ -82,6 +93,7 @@ Depot::Cible Depot::cible(const QDropEvent& evenement) const {
         for (int i = 0; i < kFichiersAttaches; ++i)
             if (nom == QStringLiteral("Text10_%1").arg(i) && chemins.size() == 1) return {Sorte::Fichier, i};
     }
+    if (chemins.size() == 1 && estUneCollection(chemins.front())) return {Sorte::Collection};
     return {portentDesFiches(chemins) ? Sorte::Fiches : Sorte::Rien};
 }
 
@@ -97,6 +109,12 @@ void Depot::recois(const QDropEvent& evenement) const {
             break;
         case Sorte::Fichier:
             m_atelier.execute(edit::attacheFichier, ou.indice, chemins.front());
+            break;
+        // Its window opens once the other program has got its answer.
+        case Sorte::Collection:
+            QTimer::singleShot(0, this, [this, chemin = chemins.front()] {
+                if (!m_atelier.commande.enCours()) ouvreImportDeposee(m_atelier, m_fenetre, chemin);
+            });
             break;
         case Sorte::Rien:
             break;

@@ -9,7 +9,7 @@ class QDropEvent;
 namespace ui {
 
 // What is dropped on the window: sheets or a folder of them are imported, a picture on the poster becomes the film's, a
-// file on a box of an attached file fills it. Anything else is refused while it is still in the air.
+// file on a box of an attached file fills it, another program's collection is shown before it is imported. Anything else is refused while it is still in the air.
 class Depot final : public QObject {
     Q_OBJECT
   public:
@@ -21,7 +21,7 @@ class Depot final : public QObject {
     bool eventFilter(QObject* objet, QEvent* evenement) override;
 
   private:
-    enum class Sorte { Rien, Fiches, Affiche, Fichier };
+    enum class Sorte { Rien, Fiches, Affiche, Fichier, Collection };
     struct Cible {
         Sorte sorte = Sorte::Rien;
         int indice = 0;  // of the attached file

@@ -12,6 +12,7 @@
 #include <QHeaderView>
 #include <QShortcut>
 #include <QTreeView>
+#include <functional>
 #include <memory>
 
 namespace ui {
@@ -37,6 +38,24 @@ QCheckBox* option(const char* nom, const QString& texte, const QString& infobull
     return resultat;
 }
 
+// What the choice leads to: the columns of a table first, else the films.
+void ouvreExamen(const Atelier& atelier, QWidget* widget,
+                 const std::function<std::optional<voisins::CollectionChoisie>(const acquire::Contexte&)>& choisit) {
+    std::optional<voisins::CollectionChoisie> choisie;
+    std::optional<voisins::Examen> examen;
+    std::optional<voisins::Tableau> tableau;
+    atelier.execute([&](const app::Contexte& c) {
+        choisie = choisit(c);
+        if (!choisie) return;
+        if (choisie->programme == voisins::Programme::Csv)
+            tableau = voisins::litTableauChoisi(c, choisie->chemin);
+        else
+            examen = voisins::examineCollection(c, choisie->chemin);
+    });
+    if (tableau) (new FenetreTableau(atelier, std::move(*tableau), widget->window()))->open();
+    if (examen) (new FenetreVoisins(atelier, std::move(*examen), widget->window()))->open();
+}
+
 }  // namespace
 
 FenetreVoisins::FenetreVoisins(const Atelier& atelier, voisins::Examen examen, QWidget* parent)
@@ -46,9 +65,10 @@ FenetreVoisins::FenetreVoisins(const Atelier& atelier, voisins::Examen examen, Q
       m_possedes(option("chkVoisinsPossedes", tr("Ce sont des films que je &possède"),
                         tr("Chaque film ajouté reçoit un exemplaire, même si la collection n'en dit rien"),
                         m_modele->examen().possedes)),
-      m_complete(option("chkVoisinsCompletes", tr("&Compléter les films déjà là"),
-                        tr("Leur donner l'exemplaire et l'affiche qui leur manquent ; le reste ne change pas"),
-                        m_modele->examen().complete)),
+      m_complete(
+          option("chkVoisinsCompletes", tr("&Compléter les films déjà là"),
+                 tr("Leur donner ce qui leur manque : champs vides, exemplaire, affiche ; le reste ne change pas"),
+                 m_modele->examen().complete)),
       m_importer(bouton<BoutonAccent>("cmdImporterVoisins", tr("&Importer"))) {
     nomme(this, "frmVoisins");
     setAttribute(Qt::WA_DeleteOnClose);
@@ -84,7 +104,7 @@ FenetreVoisins::FenetreVoisins(const Atelier& atelier, voisins::Examen examen, Q
     boutons->addWidget(fermer);
     boutons->addWidget(m_importer);
     boite->addLayout(boutons);
-    m_complete->setEnabled(m_modele->examen().nombre(voisins::Sort::DejaLa) > 0);
+    m_complete->setEnabled(m_modele->examen().nombre(edit::SortDuFilm::DejaLa) > 0);
     resize(kTaille);
     suis();
 }
@@ -106,20 +126,15 @@ void FenetreVoisins::importe() {
 }
 
 void ouvreImportDeCollection(const Atelier& atelier, QWidget* widget, bool unDossier, std::string& depart) {
-    std::optional<voisins::CollectionChoisie> choisie;
-    std::optional<voisins::Examen> examen;
-    std::optional<voisins::Tableau> tableau;
-    atelier.execute([&](const app::Contexte& c) {
-        choisie = voisins::choisitCollection(c, unDossier, depart);
-        if (!choisie) return;
-        depart = unDossier ? choisie->chemin : fichiers::dossierDe(choisie->chemin);
-        if (choisie->programme == voisins::Programme::Csv)
-            tableau = voisins::litTableauChoisi(c, choisie->chemin);
-        else
-            examen = voisins::examineCollection(c, choisie->chemin);
+    ouvreExamen(atelier, widget, [&](const acquire::Contexte& c) {
+        const auto choisie = voisins::choisitCollection(c, unDossier, depart);
+        if (choisie) depart = unDossier ? choisie->chemin : fichiers::dossierDe(choisie->chemin);
+        return choisie;
     });
-    if (tableau) (new FenetreTableau(atelier, std::move(*tableau), widget->window()))->open();
-    if (examen) (new FenetreVoisins(atelier, std::move(*examen), widget->window()))->open();
+}
+
+void ouvreImportDeposee(const Atelier& atelier, QWidget* widget, const std::string& chemin) {
+    ouvreExamen(atelier, widget, [&](const acquire::Contexte& c) { return voisins::reconnaitCollection(c, chemin); });
 }
 
 }  // namespace ui

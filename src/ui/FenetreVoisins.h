@@ -33,5 +33,7 @@ class FenetreVoisins final : public QDialog {
 // Asks for the collection, a file or a folder, reads it with progress and stop, and shows what it would bring, over the
 // window of that widget. `depart` is where the choice begins, and is left where it went.
 void ouvreImportDeCollection(const Atelier& atelier, QWidget* widget, bool unDossier, std::string& depart);
+// The same of a collection that is at hand.
+void ouvreImportDeposee(const Atelier& atelier, QWidget* widget, const std::string& chemin);
 
 }  // namespace ui

@@ -1,6 +1,7 @@
 #include "ui/ModeleVoisins.h"
 
 #include "ui/DelegueLignes.h"
+#include "util/Nombres.h"
 
 #include <algorithm>
 #include <iterator>
@@ -16,6 +17,8 @@ std::string exemplaireDe(const voisins::FilmVoisin& film) {
     std::string texte = celui.support;
     for (const std::string& suite : {celui.rangement, celui.pret.empty() ? std::string() : "prêté à " + celui.pret})
         if (!suite.empty()) texte += (texte.empty() ? "" : ", ") + suite;
+    if (!film.autres.empty())
+        texte += util::phraseCompte(static_cast<long>(film.autres.size()), " et # autre", " et # autres");
     return texte;
 }
 
@@ -25,7 +28,7 @@ ModeleVoisins::ModeleVoisins(voisins::Examen examen, QObject* parent)
     : QAbstractTableModel(parent), m_examen(std::move(examen)), m_ordre(m_examen.jugements.size()) {
     std::iota(m_ordre.begin(), m_ordre.end(), 0U);
     std::ranges::stable_partition(
-        m_ordre, [this](std::size_t r) { return m_examen.jugements[r].sort == voisins::Sort::Ressemblant; });
+        m_ordre, [this](std::size_t r) { return m_examen.jugements[r].sort == edit::SortDuFilm::Ressemblant; });
 }
 
 void ModeleVoisins::metOptions(bool possedes, bool complete) {
@@ -35,7 +38,7 @@ void ModeleVoisins::metOptions(bool possedes, bool complete) {
 }
 
 void ModeleVoisins::bascule(const QModelIndex& index) {
-    if (!index.isValid() || m_examen.jugements[rang(index)].sort == voisins::Sort::DejaLa) return;
+    if (!index.isValid() || m_examen.jugements[rang(index)].sort == edit::SortDuFilm::DejaLa) return;
     bool& oui = m_examen.jugements[rang(index)].aAjouter;
     oui = !oui;
     emit dataChanged(index.siblingAtColumn(Film), index.siblingAtColumn(Film), {Qt::CheckStateRole});
@@ -44,7 +47,7 @@ void ModeleVoisins::bascule(const QModelIndex& index) {
 
 void ModeleVoisins::cocheTout(bool oui) {
     for (voisins::Jugement& celui : m_examen.jugements)
-        celui.aAjouter = oui && celui.sort != voisins::Sort::DejaLa;
+        celui.aAjouter = oui && celui.sort != edit::SortDuFilm::DejaLa;
     if (!m_ordre.empty()) emit dataChanged(index(0, Film), index(rowCount() - 1, Film), {Qt::CheckStateRole});
     emit change();
 }
@@ -59,7 +62,7 @@ int ModeleVoisins::rowCount(const QModelIndex& parent) const {
 
 Qt::ItemFlags ModeleVoisins::flags(const QModelIndex& index) const {
     Qt::ItemFlags celles = QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
-    const bool seCoche = index.isValid() && m_examen.jugements[rang(index)].sort != voisins::Sort::DejaLa;
+    const bool seCoche = index.isValid() && m_examen.jugements[rang(index)].sort != edit::SortDuFilm::DejaLa;
     return seCoche && index.column() == Film ? celles | Qt::ItemIsUserCheckable : celles;
 }
 
@@ -67,13 +70,13 @@ QVariant ModeleVoisins::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
     const voisins::FilmVoisin& film = m_examen.collection.films[rang(index)];
     const voisins::Jugement& jugement = m_examen.jugements[rang(index)];
-    if (role == kLigneForte) return index.column() == Sort && jugement.sort == voisins::Sort::Ressemblant;
-    if (role == kLigneDiscrete) return jugement.sort == voisins::Sort::DejaLa || index.column() == Realisateur;
-    if (role == Qt::CheckStateRole && index.column() == Film && jugement.sort != voisins::Sort::DejaLa)
+    if (role == kLigneForte) return index.column() == Sort && jugement.sort == edit::SortDuFilm::Ressemblant;
+    if (role == kLigneDiscrete) return jugement.sort == edit::SortDuFilm::DejaLa || index.column() == Realisateur;
+    if (role == Qt::CheckStateRole && index.column() == Film && jugement.sort != edit::SortDuFilm::DejaLa)
         return jugement.aAjouter ? Qt::Checked : Qt::Unchecked;
     if (role != Qt::DisplayRole) return {};
     const std::string textes[] = {film.titre, film.realisateur, film.annee, exemplaireDe(film),
-                                  voisins::texteDuSort(jugement)};
+                                  edit::texteDuSort(jugement)};
     return texteDeLigne(textes[index.column()]);
 }
 

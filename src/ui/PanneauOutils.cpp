@@ -20,7 +20,7 @@ namespace ui {
 
 namespace {
 
-constexpr int kDeuxColonnes = 1000;  // in less, one column shows all tools and their explanations
+constexpr int kDeuxColonnes = 920;  // what a window of 1366 leaves to the panel
 
 // What a tool does, and the button that does it, on one line.
 QHBoxLayout* ligneDOutil(QVBoxLayout* texte, std::initializer_list<QPushButton*> boutons) {
@@ -46,8 +46,8 @@ QPushButton* PanneauOutils::outil(const char* nom, const QString& texte, const Q
 PanneauOutils::PanneauOutils(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "frameOutils");
     seLitCommeGroupe(this, tr("Outils"));
-    auto* gauche = pile({base(), importer(), exporter()});
-    auto* droite = pile({corriger(), zoneDangereuse()});
+    auto* gauche = pile({base(), importer()});
+    auto* droite = pile({exporter(), corriger(), zoneDangereuse()});
     auto* boite = colonne(0);
     boite->addWidget(new CoteACote({gauche, droite}, kDeuxColonnes, kGrand));
     setLayout(boite);

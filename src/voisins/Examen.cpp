@@ -1,11 +1,8 @@
 #include "voisins/Examen.h"
 
-#include "edit/LettresDuCatalogue.h"
-#include "edit/TitreDejaExistant.h"
-#include "edit/TitreDejaExistant_TestRessemblance.h"
+#include "edit/JugeFilms.h"
 #include "ensemble/Avancement.h"
 #include "util/Nombres.h"
-#include "util/Texte.h"
 #include "voisins/Lecteurs.h"
 
 #include <algorithm>
@@ -14,33 +11,14 @@ namespace voisins {
 
 namespace {
 
-struct EnAttente {
-    std::size_t rang;
-    util::CompteLettres titre, realisateur;
-};
-
-// One look at the base names for each of them the first film that it resembles.
-void nommeLesProches(const acquire::Contexte& c, std::vector<EnAttente> enAttente, std::vector<Jugement>& jugements) {
-    if (enAttente.empty()) return;
-    dao::Recordset films = edit::ouvreFilmsParTitre(c);
-    ensemble::Avancement avancement(c, films.RecordCount(), "Recherche des films qui se ressemblent");
-    for (; !films.Eof() && !enAttente.empty(); films.MoveNext()) {
-        const std::string titre = films.texte("Titre");
-        const auto lettres = util::compteLettres(titre),
-                   duRealisateur = util::compteLettres(films.texte("Realisateur"));
-        std::erase_if(enAttente, [&](const EnAttente& celui) {
-            if (!edit::ressemble(celui.realisateur, duRealisateur) || !edit::ressemble(celui.titre, lettres))
-                return false;
-            jugements[celui.rang].proche = titre;
-            return true;
-        });
-        if (!avancement.avance()) throw LectureArretee{};
-    }
+// Of pictures only where they are is known: what cannot be taken, the import tells.
+edit::SortDeLAffiche sortDeLAffiche(const AfficheVoisine& affiche) {
+    return affiche.ou == AfficheVoisine::Ou::Nulle ? edit::SortDeLAffiche::Absente : edit::SortDeLAffiche::Prise;
 }
 
 }  // namespace
 
-long Examen::nombre(Sort sort) const {
+long Examen::nombre(edit::SortDuFilm sort) const {
     return static_cast<long>(std::ranges::count(jugements, sort, &Jugement::sort));
 }
 
@@ -56,9 +34,10 @@ std::string Examen::texte() const {
         util::phraseCompte(films, "# film", "# films") +
         (collection.programme == Programme::Csv ? " dans ce tableau : "
                                                 : " dans cette collection de " + nomDe(collection.programme) + " : ") +
-        util::phraseCompte(nombre(Sort::Nouveau), "# nouveau", "# nouveaux");
-    if (const long n = nombre(Sort::DejaLa); n > 0) texte += util::phraseCompte(n, ", # déjà là", ", # déjà là");
-    if (const long n = nombre(Sort::Ressemblant); n > 0)
+        util::phraseCompte(nombre(edit::SortDuFilm::Nouveau), "# nouveau", "# nouveaux");
+    if (const long n = nombre(edit::SortDuFilm::DejaLa); n > 0)
+        texte += util::phraseCompte(n, ", # déjà là", ", # déjà là");
+    if (const long n = nombre(edit::SortDuFilm::Ressemblant); n > 0)
         texte += util::phraseCompte(n, ", # qui ressemble à un film de la base (à cocher pour l'ajouter)",
                                     ", # qui ressemblent à un film de la base (à cocher pour les ajouter)");
     texte += affiches == 0 ? "." : util::phraseCompte(affiches, ". # affiche.", ". # affiches.");
@@ -67,38 +46,17 @@ std::string Examen::texte() const {
     return texte;
 }
 
-std::string texteDuSort(const Jugement& jugement) {
-    switch (jugement.sort) {
-        case Sort::Nouveau:
-            return "Nouveau";
-        case Sort::DejaLa:
-            return "Déjà là";
-        case Sort::Ressemblant:
-            break;
-    }
-    return "Ressemble à " + util::entreChevrons(jugement.proche);
-}
-
 Examen examine(const acquire::Contexte& c, Collection collection) {
     Examen examen{std::move(collection)};
-    std::vector<EnAttente> enAttente;
-    {
-        ensemble::Avancement avancement(c, std::ssize(examen.collection.films), "Comparaison avec la base");
-        const edit::LettresDuCatalogue lettres = edit::LettresDuCatalogue::de(c);
-        for (const FilmVoisin& film : examen.collection.films) {
-            Jugement jugement;
-            if (edit::TitreDejaExistant(c, film))
-                jugement = {Sort::DejaLa, {}, false};
-            else if (lettres.aUnProche(film))
-                jugement = {Sort::Ressemblant, {}, false};
-            if (jugement.sort == Sort::Ressemblant)
-                enAttente.push_back(
-                    {examen.jugements.size(), util::compteLettres(film.titre), util::compteLettres(film.realisateur)});
-            examen.jugements.push_back(std::move(jugement));
-            if (!avancement.avance()) throw LectureArretee{};
-        }
+    ensemble::Avancement avancement(c, std::ssize(examen.collection.films), "Comparaison avec la base");
+    const edit::JugeFilms juge(c, true);
+    for (const FilmVoisin& film : examen.collection.films) {
+        Jugement jugement{juge.examine(film, [&film] { return sortDeLAffiche(film.affiche); })};
+        jugement.film = {};
+        jugement.aAjouter = jugement.sort == edit::SortDuFilm::Nouveau;
+        examen.jugements.push_back(std::move(jugement));
+        if (!avancement.avance()) throw LectureArretee{};
     }
-    nommeLesProches(c, std::move(enAttente), examen.jugements);
     return examen;
 }
 

@@ -8,6 +8,7 @@
 #include "voisins/Valeurs.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace voisins {
 
@@ -134,7 +135,7 @@ std::string texteDeLExemplaire(const FilmVoisin& film) {
 }
 
 // Another copy of the same film: what is new in it.
-void ajouteExemplaire(FilmVoisin& premier, const FilmVoisin& autre) {
+void noteExemplaire(FilmVoisin& premier, const FilmVoisin& autre) {
     if (autre.possession && !premier.possession) {
         premier.possession = autre.possession;
     } else if (const std::string dits = texteDeLExemplaire(autre);
@@ -145,6 +146,14 @@ void ajouteExemplaire(FilmVoisin& premier, const FilmVoisin& autre) {
     if (autre.resume != premier.resume && premier.resume.find(autre.resume) == std::string::npos)
         premier.resume += (premier.resume.empty() ? "" : "\r\n\r\n") + autre.resume;
     if (premier.note == 0) premier.note = autre.note;
+}
+
+bool memeFiche(const FilmVoisin& a, const FilmVoisin& b) {
+    const auto champs = [](const FilmVoisin& film) {
+        return std::tie(film.annee, film.origine, film.genre, film.duree, film.acteurs, film.resume, film.production,
+                        film.note, film.dateAjout);
+    };
+    return champs(a) == champs(b);
 }
 
 }  // namespace
@@ -204,11 +213,30 @@ FilmVoisin redige(FicheBrute fiche, bool possede) {
 }
 
 void Films::ajoute(FicheBrute fiche, bool possede) {
-    if (fiche.estSansTitre()) {
+    if (fiche.estSansTitre())
+        ++m_sansTitre;
+    else
+        ajoute(redige(std::move(fiche), possede));
+}
+
+void Films::ajouteExemplaire(FilmVoisin& premier, const FilmVoisin& autre) {
+    if (m_exemplairesEn == Exemplaires::AuResume || !memeFiche(premier, autre) || !premier.possession ||
+        !autre.possession) {
+        ++m_exemplaires;
+        return noteExemplaire(premier, autre);
+    }
+    const bool connue = autre.possession == premier.possession ||
+                        std::ranges::find(premier.autres, *autre.possession) != premier.autres.end();
+    if (connue && m_exemplairesEn == Exemplaires::SiAutres) return;
+    ++m_possessions;
+    premier.autres.push_back(*autre.possession);
+}
+
+void Films::ajoute(FilmVoisin film) {
+    if (film.titre.empty()) {
         ++m_sansTitre;
         return;
     }
-    FilmVoisin film = redige(std::move(fiche), possede);
     m_texte += octetsDe(film);
     if (m_films.size() >= kFilmsAuPlus || m_texte > kTexteAuPlus)
         throw Refus{"Cette collection est trop grande pour être lue d'un seul coup."};
@@ -218,18 +246,14 @@ void Films::ajoute(FicheBrute fiche, bool possede) {
         return;
     }
     FilmVoisin& premier = m_films[place->second];
-    if (film.annee.empty() || premier.annee.empty() || film.annee == premier.annee) {
-        ++m_exemplaires;
-        ajouteExemplaire(premier, film);
-        return;
-    }
+    if (film.annee.empty() || premier.annee.empty() || film.annee == premier.annee)
+        return ajouteExemplaire(premier, film);
     film.titre = util::coupe(film.titre, edit::kLongueurTitre - 7) + " (" + film.annee + ")";
     if (const auto [autre, encoreNouveau] = m_rangs.try_emplace(ensemble::cleDeFilm(film), m_films.size());
         encoreNouveau) {
         ++m_annees;
         m_films.push_back(std::move(film));
     } else {
-        ++m_exemplaires;
         ajouteExemplaire(m_films[autre->second], film);
     }
 }
@@ -241,6 +265,8 @@ void Films::verse(Collection& collection) {
     remarque(m_sansTitre, "# fiche sans titre laissée de côté.", "# fiches sans titre laissées de côté.");
     remarque(m_exemplaires, "# autre exemplaire d'un film de la collection, noté dans son résumé.",
              "# autres exemplaires de films de la collection, notés dans leur résumé.");
+    remarque(m_possessions, "# ligne d'un autre exemplaire du même film : il a une possession de plus.",
+             "# lignes d'autres exemplaires des mêmes films : ils ont autant de possessions de plus.");
     remarque(m_annees, "# film du même titre et du même réalisateur qu'un autre : son année est ajoutée à son titre.",
              "# films du même titre et du même réalisateur que d'autres : leur année est ajoutée à leur titre.");
     collection.films = std::move(m_films);

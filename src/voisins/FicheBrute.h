@@ -37,22 +37,30 @@ inline constexpr const char* kVu = "Vu";  // the name of the line that says it
 // room for is a line as well. `possede`: it has a holding, were nothing known of it.
 [[nodiscard]] FilmVoisin redige(FicheBrute fiche, bool possede);
 
+// What another copy of a film becomes: a remark in its summary; a holding of its own where it differs from the first; or
+// one in any case, as a table has it that tells each copy on a line.
+enum class Exemplaires { AuResume, SiAutres, Tous };
+
 // The films of a collection: what has no title is left out and told. One that bears the name of an earlier one (as the
-// base compares them) is another copy of it, which its summary then tells, unless their years differ: then the year goes
-// into its title.
+// base compares them) is another copy of it, unless their years differ: then the year goes into its title.
 class Films {
   public:
-    // Throws Refus for more than a collection may hold.
+    explicit Films(Exemplaires exemplaires = Exemplaires::AuResume) : m_exemplairesEn(exemplaires) {}
+    // Throw Refus for more than a collection may hold.
     void ajoute(FicheBrute fiche, bool possede);
+    void ajoute(FilmVoisin film);
     [[nodiscard]] std::size_t nombre() const { return m_films.size(); }
     // Hands them and what is to be told.
     void verse(Collection& collection);
 
   private:
+    void ajouteExemplaire(FilmVoisin& premier, const FilmVoisin& autre);
+
+    Exemplaires m_exemplairesEn;
     std::vector<FilmVoisin> m_films;
     std::unordered_map<std::string, std::size_t> m_rangs;  // by what the base compares
     std::size_t m_texte = 0;
-    long m_sansTitre = 0, m_exemplaires = 0, m_annees = 0;
+    long m_sansTitre = 0, m_exemplaires = 0, m_possessions = 0, m_annees = 0;
 };
 
 }  // namespace voisins

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "db/CleFilm.h"
+#include "edit/FilmExamine.h"
 
 #include <array>
 #include <cstdint>
@@ -30,12 +30,14 @@ struct PossessionVoisine {
     friend bool operator==(const PossessionVoisine&, const PossessionVoisine&) = default;
 };
 
-// Each field fits its column; the title and the director are never empty.
-struct FilmVoisin : db::CleFilm {
-    std::string annee, origine, genre, duree, acteurs, resume, production;
-    int note = 0;           // 1 to 10; 0 for none
-    std::string dateAjout;  // in the user's short form; "" where it is not said
+// The title and the director are never empty. Each field fits its column, but what this program wrote itself, which comes
+// back as it left.
+struct FilmVoisin : edit::FilmLu {
+    int note = 0;            // 1 to 10; 0 for none
+    std::string dateAjout;   // in the user's short form; "" where it is not said
+    bool sansAjout = false;  // it is said that there is none
     std::optional<PossessionVoisine> possession;
+    std::vector<PossessionVoisine> autres;  // more copies of it, where there is one
     AfficheVoisine affiche;
 };
 

@@ -114,6 +114,37 @@ constexpr Mot kSupports[] = {{"bluray", "Blu-ray"},
                              {"vcr", "VHS"},
                              {"vhs tape", "VHS"}};
 
+constexpr Mot kTermes[] = {{"anamorphic", "anamorphique"},
+                           {"b&w", "en noir et blanc"},
+                           {"black & white", "en noir et blanc"},
+                           {"black and white", "en noir et blanc"},
+                           {"color", "en couleurs"},
+                           {"colour", "en couleurs"},
+                           {"colorized", "colorisé"},
+                           {"director's cut", "version du réalisateur"},
+                           {"fullscreen", "plein écran"},
+                           {"full screen", "plein écran"},
+                           {"not rated", "non classé"},
+                           {"other", "autre"},
+                           {"region 0", "0"},
+                           {"region 1", "1"},
+                           {"region 2", "2"},
+                           {"region 3", "3"},
+                           {"region 4", "4"},
+                           {"region 5", "5"},
+                           {"region 6", "6"},
+                           {"region 7", "7"},
+                           {"region 8", "8"},
+                           {"region a", "A"},
+                           {"region b", "B"},
+                           {"region c", "C"},
+                           {"region free", "toutes"},
+                           {"all regions", "toutes"},
+                           {"silent", "muet"},
+                           {"stereo", "stéréo"},
+                           {"unrated", "non classé"},
+                           {"widescreen", "écran large"}};
+
 std::span<const Mot> mots(Lexique lexique) {
     switch (lexique) {
         case Lexique::Genre:
@@ -122,6 +153,8 @@ std::span<const Mot> mots(Lexique lexique) {
             return kPays;
         case Lexique::Langue:
             return kLangues;
+        case Lexique::Terme:
+            return kTermes;
         case Lexique::Support:
             break;
     }

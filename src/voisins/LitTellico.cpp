@@ -44,6 +44,10 @@ constexpr Nom kLignes[] = {{"certification", "Classification"},
                            {"language", "Langues"},
                            {"subtitle", "Sous-titres"}};
 
+// Those whose values are chosen from a list of the program, in its words.
+constexpr std::string_view kDeTermes[] = {"certification", "region",     "format", "audio-track",
+                                          "aspect-ratio",  "widescreen", "color"};
+
 std::string nomDeLaLigne(const std::string& champ, const Champs& champs) {
     const auto connu = std::ranges::find(kLignes, std::string_view(champ), &Nom::champ);
     if (connu != std::end(kLignes)) return connu->ligne;
@@ -189,9 +193,11 @@ class Lecteur {
         const auto connu = m_champs.find(champ);
         if (connu != m_champs.end() && connu->second.sorte == "10") return;  // another picture
         std::vector<std::string> dits = textes;
-        if (champ == "language" || champ == "subtitle")
+        const bool langues = champ == "language" || champ == "subtitle";
+        const bool termes = std::ranges::find(kDeTermes, champ) != std::end(kDeTermes);
+        if (langues || termes)
             for (std::string& dit : dits)
-                dit = enFrancais(Lexique::Langue, dit);
+                dit = enFrancais(langues ? Lexique::Langue : Lexique::Terme, dit);
         fiche.ligne(nomDeLaLigne(champ, m_champs), assemble(dits, ", "));
     }
 

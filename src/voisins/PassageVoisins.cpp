@@ -2,8 +2,8 @@
 
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
+#include "edit/Complement.h"
 #include "edit/LignePossession.h"
-#include "edit/TitreDejaExistant.h"
 #include "util/Nombres.h"
 #include "voisins/Affiches.h"
 
@@ -20,7 +20,7 @@ std::vector<std::size_t> ordreDesAffiches(const Examen& examen) {
     std::iota(ordre.begin(), ordre.end(), 0U);
     std::erase_if(ordre, [&](std::size_t rang) {
         const Jugement& celui = examen.jugements[rang];
-        return !celui.aAjouter && !(celui.sort == Sort::DejaLa && examen.complete);
+        return !celui.aAjouter && !(celui.sort == edit::SortDuFilm::DejaLa && examen.complete);
     });
     std::ranges::stable_sort(ordre, {}, [&](std::size_t rang) { return examen.collection.films[rang].affiche.rang; });
     return ordre;
@@ -32,6 +32,7 @@ PassageVoisins::PassageVoisins(const acquire::Contexte& c, const Examen& examen)
     : m_c(c),
       m_examen(examen),
       m_ordre(ordreDesAffiches(examen)),
+      m_juge(c, false),
       m_lot(c),
       m_affiches(c),
       m_jour(c.horloge.dateDuJour()) {}
@@ -71,6 +72,8 @@ acquire::RapportImport PassageVoisins::rapport() {
     ligne(m_compteAcquis.possedes, "# film ajouté est possédé.", "# films ajoutés sont possédés.");
     ligne(m_compteAcquis.possessions, "# film déjà présent est maintenant possédé.",
           "# films déjà présents sont maintenant possédés.");
+    ligne(m_compteAcquis.completes, "# film déjà présent a reçu des champs qui lui manquaient.",
+          "# films déjà présents ont reçu des champs qui leur manquaient.");
     ligne(m_compteAcquis.pretes, "# film est prêté.", "# films sont prêtés.");
     m_acquis.rangement.insert(m_acquis.rangement.end(), m_examen.collection.remarques.begin(),
                               m_examen.collection.remarques.end());
@@ -96,9 +99,10 @@ void PassageVoisins::importeTout() {
 void PassageVoisins::importe(std::size_t rang) {
     const FilmVoisin& film = m_examen.collection.films[rang];
     m_lot.commence();  // the checks of one lot share what they read
-    if (!edit::TitreDejaExistant(m_c, film))
+    if (m_juge.juge(film) != edit::SortDuFilm::DejaLa) {
         ajoute(film);
-    else {
+        m_juge.ajoute(film);
+    } else {
         m_rapport.titresRefuses.push_back(film.titre);
         if (m_examen.complete) complete(film);
     }
@@ -118,19 +122,28 @@ void PassageVoisins::ajoute(const FilmVoisin& film) {
     films.assigne("Resume", film.resume);
     films.assigne("Production", film.production);
     films.assigne("Note", film.note == 0 ? dao::Valeur() : dao::Valeur(film.note));
-    films.assigne("DateAjout", film.dateAjout.empty() ? m_jour : film.dateAjout);
+    films.assigne("DateAjout", film.dateAjout.empty() && !film.sansAjout ? m_jour : film.dateAjout);
     films.assigne("Affiche", affiche.valeur);
     films.Update();
-    if (film.possession != std::nullopt && (m_examen.possedes || *film.possession != PossessionVoisine())) {
-        ajoutePossession(film);
+    if (estPossede(film)) {
+        ajoutePossessions(film);
         ++m_compte.possedes;
     }
     ++m_rapport.ajoutes;
     m_lot.compteFiche(film.resume.size() + affiche.octets);
 }
 
-void PassageVoisins::ajoutePossession(const FilmVoisin& film) {
-    const PossessionVoisine& celle = *film.possession;
+bool PassageVoisins::estPossede(const FilmVoisin& film) const {
+    return film.possession && (m_examen.possedes || *film.possession != PossessionVoisine());
+}
+
+void PassageVoisins::ajoutePossessions(const FilmVoisin& film) {
+    ajoutePossession(film, *film.possession);
+    for (const PossessionVoisine& autre : film.autres)
+        ajoutePossession(film, autre);
+}
+
+void PassageVoisins::ajoutePossession(const db::CleFilm& film, const PossessionVoisine& celle) {
     dao::Recordset& personnel = m_c.base.personnel;
     personnel.AddNew();
     edit::nommeFilmPossede(personnel, film);
@@ -147,25 +160,27 @@ void PassageVoisins::ajoutePossession(const FilmVoisin& film) {
     if (!celle.pret.empty()) ++m_compte.pretes;
 }
 
-// What is there is never changed: only a holding, or a poster, that is missing comes.
+// What is there is never changed: only what is empty or missing comes.
 void PassageVoisins::complete(const FilmVoisin& film) {
     std::size_t octets = 0;
-    if (film.possession && (m_examen.possedes || *film.possession != PossessionVoisine()) &&
-        m_c.base.base.OpenRecordset(db::enoncePossession(film)).Eof()) {
-        ajoutePossession(film);
+    if (estPossede(film) && m_c.base.base.OpenRecordset(db::enoncePossession(film)).Eof()) {
+        ajoutePossessions(film);
         ++m_compte.possessions;
     }
-    if (film.affiche.ou != AfficheVoisine::Ou::Nulle) {
-        dao::Recordset fiche = m_c.base.base.OpenRecordset(db::enonceFilm(film));
-        if (!fiche.Eof() && fiche.texte("Affiche").empty()) {
-            const acquire::AfficheImportee affiche = afficheDe(film);
-            if (affiche.octets > 0 || !affiche.valeur.texte().empty()) {
-                fiche.Edit();
-                fiche.assigne("Affiche", affiche.valeur);
-                fiche.Update();
-                ++m_rapport.affichesAjoutees;
-                octets = affiche.octets;
-            }
+    if (dao::Recordset fiche = m_c.base.base.OpenRecordset(db::enonceFilm(film)); !fiche.Eof()) {
+        const bool remplie = !edit::champsACompleter(fiche, film).empty();
+        acquire::AfficheImportee affiche;
+        if (film.affiche.ou != AfficheVoisine::Ou::Nulle && fiche.texte(edit::kChampAffiche).empty())
+            affiche = afficheDe(film);
+        const bool illustree = affiche.octets > 0 || !affiche.valeur.texte().empty();
+        if (remplie || illustree) {
+            fiche.Edit();
+            edit::complete(fiche, film);
+            if (illustree) fiche.assigne(edit::kChampAffiche, affiche.valeur);
+            fiche.Update();
+            m_compte.completes += remplie ? 1 : 0;
+            m_rapport.affichesAjoutees += illustree ? 1 : 0;
+            octets = film.resume.size() + affiche.octets;
         }
     }
     m_lot.compteFiche(octets);

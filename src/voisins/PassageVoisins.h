@@ -3,6 +3,7 @@
 #include "acquire/AffichesImportees.h"
 #include "acquire/LotImport.h"
 #include "acquire/RapportImport.h"
+#include "edit/JugeFilms.h"
 #include "ensemble/Avancement.h"
 #include "voisins/Examen.h"
 
@@ -27,7 +28,9 @@ class PassageVoisins {
     void importe(std::size_t rang);
     void ajoute(const FilmVoisin& film);
     void complete(const FilmVoisin& film);
-    void ajoutePossession(const FilmVoisin& film);
+    [[nodiscard]] bool estPossede(const FilmVoisin& film) const;
+    void ajoutePossessions(const FilmVoisin& film);
+    void ajoutePossession(const db::CleFilm& film, const PossessionVoisine& celle);
     // Empty where the film has none, or none that can be had, which the report then says.
     [[nodiscard]] acquire::AfficheImportee afficheDe(const FilmVoisin& film);
     void confirmeLot();
@@ -35,11 +38,12 @@ class PassageVoisins {
     [[nodiscard]] acquire::RapportImport rapport();
 
     struct Compte {
-        long possedes = 0, pretes = 0, possessions = 0;
+        long possedes = 0, pretes = 0, possessions = 0, completes = 0;
     };
     const acquire::Contexte& m_c;
     const Examen& m_examen;
     std::vector<std::size_t> m_ordre;
+    edit::JugeFilms m_juge;
     acquire::LotImport m_lot;
     acquire::AffichesImportees m_affiches;
     acquire::RapportImport m_rapport, m_acquis;  // m_acquis: as it was when the last lot was stored

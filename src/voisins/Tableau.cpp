@@ -1,6 +1,9 @@
 #include "voisins/Tableau.h"
 
+#include "acquire/FicheFilm.h"
+#include "export/TableauCsv.h"
 #include "platform/fichiers/Fichiers.h"
+#include "util/Csv.h"
 #include "util/Nombres.h"
 #include "util/Texte.h"
 #include "voisins/Lecteurs.h"
@@ -47,10 +50,12 @@ constexpr std::array<Nom, kColonnes> kNoms = {{
     {Colonne::Possede, "Possédé", " possede owned possession own jelai "},
     {Colonne::Support, "Support", " support supports media mediatype medium format typedesupport "},
     {Colonne::Rangement, "Rangement", " rangement place emplacement location lieu etagere shelf "},
-    {Colonne::Fichier, "Fichier", " fichier fichiers file files chemin path filepath filename fichier1 "},
+    {Colonne::Fichier, "Fichier",
+     " fichier fichiers file files chemin path filepath filename fichier1 fichier2 fichier3 "},
     {Colonne::Pret, "Prêté à", " pretea pret emprunteur prete borrower loanedto lentto borrowedby loan "},
     {Colonne::DatePret, "Prêté le",
-     " pretele datepret datedepret datedupret preteedepuis pretedepuis depuis loandate lenddate loaneddate "},
+     " pretele datepret datedepret datedupret preteedepuis pretedepuis depuis loandate lenddate loaneddate "
+     "datedepossession "},
     {Colonne::Reserve, "Réservé à", " reservea reserve reservepour reserved reservedfor "},
     {Colonne::Divers, "Divers", " divers remarque numero number misc "},
 }};
@@ -221,6 +226,73 @@ void met(Colonne colonne, const std::string& texte, double sur, const std::strin
     }
 }
 
+const exportation::Champ* champIntitule(const std::string& entete) {
+    static constexpr auto kTous = [] {
+        std::array<exportation::Champ, exportation::kNombreDeChamps> tous{};
+        for (std::size_t i = 0; i < tous.size(); ++i)
+            tous[i] = static_cast<exportation::Champ>(i);
+        return tous;
+    }();
+    const auto trouve = std::ranges::find(kTous, entete, exportation::intitule);
+    return trouve == kTous.end() ? nullptr : &*trouve;
+}
+
+// Whoever else writes tables writes their headings otherwise.
+bool estDuProgramme(std::string_view octets, const Tableau& tableau) {
+    exportation::Champs champs;
+    for (const std::string& entete : tableau.entetes)
+        if (const exportation::Champ* champ = champIntitule(entete)) champs.met(*champ);
+    return octets.starts_with(exportation::enteteDuTableau(champs));
+}
+
+bool estLuALaLettre(const Tableau& tableau) {
+    if (!tableau.duProgramme) return false;
+    for (std::size_t i = 0; i < tableau.colonnes.size(); ++i)
+        if (tableau.colonnes[i] != Colonne::Ignoree && tableau.colonnes[i] != colonneNommee(tableau.entetes[i]))
+            return false;
+    return true;
+}
+
+void metALaLettre(exportation::Champ champ, const std::string& valeur, FilmVoisin& film, PossessionVoisine& possession,
+                  bool& possede) {
+    using exportation::Champ;
+    static constexpr std::pair<Champ, std::string FilmVoisin::*> kDuFilm[] = {
+        {Champ::Titre, &FilmVoisin::titre},           {Champ::Realisateur, &FilmVoisin::realisateur},
+        {Champ::Annee, &FilmVoisin::annee},           {Champ::Origine, &FilmVoisin::origine},
+        {Champ::Genre, &FilmVoisin::genre},           {Champ::Duree, &FilmVoisin::duree},
+        {Champ::Acteurs, &FilmVoisin::acteurs},       {Champ::Resume, &FilmVoisin::resume},
+        {Champ::Production, &FilmVoisin::production}, {Champ::DateAjout, &FilmVoisin::dateAjout}};
+    static constexpr std::pair<Champ, std::string PossessionVoisine::*> kDeLaPossession[] = {
+        {Champ::Support, &PossessionVoisine::support}, {Champ::Rangement, &PossessionVoisine::rangement},
+        {Champ::Pret, &PossessionVoisine::pret},       {Champ::Reserve, &PossessionVoisine::reserve},
+        {Champ::Date, &PossessionVoisine::date},       {Champ::Divers, &PossessionVoisine::divers}};
+    for (const auto& [celui, place] : kDuFilm)
+        if (celui == champ) film.*place = valeur;
+    for (const auto& [celui, place] : kDeLaPossession)
+        if (celui == champ) possession.*place = valeur;
+    if (champ >= Champ::Fichier1)
+        possession.fichiers[static_cast<std::size_t>(champ) - static_cast<std::size_t>(Champ::Fichier1)] = valeur;
+    if (champ == Champ::Possede) possede = !valeur.empty();
+    if (champ == Champ::DateAjout) film.sansAjout = valeur.empty();
+    if (const long note = champ == Champ::Note ? util::valEntier(valeur) : 0; note >= 1 && note <= 10)
+        film.note = static_cast<int>(note);
+}
+
+FilmVoisin filmALaLettre(const Tableau& tableau, const std::vector<std::string>& ligne, const Affiches& affiches) {
+    FilmVoisin film;
+    PossessionVoisine possession;
+    bool possede = true;
+    for (std::size_t i = 0; i < std::min(ligne.size(), tableau.colonnes.size()); ++i) {
+        const exportation::Champ* champ = champIntitule(tableau.entetes[i]);
+        if (!champ || tableau.colonnes[i] == Colonne::Ignoree) continue;
+        if (*champ == exportation::Champ::Affiche && !ligne[i].empty()) film.affiche = affiches.trouve(ligne[i]);
+        metALaLettre(*champ, ligne[i], film, possession, possede);
+    }
+    if (film.realisateur.empty()) film.realisateur = acquire::kNonDefini;
+    if (possede) film.possession = std::move(possession);
+    return film;
+}
+
 }  // namespace
 
 std::string nomDe(Colonne colonne) {
@@ -264,8 +336,11 @@ Tableau analyseTableau(std::string_view octets) {
     tableau.lignes = cellules(utile, tableau.separateur);
     if (tableau.lignes.empty()) return tableau;
     std::size_t largeur = 0;
-    for (const auto& ligne : tableau.lignes)
+    for (auto& ligne : tableau.lignes) {
         largeur = std::max(largeur, ligne.size());
+        for (std::string& cellule : ligne)
+            cellule = util::sansProtection(cellule);
+    }
     const bool entetes = std::ranges::any_of(
         tableau.lignes[0], [](const std::string& cellule) { return colonneNommee(cellule) != Colonne::Ligne; });
     if (entetes) {
@@ -283,6 +358,7 @@ Tableau analyseTableau(std::string_view octets) {
         tableau.colonnes.push_back(!entetes && i == 0 ? Colonne::Titre : colonne);
         if (entete.empty()) entete = "Colonne " + std::to_string(i + 1);
     }
+    tableau.duProgramme = estDuProgramme(octets, tableau);
     return tableau;
 }
 
@@ -303,20 +379,28 @@ Collection collectionDe(const Tableau& tableau, const std::function<bool(long)>&
     collection.affiches = std::make_shared<Affiches>();
     collection.affiches->ajouteDossier(fichiers::dossierDe(tableau.chemin));
     std::vector<double> sur(tableau.colonnes.size(), 10);
+    const bool aLaLettre = estLuALaLettre(tableau);
     for (std::size_t i = 0; i < sur.size(); ++i)
-        if (tableau.colonnes[i] == Colonne::Note) {
+        if (tableau.colonnes[i] == Colonne::Note && !aLaLettre) {
             sur[i] = surCombien(tableau, i);
             collection.remarques.push_back("Notes lues sur " + util::texteDuNombre(sur[i], ",") + ".");
         }
-    Films films;
+    // Where a column says what is owned, an empty cell says no.
+    const bool ditPossede = std::ranges::find(tableau.colonnes, Colonne::Possede) != tableau.colonnes.end();
+    Films films(aLaLettre ? Exemplaires::Tous : Exemplaires::SiAutres);
     for (const auto& ligne : tableau.lignes) {
+        if (aLaLettre) {
+            films.ajoute(filmALaLettre(tableau, ligne, *collection.affiches));
+            avance(suivi, films);
+            continue;
+        }
         FicheBrute fiche;
         std::optional<bool> possede;
         for (std::size_t i = 0; i < std::min(ligne.size(), tableau.colonnes.size()); ++i)
             if (const std::string texte = sansBlancs(ligne[i]); !texte.empty())
                 met(tableau.colonnes[i], texte, sur[i], tableau.entetes[i], fiche, possede);
         if (!fiche.affiche.nom.empty()) fiche.affiche = collection.affiches->trouve(fiche.affiche.nom);
-        films.ajoute(std::move(fiche), possede.value_or(true));
+        films.ajoute(std::move(fiche), possede.value_or(!ditPossede));
         avance(suivi, films);
     }
     films.verse(collection);

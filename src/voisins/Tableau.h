@@ -47,6 +47,8 @@ struct Tableau {
     std::vector<Colonne> colonnes{};                 // as matched, then as the user wants them
     char separateur = ';';
     std::string codage{};  // "UTF-8", "Windows-1252"…, for the user
+    // This program wrote it: as long as no column is matched otherwise, each cell is the field to the letter.
+    bool duProgramme = false;
 
     [[nodiscard]] bool aUnTitre() const;
 };

@@ -24,8 +24,9 @@ namespace voisins {
 // "oui", "yes", "true", "1", "x", "vu"…; nothing for a text that says neither yes nor no.
 [[nodiscard]] std::optional<bool> ouiOuNon(std::string_view texte);
 
-// The French word of an English one of the kind, else the text as it is. Upper and lower case are one.
-enum class Lexique { Genre, Pays, Langue, Support };
+// The French word of an English one of the kind, else the text as it is. Upper and lower case are one. `Terme`: what a disc
+// and its picture are said to be.
+enum class Lexique { Genre, Pays, Langue, Support, Terme };
 [[nodiscard]] std::string enFrancais(Lexique lexique, std::string_view texte);
 
 }  // namespace voisins

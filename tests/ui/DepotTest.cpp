@@ -62,6 +62,18 @@ TEST_F(Depot, SheetsAreImportedFromSeveralFoldersAndStayThere) {
     EXPECT_EQ(essai.texte("Label9_0"), "4 titres");
 }
 
+TEST_F(Depot, AnotherCollectionIsShownBeforeItIsImported) {
+    for (const auto& [nom, octets, fenetre] :
+         {std::tuple("c.GCS", "<collection type=\"GCfilms\"><item title=\"Été\"/></collection>", "frmVoisins"),
+          std::tuple("t.csv", "Titre;Année\nÉté;1968\n", "frmTableau")}) {
+        EXPECT_TRUE(depose({fichier(nom, octets)}));
+        ASSERT_TRUE(essais::attends([&] { return essai.fenetre().findChild<QWidget*>(fenetre) != nullptr; })) << nom;
+        essai.fenetre().findChild<QDialog*>(fenetre)->reject();
+        ASSERT_TRUE(essais::attends([&] { return !essai.fenetre().findChild<QWidget*>(fenetre); })) << nom;
+    }
+    EXPECT_EQ(essai.texte("Label9_0"), "1 titre");
+}
+
 // What a start of the program is asked to open while another one runs.
 TEST_F(Depot, SheetsOpenedFromTheDesktopWaitForACommandAndABox) {
     const std::string demandes = app::dossierDesDemandes(essai.dossier.chemin());

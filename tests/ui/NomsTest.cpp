@@ -183,6 +183,14 @@ TEST(Noms, EachPageHasItsOwnMnemonicsAndNamesForScreenReaders) {
     ASSERT_TRUE(essais::attends([&] { return !essai.trouve("cmdGeneralites").isVisible(); }));
     EXPECT_TRUE(essai.trouve("Text1").isVisible() && essai.trouve("framePossession").isVisible());
     verifie("both pages");
+    essai.clique("cmdConfigurer");
+    essai.clique("cmdConfig_0");
+    const QWidget* page = &essai.trouve("frameOutils");
+    while (page && !qobject_cast<const QAbstractScrollArea*>(page))
+        page = page->parentWidget();
+    ASSERT_TRUE(page);
+    const QScrollBar* barre = qobject_cast<const QAbstractScrollArea*>(page)->verticalScrollBar();
+    EXPECT_TRUE(essais::attends([&] { return barre->maximum() == 0; })) << "all tools at once: " << barre->maximum();
 }
 
 }  // namespace

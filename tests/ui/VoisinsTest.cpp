@@ -36,7 +36,7 @@ TEST_F(Voisins, WhatIsTickedIsImported) {
               "(à cocher "
               "pour l'ajouter).");
     ASSERT_EQ(films().rowCount(), 4);
-    EXPECT_EQ(sort(0), "Ressemble à « Alien »");
+    EXPECT_EQ(sort(0), "Ressemble à « Alien » à 91 %");
     EXPECT_EQ(sort(2), "Déjà là");
     auto& importer = essai.trouve<QAbstractButton>("cmdImporterVoisins");
     EXPECT_EQ(importer.text(), "&Importer 2 films");

@@ -30,7 +30,7 @@ class ImporteCollection : public FenetreAcquisition {
     std::vector<std::string> sorts(const voisins::Examen& examen) {
         std::vector<std::string> dits;
         for (const voisins::Jugement& celui : examen.jugements)
-            dits.push_back(voisins::texteDuSort(celui) + (celui.aAjouter ? " +" : ""));
+            dits.push_back(edit::texteDuSort(celui) + (celui.aAjouter ? " +" : ""));
         return dits;
     }
 };
@@ -40,25 +40,30 @@ TEST_F(ImporteCollection, WhatIsShownBeforeIsWhatIsThenDone) {
     ajouteFilm("Le Parrain", {{"Realisateur", "Francis Ford Coppola"}});
     const parcours::Photo avant(chemins.base);
     auto lu = examen(
-        "<item title=\"CLÉO DE 5 À 7\" director=\"agnès varda\" image=\"a.jpg\" format=\"DVD\" borrower=\"Léa\" "
+        "<item title=\"CLÉO DE 5 À 7\" director=\"agnès varda\" image=\"a.jpg\" date=\"1962\" synopsis=\"à eux\" "
+        "format=\"DVD\" borrower=\"Léa\" "
         "lendDate=\"02/01/2020\"/>"
         "<item title=\"Le Parrain 2\" director=\"Francis Ford Coppola\"/>"
         "<item title=\"L'Œil «noir»\" director=\"D'Arc\" image=\"grande.jpg\" added=\"07/09/2009\" rating=\"9\" "
         "place=\"B\"/>"
         "<item title=\"Sans affiche\" image=\"absente.jpg\"/>");
-    EXPECT_THAT(sorts(lu), ElementsAre("Déjà là", "Ressemble à « Le Parrain »", "Nouveau +", "Nouveau +"));
+    EXPECT_THAT(sorts(lu), ElementsAre("Déjà là, à compléter : année, affiche", "Ressemble à « Le Parrain » à 91 %",
+                                       "Nouveau +", "Nouveau +"));
     EXPECT_THAT(parcours::Photo(chemins.base).depuis(avant), IsEmpty()) << "nothing is written by a look";
     annulations.commence();
     dialogues.attendMsgBox(
         "2 films ajoutés.\n1 film non ajouté car déjà dans la base.\n- Image manquante :\nL'Œil «noir» (trop grande "
         "pour la "
         "base) , Sans affiche\n- Déjà existant : \nCLÉO DE 5 À 7\n1 image ajoutée à un film déjà présent.\n"
-        "2 films ajoutés sont possédés.\n1 film déjà présent est maintenant possédé.\n1 film est prêté.",
+        "2 films ajoutés sont possédés.\n1 film déjà présent est maintenant possédé.\n1 film déjà présent a reçu des "
+        "champs qui lui "
+        "manquaient.\n1 film est prêté.",
         dialogues::kInformation);
     voisins::importeCollection(c, lu);
     EXPECT_EQ(annulations.termine(), db::Annulations::Fin::Annulable);
     dialogues.verifie();
     EXPECT_THAT(titresDesFilms(), ElementsAre("Cléo de 5 à 7", "Le Parrain", "L'Œil «noir»", "Sans affiche"));
+    EXPECT_THAT(colonne("Films", "Annee"), ElementsAre("1962", "", "", ""));
     EXPECT_THAT(colonne("Films", "Resume"), ElementsAre("à moi", "", "", "")) << "what was there stays as it was";
     EXPECT_THAT(colonne("Films", "Affiche"), ElementsAre("STO" + kJpeg, "", "", ""));
     EXPECT_THAT(colonne("Films", "DateAjout"), ElementsAre("", "", "07/09/2009", horloge.dateDuJour()));

@@ -66,6 +66,15 @@ TEST(Tableau, ItsLinesBecomeFilmsAndNothingIsLost) {
     EXPECT_EQ(lue.films[1].realisateur, "Non défini");
     EXPECT_FALSE(lue.films[1].possession);
     EXPECT_THAT(lue.remarques, ElementsAre("Notes lues sur 5.", "1 fiche sans titre laissée de côté."));
+    const auto copies = voisins::collectionDe(voisins::analyseTableau(
+        "Titre;Possédé;Support;Date de possession;Réservé pour;Fichier 1;Fichier 2;Genre\n"
+        "'=A;oui;DVD;;;;b.avi;War\n'=A;oui;K7;01/02/2003;Zoé;;;War\n'=A;oui;K7;01/02/2003;Zoé;;;War\nB;;;;;;;\n"));
+    ASSERT_EQ(copies.films.size(), 2U);
+    EXPECT_EQ(copies.films[0].titre + copies.films[0].genre + copies.films[0].possession->fichiers[0], "=AGuerreb.avi");
+    ASSERT_EQ(copies.films[0].autres.size(), 1U);
+    EXPECT_EQ(copies.films[0].autres[0].support + copies.films[0].autres[0].date + copies.films[0].autres[0].reserve,
+              "VHS01/02/2003Zoé");
+    EXPECT_FALSE(copies.films[1].possession) << "where a column says what is owned, an empty cell says no";
     tableau.colonnes[0] = Colonne::Ignoree;
     EXPECT_THROW(static_cast<void>(voisins::collectionDe(tableau)), voisins::Refus);
     const auto sansEntetes = voisins::analyseTableau("Alien\nBrazil\n");
