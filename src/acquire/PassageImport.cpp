@@ -1,7 +1,6 @@
 #include "acquire/PassageImport.h"
 
 #include "edit/LignePossession.h"
-#include "edit/TitreDejaExistant_TestRessemblance.h"
 
 namespace acquire {
 
@@ -18,15 +17,11 @@ void PassageImport::traite(const FicheFilm& fiche, const std::string& nom) {
     if (sort == edit::SortDuFilm::DejaLa) {
         completeLeFilm(fiche, nom, Complement::Affiche);
         m_rapport.titresRefuses.push_back(fiche.titre);
-    } else if (sort == edit::SortDuFilm::Ressemblant && estRefusee(fiche)) {
+    } else if (sort == edit::SortDuFilm::Ressemblant && m_juge->estRefuse(fiche, [this] { confirmeLot(); })) {
         m_rapport.titresRefuses.push_back(fiche.titre);
     } else {
         enregistre(fiche, nom);
     }
-}
-
-bool PassageImport::estRefusee(const FicheFilm& fiche) {
-    return edit::TitreDejaExistant_TestRessemblance(m_c, fiche, [this] { confirmeLot(); });
 }
 
 void PassageImport::enregistre(const FicheFilm& fiche, const std::string& nom) {

@@ -27,8 +27,6 @@ class PassageImport final : public PassageFiches {
   private:
     void commence() override;
     void traite(const FicheFilm& fiche, const std::string& nom) override;
-    // What the user is asked of each film that it resembles.
-    [[nodiscard]] bool estRefusee(const FicheFilm& fiche);
     void enregistre(const FicheFilm& fiche, const std::string& nom);
     void remplitSaisie(const FicheFilm& fiche);
 

@@ -1,31 +1,14 @@
 #include "edit/Command13_Click.h"
 
-#include "db/Requete.h"
 #include "edit/TitreCite.h"
 #include "edit/TitreDejaExistant.h"
+#include "edit/ValeursDeSaisie.h"
 
 #include <cstddef>
 
 namespace edit {
 
 namespace {
-
-// What the catalogue knows of one field; nothing that was typed in the list stays.
-void remplit(const Contexte& c, ecran::Liste& liste, const char* enonce, const char* champ) {
-    liste.Clear();
-    dao::Recordset valeurs = db::ouvreRequete(c, enonce, db::NumeroErreur::Command13);
-    for (; !valeurs.Eof(); valeurs.MoveNext())
-        liste.AddItem(valeurs.texte(champ));
-}
-
-// Genre, origin (with its two blanks), production.
-void remplitListesDeSaisie(const Contexte& c) {
-    remplit(c, c.ajout.Combo2, "SELECT DISTINCT genre FROM films where genre<>\"\" ORDER BY Genre ASC ;", "Genre");
-    remplit(c, c.ajout.Combo3, "SELECT DISTINCT origine  FROM films where origine<>\"\" ORDER BY origine ASC ;",
-            "origine");
-    remplit(c, c.ajout.Combo4, "SELECT DISTINCT production FROM films where production<>\"\" ORDER BY production ASC ;",
-            "production");
-}
 
 void ouvreAjoutAutomatique(const Contexte& c) {
     c.ajout.frameAjoutAuto.Visible = true;
@@ -42,7 +25,6 @@ void ouvreSaisie(const Contexte& c) {
     c.ajout.lblImage.Caption.clear();
     c.demandes.focus = "Text3_0";
     remplitListesDeSaisie(c);
-    prepareTitreDejaExistant(c);  // better while the page opens than after "Ajouter"
 }
 
 }  // namespace

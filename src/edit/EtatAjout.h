@@ -1,5 +1,6 @@
 #pragma once
 
+#include "edit/ValeursDeSaisie.h"
 #include "platform/ecran/Controles.h"
 
 #include <array>
@@ -37,6 +38,7 @@ struct EtatAjout {
     ecran::Liste Combo2;  // genre
     ecran::Liste Combo3;  // origin
     ecran::Liste Combo4;  // production
+    ValeursDeSaisie valeurs;
     ecran::ZoneTexte txtResume;
     ecran::Etiquette lblImage;   // path of the poster chosen for the new film
     ecran::Bouton cmdAjoutFilm;  // its caption is the mode

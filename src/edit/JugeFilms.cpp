@@ -4,6 +4,7 @@
 #include "db/Requete.h"
 #include "edit/Complement.h"
 #include "edit/TitreDejaExistant.h"
+#include "edit/TitreDejaExistant_TestRessemblance.h"
 #include "platform/dao/Comparaison.h"
 
 namespace edit {
@@ -53,6 +54,10 @@ void JugeFilms::examineLePresent(FilmExamine& examen, const std::function<SortDe
     examen.affiche = affiche();
     if (examen.affiche == SortDeLAffiche::Absente) examen.affiche = SortDeLAffiche::SansObjet;  // neither has one
     if (examen.affiche == SortDeLAffiche::Prise) examen.aCompleter.emplace_back(kChampAffiche);
+}
+
+bool JugeFilms::estRefuse(const db::CleFilm& film, const std::function<void()>& avantQuestion) const {
+    return m_lettres && TitreDejaExistant_TestRessemblance(m_c, film, *m_lettres, avantQuestion);
 }
 
 void JugeFilms::ajoute(const db::CleFilm& film) {

@@ -22,6 +22,8 @@ class JugeFilms {
     [[nodiscard]] SortDuFilm juge(const db::CleFilm& film) const;
     // What a preview tells of it. `affiche` says what becomes of its poster; it is asked only where the film would get one.
     [[nodiscard]] FilmExamine examine(const FilmLu& film, const std::function<SortDeLAffiche()>& affiche) const;
+    // Whether the user, who is asked of each film that one judged Ressemblant resembles, refuses it.
+    [[nodiscard]] bool estRefuse(const db::CleFilm& film, const std::function<void()>& avantQuestion) const;
     // It is stored, or will be: those that come later meet it.
     void ajoute(const db::CleFilm& film);
 

@@ -1,6 +1,7 @@
 #include "edit/LettresDuCatalogue.h"
 
 #include "edit/TitreDejaExistant_TestRessemblance.h"
+#include "platform/dao/Comparaison.h"
 
 #include <algorithm>
 #include <tuple>
@@ -25,7 +26,7 @@ void LettresDuCatalogue::ajoute(const db::CleFilm& film) {
         m_parLettres[lettres.total].push_back(m_realisateurs.size());
         m_realisateurs.push_back({film.realisateur, lettres, {}});
     }
-    m_realisateurs[place->second].titres.push_back({film.titre, abrege(util::compteLettres(film.titre))});
+    m_realisateurs[place->second].titres.push_back({film.titre, abrege(util::compteLettres(film.titre)), m_titres++});
 }
 
 template <typename Recoit>
@@ -43,7 +44,7 @@ void LettresDuCatalogue::chercheProches(const db::CleFilm& film, Recoit recoit) 
             for (const Titre& titre : autre.titres) {
                 if (!peutRessembler(duTitre, titre.lettres)) continue;
                 const int duLeur = util::similarite(film.titre, titre.texte);
-                if (duLeur > kSeuilRessemblance && !recoit(FilmProche{{titre.texte, autre.nom}, duLeur, score})) return;
+                if (duLeur > kSeuilRessemblance && !recoit(autre, titre, duLeur, score)) return;
             }
         }
     }
@@ -51,7 +52,7 @@ void LettresDuCatalogue::chercheProches(const db::CleFilm& film, Recoit recoit) 
 
 bool LettresDuCatalogue::aUnProche(const db::CleFilm& film) const {
     bool trouve = false;
-    chercheProches(film, [&trouve](const FilmProche&) {
+    chercheProches(film, [&trouve](const Realisateur&, const Titre&, int, int) {
         trouve = true;
         return false;
     });
@@ -60,14 +61,34 @@ bool LettresDuCatalogue::aUnProche(const db::CleFilm& film) const {
 
 std::vector<FilmProche> LettresDuCatalogue::proches(const db::CleFilm& film) const {
     std::vector<FilmProche> trouves;
-    chercheProches(film, [&trouves](FilmProche proche) {
-        trouves.push_back(std::move(proche));
+    chercheProches(film, [&trouves](const Realisateur& realisateur, const Titre& titre, int duTitre, int duNom) {
+        trouves.push_back({{titre.texte, realisateur.nom}, duTitre, duNom});
         return true;
     });
     std::ranges::stable_sort(trouves, std::greater<>{}, [](const FilmProche& proche) {
         return std::tuple(proche.titre + proche.realisateur, proche.titre);
     });
     return trouves;
+}
+
+std::vector<db::CleFilm> LettresDuCatalogue::prochesParTitre(const db::CleFilm& film) const {
+    struct Trouve {
+        std::string cle;  // as the base orders it
+        std::uint32_t rang;
+        db::CleFilm film;
+    };
+    std::vector<Trouve> trouves;
+    chercheProches(film, [&trouves](const Realisateur& realisateur, const Titre& titre, int, int) {
+        std::string cle = dao::cleDeComparaison(titre.texte) + '\0' + dao::cleDeComparaison(realisateur.nom);
+        trouves.push_back({std::move(cle), titre.rang, {titre.texte, realisateur.nom}});
+        return true;
+    });
+    std::ranges::sort(trouves, {}, &Trouve::rang);
+    std::ranges::stable_sort(trouves, {}, &Trouve::cle);
+    std::vector<db::CleFilm> films;
+    for (Trouve& trouve : trouves)
+        films.push_back(std::move(trouve.film));
+    return films;
 }
 
 }  // namespace edit

@@ -24,22 +24,26 @@ class LettresDuCatalogue {
     [[nodiscard]] bool aUnProche(const db::CleFilm& film) const;
     // All that resemble it, the closest first.
     [[nodiscard]] std::vector<FilmProche> proches(const db::CleFilm& film) const;
+    // All that resemble it, as a listing by title would meet them.
+    [[nodiscard]] std::vector<db::CleFilm> prochesParTitre(const db::CleFilm& film) const;
 
   private:
     struct Titre {
         std::string texte;
         LettresAbregees lettres;
+        std::uint32_t rang;  // of addition
     };
     struct Realisateur {
         std::string nom;
         LettresAbregees lettres;
         std::vector<Titre> titres;
     };
-    // Hands each film that resembles, until `recoit` answers false.
+    // Hands each film that resembles, its director, title and their scores, until `recoit` answers false.
     template <typename Recoit>
     void chercheProches(const db::CleFilm& film, Recoit recoit) const;
 
     std::vector<Realisateur> m_realisateurs;
+    std::uint32_t m_titres = 0;
     std::unordered_map<std::string, std::size_t> m_rangs;            // in m_realisateurs
     std::map<std::uint64_t, std::vector<std::size_t>> m_parLettres;  // likewise, by how many letters they have
 };

@@ -114,10 +114,12 @@ Ajout enregistre(const Contexte& c, EnregistrementFilm& enregistrement, const db
         throw db::EchecConversion{"L'image n'a pas pu être lue (" + affiche + ") !"};
     dao::Recordset orpheline = db::ouvreRequete(c, db::enoncePossession(film), db::NumeroErreur::cmdAjoutFilm);
     dao::Transaction transaction(c.base.base);
+    const dao::Database::Version avant = versionDesFilms(c);
     enregistrement.ecrit(pret, c.ajout.txtResume.Text, date);
     Ajout ajout{possede(c, film, orpheline), pret.devenir};
     enregistrement.avantValidation();
     transaction.confirme();
+    unFilmEstEcrit(c, avant);
     enregistrement.apresValidation();
     return ajout;
 }

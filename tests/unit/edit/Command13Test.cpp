@@ -1,4 +1,5 @@
 #include "edit/Command13_Click.h"
+#include "edit/ValeursDeSaisie.h"
 #include "unit/edit/FenetreEdition.h"
 
 #include <gmock/gmock.h>
@@ -28,6 +29,22 @@ TEST_F(Command13Test, openAnEmptySheetWithWhatTheCatalogueKnows) {
     EXPECT_THAT(ajout.Combo2.Items, ElementsAre("drame", "Péplum"));
     EXPECT_THAT(ajout.Combo3.Items, ElementsAre("États-Unis", "Italie"));
     EXPECT_THAT(ajout.Combo4.Items, ElementsAre("MGM"));
+
+    const auto ouvreApres = [this](const dao::Database::Version& avant, const std::string& genre, bool connue) {
+        ajout.Combo2.Text = genre;
+        ajoute(base.films, {{"Titre", "Aa"}, {"Genre", genre}, {"Origine", "Malte"}});
+        if (connue) unFilmEstEcrit(c, avant);
+        ajout.Combo2.AddItem("tapé");
+        Command13_Click(c, 1);
+    };
+    ouvreApres(versionDesFilms(c), "drame", true);
+    EXPECT_THAT(ajout.Combo2.Items, ElementsAre("drame", "Péplum"));
+    EXPECT_THAT(ajout.Combo3.Items, ElementsAre("États-Unis", "Italie")) << "read again for a value it is told of";
+    ouvreApres(versionDesFilms(c), "Fable", true);
+    EXPECT_THAT(ajout.Combo2.Items, ElementsAre("drame", "Fable", "Péplum"));
+    ouvreApres(versionDesFilms(c), "Conte", false);
+    EXPECT_THAT(ajout.Combo2.Items, ElementsAre("Conte", "drame", "Fable", "Péplum"));
+    EXPECT_THAT(ajout.Combo3.Items, ElementsAre("États-Unis", "Italie", "Malte"));
 }
 
 }  // namespace

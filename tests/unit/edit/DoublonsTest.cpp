@@ -1,5 +1,6 @@
 #include "edit/Complement.h"
 #include "edit/JugeFilms.h"
+#include "edit/LettresDuCatalogue.h"
 #include "edit/TitreDejaExistant.h"
 #include "edit/TitreDejaExistant_TestRessemblance.h"
 #include "unit/edit/FenetreEdition.h"
@@ -32,17 +33,21 @@ TEST_F(DoublonsTest, showsEachResemblingFilmUntilOneIsRefused) {
         "existant déjà dans la base (";
     const std::string fin = ").\n\nSouhaitez-vous malgré tout l'ajouter ?";
     int avantQuestion = 0;
+    auto lettres = edit::LettresDuCatalogue::de(c);
+    lettres.ajoute({"SOLARISE", "Andreï Tarkovskj"});
     const auto teste = [&] {
-        return TitreDejaExistant_TestRessemblance(c, {"Solaris !", "Andreï Tarkovski"}, [&] { ++avantQuestion; });
+        return TitreDejaExistant_TestRessemblance(c, {"Solaris !", "Andreï Tarkovski"}, lettres,
+                                                  [&] { ++avantQuestion; });
     };
     dialogues.attendMsgBox(debut + "Solaris de Andreï Tarkovski" + fin, dialogues::kQuestion, dialogues::kOui);
     dialogues.attendMsgBox(debut + "Solarise de Andrei Tarkovski" + fin, dialogues::kQuestion, dialogues::kOui);
+    dialogues.attendMsgBox(debut + "SOLARISE de Andreï Tarkovskj" + fin, dialogues::kQuestion, dialogues::kOui);
     dialogues.attendMsgBox(debut + "Un solaris de Andreï Tarkovsky" + fin, dialogues::kQuestion, dialogues::kOui);
     EXPECT_FALSE(teste());
     dialogues.attendMsgBox(debut + "Solaris de Andreï Tarkovski" + fin, dialogues::kQuestion, dialogues::kOui);
     dialogues.attendMsgBox(debut + "Solarise de Andrei Tarkovski" + fin, dialogues::kQuestion, dialogues::kNon);
     EXPECT_TRUE(teste());
-    EXPECT_EQ(avantQuestion, 5);
+    EXPECT_EQ(avantQuestion, 6);
     EXPECT_EQ(edit::questionRessemblance({"A", ""}, {"B", ""}),
               "Le nouveau titre ajouté (A) ressemble beaucoup \n à un autre existant déjà dans la base (B" + fin);
 }
@@ -63,8 +68,8 @@ TEST_F(DoublonsTest, callsAlikeOnlyWhatIsAboveEightyPerCentOnBothSides) {
         if (cas.proche)
             dialogues.attendMsgBox(edit::questionRessemblance(cas.nouveau, cas.ancien), dialogues::kQuestion,
                                    dialogues::kNon);
-        EXPECT_EQ(TitreDejaExistant_TestRessemblance(c, cas.nouveau), cas.proche) << cas.nouveau.titre;
         const auto lettres = edit::LettresDuCatalogue::de(c);
+        EXPECT_EQ(TitreDejaExistant_TestRessemblance(c, cas.nouveau, lettres), cas.proche) << cas.nouveau.titre;
         EXPECT_EQ(lettres.aUnProche(cas.nouveau), cas.proche) << cas.nouveau.titre;
         EXPECT_EQ(lettres.proches(cas.nouveau).size(), cas.proche ? 1U : 0U) << cas.nouveau.titre;
     }
