@@ -39,7 +39,8 @@ TEST_F(Command13Test, openAnEmptySheetWithWhatTheCatalogueKnows) {
     };
     ouvreApres(versionDesFilms(c), "drame", true);
     EXPECT_THAT(ajout.Combo2.Items, ElementsAre("drame", "Péplum"));
-    EXPECT_THAT(ajout.Combo3.Items, ElementsAre("États-Unis", "Italie")) << "read again for a value it is told of";
+    EXPECT_THAT(ajout.Combo3.Items, ElementsAre("États-Unis", "Italie"))
+        << "none the wiser: what is written behind the fields is not told";
     ouvreApres(versionDesFilms(c), "Fable", true);
     EXPECT_THAT(ajout.Combo2.Items, ElementsAre("drame", "Fable", "Péplum"));
     ouvreApres(versionDesFilms(c), "Conte", false);
