@@ -201,6 +201,12 @@ void VueTitres::keyboardSearch(const QString& texte) {
     if (trouve != 0) montreNoeud(trouve);
 }
 
+// What is typed ends where the keys go elsewhere: a blank that comes after is the tree's own again, and ticks.
+void VueTitres::focusOutEvent(QFocusEvent* evenement) {
+    m_frappe.clear();
+    QTreeView::focusOutEvent(evenement);
+}
+
 // A row that no gesture chose yet is where the keys begin, not where they leave from.
 bool VueTitres::choisitCourant(const QKeyEvent& evenement) const {
     const bool pas = evenement.key() == Qt::Key_Down || evenement.key() == Qt::Key_Up;

@@ -38,6 +38,7 @@ class VueTitres final : public QTreeView {
     void peinte();                                        // painted for the first time
 
   protected:
+    void focusOutEvent(QFocusEvent* evenement) override;
     void keyPressEvent(QKeyEvent* evenement) override;
     void mousePressEvent(QMouseEvent* evenement) override;
     void mouseMoveEvent(QMouseEvent* evenement) override;
