@@ -173,7 +173,7 @@ Figures mesureTellico(const Options& o, const Essai& e) {
     QFile reglages(QString::fromStdString((maison / ".config/tellicorc").string()));
     exige(reglages.open(QIODevice::WriteOnly), "no settings");
     // It would ask whether many images may stay in the file, which is where it puts them.
-    reglages.write("[TipOfDay]\nRunOnStart=false\n[General Options]\nAskWriteImagesInFile=false\n");
+    reglages.write("[TipOfDay]\nRunOnStart=false\n[Notification Messages]\nAskWriteImagesInFile=no\n");
     reglages.close();
     sync();
     Figures f;
