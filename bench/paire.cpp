@@ -172,8 +172,7 @@ Figures mesureTellico(const Options& o, const Essai& e) {
     fs::create_directories(maison / ".config");
     QFile reglages(QString::fromStdString((maison / ".config/tellicorc").string()));
     exige(reglages.open(QIODevice::WriteOnly), "no settings");
-    // It would ask whether many images may stay in the file, which is where it puts them.
-    reglages.write("[TipOfDay]\nRunOnStart=false\n[Notification Messages]\nAskWriteImagesInFile=no\n");
+    reglages.write("[TipOfDay]\nRunOnStart=false\n");
     reglages.close();
     sync();
     Figures f;
@@ -183,14 +182,13 @@ Figures mesureTellico(const Options& o, const Essai& e) {
     f["memoire"] = fenetre.memoire();
     exige(entreesMontrees() == e.films, "Tellico does not show all films");
     photographie(o.dossier / ("tellico-" + e.nom() + ".png"));
-    if (!e.affiches) {
-        f["filtre"] = duree([] {
-            filtre("horloger");
-            exige(entreesMontrees() > 0, "nothing found");
-        });
-        filtre("");
-        (void)entreesMontrees();
-    }
+    if (e.affiches) return f;  // its Save asks where many images go, and nobody answers
+    f["filtre"] = duree([] {
+        filtre("horloger");
+        exige(entreesMontrees() > 0, "nothing found");
+    });
+    filtre("");
+    (void)entreesMontrees();
     const auto note = [] {
         exige(demande<bool>("/Collections", "org.kde.tellico", "setEntryValue", 7, QString("rating"), QString("5")) ||
                   demande<bool>("/Collections", "org.kde.tellico", "setEntryValue", 7, QString("rating"), QString("4")),
@@ -200,7 +198,6 @@ Figures mesureTellico(const Options& o, const Essai& e) {
         note();
         enregistre(fichier);
     });
-    if (e.affiches) return f;
     const QUrl ajout = QUrl::fromLocalFile(QString::fromStdString((o.dossier / "ajout/tellico.xml").string()));
     f["ajout"] = duree([&] {
         exige(demande<bool>("/Tellico", "org.kde.tellico", "importTellico", ajout.toString(), QString("append")),
