@@ -10,7 +10,7 @@ namespace bench {
 
 namespace {
 
-constexpr int kImages = 12, kLargeur = 420, kHauteur = 620;
+constexpr int kImages = 12, kLargeur = kLargeurAffiche, kHauteur = kHauteurAffiche;
 
 // Broad shapes under a grain, as a scanned poster has; the grain sets the size of the file.
 QImage peint(std::uint64_t numero) {

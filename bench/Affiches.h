@@ -6,6 +6,8 @@
 
 namespace bench {
 
+inline constexpr int kLargeurAffiche = 420, kHauteurAffiche = 620;
+
 // Posters of 20 to 60 KB that decode, no two alike. A few pictures are encoded once; what tells one poster from the next
 // is a comment segment in the file, so that thousands are made in no time.
 class Affiches {

@@ -1,5 +1,6 @@
-// generateur base|fiches N CHEMIN [--affiches] [--en-fichiers] [--possedes] [--depuis NUMERO]
-// Writes N films as a base of the program (the file CHEMIN), or as .FILM sheets in the folder CHEMIN. --possedes: the
+// generateur base|fiches|tellico N CHEMIN [--affiches] [--en-fichiers] [--possedes] [--depuis NUMERO]
+// Writes N films as a base of the program (the file CHEMIN), as .FILM sheets in the folder CHEMIN, or as the tellico.xml
+// and the images of that folder, which zipped are a .tc file. --possedes: the
 // base holds N films that are all owned, the others are passed over. --en-fichiers: its posters are files of "Images" beside it.
 
 #include "Affiches.h"
@@ -105,10 +106,74 @@ void ecritFiches(const Demande& d, const std::optional<bench::Affiches>& affiche
     }
 }
 
+std::string enXml(const std::string& texte) {
+    std::string resultat;
+    for (const char c : texte)
+        resultat += c == '&' ? "&amp;" : c == '<' ? "&lt;" : std::string(1, c);
+    return resultat;
+}
+
+std::string element(const std::string& nom, const std::string& texte) {
+    return "<" + nom + ">" + enXml(texte) + "</" + nom + ">";
+}
+
+// Of a field that holds several values.
+std::string elements(const std::string& nom, const std::string& texte) {
+    return "<" + nom + "s>" + element(nom, texte) + "</" + nom + "s>";
+}
+
+std::string support(const std::string& notre) {
+    return notre == "K7" ? "VHS" : notre == "Fichier" ? "DivX" : notre;
+}
+
+// What the other catalogue has a field for, as its video collection names them.
+std::string entree(std::uint64_t rang, const bench::Film& f, const std::string& affiche) {
+    std::string acteurs;
+    for (std::size_t debut = 0; debut < f.acteurs.size();) {
+        const std::size_t fin = std::min(f.acteurs.find(';', debut), f.acteurs.size());
+        acteurs += "<cast>" + element("column", f.acteurs.substr(debut, fin - debut)) + "<column/></cast>";
+        debut = fin + 1;
+    }
+    const int minutes = std::stoi(f.duree) * 60 + std::stoi(f.duree.substr(f.duree.find('H') + 1));
+    std::string xml = "<entry id=\"" + std::to_string(rang) + "\">" + element("title", f.titre) +
+                      element("year", f.annee) + elements("genre", f.genre) + elements("nationality", f.origine) +
+                      "<casts>" + acteurs + "</casts>" + elements("director", f.realisateur) +
+                      elements("studio", f.production) + element("running-time", std::to_string(minutes)) +
+                      element("plot", f.resume);
+    if (f.note > 0) xml += element("rating", std::to_string((f.note + 1) / 2));
+    if (const auto& p = f.possession)
+        xml += element("medium", support(p->support)) + element("pur_date", p->date) +
+               element("comments", p->rangement + (p->divers.empty() ? "" : ". " + p->divers));
+    if (!affiche.empty()) xml += element("cover", affiche);
+    return xml + "</entry>\n";
+}
+
+void ecritTellico(const Demande& d, const std::optional<bench::Affiches>& affiches) {
+    fs::create_directories(d.chemin / "images");
+    std::string images;
+    std::ofstream flux(d.chemin / "tellico.xml", std::ios::binary);
+    flux << R"(<?xml version="1.0" encoding="UTF-8"?>
+<!DOCTYPE tellico PUBLIC '-//Robby Stephenson/DTD Tellico V11.0//EN' 'http://periapsis.org/tellico/dtd/v11/tellico.dtd'>
+<tellico xmlns="http://periapsis.org/tellico/" syntaxVersion="11">
+<collection title="Films" type="3"><fields><field name="_default"/></fields>
+)";
+    for (std::uint64_t i = 0; i < d.nombre; ++i) {
+        const std::string nom = affiches ? "film" + std::to_string(d.premier + i) + ".jpg" : "";
+        flux << entree(i + 1, bench::film(d.premier + i), nom);
+        if (!affiches) continue;
+        ecritFichier(d.chemin / "images" / nom, affiches->affiche(d.premier + i));
+        images += "<image format=\"JPEG\" id=\"" + nom + "\" width=\"" + std::to_string(bench::kLargeurAffiche) +
+                  "\" height=\"" + std::to_string(bench::kHauteurAffiche) + "\"/>\n";
+    }
+    if (affiches) flux << "<images>\n" << images << "</images>\n";
+    if (!(flux << "</collection>\n</tellico>\n").flush()) throw std::runtime_error("cannot write " + d.chemin.string());
+}
+
 Demande lisDemande(int nombre, char** mots) {
     if (nombre < 4)
         throw std::invalid_argument(
-            "usage: generateur base|fiches N CHEMIN [--affiches] [--en-fichiers] [--possedes] [--depuis NUMERO]");
+            "usage: generateur base|fiches|tellico N CHEMIN [--affiches] [--en-fichiers] [--possedes] [--depuis "
+            "NUMERO]");
     Demande d{mots[1], std::stoull(mots[2]), 0, mots[3]};
     for (int i = 4; i < nombre; ++i) {
         if (std::strcmp(mots[i], "--affiches") == 0) d.affiches = true;
@@ -131,8 +196,10 @@ int main(int nombre, char** mots) try {
         ecritBase(d, affiches);
     else if (d.genre == "fiches")
         ecritFiches(d, affiches);
+    else if (d.genre == "tellico")
+        ecritTellico(d, affiches);
     else
-        throw std::invalid_argument("the first word is base or fiches");
+        throw std::invalid_argument("the first word is base, fiches or tellico");
     return 0;
 } catch (const std::exception& e) {
     std::cerr << "generateur: " << e.what() << '\n';

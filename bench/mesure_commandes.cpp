@@ -1,4 +1,4 @@
-// mesure_commandes recherche DOSSIER TEXTE | ajout DOSSIER | sauvegarde DOSSIER | conversion DOSSIER FILMS |
+// mesure_commandes recherche DOSSIER TEXTE | ajout DOSSIER | note DOSSIER | sauvegarde DOSSIER | conversion DOSSIER FILMS |
 // conversion_copiee DOSSIER FILMS | annulation DOSSIER FICHES
 // Single commands of the program without its window, in a program folder, to be held against plancher_commandes.
 
@@ -18,6 +18,7 @@
 #include "db/cmdCompacter_Click.h"
 #include "db/cmdMajBase_Click.h"
 #include "edit/cmdAjoutFilm_Click.h"
+#include "edit/cmdModifieNote_Click.h"
 #include "edit/cmdPonctuation_Click.h"
 #include "edit/cmdSupprimerTitre_Click.h"
 #include "platform/dao/DBEngine.h"
@@ -59,6 +60,25 @@ void mesureAjout(app::Session& session) {
     if (session.etats.liste.Frame1.Caption != "Liste de films (" + std::to_string(kPassages) + " titres)")
         throw std::runtime_error("listed: " + session.etats.liste.Frame1.Caption);
     bench::declare("listage", bench::meilleureDuree(kPassages, [&] { session.execute(browse::ChoixTri_Click); }));
+}
+
+// One film's rating, until it is in the base and shown; each time another film's.
+void mesureNote(app::Session& session) {
+    const browse::Arbre& arbre = session.etats.liste.TreeView1.Nodes;
+    int noeud = 1;
+    double meilleure = std::numeric_limits<double>::max();
+    for (int passage = 0; passage < kPassages; ++passage) {
+        do
+            ++noeud;
+        while (arbre.estGroupe(noeud));
+        session.execute(app::TreeView1_NodeClick, noeud);
+        const int note = session.etats.fiche.note == 9 ? 8 : 9;
+        sync();
+        meilleure =
+            std::min(meilleure, bench::meilleureDuree(1, [&] { session.execute(edit::etoilesNote_Change, note); }));
+        if (session.etats.fiche.note != note) throw std::runtime_error("the rating is not shown");
+    }
+    bench::declare("note", meilleure);
 }
 
 double convertit(app::Session& session, std::size_t stockage) {
@@ -181,11 +201,11 @@ void mesureSauvegarde(app::Session& session) {
 
 int main(int nombre, char** mots) try {
     const std::string genre = nombre > 2 ? mots[1] : "";
-    if (genre != "ajout" && genre != "sauvegarde" &&
+    if (genre != "ajout" && genre != "note" && genre != "sauvegarde" &&
         (nombre < 4 ||
          (genre != "recherche" && genre != "conversion" && genre != "conversion_copiee" && genre != "annulation")))
         throw std::invalid_argument(
-            "usage: mesure_commandes recherche|ajout|sauvegarde|conversion|conversion_copiee|annulation DOSSIER "
+            "usage: mesure_commandes recherche|ajout|note|sauvegarde|conversion|conversion_copiee|annulation DOSSIER "
             "[TEXTE|FILMS|FICHES]");
     if (genre == "recherche") return mesureRecherche(mots[2], mots[3]), 0;
     bench::Machine machine;
@@ -193,6 +213,8 @@ int main(int nombre, char** mots) try {
     session.Form_Load();
     if (genre == "ajout")
         mesureAjout(session);
+    else if (genre == "note")
+        mesureNote(session);
     else if (genre == "annulation")
         mesureAnnulation(session, mots[2], mots[3]);
     else if (genre == "sauvegarde")

@@ -1,0 +1,338 @@
+// paire PROGRAMME DOSSIER [--vite | --seul N]: the same films in this program and in Tellico, each started on the screen that
+// DISPLAY names, which nothing else uses, and the session bus. Prints their table; the pictures of both stay in DOSSIER.
+
+#include "Mesure.h"
+#include "Programmes.h"
+
+#include <QDBusInterface>
+#include <QDBusReply>
+#include <QFile>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPixmap>
+#include <QProcess>
+#include <QScreen>
+#include <QThread>
+#include <QUrl>
+#include <array>
+#include <functional>
+#include <optional>
+#include <stdexcept>
+
+#include <unistd.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using bench::Figures;
+
+constexpr double kCalme = 2000, kPatience = 120000;  // milliseconds
+constexpr double kRegard = 10;                       // between two looks at the screen
+constexpr int kAjoutes = 1000, kPremierAjoute = 200000;
+constexpr int kAttenteReponse = 600000;  // milliseconds, on the bus
+
+struct Options {
+    fs::path programme, dossier;
+    bool vite = false;
+    int seul = 0;  // that number of films, without posters
+};
+
+void exige(bool vrai, const std::string& quoi) {
+    if (!vrai) throw std::runtime_error(quoi);
+}
+
+std::string motDe(qint64 processus, const char* fichier) {
+    QFile flux(QString("/proc/%1/%2").arg(processus).arg(fichier));
+    return flux.open(QIODevice::ReadOnly) ? flux.readAll().toStdString() : "";
+}
+
+// Milliseconds of processor that the process has taken.
+double travail(qint64 processus) {
+    const QByteArray texte = QByteArray::fromStdString(motDe(processus, "stat"));
+    const QList<QByteArray> mots = texte.mid(texte.lastIndexOf(')') + 2).split(' ');
+    exige(mots.size() > 12, "a measured program ended");
+    return (mots[11].toDouble() + mots[12].toDouble()) * 1000 / static_cast<double>(sysconf(_SC_CLK_TCK));
+}
+
+double memoireDePointe(qint64 processus) {
+    const std::string texte = motDe(processus, "status");
+    return std::stod(texte.substr(texte.find("VmHWM:") + 6)) / 1024;
+}
+
+QImage regarde() {
+    return QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+}
+
+// The moment at which the screen took the look that it keeps: another one than the empty screen's, unchanged for a while
+// in which the program is idle too.
+double attendLeCalme(qint64 processus, double depuis, const QImage& vide) {
+    QImage vu = vide;
+    double change = depuis, travaille = travail(processus), repos = depuis;
+    for (;;) {
+        QThread::msleep(static_cast<unsigned long>(kRegard));
+        const double heure = bench::maintenant();
+        if (QImage image = regarde(); image != vu) vu = image, change = heure;
+        if (const double fait = travail(processus); fait > travaille + 0.2 * (heure - repos) && heure > repos + 200)
+            travaille = fait, repos = heure;
+        else if (change > depuis && vu != vide && heure > change + kCalme && heure > repos + kCalme)
+            return change;
+        exige(heure < depuis + kPatience, "the screen does not come to rest");
+    }
+}
+
+// A program on the screen; ended with it.
+class Fenetre {
+  public:
+    Fenetre(const fs::path& programme, const QStringList& mots, const QProcessEnvironment& environnement) {
+        m_processus.setProcessEnvironment(environnement);
+        m_processus.setStandardOutputFile(QProcess::nullDevice());
+        m_processus.setStandardErrorFile(QProcess::nullDevice());
+        const QImage vide = regarde();
+        m_depart = bench::maintenant();
+        m_processus.start(QString::fromStdString(programme.string()), mots);
+        exige(m_processus.waitForStarted(), "cannot start " + programme.string());
+        m_montre = attendLeCalme(numero(), m_depart, vide) - m_depart;
+        m_memoire = memoireDePointe(numero());
+    }
+    ~Fenetre() {
+        m_processus.kill();
+        m_processus.waitForFinished();
+    }
+    Fenetre(const Fenetre&) = delete;
+    Fenetre& operator=(const Fenetre&) = delete;
+
+    [[nodiscard]] qint64 numero() const { return m_processus.processId(); }
+    [[nodiscard]] double montre() const { return m_montre; }
+    [[nodiscard]] double memoire() const { return m_memoire; }
+
+  private:
+    QProcess m_processus;
+    double m_depart = 0, m_montre = 0, m_memoire = 0;
+};
+
+QProcessEnvironment environnement(const fs::path& maison) {
+    QProcessEnvironment resultat = QProcessEnvironment::systemEnvironment();
+    resultat.insert("QT_QPA_PLATFORM", "xcb");
+    resultat.insert("LC_ALL", "C.UTF-8");
+    resultat.insert("HOME", QString::fromStdString(maison.string()));
+    resultat.insert("QTWEBENGINE_DISABLE_SANDBOX", "1");  // as root it refuses to start in one
+    return resultat;
+}
+
+// One call of Tellico's published interface; throws what it answers when it refuses.
+template <typename Reponse, typename... Mots>
+Reponse demande(const char* objet, const char* interface, const char* methode, const Mots&... mots) {
+    QDBusInterface bus("org.kde.tellico", objet, interface);
+    bus.setTimeout(kAttenteReponse);
+    const QDBusReply<Reponse> reponse = bus.call(methode, mots...);
+    exige(reponse.isValid(), std::string(methode) + ": " + reponse.error().message().toStdString());
+    return reponse.value();
+}
+
+qsizetype entreesMontrees() {
+    QDBusInterface bus("org.kde.tellico", "/Tellico", "org.kde.tellico");
+    bus.setTimeout(kAttenteReponse);
+    const QDBusReply<QList<int>> reponse = bus.call("filteredEntries");
+    exige(reponse.isValid(), reponse.error().message().toStdString());
+    return reponse.value().size();
+}
+
+void filtre(const QString& texte) {
+    QDBusInterface bus("org.kde.tellico", "/Tellico", "org.kde.tellico");
+    bus.setTimeout(kAttenteReponse);
+    exige(bus.call("setFilter", texte).type() == QDBusMessage::ReplyMessage, "setFilter failed");
+}
+
+// Its command Save, which answers once the file is written.
+void enregistre(const fs::path& fichier) {
+    const auto avant = fs::last_write_time(fichier);
+    exige(demande<bool>("/tellico/MainWindow_1", "org.kde.KMainWindow", "activateAction", QString("file_save")),
+          "no Save");
+    exige(fs::last_write_time(fichier) != avant, "the file was not written");
+}
+
+double duree(const std::function<void()>& travailFait) {
+    return bench::meilleureDuree(1, travailFait);
+}
+
+void photographie(const fs::path& fichier) {
+    exige(regarde().save(QString::fromStdString(fichier.string())), "cannot write " + fichier.string());
+}
+
+struct Essai {
+    int films = 0;
+    bool affiches = false;
+    [[nodiscard]] std::string nom() const { return std::to_string(films) + (affiches ? "-affiches" : ""); }
+};
+
+Figures mesureTellico(const Options& o, const Essai& e) {
+    const fs::path fichier = o.dossier / "essai.tc", maison = o.dossier / "maison";
+    fs::copy_file(o.dossier / ("tellico-" + e.nom() + ".tc"), fichier, fs::copy_options::overwrite_existing);
+    fs::create_directories(maison / ".config");
+    QFile reglages(QString::fromStdString((maison / ".config/tellicorc").string()));
+    exige(reglages.open(QIODevice::WriteOnly), "no settings");
+    reglages.write("[TipOfDay]\nRunOnStart=false\n");
+    reglages.close();
+    sync();
+    Figures f;
+    f["fichier"] = static_cast<double>(fs::file_size(fichier)) / 1e6;
+    const Fenetre fenetre("tellico", {QString::fromStdString(fichier.string())}, environnement(maison));
+    f["montre"] = fenetre.montre();
+    f["memoire"] = fenetre.memoire();
+    exige(entreesMontrees() == e.films, "Tellico does not show all films");
+    photographie(o.dossier / ("tellico-" + e.nom() + ".png"));
+    if (e.affiches) return f;  // its Save asks where many images go, and nobody answers
+    f["filtre"] = duree([] {
+        filtre("horloger");
+        exige(entreesMontrees() > 0, "nothing found");
+    });
+    filtre("");
+    (void)entreesMontrees();
+    const auto note = [] {
+        exige(demande<bool>("/Collections", "org.kde.tellico", "setEntryValue", 7, QString("rating"), QString("5")) ||
+                  demande<bool>("/Collections", "org.kde.tellico", "setEntryValue", 7, QString("rating"), QString("4")),
+              "no entry 7");
+    };
+    f["note"] = duree([&] {
+        note();
+        enregistre(fichier);
+    });
+    const QUrl ajout = QUrl::fromLocalFile(QString::fromStdString((o.dossier / "ajout/tellico.xml").string()));
+    f["ajout"] = duree([&] {
+        exige(demande<bool>("/Tellico", "org.kde.tellico", "importTellico", ajout.toString(), QString("append")),
+              "no import");
+        enregistre(fichier);
+    });
+    exige(entreesMontrees() == e.films + kAjoutes, "Tellico does not show the films added");
+    return f;
+}
+
+// A copy of the program folder with that base.
+fs::path installe(const Options& o, const Essai& e) {
+    const fs::path copie = o.dossier / "copie";
+    fs::remove_all(copie);
+    fs::copy(o.programme, copie, fs::copy_options::recursive);
+    fs::copy_file(o.dossier / (e.nom() + ".mdb"), copie / "Films.mdb", fs::copy_options::overwrite_existing);
+    sync();
+    return copie;
+}
+
+Figures mesureLeNotre(const Options& o, const Essai& e) {
+    fs::path copie = installe(o, e);
+    Figures f;
+    f["fichier"] = static_cast<double>(fs::file_size(copie / "Films.mdb")) / 1e6;
+    {
+        const Fenetre fenetre(copie / "Ambrelis", {}, environnement(o.dossier / "maison"));
+        f["montre"] = fenetre.montre();
+        f["memoire"] = fenetre.memoire();
+        photographie(o.dossier / ("ambrelis-" + e.nom() + ".png"));
+    }
+    copie = installe(o, e);
+    f["note"] = bench::lance("mesure_commandes", {"note", copie.string()}).at("note");
+    if (e.affiches) return f;
+    const Figures frappes = bench::lance("mesure_fenetre", {copie.string(), "filtre"});
+    f["filtre"] = frappes.at("frappe_pire");
+    f["ajout"] =
+        bench::lance("mesure_session", {"import", copie.string(), (o.dossier / "fiches").string()}).at("import_liste");
+    return f;
+}
+
+void execute(const fs::path& ou, const QString& programme, const QStringList& mots) {
+    QProcess processus;
+    processus.setWorkingDirectory(QString::fromStdString(ou.string()));
+    processus.start(programme, mots);
+    exige(processus.waitForFinished(-1) && processus.exitCode() == 0, programme.toStdString() + " failed");
+}
+
+// The films in both forms.
+void prepare(const Options& o, const Essai& e) {
+    const fs::path dossier = o.dossier / "tellico", fichier = o.dossier / ("tellico-" + e.nom() + ".tc");
+    const std::string nombre = std::to_string(e.films), base = (o.dossier / (e.nom() + ".mdb")).string();
+    fs::remove_all(dossier);
+    fs::remove(fichier);
+    std::vector<std::string> notre{"base", nombre, base}, leur{"tellico", nombre, dossier.string()};
+    if (e.affiches) notre.emplace_back("--affiches"), leur.emplace_back("--affiches");
+    (void)bench::lance("generateur", notre);
+    (void)bench::lance("generateur", leur);
+    execute(dossier, "zip", {"-q", "-r", QString::fromStdString(fichier.string()), "tellico.xml", "images"});
+    fs::remove_all(dossier);
+}
+
+struct Resultat {
+    Essai essai;
+    Figures tellico, notre;
+};
+
+Resultat compare(const Options& o, const Essai& e) {
+    prepare(o, e);
+    std::vector<Figures> tellico, notre;
+    for (int i = 0; i < (o.vite || o.seul > 0 || e.films > 10000 ? 1 : 3); ++i) {
+        tellico.push_back(mesureTellico(o, e));
+        notre.push_back(mesureLeNotre(o, e));
+        std::fprintf(stderr, "%s films, pass %d done\n", e.nom().c_str(), i + 1);
+    }
+    fs::remove(o.dossier / ("tellico-" + e.nom() + ".tc"));
+    fs::remove(o.dossier / (e.nom() + ".mdb"));
+    return {e, bench::retenues(tellico), bench::retenues(notre)};
+}
+
+std::string texte(const Figures& f, const std::string& nom) {
+    const auto trouve = f.find(nom);
+    if (trouve == f.end()) return "-";
+    const double v = trouve->second;
+    char resultat[32];
+    std::snprintf(resultat, sizeof resultat, v < 10 ? "%.1f" : "%.0f", v);
+    return resultat;
+}
+
+void ligne(const std::vector<Resultat>& tout, bool affiches, const char* titre, const char* nom) {
+    std::printf("| %s |", titre);
+    for (const Resultat& r : tout)
+        if (r.essai.affiches == affiches)
+            std::printf(" %s | %s |", texte(r.tellico, nom).c_str(), texte(r.notre, nom).c_str());
+    std::printf("\n");
+}
+
+void imprime(const std::vector<Resultat>& tout, bool affiches) {
+    std::printf("\n| %s |", affiches ? "With a poster each" : "Without posters");
+    std::string trait = "|---|";
+    for (const Resultat& r : tout) {
+        if (r.essai.affiches != affiches) continue;
+        std::printf(" Tellico %d | Ambrelis %d |", r.essai.films, r.essai.films);
+        trait += "---:|---:|";
+    }
+    std::printf("\n%s\n", trait.c_str());
+    ligne(tout, affiches, "start to the collection shown, ms", "montre");
+    ligne(tout, affiches, "peak memory by then, MB", "memoire");
+    ligne(tout, affiches, "size of the file, MB", "fichier");
+    ligne(tout, affiches, "a rating stored, ms", "note");
+    if (affiches) return;
+    ligne(tout, affiches, "1,000 films added and stored, ms", "ajout");
+    ligne(tout, affiches, "quick filter, ms", "filtre");
+}
+
+}  // namespace
+
+int main(int nombre, char** mots) try {
+    QGuiApplication application(nombre, mots);
+    if (nombre < 3) throw std::invalid_argument("usage: paire PROGRAMME DOSSIER [--vite | --seul N]");
+    Options o{mots[1], mots[2], nombre > 3 && std::string(mots[3]) == "--vite"};
+    if (nombre > 4 && std::string(mots[3]) == "--seul") o.seul = std::stoi(mots[4]);
+    fs::create_directories(o.dossier);
+    const std::string ajoutes = std::to_string(kAjoutes), premier = std::to_string(kPremierAjoute);
+    (void)bench::lance("generateur", {"fiches", ajoutes, (o.dossier / "fiches").string(), "--depuis", premier});
+    (void)bench::lance("generateur", {"tellico", ajoutes, (o.dossier / "ajout").string(), "--depuis", premier});
+    std::vector<Resultat> tout;
+    std::vector<Essai> essais{{1000, false}, {1000, true}, {10000, false}};
+    if (!o.vite) essais.insert(essais.end(), {{10000, true}, {100000, false}});
+    if (o.seul > 0) essais = {{o.seul, false}};
+    for (const Essai& e : essais)
+        tout.push_back(compare(o, e));
+    imprime(tout, false);
+    if (o.seul == 0) imprime(tout, true);
+    return 0;
+} catch (const std::exception& e) {
+    std::cerr << "paire: " << e.what() << '\n';
+    return 1;
+}
