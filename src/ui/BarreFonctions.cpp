@@ -63,8 +63,7 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     auto* site = fonction("Image3", tr("MovieCovers"), Pictogramme::MovieCovers,
                           tr("Le logo de MovieCovers : un clic ouvre le site"));
     site->setIconSize({20, 20});
-    auto* aide =
-        fonction("cmdAide", tr("À propos"), Pictogramme::Aide, tr("À propos d'Ambrelis (F1 : le guide)"));
+    auto* aide = fonction("cmdAide", tr("À propos"), Pictogramme::Aide, tr("À propos d'Ambrelis (F1 : le guide)"));
     auto* sortie =
         fonction("cmdStop", tr("&Quitter"), Pictogramme::Sortie, tr("Enregistrer les réglages et quitter (Ctrl+Q)"));
     atelier.liaison.apresEcriture([=, etats = &atelier.etats()] {
