@@ -68,6 +68,7 @@ QTreeView* vueDeLignes(const char* nom, const QString& pourLecteur, QAbstractIte
 }
 
 QString ligneLue(const QModelIndex& index) {
+    if (!index.isValid()) return {};
     QStringList textes;
     for (int colonne = 0; colonne < index.model()->columnCount(index.parent()); ++colonne)
         if (const QString texte = index.siblingAtColumn(colonne).data().toString(); !texte.isEmpty()) textes << texte;

@@ -27,8 +27,9 @@ std::string exemplaireDe(const voisins::FilmVoisin& film) {
 ModeleVoisins::ModeleVoisins(voisins::Examen examen, QObject* parent)
     : QAbstractTableModel(parent), m_examen(std::move(examen)), m_ordre(m_examen.jugements.size()) {
     std::iota(m_ordre.begin(), m_ordre.end(), 0U);
-    std::ranges::stable_partition(
-        m_ordre, [this](std::size_t r) { return m_examen.jugements[r].sort == edit::SortDuFilm::Ressemblant; });
+    std::stable_partition(m_ordre.begin(), m_ordre.end(), [this](std::size_t r) {
+        return m_examen.jugements[r].sort == edit::SortDuFilm::Ressemblant;
+    });
 }
 
 void ModeleVoisins::metOptions(bool possedes, bool complete) {

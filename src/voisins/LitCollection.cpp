@@ -7,6 +7,7 @@
 #include "util/Texte.h"
 #include "voisins/Valeurs.h"
 
+#include <algorithm>
 #include <array>
 
 namespace voisins {
