@@ -59,17 +59,9 @@ PassageAncienne::PassageAncienne(const Contexte& c, dao::Database& ancienne, std
 }
 
 void PassageAncienne::execute() {
-    try {
-        reprendTout();
-        return;
-    } catch (const dao::ErreurDao& erreur) {
-        m_echec = {erreur.texte(), dialogues::kSimple};
-    } catch (const db::EchecConversion& echec) {
-        m_echec = {echec.texte, dialogues::kCritique};
-    }
-    m_lot.abandonne();
-    m_affiches.apresAnnulation();
-    m_acquis.interrompu = true;
+    m_echec = conduitPassage(
+        m_lot, m_affiches, [this] { reprendTout(); }, [] {});
+    if (m_echec) m_acquis.interrompu = true;
 }
 
 void PassageAncienne::reprendTout() {
@@ -218,9 +210,7 @@ bool PassageAncienne::poursuit() {
 }
 
 void PassageAncienne::confirmeLot() {
-    m_affiches.avantValidation();
-    m_lot.confirme();
-    m_affiches.apresValidation();
+    confirme(m_lot, m_affiches);
     m_acquis = m_rapport;
 }
 

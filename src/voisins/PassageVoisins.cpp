@@ -1,7 +1,7 @@
 #include "voisins/PassageVoisins.h"
 
+#include "acquire/Passage.h"
 #include "db/EnonceFilm.h"
-#include "db/Requete.h"
 #include "edit/Complement.h"
 #include "edit/LignePossession.h"
 #include "util/Nombres.h"
@@ -38,31 +38,10 @@ PassageVoisins::PassageVoisins(const acquire::Contexte& c, const Examen& examen)
       m_jour(c.horloge.dateDuJour()) {}
 
 acquire::RapportImport PassageVoisins::execute() {
-    std::string echec;
-    int style = dialogues::kSimple;
-    try {
-        importeTout();
-    } catch (const db::EchecConversion& affiche) {
-        echec = affiche.texte;
-        style = dialogues::kCritique;
-        gardeLeLotEntier();
-    } catch (const dao::ErreurDao& erreur) {
-        echec = erreur.texte();
-    } catch (const db::RequeteEchouee&) {  // already shown
-    }
-    m_lot.abandonne();
-    m_affiches.apresAnnulation();
-    if (!echec.empty()) m_c.dialogues.MsgBox(echec, style);
+    const auto echec = acquire::conduitPassage(
+        m_lot, m_affiches, [this] { importeTout(); }, [this] { confirmeLot(); });
+    if (echec) m_c.dialogues.MsgBox(echec->texte, echec->style);
     return rapport();
-}
-
-// A poster is written before the row that names it: the films before it are whole.
-void PassageVoisins::gardeLeLotEntier() {
-    try {
-        confirmeLot();
-    } catch (const db::EchecConversion&) {
-    } catch (const dao::ErreurDao&) {
-    }
 }
 
 acquire::RapportImport PassageVoisins::rapport() {
@@ -202,9 +181,7 @@ acquire::AfficheImportee PassageVoisins::afficheDe(const FilmVoisin& film) {
 }
 
 void PassageVoisins::confirmeLot() {
-    m_affiches.avantValidation();
-    m_lot.confirme();
-    m_affiches.apresValidation();
+    confirme(m_lot, m_affiches);
     m_acquis = m_rapport;
     m_compteAcquis = m_compte;
     m_faitsAcquis = m_faits;
