@@ -110,15 +110,11 @@ QLayout* PageStatistiques::choix() {
     return ligne;
 }
 
-PageStatistiques::Lecture PageStatistiques::lectureDe(const app::Contexte& c) {
-    return {c.base.base.changements(), c.liste.TreeView1.Nodes.generation()};
-}
-
 // A part at a time, so that the window answers meanwhile however many films there are.
 void PageStatistiques::relis(const app::Contexte& c) {
     m_barres->montre(nullptr);
     m_diagrammes.clear();
-    m_comptee = lectureDe(c);
+    m_comptee = Lecture::de(c);
     m_comptage.emplace(c);
     compteLaSuite();
 }
@@ -127,7 +123,7 @@ void PageStatistiques::compteLaSuite() {
     if (!m_comptage) return;
     if (!isVisible() || atelier().commande.enCours() || atelier().commande.finie()) return recommence();
     atelier().session.regarde([this](const app::Contexte& c) {
-        if (lectureDe(c) != m_comptee) return recommence();
+        if (Lecture::de(c) != m_comptee) return recommence();
         try {
             const bool attendu = diagramme() == nullptr;
             const bool tout = m_comptage->avance(c, kTranche);
