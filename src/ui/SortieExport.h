@@ -1,6 +1,6 @@
 #pragma once
 
-#include "util/Rangs.h"
+#include "util/Tables.h"
 
 #include <QtGlobal>
 #include <array>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string_view>
 
 namespace util {
 
@@ -12,6 +13,15 @@ template <typename Table, typename Ligne, typename Enumeration>
     for (const Ligne& ligne : table)
         if (static_cast<std::size_t>(ligne.*valeur) != rang++) return false;
     return rang == static_cast<std::size_t>(derniere) + 1;
+}
+
+// Whether the rows of a table bear the names of a list, in the list's order.
+template <typename Table, typename Ligne, typename Texte, typename Noms>
+[[nodiscard]] constexpr bool disentLesMemes(const Table& table, Texte Ligne::*nom, const Noms& noms) {
+    std::size_t rang = 0;
+    for (const Ligne& ligne : table)
+        if (rang == noms.size() || std::string_view(ligne.*nom) != noms[rang++]) return false;
+    return rang == noms.size();
 }
 
 }  // namespace util
