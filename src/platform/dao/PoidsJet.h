@@ -53,6 +53,7 @@ struct ElementJet {
     bool commence = false;    // a letter starts here (false for its continuation and for accents alone)
 };
 
+// The elements of a text, one after the other; false at its end. The text outlives it.
 class ElementsDeTexte {
   public:
     explicit ElementsDeTexte(const icu::UnicodeString& texte);
