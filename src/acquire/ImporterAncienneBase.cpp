@@ -25,11 +25,11 @@ using Issue = CopieAncienneBase::Issue;
 
 // What a passage leaves to tell, once no work is under way.
 struct Bilan {
-    std::optional<PassageAncienne::Echec> echec;
+    std::optional<EchecDePassage> echec;
     std::optional<RapportAncienne> rapport;  // nothing when the base could not be read
 };
 
-PassageAncienne::Echec illisible(const AncienneInstallation& ancienne, const std::string& raison) {
+EchecDePassage illisible(const AncienneInstallation& ancienne, const std::string& raison) {
     return {"La base " + ancienne.base + " n'a pas pu être lue.\n" + raison, dialogues::kCritique};
 }
 

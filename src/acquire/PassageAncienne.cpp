@@ -1,6 +1,7 @@
 #include "acquire/PassageAncienne.h"
 
 #include "db/Affiches.h"
+#include "db/ChampsPublies.h"
 #include "db/EnonceFilm.h"
 #include "platform/dao/Comparaison.h"
 #include "platform/fichiers/Fichiers.h"
@@ -14,11 +15,7 @@ namespace acquire {
 
 namespace {
 
-constexpr const char* kChampsFilms[] = {"Titre",   "Realisateur", "Annee",      "Origine", "Genre",    "Duree",
-                                        "Acteurs", "Resume",      "Production", "Note",    "DateAjout"};
-constexpr const char* kChampsPersonnel[] = {"Titre2", "Realisateur2", "Rangement", "Fichier1", "Fichier2", "Fichier3",
-                                            "Pret",   "Reserve",      "Date",      "Divers",   "Support"};
-constexpr const char* kAffiche = "Affiche";
+constexpr std::string_view kAffiche = db::kAffiche;
 
 std::string cleDuFilm(const db::CleFilm& film) {
     return dao::cleDeComparaison(film.titre) + '\0' + dao::cleDeComparaison(film.realisateur);
@@ -32,16 +29,17 @@ void parcourt(dao::Recordset& lignes, const char* titre, const char* realisateur
         recoit(cleDuFilm({std::string(lignes.vue(titres)), std::string(lignes.vue(realisateurs))}));
 }
 
-void exigeChamps(const dao::Recordset& lignes, std::span<const char* const> champs) {
-    for (const char* champ : champs)
+void exigeChamps(const dao::Recordset& lignes, std::span<const std::string_view> champs) {
+    for (const std::string_view champ : champs)
         if (lignes.colonne(champ).rang < 0)
             throw dao::ErreurDao(dao::kErreurChampIntrouvable,
                                  "Le champ " + util::entreChevrons(champ) + " manque dans la base à importer.");
 }
 
-void copieChamps(dao::Recordset& de, dao::Recordset& vers, std::span<const char* const> champs) {
-    for (const char* champ : champs)
-        vers.assigne(champ, de.valeur(champ));
+// All but the poster, which may move.
+void copieChamps(dao::Recordset& de, dao::Recordset& vers, std::span<const std::string_view> champs) {
+    for (const std::string_view champ : champs)
+        if (champ != kAffiche) vers.assigne(champ, de.valeur(champ));
 }
 
 }  // namespace
@@ -53,23 +51,14 @@ PassageAncienne::PassageAncienne(const Contexte& c, dao::Database& ancienne, std
       m_dossierImages(std::move(dossierImages)),
       m_lot(c),
       m_affiches(c) {
-    exigeChamps(m_films, kChampsFilms);
-    exigeChamps(m_films, {&kAffiche, 1});
-    exigeChamps(m_possessions, kChampsPersonnel);
+    exigeChamps(m_films, db::kChampsFilms);
+    exigeChamps(m_possessions, db::kChampsPersonnel);
 }
 
 void PassageAncienne::execute() {
-    try {
-        reprendTout();
-        return;
-    } catch (const dao::ErreurDao& erreur) {
-        m_echec = {erreur.texte(), dialogues::kSimple};
-    } catch (const db::EchecConversion& echec) {
-        m_echec = {echec.texte, dialogues::kCritique};
-    }
-    m_lot.abandonne();
-    m_affiches.apresAnnulation();
-    m_acquis.interrompu = true;
+    m_echec = conduitPassage(
+        m_lot, m_affiches, [this] { reprendTout(); }, [] {});
+    if (m_echec) m_acquis.interrompu = true;
 }
 
 void PassageAncienne::reprendTout() {
@@ -126,7 +115,7 @@ void PassageAncienne::ajouteFilm() {
     const auto reprise = reprendAffiche(texte, "");
     dao::Recordset& films = m_c.base.films;
     films.AddNew();
-    copieChamps(m_films, films, kChampsFilms);
+    copieChamps(m_films, films, db::kChampsFilms);
     films.assigne(kAffiche, reprise ? reprise->valeur : ancienne);
     films.Update();
     ++m_rapport.ajoutes;
@@ -163,7 +152,7 @@ bool PassageAncienne::reprendPossession(const std::string& cle) {
     m_possessions.Move(rang);
     dao::Recordset& personnel = m_c.base.personnel;
     personnel.AddNew();
-    copieChamps(m_possessions, personnel, kChampsPersonnel);
+    copieChamps(m_possessions, personnel, db::kChampsPersonnel);
     personnel.Update();
     return true;
 }
@@ -218,9 +207,7 @@ bool PassageAncienne::poursuit() {
 }
 
 void PassageAncienne::confirmeLot() {
-    m_affiches.avantValidation();
-    m_lot.confirme();
-    m_affiches.apresValidation();
+    confirme(m_lot, m_affiches);
     m_acquis = m_rapport;
 }
 

@@ -3,6 +3,7 @@
 #include "acquire/AffichesImportees.h"
 #include "acquire/Contexte.h"
 #include "acquire/LotImport.h"
+#include "acquire/Passage.h"
 #include "acquire/RapportAncienne.h"
 
 #include <optional>
@@ -23,17 +24,12 @@ namespace acquire {
 // those that come twice the first is taken.
 class PassageAncienne {
   public:
-    struct Echec {
-        std::string texte;
-        int style;
-    };
-
     // `c` and the base outlive it. Throws dao::ErreurDao where the previous base lacks a table or a field.
     PassageAncienne(const Contexte& c, dao::Database& ancienne, std::string dossierImages);
 
     void execute();
     [[nodiscard]] const RapportAncienne& rapport() const { return m_acquis; }
-    [[nodiscard]] const std::optional<Echec>& echec() const { return m_echec; }
+    [[nodiscard]] const std::optional<EchecDePassage>& echec() const { return m_echec; }
 
   private:
     using Cles = std::unordered_set<std::string>;
@@ -66,7 +62,7 @@ class PassageAncienne {
     std::unordered_map<std::string, long> m_aReprendre;  // rows of m_possessions, by film
     RapportAncienne m_rapport;
     RapportAncienne m_acquis;  // the report as it was when the last lot was stored
-    std::optional<Echec> m_echec;
+    std::optional<EchecDePassage> m_echec;
 };
 
 }  // namespace acquire

@@ -1,8 +1,8 @@
 #include "acquire/PassageFiches.h"
 
+#include "acquire/Passage.h"
 #include "acquire/ProgressionVisible.h"
 #include "db/EnonceFilm.h"
-#include "db/Requete.h"
 #include "edit/Complement.h"
 
 namespace acquire {
@@ -17,32 +17,11 @@ PassageFiches::PassageFiches(const Contexte& c, const FichesChoisies& fiches)
     : m_c(c), m_lot(c), m_dossier(fiches), m_affiches(c) {}
 
 RapportImport PassageFiches::execute() {
-    std::string echec;
-    int style = dialogues::kSimple;
-    try {
-        parcourt();
-    } catch (const db::EchecConversion& affiche) {
-        echec = affiche.texte;
-        style = dialogues::kCritique;
-        gardeLeLotEntier();
-    } catch (const dao::ErreurDao& erreur) {
-        echec = erreur.texte();
-    } catch (const db::RequeteEchouee&) {  // already shown
-    }
-    m_lot.abandonne();
-    m_affiches.apresAnnulation();
+    const auto echec = conduitPassage(
+        m_lot, m_affiches, [this] { parcourt(); }, [this] { confirmeLot(); });
     noteCeQuiReste();
-    if (!echec.empty()) m_c.dialogues.MsgBox(echec, style);
+    if (echec) m_c.dialogues.MsgBox(echec->texte, echec->style);
     return m_acquis;
-}
-
-// A poster is written before the row that names it: the films before it are whole.
-void PassageFiches::gardeLeLotEntier() {
-    try {
-        confirmeLot();
-    } catch (const db::EchecConversion&) {
-    } catch (const dao::ErreurDao&) {
-    }
 }
 
 void PassageFiches::noteCeQuiReste() {
@@ -105,9 +84,7 @@ std::optional<AfficheImportee> PassageFiches::place(const FicheFilm& fiche, cons
 }
 
 void PassageFiches::confirmeLot() {
-    m_affiches.avantValidation();
-    m_lot.confirme();
-    m_affiches.apresValidation();
+    confirme(m_lot, m_affiches);
     m_acquis = m_rapport;
     m_acquises = m_lues;
 }

@@ -48,7 +48,6 @@ class PassageFiches {
   private:
     void parcourt();
     void lit(const std::string& nom);
-    void gardeLeLotEntier();
     void noteCeQuiReste();
     [[nodiscard]] bool doitRespirer() const;
     [[nodiscard]] bool respire();  // false when the user stops

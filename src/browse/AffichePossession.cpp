@@ -10,18 +10,12 @@ namespace browse {
 namespace {
 
 constexpr std::size_t kNonPossede = 0;
-constexpr std::size_t kRangement = 3, kDivers = 4, kDate = 6;  // in Text10, after the three files
 
 ChampsPossession lis(const dao::Recordset& possession) {
     ChampsPossession champs;
     champs.possede = true;
-    champs.Text10[0] = possession.texte("Fichier1");
-    champs.Text10[1] = possession.texte("Fichier2");
-    champs.Text10[2] = possession.texte("Fichier3");
-    champs.Text10[kRangement] = possession.texte("Rangement");
-    champs.Text10[kDivers] = possession.texte("Divers");
-    champs.Text10[kDate] = possession.texte("Date");
-    champs.Combo7 = {possession.texte("Pret"), possession.texte("Reserve"), possession.texte("Support")};
+    for (const CaseDeChamp& celle : kCasesDesChamps)
+        champs.valeur(celle) = possession.texte(celle.champ);
     return champs;
 }
 

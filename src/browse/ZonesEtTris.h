@@ -1,5 +1,8 @@
 #pragma once
 
+#include "db/Schema.h"
+
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string_view>
@@ -10,6 +13,7 @@ namespace browse {
 // A zone: whose films are listed, in the very texts of its statement.
 struct Zone {
     const char* legende;
+    const char* vide;  // why it lists nothing, as a sentence
     std::string_view selection, origine, condition;
     std::string_view triSupplementaire;  // after the sort's own key
     bool sansPossession = false;         // its films need not be owned
@@ -22,14 +26,15 @@ inline constexpr std::string_view kJointure =
 // The first one writes its join without parentheses. Titre2 is always null in the rows of the last one, which orders by
 // it all the same.
 inline constexpr std::array<Zone, 6> kZones{{
-    {"Mes films", "*",
+    {"Mes films", "Aucun film n'est déclaré comme étant en votre possession.", "*",
      "FROM Films INNER JOIN Personnel ON Films.Titre = Personnel.Titre2 AND Films.realisateur=Personnel.realisateur2",
      "", kCleTitre2},
-    {"Tous les films", "*", "FROM Films", "", "", /*sansPossession=*/true},
-    {"Mes films non prêtés", "*", kJointure, R"(Pret="")", kCleTitre2},
-    {"Mes films prêtés", "*", kJointure, R"(Pret<>"")", kCleTitre2},
-    {"Mes films réservés", "*", kJointure, R"(Reserve<>"")", kCleTitre2},
-    {"Films non possédés", "DISTINCTROW *",
+    {"Tous les films", "La base ne contient aucun film.", "*", "FROM Films", "", "", /*sansPossession=*/true},
+    {"Mes films non prêtés", "Aucun de vos films n'est disponible : ils sont tous prêtés.", "*", kJointure,
+     R"(Pret="")", kCleTitre2},
+    {"Mes films prêtés", "Aucun de vos films n'est prêté.", "*", kJointure, R"(Pret<>"")", kCleTitre2},
+    {"Mes films réservés", "Aucun de vos films n'est réservé.", "*", kJointure, R"(Reserve<>"")", kCleTitre2},
+    {"Films non possédés", "Vous possédez tous les films de la base.", "DISTINCTROW *",
      "FROM Films LEFT JOIN Personnel ON (Films.Realisateur = Personnel.Realisateur2) AND (Films.Titre = "
      "Personnel.Titre2)",
      "((Personnel.Titre2) Is Null)", kCleTitre2, /*sansPossession=*/true},
@@ -60,6 +65,13 @@ inline constexpr std::array<Tri, 9> kTris{{
     {"Tri par support", "Support", Groupes::Valeur, /*exigePossession=*/true},
 }};
 inline constexpr int kTriTitre1 = 0, kTriTitre2 = 1, kTriGenre = 4, kTriNote = 7, kTriSupport = 8;
+static_assert(kTris[kTriTitre1].groupes == Groupes::Lettre && kTris[kTriTitre2].groupes == Groupes::Aucun &&
+              kTris[kTriGenre].champ == "Genre" && kTris[kTriNote].champ == "Note" &&
+              kTris[kTriSupport].champ == "Support");
+// No listing reads a row: what it goes by is a column of the plain indexes.
+static_assert(std::ranges::all_of(kTris, [](const Tri& tri) {
+    return db::kIndexDesListes.find(tri.champ) != std::string_view::npos;
+}));
 
 [[nodiscard]] constexpr bool estUneZone(int zone) {
     return zone >= 0 && zone < static_cast<int>(kZones.size());
@@ -70,7 +82,8 @@ inline constexpr int kTriTitre1 = 0, kTriTitre2 = 1, kTriGenre = 4, kTriNote = 7
 
 // A zone beyond the list has no table: its statement is one that fails.
 [[nodiscard]] constexpr Zone zoneDe(int zone) {
-    return estUneZone(zone) ? kZones[static_cast<std::size_t>(zone)] : Zone{"", "*", "", "", ""};
+    return estUneZone(zone) ? kZones[static_cast<std::size_t>(zone)]
+                            : Zone{"", "Aucun film ne répond à cette recherche.", "*", "", "", ""};
 }
 [[nodiscard]] constexpr const Tri& triDe(int tri) {
     return kTris.at(static_cast<std::size_t>(tri));

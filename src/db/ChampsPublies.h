@@ -1,6 +1,8 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
+#include <span>
 #include <string_view>
 
 namespace db {
@@ -15,5 +17,7 @@ inline constexpr std::array<std::string_view, 11> kChampsPersonnel{"Titre2",   "
 inline constexpr std::string_view kAffiche = "Affiche";
 inline constexpr std::string_view kNote = "Note";
 inline constexpr std::size_t kChampsCle = 2;
+// What a holding says, apart from whose it is.
+inline constexpr auto kChampsDePossession = std::span(kChampsPersonnel).subspan<kChampsCle>();
 
 }  // namespace db

@@ -76,7 +76,7 @@ bool ouvre(const Contexte& c, const std::string& chemin, Base& base) {
 // no reason to refuse it.
 void completeLesIndex(dao::Database& base) {
     try {
-        base.Execute(indexDesListes());
+        base.Execute(kIndexDesListes);
     } catch (const dao::ErreurDao&) {
     }
 }

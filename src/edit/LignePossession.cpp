@@ -1,5 +1,6 @@
 #include "edit/LignePossession.h"
 
+#include "db/ChampsPublies.h"
 #include "db/EnonceFilm.h"
 #include "edit/LongueursChamps.h"
 #include "platform/dao/LigneSupprimee.h"
@@ -10,7 +11,7 @@ namespace edit {
 void ajoutePossession(dao::Recordset& personnel, const db::CleFilm& film, const std::string& support) {
     personnel.AddNew();
     nommeFilmPossede(personnel, film);
-    for (const char* vide : {"Rangement", "Fichier1", "Fichier2", "Fichier3", "Pret", "Reserve", "Date", "Divers"})
+    for (const std::string_view vide : db::kChampsDePossession)
         personnel.assigne(vide, "");
     personnel.assigne("Support", util::coupe(support, kLongueurSupport));
     personnel.Update();

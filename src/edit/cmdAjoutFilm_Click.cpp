@@ -5,6 +5,7 @@
 #include "browse/CreeEtAfficheRecherche.h"
 #include "browse/MontreFilm.h"
 #include "browse/SelectionneTitre.h"
+#include "db/ChampsPublies.h"
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
 #include "edit/Command13_Click.h"
@@ -69,16 +70,17 @@ std::string choisitAffiche(const Contexte& c) {
 
 // What there is to know of a holding, in a few words; empty when it holds nothing.
 std::string decris(const dao::Recordset& possession) {
+    static constexpr std::pair<const char*, const char*> kDits[]{
+        {"Support", ""},  {"Rangement", ""},    {"Date", ""},
+        {"Divers", ""},   {"Pret", "prêté à "}, {"Reserve", "réservé pour "},
+        {"Fichier1", ""}, {"Fichier2", ""},     {"Fichier3", ""}};
+    static_assert(std::size(kDits) == db::kChampsDePossession.size());
     std::string texte;
-    const auto ajoute = [&](const std::string& avant, const std::string& valeur) {
-        if (!valeur.empty()) texte += (texte.empty() ? "" : ", ") + avant + util::coupe(valeur, 30);
-    };
-    for (const char* champ : {"Support", "Rangement", "Date", "Divers"})
-        ajoute("", possession.texte(champ));
-    ajoute("prêté à ", possession.texte("Pret"));
-    ajoute("réservé pour ", possession.texte("Reserve"));
-    for (const char* champ : {"Fichier1", "Fichier2", "Fichier3"})
-        ajoute("", fichiers::nomDeFichier(possession.texte(champ)));
+    for (const auto& [champ, avant] : kDits) {
+        std::string valeur = possession.texte(champ);
+        if (std::string_view(champ).starts_with("Fichier")) valeur = fichiers::nomDeFichier(valeur);
+        if (!valeur.empty()) texte += (texte.empty() ? "" : ", ") + (avant + util::coupe(valeur, 30));
+    }
     return texte;
 }
 

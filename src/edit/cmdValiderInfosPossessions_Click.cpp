@@ -1,6 +1,7 @@
 #include "edit/cmdValiderInfosPossessions_Click.h"
 
 #include "browse/AfficheNbTitres.h"
+#include "browse/ChampsPossession.h"
 #include "browse/RaffraichitBoitesDeroulantes.h"
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
@@ -13,20 +14,17 @@ namespace edit {
 
 namespace {
 
+std::string coupee(std::string_view champ, const std::string& valeur) {
+    if (champ == "Support") return util::coupe(valeur, kLongueurSupport);
+    return champ == "Divers" ? util::coupe(valeur, kLongueurDivers) : valeur;
+}
+
 void ecritChamps(dao::Recordset& possession, const Contexte& c) {
-    const auto& zones = c.fiche.Text10;
-    const auto& listes = c.fiche.Combo7;
+    const browse::ChampsPossession saisis = browse::champsPossession(c.fiche);
     possession.assigne("Titre2", c.film.titre);
     possession.assigne("Realisateur2", c.film.realisateur);
-    possession.assigne("Rangement", zones[3].Text);
-    possession.assigne("Fichier1", zones[0].Text);
-    possession.assigne("Fichier2", zones[1].Text);
-    possession.assigne("Fichier3", zones[2].Text);
-    possession.assigne("Pret", listes[0].Text);
-    possession.assigne("Reserve", listes[1].Text);
-    possession.assigne("Date", zones[6].Text);
-    possession.assigne("Support", util::coupe(listes[2].Text, kLongueurSupport));
-    possession.assigne("Divers", util::coupe(zones[4].Text, kLongueurDivers));
+    for (const browse::CaseDeChamp& celle : browse::kCasesDesChamps)
+        possession.assigne(celle.champ, coupee(celle.champ, saisis.valeur(celle)));
 }
 
 void enregistre(const Contexte& c) {

@@ -2,27 +2,11 @@
 
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
+#include "edit/ChampsLus.h"
 
-#include <array>
+#include <algorithm>
 
 namespace ensemble {
-
-namespace {
-
-struct Champ {
-    const char* nom;
-    const char* legende;
-    std::string edit::FilmLu::*valeur;
-};
-constexpr std::array<Champ, 7> kChamps{{{"Annee", "Année", &edit::FilmLu::annee},
-                                        {"Origine", "Origine", &edit::FilmLu::origine},
-                                        {"Genre", "Genre", &edit::FilmLu::genre},
-                                        {"Duree", "Durée", &edit::FilmLu::duree},
-                                        {"Acteurs", "Acteurs", &edit::FilmLu::acteurs},
-                                        {"Production", "Production", &edit::FilmLu::production},
-                                        {"Resume", "Résumé", &edit::FilmLu::resume}}};
-
-}  // namespace
 
 std::optional<edit::FilmLu> filmDeLaBase(const Contexte& c, const db::CleFilm& film) {
     const dao::Recordset ligne = db::ouvreRequete(c, db::enonceFilm(film), db::NumeroErreur::Apercus);
@@ -30,8 +14,8 @@ std::optional<edit::FilmLu> filmDeLaBase(const Contexte& c, const db::CleFilm& f
     edit::FilmLu lu;
     lu.titre = ligne.texte("Titre");
     lu.realisateur = ligne.texte("Realisateur");
-    for (const Champ& champ : kChamps)
-        lu.*champ.valeur = ligne.texte(champ.nom);
+    for (const edit::ChampLu& champ : edit::kChampsLus)
+        lu.*champ.valeur = ligne.texte(champ.colonne);
     return lu;
 }
 
@@ -39,8 +23,13 @@ PlanDeFusion compare(const edit::FilmLu& gauche, const edit::FilmLu& droite) {
     PlanDeFusion plan{gauche, droite};
     plan.film.push_back({"Titre", "Titre", gauche.titre, droite.titre});
     plan.film.push_back({"Realisateur", "Réalisateur", gauche.realisateur, droite.realisateur});
-    for (const Champ& champ : kChamps)
-        plan.film.push_back({champ.nom, champ.legende, gauche.*champ.valeur, droite.*champ.valeur});
+    const auto ajoute = [&](const edit::ChampLu& champ) {
+        plan.film.push_back({champ.colonne, champ.legende, gauche.*champ.valeur, droite.*champ.valeur});
+    };
+    const auto estLeResume = [](const edit::ChampLu& champ) { return champ.valeur == &edit::FilmLu::resume; };
+    for (const edit::ChampLu& champ : edit::kChampsLus)
+        if (!estLeResume(champ)) ajoute(champ);
+    ajoute(*std::ranges::find_if(edit::kChampsLus, estLeResume));  // the longest of them comes last
     return plan;
 }
 

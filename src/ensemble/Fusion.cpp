@@ -1,6 +1,7 @@
 #include "ensemble/Fusion.h"
 
 #include "db/Affiches.h"
+#include "db/ChampsPublies.h"
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
 #include "db/TitreCite.h"
@@ -9,6 +10,7 @@
 #include "platform/dao/Comparaison.h"
 #include "platform/dao/LigneSupprimee.h"
 #include "util/Nombres.h"
+#include "util/Tables.h"
 #include "util/Texte.h"
 
 #include <algorithm>
@@ -30,9 +32,12 @@ constexpr std::array kChampsDuFilm{Legende{"Titre", "Titre"},         Legende{"R
                                    Legende{"Acteurs", "Acteurs"},     Legende{"Production", "Production"},
                                    Legende{"Resume", "Résumé"},       Legende{kNote.data(), "Note"},
                                    Legende{"DateAjout", "Ajouté le"}, Legende{kAffiche.data(), "Affiche"}};
-constexpr std::array kLegendesDePossession{"Rangement", "Fichier 1", "Fichier 2", "Fichier 3", "Prêté à",
-                                           "Réservé à", "Date",      "Divers",    "Support"};
-static_assert(kLegendesDePossession.size() == kChampsDePossession.size());
+constexpr std::array kLegendesDePossession{
+    Legende{"Rangement", "Rangement"}, Legende{"Fichier1", "Fichier 1"}, Legende{"Fichier2", "Fichier 2"},
+    Legende{"Fichier3", "Fichier 3"},  Legende{"Pret", "Prêté à"},       Legende{"Reserve", "Réservé à"},
+    Legende{"Date", "Date"},           Legende{"Divers", "Divers"},      Legende{"Support", "Support"}};
+static_assert(util::disentLesMemes(kLegendesDePossession, &Legende::first, db::kChampsDePossession));
+static_assert(std::ranges::is_permutation(kChampsDuFilm, db::kChampsFilms, std::ranges::equal_to{}, &Legende::first));
 
 bool estVide(const std::string& texte) {
     return dao::egalJet(texte, "");
@@ -191,8 +196,8 @@ std::optional<PlanDeFusion> planDeFusion(const Contexte& c, const db::CleFilm& g
     plan.gauchePossede = !siennes.gauche().Eof();
     plan.droitePossede = !siennes.droite().Eof();
     if (!plan.gauchePossede || !plan.droitePossede) return plan;
-    for (std::size_t i = 0; i < kChampsDePossession.size(); ++i)
-        plan.possession.push_back(compare(kChampsDePossession[i], kLegendesDePossession[i], siennes));
+    for (const auto& [champ, legende] : kLegendesDePossession)
+        plan.possession.push_back(compare(champ, legende, siennes));
     logeLesFichiers(plan);
     return plan;
 }

@@ -9,6 +9,8 @@ namespace ensemble {
 namespace {
 
 constexpr std::size_t kPremierFichier = 1, kApresLesFichiers = 4;
+static_assert(db::kChampsDePossession[kPremierFichier] == "Fichier1" &&
+              db::kChampsDePossession[kApresLesFichiers - 1] == "Fichier3");
 
 bool estVide(const std::string& valeur) {
     return dao::egalJet(valeur, "");
@@ -28,14 +30,14 @@ bool prendLeFichier(ValeursDePossession& valeurs, const std::string& fichier) {
 ValeursDePossession litPossession(const dao::Recordset& ligne) {
     ValeursDePossession valeurs;
     for (std::size_t i = 0; i < valeurs.size(); ++i)
-        valeurs[i] = ligne.texte(kChampsDePossession[i]);
+        valeurs[i] = ligne.texte(db::kChampsDePossession[i]);
     return valeurs;
 }
 
 void ecritPossession(dao::Recordset& ligne, const ValeursDePossession& valeurs) {
     ligne.Edit();
     for (std::size_t i = 0; i < valeurs.size(); ++i)
-        ligne.assigne(kChampsDePossession[i], valeurs[i]);
+        ligne.assigne(db::kChampsDePossession[i], valeurs[i]);
     ligne.Update();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "db/ChampsPublies.h"
 #include "platform/dao/Recordset.h"
 
 #include <array>
@@ -8,10 +9,8 @@
 
 namespace ensemble {
 
-// What a holding says, apart from whose it is.
-inline constexpr std::array kChampsDePossession{"Rangement", "Fichier1", "Fichier2", "Fichier3", "Pret",
-                                                "Reserve",   "Date",     "Divers",   "Support"};
-using ValeursDePossession = std::array<std::string, kChampsDePossession.size()>;
+// What a holding says, field by field in the order of db::kChampsDePossession.
+using ValeursDePossession = std::array<std::string, db::kChampsDePossession.size()>;
 
 [[nodiscard]] ValeursDePossession litPossession(const dao::Recordset& ligne);
 void ecritPossession(dao::Recordset& ligne, const ValeursDePossession& valeurs);

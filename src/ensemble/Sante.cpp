@@ -10,6 +10,7 @@
 #include "platform/fichiers/Fichiers.h"
 #include "util/Capitales.h"
 #include "util/Nombres.h"
+#include "util/Tables.h"
 #include "util/Texte.h"
 #include "view/ChercheFichier.h"
 
@@ -244,6 +245,7 @@ constexpr std::array kGenres{
     Genre{Mal::PossessionDouble, "Films possédés deux fois", "Réunir les possessions", possessionsDoubles},
     Genre{Mal::TitreACorriger, "Titres à corriger", "Corriger les titres", titresACorriger},
 };
+static_assert(util::dansLOrdre(kGenres, &Genre::mal, Mal::TitreACorriger));
 
 Constat examineGenre(const Contexte& c, Avancement& avancement, const Genre& genre) {
     Constat constat{genre.mal, genre.titre, genre.reparation};

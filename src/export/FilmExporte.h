@@ -1,5 +1,9 @@
 #pragma once
 
+#include "db/ChampsPublies.h"
+#include "util/Tables.h"
+
+#include <algorithm>
 #include <array>
 #include <bitset>
 #include <cstddef>
@@ -36,36 +40,44 @@ enum class Champ : std::size_t {
 inline constexpr std::size_t kNombreDeChamps = static_cast<std::size_t>(Champ::Fichier3) + 1;
 
 struct DescriptionDuChamp {
+    Champ champ;
     const char* intitule;
     const char* colonne;  // of the base
 };
 // Of a poster its file's name, since its bytes are no text. "Date" alone would be taken for the year of a film.
 inline constexpr std::array<DescriptionDuChamp, kNombreDeChamps> kChamps{{
-    {"Titre", "Titre"},
-    {"Réalisateur", "Realisateur"},
-    {"Année", "Annee"},
-    {"Origine", "Origine"},
-    {"Genre", "Genre"},
-    {"Durée", "Duree"},
-    {"Acteurs", "Acteurs"},
-    {"Résumé", "Resume"},
-    {"Production", "Production"},
-    {"Note", "Note"},
-    {"Date d'ajout", "DateAjout"},
-    {"Affiche", "Affiche"},
-    {"Possédé", "Titre2"},
-    {"Support", "Support"},
-    {"Rangement", "Rangement"},
-    {"Prêté à", "Pret"},
-    {"Réservé pour", "Reserve"},
-    {"Date de possession", "Date"},
-    {"Divers", "Divers"},
-    {"Fichier 1", "Fichier1"},
-    {"Fichier 2", "Fichier2"},
-    {"Fichier 3", "Fichier3"},
+    {Champ::Titre, "Titre", "Titre"},
+    {Champ::Realisateur, "Réalisateur", "Realisateur"},
+    {Champ::Annee, "Année", "Annee"},
+    {Champ::Origine, "Origine", "Origine"},
+    {Champ::Genre, "Genre", "Genre"},
+    {Champ::Duree, "Durée", "Duree"},
+    {Champ::Acteurs, "Acteurs", "Acteurs"},
+    {Champ::Resume, "Résumé", "Resume"},
+    {Champ::Production, "Production", "Production"},
+    {Champ::Note, "Note", "Note"},
+    {Champ::DateAjout, "Date d'ajout", "DateAjout"},
+    {Champ::Affiche, "Affiche", "Affiche"},
+    {Champ::Possede, "Possédé", "Titre2"},
+    {Champ::Support, "Support", "Support"},
+    {Champ::Rangement, "Rangement", "Rangement"},
+    {Champ::Pret, "Prêté à", "Pret"},
+    {Champ::Reserve, "Réservé pour", "Reserve"},
+    {Champ::Date, "Date de possession", "Date"},
+    {Champ::Divers, "Divers", "Divers"},
+    {Champ::Fichier1, "Fichier 1", "Fichier1"},
+    {Champ::Fichier2, "Fichier 2", "Fichier2"},
+    {Champ::Fichier3, "Fichier 3", "Fichier3"},
 }};
+static_assert(util::dansLOrdre(kChamps, &DescriptionDuChamp::champ, Champ::Fichier3));
 inline constexpr std::size_t kChampsDuFilm = static_cast<std::size_t>(Champ::Possede);
 inline constexpr std::size_t kChampsDePossession = kNombreDeChamps - kChampsDuFilm;
+// Each column of the base has its place: that of the holding's title says whether there is one.
+static_assert(kChampsDuFilm == db::kChampsFilms.size() && kChampsDePossession == 1 + db::kChampsDePossession.size());
+static_assert(std::ranges::all_of(kChamps, [](const DescriptionDuChamp& celui) {
+    return std::ranges::find(db::kChampsFilms, celui.colonne) != db::kChampsFilms.end() ||
+           std::ranges::find(db::kChampsPersonnel, celui.colonne) != db::kChampsPersonnel.end();
+}));
 
 [[nodiscard]] constexpr bool estDePossession(Champ champ) {
     return champ >= Champ::Possede;

@@ -10,6 +10,8 @@
 #include "ui/Icones.h"
 #include "ui/Lecteur.h"
 
+#include <array>
+
 namespace ui {
 
 namespace {
@@ -37,68 +39,12 @@ void nommeLaSuite(QPushButton& bouton, const std::string& suite, const QString& 
     bouton.setAccessibleDescription(QString::fromStdString(suite));
 }
 
-}  // namespace
-
-BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
-    seLit(this, {.role = QAccessible::ToolBar});
-    setAccessibleName(tr("Fonctions"));
+// Progress shown in its place is two words, and short ones do not move what follows.
+QWidget* nomDuProgramme(const Atelier& atelier) {
     auto* nom1 = nomme((new Etiquette)->avecPolice(1.7, QFont::DemiBold), "lblNom1");
     auto* nom2 = nomme((new Etiquette)->avecPolice(1.7, QFont::DemiBold)->avecTon(Ton::Accent), "lblNom2");
-    auto* version = nomme((new Etiquette)->avecPolice(0.85)->avecTon(Ton::Discret), "Label13");
-    version->setContentsMargins(0, 0, 0, kSerre);
     atelier.liaison.lie(atelier.etats().nom.lblNom1, nom1);
     atelier.liaison.lie(atelier.etats().nom.lblNom2, nom2);
-    atelier.liaison.lie(atelier.etats().fonctions.Label13, version);
-
-    auto* recherche = fonction<BoutonDePanneau>("cmdFonctionRecherche", tr("Rec&hercher"), Pictogramme::Loupe,
-                                                tr("Chercher des films dans la base (Ctrl+F ; Échap pour revenir)"));
-    auto* ajout =
-        fonction<BoutonDePanneau>("cmdAfficherFonctions", tr("A&jouter"), Pictogramme::Plus,
-                                  tr("Ajouter des films à la base (Ctrl+N pour une saisie ; Échap pour revenir)"));
-    auto* outils = fonction<BoutonDePanneau>("cmdConfigurer", tr("&Outils"), Pictogramme::Reglages,
-                                             tr("Entretenir la base et régler le programme (Échap pour revenir)"));
-    auto* collection =
-        fonction<BoutonDePanneau>("cmdCollection", tr("Collection"), Pictogramme::Collection,
-                                  tr("La collection d'un coup d'œil : affiches, prêts, statistiques… (Ctrl+L)"));
-    auto* site = fonction("Image3", tr("MovieCovers"), Pictogramme::MovieCovers,
-                          tr("Le logo de MovieCovers : un clic ouvre le site"));
-    site->setIconSize({20, 20});
-    auto* aide = fonction("cmdAide", tr("À propos"), Pictogramme::Aide, tr("À propos d'Ambrelis (F1 : le guide)"));
-    auto* sortie =
-        fonction("cmdStop", tr("&Quitter"), Pictogramme::Sortie, tr("Enregistrer les réglages et quitter (Ctrl+Q)"));
-    atelier.liaison.apresEcriture([=, etats = &atelier.etats()] {
-        const bool fonctions = etats->panneaux.frameListeFonctions.Visible;
-        const bool ajoute = fonctions && etats->fonctions.frameDivers.Visible;
-        collection->setChecked(etats->panneaux.frameCollection.Visible);
-        recherche->setChecked(etats->panneaux.frameRecherche.Visible);
-        ajout->setChecked(ajoute);
-        outils->setChecked((fonctions && !ajoute) || etats->panneaux.frameMultiSuppression.Visible);
-    });
-    for (BoutonDePanneau* panneau : {recherche, ajout, outils, collection})
-        seLit(panneau, {.role = QAccessible::Button,
-                        .presse = [panneau] { panneau->click(); },
-                        .enfoncee = [panneau] { return panneau->isChecked(); }});
-    atelier.auClic(recherche, browse::cmdFonctionRecherche_Click);
-    atelier.auClic(ajout, app::cmdAfficherFonctions_Click);
-    atelier.auClic(outils, app::cmdConfigurer_Click);
-    atelier.auClic(collection, app::cmdCollection_Click);
-    atelier.auClic(site, app::Image3_Click);
-    atelier.auClic(aide, app::cmdAide_Click);
-    atelier.auClic(sortie, &app::Session::cmdStop_Click);
-
-    auto* annuler = fleche("cmdDefaire", tr("Annuler"), Pictogramme::Annule);
-    auto* retablir = fleche("cmdRetablir", tr("Rétablir"), Pictogramme::Retablit);
-    auto& annulation = atelier.etats().annulation;
-    atelier.liaison.lie(annulation.cmdAnnuler, annuler);
-    atelier.liaison.lie(annulation.cmdRetablir, retablir);
-    atelier.auClic(annuler, app::cmdAnnuler_Click);
-    atelier.auClic(retablir, app::cmdRetablir_Click);
-    atelier.liaison.apresEcriture([annuler, retablir, &annulation] {
-        nommeLaSuite(*annuler, annulation.aAnnuler, tr("Ctrl+Z"));
-        nommeLaSuite(*retablir, annulation.aRetablir, tr("Ctrl+Maj+Z"));
-    });
-
-    // Progress shown in its place is two words, and short ones do not move what follows.
     auto* nom = new QWidget;
     auto* moities = rangee({nom1, nom2}, 0);
     moities->setContentsMargins(0, 0, 0, 0);
@@ -108,19 +54,95 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     nom->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     atelier.liaison.apresEcriture(
         [moities, etat = &atelier.etats().nom] { moities->setSpacing(etat->estLeNom() ? 0 : kSerre); });
+    return nom;
+}
 
-    auto* boite = rangee({nom}, 0);
+QWidget* version(const Atelier& atelier) {
+    auto* texte = nomme((new Etiquette)->avecPolice(0.85)->avecTon(Ton::Discret), "Label13");
+    texte->setContentsMargins(0, 0, 0, kSerre);
+    atelier.liaison.lie(atelier.etats().fonctions.Label13, texte);
+    return texte;
+}
+
+// The ways to the panels; the one that is shown is pressed.
+std::array<BoutonDePanneau*, 4> panneaux(const Atelier& atelier) {
+    auto* recherche =
+        fonction<BoutonDePanneau>("cmdFonctionRecherche", BarreFonctions::tr("Rec&hercher"), Pictogramme::Loupe,
+                                  BarreFonctions::tr("Chercher des films dans la base (Ctrl+F ; Échap pour revenir)"));
+    auto* ajout = fonction<BoutonDePanneau>(
+        "cmdAfficherFonctions", BarreFonctions::tr("A&jouter"), Pictogramme::Plus,
+        BarreFonctions::tr("Ajouter des films à la base (Ctrl+N pour une saisie ; Échap pour revenir)"));
+    auto* outils =
+        fonction<BoutonDePanneau>("cmdConfigurer", BarreFonctions::tr("&Outils"), Pictogramme::Reglages,
+                                  BarreFonctions::tr("Entretenir la base et régler le programme (Échap pour revenir)"));
+    auto* collection = fonction<BoutonDePanneau>(
+        "cmdCollection", BarreFonctions::tr("Collection"), Pictogramme::Collection,
+        BarreFonctions::tr("La collection d'un coup d'œil : affiches, prêts, statistiques… (Ctrl+L)"));
+    atelier.liaison.apresEcriture([=, etats = &atelier.etats()] {
+        const bool fonctions = etats->panneaux.frameListeFonctions.Visible;
+        const bool ajoute = fonctions && etats->fonctions.frameDivers.Visible;
+        collection->setChecked(etats->panneaux.frameCollection.Visible);
+        recherche->setChecked(etats->panneaux.frameRecherche.Visible);
+        ajout->setChecked(ajoute);
+        outils->setChecked((fonctions && !ajoute) || etats->panneaux.frameMultiSuppression.Visible);
+    });
+    atelier.auClic(recherche, browse::cmdFonctionRecherche_Click);
+    atelier.auClic(ajout, app::cmdAfficherFonctions_Click);
+    atelier.auClic(outils, app::cmdConfigurer_Click);
+    atelier.auClic(collection, app::cmdCollection_Click);
+    for (BoutonDePanneau* panneau : {recherche, ajout, outils, collection})
+        seLit(panneau, {.role = QAccessible::Button,
+                        .presse = [panneau] { panneau->click(); },
+                        .enfoncee = [panneau] { return panneau->isChecked(); }});
+    return {recherche, ajout, outils, collection};
+}
+
+std::array<QPushButton*, 2> fleches(const Atelier& atelier) {
+    auto* annuler = fleche("cmdDefaire", BarreFonctions::tr("Annuler"), Pictogramme::Annule);
+    auto* retablir = fleche("cmdRetablir", BarreFonctions::tr("Rétablir"), Pictogramme::Retablit);
+    auto& annulation = atelier.etats().annulation;
+    atelier.liaison.lie(annulation.cmdAnnuler, annuler);
+    atelier.liaison.lie(annulation.cmdRetablir, retablir);
+    atelier.auClic(annuler, app::cmdAnnuler_Click);
+    atelier.auClic(retablir, app::cmdRetablir_Click);
+    atelier.liaison.apresEcriture([annuler, retablir, &annulation] {
+        nommeLaSuite(*annuler, annulation.aAnnuler, BarreFonctions::tr("Ctrl+Z"));
+        nommeLaSuite(*retablir, annulation.aRetablir, BarreFonctions::tr("Ctrl+Maj+Z"));
+    });
+    return {annuler, retablir};
+}
+
+std::array<QPushButton*, 3> duProgramme(const Atelier& atelier) {
+    auto* site = fonction("Image3", BarreFonctions::tr("MovieCovers"), Pictogramme::MovieCovers,
+                          BarreFonctions::tr("Le logo de MovieCovers : un clic ouvre le site"));
+    site->setIconSize({20, 20});
+    auto* aide = fonction("cmdAide", BarreFonctions::tr("À propos"), Pictogramme::Aide,
+                          BarreFonctions::tr("À propos d'Ambrelis (F1 : le guide)"));
+    auto* sortie = fonction("cmdStop", BarreFonctions::tr("&Quitter"), Pictogramme::Sortie,
+                            BarreFonctions::tr("Enregistrer les réglages et quitter (Ctrl+Q)"));
+    atelier.auClic(site, app::Image3_Click);
+    atelier.auClic(aide, app::cmdAide_Click);
+    atelier.auClic(sortie, &app::Session::cmdStop_Click);
+    return {site, aide, sortie};
+}
+
+}  // namespace
+
+BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidget(parent) {
+    seLit(this, {.role = QAccessible::ToolBar});
+    setAccessibleName(tr("Fonctions"));
+    auto* boite = rangee({nomDuProgramme(atelier)}, 0);
     boite->setContentsMargins(kGrand, kPetit, kPetit, kPetit);
     boite->addSpacing(kPetit);
-    boite->addWidget(version, 0, Qt::AlignBottom);
+    boite->addWidget(version(atelier), 0, Qt::AlignBottom);
     boite->addSpacing(kLarge);
-    for (BoutonDePanneau* gauche : {recherche, ajout, outils, collection})
+    for (QPushButton* gauche : panneaux(atelier))
         boite->addWidget(gauche);
     boite->addSpacing(kMoyen);
-    for (QPushButton* gauche : {annuler, retablir})
+    for (QPushButton* gauche : fleches(atelier))
         boite->addWidget(gauche);
     boite->addStretch();
-    for (QPushButton* droite : {site, aide, sortie})
+    for (QPushButton* droite : duProgramme(atelier))
         boite->addWidget(droite);
     setLayout(boite);
 }

@@ -1,75 +1,32 @@
 #include "ui/FenetreExport.h"
 
-#include "export/DernierExport.h"
-#include "platform/fichiers/CheminTape.h"
-#include "platform/fichiers/Fichiers.h"
-#include "platform/fichiers/Remplacement.h"
 #include "ui/Boutons.h"
 #include "ui/Composition.h"
+#include "ui/CoursExport.h"
+#include "ui/DestinationExport.h"
 #include "ui/EcranQt.h"
 #include "ui/FenetreGuide.h"
-#include "ui/ImagesQt.h"
-#include "ui/Interface.h"
-#include "util/Nombres.h"
-#include "util/NomsFichiers.h"
-#include "util/Texte.h"
 
-#include <QBuffer>
 #include <QButtonGroup>
 #include <QCloseEvent>
-#include <QDir>
 #include <QListWidget>
 #include <QPaintEngine>
-#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QProgressBar>
 #include <QRadioButton>
-#include <QStandardPaths>
 
 namespace ui {
 
 namespace {
 
-using exportation::Bilan;
 using exportation::Champ;
 using exportation::Champs;
 
 constexpr QSize kTaille{800, 540};
-const QString kCleDossier = QStringLiteral("Export/dossier");
-constexpr int kPagesDApercu = 40, kResolutionPdf = 600;
-constexpr qreal kMarge = 15;  // millimetres
-constexpr int kToutesLesPages = std::numeric_limits<int>::max();
 
-struct Format {
-    const char *legende, *infobulle, *extension, *explication;
-};
-constexpr std::array<Format, FenetreExport::kSorties> kFormats{{
-    {QT_TRANSLATE_NOOP("ui::FenetreExport", "&Tableau (CSV)"),
-     QT_TRANSLATE_NOOP("ui::FenetreExport", "Pour un tableur, ou un autre programme"), ".csv",
-     QT_TRANSLATE_NOOP("ui::FenetreExport",
-                       "Une ligne par film et par exemplaire, pour LibreOffice ou un autre tableur. Ambrelis sait la "
-                       "relire.")},
-    {QT_TRANSLATE_NOOP("ui::FenetreExport", "Page &web (HTML)"),
-     QT_TRANSLATE_NOOP("ui::FenetreExport", "Un seul fichier, à montrer ou à envoyer"), ".html",
-     QT_TRANSLATE_NOOP("ui::FenetreExport",
-                       "Une page d'un seul fichier, avec les affiches, où l'on cherche et que l'on imprime.")},
-    {QT_TRANSLATE_NOOP("ui::FenetreExport", "Document &PDF"),
-     QT_TRANSLATE_NOOP("ui::FenetreExport", "Un catalogue en pages"), ".pdf",
-     QT_TRANSLATE_NOOP("ui::FenetreExport", "Un catalogue en pages A4.")},
-    {QT_TRANSLATE_NOOP("ui::FenetreExport", "&Imprimante"),
-     QT_TRANSLATE_NOOP("ui::FenetreExport", "Un catalogue sur papier"), "",
-     QT_TRANSLATE_NOOP("ui::FenetreExport", "Un catalogue sur papier.")},
-    {QT_TRANSLATE_NOOP("ui::FenetreExport", "&Fiches .FILM"),
-     QT_TRANSLATE_NOOP("ui::FenetreExport", "Un dossier de fiches et d'affiches, à importer ailleurs"), "",
-     QT_TRANSLATE_NOOP(
-         "ui::FenetreExport",
-         "Un nouveau dossier de fiches et d'affiches, que l'on importe ailleurs. La note, la date d'ajout "
-         "et ce qui touche aux exemplaires n'y ont pas de place.")},
-}};
-
-constexpr std::size_t rang(FenetreExport::Sortie sortie) {
+constexpr std::size_t rang(Sortie sortie) {
     return static_cast<std::size_t>(sortie);
 }
 
@@ -85,46 +42,10 @@ const Champs kPourMontrer =
     ceux({Champ::Titre, Champ::Realisateur, Champ::Annee, Champ::Origine, Champ::Genre, Champ::Duree, Champ::Acteurs,
           Champ::Resume, Champ::Note, Champ::Affiche, Champ::Support});
 
-// A stream that Qt writes to and that a file is made of in the end.
-class Flot final : public QIODevice {
-  public:
-    explicit Flot(fichiers::Remplacement& fichier) : m_fichier(fichier) { open(QIODevice::WriteOnly); }
-    bool isSequential() const override { return true; }
-
-  protected:
-    qint64 readData(char*, qint64) override { return -1; }
-    qint64 writeData(const char* octets, qint64 nombre) override {
-        return m_fichier.ecrit({octets, static_cast<std::size_t>(nombre)}) ? nombre : -1;
-    }
-
-  private:
-    fichiers::Remplacement& m_fichier;
-};
-
-exportation::Vignette reduit(const std::string& octets, int largeur) {
-    constexpr int kQualite = 78;
-    const QImage image = afficheReduite(QByteArray::fromRawData(octets.data(), static_cast<qsizetype>(octets.size())),
-                                        {largeur, 2 * largeur});
-    exportation::Vignette vignette;
-    if (image.isNull()) return vignette;
-    QByteArray jpeg;
-    QBuffer tampon(&jpeg);
-    tampon.open(QIODevice::WriteOnly);
-    if (!image.save(&tampon, "JPG", kQualite)) return vignette;
-    vignette.jpeg = jpeg.toStdString();
-    vignette.largeur = image.width();
-    vignette.hauteur = image.height();
-    return vignette;
-}
-
 // Whether it only wants pages to look at: Qt gives the slot that paints them no other sign.
 bool estUnApercu(const QPrinter& imprimante) {
     const QPaintEngine* moteur = imprimante.paintEngine();
     return moteur && moteur->type() == QPaintEngine::Picture;
-}
-
-void metMarges(QPagedPaintDevice& papier) {
-    papier.setPageMargins({kMarge, kMarge, kMarge, kMarge}, QPageLayout::Millimeter);
 }
 
 }  // namespace
@@ -135,7 +56,7 @@ FenetreExport::FenetreExport(const Atelier& atelier, QWidget* parent)
       m_champs(nomme(new QListWidget, "lstChampsExport", tr("Ce que l'on écrit de chaque film"))),
       m_miseEnPage(nomme(new ListeDeroulante, "cboMiseEnPage")),
       m_explication((new Etiquette)->avecTon(Ton::Discret)->avecLignes(5)),
-      m_chemin(nomme(new QLineEdit, "txtCheminExport")),
+      m_destination(new DestinationExport(atelier)),
       m_progression(nomme(new QProgressBar, "barreExport", tr("Avancement"))),
       m_arreter(bouton("cmdArreterExport", tr("&Arrêter"), tr("Arrêter ; rien n'est écrit (Échap)"))),
       m_apercu(bouton("cmdApercuExport", tr("Aperç&u…"), tr("Voir les premières pages"))),
@@ -148,7 +69,6 @@ FenetreExport::FenetreExport(const Atelier& atelier, QWidget* parent)
     m_champsDe.fill(kPourMontrer);
     m_champsDe[rang(Sortie::Tableau)] = Champs::tous();
     m_champsDe[rang(Sortie::Page)].met(Champ::Possede);
-    choisisLeDossier();
     m_contenu = new QWidget;
     auto* gauche = colonne(kMoyen);
     gauche->addLayout(quoi());
@@ -160,7 +80,7 @@ FenetreExport::FenetreExport(const Atelier& atelier, QWidget* parent)
     auto* contenu = colonne(kMoyen);
     contenu->setContentsMargins(0, 0, 0, 0);
     contenu->addLayout(cotes, 1);
-    contenu->addLayout(ou());
+    contenu->addWidget(m_destination);
     m_contenu->setLayout(contenu);
     auto* boite = new QVBoxLayout(this);
     boite->setContentsMargins(kGrand, kGrand, kGrand, kGrand);
@@ -193,10 +113,9 @@ QLayout* FenetreExport::enQuoi() {
     auto* boite = colonne(kSerre);
     auto* groupe = new QButtonGroup(this);
     boite->addWidget((new Etiquette(tr("En quoi ?")))->avecPolice(1.08, QFont::DemiBold));
-    const char* const noms[] = {"optCsv", "optHtml", "optPdf", "optPapier", "optFiches"};
-    for (std::size_t i = 0; i < kSorties; ++i) {
-        m_sorties[i] = nomme(new QRadioButton(tr(kFormats[i].legende)), noms[i]);
-        m_sorties[i]->setToolTip(tr(kFormats[i].infobulle));
+    for (std::size_t i = 0; i < kSorties.size(); ++i) {
+        m_sorties[i] = nomme(new QRadioButton(tr(kSorties[i].legende)), kSorties[i].nom);
+        m_sorties[i]->setToolTip(tr(kSorties[i].infobulle));
         groupe->addButton(m_sorties[i]);
         boite->addWidget(m_sorties[i]);
         connect(m_sorties[i], &QRadioButton::toggled, this, [this](bool choisie) {
@@ -227,22 +146,6 @@ QLayout* FenetreExport::champs() {
     return boite;
 }
 
-QLayout* FenetreExport::ou() {
-    auto* parcourir = bouton("cmdParcourirExport", tr("Pa&rcourir…"), tr("Choisir où écrire"));
-    connect(parcourir, &QAbstractButton::clicked, this, &FenetreExport::parcourt);
-    connect(m_chemin, &QLineEdit::textEdited, this, [this] { m_remplacable.clear(); });
-    m_cadreOu = new QWidget;
-    auto* saisie = rangee({m_chemin, parcourir});
-    auto* boite = colonne(kSerre);
-    boite->setContentsMargins(0, 0, 0, 0);
-    boite->addWidget(legende(tr("&Où ?"), m_chemin));
-    boite->addLayout(saisie);
-    m_cadreOu->setLayout(boite);
-    auto* cadre = colonne(0);
-    cadre->addWidget(m_cadreOu);
-    return cadre;
-}
-
 QLayout* FenetreExport::pied() {
     m_progression->setTextVisible(false);
     m_progression->setFixedHeight(8);
@@ -263,25 +166,8 @@ QLayout* FenetreExport::pied() {
     return boutons;
 }
 
-void FenetreExport::choisisLeDossier() {
-    const std::string programme = m_atelier.session.regarde([](const app::Contexte& c) { return c.chemins.dossier; });
-    for (const QString& dossier :
-         {Interface(programme).texte(kCleDossier), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
-          QDir::homePath()}) {
-        m_dossier = dossier;
-        if (!dossier.isEmpty() && QDir(dossier).exists()) return;
-    }
-}
-
-void FenetreExport::retiensLeDossier(const std::string& chemin) {
-    m_dossier = QFileInfo(QString::fromStdString(chemin)).absolutePath();
-    Interface(m_atelier.session.regarde([](const app::Contexte& c) {
-        return c.chemins.dossier;
-    })).note(kCleDossier, m_dossier);
-}
-
-FenetreExport::Sortie FenetreExport::sortie() const {
-    for (std::size_t i = 0; i < kSorties; ++i)
+Sortie FenetreExport::sortie() const {
+    for (std::size_t i = 0; i < kSorties.size(); ++i)
         if (m_sorties[i]->isChecked()) return static_cast<Sortie>(i);
     return Sortie::Tableau;
 }
@@ -315,48 +201,37 @@ void FenetreExport::presente() {
                 etendue->setChecked(true);
                 break;
             }
-    m_remplacable.clear();
-    m_chemin->setModified(false);
+    m_destination->oublieLaSaisie();
     suisLaSortie();
     open();
 }
 
 void FenetreExport::suisLaSortie() {
     m_montree = sortie();
-    const bool papier = m_montree == Sortie::Papier, pages = papier || m_montree == Sortie::Pdf;
+    const SortieExport& celle = description(m_montree);
+    const bool papier = celle.forme == SortieExport::Forme::Imprimante;
     const auto unFilm = [](const QRadioButton* etendue) { return etendue && etendue->isEnabled(); };
-    m_explication->setText(tr(kFormats[rang(m_montree)].explication));
-    m_cadrePapier->setVisible(pages);
-    m_cadreOu->setVisible(!papier);
-    m_apercu->setVisible(pages);
+    m_explication->setText(tr(celle.explication));
+    m_cadrePapier->setVisible(celle.enPages);
+    m_destination->setVisible(!papier);
+    m_apercu->setVisible(celle.enPages);
     m_exporter->setText(papier ? tr("&Imprimer…") : tr("E&xporter"));
     m_exporter->setEnabled(std::any_of(m_etendues.begin(), m_etendues.end(), unFilm));
     m_apercu->setEnabled(m_exporter->isEnabled());
     proposeLesChamps();
-    const QString extension = QString::fromLatin1(kFormats[rang(m_montree)].extension);
-    if (!m_chemin->isModified()) {
-        static const std::array<QString, 3> noms{tr("Liste de films"), tr("Films choisis"), tr("Tous les films")};
-        const QString nom =
-            m_montree == Sortie::Fiches ? tr("Fiches d'Ambrelis") : noms[static_cast<std::size_t>(etendue())];
-        m_chemin->setText(m_dossier + QLatin1Char('/') + nom + extension);
-    } else if (!extension.isEmpty()) {
-        const std::string sans = fichiers::sansExtension(m_chemin->text().toStdString());
-        m_chemin->setText(QString::fromStdString(sans) + extension);
-        m_chemin->setModified(true);
-    }
-    m_remplacable.clear();
+    static const std::array<QString, 3> noms{tr("Liste de films"), tr("Films choisis"), tr("Tous les films")};
+    m_destination->propose(
+        m_montree, m_montree == Sortie::Fiches ? tr("Fiches d'Ambrelis") : noms[static_cast<std::size_t>(etendue())]);
 }
 
 // Those that the output has a place for.
 void FenetreExport::proposeLesChamps() {
     const QSignalBlocker muet(m_champs);
-    const bool pages = m_montree == Sortie::Papier || m_montree == Sortie::Pdf;
-    const auto miseEnPage = m_miseEnPage->currentIndex() == 0 ? MiseEnPage::Fiches : MiseEnPage::Liste;
     const Champs& voulus = m_champsDe[rang(m_montree)];
     for (int i = 0; i < m_champs->count(); ++i) {
         const auto champ = static_cast<Champ>(i);
         QListWidgetItem& ligne = *m_champs->item(i);
-        ligne.setHidden(pages && !CatalogueSurPapier::montre(miseEnPage, champ));
+        ligne.setHidden(description(m_montree).enPages && !CatalogueSurPapier::montre(miseEnPage(), champ));
         ligne.setCheckState(m_montree == Sortie::Fiches
                                 ? (champ <= Champ::Production || champ == Champ::Affiche ? Qt::Checked : Qt::Unchecked)
                             : voulus.contient(champ) ? Qt::Checked
@@ -371,171 +246,36 @@ void FenetreExport::noteLesChamps() {
         champs.met(static_cast<Champ>(i), m_champs->item(i)->checkState() == Qt::Checked);
 }
 
-exportation::Champs FenetreExport::champsCoches() const {
+MiseEnPage FenetreExport::miseEnPage() const {
+    return m_miseEnPage->currentIndex() == 0 ? MiseEnPage::Fiches : MiseEnPage::Liste;
+}
+
+ExportVoulu FenetreExport::voulu() const {
     Champs champs = m_champsDe[rang(m_montree)];
     if (champs == Champs()) champs.met(Champ::Titre);  // a film is something at least
-    return champs;
-}
-
-void FenetreExport::parcourt() {
-    const std::string ici = cheminVoulu(), extension = kFormats[rang(m_montree)].extension;
-    std::string choisi;
-    m_atelier.execute([&](const app::Contexte& c) {
-        const std::string dossier = fichiers::dossierDe(ici), nom = fichiers::nomDeFichier(ici);
-        if (m_montree == Sortie::Fiches) {
-            choisi = c.dialogues.choisitDossier(tr("Où faire le nouveau dossier de fiches").toStdString(), dossier);
-            if (!choisi.empty()) choisi = util::avecSeparateur(choisi) + nom;
-            return;
-        }
-        choisi = c.dialogues.choisitFichier(
-            {.titre = tr("Exporter").toStdString(),
-             .filtre = "Fichiers " + util::majuscules(extension.substr(1)) + "|*" + extension,
-             .dossier = dossier,
-             .peutCreer = true,
-             .nom = nom});
-        m_remplacable = choisi;  // the box asked
-    });
-    if (choisi.empty()) return;
-    m_chemin->setText(QString::fromStdString(choisi));
-    m_chemin->setModified(true);
-    m_dossier = QFileInfo(m_chemin->text()).absolutePath();
-}
-
-std::string FenetreExport::cheminVoulu() const {
-    std::string chemin =
-        fichiers::cheminTape(m_chemin->text().trimmed().toStdString(), util::avecSeparateur(m_dossier.toStdString()));
-    const std::string extension = kFormats[rang(m_montree)].extension;
-    const bool nomme = !chemin.empty() && !chemin.ends_with('/') && !fichiers::estCheminWindows(chemin);
-    if (nomme && !util::finitPar(util::minuscules(chemin), extension)) chemin += extension;
-    return chemin;
-}
-
-// The questions before anything is written; never over a file that nobody agreed to replace.
-bool FenetreExport::peutEcrire(const std::string& chemin) {
-    std::string refus;
-    if (chemin.empty() || (chemin.ends_with('/') && m_montree != Sortie::Fiches))
-        refus = "Donnez un nom à ce que vous exportez.";
-    else if (fichiers::estCheminWindows(chemin))
-        refus = "« " + chemin + " » est un chemin de Windows : choisissez une place sur cet ordinateur.";
-    else if (m_montree == Sortie::Fiches)
-        refus = exportation::refusDossierFiches(chemin).value_or("");
-    else if (fichiers::dossierExiste(chemin))
-        refus = chemin + " est un dossier : donnez le nom d'un fichier.";
-    bool accord = refus.empty();
-    m_atelier.execute([&](const app::Contexte& c) {
-        if (!accord) {
-            c.dialogues.MsgBox(refus, dialogues::kExclamation);
-        } else if (m_montree != Sortie::Fiches && chemin != m_remplacable && fichiers::existe(chemin)) {
-            accord = c.dialogues.MsgBox("Le fichier " + chemin + " existe déjà. Voulez-vous le remplacer ?",
-                                        dialogues::kQuestion) == dialogues::kOui;
-        }
-    });
-    return accord;
+    return {m_montree, etendue(), champs, miseEnPage()};
 }
 
 void FenetreExport::exporte() {
     if (m_montree == Sortie::Papier) return imprime();
-    const std::string chemin = cheminVoulu();
-    if (peutEcrire(chemin)) exporteVers(chemin);
-}
-
-void FenetreExport::exporteVers(const std::string& chemin) {
-    bool faite = false;
-    m_auTravail = true;
-    m_atelier.execute([&](const app::Contexte& c) {
-        if (m_montree != Sortie::Pdf) {
-            const auto format = m_montree == Sortie::Tableau ? app::DemandeDExport::Format::Tableau
-                                : m_montree == Sortie::Page  ? app::DemandeDExport::Format::Page
-                                                             : app::DemandeDExport::Format::Fiches;
-            faite = app::exporte(c, {format, etendue(), champsCoches(), chemin}, reduit);
-            return;
-        }
-        app::FilmsChoisis choix = app::filmsAExporter(c, etendue());
-        fichiers::Remplacement fichier(chemin);
-        Flot flot(fichier);
-        QPdfWriter pdf(&flot);
-        pdf.setResolution(kResolutionPdf);
-        pdf.setPageSize(QPageSize(QPageSize::A4));
-        metMarges(pdf);
-        pdf.setTitle(QString::fromStdString(choix.films.nom));
-        pdf.setCreator(QStringLiteral("Ambrelis"));
-        Bilan bilan = dessine(c, choix, pdf, kResolutionPdf, kToutesLesPages);
-        if (bilan.issue == Bilan::Issue::Faite && !fichier.termine()) bilan.issue = Bilan::Issue::Echouee;
-        if (bilan.issue == Bilan::Issue::Arretee && !fichier.raison().empty()) bilan.issue = Bilan::Issue::Echouee;
-        bilan.raison = fichier.raison();
-        if (etendue() == app::Etendue::Base) app::noteLesPossessionsSansFiche(c, bilan);
-        exportation::annonceBilan(c, bilan, chemin);
-        faite = bilan.issue == Bilan::Issue::Faite;
-    });
-    m_auTravail = false;
-    suisLeTravail();
-    if (!faite) return;
-    retiensLeDossier(chemin);
+    const auto chemin = m_destination->cheminAccorde();
+    if (!chemin || !travaille([&](const app::Contexte& c) { return exporteVers(c, voulu(), *chemin); })) return;
+    m_destination->retiens(*chemin);
     accept();
 }
 
-CatalogueSurPapier::Sujet FenetreExport::sujet(const app::Contexte& c, const exportation::FilmsAExporter& films) const {
-    return {.titre = films.nom,
-            .date = c.horloge.dateDuJour(),
-            .films = static_cast<long>(films.lignes.size()),
-            .groupes = films.groupes,
-            .champs = champsCoches(),
-            .miseEnPage = m_miseEnPage->currentIndex() == 0 ? MiseEnPage::Fiches : MiseEnPage::Liste};
-}
-
-// Stopped by the user, or at the last page that is wanted: the rest is not drawn.
-Bilan FenetreExport::dessine(const app::Contexte& c, app::FilmsChoisis& choix, QPagedPaintDevice& papier,
-                             int resolution, int pagesAuPlus) const {
-    CatalogueSurPapier catalogue(papier, resolution, sujet(c, choix.films));
-    const bool affiches = m_miseEnPage->currentIndex() == 0 && champsCoches().contient(Champ::Affiche);
-    const QSize pixels = CatalogueSurPapier::pixelsDAffiche(std::ssize(choix.films.lignes));
-    exportation::LecteurDesFilms lecteur(c, choix.liste(c), choix.films, affiches);
-    Bilan bilan;
-    if (!catalogue.commence()) {
-        bilan.issue = Bilan::Issue::Echouee;
-        return bilan;
-    }
-    bool refus = false;
-    const bool complet = exportation::parcourt(
-        c, lecteur, choix.films,
-        [&](const exportation::FilmExporte& film) {
-            if (catalogue.pages() > pagesAuPlus) return false;
-            QImage affiche;
-            if (affiches)
-                if (const auto octets = lecteur.affiche(film))
-                    affiche = afficheReduite(
-                        QByteArray::fromRawData(octets->data(), static_cast<qsizetype>(octets->size())), pixels);
-            refus = !catalogue.ajoute(film, affiche);
-            return !refus;
-        },
-        bilan);
-    const bool finie = catalogue.termine() && !refus;
-    if (!finie) bilan.issue = Bilan::Issue::Echouee;
-    if (finie && !complet && catalogue.pages() <= pagesAuPlus) bilan.issue = Bilan::Issue::Arretee;
-    return bilan;
-}
-
-bool FenetreExport::surImprimante(QPrinter& imprimante, int pagesAuPlus) {
-    Bilan bilan;
-    m_auTravail = pagesAuPlus == kToutesLesPages;
-    m_atelier.execute([&](const app::Contexte& c) {
-        app::FilmsChoisis choix = app::filmsAExporter(c, etendue());
-        bilan = dessine(c, choix, imprimante, imprimante.resolution(), pagesAuPlus);
-        if (bilan.issue == Bilan::Issue::Arretee) imprimante.abort();
-        if (!std::exchange(m_auTravail, false)) return;
-        const std::string fichier = imprimante.outputFileName().toStdString();
-        if (bilan.issue == Bilan::Issue::Arretee)
-            c.avis.montre("Impression arrêtée.");
-        else if (bilan.issue == Bilan::Issue::Echouee)
-            c.avis.montre("L'impression n'a pas pu se faire : l'imprimante ou le fichier ne peut pas être écrit.");
-        else if (fichier.empty())
-            c.avis.montre(util::phraseCompte(bilan.films, "# film est", "# films sont") + " à l'impression.");
-        else
-            exportation::annonceBilan(c, bilan, fichiers::absolu(fichier));
-    });
+// What it shows meanwhile is how far it is, and how to stop it.
+bool FenetreExport::travaille(const std::function<bool(const app::Contexte&)>& travail) {
+    bool fait = false;
+    m_auTravail = true;
+    m_atelier.execute([&](const app::Contexte& c) { fait = travail(c); });
     m_auTravail = false;
     suisLeTravail();
-    return bilan.issue == Bilan::Issue::Faite;
+    return fait;
+}
+
+bool FenetreExport::surImprimante(QPrinter& imprimante) {
+    return travaille([&](const app::Contexte& c) { return imprimeExport(c, voulu(), imprimante); });
 }
 
 void FenetreExport::imprime() {
@@ -545,10 +285,10 @@ void FenetreExport::imprime() {
     QPrintDialog boite(&imprimante, this);
     boite.setWindowTitle(tr("Imprimer"));
     if (boite.exec() != QDialog::Accepted) return;
-    if (surImprimante(imprimante, kToutesLesPages)) accept();
+    if (surImprimante(imprimante)) accept();
 }
 
-// The first pages: all those of a large catalogue would be kept in memory.
+// From the preview the whole catalogue can be printed.
 void FenetreExport::apercu() {
     QPrinter imprimante(QPrinter::HighResolution);
     imprimante.setPageSize(QPageSize(QPageSize::A4));
@@ -558,7 +298,10 @@ void FenetreExport::apercu() {
     boite.setWindowTitle(tr("Aperçu avant impression (%1 premières pages au plus)").arg(kPagesDApercu));
     boite.resize(size().expandedTo({760, 560}));
     connect(&boite, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter* demandee) {
-        static_cast<void>(surImprimante(*demandee, estUnApercu(*demandee) ? kPagesDApercu - 1 : kToutesLesPages));
+        if (estUnApercu(*demandee))
+            m_atelier.execute([&](const app::Contexte& c) { dessineApercu(c, voulu(), *demandee); });
+        else
+            static_cast<void>(surImprimante(*demandee));
     });
     boite.exec();
 }

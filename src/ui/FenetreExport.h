@@ -1,14 +1,13 @@
 #pragma once
 
-#include "app/Exporter.h"
 #include "ui/Atelier.h"
-#include "ui/ExportPapier.h"
+#include "ui/CoursExport.h"
 
 #include <QDialog>
 #include <array>
+#include <functional>
 
 class QComboBox;
-class QLineEdit;
 class QListWidget;
 class QPrinter;
 class QProgressBar;
@@ -17,6 +16,7 @@ class QRadioButton;
 namespace ui {
 
 class BoutonAccent;
+class DestinationExport;
 class Etiquette;
 
 // Which films, as what, with which fields, where to: all that leaves the program beside the lists. What is being done shows
@@ -24,9 +24,6 @@ class Etiquette;
 class FenetreExport final : public QDialog {
     Q_OBJECT
   public:
-    enum class Sortie { Tableau, Page, Pdf, Papier, Fiches };
-    static constexpr std::size_t kSorties = 5;
-
     FenetreExport(const Atelier& atelier, QWidget* parent);
     void presente();  // for the listing that is shown now
 
@@ -38,48 +35,36 @@ class FenetreExport final : public QDialog {
     [[nodiscard]] QLayout* quoi();
     [[nodiscard]] QLayout* enQuoi();
     [[nodiscard]] QLayout* champs();
-    [[nodiscard]] QLayout* ou();
     [[nodiscard]] QLayout* pied();
     void proposeLesChamps();
-    void choisisLeDossier();  // where the last export went, else the user's documents
-    void retiensLeDossier(const std::string& chemin);
     [[nodiscard]] Sortie sortie() const;
     [[nodiscard]] app::Etendue etendue() const;
     void suisLaSortie();
     void suisLeTravail();
     void noteLesChamps();
-    [[nodiscard]] exportation::Champs champsCoches() const;
-    void parcourt();
-    [[nodiscard]] std::string cheminVoulu() const;
-    [[nodiscard]] bool peutEcrire(const std::string& chemin);
+    [[nodiscard]] MiseEnPage miseEnPage() const;
+    [[nodiscard]] ExportVoulu voulu() const;
     void exporte();
-    void exporteVers(const std::string& chemin);
     void imprime();
     void apercu();
-    [[nodiscard]] CatalogueSurPapier::Sujet sujet(const app::Contexte& c,
-                                                  const exportation::FilmsAExporter& films) const;
-    [[nodiscard]] exportation::Bilan dessine(const app::Contexte& c, app::FilmsChoisis& choix,
-                                             QPagedPaintDevice& papier, int resolution, int pagesAuPlus) const;
-    [[nodiscard]] bool surImprimante(QPrinter& imprimante, int pagesAuPlus);
+    [[nodiscard]] bool surImprimante(QPrinter& imprimante);
+    [[nodiscard]] bool travaille(const std::function<bool(const app::Contexte&)>& travail);
 
     const Atelier m_atelier;
     std::array<QRadioButton*, 3> m_etendues{};
-    std::array<QRadioButton*, kSorties> m_sorties{};
-    std::array<exportation::Champs, kSorties> m_champsDe;
+    std::array<QRadioButton*, kSorties.size()> m_sorties{};
+    std::array<exportation::Champs, kSorties.size()> m_champsDe;
     QListWidget* m_champs;
     QComboBox* m_miseEnPage;
     QWidget* m_cadrePapier;
-    QWidget* m_cadreOu;
     Etiquette* m_explication;
-    QLineEdit* m_chemin;
+    DestinationExport* m_destination;
     QProgressBar* m_progression;
     QPushButton* m_arreter;
     QPushButton* m_apercu;
     QPushButton* m_fermer;
     BoutonAccent* m_exporter;
     QWidget* m_contenu;
-    std::string m_remplacable;  // the file that the user agreed to replace when he chose it
-    QString m_dossier;          // where he chose last
     Sortie m_montree = Sortie::Tableau;
     bool m_auTravail = false;
 };

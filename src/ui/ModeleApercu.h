@@ -12,12 +12,13 @@ class ModeleApercu final : public ModeleDeLignes {
     enum Colonne { Film, Realisateur, Avant, Apres };
     ModeleApercu() : ModeleDeLignes({tr("Film"), tr("Réalisateur"), tr("Avant"), tr("Après")}) {}
 
-    void met(std::vector<ensemble::Changement> changements);
-
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    void met(std::vector<ensemble::Changement> changements) {
+        recommence([&] { m_changements = std::move(changements); });
+    }
 
   private:
     [[nodiscard]] int nombre() const override { return static_cast<int>(m_changements.size()); }
+    [[nodiscard]] Cellule cellule(int rang, int colonne) const override;
 
     std::vector<ensemble::Changement> m_changements;
 };

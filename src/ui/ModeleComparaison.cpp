@@ -1,6 +1,5 @@
 #include "ui/ModeleComparaison.h"
 
-#include "ui/DelegueLignes.h"
 #include "ui/Infobulles.h"
 
 #include <algorithm>
@@ -37,9 +36,7 @@ bool ModeleComparaison::seChoisit(const ChampCompare& champ) const {
 }
 
 void ModeleComparaison::met(ensemble::PlanDeFusion plan) {
-    beginResetModel();
-    m_plan = std::move(plan);
-    endResetModel();
+    recommence([&] { m_plan = std::move(plan); });
 }
 
 const ChampCompare& ModeleComparaison::champ(int rang) const {
@@ -60,24 +57,19 @@ void ModeleComparaison::bascule(int rang) {
     if (rang >= 0 && rang < rowCount()) choisit(rang, !champ(rang).prendDroite);
 }
 
-QVariant ModeleComparaison::data(const QModelIndex& index, int role) const {
-    if (!index.isValid()) return {};
-    const ChampCompare& celui = champ(index.row());
-    const bool aDroite = index.column() == Droite;
-    const std::string& valeur = aDroite ? celui.droite : celui.gauche;
-    const bool differe = celui.differe() && !m_seule;
-    if (role == kLigneForte) return differe;
-    if (role == kLigneDiscrete) return !differe && !m_seule;
-    if (index.column() == Champ) {
-        if (role == Qt::AccessibleTextRole) return ligneLue(index);
-        if (role != Qt::DisplayRole) return {};
-        return (differe ? QStringLiteral("≠ ") : QString()) + QString::fromStdString(celui.legende);
+Cellule ModeleComparaison::cellule(int rang, int colonne) const {
+    const ChampCompare& celui = champ(rang);
+    const bool differe = celui.differe() && !m_seule, aDroite = colonne == Droite;
+    Cellule resultat{.texte = {}, .forte = differe, .discrete = !differe && !m_seule};
+    if (colonne == Champ) {
+        resultat.texte = (differe ? QStringLiteral("≠ ") : QString()) + QString::fromStdString(celui.legende);
+        return resultat;
     }
-    if (role == Qt::DisplayRole) return enUneLigne(celui, valeur);
-    if (role == Qt::ToolTipRole && !valeur.empty()) return enInfobulle(QString::fromStdString(valeur));
-    if (role == Qt::CheckStateRole && seChoisit(celui))
-        return celui.prendDroite == aDroite ? Qt::Checked : Qt::Unchecked;
-    return {};
+    const std::string& valeur = aDroite ? celui.droite : celui.gauche;
+    resultat.texte = enUneLigne(celui, valeur);
+    if (!valeur.empty()) resultat.infobulle = enInfobulle(QString::fromStdString(valeur));
+    if (seChoisit(celui)) resultat.cochee = celui.prendDroite == aDroite;
+    return resultat;
 }
 
 }  // namespace ui

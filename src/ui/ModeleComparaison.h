@@ -21,12 +21,11 @@ class ModeleComparaison final : public ModeleDeLignes {
     void choisit(int rang, bool droite);
     void bascule(int rang);
 
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-
   private:
     [[nodiscard]] int nombre() const override {
         return static_cast<int>(m_plan.film.size() + m_plan.possession.size());
     }
+    [[nodiscard]] Cellule cellule(int rang, int colonne) const override;
     [[nodiscard]] const ensemble::ChampCompare& champ(int rang) const;
     [[nodiscard]] bool seChoisit(const ensemble::ChampCompare& champ) const;
 

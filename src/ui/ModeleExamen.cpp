@@ -1,16 +1,6 @@
 #include "ui/ModeleExamen.h"
 
-#include "ui/DelegueLignes.h"
-
 namespace ui {
-
-namespace {
-
-bool peutEtreCochee(const edit::FilmExamine& film) {
-    return edit::peutEtreAjoute(film) || edit::peutEtreComplete(film);
-}
-
-}  // namespace
 
 ModeleExamen::ModeleExamen(std::vector<edit::FilmExamine> films, const QString& provenance)
     : ModeleDeLignes({tr("Film"), tr("Réalisateur"), tr("Année"), tr("À l'import"), tr("Affiche"), provenance}),
@@ -28,8 +18,8 @@ std::vector<std::size_t> ModeleExamen::cochees(bool (*convient)(const edit::Film
 
 void ModeleExamen::coche(const std::vector<int>& rangs, bool cochee) {
     for (const int rang : rangs)
-        if (peutEtreCochee(film(rang))) m_cochees[static_cast<std::size_t>(rang)] = cochee;
-    if (!rangs.empty()) emit dataChanged(index(0, Film), index(nombre() - 1, Film), {Qt::CheckStateRole});
+        if (peutEtreCochee(rang)) m_cochees[static_cast<std::size_t>(rang)] = cochee;
+    if (!rangs.empty()) cochesChangent();
 }
 
 void ModeleExamen::completees(const std::vector<std::size_t>& rangs) {
@@ -38,14 +28,11 @@ void ModeleExamen::completees(const std::vector<std::size_t>& rangs) {
         m_films[rang].affiche = edit::SortDeLAffiche::SansObjet;
         m_cochees[rang] = false;
     }
-    if (!rangs.empty()) emit dataChanged(index(0, 0), index(nombre() - 1, columnCount() - 1));
+    if (!rangs.empty()) toutChange();
 }
 
-Qt::ItemFlags ModeleExamen::flags(const QModelIndex& index) const {
-    const Qt::ItemFlags base = ModeleDeLignes::flags(index);
-    return index.isValid() && index.column() == Film && peutEtreCochee(film(index.row()))
-               ? base | Qt::ItemIsUserCheckable
-               : base;
+bool ModeleExamen::peutEtreCochee(int rang) const {
+    return edit::peutEtreAjoute(film(rang)) || edit::peutEtreComplete(film(rang));
 }
 
 QString ModeleExamen::texte(const edit::FilmExamine& film, int colonne) const {
@@ -89,24 +76,19 @@ QString ModeleExamen::ligneEntiere(const edit::FilmExamine& film) const {
     return parties.join(QStringLiteral(", "));
 }
 
-QVariant ModeleExamen::data(const QModelIndex& index, int role) const {
-    if (!index.isValid()) return {};
-    const edit::FilmExamine& celui = film(index.row());
-    const int colonne = index.column();
-    if (role == Qt::DisplayRole) return texte(celui, colonne);
-    if (role == kOrdre) return ordre(celui, colonne);
-    if (role == Qt::AccessibleTextRole) return colonne == Film ? ligneEntiere(celui) : texte(celui, colonne);
-    if (role == Qt::CheckStateRole && colonne == Film && peutEtreCochee(celui))
-        return estCochee(index.row()) ? Qt::Checked : Qt::Unchecked;
-    if (role == kLigneForte) return colonne == Film && edit::peutEtreAjoute(celui);
-    if (role == kLigneDiscrete) return colonne != Film && colonne != Sort;
-    return {};
+Cellule ModeleExamen::cellule(int rang, int colonne) const {
+    const edit::FilmExamine& celui = film(rang);
+    Cellule resultat{.texte = texte(celui, colonne),
+                     .forte = colonne == Film && edit::peutEtreAjoute(celui),
+                     .discrete = colonne != Film && colonne != Sort};
+    if (colonne != Film) return resultat;
+    resultat.entendue = ligneEntiere(celui);
+    if (peutEtreCochee(rang)) resultat.cochee = estCochee(rang);
+    return resultat;
 }
 
-bool ModeleExamen::setData(const QModelIndex& index, const QVariant& valeur, int role) {
-    if (role != Qt::CheckStateRole || !flags(index).testFlag(Qt::ItemIsUserCheckable)) return false;
-    coche({index.row()}, valeur.toInt() == Qt::Checked);
-    return true;
+QVariant ModeleExamen::autreDonnee(const QModelIndex& index, int role) const {
+    return role == kOrdre ? ordre(film(index.row()), index.column()) : QVariant();
 }
 
 ExamenTrie::ExamenTrie(ModeleExamen* modele, QObject* parent) : QSortFilterProxyModel(parent), m_modele(*modele) {

@@ -28,12 +28,12 @@ class ModeleExamen final : public ModeleDeLignes {
     // They were: they lack nothing any more.
     void completees(const std::vector<std::size_t>& rangs);
 
-    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    bool setData(const QModelIndex& index, const QVariant& valeur, int role) override;
-
   private:
     [[nodiscard]] int nombre() const override { return static_cast<int>(m_films.size()); }
+    [[nodiscard]] Cellule cellule(int rang, int colonne) const override;
+    [[nodiscard]] QVariant autreDonnee(const QModelIndex& index, int role) const override;
+    [[nodiscard]] bool peutEtreCochee(int rang) const override;
+    void coche(int rang, bool oui) override { coche(std::vector{rang}, oui); }
     [[nodiscard]] std::vector<std::size_t> cochees(bool (*convient)(const edit::FilmExamine&)) const;
     [[nodiscard]] QString texte(const edit::FilmExamine& film, int colonne) const;
     [[nodiscard]] QVariant ordre(const edit::FilmExamine& film, int colonne) const;

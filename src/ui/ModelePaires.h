@@ -13,12 +13,13 @@ class ModelePaires final : public ModeleDeLignes {
     explicit ModelePaires(const ensemble::PairesAVoir& paires)
         : ModeleDeLignes({tr("Film"), tr("ressemble à"), tr("Titre"), tr("Réali")}), m_paires(paires) {}
 
-    void change() { beginResetModel(), endResetModel(); }  // after each change of the pairs
-
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    void change() {
+        recommence([] {});
+    }  // after each change of the pairs
 
   private:
     [[nodiscard]] int nombre() const override { return static_cast<int>(m_paires.nombre()); }
+    [[nodiscard]] Cellule cellule(int rang, int colonne) const override;
 
     const ensemble::PairesAVoir& m_paires;
 };

@@ -34,7 +34,7 @@ struct ModelePrets::Colonne {
     QString (*texte)(const Pret&);
 };
 
-const std::vector<ModelePrets::Colonne>& ModelePrets::colonnes() const {
+const std::vector<ModelePrets::Colonne>& ModelePrets::colonnesDe(Sorte sorte) {
     const auto depuis = [](const Pret& pret) {  // the heading says the first word
         const QString texte = qt(texteDepuis(pret)), mot = QStringLiteral("depuis ");
         return texte.startsWith(mot) ? texte.mid(mot.size()) : texte;
@@ -54,39 +54,42 @@ const std::vector<ModelePrets::Colonne>& ModelePrets::colonnes() const {
                                                    {tr("Où il est"), TriDesPrets::Personne, ou},
                                                    {tr("Support"), {}, support},
                                                    {tr("Rangement"), {}, rangement}};
-    return m_sorte == Sorte::Prets ? prets : reservations;
+    return sorte == Sorte::Prets ? prets : reservations;
 }
 
-ModelePrets::ModelePrets(Sorte sorte, QObject* parent) : QAbstractTableModel(parent), m_sorte(sorte) {}
+QStringList ModelePrets::titres(Sorte sorte) {
+    QStringList titres;
+    for (const Colonne& colonne : colonnesDe(sorte))
+        titres << colonne.titre;
+    return titres;
+}
+
+const ModelePrets::Colonne& ModelePrets::colonne(int rang) const {
+    return colonnesDe(m_sorte)[static_cast<std::size_t>(rang)];
+}
+
+ModelePrets::ModelePrets(Sorte sorte, QObject* parent) : ModeleDeLignes(titres(sorte), parent), m_sorte(sorte) {}
 
 void ModelePrets::remplit(std::vector<Pret> prets, int joursDeRetard) {
-    beginResetModel();
-    m_prets = std::move(prets);
-    m_joursDeRetard = joursDeRetard;
-    trie();
-    endResetModel();
+    recommence([&] {
+        m_prets = std::move(prets);
+        m_joursDeRetard = joursDeRetard;
+        trie();
+    });
 }
 
 void ModelePrets::metRetard(int jours) {
     m_joursDeRetard = jours;
-    if (!m_prets.empty()) emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+    toutChange();
 }
 
-bool ModelePrets::colonneVide(int colonne) const {
-    const auto texte = colonnes()[static_cast<std::size_t>(colonne)].texte;
+bool ModelePrets::colonneVide(int rang) const {
+    const auto texte = colonne(rang).texte;
     return std::ranges::all_of(m_prets, [&](const Pret& pret) { return texte(pret).isEmpty(); });
 }
 
-bool ModelePrets::triable(int colonne) const {
-    return colonne >= 0 && colonne < columnCount() && colonnes()[static_cast<std::size_t>(colonne)].tri;
-}
-
-int ModelePrets::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_prets.size());
-}
-
-int ModelePrets::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(colonnes().size());
+bool ModelePrets::triable(int rang) const {
+    return rang >= 0 && rang < columnCount() && colonne(rang).tri;
 }
 
 // For who hears the table: the row is told as one sentence.
@@ -99,58 +102,51 @@ QString ModelePrets::ligneEntiere(const Pret& pret) const {
     return parties.join(QStringLiteral(", "));
 }
 
-QVariant ModelePrets::data(const QModelIndex& index, int role) const {
-    const Pret& ligne = pret(index.row());
-    const Colonne& colonne = colonnes()[static_cast<std::size_t>(index.column())];
-    const bool retard = m_sorte == Sorte::Prets && enRetard(ligne, m_joursDeRetard);
-    const bool jours = retard && colonne.tri == TriDesPrets::Jours;
-    switch (role) {
-        case Qt::DisplayRole:
-            return colonne.texte(ligne);
-        case Qt::AccessibleTextRole:
-            if (index.column() == 0) return ligneEntiere(ligne);
-            return jours ? tr("%1, en retard").arg(colonne.texte(ligne)) : colonne.texte(ligne);
-        case Qt::ToolTipRole:
-            return enInfobulle(jours ? tr("%1 : en retard").arg(colonne.texte(ligne)) : colonne.texte(ligne));
-        case Qt::DecorationRole:
-            return jours ? QVariant(icone(Pictogramme::Attention)) : QVariant();
-        case Qt::FontRole: {
-            QFont police;
-            police.setBold(jours);
-            return jours ? QVariant(police) : QVariant();
-        }
-        case EnRetard:
-            return retard;
-        default:
-            return {};
-    }
+bool ModelePrets::estEnRetard(int rang) const {
+    return m_sorte == Sorte::Prets && enRetard(pret(rang), m_joursDeRetard);
 }
 
-QVariant ModelePrets::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
-    const Colonne& colonne = colonnes()[static_cast<std::size_t>(section)];
-    if (role == Qt::DisplayRole) return colonne.titre;
-    if (role == Qt::ToolTipRole && colonne.tri) return tr("Un clic range les films dans cet ordre");
+Cellule ModelePrets::cellule(int rang, int place) const {
+    const QString texte = colonne(place).texte(pret(rang));
+    const bool jours = place == colonneDesJours() && estEnRetard(rang);
+    const QString entendue = jours ? tr("%1, en retard").arg(texte) : texte;
+    return {.texte = texte,
+            .infobulle = enInfobulle(jours ? tr("%1 : en retard").arg(texte) : texte),
+            .entendue = place == 0 ? ligneEntiere(pret(rang)) : entendue};
+}
+
+QVariant ModelePrets::autreDonnee(const QModelIndex& index, int role) const {
+    const bool retard = estEnRetard(index.row());
+    if (role == EnRetard) return retard;
+    if (!retard || index.column() != colonneDesJours()) return {};
+    if (role == Qt::DecorationRole) return icone(Pictogramme::Attention);
+    if (role != Qt::FontRole) return {};
+    QFont police;
+    police.setBold(true);
+    return police;
+}
+
+QVariant ModelePrets::headerData(int section, Qt::Orientation sens, int role) const {
+    if (sens != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
+    if (role == Qt::ToolTipRole && triable(section)) return tr("Un clic range les films dans cet ordre");
     if (role == Qt::TextAlignmentRole) return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
-    return {};
+    return ModeleDeLignes::headerData(section, sens, role);
 }
 
 // The other way round, days that nobody knows stay last.
 void ModelePrets::trie() {
-    ensemble::trie(m_prets, *colonnes()[static_cast<std::size_t>(m_colonne)].tri);
+    ensemble::trie(m_prets, *colonne(m_colonne).tri);
     if (m_ordre == Qt::AscendingOrder) return;
     std::reverse(m_prets.begin(), m_prets.end());
-    if (colonnes()[static_cast<std::size_t>(m_colonne)].tri == TriDesPrets::Jours)
+    if (colonne(m_colonne).tri == TriDesPrets::Jours)
         std::stable_partition(m_prets.begin(), m_prets.end(), [](const Pret& pret) { return pret.jours.has_value(); });
 }
 
-void ModelePrets::sort(int colonne, Qt::SortOrder ordre) {
-    if (!triable(colonne)) return;
-    m_colonne = colonne;
+void ModelePrets::sort(int rang, Qt::SortOrder ordre) {
+    if (!triable(rang)) return;
+    m_colonne = rang;
     m_ordre = ordre;
-    beginResetModel();
-    trie();
-    endResetModel();
+    recommence([this] { trie(); });
 }
 
 }  // namespace ui

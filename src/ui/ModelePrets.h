@@ -1,13 +1,12 @@
 #pragma once
 
 #include "ensemble/Prets.h"
-
-#include <QAbstractTableModel>
+#include "ui/ModeleDeLignes.h"
 
 namespace ui {
 
 // Loans, or reservations, as the rows of a table; a heading that has an order sorts them.
-class ModelePrets final : public QAbstractTableModel {
+class ModelePrets final : public ModeleDeLignes {
     Q_OBJECT
   public:
     enum class Sorte { Prets, Reservations };
@@ -25,15 +24,18 @@ class ModelePrets final : public QAbstractTableModel {
     [[nodiscard]] int colonneTriee() const { return m_colonne; }
     [[nodiscard]] Qt::SortOrder ordre() const { return m_ordre; }
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation sens, int role) const override;
     void sort(int colonne, Qt::SortOrder ordre) override;
 
   private:
     struct Colonne;
-    [[nodiscard]] const std::vector<Colonne>& colonnes() const;
+    [[nodiscard]] static const std::vector<Colonne>& colonnesDe(Sorte sorte);
+    [[nodiscard]] static QStringList titres(Sorte sorte);
+    [[nodiscard]] const Colonne& colonne(int rang) const;
+    [[nodiscard]] int nombre() const override { return static_cast<int>(m_prets.size()); }
+    [[nodiscard]] Cellule cellule(int rang, int colonne) const override;
+    [[nodiscard]] QVariant autreDonnee(const QModelIndex& index, int role) const override;
+    [[nodiscard]] bool estEnRetard(int rang) const;
     [[nodiscard]] QString ligneEntiere(const ensemble::Pret& pret) const;
     void trie();
 

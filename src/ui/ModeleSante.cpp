@@ -1,7 +1,5 @@
 #include "ui/ModeleSante.h"
 
-#include "ui/DelegueLignes.h"
-
 #include <algorithm>
 #include <iterator>
 
@@ -71,22 +69,25 @@ Qt::ItemFlags ModeleSante::flags(const QModelIndex& index) const {
     return index.isValid() && index.internalId() != 0 ? base | Qt::ItemNeverHasChildren : base;
 }
 
-QString ModeleSante::texte(const ensemble::LigneDeSante& ligne, int colonne) const {
-    if (colonne == Titre)
-        return ligne.film.titre.empty() && !ligne.aUneFiche ? tr("(sans film)") : texteDeLigne(ligne.film.titre);
-    return texteDeLigne(colonne == Realisateur ? ligne.film.realisateur : ligne.detail);
+Cellule ModeleSante::cellule(const ensemble::Constat& constat, int colonne) {
+    const bool vide = constat.lignes.empty();
+    return {.texte = colonne == Titre ? QString::fromStdString(constat.texte()) : QString(),
+            .forte = !vide,
+            .discrete = vide};
+}
+
+Cellule ModeleSante::cellule(const ensemble::LigneDeSante& ligne, int colonne) {
+    const std::string* textes[] = {&ligne.film.titre, &ligne.film.realisateur, &ligne.detail};
+    const bool sansFilm = colonne == Titre && ligne.film.titre.empty() && !ligne.aUneFiche;
+    return {.texte = sansFilm ? tr("(sans film)") : texteDeLigne(*textes[colonne]),
+            .discrete = colonne != Titre || !ligne.aUneFiche};
 }
 
 QVariant ModeleSante::data(const QModelIndex& index, int role) const {
     const ensemble::Constat* sien = constat(index);
     if (!sien) return {};
     const ensemble::LigneDeSante* celle = ligne(index);
-    if (role == kLigneForte) return !celle && !sien->lignes.empty();
-    if (role == kLigneDiscrete) return celle ? index.column() != Titre || !celle->aUneFiche : sien->lignes.empty();
-    if (role == Qt::AccessibleTextRole && index.column() == Titre) return ligneLue(index);
-    if (role != Qt::DisplayRole) return {};
-    if (celle) return texte(*celle, index.column());
-    return index.column() == Titre ? QString::fromStdString(sien->texte()) : QVariant();
+    return donnee(celle ? cellule(*celle, index.column()) : cellule(*sien, index.column()), index, role);
 }
 
 QVariant ModeleSante::headerData(int section, Qt::Orientation sens, int role) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ensemble/Sante.h"
+#include "ui/Cellule.h"
 
 #include <QAbstractItemModel>
 
@@ -29,7 +30,8 @@ class ModeleSante final : public QAbstractItemModel {
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation sens, int role) const override;
 
   private:
-    [[nodiscard]] QString texte(const ensemble::LigneDeSante& ligne, int colonne) const;
+    [[nodiscard]] static Cellule cellule(const ensemble::Constat& constat, int colonne);
+    [[nodiscard]] static Cellule cellule(const ensemble::LigneDeSante& ligne, int colonne);
 
     ensemble::Examen m_examen;
 };

@@ -1,10 +1,8 @@
 #include "ui/ModeleVoisins.h"
 
-#include "ui/DelegueLignes.h"
 #include "util/Nombres.h"
 
 #include <algorithm>
-#include <iterator>
 #include <numeric>
 
 namespace ui {
@@ -25,7 +23,9 @@ std::string exemplaireDe(const voisins::FilmVoisin& film) {
 }  // namespace
 
 ModeleVoisins::ModeleVoisins(voisins::Examen examen, QObject* parent)
-    : QAbstractTableModel(parent), m_examen(std::move(examen)), m_ordre(m_examen.jugements.size()) {
+    : ModeleDeLignes({tr("Film"), tr("Réalisateur"), tr("Année"), tr("Exemplaire"), tr("Dans la base")}, parent),
+      m_examen(std::move(examen)),
+      m_ordre(m_examen.jugements.size()) {
     std::iota(m_ordre.begin(), m_ordre.end(), 0U);
     std::stable_partition(m_ordre.begin(), m_ordre.end(), [this](std::size_t r) {
         return m_examen.jugements[r].sort == edit::SortDuFilm::Ressemblant;
@@ -38,60 +38,38 @@ void ModeleVoisins::metOptions(bool possedes, bool complete) {
     emit change();
 }
 
-void ModeleVoisins::bascule(const QModelIndex& index) {
-    if (!index.isValid() || m_examen.jugements[rang(index)].sort == edit::SortDuFilm::DejaLa) return;
-    bool& oui = m_examen.jugements[rang(index)].aAjouter;
-    oui = !oui;
-    emit dataChanged(index.siblingAtColumn(Film), index.siblingAtColumn(Film), {Qt::CheckStateRole});
+bool ModeleVoisins::peutEtreCochee(int ligne) const {
+    return m_examen.jugements[rang(ligne)].sort != edit::SortDuFilm::DejaLa;
+}
+
+void ModeleVoisins::coche(int ligne, bool oui) {
+    m_examen.jugements[rang(ligne)].aAjouter = oui;
+    emit dataChanged(index(ligne, Film), index(ligne, Film), {Qt::CheckStateRole});
     emit change();
+}
+
+void ModeleVoisins::bascule(const QModelIndex& index) {
+    if (!index.isValid() || !peutEtreCochee(index.row())) return;
+    coche(index.row(), !m_examen.jugements[rang(index.row())].aAjouter);
 }
 
 void ModeleVoisins::cocheTout(bool oui) {
     for (voisins::Jugement& celui : m_examen.jugements)
         celui.aAjouter = oui && celui.sort != edit::SortDuFilm::DejaLa;
-    if (!m_ordre.empty()) emit dataChanged(index(0, Film), index(rowCount() - 1, Film), {Qt::CheckStateRole});
+    cochesChangent();
     emit change();
 }
 
-std::size_t ModeleVoisins::rang(const QModelIndex& index) const {
-    return m_ordre[static_cast<std::size_t>(index.row())];
-}
-
-int ModeleVoisins::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(std::ssize(m_ordre));
-}
-
-Qt::ItemFlags ModeleVoisins::flags(const QModelIndex& index) const {
-    Qt::ItemFlags celles = QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
-    const bool seCoche = index.isValid() && m_examen.jugements[rang(index)].sort != edit::SortDuFilm::DejaLa;
-    return seCoche && index.column() == Film ? celles | Qt::ItemIsUserCheckable : celles;
-}
-
-QVariant ModeleVoisins::data(const QModelIndex& index, int role) const {
-    if (!index.isValid()) return {};
-    const voisins::FilmVoisin& film = m_examen.collection.films[rang(index)];
-    const voisins::Jugement& jugement = m_examen.jugements[rang(index)];
-    if (role == kLigneForte) return index.column() == Sort && jugement.sort == edit::SortDuFilm::Ressemblant;
-    if (role == kLigneDiscrete) return jugement.sort == edit::SortDuFilm::DejaLa || index.column() == Realisateur;
-    if (role == Qt::CheckStateRole && index.column() == Film && jugement.sort != edit::SortDuFilm::DejaLa)
-        return jugement.aAjouter ? Qt::Checked : Qt::Unchecked;
-    if (role != Qt::DisplayRole) return {};
+Cellule ModeleVoisins::cellule(int ligne, int colonne) const {
+    const voisins::FilmVoisin& film = m_examen.collection.films[rang(ligne)];
+    const voisins::Jugement& jugement = m_examen.jugements[rang(ligne)];
     const std::string textes[] = {film.titre, film.realisateur, film.annee, exemplaireDe(film),
                                   edit::texteDuSort(jugement)};
-    return texteDeLigne(textes[index.column()]);
-}
-
-bool ModeleVoisins::setData(const QModelIndex& index, const QVariant& valeur, int role) {
-    if (!index.isValid() || role != Qt::CheckStateRole) return false;
-    const bool oui = valeur.value<Qt::CheckState>() == Qt::Checked;
-    if (m_examen.jugements[rang(index)].aAjouter != oui) bascule(index);
-    return true;
-}
-
-QVariant ModeleVoisins::headerData(int section, Qt::Orientation sens, int role) const {
-    if (sens != Qt::Horizontal || role != Qt::DisplayRole) return {};
-    const QString titres[] = {tr("Film"), tr("Réalisateur"), tr("Année"), tr("Exemplaire"), tr("Dans la base")};
-    return titres[section];
+    Cellule resultat{.texte = texteDeLigne(textes[colonne]),
+                     .forte = colonne == Sort && jugement.sort == edit::SortDuFilm::Ressemblant,
+                     .discrete = jugement.sort == edit::SortDuFilm::DejaLa || colonne == Realisateur};
+    if (colonne == Film && peutEtreCochee(ligne)) resultat.cochee = jugement.aAjouter;
+    return resultat;
 }
 
 }  // namespace ui

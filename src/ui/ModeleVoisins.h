@@ -1,18 +1,18 @@
 #pragma once
 
+#include "ui/ModeleDeLignes.h"
 #include "voisins/Examen.h"
 
-#include <QAbstractTableModel>
 #include <vector>
 
 namespace ui {
 
 // The films of another program's collection: what the base has of each, and whether it is to be added. Those that the user
 // has to judge come first.
-class ModeleVoisins final : public QAbstractTableModel {
+class ModeleVoisins final : public ModeleDeLignes {
     Q_OBJECT
   public:
-    enum Colonne { Film, Realisateur, Annee, Exemplaire, Sort, kColonnes };
+    enum Colonne { Film, Realisateur, Annee, Exemplaire, Sort };
     explicit ModeleVoisins(voisins::Examen examen, QObject* parent = nullptr);
 
     [[nodiscard]] const voisins::Examen& examen() const { return m_examen; }
@@ -21,18 +21,15 @@ class ModeleVoisins final : public QAbstractTableModel {
     void bascule(const QModelIndex& index);
     void cocheTout(bool oui);
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] int columnCount(const QModelIndex&) const override { return kColonnes; }
-    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    bool setData(const QModelIndex& index, const QVariant& valeur, int role) override;
-    [[nodiscard]] QVariant headerData(int section, Qt::Orientation sens, int role) const override;
-
   signals:
     void change();
 
   private:
-    [[nodiscard]] std::size_t rang(const QModelIndex& index) const;
+    [[nodiscard]] int nombre() const override { return static_cast<int>(m_ordre.size()); }
+    [[nodiscard]] Cellule cellule(int ligne, int colonne) const override;
+    [[nodiscard]] bool peutEtreCochee(int ligne) const override;
+    void coche(int ligne, bool oui) override;
+    [[nodiscard]] std::size_t rang(int ligne) const { return m_ordre[static_cast<std::size_t>(ligne)]; }
 
     voisins::Examen m_examen;
     std::vector<std::size_t> m_ordre;

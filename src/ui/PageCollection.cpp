@@ -33,7 +33,7 @@ void PageCollection::suis() {
 void PageCollection::relisSiPerimee() {
     if (!isVisible() || m_atelier.commande.enCours() || m_atelier.commande.finie()) return;
     m_atelier.session.regarde([this](const app::Contexte& c) {
-        const Lecture lecture{c.base.base.changements(), c.liste.TreeView1.Nodes.generation()};
+        const Lecture lecture = Lecture::de(c);
         if (std::exchange(m_lu, lecture) == lecture) return;
         try {
             ditPourquoi({});

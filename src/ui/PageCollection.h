@@ -21,6 +21,15 @@ class PageCollection : public QWidget {
     void suis();
 
   protected:
+    // The base and the listing as they were read, to tell whether they changed since.
+    struct Lecture {
+        dao::Database::Changements changements;
+        int listing = 0;
+        [[nodiscard]] static Lecture de(const app::Contexte& c) {
+            return {c.base.base.changements(), c.liste.TreeView1.Nodes.generation()};
+        }
+        friend bool operator==(const Lecture&, const Lecture&) = default;
+    };
     [[nodiscard]] const Atelier& atelier() const { return m_atelier; }
     [[nodiscard]] QBoxLayout* contenu() const { return m_contenu; }  // below the title and its help line
     void perime() { m_lu.reset(); }                                  // read again at the next look
@@ -30,11 +39,6 @@ class PageCollection : public QWidget {
     void ditPourquoi(const QString& raison);
 
   private:
-    struct Lecture {
-        dao::Database::Changements changements;
-        int listing = 0;
-        friend bool operator==(const Lecture&, const Lecture&) = default;
-    };
     void relisSiPerimee();
 
     const Atelier m_atelier;

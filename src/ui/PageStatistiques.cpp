@@ -7,6 +7,7 @@
 #include "ui/Composition.h"
 #include "ui/VueBarres.h"
 #include "util/Nombres.h"
+#include "util/Tables.h"
 #include "util/Texte.h"
 
 #include <QBuffer>
@@ -15,6 +16,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTimer>
+#include <array>
 #include <chrono>
 
 namespace ui {
@@ -25,26 +27,22 @@ constexpr int kLargeurImage = 900;
 constexpr std::chrono::milliseconds kTranche{12};             // of counting, between two frames
 constexpr std::size_t kBarresAuPlus = 60, kMoisAuPlus = 400;  // of a picture or on paper
 
-// In the order of ensemble::Sujet.
-QStringList sujets() {
-    return {PageStatistiques::tr("Genre"),       PageStatistiques::tr("Décennie"),    PageStatistiques::tr("Pays"),
-            PageStatistiques::tr("Réalisateur"), PageStatistiques::tr("Support"),     PageStatistiques::tr("Note"),
-            PageStatistiques::tr("Durée"),       PageStatistiques::tr("Mois d'ajout")};
-}
-
-// What one film may have several of.
-const char* ditesPlusieurs(ensemble::Sujet sujet) {
-    switch (sujet) {
-        case ensemble::Sujet::Genre:
-            return "genres";
-        case ensemble::Sujet::Pays:
-            return "pays";
-        case ensemble::Sujet::Realisateur:
-            return "réalisateurs";
-        default:
-            return nullptr;
-    }
-}
+struct NomDeSujet {
+    ensemble::Sujet sujet;
+    const char* nom;
+    const char* plusieurs = nullptr;  // where one film may have several of it
+};
+using enum ensemble::Sujet;
+constexpr std::array kSujets{
+    NomDeSujet{Genre, QT_TRANSLATE_NOOP("ui::PageStatistiques", "Genre"), "genres"},
+    NomDeSujet{Decennie, QT_TRANSLATE_NOOP("ui::PageStatistiques", "Décennie")},
+    NomDeSujet{Pays, QT_TRANSLATE_NOOP("ui::PageStatistiques", "Pays"), "pays"},
+    NomDeSujet{Realisateur, QT_TRANSLATE_NOOP("ui::PageStatistiques", "Réalisateur"), "réalisateurs"},
+    NomDeSujet{Support, QT_TRANSLATE_NOOP("ui::PageStatistiques", "Support")},
+    NomDeSujet{Note, QT_TRANSLATE_NOOP("ui::PageStatistiques", "Note")},
+    NomDeSujet{Duree, QT_TRANSLATE_NOOP("ui::PageStatistiques", "Durée")},
+    NomDeSujet{Ajouts, QT_TRANSLATE_NOOP("ui::PageStatistiques", "Mois d'ajout")}};
+static_assert(util::dansLOrdre(kSujets, &NomDeSujet::sujet, Ajouts));
 
 ensemble::Diagramme pourLePapier(const ensemble::Diagramme& diagramme) {
     return ensemble::abrege(diagramme, diagramme.sujet == ensemble::Sujet::Ajouts ? kMoisAuPlus : kBarresAuPlus);
@@ -92,7 +90,8 @@ PageStatistiques::PageStatistiques(const Atelier& atelier)
 
 QLayout* PageStatistiques::choix() {
     m_sujet = nomme(new ListeDeroulante, "SujetDesStatistiques");
-    m_sujet->addItems(sujets());
+    for (const NomDeSujet& sujet : kSujets)
+        m_sujet->addItem(tr(sujet.nom));
     connect(m_sujet, &QComboBox::currentIndexChanged, this, &PageStatistiques::montre);
     auto* copier =
         bouton("cmdCopierStatistiques", tr("Co&pier"), tr("Copier les nombres, une ligne pour chaque barre"));
@@ -110,15 +109,11 @@ QLayout* PageStatistiques::choix() {
     return ligne;
 }
 
-PageStatistiques::Lecture PageStatistiques::lectureDe(const app::Contexte& c) {
-    return {c.base.base.changements(), c.liste.TreeView1.Nodes.generation()};
-}
-
 // A part at a time, so that the window answers meanwhile however many films there are.
 void PageStatistiques::relis(const app::Contexte& c) {
     m_barres->montre(nullptr);
     m_diagrammes.clear();
-    m_comptee = lectureDe(c);
+    m_comptee = Lecture::de(c);
     m_comptage.emplace(c);
     compteLaSuite();
 }
@@ -127,7 +122,7 @@ void PageStatistiques::compteLaSuite() {
     if (!m_comptage) return;
     if (!isVisible() || atelier().commande.enCours() || atelier().commande.finie()) return recommence();
     atelier().session.regarde([this](const app::Contexte& c) {
-        if (lectureDe(c) != m_comptee) return recommence();
+        if (Lecture::de(c) != m_comptee) return recommence();
         try {
             const bool attendu = diagramme() == nullptr;
             const bool tout = m_comptage->avance(c, kTranche);
@@ -166,7 +161,7 @@ void PageStatistiques::montre() {
     if (!montre) return m_compte->setText(m_comptage ? tr("Comptage des films…") : QString());
     m_barres->setAccessibleName(QString::fromStdString(montre->titre));
     QString texte = QString::fromStdString(util::phraseCompte(montre->films, "# film.", "# films."));
-    if (const char* plusieurs = ditesPlusieurs(montre->sujet))
+    if (const char* plusieurs = kSujets.at(static_cast<std::size_t>(montre->sujet)).plusieurs)
         texte += tr(" Un film de plusieurs %1 compte pour chacun.").arg(QString::fromUtf8(plusieurs));
     m_compte->setText(texte);
 }

@@ -33,13 +33,6 @@ class PageStatistiques final : public PageCollection {
     void imprime();
     [[nodiscard]] const ensemble::Diagramme* diagramme() const;
 
-    struct Lecture {
-        dao::Database::Changements changements;
-        int listing = 0;
-        friend bool operator==(const Lecture&, const Lecture&) = default;
-    };
-    [[nodiscard]] static Lecture lectureDe(const app::Contexte& c);
-
     std::map<ensemble::Sujet, ensemble::Diagramme> m_diagrammes;
     std::optional<ensemble::Comptage> m_comptage;  // until all is counted
     Lecture m_comptee;

@@ -10,9 +10,10 @@
 #include "ui/PageSante.h"
 #include "ui/PageStatistiques.h"
 #include "ui/SuiviDuFocus.h"
+#include "util/Tables.h"
 
 #include <QStackedWidget>
-#include <functional>
+#include <array>
 
 namespace ui {
 
@@ -25,27 +26,27 @@ PageCollection* construit(const Atelier& atelier) {
 
 struct Onglet {
     app::PageDeCollection page;
-    const char* nom;
-    QString texte;
-    QString infobulle;
+    const char *nom, *texte, *infobulle;
     PageCollection* (*construit)(const Atelier&) = nullptr;  // nullptr: shown below, by the posters' own widget
 };
-
-std::vector<Onglet> onglets() {
-    using enum app::PageDeCollection;
-    return {{Affiches, "OngletAffiches", PanneauCollection::tr("Affiches"),
-             PanneauCollection::tr("Les affiches des films de la liste")},
-            {Prets, "OngletPrets", PanneauCollection::tr("Prêts"),
-             PanneauCollection::tr("Qui a quel film, et qui attend quoi"), &construit<PagePrets>},
-            {Statistiques, "OngletStatistiques", PanneauCollection::tr("Statistiques"),
-             PanneauCollection::tr("Les films de la liste par genre, décennie, pays…"), &construit<PageStatistiques>},
-            {Sante, "OngletSante", PanneauCollection::tr("Santé"),
-             PanneauCollection::tr("Ce qui manque aux fiches, ce qui ne mène nulle part"), &construit<PageSante>},
-            {Doublons, "OngletDoublons", PanneauCollection::tr("Doublons"),
-             PanneauCollection::tr("Les films qui se ressemblent"), &construit<PageDoublons>},
-            {CeSoir, "OngletCeSoir", PanneauCollection::tr("Ce soir ?"),
-             PanneauCollection::tr("Un film à regarder parmi ceux que vous possédez"), &construit<PageCeSoir>}};
-}
+using enum app::PageDeCollection;
+constexpr std::array<Onglet, app::kPagesDeCollection> kOnglets{
+    {{Affiches, "OngletAffiches", QT_TRANSLATE_NOOP("ui::PanneauCollection", "Affiches"),
+      QT_TRANSLATE_NOOP("ui::PanneauCollection", "Les affiches des films de la liste")},
+     {Prets, "OngletPrets", QT_TRANSLATE_NOOP("ui::PanneauCollection", "Prêts"),
+      QT_TRANSLATE_NOOP("ui::PanneauCollection", "Qui a quel film, et qui attend quoi"), &construit<PagePrets>},
+     {Statistiques, "OngletStatistiques", QT_TRANSLATE_NOOP("ui::PanneauCollection", "Statistiques"),
+      QT_TRANSLATE_NOOP("ui::PanneauCollection", "Les films de la liste par genre, décennie, pays…"),
+      &construit<PageStatistiques>},
+     {Sante, "OngletSante", QT_TRANSLATE_NOOP("ui::PanneauCollection", "Santé"),
+      QT_TRANSLATE_NOOP("ui::PanneauCollection", "Ce qui manque aux fiches, ce qui ne mène nulle part"),
+      &construit<PageSante>},
+     {Doublons, "OngletDoublons", QT_TRANSLATE_NOOP("ui::PanneauCollection", "Doublons"),
+      QT_TRANSLATE_NOOP("ui::PanneauCollection", "Les films qui se ressemblent"), &construit<PageDoublons>},
+     {CeSoir, "OngletCeSoir", QT_TRANSLATE_NOOP("ui::PanneauCollection", "Ce soir ?"),
+      QT_TRANSLATE_NOOP("ui::PanneauCollection", "Un film à regarder parmi ceux que vous possédez"),
+      &construit<PageCeSoir>}}};
+static_assert(util::dansLOrdre(kOnglets, &Onglet::page, CeSoir));
 
 }  // namespace
 
@@ -54,8 +55,8 @@ PanneauCollection::PanneauCollection(const Atelier& atelier, QWidget* parent)
     nomme(this, "frameCollection");
     seLitCommeGroupe(this, tr("Collection"));
     auto* barre = rangee({}, kSerre);
-    for (const Onglet& onglet : onglets()) {
-        auto* boutonOnglet = bouton<BoutonOnglet>(onglet.nom, onglet.texte, onglet.infobulle);
+    for (const Onglet& onglet : kOnglets) {
+        auto* boutonOnglet = bouton<BoutonOnglet>(onglet.nom, tr(onglet.texte), tr(onglet.infobulle));
         m_atelier.auClic(boutonOnglet, app::OngletCollection_Click, onglet.page);
         m_atelier.liaison.apresEcriture([boutonOnglet, page = onglet.page, &etat = m_atelier.etats().collection] {
             QFont police = boutonOnglet->font();
@@ -88,13 +89,11 @@ void PanneauCollection::suis() {
 PageCollection* PanneauCollection::page() {
     const app::PageDeCollection voulue = m_atelier.etats().collection.page;
     PageCollection*& place = m_construites.at(static_cast<std::size_t>(voulue));
-    if (place) return place;
-    for (const Onglet& onglet : onglets()) {
-        if (onglet.page != voulue || !onglet.construit) continue;
-        place = onglet.construit(m_atelier);
-        m_pages->addWidget(place);
-        suisAuClavier(m_dernierOnglet, *place);
-    }
+    const Onglet& onglet = kOnglets.at(static_cast<std::size_t>(voulue));
+    if (place || !onglet.construit) return place;
+    place = onglet.construit(m_atelier);
+    m_pages->addWidget(place);
+    suisAuClavier(m_dernierOnglet, *place);
     return place;
 }
 

@@ -51,19 +51,20 @@ QWidget* cadre(QLayout* contenu) {
 PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(parent), m_atelier(atelier) {
     nomme(this, "Frame13");
     seLitCommeGroupe(this, tr("Fiche à remplir"));
-    auto& ajout = m_atelier.etats().ajout;
-    auto* resume = nomme(new TexteLong, "txtResume");
-    resume->setTabChangesFocus(true);
-    resume->setMinimumHeight(84);
-    auto* image = nomme((new Etiquette)->avecTon(Ton::Discret), "lblImage");
-    auto* ajouter = m_ajouter =
-        bouton<BoutonAccent>("cmdAjoutFilm", tr("Ajouter"),
-                             tr("Enregistrer la fiche (Entrée, ou Ctrl+Entrée dans le résumé ; Échap pour revenir)"));
-    m_atelier.liaison.lie(ajout.txtResume, resume);
-    m_atelier.liaison.lie(ajout.lblImage, image);
-    m_atelier.liaison.lie(ajout.cmdAjoutFilm, ajouter);
-    m_atelier.auClic(ajouter, edit::cmdAjoutFilm_Click);
+    auto* champs = colonne(kMoyen);
+    champs->addWidget(new CoteACote({cadre(grille()), cadre(resume())}, kResumeACote, kMoyen));
+    champs->addLayout(bas());
+    auto* contenu = rangee({}, kGrand);
+    contenu->addWidget(affichette(), 0, Qt::AlignTop);
+    contenu->addLayout(champs, 1);
+    auto* boite = colonne(0);
+    boite->addWidget(new Carte(contenu));
+    setLayout(boite);
+    m_atelier.liaison.lie(m_atelier.etats().ajout.Frame13, this);
+}
 
+QLayout* PanneauSaisie::grille() {
+    auto& ajout = m_atelier.etats().ajout;
     auto* grille = new QGridLayout;
     grille->setHorizontalSpacing(kMoyen);
     grille->setVerticalSpacing(kMoyen);
@@ -78,30 +79,45 @@ PanneauSaisie::PanneauSaisie(const Atelier& atelier, QWidget* parent) : QWidget(
     for (int c = 0; c < 6; ++c)
         grille->setColumnStretch(c, 1);
     grille->setRowStretch(4, 1);
-    auto* texteLong = colonne(kSerre);
-    texteLong->addWidget(legende(tr("&Résumé"), resume));
-    texteLong->addWidget(resume, 1);
-    auto* bas = aGauche({ajouter});
-    bas->insertWidget(1, image);
-    auto* champs = colonne(kMoyen);
-    champs->addWidget(new CoteACote({cadre(grille), cadre(texteLong)}, kResumeACote, kMoyen));
-    champs->addLayout(bas);
-    auto* affiche = m_affichette = nomme(new Affichette(m_atelier.images), "imgCorrection");
-    affiche->setFixedSize(kAffichette);
-    seLit(affiche, {.role = QAccessible::Graphic});
-    affiche->setAccessibleName(tr("Affiche du film"));
-    auto* contenu = rangee({}, kGrand);
-    contenu->addWidget(affiche, 0, Qt::AlignTop);
-    contenu->addLayout(champs, 1);
-    auto* boite = colonne(0);
-    boite->addWidget(new Carte(contenu));
-    setLayout(boite);
-    m_atelier.liaison.lie(ajout.Frame13, this);
-    m_atelier.liaison.apresEcriture([affiche, etats = &m_atelier.etats()] {
+    return grille;
+}
+
+QLayout* PanneauSaisie::resume() {
+    auto* texte = nomme(new TexteLong, "txtResume");
+    texte->setTabChangesFocus(true);
+    texte->setMinimumHeight(84);
+    m_atelier.liaison.lie(m_atelier.etats().ajout.txtResume, texte);
+    auto* boite = colonne(kSerre);
+    boite->addWidget(legende(tr("&Résumé"), texte));
+    boite->addWidget(texte, 1);
+    return boite;
+}
+
+QLayout* PanneauSaisie::bas() {
+    auto& ajout = m_atelier.etats().ajout;
+    m_ajouter =
+        bouton<BoutonAccent>("cmdAjoutFilm", tr("Ajouter"),
+                             tr("Enregistrer la fiche (Entrée, ou Ctrl+Entrée dans le résumé ; Échap pour revenir)"));
+    auto* image = nomme((new Etiquette)->avecTon(Ton::Discret), "lblImage");
+    m_atelier.liaison.lie(ajout.cmdAjoutFilm, m_ajouter);
+    m_atelier.liaison.lie(ajout.lblImage, image);
+    m_atelier.auClic(m_ajouter, edit::cmdAjoutFilm_Click);
+    auto* boite = aGauche({m_ajouter});
+    boite->insertWidget(1, image);
+    return boite;
+}
+
+QWidget* PanneauSaisie::affichette() {
+    m_affichette = nomme(new Affichette(m_atelier.images), "imgCorrection");
+    m_affichette->setFixedSize(kAffichette);
+    seLit(m_affichette, {.role = QAccessible::Graphic});
+    m_affichette->setAccessibleName(tr("Affiche du film"));
+    m_atelier.liaison.apresEcriture([affiche = m_affichette, etats = &m_atelier.etats()] {
         // The poster that is loaded is the one of the film on the sheet.
         affiche->setVisible(etats->ajout.modeModifier() && etats->liste.noeudChoisi > 0 && !etats->fiche.Image1.vide);
         affiche->update();
     });
+    return m_affichette;
 }
 
 void PanneauSaisie::resizeEvent(QResizeEvent*) {

@@ -19,6 +19,10 @@ class PanneauSaisie final : public QWidget {
     void resizeEvent(QResizeEvent* evenement) override;
 
   private:
+    [[nodiscard]] QLayout* grille();
+    [[nodiscard]] QLayout* resume();
+    [[nodiscard]] QLayout* bas();
+    [[nodiscard]] QWidget* affichette();
     [[nodiscard]] QWidget* texte(std::size_t indice);
     [[nodiscard]] QWidget* liste(const char* nom, ecran::Liste& etat);
 

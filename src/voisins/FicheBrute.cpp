@@ -158,22 +158,6 @@ bool memeFiche(const FilmVoisin& a, const FilmVoisin& b) {
 
 }  // namespace
 
-std::string nomDe(Programme programme) {
-    switch (programme) {
-        case Programme::Tellico:
-            return "Tellico";
-        case Programme::GCstar:
-            return "GCstar";
-        case Programme::AntMovieCatalog:
-            return "Ant Movie Catalog";
-        case Programme::Kodi:
-            return "Kodi";
-        case Programme::Csv:
-            break;
-    }
-    return "CSV";
-}
-
 void FicheBrute::ligne(std::string nom, std::string_view valeur) {
     if (std::string propre = surUneLigne(valeur); !propre.empty())
         lignes.emplace_back(std::move(nom), std::move(propre));

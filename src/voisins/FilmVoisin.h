@@ -43,6 +43,7 @@ struct FilmVoisin : edit::FilmLu {
 
 enum class Programme { Tellico, GCstar, AntMovieCatalog, Kodi, Csv };
 [[nodiscard]] std::string nomDe(Programme programme);
+[[nodiscard]] std::string ceQuiSeLit();  // the collections of them all, for the user
 
 struct Collection {
     Programme programme = Programme::Csv;

@@ -1,9 +1,50 @@
 #include "voisins/Lecteurs.h"
 
+#include "util/Tables.h"
 #include "util/Texte.h"
 #include "voisins/Valeurs.h"
 
+#include <array>
+
 namespace voisins {
+
+namespace {
+
+// All that tells the collections of one program from the next, but for what they are recognised by.
+struct Lecteur {
+    Programme programme;
+    const char* nom;
+    const char* celles;  // which of them can be read, in a list
+    void (*lit)(xml::Lecture& document, Affiches& affiches, const Suivi& suivi, Films& films) = nullptr;
+};
+constexpr std::array kLecteurs{
+    Lecteur{Programme::Tellico, "Tellico", "celles de Tellico (.tc)", litTellico},
+    Lecteur{Programme::GCstar, "GCstar", "de GCstar (.gcs)", litGcstar},
+    Lecteur{Programme::AntMovieCatalog, "Ant Movie Catalog", "d'Ant Movie Catalog (exportées en XML)", litAnt},
+    Lecteur{Programme::Kodi, "Kodi", "de Kodi (dossiers de fiches .nfo, ou videodb.xml)", litVideodb},
+    Lecteur{Programme::Csv, "CSV", "les tableaux CSV"}};
+static_assert(util::dansLOrdre(kLecteurs, &Lecteur::programme, Programme::Csv));
+
+const Lecteur& lecteurDe(Programme programme) {
+    return kLecteurs.at(static_cast<std::size_t>(programme));
+}
+
+}  // namespace
+
+std::string nomDe(Programme programme) {
+    return lecteurDe(programme).nom;
+}
+
+std::string ceQuiSeLit() {
+    std::string texte = kLecteurs.front().celles;
+    for (std::size_t i = 1; i < kLecteurs.size(); ++i)
+        texte.append(i + 1 < kLecteurs.size() ? ", " : " et ").append(kLecteurs[i].celles);
+    return texte;
+}
+
+void litDocument(Programme programme, xml::Lecture& document, Affiches& affiches, const Suivi& suivi, Films& films) {
+    if (const auto lit = lecteurDe(programme).lit) lit(document, affiches, suivi, films);
+}
 
 std::optional<Programme> programmeDuDocument(xml::Lecture& document) {
     const xml::Element* racine = document.suivant();

@@ -21,12 +21,15 @@ using Suivi = std::function<bool(long films)>;
 // xml::Illisible, and Refus where it is a collection of something else than films.
 [[nodiscard]] std::optional<Programme> programmeDuDocument(xml::Lecture& document);
 
+// Reads the document of that program's collection, from its beginning.
+void litDocument(Programme programme, xml::Lecture& document, Affiches& affiches, const Suivi& suivi, Films& films);
+
 // Of the documents, from their beginning. `affiches` knows where the pictures are.
 void litTellico(xml::Lecture& document, Affiches& affiches, const Suivi& suivi, Films& films);
-void litGcstar(xml::Lecture& document, const Affiches& affiches, const Suivi& suivi, Films& films);
-void litAnt(xml::Lecture& document, const Affiches& affiches, const Suivi& suivi, Films& films);
+void litGcstar(xml::Lecture& document, Affiches& affiches, const Suivi& suivi, Films& films);
+void litAnt(xml::Lecture& document, Affiches& affiches, const Suivi& suivi, Films& films);
 // Of an export in one file, or of one film's sheet.
-void litVideodb(xml::Lecture& document, const Affiches& affiches, const Suivi& suivi, Films& films);
+void litVideodb(xml::Lecture& document, Affiches& affiches, const Suivi& suivi, Films& films);
 // Of a folder and those below it. Answers how many sheets were of no film.
 long litDossierKodi(const std::string& dossier, const Suivi& suivi, Films& films);
 [[nodiscard]] bool aDesFichesKodi(const std::string& dossier);

@@ -145,7 +145,7 @@ FicheBrute ficheDe(xml::Element film, const Noms& noms, const Affiches& affiches
 
 }  // namespace
 
-void litAnt(xml::Lecture& document, const Affiches& affiches, const Suivi& suivi, Films& films) {
+void litAnt(xml::Lecture& document, Affiches& affiches, const Suivi& suivi, Films& films) {
     Noms noms;
     while (const xml::Element* element = document.suivant()) {
         if (element->nom == "CustomField") {

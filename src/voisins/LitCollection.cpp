@@ -14,10 +14,9 @@ namespace voisins {
 
 namespace {
 
-constexpr const char* kInconnue =
-    "Ce fichier n'est pas une collection que le programme sait lire. Sont lues celles de Tellico (.tc), de GCstar "
-    "(.gcs), "
-    "d'Ant Movie Catalog (exportées en XML), de Kodi (dossiers de fiches .nfo, ou videodb.xml) et les tableaux CSV.";
+std::string inconnue() {
+    return "Ce fichier n'est pas une collection que le programme sait lire. Sont lues " + ceQuiSeLit() + ".";
+}
 constexpr const char* kAnt =
     "Ce fichier est un catalogue d'Ant Movie Catalog (.amc), que ce programme ne lit pas. Dans Ant Movie Catalog, "
     "choisissez "
@@ -103,7 +102,7 @@ std::optional<Ou> situeDocument(const std::string& chemin, Affiches* affiches) {
     Ou ou{chemin};
     if (archives::Archive::ouvre(chemin)) {
         const auto dedans = documentDeLArchive(chemin, affiches);
-        if (!dedans) throw Refus{kInconnue};
+        if (!dedans) throw Refus{inconnue()};
         ou = *dedans;
         if (affiches) affiches->poseArchive(chemin);
     } else if (!estUnDocument(chemin)) {
@@ -144,24 +143,13 @@ Programme reconnaisDocument(const Ou& ou) {
     } catch (const xml::Illisible& erreur) {
         refuseIllisible(ou, erreur);
     }
-    throw Refus{kInconnue};
+    throw Refus{inconnue()};
 }
 
 void lisDocument(const Ou& ou, Collection& collection, const Suivi& suivi, Films& films) {
     xml::Lecture document(sourceDe(ou));
     try {
-        switch (collection.programme) {
-            case Programme::Tellico:
-                return litTellico(document, *collection.affiches, suivi, films);
-            case Programme::GCstar:
-                return litGcstar(document, *collection.affiches, suivi, films);
-            case Programme::AntMovieCatalog:
-                return litAnt(document, *collection.affiches, suivi, films);
-            case Programme::Kodi:
-                return litVideodb(document, *collection.affiches, suivi, films);
-            case Programme::Csv:
-                break;
-        }
+        litDocument(collection.programme, document, *collection.affiches, suivi, films);
     } catch (const xml::Illisible& erreur) {
         refuseIllisible(ou, erreur);
     }
@@ -177,7 +165,7 @@ Programme reconnais(const std::string& voulu) {
     if (debut.empty()) throw Refus{"Le fichier " + chemin + " est vide, ou ne peut pas être lu."};
     if (debut.starts_with(" AMC_")) throw Refus{kAnt};
     if (const auto document = situeDocument(chemin, nullptr)) return reconnaisDocument(*document);
-    if (!util::decodeTexteLarge(debut) && debut.find('\0') != std::string::npos) throw Refus{kInconnue};
+    if (!util::decodeTexteLarge(debut) && debut.find('\0') != std::string::npos) throw Refus{inconnue()};
     return Programme::Csv;
 }
 

@@ -161,7 +161,7 @@ FicheBrute ficheDe(xml::Element item, const Noms& noms, const Affiches& affiches
 
 }  // namespace
 
-void litGcstar(xml::Lecture& document, const Affiches& affiches, const Suivi& suivi, Films& films) {
+void litGcstar(xml::Lecture& document, Affiches& affiches, const Suivi& suivi, Films& films) {
     Noms noms;
     while (const xml::Element* element = document.suivant()) {
         if (element->nom == "field") {

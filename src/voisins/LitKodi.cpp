@@ -257,7 +257,7 @@ class Parcours {
 
 }  // namespace
 
-void litVideodb(xml::Lecture& document, const Affiches& affiches, const Suivi& suivi, Films& films) {
+void litVideodb(xml::Lecture& document, Affiches& affiches, const Suivi& suivi, Films& films) {
     while (const xml::Element* element = document.suivant()) {
         if (element->nom != "movie") continue;
         FicheBrute fiche = ficheDe(document.prends());

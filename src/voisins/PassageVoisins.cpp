@@ -1,7 +1,9 @@
 #include "voisins/PassageVoisins.h"
 
+#include "acquire/Passage.h"
+#include "db/ChampsPublies.h"
 #include "db/EnonceFilm.h"
-#include "db/Requete.h"
+#include "edit/ChampsLus.h"
 #include "edit/Complement.h"
 #include "edit/LignePossession.h"
 #include "util/Nombres.h"
@@ -13,6 +15,13 @@
 namespace voisins {
 
 namespace {
+
+constexpr std::pair<const char*, std::string PossessionVoisine::*> kDePossession[]{
+    {"Support", &PossessionVoisine::support}, {"Rangement", &PossessionVoisine::rangement},
+    {"Pret", &PossessionVoisine::pret},       {"Reserve", &PossessionVoisine::reserve},
+    {"Date", &PossessionVoisine::date},       {"Divers", &PossessionVoisine::divers}};
+static_assert(std::size(kDePossession) + std::tuple_size_v<decltype(PossessionVoisine::fichiers)> ==
+              db::kChampsDePossession.size());
 
 // Those of files and those without any keep their order; those of an archive are taken as they lie in it.
 std::vector<std::size_t> ordreDesAffiches(const Examen& examen) {
@@ -38,31 +47,10 @@ PassageVoisins::PassageVoisins(const acquire::Contexte& c, const Examen& examen)
       m_jour(c.horloge.dateDuJour()) {}
 
 acquire::RapportImport PassageVoisins::execute() {
-    std::string echec;
-    int style = dialogues::kSimple;
-    try {
-        importeTout();
-    } catch (const db::EchecConversion& affiche) {
-        echec = affiche.texte;
-        style = dialogues::kCritique;
-        gardeLeLotEntier();
-    } catch (const dao::ErreurDao& erreur) {
-        echec = erreur.texte();
-    } catch (const db::RequeteEchouee&) {  // already shown
-    }
-    m_lot.abandonne();
-    m_affiches.apresAnnulation();
-    if (!echec.empty()) m_c.dialogues.MsgBox(echec, style);
+    const auto echec = acquire::conduitPassage(
+        m_lot, m_affiches, [this] { importeTout(); }, [this] { confirmeLot(); });
+    if (echec) m_c.dialogues.MsgBox(echec->texte, echec->style);
     return rapport();
-}
-
-// A poster is written before the row that names it: the films before it are whole.
-void PassageVoisins::gardeLeLotEntier() {
-    try {
-        confirmeLot();
-    } catch (const db::EchecConversion&) {
-    } catch (const dao::ErreurDao&) {
-    }
 }
 
 acquire::RapportImport PassageVoisins::rapport() {
@@ -114,13 +102,8 @@ void PassageVoisins::ajoute(const FilmVoisin& film) {
     films.AddNew();
     films.assigne("Titre", film.titre);
     films.assigne("Realisateur", film.realisateur);
-    films.assigne("Annee", film.annee);
-    films.assigne("Origine", film.origine);
-    films.assigne("Genre", film.genre);
-    films.assigne("Duree", film.duree);
-    films.assigne("Acteurs", film.acteurs);
-    films.assigne("Resume", film.resume);
-    films.assigne("Production", film.production);
+    for (const edit::ChampLu& champ : edit::kChampsLus)
+        films.assigne(champ.colonne, film.*champ.valeur);
     films.assigne("Note", film.note == 0 ? dao::Valeur() : dao::Valeur(film.note));
     films.assigne("DateAjout", film.dateAjout.empty() && !film.sansAjout ? m_jour : film.dateAjout);
     films.assigne("Affiche", affiche.valeur);
@@ -147,15 +130,10 @@ void PassageVoisins::ajoutePossession(const db::CleFilm& film, const PossessionV
     dao::Recordset& personnel = m_c.base.personnel;
     personnel.AddNew();
     edit::nommeFilmPossede(personnel, film);
-    personnel.assigne("Support", celle.support);
-    personnel.assigne("Rangement", celle.rangement);
-    personnel.assigne("Fichier1", celle.fichiers[0]);
-    personnel.assigne("Fichier2", celle.fichiers[1]);
-    personnel.assigne("Fichier3", celle.fichiers[2]);
-    personnel.assigne("Pret", celle.pret);
-    personnel.assigne("Reserve", celle.reserve);
-    personnel.assigne("Date", celle.date);
-    personnel.assigne("Divers", celle.divers);
+    for (const auto& [champ, valeur] : kDePossession)
+        personnel.assigne(champ, celle.*valeur);
+    for (std::size_t i = 0; i < celle.fichiers.size(); ++i)
+        personnel.assigne("Fichier" + std::to_string(i + 1), celle.fichiers[i]);
     personnel.Update();
     if (!celle.pret.empty()) ++m_compte.pretes;
 }
@@ -202,9 +180,7 @@ acquire::AfficheImportee PassageVoisins::afficheDe(const FilmVoisin& film) {
 }
 
 void PassageVoisins::confirmeLot() {
-    m_affiches.avantValidation();
-    m_lot.confirme();
-    m_affiches.apresValidation();
+    confirme(m_lot, m_affiches);
     m_acquis = m_rapport;
     m_compteAcquis = m_compte;
     m_faitsAcquis = m_faits;

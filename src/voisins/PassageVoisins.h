@@ -34,7 +34,6 @@ class PassageVoisins {
     // Empty where the film has none, or none that can be had, which the report then says.
     [[nodiscard]] acquire::AfficheImportee afficheDe(const FilmVoisin& film);
     void confirmeLot();
-    void gardeLeLotEntier();
     [[nodiscard]] acquire::RapportImport rapport();
 
     struct Compte {

@@ -5,6 +5,7 @@
 #include "platform/fichiers/Fichiers.h"
 #include "util/Csv.h"
 #include "util/Nombres.h"
+#include "util/Tables.h"
 #include "util/Texte.h"
 #include "voisins/Lecteurs.h"
 #include "voisins/Valeurs.h"
@@ -59,6 +60,7 @@ constexpr std::array<Nom, kColonnes> kNoms = {{
     {Colonne::Reserve, "Réservé à", " reservea reserve reservepour reserved reservedfor "},
     {Colonne::Divers, "Divers", " divers remarque numero number misc "},
 }};
+static_assert(util::dansLOrdre(kNoms, &Nom::colonne, Colonne::Divers));
 
 // Letters and figures alone, without accents and without what the values are counted in.
 std::string forme(std::string_view entete) {
@@ -266,6 +268,8 @@ void metALaLettre(exportation::Champ champ, const std::string& valeur, FilmVoisi
         {Champ::Support, &PossessionVoisine::support}, {Champ::Rangement, &PossessionVoisine::rangement},
         {Champ::Pret, &PossessionVoisine::pret},       {Champ::Reserve, &PossessionVoisine::reserve},
         {Champ::Date, &PossessionVoisine::date},       {Champ::Divers, &PossessionVoisine::divers}};
+    static constexpr std::size_t kAutrement = 6;  // the poster, the rating, whether there is a holding, its files
+    static_assert(std::size(kDuFilm) + std::size(kDeLaPossession) + kAutrement == exportation::kNombreDeChamps);
     for (const auto& [celui, place] : kDuFilm)
         if (celui == champ) film.*place = valeur;
     for (const auto& [celui, place] : kDeLaPossession)

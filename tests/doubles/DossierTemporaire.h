@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -8,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 #include <stdlib.h>
 
@@ -17,6 +19,16 @@ namespace doubles {
 inline std::filesystem::path donneesReelles(std::string_view dossier) {
     const char* choisies = getenv("AMBRELIS_DONNEES");
     return std::filesystem::path(choisies ? choisies : AMBRELIS_DONNEES_DEFAUT) / dossier;
+}
+
+// The real Jet bases, in the order of their names; none where there are no real data.
+inline std::vector<std::filesystem::path> basesJetReelles() {
+    std::vector<std::filesystem::path> bases;
+    std::error_code absent;
+    for (const auto& entree : std::filesystem::directory_iterator(donneesReelles("bases-jet"), absent))
+        if (entree.path().extension() == ".mdb") bases.push_back(entree.path());
+    std::sort(bases.begin(), bases.end());
+    return bases;
 }
 
 // A folder of its own for one test, deleted with all it holds. Names are relative to it; a name with folders makes them.
@@ -59,6 +71,16 @@ class DossierTemporaire {
             if (const std::string nom = entree.path().lexically_relative(m_chemin); entree.is_regular_file())
                 fichiers[nom] = lit(nom);
         return fichiers;
+    }
+    // What stands directly in one of its folders, or in itself, in the order of the names; nothing where there is no such
+    // folder.
+    [[nodiscard]] std::vector<std::string> noms(std::string_view sousDossier = "") const {
+        std::vector<std::string> trouves;
+        std::error_code absent;
+        for (const auto& entree : std::filesystem::directory_iterator(chemin(sousDossier), absent))
+            trouves.push_back(entree.path().filename());
+        std::sort(trouves.begin(), trouves.end());
+        return trouves;
     }
     [[nodiscard]] bool existe(std::string_view nom) const { return std::filesystem::exists(chemin(nom)); }
 

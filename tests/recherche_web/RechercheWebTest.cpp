@@ -73,12 +73,7 @@ class RechercheWeb : public testing::Test {
         return resultat;
     }
     std::string etat() { return fenetre->findChild<QLabel*>(QStringLiteral("lblEtat"))->text().toStdString(); }
-    std::vector<std::string> recus() const {
-        std::vector<std::string> resultat;
-        for (const auto& entree : std::filesystem::directory_iterator(dossier.chemin()))
-            resultat.push_back(entree.path().filename());
-        return resultat;
-    }
+    std::vector<std::string> recus() const { return dossier.noms(); }
 
     const doubles::DossierTemporaire dossier;
     ServeurWeb serveur;

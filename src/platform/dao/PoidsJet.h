@@ -53,6 +53,8 @@ struct ElementJet {
     bool commence = false;    // a letter starts here (false for its continuation and for accents alone)
 };
 
+// One walk over the elements of a text, of which it takes a copy; false at the end. The iterator behind it is one: a new
+// walk ends the one before.
 class ElementsDeTexte {
   public:
     explicit ElementsDeTexte(const icu::UnicodeString& texte);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 #include <unicode/normalizer2.h>
 #include <unicode/unistr.h>
@@ -79,51 +80,36 @@ constexpr std::array<Compte, 32> kSignesLatins{
     lettre(0x3712), lettre(0x3716), lettre(0x371a), lettre(0x2b16)};
 
 struct Place {
-    char16_t caractere;
+    std::u16string_view caracteres;  // which count alike
     Compte compte;
 };
 // Letters that are no letter with an accent, and signs that stand alone.
-constexpr std::array kAPart{Place{u'Æ', lettre(0x4a51)},
-                            Place{u'Ð', lettre(0x4f, 0x68)},
-                            Place{u'×', lettre(0x3309)},
-                            Place{u'Ø', lettre(0x64, 0x21)},
-                            Place{u'Þ', lettre(0x6d57)},
-                            Place{u'ß', lettre(0x6b6b)},
-                            Place{u'æ', lettre(0x4a51)},
-                            Place{u'ð', lettre(0x4f, 0x68)},
-                            Place{u'÷', lettre(0x330a)},
-                            Place{u'ø', lettre(0x64, 0x21)},
-                            Place{u'þ', lettre(0x6d57)},
-                            Place{u'Đ', lettre(0x4f, 0x1e)},
-                            Place{u'đ', lettre(0x4f, 0x1e)},
-                            Place{u'Ħ', lettre(0x57, 0x1e)},
-                            Place{u'ħ', lettre(0x57, 0x1e)},
-                            Place{u'ı', lettre(0x59, 3)},
-                            Place{u'Ĳ', lettre(0x595b)},
-                            Place{u'ĳ', lettre(0x595b)},
-                            Place{u'ĸ', lettre(0x5c, 3)},
-                            Place{u'Ŀ', lettre(0x5e, 0x11)},
-                            Place{u'ŀ', lettre(0x5e, 0x11)},
-                            Place{u'Ł', lettre(0x5e, 0x1f)},
-                            Place{u'ł', lettre(0x5e, 0x1f)},
-                            Place{u'ŉ', lettre(0x62, 0x48)},
-                            Place{u'Ŋ', lettre(0x6305)},
-                            Place{u'ŋ', lettre(0x6305)},
-                            Place{u'Œ', lettre(0x6451)},
-                            Place{u'œ', lettre(0x6451)},
-                            Place{u'Ŧ', lettre(0x6e06, 0x1e)},
-                            Place{u'ŧ', lettre(0x6e06, 0x1e)},
-                            Place{u'ſ', lettre(0x6c06)},
-                            Place{u'ƒ', lettre(0x53, 0x7b)},
-                            Place{u'\u0218', kRien},
-                            Place{u'\u0219', kRien},
-                            Place{u'\u021a', kRien},
-                            Place{u'\u021b', kRien},
-                            Place{u'\u0390', lettre(0x7914, 0x16)},
-                            Place{u'\u03b0', lettre(0x791f, 0x16)},
-                            Place{u'№', lettre(0x6302)},
-                            Place{u'™', lettre(0x6e04)},
-                            Place{u'€', lettre(0x35a1)}};
+constexpr std::array kAPart{Place{u"Ææ", lettre(0x4a51)},
+                            Place{u"Ðð", lettre(0x4f, 0x68)},
+                            Place{u"×", lettre(0x3309)},
+                            Place{u"Øø", lettre(0x64, 0x21)},
+                            Place{u"Þþ", lettre(0x6d57)},
+                            Place{u"ß", lettre(0x6b6b)},
+                            Place{u"÷", lettre(0x330a)},
+                            Place{u"Đđ", lettre(0x4f, 0x1e)},
+                            Place{u"Ħħ", lettre(0x57, 0x1e)},
+                            Place{u"ı", lettre(0x59, 3)},
+                            Place{u"Ĳĳ", lettre(0x595b)},
+                            Place{u"ĸ", lettre(0x5c, 3)},
+                            Place{u"Ŀŀ", lettre(0x5e, 0x11)},
+                            Place{u"Łł", lettre(0x5e, 0x1f)},
+                            Place{u"ŉ", lettre(0x62, 0x48)},
+                            Place{u"Ŋŋ", lettre(0x6305)},
+                            Place{u"Œœ", lettre(0x6451)},
+                            Place{u"Ŧŧ", lettre(0x6e06, 0x1e)},
+                            Place{u"ſ", lettre(0x6c06)},
+                            Place{u"ƒ", lettre(0x53, 0x7b)},
+                            Place{u"\u0218\u0219\u021a\u021b", kRien},
+                            Place{u"\u0390", lettre(0x7914, 0x16)},
+                            Place{u"\u03b0", lettre(0x791f, 0x16)},
+                            Place{u"№", lettre(0x6302)},
+                            Place{u"™", lettre(0x6e04)},
+                            Place{u"€", lettre(0x35a1)}};
 
 struct Accent {
     char16_t caractere;
@@ -211,8 +197,8 @@ Compte compteDe(char16_t c) {
     if (c < 0x80) return ascii(c);
     if (c < 0xa0) return signe(0x1eu + (c - 0x80u));
     if (c < 0xc0) return kSignesLatins[c - 0xa0u];
-    if (const auto* place = std::ranges::find(kAPart, c, &Place::caractere); place != kAPart.end())
-        return place->compte;
+    for (const Place& place : kAPart)
+        if (place.caracteres.find(c) != std::u16string_view::npos) return place.compte;
     if (c < 0x180) return latine(c);
     if (c >= 0x300 && c < 0x370) return accentSeul(c);
     if (c >= 0x370 && c < 0x400) return grecque(c);

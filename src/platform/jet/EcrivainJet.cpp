@@ -46,48 +46,37 @@ ColonneEcrite champ(const char* nom, Type type, std::uint8_t marques = 0x12) {
     return {nom, type, marques, 0};
 }
 
-TableEnCours tableDesObjets(FichierDePages& fichier) {
-    return {fichier,
-            kPremiereTable + Objets,
-            Usage::Systeme,
-            {champ("Id", Type::Entier32), champ("ParentId", Type::Entier32), champ("Name", Type::Texte),
-             champ("Type", Type::Entier16), champ("DateCreate", Type::Date), champ("DateUpdate", Type::Date),
-             champ("Owner", Type::Binaire, 0x32), champ("Flags", Type::Entier32), champ("Database", Type::Memo),
-             champ("Connect", Type::Memo), champ("ForeignName", Type::Texte), champ("RmtInfoShort", Type::Binaire),
-             champ("RmtInfoLong", Type::Ole), champ("Lv", Type::Ole), champ("LvProp", Type::Ole),
-             champ("LvModule", Type::Ole), champ("LvExtra", Type::Ole)},
-            {{"ParentIdName", {1, 2}, kUnique, false}, {"Id", {0}, kUnique, true}}};
-}
+struct TableDuSysteme {
+    const char* nom;
+    std::vector<ColonneEcrite> colonnes;
+    std::vector<IndexDeTable> index;
+};
 
-TableEnCours tableDesDroits(FichierDePages& fichier) {
-    return {fichier,
-            kPremiereTable + Droits,
-            Usage::Systeme,
-            {champ("ObjectId", Type::Entier32), champ("SID", Type::Binaire, 0x32), champ("ACM", Type::Entier32),
-             champ("FInheritable", Type::Booleen)},
-            {{"ObjectId", {0}, kRequis, false}}};
-}
-
-TableEnCours tableDesRequetes(FichierDePages& fichier) {
-    return {fichier,
-            kPremiereTable + Requetes,
-            Usage::Systeme,
-            {champ("ObjectId", Type::Entier32), champ("Attribute", Type::Octet), champ("Order", Type::Binaire),
-             champ("Name1", Type::Texte), champ("Name2", Type::Texte), champ("Expression", Type::Memo),
-             champ("Flag", Type::Entier16), champ("LvExtra", Type::Entier32)},
-            {{"ObjectIdAttribute", {0, 1, 2}, kUnique, true}}};
-}
-
-TableEnCours tableDesRelations(FichierDePages& fichier) {
-    return {fichier,
-            kPremiereTable + Relations,
-            Usage::Systeme,
-            {champ("szRelationship", Type::Texte), champ("grbit", Type::Entier32), champ("ccolumn", Type::Entier32),
-             champ("icolumn", Type::Entier32), champ("szObject", Type::Texte), champ("szColumn", Type::Texte),
-             champ("szReferencedObject", Type::Texte), champ("szReferencedColumn", Type::Texte)},
-            {{"szRelationship", {0}, kSansNull, false},
-             {"szObject", {4}, kSansNull, false},
-             {"szReferencedObject", {6}, kSansNull, false}}};
+// In the order of `Systeme`.
+std::vector<TableDuSysteme> tablesDuSysteme() {
+    using enum Type;
+    return {{"MSysObjects",
+             {champ("Id", Entier32), champ("ParentId", Entier32), champ("Name", Texte), champ("Type", Entier16),
+              champ("DateCreate", Date), champ("DateUpdate", Date), champ("Owner", Binaire, 0x32),
+              champ("Flags", Entier32), champ("Database", Memo), champ("Connect", Memo), champ("ForeignName", Texte),
+              champ("RmtInfoShort", Binaire), champ("RmtInfoLong", Ole), champ("Lv", Ole), champ("LvProp", Ole),
+              champ("LvModule", Ole), champ("LvExtra", Ole)},
+             {{"ParentIdName", {1, 2}, kUnique, false}, {"Id", {0}, kUnique, true}}},
+            {"MSysACEs",
+             {champ("ObjectId", Entier32), champ("SID", Binaire, 0x32), champ("ACM", Entier32),
+              champ("FInheritable", Booleen)},
+             {{"ObjectId", {0}, kRequis, false}}},
+            {"MSysQueries",
+             {champ("ObjectId", Entier32), champ("Attribute", Octet), champ("Order", Binaire), champ("Name1", Texte),
+              champ("Name2", Texte), champ("Expression", Memo), champ("Flag", Entier16), champ("LvExtra", Entier32)},
+             {{"ObjectIdAttribute", {0, 1, 2}, kUnique, true}}},
+            {"MSysRelationships",
+             {champ("szRelationship", Texte), champ("grbit", Entier32), champ("ccolumn", Entier32),
+              champ("icolumn", Entier32), champ("szObject", Texte), champ("szColumn", Texte),
+              champ("szReferencedObject", Texte), champ("szReferencedColumn", Texte)},
+             {{"szRelationship", {0}, kSansNull, false},
+              {"szObject", {4}, kSansNull, false},
+              {"szReferencedObject", {6}, kSansNull, false}}}};
 }
 
 // The cipher of a file's head.
@@ -207,12 +196,12 @@ std::uint64_t octetsAilleurs(TypeEcrit type, std::string_view texte) {
 class Ecrivain::Interieur {
   public:
     Interieur(const std::string& chemin, double jour) : m_fichier(chemin), m_jour(jour) {
-        while (m_fichier.nombre() < kPremiereTable + 4)
+        const std::vector<TableDuSysteme> tables = tablesDuSysteme();
+        while (m_fichier.nombre() < kPremiereTable + tables.size())
             (void)m_fichier.nouvelle();
-        m_systeme.push_back(tableDesObjets(m_fichier));
-        m_systeme.push_back(tableDesDroits(m_fichier));
-        m_systeme.push_back(tableDesRequetes(m_fichier));
-        m_systeme.push_back(tableDesRelations(m_fichier));
+        for (const TableDuSysteme& table : tables)
+            m_systeme.emplace_back(m_fichier, kPremiereTable + static_cast<std::uint32_t>(m_systeme.size()),
+                                   Usage::Systeme, table.colonnes, table.index);
     }
 
     std::size_t table(const TableEcrite& table);
@@ -316,9 +305,9 @@ void Ecrivain::Interieur::ecritLeCatalogue() {
     objet(kBoiteBases, kBoites, "Databases", kBoite, kMoteur, kDuSysteme);
     objet(kBoiteRelations, kBoites, "Relationships", kBoite, kMoteur, kDuSysteme);
     objet(kBaseElleMeme, kBoiteBases, "MSysDb", kBase, kAdministrateur, kDuSysteme);
-    constexpr std::array kNoms{"MSysObjects", "MSysACEs", "MSysQueries", "MSysRelationships"};
-    for (std::uint32_t i = 0; i < kNoms.size(); ++i)
-        objet(kPremiereTable + i, kBoiteTables, kNoms[i], kTable, kMoteur, kDuSysteme);
+    std::uint32_t page = kPremiereTable;
+    for (const TableDuSysteme& table : tablesDuSysteme())
+        objet(page++, kBoiteTables, table.nom, kTable, kMoteur, kDuSysteme);
     for (const Table& table : m_tables)
         objet(table.enCours.page(), kBoiteTables, table.description.nom, kTable, kAdministrateur, 0,
               proprietes(table.description));

@@ -1,14 +1,7 @@
-#include "acquire/AncienneInstallation.h"
-#include "acquire/ImporterAncienneBase.h"
-#include "acquire/LotImport.h"
 #include "db/ConversionJet.h"
 #include "db/Sauvegardes.h"
 #include "doubles/CollectionJet.h"
-#include "doubles/Mort.h"
-#include "parcours/Photo.h"
-#include "unit/acquire/FenetreAcquisition.h"
-
-#include <filesystem>
+#include "unit/acquire/AncienneBase.h"
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
@@ -16,127 +9,10 @@
 namespace {
 
 using namespace std::string_literals;
-using Lignes = std::vector<Ligne>;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr const char* kQuestion =
-    "Cette fonction permet de récupérer la base de données et les images d'une précédente version.\nSouhaitez-vous "
-    "continuer ?";
-constexpr const char* kDossier = "Dossier de la précédente version";
-constexpr const char* kImages = "Mes affiches/";
-
-// An open base, and a previous installation with a base of ours and two pictures.
-class AncienneBaseTest : public FenetreAcquisition {
-  protected:
-    doubles::DossierTemporaire ancienne;
-    std::string initial;  // folder that the box opens in
-    std::string images = ancienne.chemin(kImages);
-
-    AncienneBaseTest() {
-        ancienne.ecrit("AMBRELIS.INI",
-                       "1\r\nC:\\Vid\xE9o\\Mes Affiches\\\r\n 9000\r\n 6000\r\n 2\r\nC:\\Vid\xE9o\\FILMS.MDB\r\n");
-        ancienne.ecrit(kImages + std::string("Été - R.jpg"), "image d'été");
-        ancienne.ecrit(kImages + std::string("grande.JPG"), std::string(230001, 'x'));
-    }
-
-    void anciens(const Lignes& films, const Lignes& possessions) {
-        const std::string chemin = ancienne.chemin("Films.mdb");
-        std::filesystem::remove(chemin);
-        dao::DBEngine::CreateDatabase(chemin, db::schema());
-        dao::Database ouverte = dao::DBEngine::OpenDatabase(chemin);
-        remplit(ouverte, films, possessions);
-    }
-    static void remplit(dao::Database& cible, const Lignes& films, const Lignes& possessions) {
-        dao::Transaction ensemble(cible);
-        dao::Recordset lesFilms = cible.OpenRecordset("Films"), lesPossessions = cible.OpenRecordset("Personnel");
-        for (const auto& film : films)
-            ajoute(lesFilms, film);
-        for (const auto& possession : possessions)
-            ajoute(lesPossessions, possession);
-        ensemble.confirme();
-    }
-    static Ligne film(const std::string& titre, const dao::Valeur& affiche = {}) {
-        return {{"Titre", titre}, {"Realisateur", "R"}, {"Affiche", affiche}};
-    }
-    static Ligne possession(const std::string& titre, const std::string& support = "") {
-        return {{"Titre2", titre}, {"Realisateur2", "R"}, {"Support", support}};
-    }
-    // So many films, each owned and with its own poster in the old base.
-    void nombreuxFilms(int nombre) {
-        Lignes films, possessions;
-        for (int i = 0; i < nombre; ++i) {
-            films.push_back(film("Film " + std::to_string(i), dao::Valeur::octets("STO" + std::to_string(i))));
-            possessions.push_back(possession("Film " + std::to_string(i)));
-        }
-        anciens(films, possessions);
-    }
-
-    void attendChoix(const std::string& choisi) {
-        dialogues.attendMsgBox(kQuestion, dialogues::kQuestion, dialogues::kOui);
-        dialogues.attendDossier(kDossier, std::exchange(initial, choisi), choisi);
-    }
-    void attendAccord(int reponse = dialogues::kOui) {
-        dialogues.attendMsgBox(origine() + "\n\nSouhaitez-vous importer cette base ?", dialogues::kQuestion, reponse);
-    }
-    [[nodiscard]] std::string origine() const {
-        return "Base : " + ancienne.chemin("Films.mdb") + "\nImages : " + (images.empty() ? "aucun dossier" : images);
-    }
-    // Imports, and checks that the previous installation is as it was.
-    void importe(const std::string& rapport) {
-        const auto avant = ancienne.contenu();
-        attendChoix(ancienne.chemin());
-        attendAccord();
-        dialogues.attendMsgBox(rapport + "\n" + origine(), dialogues::kInformation);
-        proposeImportAncienneBase(c);
-        dialogues.verifie();
-        EXPECT_EQ(ancienne.contenu(), avant);
-        EXPECT_TRUE(std::filesystem::is_empty(chemins.dossierTmp));
-        EXPECT_EQ(ecranMuet.soufflesHorsTravail, 0);
-        EXPECT_FALSE(ajout.ProgressBar1.Visible || base.base.enTransaction());
-    }
-    [[nodiscard]] parcours::Photo photo() const { return parcours::Photo(chemins.base); }
-    [[nodiscard]] std::string image(const std::string& nom) { return dossier.lit("Images/" + nom); }
-};
-
-TEST_F(AncienneBaseTest, FindsTheBaseAndThePosters) {
-    const doubles::DossierTemporaire ailleurs;
-    const std::string autre = ailleurs.ecrit("Séries.mdb", "x");
-    ancienne.ecrit("films.MDB", "x");
-    ancienne.ecrit("Bases/Séries.mdb", "x");
-    std::filesystem::create_directory(ancienne.chemin("IMAGES"));
-    const struct {
-        std::string images, base, imagesVues, baseVue;
-    } cas[] = {
-        {"", "", "IMAGES/", "films.MDB"},
-        {"D:\\Ambrelis\\Mes Affiches", "D:\\Ambrelis\\Bases\\s\xC9ries.mdb", kImages, "Bases/Séries.mdb"},
-        {"\\\\serveur\\partage\\mes affiches\\\\", "bases/Séries.mdb", kImages, "Bases/Séries.mdb"},
-        {"/nulle/part/Mes affiches/", "/ailleurs/Films.mdb", kImages, "films.MDB"},
-        {ancienne.chemin("Bases"), autre, "Bases/", autre},
-    };
-    for (const auto& un : cas) {
-        ancienne.ecrit("AMBRELIS.INI", "0\r\n" + un.images + "\r\n0\r\n0\r\n0\r\n" + un.base + "\r\n");
-        std::string lieu = ancienne.chemin();
-        lieu.pop_back();
-        const auto trouvee = acquire::AncienneInstallation::dans(lieu);
-        EXPECT_EQ(trouvee.dossierImages, ancienne.chemin(un.imagesVues)) << un.images;
-        EXPECT_EQ(trouvee.base, un.baseVue.starts_with('/') ? un.baseVue : ancienne.chemin(un.baseVue)) << un.base;
-    }
-    EXPECT_EQ(acquire::AncienneInstallation::dans(ailleurs.chemin()).base, "");
-
-    // What is named and is not there; a file is no folder, nor a folder or a pipe a file.
-    ASSERT_EQ(mkfifo(ancienne.chemin("tube.mdb").c_str(), 0600), 0);
-    for (const auto& [lesImages, ancienneBase] :
-         {std::pair("C:\\", "C:\\Ambrelis\\Partie.mdb"), {"Films.mdb", "Images"}, {"/nulle/part", "tube.mdb"}}) {
-        ancienne.ecrit("AMBRELIS.INI", "0\r\n"s + lesImages + "\r\n0\r\n0\r\n0\r\n" + ancienneBase + "\r\n");
-        const auto trouvee = acquire::AncienneInstallation::dans(ancienne.chemin());
-        EXPECT_EQ(trouvee.base + trouvee.dossierImages, "");
-        EXPECT_EQ(trouvee.baseAbsente, ancienneBase);
-        EXPECT_EQ(trouvee.imagesAbsentes, lesImages);
-    }
-}
-
-TEST_F(AncienneBaseTest, CarriesEveryFieldAsItIs) {
+TEST_F(AncienneBase, CarriesEveryFieldAsItIs) {
     const std::string longTitre = "L'œuvre \"10\" " + std::string(200, 'o');
     const Ligne complet{{"Titre", longTitre},
                         {"Realisateur", "Agnès Varda"},
@@ -165,7 +41,7 @@ TEST_F(AncienneBaseTest, CarriesEveryFieldAsItIs) {
                 ElementsAre("AffichageApresModification", "RaffraichitBoitesDeroulantes", "AfficheNbTitres"));
 }
 
-TEST_F(AncienneBaseTest, AddsOnlyWhatIsNotThere) {
+TEST_F(AncienneBase, AddsOnlyWhatIsNotThere) {
     remplit(base.base, {film("ALIEN "), film("Solaris"), film("Cœur")}, {possession("Solaris", "VHS")});
     anciens({film("Alien"),
              film("Solaris"),
@@ -189,7 +65,7 @@ TEST_F(AncienneBaseTest, AddsOnlyWhatIsNotThere) {
     EXPECT_EQ(rafraichissement.appels.size(), 3u);
 }
 
-TEST_F(AncienneBaseTest, PutsThePostersInTheFolderOfNewOnes) {
+TEST_F(AncienneBase, PutsThePostersInTheFolderOfNewOnes) {
     ecran::choisit(stockage.Option3, 1);
     dossier.ecrit("Images/Prise - R.jpg", "une autre image");
     dossier.ecrit("Images/Entame - R.jpg", "ent");  // what an import that was killed has left
@@ -208,97 +84,8 @@ TEST_F(AncienneBaseTest, PutsThePostersInTheFolderOfNewOnes) {
     EXPECT_EQ(image("Grande - R.jpg").size(), 230001u);
 }
 
-TEST_F(AncienneBaseTest, RefusesWhatCannotBeImported) {
-    const std::string ancienneBase = ancienne.chemin("Films.mdb"), ici = dossier.chemin("Tmp/..");
-    const auto refuse = [&](const std::string& lieu, const std::string& message) {
-        attendChoix(lieu);
-        dialogues.attendMsgBox(message, dialogues::kExclamation);
-        proposeImportAncienneBase(c);
-    };
-    const auto illisible = [&](const std::string& raison) {
-        attendChoix(ancienne.chemin());
-        attendAccord();
-        dialogues.attendMsgBox("La base " + ancienneBase + " n'a pas pu être lue.\n" + raison, dialogues::kCritique);
-        proposeImportAncienneBase(c);
-    };
-    dialogues.attendMsgBox(kQuestion, dialogues::kQuestion, dialogues::kNon);
-    proposeImportAncienneBase(c);
-    attendChoix("");
-    proposeImportAncienneBase(c);
-    ancienne.ecrit("AMBRELIS.INI", "");
-    refuse(ancienne.chemin(), "Aucune base de données n'a été trouvée dans le dossier " + ancienne.chemin() + ".");
-    refuse(ici, "Le dossier " + ici + " est celui d'Ambrelis : choisissez celui de la version précédente.");
-    std::filesystem::create_symlink(chemins.base, ancienneBase);
-    refuse(ancienne.chemin(), "La base " + ancienneBase + " est celle qui est ouverte : il n'y a rien à importer.");
-    std::filesystem::remove(ancienneBase);
-    images = "";
-    ancienne.ecrit("Films.mdb", "ni l'une ni l'autre");
-    illisible("Ce fichier n'est pas une base, ou il est endommagé.");
-    std::filesystem::remove(ancienneBase);
-    dao::DBEngine::CreateDatabase(ancienneBase, "CREATE TABLE Films (Titre TEXT)");
-    illisible("La table « Personnel » n'existe pas dans la base.");
-    doubles::BaseJet jet;
-    jet.table("Films", {{"Titre"}});
-    ancienne.ecrit("Films.mdb", jet.octets());
-    illisible("Le champ « Realisateur » manque dans la table « Films ».");
-    EXPECT_THAT(colonne("Films", "Titre"), IsEmpty());
-    EXPECT_THAT(rafraichissement.appels, IsEmpty());
-    EXPECT_TRUE(std::filesystem::is_empty(chemins.dossierTmp));
-}
-
-// What the settings name and is not there is asked for; nothing else is taken for it.
-TEST_F(AncienneBaseTest, AsksForWhatIsNotWhereTheSettingsSay) {
-    anciens({film("Été", "JPGÉté - R.jpg")}, {});
-    const auto reglages = [&](const std::string& lesImages, const std::string& ancienneBase) {
-        ancienne.ecrit("AMBRELIS.INI", "1\n" + lesImages + "\n\n\n\n" + ancienneBase + "\n");
-    };
-    const auto demandeBase = [&](int reponse) {
-        attendChoix(ancienne.chemin());
-        dialogues.attendMsgBox(
-            "La base D:\\Séries.mdb, que nomment les réglages de cette version, n'a pas été trouvée."
-            "\nSouhaitez-vous indiquer où elle se trouve ?",
-            dialogues::kQuestion, reponse);
-    };
-    const auto choisitBase = [&](const std::string& ancienneBase) {
-        demandeBase(dialogues::kOui);
-        dialogues.attendFichier(
-            {"Base de la précédente version", "Fichiers de base de données|*.mdb", ancienne.chemin(), false},
-            ancienneBase);
-    };
-    const auto demandeImages = [&](int reponse) {
-        dialogues.attendMsgBox(
-            "Le dossier des images E:\\Affiches, que nomment les réglages de cette version, n'a pas été "
-            "trouvé.\nSouhaitez-vous indiquer où il se trouve ?",
-            dialogues::kQuestion, reponse);
-    };
-    reglages("E:\\Affiches", "D:\\Séries.mdb");
-    demandeBase(dialogues::kNon);
-    proposeImportAncienneBase(c);
-    choisitBase("");
-    proposeImportAncienneBase(c);
-    choisitBase(ancienne.chemin("absente.mdb"));
-    dialogues.attendMsgBox("Le fichier indiqué est inexistant !", dialogues::kExclamation);
-    proposeImportAncienneBase(c);
-    choisitBase(ancienne.chemin("Films.mdb"));
-    demandeImages(dialogues::kNon);
-    images = "";
-    attendAccord(dialogues::kNon);
-    proposeImportAncienneBase(c);
-    EXPECT_EQ(base.films.RecordCount(), 0);
-
-    reglages("E:\\Affiches", "");
-    attendChoix(ancienne.chemin());
-    demandeImages(dialogues::kOui);
-    images = ancienne.chemin(kImages);
-    dialogues.attendDossier("Dossier des images de la précédente version", ancienne.chemin(), images);
-    attendAccord();
-    dialogues.attendMsgBox("1 film ajouté.\n" + origine(), dialogues::kInformation);
-    proposeImportAncienneBase(c);
-    EXPECT_THAT(colonne("Films", "Affiche"), ElementsAre("STOimage d'été"));
-}
-
 // A picture that was not there at first is given to its film by a later import, which changes no other poster.
-TEST_F(AncienneBaseTest, ASecondPassFillsThePostersThatAreMissing) {
+TEST_F(AncienneBase, ASecondPassFillsThePostersThatAreMissing) {
     for (const std::size_t option : {0, 1}) {
         ecran::choisit(stockage.Option3, option);
         const std::string p = std::to_string(option);
@@ -320,7 +107,7 @@ TEST_F(AncienneBaseTest, ASecondPassFillsThePostersThatAreMissing) {
 }
 
 // The names of its posters may say anything: nothing outside its images folder is read.
-TEST_F(AncienneBaseTest, ReadsNoPictureOutsideItsFolder) {
+TEST_F(AncienneBase, ReadsNoPictureOutsideItsFolder) {
     ancienne.ecrit("secret.jpg", "secret");
     std::filesystem::create_symlink(ancienne.chemin("secret.jpg"), ancienne.chemin(kImages + "lien.jpg"s));
     ASSERT_EQ(mkfifo(ancienne.chemin(kImages + "tube.jpg"s).c_str(), 0600), 0);
@@ -340,7 +127,7 @@ TEST_F(AncienneBaseTest, ReadsNoPictureOutsideItsFolder) {
 }
 
 // The losses are told first, and kept beside the open base: nothing is written to the previous installation.
-TEST_F(AncienneBaseTest, OfAProtectedAndDamagedJetBaseTakesWhatIsReadable) {
+TEST_F(AncienneBase, OfAProtectedAndDamagedJetBaseTakesWhatIsReadable) {
     doubles::BaseJet jet = doubles::collectionJet(3);
     jet.motDePasse = "secret";
     std::string abimee = jet.octets();
@@ -388,76 +175,8 @@ TEST_F(AncienneBaseTest, OfAProtectedAndDamagedJetBaseTakesWhatIsReadable) {
     proposeImportAncienneBase(c);
 }
 
-TEST_F(AncienneBaseTest, StoppedKeepsWhatWasAddedAndGoesOnNextTime) {
-    nombreuxFilms(40);
-    const std::string suite = "\nL'import a été interrompu : relancez-le pour ajouter le reste.";
-    ecranMuet.arretApres = 1;
-    importe("0 film ajouté." + suite);  // while the base is being read
-    EXPECT_THAT(rafraichissement.appels, IsEmpty());
-    ecranMuet.souffles = 0;
-    ecranMuet.arretApres = 1000;
-    ecranMuet.pendantSouffle = [&] {
-        EXPECT_TRUE(ajout.ProgressBar1.Visible);
-        if (ajout.lblProgression.Caption == "Film 9") ecranMuet.arretApres = ecranMuet.souffles;
-    };
-    importe("10 films ajoutés, dont 10 possédés." + suite);
-    ecranMuet.arretApres = 0;
-    ecranMuet.pendantSouffle = nullptr;
-    importe("30 films ajoutés, dont 30 possédés.\n10 films déjà présents.");
-    EXPECT_THAT(photo().depuis(parcours::Photo(ancienne.chemin("Films.mdb"))), IsEmpty());
-}
-
-TEST_F(AncienneBaseTest, AFailureLeavesWholeLotsAndNoFileOfTheLotThatFailed) {
-    const int lot = acquire::LotImport::kFiches;
-    nombreuxFilms(lot + 20);
-    ecran::choisit(stockage.Option3, 1);
-    ecranMuet.pendantSouffle = [&] {  // the second lot meets a folder that is gone
-        if (ajout.ProgressBar1.Value == lot + 10) std::filesystem::remove_all(dossier.chemin("Images"));
-    };
-    attendChoix(ancienne.chemin());
-    attendAccord();
-    const std::string chemin = dossier.chemin("Images/Film " + std::to_string(lot + 10) + " - R.jpg");
-    dialogues.attendMsgBox("Le fichier image " + chemin + " n'a pas pu être écrit (Disque plein/Lecture seule ?)",
-                           dialogues::kCritique);
-    dialogues.attendMsgBox(std::to_string(lot) + " films ajoutés, dont " + std::to_string(lot) +
-                               " possédés.\nL'import a été interrompu : relancez-le pour ajouter le reste.\n" +
-                               origine(),
-                           dialogues::kInformation);
-    proposeImportAncienneBase(c);
-    EXPECT_EQ(base.films.RecordCount(), lot);
-    EXPECT_EQ(base.personnel.RecordCount(), lot);
-    EXPECT_FALSE(dossier.existe("Images"));
-}
-
-// Each film that was stored has its holding and its poster; the next import adds the others.
-TEST_F(AncienneBaseTest, KilledAnywhereItLosesNothing) {
-    const int lot = acquire::LotImport::kFiches;
-    nombreuxFilms(lot + 30);
-    ecran::choisit(stockage.Option3, 1);
-    for (const int mort : {20, lot + 10}) {
-        base.ferme();
-        EXPECT_TRUE(doubles::meurtEnRoute([&] {
-            ouvre();
-            ecranMuet.pendantSouffle = [&] {
-                if (ajout.ProgressBar1.Value == mort) doubles::meurs();
-            };
-            attendChoix(ancienne.chemin());
-            attendAccord();
-            proposeImportAncienneBase(c);
-        }));
-        ouvre();
-        EXPECT_EQ(base.films.RecordCount(), mort > lot ? lot : 0);
-        EXPECT_EQ(base.personnel.RecordCount(), base.films.RecordCount());
-    }
-    importe("30 films ajoutés, dont 30 possédés.\n" + std::to_string(lot) + " films déjà présents.");
-    for (const std::string& affiche : colonne("Films", "Affiche")) {
-        const std::string nom = affiche.substr(3);
-        EXPECT_EQ("Film " + image(nom) + " - R.jpg", nom);
-    }
-}
-
 // With the rows that a conversion of the same file gives; the posters that files hold are then here.
-TEST_F(AncienneBaseTest, TakesInRealJetInstallations) {
+TEST_F(AncienneBase, TakesInRealJetInstallations) {
     const std::filesystem::path donnees = doubles::donneesReelles("bases-jet");
     if (!std::filesystem::is_directory(donnees)) GTEST_SKIP() << "no real bases at " << donnees;
     std::filesystem::copy(donnees / "Images", ancienne.chemin(kImages), std::filesystem::copy_options::recursive);

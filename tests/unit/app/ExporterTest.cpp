@@ -1,30 +1,13 @@
-#include "acquire/cmdAjoutAuto_Click.h"
-#include "app/Exporter.h"
-#include "db/Affiches.h"
-#include "parcours/Gestes.h"
+#include "unit/app/Export.h"
 #include "util/Csv.h"
 #include "util/Texte.h"
-#include "voisins/ImporteCollection.h"
-
-#include <random>
-#include <set>
-#include <sstream>
-
-#include <gtest/gtest.h>
 
 namespace {
 
-using app::DemandeDExport;
 using app::Etendue;
 using exportation::Champ;
 using exportation::Champs;
-using exportation::FilmExporte;
-using parcours::Execution;
-using parcours::Installation;
 using Table = std::vector<std::vector<std::string>>;
-
-constexpr std::array kDansLaFiche{"Titre", "Realisateur", "Annee",  "Origine",   "Genre",
-                                  "Duree", "Acteurs",     "Resume", "Production"};
 
 // A reader of tables of its own: quotes, ";" and CR LF alone count.
 Table litTableau(std::string_view texte) {
@@ -45,95 +28,6 @@ Table litTableau(std::string_view texte) {
         texte.remove_prefix(i + (nouvelle ? 3 : 2));
     }
     return lignes;
-}
-
-class Export : public testing::Test {
-  protected:
-    Installation installation;
-    Execution execution{installation.chemin()};
-    std::string affiche = "\xFF\xD8 octets\0de l'affiche";
-
-    void SetUp() override { ASSERT_TRUE(execution.demarre()); }
-
-    template <typename Geste>
-    void avec(Geste geste) {
-        execution.session.execute([&](const app::Contexte& c) { geste(c); });
-    }
-    void ajouteFilms(const std::vector<std::map<std::string, dao::Valeur>>& films) {
-        avec([&](const app::Contexte& c) {
-            dao::Transaction transaction(c.base.base);
-            for (const auto& valeurs : films) {
-                c.base.films.AddNew();
-                for (const auto& [champ, valeur] : valeurs)
-                    c.base.films.assigne(champ, valeur);
-                c.base.films.Update();
-            }
-            transaction.confirme();
-        });
-    }
-    void ajouteFilm(const std::map<std::string, dao::Valeur>& valeurs) { ajouteFilms({valeurs}); }
-    void possedeTous(const std::vector<std::map<std::string, std::string>>& possessions) {
-        avec([&](const app::Contexte& c) {
-            dao::Transaction transaction(c.base.base);
-            for (const auto& valeurs : possessions) {
-                c.base.personnel.AddNew();
-                for (const auto& [champ, valeur] : valeurs)
-                    c.base.personnel.assigne(champ, valeur);
-                c.base.personnel.Update();
-            }
-            transaction.confirme();
-        });
-    }
-    void possede(const std::map<std::string, std::string>& valeurs) { possedeTous({valeurs}); }
-    void liste(int zone, int tri) {
-        parcours::choisitZone(execution, zone);
-        parcours::choisitTri(execution, tri);
-    }
-    bool exporte(DemandeDExport::Format format, Etendue etendue, const std::string& nom,
-                 const Champs& champs = Champs::tous()) {
-        bool faite = false;
-        avec([&](const app::Contexte& c) {
-            faite = app::exporte(c, {format, etendue, champs, installation.chemin(nom)},
-                                 [](const std::string& octets, int largeur) {
-                                     return exportation::Vignette{octets, largeur, 2 * largeur};
-                                 });
-        });
-        return faite;
-    }
-    [[nodiscard]] std::string avis() const { return execution.etats.avis.lblAvis.Caption; }
-    [[nodiscard]] std::vector<std::string> noms() const {
-        std::vector<std::string> trouves;
-        for (const auto& [nom, octets] : installation.contenu())
-            if (nom.starts_with("sortie")) trouves.push_back(nom);
-        return trouves;
-    }
-};
-
-std::string numeroDe(const std::string& titre) {
-    return titre.substr(titre.find_last_not_of("0123456789") + 1);
-}
-
-struct NonATout final : dialogues::Dialogues {
-    int MsgBox(const std::string&, int style, const std::string&) override {
-        return style == dialogues::kQuestion ? dialogues::kNon : dialogues::kOk;
-    }
-    std::string InputBox(const std::string&, const std::string&, const std::string&) override { return {}; }
-    std::string choisitFichier(const dialogues::DemandeFichier&) override { return {}; }
-    std::string choisitDossier(const std::string&, const std::string&) override { return {}; }
-};
-
-constexpr auto kTableau = DemandeDExport::Format::Tableau;
-constexpr auto kPage = DemandeDExport::Format::Page;
-constexpr auto kFiches = DemandeDExport::Format::Fiches;
-
-TEST(Csv, ProtectsWhatBeginsAsAFormulaAndGivesItBack) {
-    for (const char* formule :
-         {"=1+1", "+1", "-1", "@A1", "\t=1", "\r=1", "\n", " =1", "\u00A0\u202F-1", "＝1", "'=1", "''@"})
-        EXPECT_EQ(util::protegeDesFormules(formule), "'" + std::string(formule));
-    for (const char* texte : {"", "'", "'Allo 'Allo", "9-1", "L'Été", "a=1", "''"})
-        EXPECT_EQ(util::protegeDesFormules(texte), texte);
-    for (const char* texte : {"=1", "'=1", "''=1", "'a", "' =", "", "'"})
-        EXPECT_EQ(util::sansProtection(util::protegeDesFormules(texte)), texte);
 }
 
 // Every field of the films and of their holdings, whatever it holds; a film of two holdings has two lines.
@@ -201,11 +95,13 @@ TEST_F(Export, TheListingLeavesAsItIsShown) {
     browse::VueArbre& vue = execution.etats.liste.TreeView1;
     vue.SelectedItem = parcours::noeud(execution.etats, "SF");
     EXPECT_EQ(films(Etendue::Choisis), "SF : Alien/SF Brazil/SF Dune/SF");
-    vue.Checkboxes = true;
-    vue.coches = {parcours::noeud(execution.etats, "Dune"), parcours::noeud(execution.etats, "Charade")};
+    const auto coche = [&] {  // until the next command
+        vue.Checkboxes = true;
+        vue.coches = {parcours::noeud(execution.etats, "Dune"), parcours::noeud(execution.etats, "Charade")};
+    };
+    coche();
     EXPECT_EQ(films(Etendue::Choisis), "Films cochés : Charade/Comédie Dune/SF");
-    vue.Checkboxes = true;
-    vue.coches = {parcours::noeud(execution.etats, "Dune"), parcours::noeud(execution.etats, "Charade")};
+    coche();
     avec([](const app::Contexte& c) {
         const app::OffreDExport offre = app::offreDExport(c);
         EXPECT_EQ(offre.liste + "|" + offre.choisis + "|" + offre.base,
@@ -241,141 +137,6 @@ TEST_F(Export, ThePageShowsTextsAsTexts) {
           "l&#39;un\r\n&amp; \uFFFDf</p>", "Prêté à\u00A0: &lt;i&gt;", "<p class=\"sous\">1 film, le ",
           "width=\"208\" height=\"416\" src=\"data:image/jpeg;base64,/9ggb2N0ZXRz\""})
         EXPECT_EQ(combien(morceau), 1u) << morceau;
-}
-
-// Sheets and posters come back through the import as they were; what a sheet cannot say is told, film by film.
-TEST_F(Export, SheetsAreImportedAgainAsTheSameFilms) {
-    std::mt19937 hasard(20);
-    const std::vector<std::string> morceaux{"Été", "œ", "日本",   "\r\n",   "\n",     "\t",   "<b>",
-                                            "\"",  ";", " ",      "l'an",   "\u2019", "A",    "zz",
-                                            "=a",  "é", "\u0301", "\u00A0", "\uFEFF", "/\\:*"};
-    const auto texte = [&](std::size_t auPlus, bool simple) {
-        std::string resultat;
-        for (std::size_t i = hasard() % (auPlus + 1); i > 0; --i)
-            resultat += simple ? "é;\u2019" : morceaux[hasard() % morceaux.size()];
-        return resultat;
-    };
-    constexpr int kFilms = 300;
-    std::map<std::string, std::map<std::string, std::string>> avant;
-    std::vector<std::map<std::string, dao::Valeur>> tous;
-    for (int i = 0; i < kFilms; ++i) {
-        std::map<std::string, dao::Valeur> valeurs;
-        const bool simple = i % 3 == 0;
-        for (const char* champ : kDansLaFiche)
-            valeurs[champ] = texte(champ == std::string("Resume")  ? 30
-                                   : champ == std::string("Annee") ? 1
-                                   : simple                        ? 2
-                                                                   : 3,
-                                   simple);
-        valeurs["Titre"] = (simple ? "Film " : texte(2, false)) + std::to_string(i);
-        if (simple) valeurs["Realisateur"] = "Ève " + std::to_string(i);
-        if (i % 2 == 0) valeurs["Affiche"] = db::valeurAfficheDansLaBase(affiche + std::to_string(i));
-        for (const auto& [champ, valeur] : valeurs)
-            avant[std::to_string(i)][champ] = valeur.texte();
-        tous.push_back(std::move(valeurs));
-    }
-    ajouteFilms(tous);
-    ASSERT_TRUE(exporte(kFiches, Etendue::Base, "sortie"));
-    std::set<std::string> dits;  // the numbers of the films that remarks are made of
-    std::istringstream remarques(installation.lit(std::string("sortie/") + exportation::kFichierRemarques));
-    for (std::string ligne; std::getline(remarques, ligne);)
-        if (const std::size_t fin = ligne.find(" - ");
-            fin != std::string::npos && ligne.find(" : ") != std::string::npos)
-            dits.insert(numeroDe(ligne.substr(0, fin)));
-    EXPECT_TRUE(avis().ends_with("ne disent pas tout : voir « Remarques.txt »."));
-
-    const Installation ailleurs;
-    NonATout boites;
-    Execution autre(ailleurs.chemin(), boites);
-    ASSERT_TRUE(autre.demarre());
-    autre.etats.ajout.txtCheminAjoutAuto.Text = installation.chemin("sortie");
-    autre.session.execute(acquire::cmdAjoutAuto_Click);
-    int identiques = 0, revenus = 0;
-    autre.session.execute([&](const app::Contexte& c) {
-        for (dao::Recordset films = c.base.base.OpenRecordset("Films"); !films.Eof(); films.MoveNext(), ++revenus) {
-            const std::string titre = films.texte("Titre"), numero = numeroDe(titre);
-            std::map<std::string, std::string>& film = avant.at(numero);
-            const bool pareil = std::all_of(kDansLaFiche.begin(), kDansLaFiche.end(),
-                                            [&](const char* champ) { return films.texte(champ) == film[champ]; });
-            EXPECT_EQ(pareil, !dits.contains(numero)) << titre;
-            identiques += pareil ? 1 : 0;
-            EXPECT_EQ(films.texte("Affiche"), film["Affiche"]) << titre;
-        }
-    });
-    EXPECT_EQ(revenus, kFilms);
-    EXPECT_GT(identiques, kFilms / 4);
-    EXPECT_LT(identiques, kFilms);
-    EXPECT_EQ(noms().size(), static_cast<std::size_t>(kFilms + kFilms / 2 + 1));
-}
-
-// A table comes back as the films and the holdings that left, field by field. What it cannot say: a poster of the base,
-// Null apart from "", a director of no name (which is then "Non défini").
-TEST_F(Export, TablesAreImportedAgainAsTheSameFilms) {
-    std::mt19937 hasard(27);
-    const std::vector<std::string> morceaux{"Été",    "œ", "🎬",  "\r\n",   "\n", "\t",   "'", "\"",
-                                            ";",      ",", " ",  "=1",     "+a", "-",    "@", "＝",
-                                            "\u00A0", "<", "\r", "\uFEFF", "|",  "Drama"};
-    const auto texte = [&](std::size_t auPlus) {
-        std::string resultat;
-        for (std::size_t i = hasard() % (auPlus + 1); i > 0; --i)
-            resultat += morceaux[hasard() % morceaux.size()];
-        return resultat;
-    };
-    const auto contenu = [](Execution& celle) {
-        std::multiset<std::string> lignes;
-        celle.session.execute([&](const app::Contexte& c) {
-            for (const char* table : {"Films", "Personnel"})
-                for (dao::Recordset ligne = c.base.base.OpenRecordset(table); !ligne.Eof(); ligne.MoveNext()) {
-                    std::string tout = table;
-                    for (const auto& champ : exportation::kChamps) {
-                        const std::string nom = champ.colonne;
-                        const bool duFilm = &champ < &exportation::kChamps[exportation::kChampsDuFilm];
-                        if (duFilm == (*table == 'F')) tout += "\x01" + ligne.texte(nom);
-                    }
-                    lignes.insert(tout + (*table == 'F' ? "" : "\x01" + ligne.texte("Realisateur2")));
-                }
-        });
-        return lignes;
-    };
-    constexpr int kFilms = 400;
-    std::vector<std::map<std::string, dao::Valeur>> tous;
-    std::vector<std::map<std::string, std::string>> possessions;
-    for (int i = 0; i < kFilms; ++i) {
-        std::map<std::string, dao::Valeur> film;
-        for (const char* champ : kDansLaFiche)
-            film[champ] = texte(champ == std::string("Resume") ? 40 : 4);
-        film["Titre"] = texte(4) + std::to_string(i);
-        film["Realisateur"] = texte(3) + "R";
-        if (i % 3 == 0) film["Note"] = dao::Valeur(static_cast<int>(hasard() % 10) + 1);
-        if (i % 4 != 0) film["DateAjout"] = i % 4 == 1 ? "07/09/2009" : texte(2);
-        for (int exemplaires = static_cast<int>(hasard() % 4); exemplaires > 0; --exemplaires) {
-            std::map<std::string, std::string> possession{{"Titre2", film["Titre"].texte()},
-                                                          {"Realisateur2", film["Realisateur"].texte()}};
-            for (std::size_t n = exportation::kChampsDuFilm + 1; n < exportation::kNombreDeChamps; ++n)
-                possession[exportation::kChamps[n].colonne] = texte(2);
-            possessions.push_back(std::move(possession));
-        }
-        tous.push_back(std::move(film));
-    }
-    ajouteFilms(tous);
-    possedeTous(possessions);
-    ASSERT_TRUE(exporte(kTableau, Etendue::Base, "sortie.csv"));
-    const Installation ailleurs;
-    NonATout boites;
-    Execution autre(ailleurs.chemin(), boites);
-    ASSERT_TRUE(autre.demarre());
-    autre.session.execute([&](const app::Contexte& c) {
-        const auto tableau = voisins::litTableauChoisi(c, installation.chemin("sortie.csv"));
-        ASSERT_TRUE(tableau);
-        const auto examen = voisins::examineTableau(c, *tableau);
-        ASSERT_TRUE(examen);
-        EXPECT_EQ(examen->nombre(edit::SortDuFilm::DejaLa), 0);
-        voisins::Examen voulu = *examen;
-        for (voisins::Jugement& celui : voulu.jugements)
-            celui.aAjouter = true;
-        voisins::importeCollection(c, voulu);
-    });
-    EXPECT_TRUE(contenu(autre) == contenu(execution));
 }
 
 // Stopped, refused or failed, an export leaves everything as it was, and says so.

@@ -88,18 +88,15 @@ class ConversionJetTest : public ::testing::Test {
 };
 
 TEST_F(ConversionJetTest, EveryFieldOfEveryRealBaseIsCarriedExactly) {
-    const fs::path donnees = doubles::donneesReelles("bases-jet");
-    if (!fs::exists(donnees)) GTEST_SKIP() << "no real data: " << donnees;
-    int bases = 0;
-    for (const auto& entree : fs::directory_iterator(donnees)) {
-        if (entree.path().extension() != ".mdb") continue;
-        SCOPED_TRACE(entree.path().filename().string());
-        ++bases;
-        const db::IssueJet issue = convertit(entree.path(), dossier.chemin("neuve.mdb"));
+    const auto bases = doubles::basesJetReelles();
+    if (bases.empty()) GTEST_SKIP() << "no real data";
+    for (const fs::path& reelle : bases) {
+        SCOPED_TRACE(reelle.filename().string());
+        const db::IssueJet issue = convertit(reelle, dossier.chemin("neuve.mdb"));
         ASSERT_TRUE(issue.estFaite()) << issue.echec.value_or("");
         dao::Database base = dao::DBEngine::OpenDatabase(dossier.chemin("neuve.mdb"));
         for (const char* table : {"Films", "Personnel"}) {
-            const auto attendues = litCollection(fs::path(entree.path()).replace_extension("json"), table);
+            const auto attendues = litCollection(fs::path(reelle).replace_extension("json"), table);
             const auto lues = litTable(base, table, attendues);
             ASSERT_EQ(lues.size(), attendues.size()) << table;
             for (std::size_t i = 0; i < lues.size(); ++i)
@@ -110,7 +107,7 @@ TEST_F(ConversionJetTest, EveryFieldOfEveryRealBaseIsCarriedExactly) {
         base.Close();
         fs::remove(dossier.chemin("neuve.mdb"));
     }
-    EXPECT_EQ(bases, 8);
+    EXPECT_EQ(bases.size(), 8U);
     EXPECT_EQ(progression.Value, progression.Max);
     EXPECT_EQ(ecran.soufflesHorsTravail, 0);
 }

@@ -68,9 +68,8 @@ class VersJetTest : public testing::Test, protected Installation {
         db::ouvreLaBase(c);
     }
     [[nodiscard]] std::vector<std::string> restes() const {
-        std::vector<std::string> noms;
-        for (const auto& entree : fs::directory_iterator(dossier.chemin()))
-            if (entree.path().extension() == ".tmp") noms.push_back(entree.path().filename().string());
+        std::vector<std::string> noms = dossier.noms();
+        std::erase_if(noms, [](const std::string& nom) { return !nom.ends_with(".tmp"); });
         return noms;
     }
     ecran::Progression progression;
@@ -78,23 +77,20 @@ class VersJetTest : public testing::Test, protected Installation {
 
 // Genuine bases, converted and written again, say what they said.
 TEST_F(VersJetTest, EveryRealBaseComesBackAsItWas) {
-    const fs::path donnees = doubles::donneesReelles("bases-jet");
-    if (!fs::exists(donnees)) GTEST_SKIP() << "no real data: " << donnees;
-    int bases = 0;
-    for (const auto& entree : fs::directory_iterator(donnees)) {
-        if (entree.path().extension() != ".mdb") continue;
-        SCOPED_TRACE(entree.path().filename().string());
-        ++bases;
-        const std::string nous = chemin("n" + std::to_string(bases) + ".mdb");
-        const std::string neuve = chemin("j" + std::to_string(bases) + ".mdb");
-        ASSERT_TRUE(db::ConversionJet(progression, ecranMuet)(entree.path(), nous).estFaite());
+    const auto bases = doubles::basesJetReelles();
+    if (bases.empty()) GTEST_SKIP() << "no real data";
+    for (const fs::path& reelle : bases) {
+        SCOPED_TRACE(reelle.filename().string());
+        const std::string nous = chemin("nous " + reelle.filename().string());
+        const std::string neuve = chemin("neuve " + reelle.filename().string());
+        ASSERT_TRUE(db::ConversionJet(progression, ecranMuet)(reelle, nous).estFaite());
         const db::IssueVersJet issue = ecrit(nous, neuve);
         ASSERT_TRUE(issue.estFaite()) << issue.echec.value_or("");
         EXPECT_THAT(issue.rapport.ecarts, IsEmpty());
-        EXPECT_EQ(litJet(neuve, "Films", kFilms), litJet(entree.path(), "Films", kFilms));
-        EXPECT_EQ(litJet(neuve, "Personnel", kPersonnel), litJet(entree.path(), "Personnel", kPersonnel));
+        EXPECT_EQ(litJet(neuve, "Films", kFilms), litJet(reelle, "Films", kFilms));
+        EXPECT_EQ(litJet(neuve, "Personnel", kPersonnel), litJet(reelle, "Personnel", kPersonnel));
     }
-    EXPECT_EQ(bases, 8);
+    EXPECT_EQ(bases.size(), 8U);
     EXPECT_EQ(ecranMuet.soufflesHorsTravail, 0);
 }
 

@@ -3,7 +3,6 @@
 #include "unit/export/FenetreExport.h"
 
 #include <filesystem>
-#include <set>
 
 #include <gmock/gmock.h>
 
@@ -28,13 +27,10 @@ class CreeFichierRTFTest : public FenetreExport {
     [[nodiscard]] std::string noms() const { return nom.lblNom1.Caption + nom.lblNom2.Caption; }
     [[nodiscard]] std::string liste() const { return dossier.lit("Été.rtf"); }
     // All that stands in the folder but the base and "Tmp".
-    [[nodiscard]] std::set<std::string> fichiersFaits() const {
-        std::set<std::string> resultat;
-        for (const auto& entree : std::filesystem::directory_iterator(dossier.chemin("")))
-            resultat.insert(entree.path().filename());
-        for (const char* autre : {"Films.mdb", "Tmp"})
-            resultat.erase(autre);
-        return resultat;
+    [[nodiscard]] std::vector<std::string> fichiersFaits() const {
+        std::vector<std::string> faits = dossier.noms();
+        std::erase_if(faits, [](const std::string& fait) { return fait == "Films.mdb" || fait == "Tmp"; });
+        return faits;
     }
 };
 

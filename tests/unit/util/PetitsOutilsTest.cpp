@@ -1,3 +1,4 @@
+#include "util/Csv.h"
 #include "util/ListeAuto.h"
 #include "util/NomsFichiers.h"
 #include "util/Sql.h"
@@ -48,4 +49,14 @@ TEST(ListeAuto, AddsFindsRemovesSortsAndDropsDoubles) {
     EXPECT_FALSE(liste.retire(2));
     EXPECT_EQ(contenu(), "ac");
     EXPECT_EQ(liste.element(99), "");
+}
+
+TEST(Csv, ProtectsWhatBeginsAsAFormulaAndGivesItBack) {
+    for (const char* formule :
+         {"=1+1", "+1", "-1", "@A1", "\t=1", "\r=1", "\n", " =1", "\u00A0\u202F-1", "＝1", "'=1", "''@"})
+        EXPECT_EQ(util::protegeDesFormules(formule), "'" + std::string(formule));
+    for (const char* texte : {"", "'", "'Allo 'Allo", "9-1", "L'Été", "a=1", "''"})
+        EXPECT_EQ(util::protegeDesFormules(texte), texte);
+    for (const char* texte : {"=1", "'=1", "''=1", "'a", "' =", "", "'"})
+        EXPECT_EQ(util::sansProtection(util::protegeDesFormules(texte)), texte);
 }
