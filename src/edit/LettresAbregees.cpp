@@ -3,6 +3,7 @@
 #include "edit/TitreDejaExistant_TestRessemblance.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstdlib>
 
@@ -21,6 +22,21 @@ std::uint32_t ecart(const LettresAbregees& gauche, const LettresAbregees& droite
     return somme;
 }
 
+// Inlined in what uses an instruction that not every processor has, and in what does without.
+[[gnu::always_inline]] inline void retient(const std::vector<std::uint64_t>& genres, std::uint64_t cherches,
+                                           std::uint64_t auPlus, std::vector<std::uint32_t>& places) {
+    for (std::size_t i = 0; i < genres.size(); ++i)
+        if (static_cast<std::uint64_t>(std::popcount(genres[i] ^ cherches)) <= auPlus)
+            places.push_back(static_cast<std::uint32_t>(i));
+}
+
+#if defined(__x86_64__) && defined(__GNUC__)
+[[gnu::target("popcnt")]] void retientVite(const std::vector<std::uint64_t>& genres, std::uint64_t cherches,
+                                           std::uint64_t auPlus, std::vector<std::uint32_t>& places) {
+    retient(genres, cherches, auPlus, places);
+}
+#endif
+
 }  // namespace
 
 LettresAbregees abrege(const util::CompteLettres& compte) {
@@ -33,6 +49,21 @@ LettresAbregees abrege(const util::CompteLettres& compte) {
 
 bool peutRessembler(const LettresAbregees& gauche, const LettresAbregees& droite) {
     return 200 * std::uint64_t{ecart(gauche, droite)} <= kEcartPermis * (gauche.total + droite.total);
+}
+
+bool peutRessembler(const util::EmpreinteLettres& gauche, const util::EmpreinteLettres& droite) {
+    const std::uint64_t auPlus = kEcartPermis * (std::uint64_t{gauche.total} + droite.total) / 200;
+    const std::uint64_t longueurs = std::max(gauche.total, droite.total) - std::min(gauche.total, droite.total);
+    return longueurs <= auPlus && static_cast<std::uint64_t>(std::popcount(gauche.genres ^ droite.genres)) <= auPlus;
+}
+
+void retientPossibles(const std::vector<std::uint64_t>& genres, std::uint32_t total,
+                      const util::EmpreinteLettres& cherchee, std::vector<std::uint32_t>& places) {
+    const std::uint64_t auPlus = kEcartPermis * (std::uint64_t{total} + cherchee.total) / 200;
+#if defined(__x86_64__) && defined(__GNUC__)
+    if (__builtin_cpu_supports("popcnt")) return retientVite(genres, cherchee.genres, auPlus, places);
+#endif
+    retient(genres, cherchee.genres, auPlus, places);
 }
 
 // The difference of both numbers alone is an ecart.
