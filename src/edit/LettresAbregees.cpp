@@ -22,18 +22,34 @@ std::uint32_t ecart(const LettresAbregees& gauche, const LettresAbregees& droite
     return somme;
 }
 
+// Two texts that resemble differ by so few letters: how many the one may have that the other has not, and the reverse.
+struct Permis {
+    Permis(std::int64_t gauche, std::int64_t droite) {
+        const auto auPlus = static_cast<std::int64_t>(kEcartPermis) * (gauche + droite) / 200;
+        possible = std::abs(gauche - droite) <= auPlus;
+        aGauche = (auPlus + gauche - droite) / 2;
+        aDroite = (auPlus + droite - gauche) / 2;
+    }
+    [[gnu::always_inline]] inline bool admet(std::uint64_t gauche, std::uint64_t droite) const {
+        const bool peu = std::popcount(gauche & ~droite) <= aGauche,
+                   autant = std::popcount(droite & ~gauche) <= aDroite;
+        return peu & autant;  // one branch: which of both refuses cannot be foreseen
+    }
+    bool possible = false;
+    std::int64_t aGauche = 0, aDroite = 0;
+};
+
 // Inlined in what uses an instruction that not every processor has, and in what does without.
 [[gnu::always_inline]] inline void retient(const std::vector<std::uint64_t>& genres, std::uint64_t cherches,
-                                           std::uint64_t auPlus, std::vector<std::uint32_t>& places) {
+                                           const Permis& permis, std::vector<std::uint32_t>& places) {
     for (std::size_t i = 0; i < genres.size(); ++i)
-        if (static_cast<std::uint64_t>(std::popcount(genres[i] ^ cherches)) <= auPlus)
-            places.push_back(static_cast<std::uint32_t>(i));
+        if (permis.admet(cherches, genres[i])) places.push_back(static_cast<std::uint32_t>(i));
 }
 
 #if defined(__x86_64__) && defined(__GNUC__)
 [[gnu::target("popcnt")]] void retientVite(const std::vector<std::uint64_t>& genres, std::uint64_t cherches,
-                                           std::uint64_t auPlus, std::vector<std::uint32_t>& places) {
-    retient(genres, cherches, auPlus, places);
+                                           const Permis& permis, std::vector<std::uint32_t>& places) {
+    retient(genres, cherches, permis, places);
 }
 #endif
 
@@ -52,18 +68,18 @@ bool peutRessembler(const LettresAbregees& gauche, const LettresAbregees& droite
 }
 
 bool peutRessembler(const util::EmpreinteLettres& gauche, const util::EmpreinteLettres& droite) {
-    const std::uint64_t auPlus = kEcartPermis * (std::uint64_t{gauche.total} + droite.total) / 200;
-    const std::uint64_t longueurs = std::max(gauche.total, droite.total) - std::min(gauche.total, droite.total);
-    return longueurs <= auPlus && static_cast<std::uint64_t>(std::popcount(gauche.genres ^ droite.genres)) <= auPlus;
+    const Permis permis(gauche.total, droite.total);
+    return permis.possible && permis.admet(gauche.genres, droite.genres);
 }
 
 void retientPossibles(const std::vector<std::uint64_t>& genres, std::uint32_t total,
                       const util::EmpreinteLettres& cherchee, std::vector<std::uint32_t>& places) {
-    const std::uint64_t auPlus = kEcartPermis * (std::uint64_t{total} + cherchee.total) / 200;
+    const Permis permis(cherchee.total, total);
+    if (!permis.possible) return;
 #if defined(__x86_64__) && defined(__GNUC__)
-    if (__builtin_cpu_supports("popcnt")) return retientVite(genres, cherchee.genres, auPlus, places);
+    if (__builtin_cpu_supports("popcnt")) return retientVite(genres, cherchee.genres, permis, places);
 #endif
-    retient(genres, cherchee.genres, auPlus, places);
+    retient(genres, cherchee.genres, permis, places);
 }
 
 // The difference of both numbers alone is an ecart.

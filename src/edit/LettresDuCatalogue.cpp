@@ -43,9 +43,8 @@ void LettresDuCatalogue::ajoute(long long ligne, std::string_view titre, std::st
 }
 
 std::uint32_t LettresDuCatalogue::rangDu(std::string_view realisateur) {
-    if (const auto connu = m_rangs.find(realisateur); connu != m_rangs.end()) return connu->second;
-    const auto rang = static_cast<std::uint32_t>(m_realisateurs.size());
-    m_realisateurs.push_back(&m_rangs.emplace(realisateur, rang).first->first);
+    const std::uint32_t rang = m_realisateurs.rang(realisateur);
+    if (rang < m_derniers.size()) return rang;
     m_derniers.push_back(kAucun);
     const util::EmpreinteLettres lettres = util::empreinteLettres(realisateur);
     DeMemeTotal& pareils = m_parLettres[lettres.total];
@@ -99,7 +98,7 @@ void LettresDuCatalogue::chercheProches(const db::CleFilm& film, Recoit recoit) 
         const Titre& titre = m_titres[possible];
         const int leTitre = util::similarite(duTitre, util::compteLettres(texte(titre)));
         if (leTitre <= kSeuilRessemblance) continue;
-        const int leNom = util::similarite(duRealisateur, util::compteLettres(*m_realisateurs[titre.realisateur]));
+        const int leNom = util::similarite(duRealisateur, util::compteLettres(m_realisateurs.nom(titre.realisateur)));
         if (leNom > kSeuilRessemblance && !recoit(titre, leTitre, leNom)) return;
     }
 }
@@ -117,7 +116,8 @@ bool LettresDuCatalogue::aUnProche(const db::CleFilm& film) const {
 std::vector<LettresDuCatalogue::Trouve> LettresDuCatalogue::trouves(const db::CleFilm& film) const {
     std::vector<Trouve> trouves;
     chercheProches(film, [&](const Titre& titre, int duTitre, int duNom) {
-        FilmProche proche{{std::string(texte(titre)), *m_realisateurs[titre.realisateur]}, duTitre, duNom};
+        FilmProche proche{
+            {std::string(texte(titre)), std::string(m_realisateurs.nom(titre.realisateur))}, duTitre, duNom};
         std::string cle =
             dao::cleDeComparaison(proche.film.titre) + '\0' + dao::cleDeComparaison(proche.film.realisateur);
         trouves.push_back({std::move(cle), &titre, std::move(proche)});

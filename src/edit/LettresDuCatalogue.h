@@ -2,6 +2,7 @@
 
 #include "edit/Contexte.h"
 #include "edit/FilmExamine.h"
+#include "edit/NomsDistincts.h"
 #include "util/Similarite.h"
 
 #include <array>
@@ -10,7 +11,6 @@
 #include <map>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace edit {
@@ -49,10 +49,6 @@ class LettresDuCatalogue {
         std::vector<std::uint64_t> genres;  // of their letters
         std::vector<std::uint32_t> rangs;   // in m_derniers
     };
-    struct Hachage {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view texte) const { return std::hash<std::string_view>{}(texte); }
-    };
     struct Trouve {
         std::string cle;  // as the base orders it
         const Titre* titre = nullptr;
@@ -75,10 +71,9 @@ class LettresDuCatalogue {
     std::string m_textes;  // the titles, one after the other
     std::vector<Titre> m_titres;
     std::vector<Titres> m_parRealisateur;
-    std::vector<std::uint32_t> m_derniers;           // of each director, in m_parRealisateur
-    std::vector<const std::string*> m_realisateurs;  // keys of m_rangs
-    std::unordered_map<std::string, std::uint32_t, Hachage, std::equal_to<>> m_rangs;  // in m_realisateurs
-    std::map<std::uint32_t, DeMemeTotal> m_parLettres;                                 // directors, by their letters
+    std::vector<std::uint32_t> m_derniers;  // of each director, in m_parRealisateur
+    NomsDistincts m_realisateurs;
+    std::map<std::uint32_t, DeMemeTotal> m_parLettres;  // directors, by their letters
 };
 
 }  // namespace edit

@@ -21,27 +21,37 @@ std::size_t chercheCase(UChar32 point) {
     return kAucune;
 }
 
-// The letters of European languages are looked up once.
-std::size_t caseDe(UChar32 point) {
-    static const auto kCases = [] {
-        std::array<std::uint8_t, 0x250> cases{};
-        for (std::size_t i = 0; i < cases.size(); ++i)
-            cases[i] = static_cast<std::uint8_t>(chercheCase(static_cast<UChar32>(i)));
+// The letters of European languages are worked out once.
+class Cases {
+  public:
+    [[nodiscard]] static const Cases& toutes() {
+        static const Cases cases;
         return cases;
-    }();
-    return static_cast<std::size_t>(point) < kCases.size() ? kCases[static_cast<std::size_t>(point)]
-                                                           : chercheCase(point);
-}
+    }
+    [[nodiscard]] std::size_t operator[](UChar32 point) const {
+        if (point < 0) return kAucune;  // no letter at all
+        const auto rang = static_cast<std::size_t>(point);
+        return rang < m_cases.size() ? m_cases[rang] : chercheCase(point);
+    }
+
+  private:
+    Cases() {
+        for (std::size_t i = 0; i < m_cases.size(); ++i)
+            m_cases[i] = static_cast<std::uint8_t>(chercheCase(static_cast<UChar32>(i)));
+    }
+    std::array<std::uint8_t, 0x250> m_cases{};
+};
 
 }  // namespace
 
 EmpreinteLettres empreinteLettres(std::string_view texte) {
     constexpr std::size_t kGenres = 32;
+    const Cases& cases = Cases::toutes();
     std::uint64_t vus = 0, revus = 0, total = 0;
     for (std::size_t i = 0; i < texte.size();) {
         const PointDeCode point = litPoint(texte, i);
         i += point.taille;
-        const std::size_t lettre = point.valeur < 0 ? kAucune : caseDe(point.valeur);
+        const std::size_t lettre = cases[point.valeur];
         if (lettre == kAucune) continue;
         const std::uint64_t genre = std::uint64_t{1} << (lettre < kChiffres ? lettre : (lettre + kChiffres) / 2);
         revus |= vus & genre;
@@ -54,10 +64,11 @@ EmpreinteLettres empreinteLettres(std::string_view texte) {
 }
 
 CompteLettres compteLettres(std::string_view texte) {
+    const Cases& cases = Cases::toutes();
     std::array<std::uint32_t, 40> exact{};
     for (std::size_t i = 0; i < texte.size();) {
         const PointDeCode point = litPoint(texte, i);
-        ++exact[point.valeur < 0 ? kAucune : caseDe(point.valeur)];
+        ++exact[cases[point.valeur]];
         i += point.taille;
     }
     exact[kAucune] = 0;
