@@ -1,7 +1,8 @@
-// generateur base|fiches|tellico N CHEMIN [--affiches] [--en-fichiers] [--possedes] [--depuis NUMERO]
+// generateur base|fiches|tellico N CHEMIN [--affiches] [--en-fichiers] [--possedes] [--singuliers] [--depuis NUMERO]
 // Writes N films as a base of the program (the file CHEMIN), as .FILM sheets in the folder CHEMIN, or as the tellico.xml
 // and the images of that folder, which zipped are a .tc file. --possedes: the
 // base holds N films that are all owned, the others are passed over. --en-fichiers: its posters are files of "Images" beside it.
+// --singuliers: sheets whose titles end in a number that makes them resemble none.
 
 #include "Affiches.h"
 #include "Film.h"
@@ -25,7 +26,7 @@ struct Demande {
     std::string genre;
     std::uint64_t nombre = 0, premier = 0;
     fs::path chemin;
-    bool affiches = false, possedes = false, enFichiers = false;
+    bool affiches = false, possedes = false, enFichiers = false, singuliers = false;
 };
 
 void ajoute(dao::Recordset& films, const bench::Film& f, const std::optional<dao::Valeur>& affiche) {
@@ -95,7 +96,8 @@ void ecritBase(const Demande& d, const std::optional<bench::Affiches>& affiches)
 void ecritFiches(const Demande& d, const std::optional<bench::Affiches>& affiches) {
     fs::create_directories(d.chemin);
     for (std::uint64_t i = d.premier; i < d.premier + d.nombre; ++i) {
-        const bench::Film f = bench::film(i);
+        bench::Film f = bench::film(i);
+        if (d.singuliers) f.titre += " " + std::to_string(9876543210 + i * 7919 % 100003 * 100003);
         std::string fiche;
         for (const std::string& ligne :
              {f.titre, f.realisateur, f.annee, f.origine, f.genre, f.duree, f.acteurs, f.resume, f.production})
@@ -172,13 +174,14 @@ void ecritTellico(const Demande& d, const std::optional<bench::Affiches>& affich
 Demande lisDemande(int nombre, char** mots) {
     if (nombre < 4)
         throw std::invalid_argument(
-            "usage: generateur base|fiches|tellico N CHEMIN [--affiches] [--en-fichiers] [--possedes] [--depuis "
-            "NUMERO]");
+            "usage: generateur base|fiches|tellico N CHEMIN [--affiches] [--en-fichiers] [--possedes] [--singuliers] "
+            "[--depuis NUMERO]");
     Demande d{mots[1], std::stoull(mots[2]), 0, mots[3]};
     for (int i = 4; i < nombre; ++i) {
         if (std::strcmp(mots[i], "--affiches") == 0) d.affiches = true;
         if (std::strcmp(mots[i], "--en-fichiers") == 0) d.affiches = d.enFichiers = true;
         if (std::strcmp(mots[i], "--possedes") == 0) d.possedes = true;
+        if (std::strcmp(mots[i], "--singuliers") == 0) d.singuliers = true;
         if (std::strcmp(mots[i], "--depuis") == 0 && i + 1 < nombre) d.premier = std::stoull(mots[i + 1]);
     }
     if (d.premier + (d.possedes ? 2 : 1) * d.nombre > bench::kNombreMaxFilms)

@@ -1,9 +1,10 @@
-// mesure_commandes recherche DOSSIER TEXTE | ajout DOSSIER | note DOSSIER | sauvegarde DOSSIER | conversion DOSSIER FILMS |
+// mesure_commandes recherche DOSSIER TEXTE | ajout DOSSIER | note DOSSIER | modification DOSSIER | sauvegarde DOSSIER | conversion DOSSIER FILMS |
 // conversion_copiee DOSSIER FILMS | annulation DOSSIER FICHES
 // Single commands of the program without its window, in a program folder, to be held against plancher_commandes.
 
 #include "Mesure.h"
 #include "SansFenetre.h"
+#include "Sqlite.h"
 #include "acquire/cmdAjoutAuto_Click.h"
 #include "app/Annulation.h"
 #include "app/ChoixFonction.h"
@@ -28,7 +29,9 @@
 #include <ctime>
 #include <filesystem>
 #include <limits>
+#include <vector>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace {
@@ -79,6 +82,59 @@ void mesureNote(app::Session& session) {
         if (session.etats.fiche.note != note) throw std::runtime_error("the rating is not shown");
     }
     bench::declare("note", meilleure);
+}
+
+double mediane(std::vector<double> durees) {
+    std::ranges::sort(durees);
+    return durees[durees.size() / 2];
+}
+
+// The same bytes as a rating's: the base's first page, the film's, and that of its entry in the index.
+double ajouteALaFin(int fichier) {
+    static const std::string octets(3 * 4096, 'x');
+    return bench::meilleureDuree(1, [&] {
+        if (write(fichier, octets.data(), octets.size()) < 0 || fdatasync(fichier) != 0)
+            throw std::runtime_error("cannot write");
+    });
+}
+
+// A film's rating stored by its command, by bare SQLite in a copy of the base, and its bytes at the end of a file, in turn:
+// medians, since the disk's own times differ more than what is measured.
+void mesureModification(app::Session& session, const std::string& dossier) {
+    constexpr int kTours = 61;
+    const std::string copie = dossier + "/nue.db", temoin = dossier + "/temoin";
+    std::filesystem::copy_file(dossier + "/Films.mdb", copie, std::filesystem::copy_options::overwrite_existing);
+    bench::Sqlite nue(copie);
+    nue.execute("PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL; PRAGMA cache_size=-8000");
+    bench::Enonce ecrit(nue, "UPDATE Films SET Note=?1 WHERE Titre=?2 AND Realisateur=?3");
+    const int fichier = open(temoin.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
+    const browse::Arbre& arbre = session.etats.liste.TreeView1.Nodes;
+    std::vector<double> commandes, sqlite, ajouts;
+    sync();
+    for (int tour = 0, noeud = 1; tour < kTours; ++tour) {
+        do
+            noeud += 7;
+        while (arbre.estGroupe(noeud));
+        session.execute(app::TreeView1_NodeClick, noeud);
+        db::CleFilm film;
+        session.execute([&film](const app::Contexte& c) { film = {c.film.titre, c.film.realisateur}; });
+        const int note = session.etats.fiche.note == 9 ? 8 : 9;
+        commandes.push_back(bench::meilleureDuree(1, [&] { session.execute(edit::etoilesNote_Change, note); }));
+        sqlite.push_back(bench::meilleureDuree(1, [&] {
+            nue.execute("BEGIN IMMEDIATE");
+            ecrit.lie(1, static_cast<long long>(note));
+            ecrit.lie(2, film.titre);
+            ecrit.lie(3, film.realisateur);
+            ecrit.ligne();
+            ecrit.recommence();
+            nue.execute("COMMIT");
+        }));
+        ajouts.push_back(ajouteALaFin(fichier));
+    }
+    close(fichier);
+    bench::declare("note", mediane(commandes));
+    bench::declare("note_sqlite", mediane(sqlite));
+    bench::declare("note_ajoutee", mediane(ajouts));
 }
 
 double convertit(app::Session& session, std::size_t stockage) {
@@ -201,11 +257,12 @@ void mesureSauvegarde(app::Session& session) {
 
 int main(int nombre, char** mots) try {
     const std::string genre = nombre > 2 ? mots[1] : "";
-    if (genre != "ajout" && genre != "note" && genre != "sauvegarde" &&
+    if (genre != "ajout" && genre != "note" && genre != "modification" && genre != "sauvegarde" &&
         (nombre < 4 ||
          (genre != "recherche" && genre != "conversion" && genre != "conversion_copiee" && genre != "annulation")))
         throw std::invalid_argument(
-            "usage: mesure_commandes recherche|ajout|note|sauvegarde|conversion|conversion_copiee|annulation DOSSIER "
+            "usage: mesure_commandes "
+            "recherche|ajout|note|modification|sauvegarde|conversion|conversion_copiee|annulation DOSSIER "
             "[TEXTE|FILMS|FICHES]");
     if (genre == "recherche") return mesureRecherche(mots[2], mots[3]), 0;
     bench::Machine machine;
@@ -215,6 +272,8 @@ int main(int nombre, char** mots) try {
         mesureAjout(session);
     else if (genre == "note")
         mesureNote(session);
+    else if (genre == "modification")
+        mesureModification(session, mots[2]);
     else if (genre == "annulation")
         mesureAnnulation(session, mots[2], mots[3]);
     else if (genre == "sauvegarde")

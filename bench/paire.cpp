@@ -1,4 +1,4 @@
-// paire PROGRAMME DOSSIER [--vite | --seul N]: the same films in this program and in Tellico, each started on the screen that
+// paire PROGRAMME DOSSIER [--vite | --seul N [--affiches]]: the same films in this program and in Tellico, each started on the screen that
 // DISPLAY names, which nothing else uses, and the session bus. Prints their table; the pictures of both stay in DOSSIER.
 
 #include "Mesure.h"
@@ -15,6 +15,7 @@
 #include <QScreen>
 #include <QThread>
 #include <QUrl>
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <optional>
@@ -30,12 +31,27 @@ using bench::Figures;
 constexpr double kCalme = 2000, kPatience = 120000;  // milliseconds
 constexpr double kRegard = 10;                       // between two looks at the screen
 constexpr int kAjoutes = 1000, kPremierAjoute = 200000;
-constexpr int kAttenteReponse = 600000;  // milliseconds, on the bus
+constexpr int kAttenteReponse = 150000;  // milliseconds, on the bus
+constexpr int kFiches = 5;               // shown one after the other
+constexpr double kAssez = 420000;        // milliseconds after which nothing is measured more than once
+constexpr double kLimite = 560000;       // after which nothing long is begun
+
+const double g_depart = bench::maintenant();
+
+double ecoule() {
+    return bench::maintenant() - g_depart;
+}
+
+// What is being done, with the seconds since the start: a run takes minutes.
+void dit(const std::string& quoi) {
+    std::fprintf(stderr, "%4.0f s  %s\n", ecoule() / 1000, quoi.c_str());
+}
 
 struct Options {
     fs::path programme, dossier;
     bool vite = false;
-    int seul = 0;  // that number of films, without posters
+    int seul = 0;  // that number of films
+    bool affiches = false;
 };
 
 void exige(bool vrai, const std::string& quoi) {
@@ -152,6 +168,31 @@ void enregistre(const fs::path& fichier) {
     exige(fs::last_write_time(fichier) != avant, "the file was not written");
 }
 
+void execute(const fs::path& ou, const QString& programme, const QStringList& mots) {
+    QProcess processus;
+    processus.setWorkingDirectory(QString::fromStdString(ou.string()));
+    processus.start(programme, mots);
+    exige(processus.waitForFinished(-1) && processus.exitCode() == 0, programme.toStdString() + " failed");
+}
+
+void clique(int x, int y) {
+    execute("/", "xdotool", {"mousemove", QString::number(x), QString::number(y), "click", "--delay", "0", "1"});
+}
+
+// From each click on another line of a list, which stand so far apart, to the last change of the screen, the film's sheet
+// with its poster: the median.
+double fichesMontrees(qint64 processus, int x, int premiereLigne, int ecart) {
+    std::vector<double> durees;
+    for (int i = 0; i < kFiches; ++i) {
+        const QImage avant = regarde();
+        const double depart = bench::maintenant();
+        clique(x, premiereLigne + 2 * i * ecart);
+        durees.push_back(attendLeCalme(processus, depart, avant) - depart);
+    }
+    std::ranges::sort(durees);
+    return durees[durees.size() / 2];
+}
+
 double duree(const std::function<void()>& travailFait) {
     return bench::meilleureDuree(1, travailFait);
 }
@@ -166,23 +207,35 @@ struct Essai {
     [[nodiscard]] std::string nom() const { return std::to_string(films) + (affiches ? "-affiches" : ""); }
 };
 
-Figures mesureTellico(const Options& o, const Essai& e) {
+fs::path fichesAjoutees(const Options& o, bool affiches) {
+    return o.dossier / (affiches ? "fiches-affiches" : "fiches");
+}
+
+fs::path ajoutTellico(const Options& o, bool affiches) {
+    return o.dossier / (affiches ? "ajout-affiches.tc" : "ajout.tc");
+}
+
+// `f` has what was measured when something fails.
+void mesureTellico(const Options& o, const Essai& e, Figures& f) {
     const fs::path fichier = o.dossier / "essai.tc", maison = o.dossier / "maison";
     fs::copy_file(o.dossier / ("tellico-" + e.nom() + ".tc"), fichier, fs::copy_options::overwrite_existing);
     fs::create_directories(maison / ".config");
     QFile reglages(QString::fromStdString((maison / ".config/tellicorc").string()));
     exige(reglages.open(QIODevice::WriteOnly), "no settings");
-    reglages.write("[TipOfDay]\nRunOnStart=false\n");
+    // Else it asks whether so many images may stay in the file, which is where it keeps them.
+    reglages.write("[TipOfDay]\nRunOnStart=false\n[General Options]\nAsk Write Images In File=false\n");
     reglages.close();
     sync();
-    Figures f;
     f["fichier"] = static_cast<double>(fs::file_size(fichier)) / 1e6;
     const Fenetre fenetre("tellico", {QString::fromStdString(fichier.string())}, environnement(maison));
     f["montre"] = fenetre.montre();
     f["memoire"] = fenetre.memoire();
     exige(entreesMontrees() == e.films, "Tellico does not show all films");
     photographie(o.dossier / ("tellico-" + e.nom() + ".png"));
-    if (e.affiches) return f;  // its Save asks where many images go, and nobody answers
+    if (e.affiches) {
+        f["fiche"] = fichesMontrees(fenetre.numero(), 455, 108, 17);
+        photographie(o.dossier / ("tellico-" + e.nom() + "-fiche.png"));
+    }
     f["filtre"] = duree([] {
         filtre("horloger");
         exige(entreesMontrees() > 0, "nothing found");
@@ -198,14 +251,14 @@ Figures mesureTellico(const Options& o, const Essai& e) {
         note();
         enregistre(fichier);
     });
-    const QUrl ajout = QUrl::fromLocalFile(QString::fromStdString((o.dossier / "ajout/tellico.xml").string()));
+    exige(ecoule() < kLimite, "no time is left");
+    const QUrl ajout = QUrl::fromLocalFile(QString::fromStdString(ajoutTellico(o, e.affiches).string()));
     f["ajout"] = duree([&] {
         exige(demande<bool>("/Tellico", "org.kde.tellico", "importTellico", ajout.toString(), QString("append")),
               "no import");
         enregistre(fichier);
     });
     exige(entreesMontrees() == e.films + kAjoutes, "Tellico does not show the films added");
-    return f;
 }
 
 // A copy of the program folder with that base.
@@ -218,63 +271,100 @@ fs::path installe(const Options& o, const Essai& e) {
     return copie;
 }
 
-Figures mesureLeNotre(const Options& o, const Essai& e) {
+void mesureLeNotre(const Options& o, const Essai& e, Figures& f) {
     fs::path copie = installe(o, e);
-    Figures f;
     f["fichier"] = static_cast<double>(fs::file_size(copie / "Films.mdb")) / 1e6;
     {
         const Fenetre fenetre(copie / "Ambrelis", {}, environnement(o.dossier / "maison"));
         f["montre"] = fenetre.montre();
         f["memoire"] = fenetre.memoire();
         photographie(o.dossier / ("ambrelis-" + e.nom() + ".png"));
+        if (e.affiches) {
+            constexpr int kGroupe = 192, kLigne = 22;  // where the first heading and its films stand
+            const QImage avant = regarde();
+            const double depart = bench::maintenant();
+            clique(27, kGroupe);
+            (void)attendLeCalme(fenetre.numero(), depart, avant);
+            f["fiche"] = fichesMontrees(fenetre.numero(), 120, kGroupe + kLigne, kLigne);
+            photographie(o.dossier / ("ambrelis-" + e.nom() + "-fiche.png"));
+        }
     }
     copie = installe(o, e);
     f["note"] = bench::lance("mesure_commandes", {"note", copie.string()}).at("note");
-    if (e.affiches) return f;
-    const Figures frappes = bench::lance("mesure_fenetre", {copie.string(), "filtre"});
-    f["filtre"] = frappes.at("frappe_pire");
-    f["ajout"] =
-        bench::lance("mesure_session", {"import", copie.string(), (o.dossier / "fiches").string()}).at("import_liste");
-    return f;
+    f["filtre"] = bench::lance("mesure_fenetre", {copie.string(), "filtre"}).at("frappe_pire");
+    f["ajout"] = bench::lance("mesure_session", {"import", copie.string(), fichesAjoutees(o, e.affiches).string()})
+                     .at("import_liste");
 }
 
-void execute(const fs::path& ou, const QString& programme, const QStringList& mots) {
-    QProcess processus;
-    processus.setWorkingDirectory(QString::fromStdString(ou.string()));
-    processus.start(programme, mots);
-    exige(processus.waitForFinished(-1) && processus.exitCode() == 0, programme.toStdString() + " failed");
+// What Tellico opens, of so many films from that number on.
+void ecritTellico(const Options& o, int films, int premier, bool affiches, const fs::path& fichier) {
+    const fs::path dossier = o.dossier / "tellico";
+    fs::remove_all(dossier);
+    fs::remove(fichier);
+    std::vector<std::string> mots{"tellico", std::to_string(films), dossier.string(), "--depuis",
+                                  std::to_string(premier)};
+    if (affiches) mots.emplace_back("--affiches");
+    (void)bench::lance("generateur", mots);
+    execute(dossier, "zip", {"-q", "-1", "-r", QString::fromStdString(fichier.string()), "tellico.xml", "images"});
+    fs::remove_all(dossier);
 }
 
 // The films in both forms.
 void prepare(const Options& o, const Essai& e) {
-    const fs::path dossier = o.dossier / "tellico", fichier = o.dossier / ("tellico-" + e.nom() + ".tc");
-    const std::string nombre = std::to_string(e.films), base = (o.dossier / (e.nom() + ".mdb")).string();
-    fs::remove_all(dossier);
-    fs::remove(fichier);
-    std::vector<std::string> notre{"base", nombre, base}, leur{"tellico", nombre, dossier.string()};
-    if (e.affiches) notre.emplace_back("--affiches"), leur.emplace_back("--affiches");
+    std::vector<std::string> notre{"base", std::to_string(e.films), (o.dossier / (e.nom() + ".mdb")).string()};
+    if (e.affiches) notre.emplace_back("--affiches");
     (void)bench::lance("generateur", notre);
-    (void)bench::lance("generateur", leur);
-    execute(dossier, "zip", {"-q", "-r", QString::fromStdString(fichier.string()), "tellico.xml", "images"});
-    fs::remove_all(dossier);
+    ecritTellico(o, e.films, 0, e.affiches, o.dossier / ("tellico-" + e.nom() + ".tc"));
+}
+
+// Those that are added.
+void prepareAjouts(const Options& o) {
+    const std::string ajoutes = std::to_string(kAjoutes), premier = std::to_string(kPremierAjoute);
+    for (const bool affiches : {false, true}) {
+        fs::remove_all(fichesAjoutees(o, affiches));
+        std::vector<std::string> mots{"fiches", ajoutes, fichesAjoutees(o, affiches).string(), "--depuis", premier};
+        if (affiches) mots.emplace_back("--affiches");
+        (void)bench::lance("generateur", mots);
+        ecritTellico(o, kAjoutes, kPremierAjoute, affiches, ajoutTellico(o, affiches));
+    }
 }
 
 struct Resultat {
     Essai essai;
-    Figures tellico, notre;
+    Figures tellico{}, notre{};
 };
 
+// One more run of a program; what fails is told, and leaves its figures out.
+void mesure(const std::string& quoi, Figures& figures, const std::function<void(Figures&)>& passage) {
+    dit(quoi);
+    Figures f;
+    try {
+        passage(f);
+    } catch (const std::exception& echec) {
+        dit(quoi + " ended early: " + echec.what());
+    }
+    for (const auto& [nom, valeur] : f) {
+        const double connue = figures.try_emplace(nom, valeur).first->second;
+        figures[nom] = nom == "memoire" ? std::max(connue, valeur) : std::min(connue, valeur);
+    }
+}
+
 Resultat compare(const Options& o, const Essai& e) {
+    dit(e.nom() + ": making the films");
     prepare(o, e);
-    std::vector<Figures> tellico, notre;
-    for (int i = 0; i < (o.vite || o.seul > 0 || e.films > 10000 ? 1 : 3); ++i) {
-        tellico.push_back(mesureTellico(o, e));
-        notre.push_back(mesureLeNotre(o, e));
-        std::fprintf(stderr, "%s films, pass %d done\n", e.nom().c_str(), i + 1);
+    Resultat r{e};
+    const int passages = o.vite || o.seul > 0 || e.films > 10000 ? 1
+                         : e.films > 1000                        ? (e.affiches ? 1 : 2)
+                         : e.affiches                            ? 2
+                                                                 : 3;
+    for (int i = 1; i <= passages && (i == 1 || ecoule() < kAssez); ++i) {
+        const std::string suite = ", " + e.nom() + ", run " + std::to_string(i);
+        mesure("Tellico" + suite, r.tellico, [&](Figures& f) { mesureTellico(o, e, f); });
+        mesure("Ambrelis" + suite, r.notre, [&](Figures& f) { mesureLeNotre(o, e, f); });
     }
     fs::remove(o.dossier / ("tellico-" + e.nom() + ".tc"));
     fs::remove(o.dossier / (e.nom() + ".mdb"));
-    return {e, bench::retenues(tellico), bench::retenues(notre)};
+    return r;
 }
 
 std::string texte(const Figures& f, const std::string& nom) {
@@ -306,8 +396,8 @@ void imprime(const std::vector<Resultat>& tout, bool affiches) {
     ligne(tout, affiches, "start to the collection shown, ms", "montre");
     ligne(tout, affiches, "peak memory by then, MB", "memoire");
     ligne(tout, affiches, "size of the file, MB", "fichier");
+    if (affiches) ligne(tout, affiches, "a film's sheet with its poster, ms", "fiche");
     ligne(tout, affiches, "a rating stored, ms", "note");
-    if (affiches) return;
     ligne(tout, affiches, "1,000 films added and stored, ms", "ajout");
     ligne(tout, affiches, "quick filter, ms", "filtre");
 }
@@ -316,21 +406,21 @@ void imprime(const std::vector<Resultat>& tout, bool affiches) {
 
 int main(int nombre, char** mots) try {
     QGuiApplication application(nombre, mots);
-    if (nombre < 3) throw std::invalid_argument("usage: paire PROGRAMME DOSSIER [--vite | --seul N]");
+    if (nombre < 3) throw std::invalid_argument("usage: paire PROGRAMME DOSSIER [--vite | --seul N [--affiches]]");
     Options o{mots[1], mots[2], nombre > 3 && std::string(mots[3]) == "--vite"};
     if (nombre > 4 && std::string(mots[3]) == "--seul") o.seul = std::stoi(mots[4]);
+    o.affiches = o.seul > 0 && nombre > 5 && std::string(mots[5]) == "--affiches";
     fs::create_directories(o.dossier);
-    const std::string ajoutes = std::to_string(kAjoutes), premier = std::to_string(kPremierAjoute);
-    (void)bench::lance("generateur", {"fiches", ajoutes, (o.dossier / "fiches").string(), "--depuis", premier});
-    (void)bench::lance("generateur", {"tellico", ajoutes, (o.dossier / "ajout").string(), "--depuis", premier});
+    prepareAjouts(o);
     std::vector<Resultat> tout;
     std::vector<Essai> essais{{1000, false}, {1000, true}, {10000, false}};
-    if (!o.vite) essais.insert(essais.end(), {{10000, true}, {100000, false}});
-    if (o.seul > 0) essais = {{o.seul, false}};
+    if (!o.vite) essais.insert(essais.end(), {{100000, false}, {10000, true}});
+    if (o.seul > 0) essais = {{o.seul, o.affiches}};
     for (const Essai& e : essais)
-        tout.push_back(compare(o, e));
-    imprime(tout, false);
-    if (o.seul == 0) imprime(tout, true);
+        if (ecoule() < kLimite) tout.push_back(compare(o, e));
+    for (const bool affiches : {false, true})
+        if (std::ranges::any_of(tout, [affiches](const Resultat& r) { return r.essai.affiches == affiches; }))
+            imprime(tout, affiches);
     return 0;
 } catch (const std::exception& e) {
     std::cerr << "paire: " << e.what() << '\n';

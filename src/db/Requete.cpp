@@ -20,13 +20,30 @@ std::string texteErreurRequete(NumeroErreur numero) {
     return "Erreur (" + std::to_string(static_cast<int>(numero)) + ") : Etablissement de requête";
 }
 
+namespace {
+
+[[noreturn]] void echoue(const Contexte& c, NumeroErreur numero, const dao::ErreurDao& erreur) {
+    c.dialogues.MsgBox(texteErreurRequete(numero), dialogues::kCritique);
+    throw RequeteEchouee(erreur);
+}
+
+}  // namespace
+
 dao::Recordset ouvreRequete(const Contexte& c, const std::string& enonce, NumeroErreur numero,
                             std::span<const std::string_view> portees) {
     try {
         return c.base.base.OpenRecordset(enonce, portees, souffle(c));
     } catch (const dao::ErreurDao& erreur) {
-        c.dialogues.MsgBox(texteErreurRequete(numero), dialogues::kCritique);
-        throw RequeteEchouee(erreur);
+        echoue(c, numero, erreur);
+    }
+}
+
+void parcourtTable(const Contexte& c, std::string_view table, std::span<const std::string_view> colonnes,
+                   NumeroErreur numero, const dao::Database::Recoit& recoit) {
+    try {
+        c.base.base.parcourt(table, colonnes, recoit, souffle(c));
+    } catch (const dao::ErreurDao& erreur) {
+        echoue(c, numero, erreur);
     }
 }
 

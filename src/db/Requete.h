@@ -53,6 +53,10 @@ struct RequeteEchouee {
 [[nodiscard]] dao::Recordset ouvreRequete(const Contexte& c, const std::string& enonce, NumeroErreur numero,
                                           std::span<const std::string_view> portees = {});
 
+// Hands every row of a table over as dao::Database::parcourt does, and fails as ouvreRequete does.
+void parcourtTable(const Contexte& c, std::string_view table, std::span<const std::string_view> colonnes,
+                   NumeroErreur numero, const dao::Database::Recoit& recoit);
+
 // For what a command reads at length (dao::Database::OpenRecordset): lets the window live on, several times a second.
 [[nodiscard]] dao::Souffle souffle(const Contexte& c);
 

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <vector>
 
 namespace edit {
 
@@ -19,6 +20,11 @@ struct LettresAbregees {
 
 // Sound, and nearly exact: what it refuses does not resemble.
 [[nodiscard]] bool peutRessembler(const LettresAbregees& gauche, const LettresAbregees& droite);
+// Sound as well, and less exact, but of so little memory that those of thousands of names stay in the processor's cache.
+[[nodiscard]] bool peutRessembler(const util::EmpreinteLettres& gauche, const util::EmpreinteLettres& droite);
+// Adds to `places` where those stand that may resemble `cherchee`; they are the `genres` of texts of `total` letters.
+void retientPossibles(const std::vector<std::uint64_t>& genres, std::uint32_t total,
+                      const util::EmpreinteLettres& cherchee, std::vector<std::uint32_t>& places);
 
 // The most letters that a text may have to resemble one of so many.
 [[nodiscard]] std::uint64_t totalAuPlus(std::uint64_t total);

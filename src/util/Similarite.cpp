@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t kBlanc = 26, kChiffres = 27, kAucune = 39;  // kAucune: counted, then forgotten
 
-std::size_t caseDe(UChar32 point) {
+std::size_t chercheCase(UChar32 point) {
     const UChar32 lettre = sansAccent(minusculeDe(point));
     if (estUneMinuscule(lettre)) return static_cast<std::size_t>(lettre - 'a');
     if (lettre == ' ') return kBlanc;
@@ -21,13 +21,54 @@ std::size_t caseDe(UChar32 point) {
     return kAucune;
 }
 
+// The letters of European languages are worked out once.
+class Cases {
+  public:
+    [[nodiscard]] static const Cases& toutes() {
+        static const Cases cases;
+        return cases;
+    }
+    [[nodiscard]] std::size_t operator[](UChar32 point) const {
+        if (point < 0) return kAucune;  // no letter at all
+        const auto rang = static_cast<std::size_t>(point);
+        return rang < m_cases.size() ? m_cases[rang] : chercheCase(point);
+    }
+
+  private:
+    Cases() {
+        for (std::size_t i = 0; i < m_cases.size(); ++i)
+            m_cases[i] = static_cast<std::uint8_t>(chercheCase(static_cast<UChar32>(i)));
+    }
+    std::array<std::uint8_t, 0x250> m_cases{};
+};
+
 }  // namespace
 
-CompteLettres compteLettres(std::string_view texte) {
-    std::array<std::size_t, 40> exact{};
+EmpreinteLettres empreinteLettres(std::string_view texte) {
+    constexpr std::size_t kGenres = 32;
+    const Cases& cases = Cases::toutes();
+    std::uint64_t vus = 0, revus = 0, total = 0;
     for (std::size_t i = 0; i < texte.size();) {
         const PointDeCode point = litPoint(texte, i);
-        ++exact[point.valeur < 0 ? kAucune : caseDe(point.valeur)];
+        i += point.taille;
+        const std::size_t lettre = cases[point.valeur];
+        if (lettre == kAucune) continue;
+        const std::uint64_t genre = std::uint64_t{1} << (lettre < kChiffres ? lettre : (lettre + kChiffres) / 2);
+        revus |= vus & genre;
+        vus |= genre;
+        ++total;
+    }
+    constexpr auto kDenombrables = std::numeric_limits<std::uint16_t>::max();  // of one kind, in a CompteLettres
+    return {revus << kGenres | vus,
+            total > kDenombrables ? compteLettres(texte).total : static_cast<std::uint32_t>(total)};
+}
+
+CompteLettres compteLettres(std::string_view texte) {
+    const Cases& cases = Cases::toutes();
+    std::array<std::uint32_t, 40> exact{};
+    for (std::size_t i = 0; i < texte.size();) {
+        const PointDeCode point = litPoint(texte, i);
+        ++exact[cases[point.valeur]];
         i += point.taille;
     }
     exact[kAucune] = 0;
@@ -36,7 +77,7 @@ CompteLettres compteLettres(std::string_view texte) {
     CompteLettres compte;
     for (std::size_t i = 0; i < exact.size(); ++i) {
         compte.nombre[i] =
-            static_cast<std::uint16_t>(std::min<std::size_t>(exact[i], std::numeric_limits<std::uint16_t>::max()));
+            static_cast<std::uint16_t>(std::min<std::uint32_t>(exact[i], std::numeric_limits<std::uint16_t>::max()));
         compte.total += compte.nombre[i];
     }
     return compte;

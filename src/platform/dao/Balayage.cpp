@@ -1,5 +1,9 @@
 #include "platform/dao/Balayage.h"
 
+#include "platform/dao/Erreurs.h"
+
+#include <vector>
+
 namespace dao::interne {
 
 namespace {
@@ -37,6 +41,29 @@ bool Balayage::avance() {
         valeur = m_requete.vue(++colonne);
     ++m_vues;
     return true;
+}
+
+void parcourt(Connexion& connexion, Table& table, std::span<const std::string_view> colonnes,
+              const Database::Recoit& recoit, const Souffle& souffle) {
+    TableDuPlan lue{&table};
+    for (const std::string_view nom : colonnes) {
+        const auto rang = table.rang(nom);
+        if (!rang) jette(kErreurParametre, "« " + std::string(nom) + " » n'est pas un champ.");
+        lue.lues.push_back(*rang);
+    }
+    std::vector<std::string> tampons(colonnes.size());
+    std::vector<std::string_view> textes(colonnes.size());
+    constexpr unsigned kLignesParSouffle = 4096;
+    unsigned lignes = 0;
+    for (Balayage balayage(connexion, lue, ""); balayage.avance();) {
+        std::size_t i = 0;
+        for (const ValeurVue& valeur : balayage.valeurs()) {
+            textes[i] = texteDe(valeur, tampons[i]);
+            ++i;
+        }
+        recoit(balayage.id(), textes);
+        if (souffle && ++lignes % kLignesParSouffle == 0) souffle();
+    }
 }
 
 }  // namespace dao::interne

@@ -4,7 +4,9 @@
 #include "platform/dao/Plan.h"
 
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 
 namespace dao::interne {
 
@@ -25,5 +27,9 @@ class Balayage {
     Par<RangLu, ValeurVue> m_valeurs;
     long m_vues = 0;
 };
+
+// What Database::parcourt says.
+void parcourt(Connexion& connexion, Table& table, std::span<const std::string_view> colonnes,
+              const Database::Recoit& recoit, const Souffle& souffle);
 
 }  // namespace dao::interne

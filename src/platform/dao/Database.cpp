@@ -1,5 +1,6 @@
 #include "platform/dao/Database.h"
 
+#include "platform/dao/Balayage.h"
 #include "platform/dao/Connexion.h"
 #include "platform/dao/Ecriture.h"
 #include "platform/dao/Enonce.h"
@@ -41,6 +42,13 @@ Recordset Database::OpenRecordset(std::string_view source, std::span<const std::
     if (estUnNom(source)) return Recordset(std::make_unique<interne::JeuVivant>(connexion, connexion.table(source)));
     const interne::Plan plan = interne::planifie(connexion, interne::analyseEnonce(source), portees);
     return Recordset(std::make_unique<interne::JeuDeCles>(connexion, plan, interne::execute(connexion, plan, souffle)));
+}
+
+void Database::parcourt(std::string_view table, std::span<const std::string_view> colonnes, const Recoit& recoit,
+                        const Souffle& souffle) {
+    interne::Connexion& connexion = ouverte(m_connexion);
+    connexion.veille();
+    interne::parcourt(connexion, connexion.table(table), colonnes, recoit, souffle);
 }
 
 Database::Version Database::version(std::string_view table) const {

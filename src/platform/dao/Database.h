@@ -6,6 +6,7 @@
 #include "platform/dao/Souffle.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -42,6 +43,12 @@ class Database {
     // nothing of the file as long as nobody changes the row. A table without one of them does without.
     [[nodiscard]] Recordset OpenRecordset(std::string_view source, std::span<const std::string_view> portees = {},
                                           const Souffle& souffle = {});
+
+    // Hands every row of a table to `recoit`, in no order: its id and the texts of these columns, "" for Null, which stand
+    // until it returns. Nothing is kept, which a recordset does. Throws ErreurDao 3078, 3061, or a disk error.
+    using Recoit = std::function<void(long long id, std::span<const std::string_view> textes)>;
+    void parcourt(std::string_view table, std::span<const std::string_view> colonnes, const Recoit& recoit,
+                  const Souffle& souffle = {});
 
     // Differs from what it was once a row of the table was changed, or may have been. Throws ErreurDao 3078.
     struct Version {

@@ -1,5 +1,9 @@
 #include "BaseDEssai.h"
 
+#include <algorithm>
+#include <array>
+#include <span>
+
 namespace {
 
 using essais::AutreProgramme;
@@ -309,4 +313,21 @@ TEST(Valeur, NumbersReadAndWritePlainly) {
                                       {"x", 0},
                                       {".5", 0.5}})
         EXPECT_EQ(dao::Valeur(texte).nombre(), reel) << texte;
+}
+
+TEST_F(JeuxTest, HandsEveryRowOverWithoutKeepingIt) {
+    base.Execute(
+        "DELETE FROM Films WHERE Titre='Brazil'; UPDATE Films SET Realisateur=NULL, Note=7 WHERE Titre='Dune'");
+    static constexpr std::array<std::string_view, 3> kColonnes{"titre", "Realisateur", "Note"};
+    Liste lus;
+    base.parcourt("Films", kColonnes, [&](long long id, std::span<const std::string_view> textes) {
+        std::string ligne = std::to_string(id);
+        for (const std::string_view texte : textes)
+            ligne.append("|").append(texte);
+        lus.push_back(ligne);
+    });
+    std::ranges::sort(lus);
+    EXPECT_EQ(lus, (Liste{"1|Avatar|x|", "3|Casino|x|", "4|Dune||7"}));
+    static constexpr std::array<std::string_view, 1> kInconnue{"Nulle part"};
+    EXPECT_EQ(numeroErreur([&] { base.parcourt("Films", kInconnue, [](auto, auto) {}); }), dao::kErreurParametre);
 }
