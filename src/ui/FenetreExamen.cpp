@@ -58,7 +58,7 @@ void ouvreLaFiche(const Atelier& atelier, QWidget* parent, const QString& titre,
     boite->setSpacing(kMoyen);
     boite->addWidget(comparaison, 1);
     boite->addLayout(boutons);
-    fenetre->resize(kTailleDeLaFiche);
+    metTaille(fenetre, kTailleDeLaFiche);
     fenetre->open();
 }
 
@@ -84,7 +84,7 @@ FenetreExamen::FenetreExamen(const Atelier& atelier, Sujet sujet, QWidget* paren
     boite->addWidget(m_liste, 1);
     boite->addLayout(boutons());
     connect(m_modele, &QAbstractItemModel::dataChanged, this, &FenetreExamen::suisLesCoches);
-    resize(kTaille.boundedTo(parent->size()));
+    metTaille(this, kTaille);
     suisLesCoches();
     m_liste->setCurrentIndex(m_trie->index(0, 0));
     m_liste->setFocus(Qt::OtherFocusReason);

@@ -36,7 +36,7 @@ using exportation::Bilan;
 using exportation::Champ;
 using exportation::Champs;
 
-constexpr QSize kTaille{800, 540};
+constexpr QSize kTaille{800, 560};
 const QString kCleDossier = QStringLiteral("Export/dossier");
 constexpr int kPagesDApercu = 40, kResolutionPdf = 600;
 constexpr qreal kMarge = 15;  // millimetres
@@ -167,7 +167,7 @@ FenetreExport::FenetreExport(const Atelier& atelier, QWidget* parent)
     boite->setSpacing(kMoyen);
     boite->addWidget(m_contenu, 1);
     boite->addLayout(pied());
-    resize(kTaille);
+    metTaille(this, kTaille);
     m_sorties[0]->setChecked(true);
     suisLaSortie();
     m_atelier.liaison.apresEcriture([this] { suisLeTravail(); });
