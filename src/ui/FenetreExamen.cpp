@@ -127,7 +127,7 @@ QLayout* FenetreExamen::choixDuGenre() {
                                                        {GenreDExamen::DejaLa, tr("Déjà là")},
                                                        {GenreDExamen::Ressemblants, tr("Ressemblants")},
                                                        {GenreDExamen::AProbleme, tr("À problème")}};
-    m_genre = nomme(new QComboBox, "lstGenreExamen");
+    m_genre = nomme(new ListeDeroulante, "lstGenreExamen");
     m_genre->setToolTip(tr("Les films que montre la liste"));
     for (const auto& [genre, nom] : genres) {
         const auto nombre = std::ranges::count_if(m_modele->films(), [genre = genre](const edit::FilmExamine& film) {
