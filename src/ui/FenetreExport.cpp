@@ -329,7 +329,7 @@ void FenetreExport::suisLaSortie() {
     m_cadrePapier->setVisible(pages);
     m_cadreOu->setVisible(!papier);
     m_apercu->setVisible(pages);
-    m_exporter->setText(papier ? tr("&Imprimer…") : tr("E&xporter"));
+    m_exporter->setText(papier ? tr("Imp&rimer…") : tr("E&xporter"));
     m_exporter->setEnabled(std::any_of(m_etendues.begin(), m_etendues.end(), unFilm));
     m_apercu->setEnabled(m_exporter->isEnabled());
     proposeLesChamps();
