@@ -80,8 +80,9 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION "misc")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils, shared-mime-info, qt6-qpa-plugins")
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Ambrelis keeps a catalogue of film sheets with their posters and, beside it,
-what a collector owns of them: support, shelf, files, loans, reservations.
-Titles are browsed as a tree under nine sorts; sheets are imported by the
-folder as .FILM files. The program is in French.")
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Ambrelis tient le catalogue de vos films : une fiche par film avec son
+affiche et, à côté, ce que vous en possédez : support, étagère, fichiers,
+prêts, réservations. Les titres se parcourent en arbre, selon neuf tris ; les
+fiches s'importent par dossier, en fichiers .FILM, et les collections
+d'autres programmes sont reprises. Le programme est en français.")
 include(CPack)

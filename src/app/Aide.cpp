@@ -63,7 +63,7 @@ const char* pageDeLaFonction(const Etats& etats) {
     if (etats.fonctions.frameConfig.Visible) return "outils.html#configuration";
     if (etats.fonctions.frameOutils.Visible) return "outils.html";
     if (etats.ajout.Frame13.Visible) return "saisir.html";
-    return etats.ajout.frameImportBase.Visible ? "venir.html" : "importer.html";
+    return etats.ajout.frameImportBase.Visible ? "venir.html#installation" : "importer.html";
 }
 
 }  // namespace

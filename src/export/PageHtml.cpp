@@ -22,9 +22,10 @@ header{padding-top:1.5rem}
 h1{margin:0;font-size:1.8rem;line-height:1.2}
 h2{margin:2.2rem 0 .8rem;padding-bottom:.2rem;font-size:1.3rem;border-bottom:1px solid var(--trait)}
 .sous{margin:.2rem 0 1rem;color:var(--discret)}
-.recherche{position:sticky;top:0;z-index:1;padding:.6rem 0;background:var(--fond)}
+.recherche{position:sticky;top:0;z-index:1;display:flex;flex-wrap:wrap;gap:.2rem .6rem;align-items:center;padding:.6rem 0;background:var(--fond)}
+.recherche[hidden]{display:none}
 label{font-weight:600}
-input{width:min(100%,28rem);margin-left:.5rem;padding:.45rem .7rem;font:inherit;color:inherit;background:var(--carte);border:1px solid var(--discret);border-radius:.4rem}
+input{width:min(100%,28rem);padding:.45rem .7rem;font:inherit;color:inherit;background:var(--carte);border:1px solid var(--discret);border-radius:.4rem}
 input:focus,summary:focus-visible{outline:3px solid var(--accent);outline-offset:1px}
 .films{display:grid;grid-template-columns:repeat(auto-fill,minmax(min(100%,23rem),1fr));gap:.9rem;margin:0;padding:0;list-style:none}
 .film{display:flex;gap:.9rem;align-items:flex-start;padding:.8rem;background:var(--carte);border-radius:.5rem;overflow-wrap:anywhere;content-visibility:auto;contain-intrinsic-size:auto 11rem}
@@ -38,8 +39,8 @@ p{margin:.25rem 0}
 summary{cursor:pointer;color:var(--accent)}
 .resume{white-space:pre-line}
 footer{max-width:76rem;margin:2rem auto;padding:0 1.25rem;color:var(--discret);font-size:.9rem}
-@media print{:root{color-scheme:light;--fond:#fff;--texte:#000;--discret:#333;--trait:#999;--carte:#fff;--accent:#000}
-.recherche,footer{display:none}
+@media print{:root{font-size:9pt;color-scheme:light;--fond:#fff;--texte:#000;--discret:#333;--trait:#999;--carte:#fff;--accent:#000}
+.recherche,footer,summary{display:none}
 .films{display:block}
 .film{margin-bottom:.5rem;padding:.4rem 0;border-bottom:1px solid var(--trait);border-radius:0;break-inside:avoid;content-visibility:visible}
 .film img{width:4rem}h2{break-after:avoid}}

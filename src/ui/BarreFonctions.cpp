@@ -145,6 +145,20 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     for (QPushButton* droite : duProgramme(atelier))
         boite->addWidget(droite);
     setLayout(boite);
+    for (QPushButton* cede : {site, aide}) {
+        cede->setAccessibleName(cede->text());
+        m_cedent.push_back({cede, cede->text()});
+    }
+}
+
+void BarreFonctions::resizeEvent(QResizeEvent* evenement) {
+    QWidget::resizeEvent(evenement);
+    for (const Nommee& cede : m_cedent)
+        cede.bouton->setText(cede.texte);
+    for (const Nommee& cede : m_cedent) {
+        if (layout()->minimumSize().width() <= width()) return;
+        cede.bouton->setText({});
+    }
 }
 
 }  // namespace ui

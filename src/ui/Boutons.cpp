@@ -2,9 +2,11 @@
 
 #include "ui/Couleurs.h"
 #include "ui/Infobulles.h"
+#include "ui/Lecteur.h"
 #include "ui/Traits.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QBitmap>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -173,6 +175,27 @@ void Bascule::paintEvent(QPaintEvent*) {
             allumee ? palette().color(QPalette::Active, QPalette::HighlightedText) : accentLisible(palette()));
     style()->drawItemText(&peintre, rect(), Qt::AlignCenter, palette(), isEnabled(), m_signe,
                           allumee ? QPalette::HighlightedText : QPalette::ButtonText);
+}
+
+ListeDeroulante::ListeDeroulante(QWidget* parent) : QComboBox(parent) {
+    connect(this, &QComboBox::currentTextChanged, this, [this](const QString& entree) {
+        decrisLEntree();
+        if (hasFocus() && !isEditable() && !view()->isVisible()) annonce(window(), entree);
+    });
+}
+
+// Its name is that of its caption; without one Qt gives the entry for its name, and hides the name that it was given.
+void ListeDeroulante::decrisLEntree() {
+    const QAccessibleInterface* lue = isEditable() ? nullptr : QAccessible::queryAccessibleInterface(this);
+    if (!lue) return;
+    const bool legendee = !lue->relations(QAccessible::Label).isEmpty();
+    const QString entree = legendee ? currentText() : accessibleName() + QStringLiteral(" : ") + currentText();
+    if (accessibleDescription() != entree) setAccessibleDescription(entree);
+}
+
+void ListeDeroulante::focusInEvent(QFocusEvent* evenement) {
+    decrisLEntree();
+    QComboBox::focusInEvent(evenement);
 }
 
 void ListeDeroulante::showPopup() {

@@ -74,11 +74,13 @@ class Bascule final : public QCheckBox {
     QString m_signe;
 };
 
-// A drop-down list that tells when it opens, before its entries are shown, and when it closed, and leaves the wheel to what scrolls.
+// A drop-down list that tells when it opens, before its entries are shown, and when it closed, and leaves the wheel to
+// what scrolls. Readers hear the entry that is chosen in its description, and another one when the keys choose it: of a
+// closed list Qt has them hear neither.
 class ListeDeroulante final : public QComboBox {
     Q_OBJECT
   public:
-    using QComboBox::QComboBox;
+    explicit ListeDeroulante(QWidget* parent = nullptr);
     void showPopup() override;
     void hidePopup() override;
 
@@ -88,6 +90,10 @@ class ListeDeroulante final : public QComboBox {
 
   protected:
     void wheelEvent(QWheelEvent* evenement) override;
+    void focusInEvent(QFocusEvent* evenement) override;
+
+  private:
+    void decrisLEntree();
 };
 
 }  // namespace ui

@@ -64,6 +64,11 @@ void gardeSaPlace(QWidget* widget) {
     widget->setSizePolicy(politique);
 }
 
+void metTaille(QWidget* boite, QSize voulue) {
+    const QWidget* dessous = boite->parentWidget();
+    boite->resize(dessous ? voulue.boundedTo(dessous->window()->size()) : voulue);
+}
+
 QFrame* filetHorizontal() {
     auto* resultat = new Filet;
     resultat->setFixedHeight(1);

@@ -44,5 +44,7 @@ Bouton* bouton(const char* nom, const QString& texte, const QString& infobulle =
 [[nodiscard]] QFrame* filetVertical();
 // Hidden it takes the room that it takes when it is shown: nothing around it moves.
 void gardeSaPlace(QWidget* widget);
+// No larger than the window that it opens over.
+void metTaille(QWidget* boite, QSize voulue);
 
 }  // namespace ui

@@ -50,7 +50,7 @@ bool DelegueLignes::helpEvent(QHelpEvent* evenement, QAbstractItemView* vue, con
         return QStyledItemDelegate::helpEvent(evenement, vue, option, index);
     QStyleOptionViewItem ligne = option;
     initStyleOption(&ligne, index);
-    const bool coupe = ligne.fontMetrics.horizontalAdvance(ligne.text) + kPetit > option.rect.width();
+    const bool coupe = ligne.fontMetrics.horizontalAdvance(ligne.text) + kMoyen > option.rect.width();
     QToolTip::showText(evenement->globalPos(), coupe ? enInfobulle(ligne.text) : QString(), vue);
     return true;
 }

@@ -14,13 +14,17 @@
 #include <QFileIconProvider>
 #include <QFileSystemModel>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QShortcut>
+#include <QStyledItemDelegate>
+#include <QTreeView>
 #include <algorithm>
 #include <filesystem>
 
@@ -97,6 +101,32 @@ class NaturesEnFrancais final : public QFileIconProvider {
     }
 };
 
+// The box would show sizes and days in the words of the desktop, in columns too narrow for them.
+class LignesEnFrancais final : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const auto* fichiers = qobject_cast<const QFileSystemModel*>(index.model());
+        constexpr int kTaille = 1, kDate = 3;
+        if (fichiers && index.column() == kTaille && !fichiers->isDir(index))
+            option->text = QLocale().formattedDataSize(fichiers->size(index));
+        if (fichiers && index.column() == kDate)
+            option->text = QLocale().toString(fichiers->lastModified(index), QLocale::ShortFormat);
+    }
+};
+
+void ecritEnFrancais(QFileDialog& boite) {
+    boite.setItemDelegate(new LignesEnFrancais(&boite));
+    auto* liste = boite.findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (!liste) return;
+    QHeaderView& entete = *liste->header();
+    for (int colonne = 0; colonne < entete.count(); ++colonne)
+        entete.setSectionResizeMode(colonne, colonne == 0 ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+}
+
 void compose(QInputDialog& boite, const std::string& invite, const std::string& titre, const std::string& defaut) {
     boite.setWindowTitle(qt(titre));
     boite.setLabelText(qt(invite));
@@ -157,6 +187,7 @@ std::string choisit(QFileDialog& boite, const std::string& dossier) {
     const QString ouverture = qt(fichiers::cheminTape(dossier, ""));
     boite.setDirectory(QDir(ouverture).exists() && !ouverture.isEmpty() ? ouverture : QDir::homePath());
     annonceNomsIllisibles(boite);
+    ecritEnFrancais(boite);
     if (boite.exec() != QDialog::Accepted || boite.selectedFiles().isEmpty()) return {};
     return boite.selectedFiles().first().toStdString();
 }

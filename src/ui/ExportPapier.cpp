@@ -222,15 +222,14 @@ QString CatalogueSurPapier::valeur(const FilmExporte& film, Champ champ) const {
     return texte;
 }
 
-// With room for the first of its films.
-bool CatalogueSurPapier::ajouteGroupe(int groupe) {
+bool CatalogueSurPapier::ajouteGroupe(int groupe, qreal place) {
     if (!m_premier && groupe == m_groupe) return true;
     m_premier = false;
     m_groupe = groupe;
     if (groupe < 0) return true;
     const QFont titre = police(13, QFont::DemiBold);
     const bool liste = m_sujet.miseEnPage == MiseEnPage::Liste;
-    if (m_y + mm(liste ? 26 : kHauteurAffiche + 14) > m_feuille.bottom() && !pageSuivante()) return false;
+    if (m_y > m_feuille.top() && m_y + place > m_feuille.bottom() && !pageSuivante()) return false;
     if (m_y > m_feuille.top() + mm(1)) m_y += mm(3);
     m_peintre.setPen(kAccent);
     peintLignes(propre(m_sujet.groupes.at(static_cast<std::size_t>(groupe))), titre, {0, m_y, m_feuille.width(), 0}, 1);
@@ -259,25 +258,7 @@ bool CatalogueSurPapier::ajouteRangee(const FilmExporte& film) {
     return true;
 }
 
-bool CatalogueSurPapier::ajouteFiche(const FilmExporte& film, const QImage& affiche) {
-    const bool avecAffiche = m_sujet.champs.contient(Champ::Affiche);
-    const qreal gauche = avecAffiche ? mm(kLargeurAffiche + kEcart) : 0, largeur = m_feuille.width() - gauche;
-    if (!assure(mm(avecAffiche && !affiche.isNull() ? kHauteurAffiche : 22))) return false;
-    const int page = m_page;
-    const qreal haut = m_y;
-    if (!affiche.isNull()) {
-        const QSizeF taille =
-            QSizeF(affiche.size()).scaled(mm(kLargeurAffiche), mm(kHauteurAffiche), Qt::KeepAspectRatio);
-        m_peintre.drawImage(QRectF({0, m_y}, taille), affiche);
-    }
-    m_peintre.setPen(kEncre);
-    if (!ecrit(valeur(film, Champ::Titre), police(kTitre, QFont::DemiBold), gauche, largeur)) return false;
-    const auto paragraphe = [&](const QString& texte, const QFont& lettres, const QColor& encre,
-                                bool justifie = false) {
-        if (texte.isEmpty()) return true;
-        m_peintre.setPen(encre);
-        return ecrit(texte, lettres, gauche, largeur, justifie);
-    };
+CatalogueSurPapier::Fiche CatalogueSurPapier::compose(const FilmExporte& film, bool affiche) const {
     const auto joints = [&](std::initializer_list<Champ> champs, bool nommes) {
         QStringList textes;
         for (const Champ champ : champs) {
@@ -286,28 +267,55 @@ bool CatalogueSurPapier::ajouteFiche(const FilmExporte& film, const QImage& affi
         }
         return textes.join(QStringLiteral(" · "));
     };
-    const QString realisateur = valeur(film, Champ::Realisateur), acteurs = valeur(film, Champ::Acteurs);
+    const auto apres = [](const QString& mot, const QString& texte) { return texte.isEmpty() ? texte : mot + texte; };
     QString faits = joints({Champ::Annee, Champ::Origine, Champ::Genre, Champ::Duree, Champ::Production}, false);
     if (const QString note = valeur(film, Champ::Note); !note.isEmpty())
         faits += (faits.isEmpty() ? QString() : QStringLiteral(" · ")) + QStringLiteral("note\u00A0%1/10").arg(note);
-    const bool ecrite =
-        paragraphe(realisateur.isEmpty() ? realisateur : QStringLiteral("de ") + realisateur, police(kTexte), kEncre) &&
-        paragraphe(faits, police(kTexte), kDiscret) &&
-        paragraphe(acteurs.isEmpty() ? acteurs : QStringLiteral("Avec ") + acteurs, police(kPetit, QFont::Normal, true),
-                   kEncre) &&
-        paragraphe(valeur(film, Champ::Resume), police(kTexte), kEncre, true) &&
-        paragraphe(joints({Champ::Support, Champ::Rangement, Champ::Pret, Champ::Reserve, Champ::Date, Champ::Divers,
-                           Champ::Fichier1, Champ::Fichier2, Champ::Fichier3, Champ::DateAjout},
-                          true),
-                   police(kPetit), kDiscret);
-    if (m_page == page && !affiche.isNull()) m_y = std::max(m_y, haut + mm(kHauteurAffiche));
+    Fiche fiche;
+    fiche.gauche = m_sujet.champs.contient(Champ::Affiche) ? mm(kLargeurAffiche + kEcart) : 0;
+    fiche.affiche = affiche ? mm(kHauteurAffiche) : 0;
+    fiche.textes = {
+        {valeur(film, Champ::Titre), police(kTitre, QFont::DemiBold), kEncre},
+        {apres(QStringLiteral("de "), valeur(film, Champ::Realisateur)), police(kTexte), kEncre},
+        {faits, police(kTexte), kDiscret},
+        {apres(QStringLiteral("Avec "), valeur(film, Champ::Acteurs)), police(kPetit, QFont::Normal, true), kEncre},
+        {valeur(film, Champ::Resume), police(kTexte), kEncre, true},
+        {joints({Champ::Support, Champ::Rangement, Champ::Pret, Champ::Reserve, Champ::Date, Champ::Divers,
+                 Champ::Fichier1, Champ::Fichier2, Champ::Fichier3, Champ::DateAjout},
+                true),
+         police(kPetit), kDiscret}};
+    std::erase_if(fiche.textes, [](const Paragraphe& celui) { return celui.texte.isEmpty(); });
+    const qreal largeur = m_feuille.width() - fiche.gauche, moitie = m_feuille.height() / 2;
+    qreal hauteur = 0;
+    for (const Paragraphe& celui : fiche.textes)
+        hauteur += hauteurDe(celui.texte, celui.police, largeur, static_cast<int>(moitie / interligne(celui.police)));
+    fiche.place = std::max(hauteur < moitie ? hauteur : mm(22), fiche.affiche);
+    return fiche;
+}
+
+bool CatalogueSurPapier::ajouteFiche(const Fiche& fiche, const QImage& affiche) {
+    if (!assure(fiche.place)) return false;
+    const int page = m_page;
+    const qreal haut = m_y;
+    if (!affiche.isNull()) {
+        const QSizeF taille =
+            QSizeF(affiche.size()).scaled(mm(kLargeurAffiche), mm(kHauteurAffiche), Qt::KeepAspectRatio);
+        m_peintre.drawImage(QRectF({0, m_y}, taille), affiche);
+    }
+    for (const Paragraphe& celui : fiche.textes) {
+        m_peintre.setPen(celui.encre);
+        if (!ecrit(celui.texte, celui.police, fiche.gauche, m_feuille.width() - fiche.gauche, celui.justifie))
+            return false;
+    }
+    if (m_page == page) m_y = std::max(m_y, haut + fiche.affiche);
     m_y += mm(5);
-    return ecrite;
+    return true;
 }
 
 bool CatalogueSurPapier::ajoute(const FilmExporte& film, const QImage& affiche) {
-    if (!ajouteGroupe(film.groupe)) return false;
-    return m_sujet.miseEnPage == MiseEnPage::Liste ? ajouteRangee(film) : ajouteFiche(film, affiche);
+    if (m_sujet.miseEnPage == MiseEnPage::Liste) return ajouteGroupe(film.groupe, mm(26)) && ajouteRangee(film);
+    const Fiche fiche = compose(film, !affiche.isNull());
+    return ajouteGroupe(film.groupe, fiche.place + mm(14)) && ajouteFiche(fiche, affiche);
 }
 
 bool CatalogueSurPapier::termine() {

@@ -2,6 +2,7 @@
 
 #include "export/FilmExporte.h"
 
+#include <QColor>
 #include <QFont>
 #include <QImage>
 #include <QPainter>
@@ -45,6 +46,17 @@ class CatalogueSurPapier {
         exportation::Champ champ;
         qreal gauche = 0, largeur = 0;
     };
+    struct Paragraphe {
+        QString texte;
+        QFont police;
+        QColor encre;
+        bool justifie = false;
+    };
+    struct Fiche {
+        std::vector<Paragraphe> textes;
+        qreal gauche = 0, affiche = 0;  // where they begin, the height of the poster
+        qreal place = 0;                // of the whole; of its beginning where it takes more than half a page
+    };
     [[nodiscard]] qreal mm(qreal longueur) const { return longueur * m_resolution / 25.4; }
     [[nodiscard]] QFont police(qreal points, QFont::Weight graisse = QFont::Normal, bool italique = false) const;
     [[nodiscard]] qreal interligne(const QFont& police) const;
@@ -54,9 +66,10 @@ class CatalogueSurPapier {
     void peintTitre();
     void composeLesColonnes();
     void peintEnTete();
-    [[nodiscard]] bool ajouteGroupe(int groupe);
+    [[nodiscard]] bool ajouteGroupe(int groupe, qreal place);  // with so much room for its first film
     [[nodiscard]] bool ajouteRangee(const exportation::FilmExporte& film);
-    [[nodiscard]] bool ajouteFiche(const exportation::FilmExporte& film, const QImage& affiche);
+    [[nodiscard]] Fiche compose(const exportation::FilmExporte& film, bool affiche) const;
+    [[nodiscard]] bool ajouteFiche(const Fiche& fiche, const QImage& affiche);
     // Lines of a text from m_y on; `enBas` is told when a page ends within it. `lignes`: at most so many.
     [[nodiscard]] bool ecrit(const QString& texte, const QFont& police, qreal gauche, qreal largeur,
                              bool justifie = false);

@@ -37,6 +37,7 @@ FenetreApercu::FenetreApercu(const Atelier& atelier, Sujet sujet, QWidget* paren
       m_atelier(atelier),
       m_sujet(std::move(sujet)),
       m_modele(new ModeleApercu),
+      m_liste(liste(m_modele, !m_sujet.apercuDe)),
       m_texte(nomme((new Etiquette)->avecLignes(4), "lblApercu")),
       m_executer(bouton<BoutonAccent>("cmdExecuterApercu", m_sujet.executer)) {
     nomme(this, "frmApercu");
@@ -52,13 +53,13 @@ FenetreApercu::FenetreApercu(const Atelier& atelier, Sujet sujet, QWidget* paren
     boite->setSpacing(kMoyen);
     if (m_sujet.apercuDe) boite->addLayout(saisie());
     boite->addWidget(m_texte);
-    boite->addWidget(liste(m_modele, !m_sujet.apercuDe), 1);
+    boite->addWidget(m_liste, 1);
     auto* boutons = rangee({});
     boutons->addStretch();
     boutons->addWidget(fermer);
     boutons->addWidget(m_executer);
     boite->addLayout(boutons);
-    resize(kTaille);
+    metTaille(this, kTaille);
     montre(m_sujet.apercu);
 }
 
@@ -90,6 +91,7 @@ void FenetreApercu::montre(ensemble::Apercu apercu) {
     annonce(m_texte);
     m_executer->setEnabled(!apercu.changements.empty());
     m_modele->met(std::move(apercu.changements));
+    m_liste->setCurrentIndex(m_modele->index(0, 0));
 }
 
 // The window makes room for the command's own questions.

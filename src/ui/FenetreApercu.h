@@ -9,6 +9,7 @@
 class QAbstractItemModel;
 class QLineEdit;
 class QPushButton;
+class QTreeView;
 
 namespace ui {
 
@@ -39,6 +40,7 @@ class FenetreApercu final : public QDialog {
     const Atelier m_atelier;
     const Sujet m_sujet;
     ModeleApercu* m_modele;
+    QTreeView* m_liste;
     Etiquette* m_texte;
     QLineEdit* m_nom = nullptr;  // only where a name is asked for
     QPushButton* m_executer;

@@ -58,7 +58,7 @@ void ouvreLaFiche(const Atelier& atelier, QWidget* parent, const QString& titre,
     boite->setSpacing(kMoyen);
     boite->addWidget(comparaison, 1);
     boite->addLayout(boutons);
-    fenetre->resize(kTailleDeLaFiche);
+    metTaille(fenetre, kTailleDeLaFiche);
     fenetre->open();
 }
 
@@ -84,7 +84,7 @@ FenetreExamen::FenetreExamen(const Atelier& atelier, Sujet sujet, QWidget* paren
     boite->addWidget(m_liste, 1);
     boite->addLayout(boutons());
     connect(m_modele, &QAbstractItemModel::dataChanged, this, &FenetreExamen::suisLesCoches);
-    resize(kTaille.boundedTo(parent->size()));
+    metTaille(this, kTaille);
     suisLesCoches();
     m_liste->setCurrentIndex(m_trie->index(0, 0));
     m_liste->setFocus(Qt::OtherFocusReason);
@@ -127,7 +127,7 @@ QLayout* FenetreExamen::choixDuGenre() {
                                                        {GenreDExamen::DejaLa, tr("Déjà là")},
                                                        {GenreDExamen::Ressemblants, tr("Ressemblants")},
                                                        {GenreDExamen::AProbleme, tr("À problème")}};
-    m_genre = nomme(new QComboBox, "lstGenreExamen");
+    m_genre = nomme(new ListeDeroulante, "lstGenreExamen");
     m_genre->setToolTip(tr("Les films que montre la liste"));
     for (const auto& [genre, nom] : genres) {
         const auto nombre = std::ranges::count_if(m_modele->films(), [genre = genre](const edit::FilmExamine& film) {

@@ -24,7 +24,7 @@ namespace {
 using exportation::Champ;
 using exportation::Champs;
 
-constexpr QSize kTaille{800, 540};
+constexpr QSize kTaille{800, 560};
 
 constexpr std::size_t rang(Sortie sortie) {
     return static_cast<std::size_t>(sortie);
@@ -87,7 +87,7 @@ FenetreExport::FenetreExport(const Atelier& atelier, QWidget* parent)
     boite->setSpacing(kMoyen);
     boite->addWidget(m_contenu, 1);
     boite->addLayout(pied());
-    resize(kTaille);
+    metTaille(this, kTaille);
     m_sorties[0]->setChecked(true);
     suisLaSortie();
     m_atelier.liaison.apresEcriture([this] { suisLeTravail(); });
@@ -215,7 +215,7 @@ void FenetreExport::suisLaSortie() {
     m_cadrePapier->setVisible(celle.enPages);
     m_destination->setVisible(!papier);
     m_apercu->setVisible(celle.enPages);
-    m_exporter->setText(papier ? tr("&Imprimer…") : tr("E&xporter"));
+    m_exporter->setText(papier ? tr("Imp&rimer…") : tr("E&xporter"));
     m_exporter->setEnabled(std::any_of(m_etendues.begin(), m_etendues.end(), unFilm));
     m_apercu->setEnabled(m_exporter->isEnabled());
     proposeLesChamps();

@@ -69,7 +69,7 @@ void FenetreSauvegardes::compose() {
     boutons->addStretch();
     boutons->addWidget(fermer);
     boite->addLayout(boutons);
-    resize(kTaille);
+    metTaille(this, kTaille);
 }
 
 QTreeWidget* FenetreSauvegardes::liste() {

@@ -60,7 +60,7 @@ FenetreTableau::FenetreTableau(const Atelier& atelier, voisins::Tableau tableau,
     boutons->addWidget(fermer);
     boutons->addWidget(m_continuer);
     boite->addLayout(boutons);
-    resize(kTaille);
+    metTaille(this, kTaille);
     suis();
 }
 
@@ -73,6 +73,8 @@ QTableWidget* FenetreTableau::apercu() {
     vue->setEditTriggers(QAbstractItemView::NoEditTriggers);
     vue->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     vue->horizontalHeader()->setDefaultSectionSize(kLargeurDeColonne);
+    vue->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    vue->horizontalHeader()->setHighlightSections(false);
     for (int c = 0; c < colonnes; ++c) {
         const auto colonne = static_cast<std::size_t>(c);
         vue->setHorizontalHeaderItem(c, new QTableWidgetItem(texteDeLigne(m_tableau.entetes[colonne])));

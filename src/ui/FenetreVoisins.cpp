@@ -105,7 +105,7 @@ FenetreVoisins::FenetreVoisins(const Atelier& atelier, voisins::Examen examen, Q
     boutons->addWidget(m_importer);
     boite->addLayout(boutons);
     m_complete->setEnabled(m_modele->examen().nombre(edit::SortDuFilm::DejaLa) > 0);
-    resize(kTaille);
+    metTaille(this, kTaille);
     suis();
 }
 

@@ -15,7 +15,7 @@ namespace ui {
 
 namespace {
 
-constexpr int kLargeurAffiche = 260;
+constexpr int kLargeurMin = 90, kLargeurMax = 260;  // of the poster
 
 std::size_t auHasard(std::size_t combien) {
     return static_cast<std::size_t>(QRandomGenerator::global()->bounded(static_cast<quint64>(combien)));
@@ -71,7 +71,7 @@ QLayout* PageCeSoir::proposition() {
     m_autre = bouton<BoutonAccent>("cmdUnAutre", tr("Un &autre"), tr("Proposer un autre film"));
     m_fiche = bouton("cmdFicheCeSoir", tr("Voir la &fiche"), tr("Montrer la fiche de ce film"));
     m_affiche = nomme(new Vignette(this), "AfficheCeSoir", tr("Affiche"));
-    m_affiche->setFixedSize(kLargeurAffiche, Vignette::hauteurPour(kLargeurAffiche, fontMetrics()));
+    m_affiche->setFixedSize(kLargeurMax, Vignette::hauteurPour(kLargeurMax, fontMetrics()));
     const auto montre = [this] {
         if (m_film) atelier().execute(app::montreLeFilm, m_film->film);
     };
@@ -91,6 +91,15 @@ QLayout* PageCeSoir::proposition() {
     ligne->addWidget(m_affiche, 0, Qt::AlignTop);
     ligne->addLayout(droite, 1);
     return ligne;
+}
+
+// The poster takes what the page has left below its questions.
+void PageCeSoir::resizeEvent(QResizeEvent* evenement) {
+    PageCollection::resizeEvent(evenement);
+    layout()->activate();
+    const int place = height() - m_affiche->y() - kMoyen - Vignette::hauteurPour(0, fontMetrics());
+    const int largeur = std::clamp(place * 2 / 3, kLargeurMin, kLargeurMax);
+    m_affiche->setFixedSize(largeur, Vignette::hauteurPour(largeur, fontMetrics()));
 }
 
 void PageCeSoir::relis(const app::Contexte& c) {

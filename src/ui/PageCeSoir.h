@@ -21,6 +21,7 @@ class PageCeSoir final : public PageCollection {
 
   protected:
     void relis(const app::Contexte& c) override;
+    void resizeEvent(QResizeEvent* evenement) override;
 
   private:
     [[nodiscard]] QLayout* envies();

@@ -67,13 +67,16 @@ QWidget* PanneauMultiSuppression::bande(const Atelier& atelier) {
     supprimer->setSizePolicy(politique);
     auto* exporter = bouton("cmdExporterCoches", tr("Exporter…"), tr("Écrire les films cochés dans un autre format"));
     QObject::connect(exporter, &QAbstractButton::clicked, this, [this, atelier] { ouvreExport(atelier, this); });
-    ligne->addWidget(coches);
     ligne->addWidget(exporter);
     ligne->addWidget(supprimer);
 
     auto* boite = section(atelier, Aide::MultiSuppression);
     boite->setContentsMargins(kPetit, kPetit, kGrand, kPetit);
     boite->setSpacing(kSerre);
+    auto* tete = rangee({boite->takeAt(0)->widget()}, kMoyen);
+    tete->addStretch();
+    tete->addWidget(coches);
+    boite->insertLayout(0, tete);
     boite->addLayout(ligne);
     auto* resultat = new Bande;
     resultat->setLayout(boite);

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTableView>
 #include <QTreeView>
 
 namespace ui {
@@ -239,6 +240,12 @@ int StyleAmbrelis::pixelMetric(PixelMetric mesure, const QStyleOption* option, c
         case PM_ExclusiveIndicatorWidth:
         case PM_ExclusiveIndicatorHeight:
             return 16;
+        case PM_HeaderMargin:
+            return 5;
+        case PM_FocusFrameHMargin:  // of a row's text from its ends: those are round where it is chosen
+            return qobject_cast<const QTreeView*>(widget) || qobject_cast<const QTableView*>(widget)
+                       ? 5
+                       : QProxyStyle::pixelMetric(mesure, option, widget);
         case PM_CheckBoxLabelSpacing:
         case PM_RadioButtonLabelSpacing:
             return 8;

@@ -135,6 +135,12 @@ void CadreAffiche::metNoms(const QString& titre, const QString& realisateur) {
     composeDessin();
 }
 
+// The button's text comes, and goes, after the frame had its size.
+bool CadreAffiche::event(QEvent* evenement) {
+    if (evenement->type() == QEvent::LayoutRequest) composeDessin();
+    return QWidget::event(evenement);
+}
+
 // From the top the names, from the bottom the button and the caption, and the drawing in what they leave.
 void CadreAffiche::composeDessin() {
     const int largeur = width() - 2 * kMarge;

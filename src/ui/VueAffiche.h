@@ -61,6 +61,7 @@ class CadreAffiche final : public QWidget {
     void statutClique();  // the status caption, its button or the surface around it, while no picture hides it
 
   protected:
+    bool event(QEvent* evenement) override;
     void paintEvent(QPaintEvent* evenement) override;
     void resizeEvent(QResizeEvent* evenement) override;
     void mousePressEvent(QMouseEvent* evenement) override;

@@ -3,6 +3,7 @@
 #include "ui/DelegueTitres.h"
 #include "ui/Lecteur.h"
 #include "ui/LienArbre.h"
+#include "util/Nombres.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
@@ -84,8 +85,12 @@ VueTitres::VueTitres(browse::VueArbre& etat, QWidget* parent) : QTreeView(parent
     connect(this, &QTreeView::clicked, this, &VueTitres::clique);
     connect(this, &QTreeView::expanded, this, [this](const QModelIndex& groupe) {
         if (!m_modele.estFiltre()) m_ouverts.insert(libelle(groupe));
+        ditLeGroupe(groupe);
     });
-    connect(this, &QTreeView::collapsed, this, [this](const QModelIndex& groupe) { m_ouverts.erase(libelle(groupe)); });
+    connect(this, &QTreeView::collapsed, this, [this](const QModelIndex& groupe) {
+        m_ouverts.erase(libelle(groupe));
+        ditLeGroupe(groupe);
+    });
     m_resteAOuvrir.setSingleShot(true);
     connect(&m_resteAOuvrir, &QTimer::timeout, this, [this] {
         if (!m_modele.estFiltre()) return;
@@ -106,6 +111,13 @@ void VueTitres::clique(const QModelIndex& index) {
 
 void VueTitres::basculeGroupe(const QModelIndex& index) {
     if (m_modele.hasChildren(index)) setExpanded(index, !isExpanded(index));
+}
+
+// To readers: Qt tells them nothing of a heading that opens or closes under the keys.
+void VueTitres::ditLeGroupe(const QModelIndex& groupe) {
+    if (!hasFocus() || groupe != currentIndex()) return;
+    const std::string films = util::phraseCompte(m_modele.rowCount(groupe), "# titre", "# titres");
+    annonce(window(), isExpanded(groupe) ? tr("Ouvert, %1").arg(QString::fromStdString(films)) : tr("Fermé"));
 }
 
 // Of the row that was chosen; one that is out of sight stays so.

@@ -66,6 +66,7 @@ class VueTitres final : public QTreeView {
     void entreParLaPremiere();
     [[nodiscard]] bool prends(const QMouseEvent& evenement);
     [[nodiscard]] QModelIndex caseSous(const QMouseEvent& evenement) const;
+    void ditLeGroupe(const QModelIndex& groupe);
     void basculeGroupe(const QModelIndex& index);
     void montreNoeud(int indice);
     [[nodiscard]] bool frappeEnCours() const;

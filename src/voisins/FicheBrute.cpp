@@ -222,7 +222,7 @@ void Films::ajoute(FilmVoisin film) {
         return;
     }
     m_texte += octetsDe(film);
-    if (m_films.size() >= kFilmsAuPlus || m_texte > kTexteAuPlus)
+    if (++m_lues > kFilmsAuPlus || m_texte > kTexteAuPlus)  // copies count: each makes the first one longer
         throw Refus{"Cette collection est trop grande pour être lue d'un seul coup."};
     const auto [place, nouveau] = m_rangs.try_emplace(ensemble::cleDeFilm(film), m_films.size());
     if (nouveau) {

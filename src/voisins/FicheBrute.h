@@ -59,7 +59,7 @@ class Films {
     Exemplaires m_exemplairesEn;
     std::vector<FilmVoisin> m_films;
     std::unordered_map<std::string, std::size_t> m_rangs;  // by what the base compares
-    std::size_t m_texte = 0;
+    std::size_t m_texte = 0, m_lues = 0;
     long m_sansTitre = 0, m_exemplaires = 0, m_possessions = 0, m_annees = 0;
 };
 

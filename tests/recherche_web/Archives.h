@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdio>
 #include <string>
 #include <utility>
 #include <vector>
@@ -35,6 +36,47 @@ inline std::string zip(const std::vector<std::pair<std::string, std::string>>& c
     archive_write_close(ecriture);
     archive_write_free(ecriture);
     return octets;
+}
+
+// The bytes, packed; many of these one after another unpack to all of their texts.
+inline std::string gzip(const std::string& texte) {
+    std::string octets(texte.size() + 1024, '\0');
+    std::size_t ecrits = 0;
+    archive* ecriture = archive_write_new();
+    archive_write_add_filter_gzip(ecriture);
+    archive_write_set_format_raw(ecriture);
+    archive_write_set_bytes_in_last_block(ecriture, 1);
+    archive_write_open_memory(ecriture, octets.data(), octets.size(), &ecrits);
+    archive_entry* entree = archive_entry_new();
+    archive_entry_set_filetype(entree, AE_IFREG);
+    archive_write_header(ecriture, entree);
+    archive_write_data(ecriture, texte.data(), texte.size());
+    archive_entry_free(entree);
+    archive_write_close(ecriture);
+    archive_write_free(ecriture);
+    return octets.substr(0, ecrits);
+}
+
+// What stands before a file in a tar.
+inline std::string enteteDeTar(const std::string& nom, long taille) {
+    std::string entete(512, '\0');
+    const auto pose = [&](std::size_t place, const std::string& texte) { entete.replace(place, texte.size(), texte); };
+    char octal[12];
+    std::snprintf(octal, sizeof octal, "%011lo", static_cast<unsigned long>(taille));
+    pose(0, nom);
+    pose(100, "0000644");
+    pose(124, octal);
+    pose(136, "00000000000");
+    pose(148, "        0");
+    pose(257, "ustar");
+    pose(263, "00");
+    unsigned somme = 0;
+    for (const char octet : entete)
+        somme += static_cast<unsigned char>(octet);
+    std::snprintf(octal, sizeof octal, "%06o", somme);
+    pose(148, octal);
+    entete[154] = '\0';
+    return entete;
 }
 
 }  // namespace essais

@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,6 +17,7 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include <gtest/gtest.h>
 
@@ -168,6 +170,9 @@ TEST_F(DialoguesQt, TheFileBoxAcceptsTheTypedNameOfAFileThatIsNotThere) {
         surLaBoite<QFileDialog>([&](QFileDialog& boite) {
             EXPECT_EQ(boite.acceptMode(), QFileDialog::AcceptOpen);
             EXPECT_TRUE(boite.testOption(QFileDialog::DontUseNativeDialog));
+            const QHeaderView& entete = *boite.findChild<QTreeView*>("treeView")->header();
+            for (int colonne = 0; colonne < entete.count(); ++colonne)
+                EXPECT_GE(entete.sectionSize(colonne), entete.sectionSizeHint(colonne)) << colonne;
             QTest::keyClicks(boite.findChild<QLineEdit*>("fileNameEdit"), "absent.jpg");
             QTest::keyClick(boite.findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
         });

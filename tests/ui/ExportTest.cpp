@@ -5,6 +5,7 @@
 #include <QBuffer>
 #include <QLineEdit>
 #include <QPdfWriter>
+#include <map>
 
 namespace {
 
@@ -114,6 +115,17 @@ TEST(Export, ACatalogueBreaksIntoPages) {
         film.fiche[static_cast<std::size_t>(exportation::Champ::Resume)] = resume;
         ASSERT_TRUE(catalogue.ajoute(film, {}));
         EXPECT_EQ(catalogue.pages() > pages + 4, mise == ui::MiseEnPage::Fiches);
+        // Sheets of one height stand as many on each page: none is cut in two.
+        film.fiche[static_cast<std::size_t>(exportation::Champ::Resume)] = resume.substr(0, 700);
+        std::map<int, int> surLaPage;
+        for (int i = 0; i < 60; ++i) {
+            ASSERT_TRUE(catalogue.ajoute(film, {}));
+            ++surLaPage[catalogue.pages()];
+        }
+        surLaPage.erase(surLaPage.begin());
+        surLaPage.erase(std::prev(surLaPage.end()));
+        for (const auto& [page, nombre] : surLaPage)
+            EXPECT_EQ(nombre, surLaPage.begin()->second) << page;
         EXPECT_TRUE(catalogue.termine());
         EXPECT_TRUE(octets.data().startsWith("%PDF"));
     }

@@ -132,6 +132,8 @@ TEST_F(Fiche, AFilmWithoutAPosterHasADrawnOneAndAButton) {
     auto& ajouter = essai.trouve<QPushButton>("cmdAjouterAffiche");
     EXPECT_TRUE(ajouter.isVisible());
     EXPECT_TRUE(essai.trouve("cadreAffiche").rect().contains(ajouter.geometry()));
+    ajouter.setText(ajouter.text() + " plus longue");  // it comes after the frame has its size
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     EXPECT_GE(ajouter.width(), ajouter.sizeHint().width());
     essai.boites.fichier = essai.dossier.ecrit("abimee.jpg", "\xff\xd8\xff");
     QTest::mouseClick(&ajouter, Qt::LeftButton);

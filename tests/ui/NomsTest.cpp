@@ -193,4 +193,26 @@ TEST(Noms, EachPageHasItsOwnMnemonicsAndNamesForScreenReaders) {
     EXPECT_TRUE(essais::attends([&] { return barre->maximum() == 0; })) << "all tools at once: " << barre->maximum();
 }
 
+TEST(NomsPourLecteurs, TheKeysAreAnsweredWhereQtSaysNothing) {
+    essais::ProgrammeDEssai essai;
+    essai.demarre();
+    essai.importe({{"Alpha", "Ann", "Drame", ""}, {"Beta", "Bob", "Drame", ""}, {"Gamma", "Ann", "Comédie", ""}});
+    auto& tri = essai.trouve<QComboBox>("ChoixTri");
+    essai.choisit("ChoixTri", 3);
+    tri.setFocus();
+    const QString avant = tri.currentText();
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&tri)->text(QAccessible::Description), avant);
+    QTest::keyClick(&tri, Qt::Key_Down);
+    EXPECT_NE(tri.currentText(), avant);
+    EXPECT_EQ(essai.texte("lblAnnonce"), tri.currentText().toStdString());
+    essai.place("Alpha");
+    essai.arbre().collapseAll();
+    essai.arbre().setFocus();
+    for (const Qt::Key touche : {Qt::Key_Home, Qt::Key_Down, Qt::Key_Right})
+        QTest::keyClick(&essai.arbre(), touche);
+    EXPECT_EQ(essai.texte("lblAnnonce"), "Ouvert, 2 titres");
+    QTest::keyClick(&essai.arbre(), Qt::Key_Left);
+    EXPECT_EQ(essai.texte("lblAnnonce"), "Fermé");
+}
+
 }  // namespace

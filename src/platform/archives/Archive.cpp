@@ -3,6 +3,7 @@
 #include "util/Texte.h"
 
 #include <array>
+#include <filesystem>
 
 #include <archive.h>
 #include <archive_entry.h>
@@ -27,8 +28,17 @@ std::string nomDe(archive_entry* entree) {
 
 struct Archive::Etat {
     std::unique_ptr<archive, decltype(&archive_read_free)> lecture{archive_read_new(), &archive_read_free};
+    std::int64_t octetsAuPlus = kOctetsAuPlus, lus = 0;
     long rang = -1;
     bool abimee = false;
+
+    // What stands before an entry of a zip is passed over by a seek, in a tar it is unpacked.
+    [[nodiscard]] bool tient(archive_entry* entree) const {
+        const bool zip = (archive_format(lecture.get()) & ARCHIVE_FORMAT_BASE_MASK) == ARCHIVE_FORMAT_ZIP;
+        const std::int64_t avant = archive_filter_bytes(lecture.get(), 0);
+        return rang < kEntreesAuPlus && avant <= octetsAuPlus &&
+               (zip || archive_entry_size(entree) <= octetsAuPlus - avant);
+    }
 };
 
 Archive::Archive(std::unique_ptr<Etat> etat) : m_etat(std::move(etat)) {}
@@ -46,6 +56,10 @@ std::optional<Archive> Archive::ouvre(const std::string& chemin) {
     archive_read_support_filter_bzip2(lecture);
     archive_read_support_filter_xz(lecture);
     if (archive_read_open_filename(lecture, chemin.c_str(), kBloc) != ARCHIVE_OK) return std::nullopt;
+    std::error_code sansTaille;
+    const auto taille = static_cast<std::int64_t>(std::filesystem::file_size(chemin, sansTaille));
+    if (!sansTaille && taille < (kOctetsAuPlus - kOctetsToujours) / kFoisSaTaille)
+        etat->octetsAuPlus = kOctetsToujours + kFoisSaTaille * taille;
     return Archive(std::move(etat));
 }
 
@@ -55,8 +69,7 @@ std::optional<Archive::Entree> Archive::suivante() {
     while (!m_etat->abimee) {
         const int issue = archive_read_next_header(lecture, &entree);
         if (issue == ARCHIVE_EOF) return std::nullopt;
-        const bool tient = m_etat->rang < kEntreesAuPlus && archive_filter_bytes(lecture, 0) <= kOctetsAuPlus;
-        m_etat->abimee = (issue != ARCHIVE_OK && issue != ARCHIVE_WARN) || !tient;
+        m_etat->abimee = (issue != ARCHIVE_OK && issue != ARCHIVE_WARN) || !m_etat->tient(entree);
         if (m_etat->abimee || archive_entry_filetype(entree) != AE_IFREG || archive_entry_hardlink(entree)) continue;
         return Entree{nomDe(entree), ++m_etat->rang};
     }
@@ -69,7 +82,8 @@ bool Archive::abimee() const {
 
 std::ptrdiff_t Archive::lis(char* vers, std::size_t place) {
     const la_ssize_t lus = archive_read_data(m_etat->lecture.get(), vers, place);
-    return lus < 0 ? -1 : static_cast<std::ptrdiff_t>(lus);
+    if (lus > 0 && (m_etat->lus += lus) > m_etat->octetsAuPlus) m_etat->abimee = true;
+    return lus < 0 || m_etat->abimee ? -1 : static_cast<std::ptrdiff_t>(lus);
 }
 
 Archive::Contenu Archive::contenu(std::int64_t limite) {

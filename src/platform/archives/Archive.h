@@ -13,7 +13,10 @@ namespace archives {
 class Archive {
   public:
     static constexpr long kEntreesAuPlus = 500'000;
-    static constexpr std::int64_t kOctetsAuPlus = 32LL << 30;  // unpacked, all together
+    // Unpacked, all together: what a collection may hold, and no more than its own size makes likely. Documents pack to a
+    // twentieth at best and posters not at all; a file of zeros packs to a thousandth, or less.
+    static constexpr std::int64_t kOctetsAuPlus = 32LL << 30, kOctetsToujours = 512LL << 20;
+    static constexpr std::int64_t kFoisSaTaille = 30;
 
     struct Entree {
         std::string nom;  // UTF-8, with "/" between folders
@@ -30,7 +33,8 @@ class Archive {
     [[nodiscard]] std::optional<Entree> suivante();
     // Whether the end came by damage, or by a bound above.
     [[nodiscard]] bool abimee() const;
-    // Of that file, as xml::Source: the bytes written, 0 at its end, less than 0 where it is broken or enciphered.
+    // Of that file, as xml::Source: the bytes written, 0 at its end, less than 0 where it is broken, enciphered or beyond
+    // a bound.
     [[nodiscard]] std::ptrdiff_t lis(char* vers, std::size_t place);
     // The whole of it; nothing where it is longer, or broken. A longer one is `tropLongue`.
     struct Contenu {

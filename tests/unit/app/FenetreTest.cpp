@@ -124,6 +124,9 @@ TEST(Guide, OpensAtThePageOfWhatIsShown) {
     EXPECT_EQ(page(panneaux.frameFiche), "fiche.html");
     etats.fiche.frameGeneralites[0].Visible = false;
     EXPECT_EQ(page(panneaux.frameFiche), "exemplaire.html");
+    etats.ajout.Frame13.Visible = etats.fonctions.frameOutils.Visible = etats.fonctions.frameConfig.Visible = false;
+    etats.ajout.frameImportBase.Visible = true;
+    EXPECT_EQ(page(panneaux.frameListeFonctions), "venir.html#installation");
     execution.session.execute(app::cmdConfig_Click, 0);
     EXPECT_EQ(app::pageDuPanneau(etats), "outils.html");
     execution.session.execute(app::cmdConfig_Click, 1);

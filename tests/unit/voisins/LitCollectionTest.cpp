@@ -246,6 +246,17 @@ TEST_F(LitCollection, WhatIsBrokenOrHostileIsRefusedInWords) {
     const std::string zip = essais::zip({{"tellico.xml", std::string(4000, 'x')}, {"../../etc/passwd", "x"}});
     EXPECT_THAT(refus(ecrit("texte.tc", zip)), HasSubstr("tellico.xml est abîmé"));
     EXPECT_NE(refus(ecrit("demi.tc", zip.substr(0, zip.size() / 2))), "lue");
+    // A file that its archive swells a thousandfold is not even passed over.
+    constexpr long kMega = 1 << 20, kZeros = 600;
+    const std::string document = "<collection type=\"GCfilms\"><item title=\"A\"/></collection>";
+    std::string suite = essais::enteteDeTar("collection.gcs", std::ssize(document)) + document;
+    suite.resize(4096);
+    const std::string mega = essais::gzip(std::string(kMega, '\0'));
+    std::string bombe = essais::gzip(essais::enteteDeTar("images/1.jpg", kZeros * kMega));
+    for (long i = 0; i < kZeros; ++i)
+        bombe += mega;
+    EXPECT_THAT(refus(ecrit("bombe.tar.gz", bombe + essais::gzip(suite))), HasSubstr("est abîmée, ou trop grande."));
+    EXPECT_EQ(refus(ecrit("saine.tar.gz", essais::gzip(suite))), "lue");
     EXPECT_THAT(refus(ecrit("rien.tc", essais::zip({{"a.txt", "x"}}))), HasSubstr("pas une collection"));
     EXPECT_THAT(refus(ecrit("page.xml", "<html/>")), HasSubstr("pas une collection"));
     EXPECT_THAT(refus(ecrit("vide.tc", "")), HasSubstr("est vide"));
