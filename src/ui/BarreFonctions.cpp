@@ -142,7 +142,8 @@ BarreFonctions::BarreFonctions(const Atelier& atelier, QWidget* parent) : QWidge
     for (QPushButton* gauche : fleches(atelier))
         boite->addWidget(gauche);
     boite->addStretch();
-    for (QPushButton* droite : duProgramme(atelier))
+    const auto [site, aide, sortie] = duProgramme(atelier);
+    for (QPushButton* droite : {site, aide, sortie})
         boite->addWidget(droite);
     setLayout(boite);
     for (QPushButton* cede : {site, aide}) {
