@@ -1,20 +1,21 @@
 #include "browse/FilmsPossedes.h"
 
 #include "platform/dao/Comparaison.h"
-#include "platform/dao/LigneSupprimee.h"
 
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <span>
+#include <string>
 #include <utility>
 
 namespace browse {
 
 namespace {
 
-constexpr std::string_view kTable = "Personnel", kEnonce = "SELECT * FROM Personnel";
+constexpr std::string_view kTable = "Personnel";
 constexpr std::array<std::string_view, 4> kChamps{"Titre2", "Realisateur2", "Pret", "Reserve"};
-constexpr int kLignesParPas = 64;
+constexpr std::size_t kLignesParPas = 256;
 
 constexpr std::uint64_t kPrete = 1, kReserve = 2, kDrapeaux = kPrete | kReserve;
 
@@ -38,38 +39,33 @@ bool FilmsPossedes::prepare(const db::Contexte& c, std::chrono::milliseconds dur
         m_version = {};
         throw;
     }
-    m_lignes.Close();
     std::sort(m_enCours.begin(), m_enCours.end());
     m_connues = std::exchange(m_enCours, {});
     return m_aJour = true;
 }
 
 bool FilmsPossedes::lit(const db::Contexte& c, std::chrono::milliseconds duree) {
+    const auto range = [this](std::span<const std::string> ligne) {
+        std::uint64_t possession = hachage(ligne[0], ligne[1]);
+        if (!ligne[2].empty()) possession |= kPrete;
+        if (!ligne[3].empty()) possession |= kReserve;
+        m_enCours.push_back(possession);
+    };
     const auto fin = c.montre() + duree;
-    while (!m_lignes.Eof() && c.montre() < fin)
-        for (int i = 0; i < kLignesParPas && !m_lignes.Eof(); ++i, m_lignes.MoveNext())
-            ajouteLigne();
-    return m_lignes.Eof();
+    bool suite = true;
+    while (suite && c.montre() < fin)
+        suite = c.base.base.litTranche(kTable, kChamps, m_parcours, kLignesParPas, range);
+    return !suite;
 }
 
 void FilmsPossedes::commence(const db::Contexte& c, const dao::Database::Version& version) {
     if (m_base != c.chemins.base) m_connues.clear();
     m_enCours.clear();
+    m_enCours.reserve(m_connues.size());
     m_aJour = false;
-    m_lignes = c.base.base.OpenRecordset(kEnonce, kChamps);
-    m_enCours.reserve(static_cast<std::size_t>(m_lignes.RecordCount()));
+    m_parcours = {};
     m_version = version;
     m_base = c.chemins.base;
-}
-
-void FilmsPossedes::ajouteLigne() {
-    dao::siPresente([this] {
-        const std::string titre(m_lignes.vue(m_lignes.colonne(kChamps[0])));
-        std::uint64_t possession = hachage(titre, m_lignes.vue(m_lignes.colonne(kChamps[1])));
-        if (!m_lignes.vue(m_lignes.colonne(kChamps[2])).empty()) possession |= kPrete;
-        if (!m_lignes.vue(m_lignes.colonne(kChamps[3])).empty()) possession |= kReserve;
-        m_enCours.push_back(possession);
-    });
 }
 
 Possession FilmsPossedes::cherche(std::string_view titre, std::string_view realisateur) const {

@@ -190,11 +190,26 @@ bool ajouteCleRapide(std::string_view texte, std::string& cle) {
     return true;
 }
 
+// The key of a text of plain letters alone, which most are: their weights. Else false, the key untouched.
+bool ajouteCleSimple(std::string_view texte, std::string& cle) {
+    constexpr std::size_t kAuPlus = 128;
+    if (texte.size() > kAuPlus) return false;
+    std::array<char, kAuPlus + 1> poids;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled as far as it is read
+    for (std::size_t i = 0; i < texte.size(); ++i) {
+        const std::uint8_t lettre = g_lettresSimples[static_cast<std::uint8_t>(texte[i])];
+        if (lettre == 0) return false;
+        poids[i] = static_cast<char>(lettre);
+    }
+    poids[texte.size()] = kFinDeNiveau;
+    cle.append(poids.data(), texte.size() + 1);
+    return true;
+}
+
 }  // namespace
 
 void ajouteCleJet(std::string_view texte, std::string& cle) {
     texte = sansBlancsFinaux(texte);
-    if (!ajouteCleRapide(texte, cle)) ajouteCleLente(texte, cle);
+    if (!ajouteCleSimple(texte, cle) && !ajouteCleRapide(texte, cle)) ajouteCleLente(texte, cle);
 }
 
 std::string cleJet(std::string_view texte) {

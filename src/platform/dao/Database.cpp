@@ -10,6 +10,7 @@
 #include "platform/dao/JeuVivant.h"
 #include "platform/dao/Plan.h"
 #include "platform/dao/Resultat.h"
+#include "platform/dao/Tranches.h"
 
 #include <algorithm>
 
@@ -49,6 +50,13 @@ void Database::parcourt(std::string_view table, std::span<const std::string_view
     interne::Connexion& connexion = ouverte(m_connexion);
     connexion.veille();
     interne::parcourt(connexion, connexion.table(table), colonnes, recoit, souffle);
+}
+
+bool Database::litTranche(std::string_view table, std::span<const std::string_view> colonnes, Parcours& parcours,
+                          std::size_t lignes, const Visite& visite) {
+    interne::Connexion& connexion = ouverte(m_connexion);
+    connexion.veille();
+    return interne::litTranche(connexion, connexion.table(table), colonnes, parcours.derniere, lignes, visite);
 }
 
 Database::Version Database::version(std::string_view table) const {

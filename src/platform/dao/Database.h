@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -49,6 +50,16 @@ class Database {
     using Recoit = std::function<void(long long id, std::span<const std::string_view> textes)>;
     void parcourt(std::string_view table, std::span<const std::string_view> colonnes, const Recoit& recoit,
                   const Souffle& souffle = {});
+
+    // One pass over a table in slices, which keeps nothing between them: the columns' texts of rows by the first column, in
+    // the order of the file's index that begins with it. At least so many rows and all that have the last one's value;
+    // false once none is left. Rows that are changed between two slices may be met twice or not at all: see `version`.
+    struct Parcours {
+        std::optional<Valeur> derniere;  // none: at the beginning
+    };
+    using Visite = std::function<void(std::span<const std::string>)>;
+    bool litTranche(std::string_view table, std::span<const std::string_view> colonnes, Parcours& parcours,
+                    std::size_t lignes, const Visite& visite);
 
     // Differs from what it was once a row of the table was changed, or may have been. Throws ErreurDao 3078.
     struct Version {

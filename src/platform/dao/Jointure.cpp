@@ -8,7 +8,7 @@
 namespace dao::interne {
 
 Partenaires::Partenaires(const Par<RangLigne, std::uint64_t>& hachages)
-    : m_places(std::bit_ceil(hachages.size() + hachages.size() / 2 + 2)), m_accompagnees(hachages.size()) {
+    : m_places(std::bit_ceil(hachages.size() + hachages.size() / 4 + 2)), m_accompagnees(hachages.size()) {
     for (const RangLigne ligne : hachages.rangs()) {
         const auto marque = static_cast<std::uint32_t>(hachages[ligne] >> 32);
         std::size_t rang = hachages[ligne] & masque();

@@ -1,5 +1,8 @@
 #include "platform/dao/Magasin.h"
 
+#include <cstring>
+#include <vector>
+
 namespace dao::interne {
 
 namespace {
@@ -35,6 +38,28 @@ void Magasin::serre() {
 void Magasin::oublieLesValeurs() {
     m_fins = {};
     m_caracteres = {};
+}
+
+// The others move down where they stand.
+void Magasin::oublie(std::span<const RangLu> colonnes) {
+    std::vector<bool> oubliees(m_colonnes, false);
+    for (const RangLu colonne : colonnes)
+        oubliees[static_cast<std::size_t>(colonne)] = true;
+    std::uint32_t debut = 0, garde = 0;
+    for (std::size_t rang = 0; rang < m_fins.size(); ++rang) {
+        const std::uint32_t fin = m_fins[rang] & kMasque;
+        std::uint32_t marque = m_fins[rang] & ~kMasque;
+        if (oubliees[rang % m_colonnes] && fin > debut) {
+            marque = static_cast<std::uint32_t>(kAbsent) << kBitsDePosition;
+        } else {
+            std::memmove(m_caracteres.begin() + garde, m_caracteres.begin() + debut, fin - debut);
+            garde += fin - debut;
+        }
+        m_fins[rang] = marque | garde;
+        debut = fin;
+    }
+    m_caracteres.retireLaFin(garde);
+    m_caracteres.serre();
 }
 
 std::optional<ValeurVue> Magasin::valeur(RangLigne ligne, RangLu colonne) const {

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 
 namespace dao::interne {
 
@@ -17,8 +18,9 @@ class Magasin {
     RangLigne ajoute(long long id);
     void ajouteValeur(const ValeurVue& valeur);  // of the last row, column after column
     void change(RangLigne ligne, long long id) { m_ids[static_cast<std::size_t>(ligne)] = id; }
-    void serre();             // no row follows
-    void oublieLesValeurs();  // all are answered as too long to be kept
+    void serre();                                   // no row follows
+    void oublieLesValeurs();                        // all are answered as too long to be kept
+    void oublie(std::span<const RangLu> colonnes);  // their texts are
 
     [[nodiscard]] std::size_t taille() const { return m_ids.size(); }
     [[nodiscard]] const long long& id(RangLigne ligne) const { return m_ids[static_cast<std::size_t>(ligne)]; }

@@ -3,12 +3,14 @@
 #include "platform/dao/Balayage.h"
 #include "platform/dao/CleJet.h"
 #include "platform/dao/Ecriture.h"
+#include "platform/dao/Groupes.h"
 #include "platform/dao/Jointure.h"
-#include "platform/dao/Ordre.h"
+#include "platform/dao/PresqueEnOrdre.h"
 #include "platform/dao/RegistresLarges.h"
 
 #include <algorithm>
-#include <functional>
+#include <numeric>
+#include <optional>
 #include <span>
 #include <string>
 #include <unordered_map>
@@ -31,12 +33,14 @@ class Execution {
             m_resultat.magasins.emplace_back(table.lues.size());
             m_cles.emplace_back(table.lues.size());
         }
+        choisisLOrdre();
     }
 
     Resultat resultat() {
         if (m_plan.tables.size() > 1) {
             const Regard regard(m_connexion);
             joint();
+            oublieLaJointure();
         } else if (m_plan.cle) {
             chercheLaCle(*m_plan.cle);
         } else {
@@ -125,6 +129,15 @@ class Execution {
         }
     }
 
+    // A joined row's partner has its texts, by Jet's comparison at least: few ask for those of the partner.
+    void oublieLaJointure() {
+        if (m_plan.gauche || m_plan.distinct) return;
+        std::vector<RangLu> jointes;
+        for (const auto& [gauche, droite] : m_plan.egalites)
+            jointes.push_back(droite);
+        m_resultat.magasins[kSeconde].oublie(jointes);
+    }
+
     bool ontLesMemesLettres(const Par<RangLu, ValeurVue>& valeurs, RangLigne droite) const {
         const Magasin& magasin = m_resultat.magasins[kSeconde];
         if (static_cast<std::size_t>(droite) >= magasin.taille()) return false;
@@ -168,100 +181,155 @@ class Execution {
     bool seJoignent(const Par<RangLu, ValeurVue>& valeurs, RangLigne droite) {
         return std::all_of(m_plan.egalites.begin(), m_plan.egalites.end(), [&](const auto& egalite) {
             std::string tampon;
-            const std::string_view texte = gardee(kSeconde, droite, egalite.second).texte;
+            const std::string_view texte = gardee(kSeconde, droite, egalite.second, m_longue).texte;
             return texteDe(valeurs[egalite.first], tampon) == texte ||
                    m_cles[kPremiere].cle(egalite.first) == cleJet(texte);
         });
     }
 
-    // A value of a table from its store, or from the base when it was too long to be kept. Until the next call.
-    ValeurVue gardee(RangTable table, RangLigne ligne, RangLu rang) {
+    // A value of a table from its store, or from the base when it was too long to be kept: in `tampon` then.
+    ValeurVue gardee(RangTable table, RangLigne ligne, RangLu rang, std::string& tampon) {
         if (ligne == kSansLigne) return {};
         const Magasin& magasin = m_resultat.magasins[table];
         if (const auto valeur = magasin.valeur(ligne, rang)) return *valeur;
         const TableDuPlan& lue = m_plan.tables[table];
-        m_longue = litChamp(m_connexion, *lue.table, lue.lues[rang], magasin.id(ligne)).texte();
-        return ValeurVue::deTexte(m_longue);
+        tampon = litChamp(m_connexion, *lue.table, lue.lues[rang], magasin.id(ligne)).texte();
+        return ValeurVue::deTexte(tampon);
     }
 
     void retientSiNulles(const Balayage& balayage, RangLigne droite) {
         for (const RangLu nulle : m_plan.nulles) {
-            if (!gardee(kSeconde, droite, nulle).estNulle()) return;
+            if (!gardee(kSeconde, droite, nulle, m_longue).estNulle()) return;
         }
         if (m_ligneDeGauche == kSansLigne) m_ligneDeGauche = range(kPremiere, balayage);
         retient(m_ligneDeGauche, droite);
     }
 
-    // Adds a row of the statement, with its key among the others.
-    void retient(RangLigne gauche, RangLigne droite) {
+    // Rows come in the order of an index, by title: whatever else comes first is a matter of groups.
+    void choisisLOrdre() {
+        const auto& cle = premiere().table->cle;
         for (const TriDuPlan& tri : m_plan.tris)
-            ajouteCle(tri, droite);
-        m_ordre.finit();
+            m_ordre.push_back(tri);
+        for (const RangLu rang : m_plan.departages) {
+            const ColonneDuPlan colonne{kPremiere, rang};
+            const auto connue = [colonne](const TriDuPlan& tri) { return tri.colonne == colonne; };
+            if (std::none_of(m_ordre.begin(), m_ordre.end(), connue)) m_ordre.push_back({colonne});
+        }
+        if (m_plan.tris.empty()) return;
+        const auto [table, rang] = m_ordre.front().colonne;
+        if (table == kPremiere && cle && premiere().lues[rang] == cle->premiere) return;
+        m_groupee = m_ordre.front();
+        m_ordre.erase(m_ordre.begin());
+    }
+
+    // Adds a row of the statement.
+    void retient(RangLigne gauche, RangLigne droite) {
+        if (m_groupee) ajouteAuGroupe(*m_groupee, droite);
         m_gauches.push_back(gauche);
         if (m_plan.tables.size() > 1) m_droites.push_back(droite);
+        // Of a DISTINCT a lower row may still come to stand for this one.
+        if (!m_plan.distinct) classe(static_cast<std::uint32_t>(m_gauches.size() - 1));
     }
 
-    // Rows of equal keys, by the ids of their rows.
-    bool precede(std::uint32_t gauche, std::uint32_t droite) const {
-        const auto ids = [this](std::uint32_t rang) {
-            const RangLigne seconde = m_plan.tables.size() > 1 ? m_droites[rang] : kSansLigne;
-            return std::pair(m_resultat.magasins[kPremiere].id(m_gauches[rang]),
-                             seconde == kSansLigne ? 0 : m_resultat.magasins[kSeconde].id(seconde));
-        };
-        return ids(gauche) < ids(droite);
-    }
+    void classe(std::uint32_t rang) { m_presque.ajoute(rang, cleDe(rang)); }
 
-    void ajouteCle(const TriDuPlan& tri, RangLigne droite) {
+    void ajouteAuGroupe(const TriDuPlan& tri, RangLigne droite) {
         const auto [table, rang] = tri.colonne;
-        const ValeurVue valeur = table == kPremiere ? m_cles[kPremiere].valeur(rang) : gardee(kSeconde, droite, rang);
-        if (valeur.estNulle()) return m_ordre.ajouteNul();
-        if (tri.numerique) return m_ordre.ajouteNombre(valeur.enNombre());
-        if (table == kPremiere) return m_ordre.ajouteTexte(m_cles[kPremiere].cle(rang));
-        ajouteTexte(m_ordre, valeur.texte);
+        const ValeurVue valeur =
+            table == kPremiere ? m_cles[kPremiere].valeur(rang) : gardee(kSeconde, droite, rang, m_longue);
+        if (valeur.estNulle()) return m_groupes.ajouteNul();
+        if (tri.numerique) return m_groupes.ajouteNombre(valeur.enNombre());
+        std::string tampon;
+        m_groupes.ajouteTexte(texteDe(valeur, tampon));
     }
 
-    void ajouteTexte(Ordre& ordre, std::string_view texte) {
-        m_cle.clear();
-        ajouteCleJet(texte, m_cle);
-        ordre.ajouteTexte(m_cle);
+    ValeurVue valeurDe(std::uint32_t rang, ColonneDuPlan colonne, std::string& tampon) {
+        const RangLigne ligne = colonne.table == kPremiere ? m_gauches[rang] : m_droites[rang];
+        return gardee(colonne.table, ligne, colonne.rang, tampon);
     }
 
-    // Orders rows that `ordre` left equal by one more column of the first table, and the next ones after it. Only they
-    // have that key worked out.
-    void departage(std::span<std::uint32_t> rangs, const Ordre& ordre, std::size_t colonne) {
-        for (const auto& [debut, fin] : ordre.egales()) {
-            const std::span<std::uint32_t> egales = rangs.subspan(debut, fin - debut);
-            const std::vector<std::uint32_t> avant(egales.begin(), egales.end());
-            Ordre parColonne(Ordre::PremiereColonne::SansGroupes);
-            for (std::size_t i = 0; i < avant.size(); ++i) {
-                ajouteDepartage(parColonne, m_gauches[avant[i]], m_plan.departages[colonne]);
-                parColonne.finit();
-                respire();
-            }
-            const std::vector<std::uint32_t> apres = parColonne.rangs(false, std::less<>(), m_souffle);
-            std::transform(apres.begin(), apres.end(), egales.begin(), [&](std::uint32_t rang) { return avant[rang]; });
-            if (colonne + 1 < m_plan.departages.size()) departage(egales, parColonne, colonne + 1);
+    // Two rows of one group.
+    int compare(std::uint32_t gauche, std::uint32_t droite) {
+        for (const TriDuPlan& tri : m_ordre) {
+            const ValeurVue une = valeurDe(gauche, tri.colonne, m_longue),
+                            autre = valeurDe(droite, tri.colonne, m_autreLongue);
+            if (const int ordre = compareValeurs(une, autre, tri.numerique); ordre != 0) return ordre;
         }
+        return 0;
     }
 
-    void ajouteDepartage(Ordre& ordre, RangLigne ligne, RangLu rang) {
-        const ValeurVue valeur = gardee(kPremiere, ligne, rang);
-        if (valeur.estNulle()) return ordre.ajouteNul();
-        ajouteTexte(ordre, valeur.texte);
+    int compareTextes(std::string_view gauche, std::string_view droite) {
+        if (gauche == droite) return 0;
+        m_cle.clear();
+        ajouteCleJet(gauche, m_cle);
+        m_autreCle.clear();
+        ajouteCleJet(droite, m_autreCle);
+        return m_cle.compare(m_autreCle);
+    }
+
+    int compareValeurs(const ValeurVue& une, const ValeurVue& autre, bool numerique) {
+        if (une.estNulle() || autre.estNulle()) return (autre.estNulle() ? 1 : 0) - (une.estNulle() ? 1 : 0);
+        if (!numerique) return compareTextes(une.texte, autre.texte);
+        const double gauche = une.enNombre(), droite = autre.enNombre();
+        return (gauche > droite ? 1 : 0) - (gauche < droite ? 1 : 0);
+    }
+
+    // Rows that nothing else tells apart stand by the ids of their rows.
+    bool precede(std::uint32_t gauche, std::uint32_t droite) {
+        const int ordre = compare(gauche, droite);
+        return ordre != 0 ? ordre < 0 : ids(gauche) < ids(droite);
+    }
+
+    std::pair<long long, long long> ids(std::uint32_t rang) const {
+        const RangLigne seconde = m_plan.tables.size() > 1 ? m_droites[rang] : kSansLigne;
+        return {m_resultat.magasins[kPremiere].id(m_gauches[rang]),
+                seconde == kSansLigne ? 0 : m_resultat.magasins[kSeconde].id(seconde)};
+    }
+
+    // Of the first column by which the rows of a group stand; holds until the next call.
+    std::string_view cleDe(std::uint32_t rang) {
+        if (m_ordre.empty()) return cleDeNombre(static_cast<double>(ids(rang).first), m_cleDeNombre);
+        const TriDuPlan& tri = m_ordre.front();
+        const ValeurVue valeur = valeurDe(rang, tri.colonne, m_longue);
+        if (valeur.estNulle()) return {};
+        if (tri.numerique) return cleDeNombre(valeur.enNombre(), m_cleDeNombre);
+        m_cleAjoutee.clear();
+        ajouteCleJet(valeur.texte, m_cleAjoutee);
+        return m_cleAjoutee;
+    }
+
+    std::vector<std::uint32_t> enOrdre() {
+        for (std::uint32_t rang = 0; m_plan.distinct && rang < m_gauches.size(); ++rang) {
+            classe(rang);
+            respire();
+        }
+        std::vector<std::uint32_t> rangs = m_presque.rangs(m_souffle);
+        std::vector<std::uint32_t> fins{static_cast<std::uint32_t>(rangs.size())};
+        if (m_groupee) rangs = m_groupes.range(rangs, fins);
+        if (m_plan.distinct) sansDoublons(rangs, fins);
+        return rangs;
+    }
+
+    void sansDoublons(std::vector<std::uint32_t>& rangs, const std::vector<std::uint32_t>& fins) {
+        auto debut = rangs.begin(), garde = debut;
+        for (const std::uint32_t fin : fins) {
+            const auto suivant = rangs.begin() + fin;
+            const auto bout =
+                std::unique(debut, suivant, [this](auto une, auto autre) { return compare(une, autre) == 0; });
+            garde = std::copy(debut, bout, garde);
+            debut = suivant;
+        }
+        rangs.erase(garde, rangs.end());
     }
 
     void ordonne() {
-        const auto precede = [this](std::uint32_t gauche, std::uint32_t droite) {
-            return this->precede(gauche, droite);
-        };
-        std::vector<std::uint32_t> rangs = m_ordre.rangs(m_plan.distinct, precede, m_souffle);
-        if (!m_plan.departages.empty()) departage(rangs, m_ordre, 0);
-        m_ordre = Ordre();
-        const auto suit = [&rangs](const std::vector<RangLigne>& lignes) {
+        const std::vector<std::uint32_t> rangs = enOrdre();
+        const auto suit = [&rangs](std::vector<RangLigne>& lignes) {
             std::vector<RangLigne> resultat;
             resultat.reserve(rangs.size());
             for (const std::uint32_t rang : rangs)
                 resultat.push_back(lignes[rang]);
+            lignes = {};
             return resultat;
         };
         m_resultat.lignes.push_back(suit(m_gauches));
@@ -272,14 +340,19 @@ class Execution {
     const Plan& m_plan;
     Resultat m_resultat;
     Par<RangTable, ClesDeLigne> m_cles;
-    Ordre m_ordre;
+    std::optional<TriDuPlan> m_groupee;  // the first column to order by, where the groups hold it
+    std::vector<TriDuPlan> m_ordre;      // the columns after it
+    Groupes m_groupes;
+    PresqueEnOrdre m_presque{[this](std::uint32_t gauche, std::uint32_t droite) { return precede(gauche, droite); },
+                             [this](std::uint32_t rang, Ordre& ordre) { ordre.ajoute(cleDe(rang)); }};
     std::vector<RangLigne> m_gauches;
     std::vector<RangLigne> m_droites;
     RangLigne m_ligneDeGauche = kSansLigne;
     std::unordered_map<std::string, RangLigne> m_vues;
     std::string m_lettres;  // of the row being looked up
-    std::string m_cle;
-    std::string m_longue;
+    std::string m_cle, m_autreCle, m_cleAjoutee;
+    std::array<char, kTailleDeNombre> m_cleDeNombre{};
+    std::string m_longue, m_autreLongue;
     Souffle m_souffle;
     unsigned m_lignesLues = 0;
 };

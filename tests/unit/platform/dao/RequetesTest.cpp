@@ -1,7 +1,9 @@
 #include "BaseDEssai.h"
 #include "platform/dao/CleJet.h"
+#include "platform/dao/Comparaison.h"
 
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <optional>
 #include <tuple>
@@ -351,6 +353,63 @@ TEST(Requetes, StatementsWithoutOrderComeInRowOrder) {
         titres.push_back(p.titre2.value_or("(Null)"));
     EXPECT_EQ(essai.lit("SELECT * From Personnel ", "Titre2"), titres);
     EXPECT_EQ(essai.lit("SELECT * FROM Personnel order by titre2;", "Titre2").size(), titres.size());
+}
+
+// Of more rows than are ordered in one go: read in the order of the index, and in no order.
+TEST(Requetes, ManyRowsStandAsTheirWholeKeysDo) {
+    BaseDEssai essai;
+    essai.base.Execute(R"(
+CREATE TABLE mots (n, mot);
+INSERT INTO mots VALUES (0,'L''Été'),(1,'La Mer'),(2,'l''étape'),(3,'Œdipe'),(4,'oe'),(5,'Zorro'),(6,'été '),(7,NULL),(8,'Ça'),(9,'d''or');
+INSERT INTO Films (Titre, Realisateur, Genre, Note, Acteurs, Annee)
+  WITH RECURSIVE r(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM r WHERE i < 20000)
+  SELECT a.mot || ' ' || (i * 48271 % 2000), b.mot, c.mot, i * 7919 % 11, 'x', printf('%05d', i) FROM r
+    JOIN mots a ON a.n = i * 31 % 10 JOIN mots b ON b.n = i * 17 % 7 JOIN mots c ON c.n = i * 13 % 9 ORDER BY i;
+DROP TABLE mots;)");
+    const auto cle = [](const dao::Recordset& films, dao::Colonne champ) {
+        const std::string texte(films.vue(champ));
+        return dao::cleDeComparaison(texte);
+    };
+    const std::array<std::string_view, 2> portees{"Annee", "Note"};
+    for (const std::string enonce :
+         {"ORDER BY Titre", "ORDER BY Genre", "ORDER BY Note", "WHERE INSTR(Acteurs, \"x\")>0 ORDER BY Titre",
+          "WHERE INSTR(Acteurs, \"x\")>0 ORDER BY Genre"}) {
+        dao::Recordset films = essai.base.OpenRecordset("SELECT * FROM Films " + enonce, portees);
+        const auto tri = films.colonne(enonce.substr(enonce.rfind(' ') + 1));
+        const auto titre = films.colonne("Titre"), realisateur = films.colonne("Realisateur");
+        const auto numero = films.colonne("Annee"), note = films.colonne("Note");
+        std::vector<std::tuple<int, std::string, std::string, std::string, std::string>> cles;
+        for (; !films.Eof(); films.MoveNext()) {
+            const bool parNote = enonce.ends_with("Note");
+            cles.emplace_back(parNote ? std::stoi(std::string(films.vue(note))) : 0, parNote ? "" : cle(films, tri),
+                              cle(films, titre), cle(films, realisateur), films.vue(numero));
+        }
+        EXPECT_EQ(cles.size(), 20000U);
+        EXPECT_TRUE(std::is_sorted(cles.begin(), cles.end())) << enonce;
+    }
+}
+
+TEST(Requetes, ATableIsWalkedInSlicesThatPartNoValue) {
+    BaseDEssai essai;
+    const std::vector<std::string> titres{"a", "a", "b", "b", "b", "c", "é"};
+    essai.possede("", "sans");
+    for (const std::string& titre : titres)
+        essai.possede(titre, titre + "2");
+    essai.ajoute("Personnel", {{"Realisateur2", "Null"}});
+    essai.ajoute("Personnel", {{"Realisateur2", "Null aussi"}});
+    for (const std::size_t lignes : {1, 2, 4, 100}) {
+        dao::Database::Parcours parcours;
+        std::vector<std::string> lus;
+        const std::array<std::string_view, 2> champs{"Titre2", "Realisateur2"};
+        int tranches = 1;
+        while (essai.base.litTranche("Personnel", champs, parcours, lignes,
+                                     [&](auto ligne) { lus.push_back(ligne[0] + "/" + ligne[1]); }))
+            ++tranches;
+        EXPECT_EQ(lus, (std::vector<std::string>{"/Null", "/Null aussi", "/sans", "a/a2", "a/a2", "b/b2", "b/b2",
+                                                 "b/b2", "c/c2", "é/é2"}));
+        EXPECT_EQ(tranches, lignes == 1 ? 6 : lignes == 2 ? 4 : lignes == 4 ? 3 : 1);
+        EXPECT_FALSE(essai.base.litTranche("Personnel", champs, parcours, lignes, [](auto) { FAIL(); }));
+    }
 }
 
 TEST(Requetes, ErrorsSayWhatIsWrong) {

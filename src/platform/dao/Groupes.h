@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/dao/AccesValeur.h"
+#include "platform/dao/Tampon.h"
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace dao::interne {
+
+// Rows by the first column that orders them. Its values, which are few as a rule (genres, years), are numbered as they
+// come, by their letters: a Jet key is worked out once for each value, and none is kept for a row.
+class Groupes {
+  public:
+    void ajouteTexte(std::string_view texte) { m_numeros.push_back(numero(texte)); }
+    void ajouteNombre(double nombre);
+    void ajouteNul() { m_numeros.push_back(kNul); }
+
+    // These rows, which are known by their rank of addition and are all that were added, group after group as Jet orders
+    // the values, Null first; those of one group stay as they were. Where each group ends stands in `fins`. What was added
+    // is forgotten.
+    [[nodiscard]] std::vector<std::uint32_t> range(std::span<const std::uint32_t> rangs,
+                                                   std::vector<std::uint32_t>& fins);
+
+  private:
+    static constexpr std::uint32_t kNul = 0;
+    struct Hachage {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view cle) const { return std::hash<std::string_view>{}(cle); }
+    };
+    struct Recent {
+        std::string_view texte{};  // of m_connus
+        std::uint32_t numero = kNul;
+    };
+    [[nodiscard]] std::uint32_t numero(std::string_view texte);
+    [[nodiscard]] std::vector<std::uint32_t> ordreDesGroupes(std::uint32_t& nombre);
+
+    std::unordered_map<std::string, std::uint32_t, Hachage, std::equal_to<>> m_connus;  // from 1; Null is 0
+    std::array<Recent, 256> m_recents;                                                  // met lately
+    Tampon<std::uint32_t> m_numeros;                                                    // of each row
+    bool m_clesPretes = false;                                                          // numbers: their keys are known
+};
+
+}  // namespace dao::interne
