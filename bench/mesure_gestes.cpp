@@ -49,7 +49,8 @@ class Seance {
         : m_dossier(std::move(dossier)), m_fiches(std::move(fiches)), m_surdite(piles), m_piles(piles) {}
 
     void joue(bool essentiel) {
-        m_programme.emplace(m_dossier, ui::Programme::Services{&m_boites, nullptr, &m_documents, &m_programmes, nullptr});
+        m_programme.emplace(m_dossier,
+                            ui::Programme::Services{&m_boites, nullptr, &m_documents, &m_programmes, nullptr});
         if (!m_programme->demarre()) throw std::runtime_error("the program ended at its start");
         geste("start", [] {});
         listes();
@@ -202,9 +203,10 @@ class Seance {
 
     void pages() {
         geste("collection", "cmdCollection");
-        for (const char* onglet : {"OngletAffiches", "OngletPrets", "OngletStatistiques", "OngletSante",
-                                   "OngletDoublons", "OngletCeSoir"})
-            geste(onglet, [&] { clique(onglet); }, 1500);
+        for (const char* onglet :
+             {"OngletAffiches", "OngletPrets", "OngletStatistiques", "OngletSante", "OngletDoublons", "OngletCeSoir"})
+            geste(
+                onglet, [&] { clique(onglet); }, 1500);
         geste("tonight_another", "cmdUnAutre");
         clique("OngletSante");
         geste("health", "cmdExaminer");
