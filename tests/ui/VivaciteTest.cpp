@@ -127,6 +127,7 @@ TEST_F(Vivacite, ListingsAndSearchesLetEventsThrough) {
     EXPECT_LT(films(), kFilms);
     geste("toutes", [&] { essai.choisit("ChoixZone", 1); });
     EXPECT_EQ(films(), kFilms);
+    geste("filtre pris", [&] { essai.trouve("Filtre").setFocus(); });
     geste("filtre", [&] { QTest::keyClicks(&essai.trouve("Filtre"), "acteur 12"); });
     geste("filtre trié", [&] { essai.choisit("ChoixTri", 4); });
     geste("filtre vidé", [&] { QTest::keyClick(&essai.trouve("Filtre"), Qt::Key_Escape); });
