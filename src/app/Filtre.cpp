@@ -11,6 +11,10 @@ namespace {
 
 std::optional<std::vector<std::int32_t>> filtreLaListe(const Contexte& c, ensemble::EtatFiltre& filtre) {
     if (filtre.saisie.empty() && !filtre.titres.actif()) return std::nullopt;
+    if (filtre.titres.tarderait(c)) {  // the window reads it first, then asks again
+        filtre.titres.perime();
+        return std::vector<std::int32_t>();
+    }
     filtre.titres.filtre(c, filtre.saisie);
     if (!filtre.titres.estLimite()) filtre.libelle.clear();
     if (!filtre.titres.actif()) return std::nullopt;

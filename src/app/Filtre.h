@@ -14,7 +14,7 @@ namespace app {
 // the ticks stay what they are for every command.
 
 // Filters the listing that is shown now: the nodes that stay to be seen, as FiltreTitres::noeudsVus says them; nothing where
-// nothing is filtered, or the base cannot be read.
+// nothing is filtered, or the base cannot be read. None of them while `filtreTarderait`.
 [[nodiscard]] std::optional<std::vector<std::int32_t>> noeudsFiltres(const Contexte& c);
 // What stands over the tree when it has none.
 [[nodiscard]] std::string raisonDuFiltreVide(const ensemble::EtatFiltre& filtre);

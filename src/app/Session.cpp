@@ -41,7 +41,7 @@ struct Session::Rouages {
           avis(etats.avis),
           visionneuse(etats.affiche, chemins),
           fenetre{{m.dialogues, m.ecran, m.images, m.horloge, m.documents, m.programmes, m.volumes, avis,
-                   etats.demandes, etats.travaux, base, chemins, etats.stockage, suites, annulations},
+                   etats.demandes, etats.travaux, base, chemins, etats.stockage, suites, annulations, m.montre},
                   etats.liste,
                   etats.recherche,
                   etats.fiche,

@@ -18,6 +18,7 @@ struct Machine {
     systeme::Programmes& programmes;
     systeme::Volumes& volumes;
     std::string dossierProgramme;  // the executable's folder
+    systeme::Montre montre = std::chrono::steady_clock::now;
 };
 
 // One run of the program: owns the panels' state, the open base and what the commands work with. The window runs one

@@ -4,20 +4,21 @@
 
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace browse {
 
 namespace {
 
 void remplit(const Contexte& c, ecran::Liste& liste, const std::string& champ) {
-    const std::string enCours = liste.Text;
-    liste.Clear();
+    std::vector<std::string> textes;
     dao::Recordset valeurs =
         db::ouvreRequete(c, "SELECT DISTINCT " + champ + " FROM personnel ORDER BY " + champ + " ASC ;",
                          db::NumeroErreur::RaffraichitBoitesDeroulantes);
     for (; !valeurs.Eof(); valeurs.MoveNext())
-        if (std::string valeur = valeurs.texte(champ); !valeur.empty()) liste.AddItem(std::move(valeur));
-    liste.Text = enCours;
+        if (std::string valeur = valeurs.texte(champ); !valeur.empty()) textes.push_back(std::move(valeur));
+    liste.Items = std::move(textes);
+    liste.ListIndex = -1;
 }
 
 }  // namespace

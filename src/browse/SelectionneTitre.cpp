@@ -1,6 +1,7 @@
 #include "browse/SelectionneTitre.h"
 
 #include "browse/TreeView1.h"
+#include "db/Requete.h"
 #include "platform/dao/Comparaison.h"
 
 #include <cstdint>
@@ -10,6 +11,8 @@
 namespace browse {
 
 namespace {
+
+constexpr std::uint32_t kLignesParSouffle = 256;
 
 using Convient = std::function<bool(std::string_view)>;
 
@@ -23,12 +26,14 @@ Convient egalPourLaBase(const std::string& voulu) {
 }
 
 // The position of the first such film in the listing, 0 when it has none.
-std::uint32_t cherche(dao::Recordset& liste, const Convient& titreConvient, const Convient& realisateurConvient) {
+std::uint32_t cherche(const Contexte& c, const Convient& titreConvient, const Convient& realisateurConvient) {
+    dao::Recordset& liste = c.base.liste;
+    const dao::Souffle souffle = db::souffle(c);
     if (liste.RecordCount() < 1) return 0;
     const dao::Colonne titres = liste.colonne("Titre"), realisateurs = liste.colonne("Realisateur");
     std::uint32_t position = 0;
     for (liste.MoveFirst(); !liste.Eof(); liste.MoveNext()) {
-        ++position;
+        if (++position % kLignesParSouffle == 0) souffle();
         if (titreConvient(liste.vue(titres)) && realisateurConvient(liste.vue(realisateurs))) return position;
     }
     return 0;
@@ -42,9 +47,8 @@ void SelectionneTitre(const Contexte& c, db::CleFilm film) {
 
 // Nearly always the very texts are listed, and comparing bytes over a whole collection takes no time.
 int noeudDuFilm(const Contexte& c, const db::CleFilm& film) {
-    dao::Recordset& liste = c.base.liste;
-    std::uint32_t position = cherche(liste, memesOctets(film.titre), memesOctets(film.realisateur));
-    if (position == 0) position = cherche(liste, egalPourLaBase(film.titre), egalPourLaBase(film.realisateur));
+    std::uint32_t position = cherche(c, memesOctets(film.titre), memesOctets(film.realisateur));
+    if (position == 0) position = cherche(c, egalPourLaBase(film.titre), egalPourLaBase(film.realisateur));
     return position == 0 ? 0 : c.liste.TreeView1.Nodes.noeudDuFilm(position);
 }
 

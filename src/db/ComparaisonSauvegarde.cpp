@@ -1,4 +1,5 @@
 #include "db/Affiches.h"
+#include "db/Requete.h"
 #include "db/RetourASauvegarde.h"
 #include "platform/dao/Ecarts.h"
 #include "util/Nombres.h"
@@ -43,14 +44,15 @@ std::string comparaison(const Contexte& c, const Sauvegarde& copie) {
     std::string texte = "Sauvegarde du " + dateDe(copie) + ", avant : " + libelle(copie.nom.avant) + "\n    " +
                         decrit(dao::DBEngine::contenuDe(copie.chemin)) + "\nAujourd'hui\n    " +
                         decrit(dao::DBEngine::contenuDe(ici)) + "\n";
-    const dao::Ecarts films = dao::ecarts(copie.chemin, ici, "Films", "Titre", "Realisateur", kPremieres);
+    const dao::Ecarts films = dao::ecarts(copie.chemin, ici, "Films", "Titre", "Realisateur", kPremieres, souffle(c));
     if (sontVides(films)) texte += "\nLes films sont les mêmes.\n";
     ajoute(texte, films.seulementLa,
            {"# film n'est que dans la sauvegarde :", "# films ne sont que dans la sauvegarde :"});
     ajoute(texte, films.seulementIci,
            {"# film n'est que dans la base d'aujourd'hui :", "# films ne sont que dans la base d'aujourd'hui :"});
     ajoute(texte, films.differentes, {"# film a changé depuis :", "# films ont changé depuis :"});
-    const dao::Ecarts exemplaires = dao::ecarts(copie.chemin, ici, "Personnel", "Titre2", "Realisateur2", kPremieres);
+    const dao::Ecarts exemplaires =
+        dao::ecarts(copie.chemin, ici, "Personnel", "Titre2", "Realisateur2", kPremieres, souffle(c));
     if (sontVides(exemplaires)) texte += "\nLes exemplaires sont les mêmes.\n";
     ajoute(texte, exemplaires.seulementLa,
            {"# exemplaire n'est que dans la sauvegarde :", "# exemplaires ne sont que dans la sauvegarde :"});

@@ -2,6 +2,7 @@
 
 #include "db/BaseNeuve.h"
 #include "db/OuvertureJet.h"
+#include "db/Requete.h"
 #include "db/Schema.h"
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
@@ -91,6 +92,7 @@ void ouvreLaBase(const Contexte& c) {
 
 void reprendLaBase(const Contexte& c) {
     if (!ouvre(c, c.chemins.base, c.base)) throw systeme::FinDuProgramme{};
+    c.base.base.respireAvec(souffle(c));
     completeLesIndex(c.base.base);
     c.annulations.suisLaBase();
 }
@@ -101,6 +103,7 @@ bool rouvreLaBase(const Contexte& c) {
     c.base.ferme();
     c.base = std::move(nouvelle);
     c.annulations.oublie();
+    c.base.base.respireAvec(souffle(c));
     completeLesIndex(c.base.base);
     return true;
 }

@@ -32,7 +32,7 @@ namespace {
 dao::Recordset ouvreRequete(const Contexte& c, const std::string& enonce, NumeroErreur numero,
                             std::span<const std::string_view> portees) {
     try {
-        return c.base.base.OpenRecordset(enonce, portees, souffle(c));
+        return c.base.base.OpenRecordset(enonce, portees);
     } catch (const dao::ErreurDao& erreur) {
         echoue(c, numero, erreur);
     }
@@ -48,11 +48,11 @@ void parcourtTable(const Contexte& c, std::string_view table, std::span<const st
 }
 
 dao::Souffle souffle(const Contexte& c) {
-    static constexpr std::chrono::milliseconds kPatience{50};
-    return [&c, prochain = c.montre() + kPatience]() mutable {
-        if (c.montre() < prochain) return;
-        c.ecran.patiente();
-        prochain = c.montre() + kPatience;
+    static constexpr std::chrono::milliseconds kPatience{30};
+    return [&ecran = c.ecran, montre = c.montre, prochain = c.montre() + kPatience]() mutable {
+        if (montre() < prochain) return;
+        ecran.patiente();
+        prochain = montre() + kPatience;
     };
 }
 

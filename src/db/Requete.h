@@ -57,7 +57,8 @@ struct RequeteEchouee {
 void parcourtTable(const Contexte& c, std::string_view table, std::span<const std::string_view> colonnes,
                    NumeroErreur numero, const dao::Database::Recoit& recoit);
 
-// For what a command reads at length (dao::Database::OpenRecordset): lets the window live on, several times a second.
+// For what a command does at length, step by step: lets the window live on, several times a second. It is called as often
+// as one likes, with what the screen shows whole; the base, once open, calls it in all that it reads. The screen outlives it.
 [[nodiscard]] dao::Souffle souffle(const Contexte& c);
 
 }  // namespace db

@@ -127,7 +127,7 @@ RapportVersJet Envois::execute(double jour) {
     }
     refuseCeQuiNeTientPas();
     {
-        jet::Ecrivain ecrivain(m_destination, jour);
+        jet::Ecrivain ecrivain(m_destination, jour, [this] { m_ecran.patiente(); });
         const std::size_t films = ecrivain.table(m_films.ecrite), personnel = ecrivain.table(m_personnel.ecrite);
         ecrit(m_films, ecrivain, films);
         ecrit(m_personnel, ecrivain, personnel);

@@ -5,6 +5,7 @@
 #include "browse/LigneDuNoeud.h"
 #include "browse/RaffraichitBoitesDeroulantes.h"
 #include "db/EnonceFilm.h"
+#include "db/Requete.h"
 #include "db/Sauvegardes.h"
 #include "edit/LignePossession.h"
 #include "edit/TravailParLots.h"
@@ -30,9 +31,12 @@ std::vector<int> filmsCoches(const browse::VueArbre& vue) {
 // All of them before the first deletion: of two films of the same names, the one deleted for the other leaves its slot
 // unreadable. A film that is gone already is passed over.
 std::vector<db::CleFilm> lis(const Contexte& c, const std::vector<int>& noeuds) {
+    const dao::Souffle souffle = db::souffle(c);
     std::vector<db::CleFilm> films;
-    for (const int noeud : noeuds)
+    for (const int noeud : noeuds) {
+        souffle();
         if (auto film = filmDuNoeud(c, noeud)) films.push_back(std::move(*film));
+    }
     return films;
 }
 

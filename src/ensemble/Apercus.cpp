@@ -53,7 +53,9 @@ dao::Recordset ouvreLesFilms(const Contexte& c) {
 // Nearly every correction leaves a title equal for the base; only a rare letter makes another of it.
 std::vector<Collision> rencontres(const Contexte& c) {
     Rencontres rencontres;
+    const dao::Souffle souffle = db::souffle(c);
     for (dao::Recordset films = ouvreLesFilms(c); !films.Eof(); films.MoveNext()) {
+        souffle();
         const db::CleFilm film{films.texte("Titre"), films.texte("Realisateur")};
         rencontres.ajoute(film, util::metEnCapitales(film.titre));
     }

@@ -134,8 +134,9 @@ bool FiltreTitres::prepare(const Contexte& c, std::chrono::milliseconds duree) {
 
 bool FiltreTitres::tarderait(const Contexte& c) const {
     const browse::Arbre& arbre = c.liste.TreeView1.Nodes;
-    const bool lue = m_remplissage == arbre.remplissages() && lues() == m_lignes;
-    return !lue && c.base.liste.estOuvert() && c.base.liste.RecordCount() > kGrandeListe;
+    if (!c.base.liste.estOuvert()) return false;
+    const std::size_t connues = m_remplissage == arbre.remplissages() ? lues() : 0;
+    return c.base.liste.RecordCount() - static_cast<long>(connues) > kLuesDUnCoup;
 }
 
 void FiltreTitres::lit(const Contexte& c, std::size_t lignes) {

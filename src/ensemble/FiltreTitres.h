@@ -24,12 +24,13 @@ class FiltreTitres {
     static constexpr std::size_t kOctetsMax = std::size_t{128} << 20, kOctetsParChamp = 4096;
     // A listing of more films is read once the filter is about to be used, and not before.
     static constexpr long kGrandeListe = 200000;
+    static constexpr long kLuesDUnCoup = 10000;  // films that `filtre` reads without the window feeling it
 
     // Reads on, for about as long as said. True once all of the listing is read; `filtre` else reads the rest at once.
     // Throws dao::ErreurDao.
     bool prepare(const Contexte& c, std::chrono::milliseconds duree);
 
-    // Whether `filtre` would read a large listing first.
+    // Whether `filtre` would first read more than kLuesDUnCoup.
     [[nodiscard]] bool tarderait(const Contexte& c) const;
 
     // The films in which the text's words stand; all of them for a text without one. Throws dao::ErreurDao.
@@ -38,6 +39,7 @@ class FiltreTitres {
     // found again in a listing filled later, by title and director; in another base there is no limit.
     void limite(const Contexte& c, const std::vector<std::uint32_t>& lignes);
     void leveLaLimite();
+    void perime() { m_perimees = true; }  // until the next `filtre`
     [[nodiscard]] bool estLimite() const { return m_limites.has_value(); }
     [[nodiscard]] bool estPerime() const { return m_perimees; }  // what `filtre` answered is no longer so
 

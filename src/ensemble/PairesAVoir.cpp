@@ -9,6 +9,8 @@ namespace ensemble {
 
 namespace {
 
+constexpr long kLignesParSouffle = 256;
+
 using Presents = std::unordered_map<std::string, int>;
 
 std::string texteDe(const db::CleFilm& film) {
@@ -23,8 +25,12 @@ std::string texteDe(const Paire& paire) {
 Presents filmsPresents(const Contexte& c) {
     Presents presents;
     dao::Recordset films = db::ouvreRequete(c, "SELECT Titre, Realisateur FROM films", db::NumeroErreur::Ressemblances);
-    for (; !films.Eof(); films.MoveNext())
-        ++presents[texteDe(db::CleFilm{films.texte("Titre"), films.texte("Realisateur")})];
+    const dao::Colonne titre = films.colonne("Titre"), realisateur = films.colonne("Realisateur");
+    const dao::Souffle souffle = db::souffle(c);
+    for (long lus = 0; !films.Eof(); films.MoveNext()) {
+        if (++lus % kLignesParSouffle == 0) souffle();
+        ++presents[texteDe(db::CleFilm{std::string(films.vue(titre)), std::string(films.vue(realisateur))})];
+    }
     return presents;
 }
 

@@ -9,6 +9,7 @@
 #include "util/Texte.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <map>
 #include <set>
@@ -21,6 +22,9 @@ namespace {
 constexpr auto kNumero = db::NumeroErreur::Prets;
 constexpr const char* kPretes = "SELECT * FROM personnel WHERE Pret<>\"\" ORDER BY Pret ASC ;";
 constexpr const char* kReserves = "SELECT * FROM personnel WHERE Reserve<>\"\" ORDER BY Reserve ASC ;";
+
+constexpr std::array<std::string_view, 7> kPortees{"Titre2", "Realisateur2", "Pret",     "Reserve",
+                                                   "Date",   "Support",      "Rangement"};
 
 // Since when, counted in days up to today.
 class Anciennete {
@@ -54,7 +58,7 @@ Pret litPret(const dao::Recordset& lignes, const Anciennete& anciennete) {
 std::vector<Pret> lit(const Contexte& c, const char* enonce) {
     const Anciennete anciennete(c);
     std::vector<Pret> prets;
-    for (dao::Recordset lignes = db::ouvreRequete(c, enonce, kNumero); !lignes.Eof(); lignes.MoveNext())
+    for (dao::Recordset lignes = db::ouvreRequete(c, enonce, kNumero, kPortees); !lignes.Eof(); lignes.MoveNext())
         prets.push_back(litPret(lignes, anciennete));
     return prets;
 }

@@ -8,6 +8,8 @@
 #include "util/Texte.h"
 
 #include <algorithm>
+#include <array>
+#include <string_view>
 #include <unordered_set>
 #include <utility>
 
@@ -18,6 +20,11 @@ namespace {
 constexpr auto kNumero = db::NumeroErreur::QueRegarder;
 constexpr std::string_view kPossedes =
     "FROM Films INNER JOIN Personnel ON (Films.Titre = Personnel.Titre2 AND Films.realisateur=Personnel.realisateur2)";
+
+// Read with the rows: one by one they would be asked of the file each on its own.
+constexpr std::array<std::string_view, 9> kPortees{"Titre", "Realisateur", "Annee",     "Genre", "Duree",
+                                                   "Note",  "Support",     "Rangement", "Pret"};
+constexpr long kLignesParSouffle = 256;
 
 bool convient(const FilmPropose& film, const Envies& envies) {
     if (film.note < envies.noteAuMoins) return false;
@@ -49,8 +56,11 @@ std::string FilmPropose::texte() const {
 // Of a film owned twice, which another tool may have made, one copy at home is enough, and one chance.
 QueRegarder::QueRegarder(const Contexte& c, const Envies& envies, Hasard hasard) : m_hasard(std::move(hasard)) {
     std::unordered_set<std::string> connus;
-    dao::Recordset films = db::ouvreRequete(c, "SELECT * " + std::string(kPossedes) + " ORDER BY Titre ASC", kNumero);
-    for (; !films.Eof(); films.MoveNext()) {
+    dao::Recordset films =
+        db::ouvreRequete(c, "SELECT * " + std::string(kPossedes) + " ORDER BY Titre ASC", kNumero, kPortees);
+    const dao::Souffle souffle = db::souffle(c);
+    for (long lus = 0; !films.Eof(); films.MoveNext()) {
+        if (++lus % kLignesParSouffle == 0) souffle();
         if (!dao::egalJet(films.texte("Pret"), "")) continue;
         FilmPropose film{.film = {films.texte("Titre"), films.texte("Realisateur")},
                          .annee = films.texte("Annee"),

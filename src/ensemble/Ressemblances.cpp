@@ -1,5 +1,6 @@
 #include "ensemble/Ressemblances.h"
 
+#include "db/Requete.h"
 #include "edit/LettresAbregees.h"
 #include "edit/TitreDejaExistant_TestRessemblance.h"
 #include "ensemble/Avancement.h"
@@ -55,7 +56,9 @@ class Recherche {
         std::unordered_map<std::string, std::size_t> rangs;
         dao::Recordset films = edit::ouvreFilmsParTitre(m_c);
         const dao::Colonne titre = films.colonne("Titre"), realisateur = films.colonne("Realisateur");
+        const dao::Souffle souffle = db::souffle(m_c);
         for (; !films.Eof(); films.MoveNext()) {
+            if (m_films.size() % kLignesParSouffle == 0) souffle();
             std::string leTitre(films.vue(titre));
             std::string sien(films.vue(realisateur));
             const auto [place, nouveau] = rangs.try_emplace(sien, m_realisateurs.size());
@@ -68,8 +71,10 @@ class Recherche {
             m_films.push_back({std::move(leTitre), std::move(sien)});
         }
         const auto parLettres = [](const auto& a, const auto& b) { return a.lettres.total < b.lettres.total; };
-        for (Realisateur& sien : m_realisateurs)
+        for (Realisateur& sien : m_realisateurs) {
             std::stable_sort(sien.titres.begin(), sien.titres.end(), parLettres);
+            souffle();
+        }
         std::stable_sort(m_realisateurs.begin(), m_realisateurs.end(), parLettres);
     }
 
@@ -121,7 +126,7 @@ class Recherche {
         if (m_paires.size() > auPlus) m_paires.resize(auPlus);
     }
 
-    static constexpr std::size_t kBeaucoup = 1000;
+    static constexpr std::size_t kBeaucoup = 1000, kLignesParSouffle = 256;
 
     const Contexte& m_c;
     std::size_t m_auPlus;

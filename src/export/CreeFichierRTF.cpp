@@ -51,7 +51,7 @@ bool ecrit(const Contexte& c, const std::string& fichier, dao::Recordset& titres
     if (!parcourtLesFilms(titres, avancement, [&](const FilmDeLaListe& film) { texteBalise.ajoute(film); }))
         return false;
     const auto texte = metEnForme(c, std::move(texteBalise).texte());
-    return texte && ecritExport(c, fichier, texteriche::enRtf(*texte));
+    return texte && ecritExport(c, fichier, texteriche::enRtf(*texte, db::souffle(c)));
 }
 
 }  // namespace

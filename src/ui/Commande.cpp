@@ -24,6 +24,14 @@ Commande::Issue Commande::execute(const std::function<void()>& corps) {
     return issue;
 }
 
+void Commande::lis(const std::function<void()>& corps) {
+    if (m_enCours || m_finie) return;
+    m_enCours = true;
+    corps();
+    m_enCours = false;
+    emit lectureFinie();
+}
+
 Commande::Issue Commande::protege(const std::function<void()>& corps) {
     try {
         if (m_suites.vaCommencer) m_suites.vaCommencer();

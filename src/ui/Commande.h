@@ -27,6 +27,9 @@ class Commande : public QObject {
     void accompagne(Suites suites) { m_suites = std::move(suites); }
 
     Issue execute(const std::function<void()>& corps);
+    // What reads the base at length for a page: no command starts meanwhile, and the window lives on. It changes nothing
+    // of the state, and throws nothing.
+    void lis(const std::function<void()>& corps);
     void arrete() { m_finie = true; }  // no command runs any more
     [[nodiscard]] bool enCours() const { return m_enCours; }
     [[nodiscard]] bool finie() const { return m_finie; }  // none runs any more
@@ -35,6 +38,7 @@ class Commande : public QObject {
     void vaCommencer();  // before the widgets are read
     void terminee();     // after they show the state
     void finDuProgramme();
+    void lectureFinie();  // of `lis`: what waited for it may go on
 
   private:
     Issue protege(const std::function<void()>& corps);

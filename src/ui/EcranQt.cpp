@@ -2,13 +2,14 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QWidget>
 
 namespace ui {
 
 namespace {
 
-constexpr qint64 kEntreDeuxSouffles = 30;  // milliseconds
+constexpr std::chrono::milliseconds kEntreDeuxSouffles{30};
 
 bool estUneSaisie(QEvent::Type type) {
     switch (type) {
@@ -34,23 +35,33 @@ bool estUneSaisie(QEvent::Type type) {
 
 }  // namespace
 
+bool EcranQt::vientDeSouffler() const {
+    return m_souffle && m_montre() - *m_souffle < kEntreDeuxSouffles;
+}
+
 bool EcranQt::respire() {
-    if (m_depuisSouffle.isValid() && m_depuisSouffle.elapsed() < kEntreDeuxSouffles) return continuer();
-    m_liaison.ecrit();
+    if (vientDeSouffler()) return continuer();
     qApp->installEventFilter(this);
-    QCoreApplication::processEvents();
+    laisseVivre(QEventLoop::AllEvents);
     qApp->removeEventFilter(this);
-    m_depuisSouffle.start();
+    m_souffle = m_montre();
     return continuer();
 }
 
 void EcranQt::rafraichit() {
-    m_liaison.ecrit();
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    laisseVivre(QEventLoop::ExcludeUserInputEvents);
 }
 
+// What is painted may read the base, which asks for patience in its turn: that reading is short.
 void EcranQt::patiente() {
-    if (m_commandeEnCours && m_commandeEnCours()) rafraichit();
+    if (m_vit || vientDeSouffler() || !m_commandeEnCours || !m_commandeEnCours()) return;
+    rafraichit();
+}
+
+void EcranQt::laisseVivre(QEventLoop::ProcessEventsFlags quoi) {
+    const QScopedValueRollback vit(m_vit, true);
+    m_liaison.ecrit();
+    QCoreApplication::processEvents(quoi);
 }
 
 void EcranQt::debutTravail() {
@@ -62,7 +73,7 @@ void EcranQt::debutTravail() {
 void EcranQt::finTravail() {
     if (--m_travaux > 0) return;
     m_arretDemande = false;
-    m_depuisSouffle.invalidate();
+    m_souffle.reset();
     emit travailFini();
 }
 

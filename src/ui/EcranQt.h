@@ -1,12 +1,15 @@
 #pragma once
 
 #include "platform/ecran/Ecran.h"
+#include "platform/systeme/Montre.h"
 #include "ui/Liaison.h"
 
-#include <QElapsedTimer>
+#include <QEventLoop>
 #include <QList>
 #include <QObject>
+#include <chrono>
 #include <functional>
+#include <optional>
 #include <utility>
 
 namespace ui {
@@ -16,7 +19,8 @@ namespace ui {
 class EcranQt final : public QObject, public ecran::Ecran {
     Q_OBJECT
   public:
-    explicit EcranQt(Liaison& liaison) : m_liaison(liaison) {}
+    explicit EcranQt(Liaison& liaison, systeme::Montre montre = std::chrono::steady_clock::now)
+        : m_liaison(liaison), m_montre(std::move(montre)) {}
 
     bool respire() override;
     void rafraichit() override;
@@ -39,13 +43,17 @@ class EcranQt final : public QObject, public ecran::Ecran {
     void travailFini();
 
   private:
+    [[nodiscard]] bool vientDeSouffler() const;
+    void laisseVivre(QEventLoop::ProcessEventsFlags quoi);
     [[nodiscard]] bool continuer() const { return !m_arretDemande && !m_finDemandee; }
 
     Liaison& m_liaison;
     std::function<bool()> m_commandeEnCours;
     QList<QObject*> m_admis;
-    QElapsedTimer m_depuisSouffle;
-    int m_travaux = 0;  // works may lie within one another
+    const systeme::Montre m_montre;
+    std::optional<std::chrono::steady_clock::time_point> m_souffle;  // the last one of the work under way
+    int m_travaux = 0;                                               // works may lie within one another
+    bool m_vit = false;                                              // the window shows the state, or handles events
     bool m_arretDemande = false;
     bool m_finDemandee = false;
 };

@@ -185,6 +185,9 @@ void FenetrePrincipale::suitLesCommandes() {
     m_atelier.commande.accompagne({[this] { m_atelier.session.vaCommencer(); },
                                    [this](const std::string& raison) { m_atelier.session.expliqueEchec(raison); }});
     connect(&m_atelier.commande, &Commande::terminee, this, &FenetrePrincipale::executeDemandes);
+    connect(&m_atelier.commande, &Commande::lectureFinie, this, [this] {
+        if (std::exchange(m_fermetureDemandee, false)) QTimer::singleShot(0, this, &QWidget::close);
+    });
     const auto menuDuNoeud = [this](int indice, const QPoint& endroit) {
         m_endroitMenu = endroit;
         m_atelier.execute(app::TreeView1_MouseUpDroit, indice);

@@ -31,16 +31,21 @@ void PageCollection::suis() {
 
 // A command that began meanwhile has the base for itself; its end asks again.
 void PageCollection::relisSiPerimee() {
+    if (m_atelier.commande.enCours())
+        connect(&m_atelier.commande, &Commande::lectureFinie, this, &PageCollection::suis,
+                static_cast<Qt::ConnectionType>(Qt::UniqueConnection));
     if (!isVisible() || m_atelier.commande.enCours() || m_atelier.commande.finie()) return;
     m_atelier.session.regarde([this](const app::Contexte& c) {
         const Lecture lecture = Lecture::de(c);
         if (std::exchange(m_lu, lecture) == lecture) return;
-        try {
-            ditPourquoi({});
-            relis(c);
-        } catch (const std::exception&) {
-            ditPourquoi(tr("La base ne peut pas être lue pour le moment."));
-        }
+        m_atelier.commande.lis([&] {
+            try {
+                ditPourquoi({});
+                relis(c);
+            } catch (const std::exception&) {
+                ditPourquoi(tr("La base ne peut pas être lue pour le moment."));
+            }
+        });
     });
 }
 

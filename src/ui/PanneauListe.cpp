@@ -133,7 +133,8 @@ QWidget* PanneauListe::filtreVide() {
     m_atelier.liaison.apresEcriture([=, this] {
         const app::Etats& etats = m_atelier.etats();
         const ModeleArbre& modele = m_titres->modele();
-        cadre->setVisible(modele.estFiltre() && modele.rowCount() == 0 && etats.liste.TreeView1.Nodes.Count() > 0);
+        cadre->setVisible(modele.estFiltre() && modele.rowCount() == 0 && etats.liste.TreeView1.Nodes.Count() > 0 &&
+                          !etats.filtre.titres.estPerime());
         if (cadre->isVisibleTo(this)) texte->setText(QString::fromStdString(app::raisonDuFiltreVide(etats.filtre)));
     });
     return cadre;
@@ -194,7 +195,9 @@ void PanneauListe::suisLesMarques() {
 
 void PanneauListe::prepareLesMarques() {
     if (m_atelier.commande.enCours()) return;  // its end comes here again
-    if (m_atelier.session.regarde(browse::suisLesMarques, kTranche))
+    bool lues = false;
+    m_atelier.commande.lis([&] { lues = m_atelier.session.regarde(browse::suisLesMarques, kTranche); });
+    if (lues)
         emit marquesLues();
     else
         m_marques.start(0);

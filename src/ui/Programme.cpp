@@ -18,12 +18,12 @@ Service& choisi(Service* deTest, Service& reel) {
 
 Programme::Programme(const std::string& dossier, const Services& services)
     : m_boites(m_liaison),
-      m_ecran(m_liaison),
+      m_ecran(m_liaison, services.montre),
       m_session(app::Machine{choisi<dialogues::Dialogues>(services.dialogues, m_boites), m_ecran, m_images,
                              choisi<systeme::Horloge>(services.horloge, m_horloge),
                              choisi<systeme::Documents>(services.documents, m_documents),
                              choisi<systeme::Programmes>(services.programmes, m_programmes),
-                             choisi<systeme::Volumes>(services.volumes, m_volumes), dossier}),
+                             choisi<systeme::Volumes>(services.volumes, m_volumes), dossier, services.montre}),
       m_commande(m_liaison, choisi<dialogues::Dialogues>(services.dialogues, m_boites)),
       m_fenetre(Atelier{m_session, m_liaison, m_commande, m_images, m_ecran}) {
     m_boites.metParent(&m_fenetre);
@@ -33,6 +33,9 @@ Programme::Programme(const std::string& dossier, const Services& services)
         QCoreApplication::quit();
     });
     QObject::connect(&m_commande, &Commande::terminee, &m_fenetre, [this] {
+        if (m_termine) finis();
+    });
+    QObject::connect(&m_commande, &Commande::lectureFinie, &m_fenetre, [this] {
         if (m_termine) finis();
     });
     QObject::connect(&m_ecran, &EcranQt::travailCommence, &m_fenetre, [this] { montreTravail(); });

@@ -3,6 +3,7 @@
 #include "app/Session.h"
 #include "platform/systeme/Documents.h"
 #include "platform/systeme/Horloge.h"
+#include "platform/systeme/Montre.h"
 #include "platform/systeme/Programmes.h"
 #include "platform/systeme/Volumes.h"
 #include "ui/Commande.h"
@@ -27,6 +28,7 @@ class Programme {
         systeme::Documents* documents = nullptr;
         systeme::Programmes* programmes = nullptr;
         systeme::Volumes* volumes = nullptr;
+        systeme::Montre montre = std::chrono::steady_clock::now;
     };
 
     explicit Programme(const std::string& dossier) : Programme(dossier, Services{}) {}

@@ -62,8 +62,9 @@ class ProgrammeDEssai {
     }
 
     void demarre() {
-        programme.emplace(dossier.chemin(), ui::Programme::Services{vraiesBoites ? nullptr : &boites, &horloge,
-                                                                    &documents, vrais ? vrais : &programmes, &volumes});
+        programme.emplace(dossier.chemin(),
+                          ui::Programme::Services{vraiesBoites ? nullptr : &boites, &horloge, &documents,
+                                                  vrais ? vrais : &programmes, &volumes, montre});
         ASSERT_TRUE(programme->demarre());
         ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre(), kPatience));
         // The panels behind the first page are built after the first painting.
@@ -130,6 +131,7 @@ class ProgrammeDEssai {
     doubles::ProgrammesSimules programmes;
     systeme::Programmes* vrais = nullptr;  // really start programs, in the place of those
     doubles::VolumesSimules volumes;
+    systeme::Montre montre = std::chrono::steady_clock::now;
     bool vraiesBoites = false;  // Qt's, in the place of those
     std::optional<ui::Programme> programme;
 };

@@ -3,6 +3,7 @@
 #include "platform/dao/Database.h"
 #include "platform/dao/Enregistrement.h"
 #include "platform/dao/Poignee.h"
+#include "platform/dao/Souffle.h"
 #include "platform/dao/Table.h"
 
 #include <cstdint>
@@ -71,6 +72,13 @@ class Connexion {
     // As after another program's change.
     void relisToutesLesLignes();
 
+    // Between two rows of whatever is read at length (Database::respireAvec).
+    void respireAvec(Souffle souffle) { m_souffle = std::move(souffle); }
+    void respire() {
+        if (m_souffle) m_souffle();
+    }
+    [[nodiscard]] const Souffle& souffle() const { return m_souffle; }
+
     void inscrit(Jeu& jeu) { m_jeux.push_back(&jeu); }
     void desinscrit(Jeu& jeu) { std::erase(m_jeux, &jeu); }
 
@@ -97,6 +105,7 @@ class Connexion {
     std::uint64_t m_epoque = 0;
     std::uint64_t m_version = 0;
     long long m_versionDuFichier = 0;
+    Souffle m_souffle;
     std::unique_ptr<Enregistreur> m_enregistreur;
     bool m_dejaEnregistree = false;
 };

@@ -36,13 +36,17 @@ Database::Database(Database&&) noexcept = default;
 Database& Database::operator=(Database&&) noexcept = default;
 Database::~Database() = default;
 
-Recordset Database::OpenRecordset(std::string_view source, std::span<const std::string_view> portees,
-                                  const Souffle& souffle) {
+Recordset Database::OpenRecordset(std::string_view source, std::span<const std::string_view> portees) {
     interne::Connexion& connexion = ouverte(m_connexion);
+    connexion.respire();
     connexion.veille();
     if (estUnNom(source)) return Recordset(std::make_unique<interne::JeuVivant>(connexion, connexion.table(source)));
     const interne::Plan plan = interne::planifie(connexion, interne::analyseEnonce(source), portees);
-    return Recordset(std::make_unique<interne::JeuDeCles>(connexion, plan, interne::execute(connexion, plan, souffle)));
+    return Recordset(std::make_unique<interne::JeuDeCles>(connexion, plan, interne::execute(connexion, plan)));
+}
+
+void Database::respireAvec(Souffle souffle) {
+    ouverte(m_connexion).respireAvec(std::move(souffle));
 }
 
 void Database::parcourt(std::string_view table, std::span<const std::string_view> colonnes, const Recoit& recoit,

@@ -42,8 +42,10 @@ class Database {
     // Jet's text comparison. Throws ErreurDao 3075 (syntax), 3061 (unknown column), 3078 (unknown table), or a disk error.
     // `portees` are columns that a keyset keeps with its records, as it keeps those that order them: `vue` of one then asks
     // nothing of the file as long as nobody changes the row. A table without one of them does without.
-    [[nodiscard]] Recordset OpenRecordset(std::string_view source, std::span<const std::string_view> portees = {},
-                                          const Souffle& souffle = {});
+    [[nodiscard]] Recordset OpenRecordset(std::string_view source, std::span<const std::string_view> portees = {});
+
+    // What every reading of this base calls from now on, every few rows and never amid a change of a row.
+    void respireAvec(Souffle souffle);
 
     // Hands every row of a table to `recoit`, in no order: its id and the texts of these columns, "" for Null, which stand
     // until it returns. Nothing is kept, which a recordset does. Throws ErreurDao 3078, 3061, or a disk error.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/dao/Souffle.h"
+
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -21,8 +23,9 @@ struct Ecarts {
 
 // Rows are the same one where Jet's comparison holds both columns for equal; of several, those that come first go
 // together. Values are compared as they are written, posters in the base by their size. Both bases are only read. Throws
-// ErreurDao.
+// ErreurDao. `souffle` is called between two rows.
 [[nodiscard]] Ecarts ecarts(const std::string& la, const std::string& ici, const std::string& table,
-                            const std::string& titre, const std::string& realisateur, std::size_t premieres);
+                            const std::string& titre, const std::string& realisateur, std::size_t premieres,
+                            const Souffle& souffle = {});
 
 }  // namespace dao

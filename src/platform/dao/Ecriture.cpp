@@ -32,8 +32,11 @@ void construitIndex(Connexion& connexion, Table& table) {
     IndexDeCles& index = table.suivi.index;
     index.commence();
     try {
-        while (lecture.avance())
+        constexpr long long kLignesParSouffle = 256;
+        for (long long lignes = 1; lecture.avance(); ++lignes) {
             index.range(hachageDeColonnes(lecture, 1), lecture.entier(0));
+            if (lignes % kLignesParSouffle == 0) connexion.respire();
+        }
         index.acheve();
     } catch (...) {
         index.oublie();

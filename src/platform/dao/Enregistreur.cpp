@@ -135,6 +135,7 @@ Releve releve(Connexion& connexion, const Depot& depot, const Morceau& morceau) 
     std::optional<Identites> identites;  // changes come table by table
     while (code == SQLITE_OK && (code = sqlite3changeset_next(brut)) == SQLITE_ROW) {
         code = SQLITE_OK;
+        connexion.respire();
         const LigneChangee ligne = ligneDe(connexion, brut);
         ++resultat.lignes;
         if (ligne.operation != SQLITE_UPDATE) {

@@ -85,6 +85,7 @@ std::optional<RangChamp> Jeu::rangDeParcours(std::string_view nom) {
 }
 
 Valeur Jeu::litDansLaBase(ChampDeJeu champ, long long ligne) const {
+    connexion().respire();
     return litChamp(connexion(), table(champ.table), champ.colonne, ligne);
 }
 

@@ -43,6 +43,7 @@ std::size_t LectureDAvance::combienDepuis(long position) const {
 
 void LectureDAvance::lit(long debut, const std::vector<std::optional<long long>>& lignes, Connexion& connexion,
                          const Table& table) {
+    connexion.respire();
     const Regard regard(connexion);
     const std::string sql = enonce(table, m_colonnes);
     std::string tampon;

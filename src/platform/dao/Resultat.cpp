@@ -22,10 +22,10 @@ namespace {
 
 class Execution {
   public:
-    Execution(Connexion& connexion, const Plan& plan, const Souffle& souffle) : m_connexion(connexion), m_plan(plan) {
-        if (souffle) {
-            m_souffle = [&souffle] {
-                souffle();
+    Execution(Connexion& connexion, const Plan& plan) : m_connexion(connexion), m_plan(plan) {
+        if (connexion.souffle()) {
+            m_souffle = [&connexion] {
+                connexion.respire();
                 rendsRegistresLarges();  // who paints uses them
             };
         }
@@ -56,7 +56,7 @@ class Execution {
     const TableDuPlan& premiere() const { return m_plan.tables[kPremiere]; }
 
     void respire() {
-        constexpr unsigned kLignesParSouffle = 4096;
+        constexpr unsigned kLignesParSouffle = 256;
         if (m_souffle && ++m_lignesLues % kLignesParSouffle == 0) m_souffle();
     }
 
@@ -359,9 +359,9 @@ class Execution {
 
 }  // namespace
 
-Resultat execute(Connexion& connexion, const Plan& plan, const Souffle& souffle) {
+Resultat execute(Connexion& connexion, const Plan& plan) {
     rendsRegistresLarges();
-    return Execution(connexion, plan, souffle).resultat();
+    return Execution(connexion, plan).resultat();
 }
 
 }  // namespace dao::interne

@@ -2,7 +2,6 @@
 
 #include "platform/dao/Magasin.h"
 #include "platform/dao/Plan.h"
-#include "platform/dao/Souffle.h"
 
 #include <vector>
 
@@ -14,6 +13,6 @@ struct Resultat {
     Par<RangTable, std::vector<RangLigne>> lignes{};
 };
 
-[[nodiscard]] Resultat execute(Connexion& connexion, const Plan& plan, const Souffle& souffle = {});
+[[nodiscard]] Resultat execute(Connexion& connexion, const Plan& plan);
 
 }  // namespace dao::interne

@@ -195,7 +195,8 @@ std::uint64_t octetsAilleurs(TypeEcrit type, std::string_view texte) {
 
 class Ecrivain::Interieur {
   public:
-    Interieur(const std::string& chemin, double jour) : m_fichier(chemin), m_jour(jour) {
+    Interieur(const std::string& chemin, double jour, std::function<void()> souffle)
+        : m_fichier(chemin, std::move(souffle)), m_jour(jour) {
         const std::vector<TableDuSysteme> tables = tablesDuSysteme();
         while (m_fichier.nombre() < kPremiereTable + tables.size())
             (void)m_fichier.nouvelle();
@@ -353,7 +354,8 @@ std::vector<IndexOmis> Ecrivain::Interieur::acheve() {
     return std::move(m_omis);
 }
 
-Ecrivain::Ecrivain(const std::string& chemin, double jour) : m_interieur(std::make_unique<Interieur>(chemin, jour)) {}
+Ecrivain::Ecrivain(const std::string& chemin, double jour, std::function<void()> souffle)
+    : m_interieur(std::make_unique<Interieur>(chemin, jour, std::move(souffle))) {}
 Ecrivain::~Ecrivain() = default;
 
 std::size_t Ecrivain::table(const TableEcrite& table) {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -59,8 +60,9 @@ struct TexteDit {
 // cannot be written or would be too large; nothing of it is of use then, as before `acheve`.
 class Ecrivain {
   public:
-    // The file stands there, empty. `jour`: of creation, in days since 30 December 1899.
-    Ecrivain(const std::string& chemin, double jour);
+    // The file stands there, empty. `jour`: of creation, in days since 30 December 1899. `souffle` is called now and then
+    // in whatever lasts.
+    Ecrivain(const std::string& chemin, double jour, std::function<void()> souffle = {});
     Ecrivain(const Ecrivain&) = delete;
     Ecrivain& operator=(const Ecrivain&) = delete;
     ~Ecrivain();

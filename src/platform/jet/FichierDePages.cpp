@@ -3,6 +3,8 @@
 #include "platform/jet/EcrivainJet.h"
 #include "platform/jet/OctetsEcrits.h"
 
+#include <utility>
+
 namespace jet::interne {
 
 namespace {
@@ -11,7 +13,8 @@ constexpr std::size_t kTampon = 1 << 20;
 
 }  // namespace
 
-FichierDePages::FichierDePages(const std::string& chemin) : m_chemin(chemin), m_tampon(kTampon) {
+FichierDePages::FichierDePages(const std::string& chemin, std::function<void()> souffle)
+    : m_chemin(chemin), m_souffle(std::move(souffle)), m_tampon(kTampon) {
     m_flux.rdbuf()->pubsetbuf(m_tampon.data(), static_cast<std::streamsize>(m_tampon.size()));
     m_flux.open(chemin, std::ios::binary | std::ios::in | std::ios::out);
     if (!m_flux) echoue();
@@ -28,6 +31,7 @@ void FichierDePages::ecrit(std::uint32_t numero, std::string_view page) {
     m_flux.write(page.data(), static_cast<std::streamsize>(page.size()));
     m_place = numero + 1;
     if (!m_flux) echoue();
+    if (m_souffle) m_souffle();
 }
 
 void FichierDePages::ferme() {

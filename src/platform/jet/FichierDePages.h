@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <fstream>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,7 +12,8 @@ namespace jet::interne {
 // A Jet 4 file in the making: pages that are given numbers, then written in any order. Throws ErreurJet.
 class FichierDePages {
   public:
-    explicit FichierDePages(const std::string& chemin);  // of a file that stands there, and is empty
+    // Of a file that stands there, and is empty. `souffle` is called between two pages.
+    explicit FichierDePages(const std::string& chemin, std::function<void()> souffle = {});
 
     [[nodiscard]] std::uint32_t nouvelle();  // the next page's number; every page is to be written in the end
     void ecrit(std::uint32_t numero, std::string_view page);
@@ -22,6 +24,7 @@ class FichierDePages {
     [[noreturn]] void echoue() const;
 
     std::string m_chemin;
+    std::function<void()> m_souffle;
     std::vector<char> m_tampon;
     std::ofstream m_flux;
     std::uint32_t m_nombre = 0;

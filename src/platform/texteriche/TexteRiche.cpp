@@ -35,7 +35,7 @@ std::size_t rangDans(std::vector<Valeur>& table, const Valeur& valeur) {
 class Redacteur {
   public:
     explicit Redacteur(const TexteRiche& texte);
-    [[nodiscard]] std::string redige();
+    [[nodiscard]] std::string redige(const std::function<void()>& souffle);
 
   private:
     // A style by its numbers in the document's tables.
@@ -106,11 +106,13 @@ Redacteur::Aspect Redacteur::aspectDe(const Style& style) {
             style.souligne};
 }
 
-std::string Redacteur::redige() {
+std::string Redacteur::redige(const std::function<void()>& souffle) {
     m_rtf.reserve(m_texte.texte.size() + m_texte.texte.size() / 2 + 1024);
     ecritTables();
-    for (const Passage& passage : m_texte.passages)
+    for (const Passage& passage : m_texte.passages) {
         ecritPassage(passage.fin, passage.style);
+        if (souffle) souffle();
+    }
     ecritPassage(m_texte.texte.size(), m_texte.styles.size());
     m_rtf += "}\r\n";
     return std::move(m_rtf);
@@ -230,8 +232,8 @@ void Redacteur::prendAspect(const Aspect& aspect) {
 
 }  // namespace
 
-std::string enRtf(const TexteRiche& texte) {
-    return Redacteur(texte).redige();
+std::string enRtf(const TexteRiche& texte, const std::function<void()>& souffle) {
+    return Redacteur(texte).redige(souffle);
 }
 
 }  // namespace texteriche
