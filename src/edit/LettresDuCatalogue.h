@@ -2,7 +2,7 @@
 
 #include "edit/Contexte.h"
 #include "edit/FilmExamine.h"
-#include "edit/NomsDistincts.h"
+#include "util/NomsDistincts.h"
 #include "util/Similarite.h"
 
 #include <array>
@@ -72,7 +72,7 @@ class LettresDuCatalogue {
     std::vector<Titre> m_titres;
     std::vector<Titres> m_parRealisateur;
     std::vector<std::uint32_t> m_derniers;  // of each director, in m_parRealisateur
-    NomsDistincts m_realisateurs;
+    util::NomsDistincts m_realisateurs;
     std::map<std::uint32_t, DeMemeTotal> m_parLettres;  // directors, by their letters
 };
 

@@ -33,11 +33,12 @@ class NomEmprunte {
 std::optional<texteriche::TexteRiche> metEnForme(const Contexte& c, std::string texteBalise) {
     MiseEnForme miseEnForme(std::move(texteBalise));
     c.nom.lblNom1.Caption = "Formatage";
+    const std::function<void()> souffle = db::souffle(c);
     for (const Balise& balise : kBalises) {
         c.nom.lblNom2.Caption = balise.nom;
         c.ecran.rafraichit();
         if (!c.ecran.respire()) return std::nullopt;
-        miseEnForme.applique(balise);
+        miseEnForme.applique(balise, souffle);
     }
     return std::move(miseEnForme).resultat();
 }

@@ -4,6 +4,7 @@
 #include "platform/texteriche/TexteRiche.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -23,8 +24,8 @@ class MiseEnForme {
     // The text as it is loaded: the default style on the left, each line end made a LF.
     explicit MiseEnForme(std::string texteBalise);
 
-    // In a time that grows as the text does.
-    void applique(const Balise& balise);
+    // In a time that grows as the text does; `souffle` is called on the way.
+    void applique(const Balise& balise, const std::function<void()>& souffle = {});
     [[nodiscard]] texteriche::TexteRiche resultat() &&;
 
   private:

@@ -4,6 +4,7 @@
 #include "platform/dao/ErreurDao.h"
 #include "platform/systeme/FinDuProgramme.h"
 
+#include <QScopedValueRollback>
 #include <exception>
 #include <new>
 
@@ -26,9 +27,10 @@ Commande::Issue Commande::execute(const std::function<void()>& corps) {
 
 void Commande::lis(const std::function<void()>& corps) {
     if (m_enCours || m_finie) return;
-    m_enCours = true;
-    corps();
-    m_enCours = false;
+    {
+        const QScopedValueRollback enCours(m_enCours, true);
+        corps();
+    }
     emit lectureFinie();
 }
 

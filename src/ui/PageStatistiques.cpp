@@ -115,7 +115,7 @@ void PageStatistiques::relis(const app::Contexte& c) {
     m_diagrammes.clear();
     m_comptee = Lecture::de(c);
     m_comptage.emplace(c);
-    compteLaSuite();
+    QTimer::singleShot(0, this, &PageStatistiques::compteLaSuite);  // once this reading is over
 }
 
 void PageStatistiques::compteLaSuite() {
@@ -138,10 +138,11 @@ void PageStatistiques::compteLaSuite() {
     if (m_comptage) QTimer::singleShot(0, this, &PageStatistiques::compteLaSuite);
 }
 
-// The next look at the page counts what is there then.
+// What runs comes first; after it the page counts what is there then.
 void PageStatistiques::recommence() {
     m_comptage.reset();
     perime();
+    suis();
 }
 
 const ensemble::Diagramme* PageStatistiques::diagramme() const {

@@ -21,6 +21,7 @@ namespace {
 
 constexpr std::chrono::milliseconds kTranche{4};  // of idle time
 constexpr int kApresLaPeinture = 100;             // milliseconds: what is behind the first page comes first
+constexpr int kPendantUneCommande = 50;           // until the next try
 constexpr int kDeuxListes = 280;                  // the width from which zone and sort stand side by side
 
 }  // namespace
@@ -194,7 +195,8 @@ void PanneauListe::suisLesMarques() {
 }
 
 void PanneauListe::prepareLesMarques() {
-    if (m_atelier.commande.enCours()) return;  // its end comes here again
+    if (m_atelier.commande.finie()) return;
+    if (m_atelier.commande.enCours()) return m_marques.start(kPendantUneCommande);
     bool lues = false;
     m_atelier.commande.lis([&] { lues = m_atelier.session.regarde(browse::suisLesMarques, kTranche); });
     if (lues)

@@ -15,6 +15,7 @@ namespace {
 std::size_t place(std::string_view texte, std::size_t places) {
     std::uint64_t debut = 0, fin = 0;
     const std::size_t octets = std::min(texte.size(), sizeof debut);
+    if (octets == 0) return 0;
     std::memcpy(&debut, texte.data(), octets);
     std::memcpy(&fin, texte.data() + texte.size() - octets, octets);
     return ((debut * 3 + fin + texte.size()) * 0x9e3779b97f4a7c15ULL >> 40) % places;
@@ -23,12 +24,9 @@ std::size_t place(std::string_view texte, std::size_t places) {
 }  // namespace
 
 std::uint32_t Groupes::numero(std::string_view texte) {
-    Recent& recent = m_recents[place(texte, m_recents.size())];
-    if (recent.numero != kNul && recent.texte == texte) return recent.numero;
-    auto connu = m_connus.find(texte);
-    if (connu == m_connus.end()) connu = m_connus.emplace(texte, static_cast<std::uint32_t>(m_connus.size() + 1)).first;
-    recent = {connu->first, connu->second};
-    return connu->second;
+    std::uint32_t& recent = m_recents[place(texte, m_recents.size())];
+    if (recent == kNul || m_connus.nom(recent - 1) != texte) recent = m_connus.rang(texte) + 1;
+    return recent;
 }
 
 void Groupes::ajouteNombre(double nombre) {
@@ -38,25 +36,24 @@ void Groupes::ajouteNombre(double nombre) {
 }
 
 // By number, the rank of each group; values that Jet holds for equal have one.
-std::vector<std::uint32_t> Groupes::ordreDesGroupes(std::uint32_t& nombre) {
-    std::vector<std::string_view> textes(m_connus.size() + 1);
-    for (const auto& [texte, numero] : m_connus)
-        textes[numero] = texte;
+std::vector<std::uint32_t> Groupes::ordreDesGroupes(std::uint32_t& nombre, const Souffle& souffle) {
+    const auto groupes = static_cast<std::uint32_t>(m_connus.taille());
     Ordre cles;
+    cles.ajoute({});  // of Null
     std::string cle;
-    for (const std::string_view texte : textes) {
+    for (std::uint32_t rang = 0; rang < groupes; ++rang) {
         cle.clear();
         if (m_clesPretes) {
-            cle = texte;
-        } else if (texte.data() != nullptr) {
-            ajouteCleJet(texte, cle);
+            cle = m_connus.nom(rang);
+        } else {
+            ajouteCleJet(m_connus.nom(rang), cle);
         }
         cles.ajoute(cle);
     }
-    std::vector<std::uint32_t> ordre(textes.size());
+    std::vector<std::uint32_t> ordre(groupes + std::size_t{1});
     nombre = 0;
     std::uint32_t precedent = kNul;
-    for (const std::uint32_t numero : cles.rangs(std::less<>())) {
+    for (const std::uint32_t numero : cles.rangs(std::less<>(), souffle)) {
         if (cles.cle(numero) != cles.cle(precedent)) ++nombre;
         ordre[precedent = numero] = nombre;
     }
@@ -64,9 +61,10 @@ std::vector<std::uint32_t> Groupes::ordreDesGroupes(std::uint32_t& nombre) {
     return ordre;
 }
 
-std::vector<std::uint32_t> Groupes::range(std::span<const std::uint32_t> rangs, std::vector<std::uint32_t>& fins) {
+std::vector<std::uint32_t> Groupes::range(std::span<const std::uint32_t> rangs, std::vector<std::uint32_t>& fins,
+                                          const Souffle& souffle) {
     std::uint32_t nombre = 0;
-    const std::vector<std::uint32_t> ordre = ordreDesGroupes(nombre);
+    const std::vector<std::uint32_t> ordre = ordreDesGroupes(nombre, souffle);
     fins.assign(nombre, 0);
     for (std::uint32_t& numero : m_numeros)
         ++fins[numero = ordre[numero]];

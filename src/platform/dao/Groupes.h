@@ -1,15 +1,14 @@
 #pragma once
 
 #include "platform/dao/AccesValeur.h"
+#include "platform/dao/Souffle.h"
 #include "platform/dao/Tampon.h"
+#include "util/NomsDistincts.h"
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <span>
-#include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace dao::interne {
@@ -26,25 +25,17 @@ class Groupes {
     // the values, Null first; those of one group stay as they were. Where each group ends stands in `fins`. What was added
     // is forgotten.
     [[nodiscard]] std::vector<std::uint32_t> range(std::span<const std::uint32_t> rangs,
-                                                   std::vector<std::uint32_t>& fins);
+                                                   std::vector<std::uint32_t>& fins, const Souffle& souffle = {});
 
   private:
     static constexpr std::uint32_t kNul = 0;
-    struct Hachage {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view cle) const { return std::hash<std::string_view>{}(cle); }
-    };
-    struct Recent {
-        std::string_view texte{};  // of m_connus
-        std::uint32_t numero = kNul;
-    };
     [[nodiscard]] std::uint32_t numero(std::string_view texte);
-    [[nodiscard]] std::vector<std::uint32_t> ordreDesGroupes(std::uint32_t& nombre);
+    [[nodiscard]] std::vector<std::uint32_t> ordreDesGroupes(std::uint32_t& nombre, const Souffle& souffle);
 
-    std::unordered_map<std::string, std::uint32_t, Hachage, std::equal_to<>> m_connus;  // from 1; Null is 0
-    std::array<Recent, 256> m_recents;                                                  // met lately
-    Tampon<std::uint32_t> m_numeros;                                                    // of each row
-    bool m_clesPretes = false;                                                          // numbers: their keys are known
+    util::NomsDistincts m_connus;                // numbered from 0, a row's number being one more
+    std::array<std::uint32_t, 256> m_recents{};  // numbers met lately; kNul: none
+    Tampon<std::uint32_t> m_numeros;             // of each row
+    bool m_clesPretes = false;                   // numbers: their keys are known
 };
 
 }  // namespace dao::interne

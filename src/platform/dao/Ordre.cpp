@@ -19,7 +19,7 @@ std::uint64_t octets(std::string_view cle, std::size_t debut) {
     return lus;
 }
 
-// As std::sort, with a breath between parts of a few milliseconds.
+// In runs, which what comes nearly in order is made of, with a breath between parts of a few milliseconds.
 void trie(auto* debut, auto* fin, const auto& avant, const Souffle& souffle) {
     while (souffle && fin - debut > kMorceau) {
         auto* const milieu = debut + (fin - debut) / 2;
@@ -28,7 +28,7 @@ void trie(auto* debut, auto* fin, const auto& avant, const Souffle& souffle) {
         trie(debut, milieu, avant, souffle);
         debut = milieu;
     }
-    std::sort(debut, fin, avant);
+    std::stable_sort(debut, fin, avant);
     if (souffle) souffle();
 }
 

@@ -25,7 +25,7 @@ class Pas {
 
 using Rangs = std::span<std::uint32_t>;
 
-constexpr std::size_t kBloc = 1 << 14;
+constexpr std::size_t kBloc = 1 << 16;
 
 // How many rows at the end do not precede that row; looked for from there.
 std::size_t combienApres(std::span<const std::uint32_t> rangs, std::uint32_t rang, const Ordre::Precede& precede) {

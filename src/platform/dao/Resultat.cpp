@@ -305,7 +305,7 @@ class Execution {
         }
         std::vector<std::uint32_t> rangs = m_presque.rangs(m_souffle);
         std::vector<std::uint32_t> fins{static_cast<std::uint32_t>(rangs.size())};
-        if (m_groupee) rangs = m_groupes.range(rangs, fins);
+        if (m_groupee) rangs = m_groupes.range(rangs, fins, m_souffle);
         if (m_plan.distinct) sansDoublons(rangs, fins);
         return rangs;
     }

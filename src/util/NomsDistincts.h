@@ -6,10 +6,10 @@
 #include <string_view>
 #include <vector>
 
-namespace edit {
+namespace util {
 
-// Texts numbered as they first come. Flat, and small enough for the processor's cache: asked once for each film of a
-// catalogue, whose directors come in no order.
+// Texts numbered as they first come. Flat, and small enough for the processor's cache: asked once for each row of a
+// listing, whose directors come in no order.
 class NomsDistincts {
   public:
     // The number of the text; a new one gets the next.
@@ -32,4 +32,4 @@ class NomsDistincts {
     std::vector<Place> m_places = std::vector<Place>(64);  // a power of two, at least half of them free
 };
 
-}  // namespace edit
+}  // namespace util

@@ -1,8 +1,8 @@
-#include "edit/NomsDistincts.h"
+#include "util/NomsDistincts.h"
 
 #include <functional>
 
-namespace edit {
+namespace util {
 
 // Where the text stands, or may stand.
 NomsDistincts::Place& NomsDistincts::place(std::string_view texte, std::uint32_t hachage) {
@@ -33,4 +33,4 @@ std::uint32_t NomsDistincts::rang(std::string_view nom) {
     return ou->suivant - 1;
 }
 
-}  // namespace edit
+}  // namespace util
