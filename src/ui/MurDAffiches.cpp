@@ -214,14 +214,17 @@ void MurDAffiches::avance() {
 bool MurDAffiches::lisProchaine() {
     if (m_rang >= m_voulues.size()) return false;
     const int tuile = m_voulues[m_rang++];
-    const Legende& l = legendeLue(tuile);
-    if (m_chargeur.estAJour(l.film, tailleDesAffiches()) || m_chargeur.prendDeja(l.film)) return true;
-    const auto& voulue = m_mur.tuiles[static_cast<std::size_t>(tuile)];
-    auto source = m_atelier.session.regarde([&](const app::Contexte& c) {
-        if (voulue.film < 0) return browse::sourceDuNoeud(c, voulue.noeud);
-        return browse::sourceDuFilm(c, m_mur.films[static_cast<std::size_t>(voulue.film)].film);
+    const QByteArray film = legendeLue(tuile).film;
+    if (m_chargeur.estAJour(film, tailleDesAffiches()) || m_chargeur.prendDeja(film)) return true;
+    const auto voulue = m_mur.tuiles[static_cast<std::size_t>(tuile)];
+    // The first one that is looked for makes the index of all films.
+    m_atelier.commande.lis([&] {
+        auto source = m_atelier.session.regarde([&](const app::Contexte& c) {
+            if (voulue.film < 0) return browse::sourceDuNoeud(c, voulue.noeud);
+            return browse::sourceDuFilm(c, m_mur.films[static_cast<std::size_t>(voulue.film)].film);
+        });
+        m_chargeur.prends(film, std::move(source), tailleDesAffiches());
     });
-    m_chargeur.prends(l.film, std::move(source), tailleDesAffiches());
     return true;
 }
 

@@ -107,7 +107,7 @@ void PageGroupe::metAJour() {
     const Origine avant = std::exchange(m_origine, origine());
     m_page = browse::pageDuGroupe(liste);
     if (m_rangeesVoulues && (!m_rangeesDe || !m_rangeesDe->memesFilms(m_origine))) {
-        m_rangees = m_atelier.session.regarde(ensemble::rangeesDuMur);
+        m_atelier.commande.lis([this] { m_rangees = m_atelier.session.regarde(ensemble::rangeesDuMur); });
         m_rangeesDe = m_origine;
     }
     const bool rangees = m_rangeesVoulues && !m_vues && ensemble::peutAvoirDesRangees(liste, m_page);
