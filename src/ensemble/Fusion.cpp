@@ -37,7 +37,8 @@ constexpr std::array kLegendesDePossession{
     Legende{"Fichier3", "Fichier 3"},  Legende{"Pret", "Prêté à"},       Legende{"Reserve", "Réservé à"},
     Legende{"Date", "Date"},           Legende{"Divers", "Divers"},      Legende{"Support", "Support"}};
 static_assert(util::disentLesMemes(kLegendesDePossession, &Legende::first, db::kChampsDePossession));
-static_assert(std::ranges::is_permutation(kChampsDuFilm, db::kChampsFilms, std::ranges::equal_to{}, &Legende::first));
+static_assert(std::ranges::is_permutation(kChampsDuFilm, db::kChampsFilms, std::ranges::equal_to{},
+                                          [](const Legende& legende) { return std::string_view(legende.first); }));
 
 bool estVide(const std::string& texte) {
     return dao::egalJet(texte, "");

@@ -1,6 +1,7 @@
 #include "ui/LienArbre.h"
 
 #include <QScrollBar>
+#include <algorithm>
 #include <utility>
 
 namespace ui {
@@ -11,8 +12,11 @@ VueTitres::LienArbre::Contenu VueTitres::LienArbre::contenu() const {
 
 VueTitres::LienArbre::Vue VueTitres::LienArbre::releve() const {
     Vue vue{m_remplie, m_vue.m_ouverts, m_vue.verticalScrollBar()->value(), {}};
-    const QRect ligne = m_vue.visualRect(m_vue.m_modele.indexDuNoeud(m_choisi));
+    const QModelIndex choix = m_vue.m_modele.indexDuNoeud(m_choisi);
+    const QRect ligne = m_vue.visualRect(choix);
     if (!ligne.isEmpty() && m_vue.viewport()->rect().intersects(ligne)) vue.hauteurDuChoix = ligne.top();
+    vue.groupeDuChoix = libelle(choix.parent());
+    vue.rangDuChoix = choix.row();
     return vue;
 }
 
@@ -40,6 +44,7 @@ void VueTitres::LienArbre::ecrit() {
 }
 
 void VueTitres::LienArbre::recommence() {
+    const bool retire = m_nombre == m_etat.Nodes.Count() + 1 && m_choisi != 0 && m_etat.SelectedItem == 0;
     m_generation = m_etat.Nodes.generation();
     m_nombre = m_etat.Nodes.Count();
     m_choisi = 0;
@@ -66,6 +71,21 @@ void VueTitres::LienArbre::recommence() {
         m_vue.scrollToTop();
     }
     m_vue.entreParLaPremiere();
+    if (retire && memeListe()) passeAuVoisin();
+}
+
+// The film that was chosen left the list: the keys go on from the one that took its place, which is not chosen.
+void VueTitres::LienArbre::passeAuVoisin() {
+    const ModeleArbre& modele = m_vue.m_modele;
+    QModelIndex groupe;
+    if (!m_avant.groupeDuChoix.isEmpty()) {
+        for (int ligne = 0; !groupe.isValid() && ligne < modele.rowCount(); ++ligne)
+            if (libelle(modele.index(ligne, 0)) == m_avant.groupeDuChoix) groupe = modele.index(ligne, 0);
+        if (!groupe.isValid()) return;
+    }
+    const int films = modele.rowCount(groupe);
+    const QModelIndex voisin = films == 0 ? groupe : modele.index(std::min(m_avant.rangDuChoix, films - 1), 0, groupe);
+    m_vue.selectionModel()->setCurrentIndex(voisin, QItemSelectionModel::NoUpdate);
 }
 
 void VueTitres::LienArbre::montreChoix() {

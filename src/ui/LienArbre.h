@@ -33,12 +33,15 @@ class VueTitres::LienArbre final : public Lien {
         std::set<QString> ouverts;
         int defilement = 0;
         std::optional<int> hauteurDuChoix;  // of the chosen row in the view, while it is in sight
+        QString groupeDuChoix{};            // the text of its heading; none in a flat list
+        int rangDuChoix = -1;               // under it
     };
     [[nodiscard]] Contenu contenu() const;
     [[nodiscard]] Vue releve() const;
     [[nodiscard]] bool memeListe() const { return m_remplie == m_avant.contenu; }
     void recommence();
     void montreChoix();
+    void passeAuVoisin();
 
     const browse::EtatListe& m_liste;
     browse::VueArbre& m_etat;

@@ -233,6 +233,13 @@ TEST_F(Fenetre, StatisticsLeaveTheSheetTheOpenHeadingsAndTheChoice) {
     EXPECT_EQ(ouverts(), avant);
     essai.clique("AffStats");
     EXPECT_EQ(entetes()[1], "Drame");
+
+    const QModelIndex voisin = essai.arbre().currentIndex();  // of the film that went: the keys go on from there
+    EXPECT_EQ(voisin.parent().data().toString(), "Drame");
+    EXPECT_TRUE(essai.arbre().selectionModel()->selectedIndexes().isEmpty());
+    const std::string titre = voisin.data().toString().toStdString();
+    QTest::keyClick(&essai.arbre(), Qt::Key_Down);
+    EXPECT_EQ(essai.texte("Label1_0"), titre);
 }
 
 TEST_F(Fenetre, ARenamedHeadingIsOpenAndSelectedInItsNewPlace) {
