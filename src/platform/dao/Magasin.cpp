@@ -51,7 +51,7 @@ void Magasin::oublie(std::span<const RangLu> colonnes) {
         std::uint32_t marque = m_fins[rang] & ~kMasque;
         if (oubliees[rang % m_colonnes] && fin > debut) {
             marque = static_cast<std::uint32_t>(kAbsent) << kBitsDePosition;
-        } else {
+        } else if (fin > debut) {
             std::memmove(m_caracteres.begin() + garde, m_caracteres.begin() + debut, fin - debut);
             garde += fin - debut;
         }
