@@ -431,8 +431,7 @@ void mesureBaseJet(bench::Tableau& tableau, const Options& options) {
 
 // What one statement of SQLite, or the disk, takes as long as it takes.
 bool estDUnSeulTenant(const std::string& geste) {
-    for (const char* tenant : {"compaction", "copies_", "titles_corrected", "titles_undone", "deleted",
-                               "deletion_undone", "import_redone", "import_undone", "export_", "jet"})
+    for (const char* tenant : {"compaction", "conversion", "copies_", "export_optFiches"})
         if (geste.starts_with(tenant)) return true;
     return false;
 }
