@@ -16,9 +16,8 @@ constexpr const char* kTriParSupportImpossible =
 
 // The old listing goes only once the new one stands: the tree's nodes lead to it.
 dao::Recordset ouvre(const Contexte& c, const std::string& requete) {
-    c.base.liste.allege();
     try {
-        return db::ouvreRequete(c, requete, db::NumeroErreur::CreeRequeteAffichage, kPorteesParLaListe);
+        return db::rouvreRequete(c, requete, db::NumeroErreur::CreeRequeteAffichage, kPorteesParLaListe, c.base.liste);
     } catch (const db::RequeteEchouee&) {
         nommeCeQuiEstMontre(c.liste);
         throw;

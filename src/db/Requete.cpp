@@ -38,6 +38,15 @@ dao::Recordset ouvreRequete(const Contexte& c, const std::string& enonce, Numero
     }
 }
 
+dao::Recordset rouvreRequete(const Contexte& c, const std::string& enonce, NumeroErreur numero,
+                             std::span<const std::string_view> portees, dao::Recordset& precedent) {
+    try {
+        return c.base.base.OpenRecordset(enonce, portees, precedent);
+    } catch (const dao::ErreurDao& erreur) {
+        echoue(c, numero, erreur);
+    }
+}
+
 void parcourtTable(const Contexte& c, std::string_view table, std::span<const std::string_view> colonnes,
                    NumeroErreur numero, const dao::Database::Recoit& recoit) {
     try {

@@ -53,6 +53,10 @@ struct RequeteEchouee {
 [[nodiscard]] dao::Recordset ouvreRequete(const Contexte& c, const std::string& enonce, NumeroErreur numero,
                                           std::span<const std::string_view> portees = {});
 
+// The same in place of a recordset that is about to go (dao::Database::OpenRecordset), and stands where this fails.
+[[nodiscard]] dao::Recordset rouvreRequete(const Contexte& c, const std::string& enonce, NumeroErreur numero,
+                                           std::span<const std::string_view> portees, dao::Recordset& precedent);
+
 // Hands every row of a table over as dao::Database::parcourt does, and fails as ouvreRequete does.
 void parcourtTable(const Contexte& c, std::string_view table, std::span<const std::string_view> colonnes,
                    NumeroErreur numero, const dao::Database::Recoit& recoit);

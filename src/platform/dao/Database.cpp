@@ -41,8 +41,23 @@ Recordset Database::OpenRecordset(std::string_view source, std::span<const std::
     connexion.respire();
     connexion.veille();
     if (estUnNom(source)) return Recordset(std::make_unique<interne::JeuVivant>(connexion, connexion.table(source)));
-    const interne::Plan plan = interne::planifie(connexion, interne::analyseEnonce(source), portees);
-    return Recordset(std::make_unique<interne::JeuDeCles>(connexion, plan, interne::execute(connexion, plan)));
+    interne::Plan plan = interne::planifie(connexion, interne::analyseEnonce(source), portees);
+    interne::Resultat resultat = interne::execute(connexion, plan);
+    return Recordset(std::make_unique<interne::JeuDeCles>(connexion, std::move(plan), std::move(resultat)));
+}
+
+Recordset Database::OpenRecordset(std::string_view source, std::span<const std::string_view> portees,
+                                  Recordset& precedent) {
+    interne::Connexion& connexion = ouverte(m_connexion);
+    connexion.veille();
+    if (const auto* jeu = dynamic_cast<interne::JeuDeCles*>(precedent.m_jeu.get());
+        jeu != nullptr && !estUnNom(source)) {
+        interne::Plan plan = interne::planifie(connexion, interne::analyseEnonce(source), portees);
+        if (auto resultat = jeu->reordonne(connexion, plan))
+            return Recordset(std::make_unique<interne::JeuDeCles>(connexion, std::move(plan), std::move(*resultat)));
+    }
+    precedent.allege();
+    return OpenRecordset(source, portees);
 }
 
 void Database::respireAvec(Souffle souffle) {

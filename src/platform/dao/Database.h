@@ -43,6 +43,10 @@ class Database {
     // `portees` are columns that a keyset keeps with its records, as it keeps those that order them: `vue` of one then asks
     // nothing of the file as long as nobody changes the row. A table without one of them does without.
     [[nodiscard]] Recordset OpenRecordset(std::string_view source, std::span<const std::string_view> portees = {});
+    // The same, in place of `precedent`, which still stands when this throws: its rows are taken over where the statement
+    // only orders them otherwise and nobody changed any since, else what it keeps beside their ids is given back first.
+    [[nodiscard]] Recordset OpenRecordset(std::string_view source, std::span<const std::string_view> portees,
+                                          Recordset& precedent);
 
     // What every reading of this base calls from now on, every few rows and never amid a change of a row.
     void respireAvec(Souffle souffle);

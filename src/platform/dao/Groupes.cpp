@@ -61,8 +61,7 @@ std::vector<std::uint32_t> Groupes::ordreDesGroupes(std::uint32_t& nombre, const
     return ordre;
 }
 
-std::vector<std::uint32_t> Groupes::range(std::span<const std::uint32_t> rangs, std::vector<std::uint32_t>& fins,
-                                          const Souffle& souffle) {
+std::vector<std::uint32_t> Groupes::places(std::vector<std::uint32_t>& fins, const Souffle& souffle) {
     std::uint32_t nombre = 0;
     const std::vector<std::uint32_t> ordre = ordreDesGroupes(nombre, souffle);
     fins.assign(nombre, 0);
@@ -71,11 +70,12 @@ std::vector<std::uint32_t> Groupes::range(std::span<const std::uint32_t> rangs, 
     std::uint32_t debut = 0;
     for (std::uint32_t& fin : fins)
         debut += std::exchange(fin, debut);  // where the group begins; as many steps further, where it ends
-    std::vector<std::uint32_t> rangees(rangs.size());
-    for (const std::uint32_t rang : rangs)
-        rangees[fins[m_numeros[rang]]++] = rang;
+    std::vector<std::uint32_t> places;
+    places.reserve(m_numeros.size());
+    for (const std::uint32_t numero : m_numeros)
+        places.push_back(fins[numero]++);
     *this = {};
-    return rangees;
+    return places;
 }
 
 }  // namespace dao::interne

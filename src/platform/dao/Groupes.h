@@ -7,7 +7,6 @@
 
 #include <array>
 #include <cstdint>
-#include <span>
 #include <string_view>
 #include <vector>
 
@@ -21,11 +20,9 @@ class Groupes {
     void ajouteNombre(double nombre);
     void ajouteNul() { m_numeros.push_back(kNul); }
 
-    // These rows, which are known by their rank of addition and are all that were added, group after group as Jet orders
-    // the values, Null first; those of one group stay as they were. Where each group ends stands in `fins`. What was added
-    // is forgotten.
-    [[nodiscard]] std::vector<std::uint32_t> range(std::span<const std::uint32_t> rangs,
-                                                   std::vector<std::uint32_t>& fins, const Souffle& souffle = {});
+    // For each row, in the order in which they were added: its place, group after group as Jet orders the values, Null
+    // first; those of one group stay as they were. Where each group ends stands in `fins`. What was added is forgotten.
+    [[nodiscard]] std::vector<std::uint32_t> places(std::vector<std::uint32_t>& fins, const Souffle& souffle = {});
 
   private:
     static constexpr std::uint32_t kNul = 0;

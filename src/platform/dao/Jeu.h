@@ -48,6 +48,7 @@ class Jeu {
   protected:
     Jeu(Connexion& connexion, Par<RangTable, Table*> tables, Par<RangChamp, ChampDeJeu> champs);
 
+    [[nodiscard]] bool estSur(const Connexion& connexion) const { return m_connexion == &connexion; }
     [[nodiscard]] Connexion& connexion() const;  // throws 3420 when the base was closed
     [[nodiscard]] const Par<RangTable, Table*>& tables() const { return m_tables; }
     [[nodiscard]] Table& table(RangTable rang) const { return *m_tables[rang]; }

@@ -17,15 +17,15 @@ Par<RangTable, Table*> tablesDe(const Plan& plan) {
 
 }  // namespace
 
-JeuDeCles::JeuDeCles(Connexion& connexion, const Plan& plan, Resultat resultat)
+JeuDeCles::JeuDeCles(Connexion& connexion, Plan plan, Resultat resultat)
     : Jeu(connexion, tablesDe(plan), plan.champs),
+      m_plan(std::move(plan)),
       m_resultat(std::move(resultat)),
-      m_avances(plan.tables.size()),
-      m_fige(plan.distinct),
+      m_avances(m_plan.tables.size()),
       m_version(connexion.version()),
       m_epoque(connexion.epoque()) {
-    for (const RangTable rang : plan.tables.rangs()) {
-        const TableDuPlan& table = plan.tables[rang];
+    for (const RangTable rang : m_plan.tables.rangs()) {
+        const TableDuPlan& table = m_plan.tables[rang];
         m_gardees.push_back({{}, m_resultat.magasins[rang].taille()});
         auto& rangs = m_gardees[rang].rangs;
         rangs.resize(table.table->colonnes.size());
@@ -36,9 +36,16 @@ JeuDeCles::JeuDeCles(Connexion& connexion, const Plan& plan, Resultat resultat)
 
 // The rows of a DISTINCT have their values from nowhere else.
 void JeuDeCles::allege() {
-    if (m_fige) return;
+    if (m_plan.distinct) return;
+    m_allege = true;
     for (Magasin& magasin : m_resultat.magasins)
         magasin.oublieLesValeurs();
+}
+
+std::optional<Resultat> JeuDeCles::reordonne(Connexion& connexion, const Plan& plan) const {
+    if (m_allege || !estSur(connexion) || m_version != connexion.version() || m_epoque != connexion.epoque())
+        return std::nullopt;
+    return interne::reordonne(connexion, plan, m_plan, m_resultat);
 }
 
 void JeuDeCles::pas(long nombre) {
@@ -51,7 +58,7 @@ const long long* JeuDeCles::ligne(RangTable table) {
 }
 
 void JeuDeCles::exigePresent() {
-    if (m_fige) return;
+    if (m_plan.distinct) return;
     for (const RangTable rang : tables().rangs()) {
         const Suivi& suivi = table(rang).suivi;
         if (suivi.supprimees.empty()) continue;
@@ -66,7 +73,7 @@ std::optional<ValeurVue> JeuDeCles::gardee(ChampDeJeu champ) {
     const RangLigne ou = ligneGardee(champ.table);
     if (!rang || static_cast<std::size_t>(ou) >= gardees.lignes) return std::nullopt;
     const Magasin& magasin = m_resultat.magasins[champ.table];
-    if (!m_fige &&
+    if (!m_plan.distinct &&
         (m_epoque != connexion().epoque() || table(champ.table).suivi.ecriteDepuis(magasin.id(ou), m_version)))
         return std::nullopt;
     return magasin.valeur(ou, *rang);

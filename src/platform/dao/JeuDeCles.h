@@ -14,7 +14,10 @@ namespace dao::interne {
 // changed the row; everything else is asked of the base.
 class JeuDeCles : public Jeu {
   public:
-    JeuDeCles(Connexion& connexion, const Plan& plan, Resultat resultat);
+    JeuDeCles(Connexion& connexion, Plan plan, Resultat resultat);
+
+    // The rows of this plan, where they are ours in another order and nothing was changed since they were read.
+    [[nodiscard]] std::optional<Resultat> reordonne(Connexion& connexion, const Plan& plan) const;
 
     [[nodiscard]] long place() const override { return aUnCourant() ? m_position : -1; }
     void allege() override;
@@ -29,7 +32,7 @@ class JeuDeCles : public Jeu {
     [[nodiscard]] Valeur lit(ChampDeJeu champ) override;
     void vaParcourir(ChampDeJeu champ) override;
     [[nodiscard]] bool litVue(ChampDeJeu champ, std::string_view& texte) override;
-    [[nodiscard]] bool estModifiable() const override { return !m_fige; }
+    [[nodiscard]] bool estModifiable() const override { return !m_plan.distinct; }
     void accueille(const Par<RangTable, long long>& lignes) override;
 
   private:
@@ -46,10 +49,11 @@ class JeuDeCles : public Jeu {
         Par<RangColonne, std::optional<RangLu>> rangs;  // where a column is kept with the rows
         std::size_t lignes;                             // that the statement brought; added ones follow
     };
+    Plan m_plan;
     Resultat m_resultat;
     Par<RangTable, Gardees> m_gardees;
     Par<RangTable, LectureDAvance> m_avances;
-    bool m_fige;  // DISTINCT: values that belong to no row
+    bool m_allege = false;
     std::uint64_t m_version;
     std::uint64_t m_epoque;
     long m_position = 0;

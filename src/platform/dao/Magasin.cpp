@@ -1,7 +1,7 @@
 #include "platform/dao/Magasin.h"
 
-#include <cstring>
-#include <vector>
+#include <string>
+#include <utility>
 
 namespace dao::interne {
 
@@ -14,12 +14,7 @@ constexpr auto kAbsent = ValeurVue::Type::Nombre;  // no value is kept as a numb
 
 }  // namespace
 
-RangLigne Magasin::ajoute(long long id) {
-    m_ids.push_back(id);
-    return static_cast<RangLigne>(m_ids.size() - 1);
-}
-
-void Magasin::ajouteValeur(const ValeurVue& valeur) {
+void ColonneGardee::ajoute(const ValeurVue& valeur) {
     std::string tampon;
     const std::string_view texte = texteDe(valeur, tampon);
     const bool tient = texte.size() <= kTexteMax && m_caracteres.size() + texte.size() <= kMasque;
@@ -29,47 +24,49 @@ void Magasin::ajouteValeur(const ValeurVue& valeur) {
     m_fins.push_back(marque | static_cast<std::uint32_t>(m_caracteres.size()));
 }
 
-void Magasin::serre() {
-    m_ids.serre();
+void ColonneGardee::serre() {
     m_fins.serre();
     m_caracteres.serre();
 }
 
-void Magasin::oublieLesValeurs() {
-    m_fins = {};
-    m_caracteres = {};
-}
-
-// The others move down where they stand.
-void Magasin::oublie(std::span<const RangLu> colonnes) {
-    std::vector<bool> oubliees(m_colonnes, false);
-    for (const RangLu colonne : colonnes)
-        oubliees[static_cast<std::size_t>(colonne)] = true;
-    std::uint32_t debut = 0, garde = 0;
-    for (std::size_t rang = 0; rang < m_fins.size(); ++rang) {
-        const std::uint32_t fin = m_fins[rang] & kMasque;
-        std::uint32_t marque = m_fins[rang] & ~kMasque;
-        if (oubliees[rang % m_colonnes] && fin > debut) {
-            marque = static_cast<std::uint32_t>(kAbsent) << kBitsDePosition;
-        } else if (fin > debut) {
-            std::memmove(m_caracteres.begin() + garde, m_caracteres.begin() + debut, fin - debut);
-            garde += fin - debut;
-        }
-        m_fins[rang] = marque | garde;
-        debut = fin;
-    }
-    m_caracteres.retireLaFin(garde);
-    m_caracteres.serre();
-}
-
-std::optional<ValeurVue> Magasin::valeur(RangLigne ligne, RangLu colonne) const {
-    const std::size_t rang = static_cast<std::size_t>(ligne) * m_colonnes + static_cast<std::size_t>(colonne);
+std::optional<ValeurVue> ColonneGardee::valeur(std::size_t rang) const {
     if (rang >= m_fins.size()) return std::nullopt;
     const std::uint32_t debut = rang == 0 ? 0 : m_fins[rang - 1] & kMasque;
     const std::uint32_t fin = m_fins[rang] & kMasque;
     const auto type = static_cast<ValeurVue::Type>(m_fins[rang] >> kBitsDePosition);
     if (type == kAbsent) return std::nullopt;
     return ValeurVue{type, std::string_view(m_caracteres.begin() + debut, fin - debut), 0};
+}
+
+Magasin::Magasin(std::size_t colonnes) : m_ids(std::make_shared<Tampon<long long>>()) {
+    for (std::size_t i = 0; i < colonnes; ++i)
+        m_colonnes.push_back(m_lues.emplace_back(std::make_shared<ColonneGardee>()));
+}
+
+Magasin::Magasin(const Magasin& lignes, Par<RangLu, std::shared_ptr<const ColonneGardee>> colonnes)
+    : m_ids(lignes.m_ids), m_colonnes(std::move(colonnes)) {}
+
+RangLigne Magasin::ajoute(long long id, const Par<RangLu, ValeurVue>& valeurs) {
+    for (const RangLu rang : valeurs.rangs())
+        m_lues[rang]->ajoute(valeurs[rang]);
+    return ajoute(id);
+}
+
+RangLigne Magasin::ajoute(long long id) {
+    m_ids->push_back(id);
+    return static_cast<RangLigne>(m_ids->size() - 1);
+}
+
+void Magasin::serre() {
+    m_ids->serre();
+    for (const auto& colonne : m_lues)
+        colonne->serre();
+    m_lues.clear();
+}
+
+void Magasin::oublieLesValeurs() {
+    for (auto& colonne : m_colonnes)
+        colonne = nullptr;
 }
 
 }  // namespace dao::interne

@@ -155,11 +155,16 @@ class Planificateur {
             ajouteTri(champ);  // equal rows become neighbours
     }
 
+    bool estToujoursNulle(ColonneDuPlan colonne) const {
+        return colonne.table == kSeconde && std::ranges::find(m_plan.nulles, colonne.rang) != m_plan.nulles.end();
+    }
+
     void ajouteTri(ChampDeJeu champ) {
         const ColonneDuPlan colonne = equivalente(lit(champ));
         for (const TriDuPlan& tri : m_plan.tris) {
             if (tri.colonne == colonne) return;
         }
+        if (!m_plan.tris.empty() && estToujoursNulle(colonne)) return;
         m_plan.tris.push_back({colonne, table(champ.table).colonnes[champ.colonne].numerique});
     }
 
@@ -209,7 +214,80 @@ class Planificateur {
     std::string m_sansNul;  // of the first table's condition
 };
 
+// The columns by which rows are told apart, each once.
+std::vector<TriDuPlan> ordreEntier(const Plan& plan) {
+    std::vector<TriDuPlan> ordre = plan.tris;
+    for (const RangLu rang : plan.departages) {
+        const ColonneDuPlan colonne{kPremiere, rang};
+        const auto connue = [colonne](const TriDuPlan& tri) { return tri.colonne == colonne; };
+        if (std::none_of(ordre.begin(), ordre.end(), connue)) ordre.push_back({colonne});
+    }
+    return ordre;
+}
+
+std::vector<TriDuPlan> ordreDeLaCle(const Plan& plan) {
+    std::vector<TriDuPlan> ordre;
+    for (const RangLu rang : plan.departages)
+        ordre.push_back({{kPremiere, rang}});
+    return ordre;
+}
+
+bool memesColonnes(const TableDuPlan& une, std::span<const RangLu> siennes, const TableDuPlan& autre,
+                   std::span<const RangLu> leurs) {
+    return std::equal(siennes.begin(), siennes.end(), leurs.begin(), leurs.end(),
+                      [&](RangLu a, RangLu b) { return une.lues[a] == autre.lues[b]; });
+}
+
+bool memesJointures(const Plan& un, const Plan& autre) {
+    if (un.tables.size() < 2) return true;
+    return un.gauche == autre.gauche && un.joinCles == autre.joinCles &&
+           memesColonnes(un.tables[kSeconde], un.nulles, autre.tables[kSeconde], autre.nulles) &&
+           std::equal(un.egalites.begin(), un.egalites.end(), autre.egalites.begin(), autre.egalites.end(),
+                      [&](const auto& a, const auto& b) {
+                          return un.tables[kPremiere].lues[a.first] == autre.tables[kPremiere].lues[b.first] &&
+                                 un.tables[kSeconde].lues[a.second] == autre.tables[kSeconde].lues[b.second];
+                      });
+}
+
 }  // namespace
+
+std::optional<TriDuPlan> Plan::groupes() const {
+    if (tris.empty()) return std::nullopt;
+    const auto [table, rang] = tris.front().colonne;
+    const TableDuPlan& premiere = tables[kPremiere];
+    const auto& cleDeTable = premiere.table->cle;
+    if (table == kPremiere && cleDeTable && premiere.lues[rang] == cleDeTable->premiere) return std::nullopt;
+    return tris.front();
+}
+
+bool Plan::suitLaCle() const {
+    if (tris.empty() || departages.empty()) return false;
+    std::vector<TriDuPlan> entier = ordreEntier(*this), deLaCle = ordreDeLaCle(*this);
+    if (groupes()) {
+        const ColonneDuPlan tete = tris.front().colonne;
+        for (auto* ordre : {&entier, &deLaCle})
+            std::erase_if(*ordre, [tete](const TriDuPlan& tri) { return tri.colonne == tete; });
+    }
+    return std::equal(entier.begin(), entier.end(), deLaCle.begin(), deLaCle.end(),
+                      [](const TriDuPlan& a, const TriDuPlan& b) { return a.colonne == b.colonne; });
+}
+
+std::vector<TriDuPlan> Plan::ordre() const {
+    if (suitLaCle()) return ordreDeLaCle(*this);
+    std::vector<TriDuPlan> ordre = ordreEntier(*this);
+    if (groupes()) ordre.erase(ordre.begin());
+    return ordre;
+}
+
+bool Plan::aLesLignesDe(const Plan& autre) const {
+    if (distinct || autre.distinct || cle || autre.cle || champs != autre.champs) return false;
+    return std::equal(tables.begin(), tables.end(), autre.tables.begin(), autre.tables.end(),
+                      [](const TableDuPlan& une, const TableDuPlan& celleLa) {
+                          return une.table == celleLa.table && une.condition == celleLa.condition &&
+                                 une.parametres == celleLa.parametres;
+                      }) &&
+           memesJointures(*this, autre);
+}
 
 Plan planifie(Connexion& connexion, const Enonce& enonce, std::span<const std::string_view> portees) {
     return Planificateur(connexion, enonce).plan(portees);

@@ -50,6 +50,15 @@ struct Plan {
     bool distinct = false;
     Par<RangChamp, ChampDeJeu> champs;  // what the recordset shows
     std::optional<CleCherchee> cle;     // the one table is looked up by its key
+
+    // The first column to order by, unless it is that of the index in whose order rows come, by title.
+    [[nodiscard]] std::optional<TriDuPlan> groupes() const;
+    // The columns to order by: of rows that are in one group, or of all.
+    [[nodiscard]] std::vector<TriDuPlan> ordre() const;
+    // Rows of one group, or all, stand by the first table's key, then by their ids.
+    [[nodiscard]] bool suitLaCle() const;
+    // Both bring the same rows of the same tables, and show the same of them; each has its own order.
+    [[nodiscard]] bool aLesLignesDe(const Plan& autre) const;
 };
 
 // `portees`: columns to be kept with the rows, where a table has them.

@@ -9,20 +9,6 @@ namespace dao::interne {
 
 namespace {
 
-// Lets the program breathe once in so many steps.
-class Pas {
-  public:
-    explicit Pas(const Souffle& souffle) : m_souffle(souffle) {}
-    void operator()() {
-        constexpr unsigned kParSouffle = 4096;
-        if (m_souffle && ++m_faits % kParSouffle == 0) m_souffle();
-    }
-
-  private:
-    const Souffle& m_souffle;
-    unsigned m_faits = 0;
-};
-
 using Rangs = std::span<std::uint32_t>;
 
 constexpr std::size_t kBloc = 1 << 16;
@@ -44,13 +30,13 @@ std::size_t combienApres(std::span<const std::uint32_t> rangs, std::uint32_t ran
 
 // Merges two neighbours, each in order, from their ends: a few comparisons for each stretch of one that stands between two
 // rows of the other, and none for what stands right already.
-void reunis(Rangs rangs, std::size_t milieu, const Ordre::Precede& precede, Pas& pas) {
+void reunis(Rangs rangs, std::size_t milieu, const Ordre::Precede& precede, Cadence& cadence) {
     if (milieu == 0 || milieu == rangs.size() || !precede(rangs[milieu], rangs[milieu - 1])) return;
     const std::vector<std::uint32_t> seconds(rangs.begin() + static_cast<std::ptrdiff_t>(milieu), rangs.end());
     std::span<std::uint32_t> premiers = rangs.first(milieu);
     std::span<const std::uint32_t> restent = seconds;
     for (auto fin = rangs.end(); !restent.empty();) {
-        pas();
+        cadence();
         const std::size_t siens = combienApres(premiers, restent.back(), precede);
         fin = std::move_backward(premiers.end() - static_cast<std::ptrdiff_t>(siens), premiers.end(), fin);
         premiers = premiers.first(premiers.size() - siens);
@@ -87,10 +73,10 @@ void PresqueEnOrdre::finitLeBloc() {
 
 void PresqueEnOrdre::rangeParCles(const Souffle& souffle) {
     Ordre ordre;
-    Pas pas(souffle);
+    Cadence cadence(souffle, Cadence::kEnMemoire);
     for (const std::uint32_t rang : m_rangs) {
         m_ajouteCle(rang, ordre);
-        pas();
+        cadence();
     }
     const auto precede = [this](std::uint32_t gauche, std::uint32_t droite) {
         return m_precede(m_rangs[gauche], m_rangs[droite]);
@@ -103,11 +89,11 @@ void PresqueEnOrdre::rangeParCles(const Souffle& souffle) {
 
 // Neighbours by two, then what they became by two.
 void PresqueEnOrdre::reunisLesBlocs(const Souffle& souffle) {
-    Pas pas(souffle);
+    Cadence cadence(souffle, Cadence::kEnMemoire);
     for (std::vector<std::size_t> fins; m_fins.size() > 1; m_fins = std::exchange(fins, {})) {
         for (std::size_t i = 0; i < m_fins.size(); i += 2) {
             const std::size_t debut = i == 0 ? 0 : m_fins[i - 1], fin = m_fins[std::min(i + 1, m_fins.size() - 1)];
-            reunis(Rangs(m_rangs.begin() + debut, fin - debut), m_fins[i] - debut, m_precede, pas);
+            reunis(Rangs(m_rangs.begin() + debut, fin - debut), m_fins[i] - debut, m_precede, cadence);
             fins.push_back(fin);
         }
     }

@@ -89,6 +89,7 @@ class Recordset {
     [[nodiscard]] bool estOuvert() const { return m_jeu != nullptr; }
 
   private:
+    friend class Database;
     std::unique_ptr<interne::Jeu> m_jeu;
 };
 

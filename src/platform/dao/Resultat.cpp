@@ -2,16 +2,13 @@
 
 #include "platform/dao/Balayage.h"
 #include "platform/dao/CleJet.h"
-#include "platform/dao/Ecriture.h"
-#include "platform/dao/Groupes.h"
 #include "platform/dao/Jointure.h"
-#include "platform/dao/PresqueEnOrdre.h"
+#include "platform/dao/Rangement.h"
 #include "platform/dao/RegistresLarges.h"
 
 #include <algorithm>
-#include <numeric>
+#include <memory>
 #include <optional>
-#include <span>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -20,20 +17,23 @@ namespace dao::interne {
 
 namespace {
 
+// The base's breath: none where it has none.
+Souffle souffleDe(Connexion& connexion) {
+    if (!connexion.souffle()) return {};
+    return [&connexion] {
+        connexion.respire();
+        rendsRegistresLarges();  // who paints uses them
+    };
+}
+
 class Execution {
   public:
-    Execution(Connexion& connexion, const Plan& plan) : m_connexion(connexion), m_plan(plan) {
-        if (connexion.souffle()) {
-            m_souffle = [&connexion] {
-                connexion.respire();
-                rendsRegistresLarges();  // who paints uses them
-            };
-        }
+    Execution(Connexion& connexion, const Plan& plan)
+        : m_connexion(connexion), m_plan(plan), m_souffle(souffleDe(connexion)) {
         for (const TableDuPlan& table : plan.tables) {
             m_resultat.magasins.emplace_back(table.lues.size());
             m_cles.emplace_back(table.lues.size());
         }
-        choisisLOrdre();
     }
 
     Resultat resultat() {
@@ -46,7 +46,7 @@ class Execution {
         } else {
             balaie(premiere().condition);
         }
-        ordonne();
+        m_rangement.range(m_resultat);
         for (Magasin& magasin : m_resultat.magasins)
             magasin.serre();
         return std::move(m_resultat);
@@ -55,23 +55,15 @@ class Execution {
   private:
     const TableDuPlan& premiere() const { return m_plan.tables[kPremiere]; }
 
-    void respire() {
-        constexpr unsigned kLignesParSouffle = 256;
-        if (m_souffle && ++m_lignesLues % kLignesParSouffle == 0) m_souffle();
-    }
-
     RangLigne range(RangTable table, const Balayage& balayage) {
-        Magasin& magasin = m_resultat.magasins[table];
-        for (const ValeurVue& valeur : balayage.valeurs())
-            magasin.ajouteValeur(valeur);
-        return magasin.ajoute(balayage.id());
+        return m_resultat.magasins[table].ajoute(balayage.id(), balayage.valeurs());
     }
 
     void chercheLaCle(const CleCherchee& cle) {
         const std::vector<long long> lignes = candidats(m_connexion, *premiere().table, cle.premiere, cle.seconde);
         for (const long long ligne : lignes)
             balaie(premiere().condition, ligne);
-        if (!m_gauches.empty() || cle.sansNul.empty()) return;
+        if (!m_rangement.estVide() || cle.sansNul.empty()) return;
         for (const long long ligne : lignes)
             balaie(cle.sansNul, ligne);
     }
@@ -79,10 +71,9 @@ class Execution {
     void balaie(const std::string& condition, std::optional<long long> ligne = std::nullopt) {
         Balayage balayage(m_connexion, premiere(), condition, ligne);
         while (balayage.avance()) {
-            respire();
+            m_cadence();
             if (m_plan.distinct && dejaVue(balayage)) continue;
-            m_cles[kPremiere].change(balayage.valeurs());
-            retient(range(kPremiere, balayage), kSansLigne);
+            m_rangement.ajoute(range(kPremiere, balayage), kSansLigne);
         }
     }
 
@@ -109,7 +100,7 @@ class Execution {
         Balayage balayage(m_connexion, premiere(), premiere().condition);
         RangLigne suivante{0};
         while (balayage.avance()) {
-            respire();
+            m_cadence();
             m_cles[kPremiere].change(balayage.valeurs());
             m_ligneDeGauche = kSansLigne;
             bool jointe = false;
@@ -132,10 +123,8 @@ class Execution {
     // A joined row's partner has its texts, by Jet's comparison at least: few ask for those of the partner.
     void oublieLaJointure() {
         if (m_plan.gauche || m_plan.distinct) return;
-        std::vector<RangLu> jointes;
         for (const auto& [gauche, droite] : m_plan.egalites)
-            jointes.push_back(droite);
-        m_resultat.magasins[kSeconde].oublie(jointes);
+            m_resultat.magasins[kSeconde].oublie(droite);
     }
 
     bool ontLesMemesLettres(const Par<RangLu, ValeurVue>& valeurs, RangLigne droite) const {
@@ -153,7 +142,7 @@ class Execution {
         Par<RangLigne, std::uint64_t> hachages;
         Balayage balayage(m_connexion, m_plan.tables[kSeconde], m_plan.tables[kSeconde].condition);
         while (balayage.avance()) {
-            respire();
+            m_cadence();
             m_cles[kSeconde].change(balayage.valeurs());
             const auto hachage = hachageDeJointure(kSeconde);
             if (!hachage) continue;
@@ -181,187 +170,103 @@ class Execution {
     bool seJoignent(const Par<RangLu, ValeurVue>& valeurs, RangLigne droite) {
         return std::all_of(m_plan.egalites.begin(), m_plan.egalites.end(), [&](const auto& egalite) {
             std::string tampon;
-            const std::string_view texte = gardee(kSeconde, droite, egalite.second, m_longue).texte;
+            const std::string_view texte = m_valeurs.valeur({kSeconde, egalite.second}, droite, m_longue).texte;
             return texteDe(valeurs[egalite.first], tampon) == texte ||
                    m_cles[kPremiere].cle(egalite.first) == cleJet(texte);
         });
     }
 
-    // A value of a table from its store, or from the base when it was too long to be kept: in `tampon` then.
-    ValeurVue gardee(RangTable table, RangLigne ligne, RangLu rang, std::string& tampon) {
-        if (ligne == kSansLigne) return {};
-        const Magasin& magasin = m_resultat.magasins[table];
-        if (const auto valeur = magasin.valeur(ligne, rang)) return *valeur;
-        const TableDuPlan& lue = m_plan.tables[table];
-        tampon = litChamp(m_connexion, *lue.table, lue.lues[rang], magasin.id(ligne)).texte();
-        return ValeurVue::deTexte(tampon);
-    }
-
     void retientSiNulles(const Balayage& balayage, RangLigne droite) {
         for (const RangLu nulle : m_plan.nulles) {
-            if (!gardee(kSeconde, droite, nulle, m_longue).estNulle()) return;
+            if (!m_valeurs.valeur({kSeconde, nulle}, droite, m_longue).estNulle()) return;
         }
         if (m_ligneDeGauche == kSansLigne) m_ligneDeGauche = range(kPremiere, balayage);
-        retient(m_ligneDeGauche, droite);
-    }
-
-    // Rows come in the order of an index, by title: whatever else comes first is a matter of groups.
-    void choisisLOrdre() {
-        const auto& cle = premiere().table->cle;
-        for (const TriDuPlan& tri : m_plan.tris)
-            m_ordre.push_back(tri);
-        for (const RangLu rang : m_plan.departages) {
-            const ColonneDuPlan colonne{kPremiere, rang};
-            const auto connue = [colonne](const TriDuPlan& tri) { return tri.colonne == colonne; };
-            if (std::none_of(m_ordre.begin(), m_ordre.end(), connue)) m_ordre.push_back({colonne});
-        }
-        if (m_plan.tris.empty()) return;
-        const auto [table, rang] = m_ordre.front().colonne;
-        if (table == kPremiere && cle && premiere().lues[rang] == cle->premiere) return;
-        m_groupee = m_ordre.front();
-        m_ordre.erase(m_ordre.begin());
-    }
-
-    // Adds a row of the statement.
-    void retient(RangLigne gauche, RangLigne droite) {
-        if (m_groupee) ajouteAuGroupe(*m_groupee, droite);
-        m_gauches.push_back(gauche);
-        if (m_plan.tables.size() > 1) m_droites.push_back(droite);
-        // Of a DISTINCT a lower row may still come to stand for this one.
-        if (!m_plan.distinct) classe(static_cast<std::uint32_t>(m_gauches.size() - 1));
-    }
-
-    void classe(std::uint32_t rang) { m_presque.ajoute(rang, cleDe(rang)); }
-
-    void ajouteAuGroupe(const TriDuPlan& tri, RangLigne droite) {
-        const auto [table, rang] = tri.colonne;
-        const ValeurVue valeur =
-            table == kPremiere ? m_cles[kPremiere].valeur(rang) : gardee(kSeconde, droite, rang, m_longue);
-        if (valeur.estNulle()) return m_groupes.ajouteNul();
-        if (tri.numerique) return m_groupes.ajouteNombre(valeur.enNombre());
-        std::string tampon;
-        m_groupes.ajouteTexte(texteDe(valeur, tampon));
-    }
-
-    ValeurVue valeurDe(std::uint32_t rang, ColonneDuPlan colonne, std::string& tampon) {
-        const RangLigne ligne = colonne.table == kPremiere ? m_gauches[rang] : m_droites[rang];
-        return gardee(colonne.table, ligne, colonne.rang, tampon);
-    }
-
-    // Two rows of one group.
-    int compare(std::uint32_t gauche, std::uint32_t droite) {
-        for (const TriDuPlan& tri : m_ordre) {
-            const ValeurVue une = valeurDe(gauche, tri.colonne, m_longue),
-                            autre = valeurDe(droite, tri.colonne, m_autreLongue);
-            if (const int ordre = compareValeurs(une, autre, tri.numerique); ordre != 0) return ordre;
-        }
-        return 0;
-    }
-
-    int compareTextes(std::string_view gauche, std::string_view droite) {
-        if (gauche == droite) return 0;
-        m_cle.clear();
-        ajouteCleJet(gauche, m_cle);
-        m_autreCle.clear();
-        ajouteCleJet(droite, m_autreCle);
-        return m_cle.compare(m_autreCle);
-    }
-
-    int compareValeurs(const ValeurVue& une, const ValeurVue& autre, bool numerique) {
-        if (une.estNulle() || autre.estNulle()) return (autre.estNulle() ? 1 : 0) - (une.estNulle() ? 1 : 0);
-        if (!numerique) return compareTextes(une.texte, autre.texte);
-        const double gauche = une.enNombre(), droite = autre.enNombre();
-        return (gauche > droite ? 1 : 0) - (gauche < droite ? 1 : 0);
-    }
-
-    // Rows that nothing else tells apart stand by the ids of their rows.
-    bool precede(std::uint32_t gauche, std::uint32_t droite) {
-        const int ordre = compare(gauche, droite);
-        return ordre != 0 ? ordre < 0 : ids(gauche) < ids(droite);
-    }
-
-    std::pair<long long, long long> ids(std::uint32_t rang) const {
-        const RangLigne seconde = m_plan.tables.size() > 1 ? m_droites[rang] : kSansLigne;
-        return {m_resultat.magasins[kPremiere].id(m_gauches[rang]),
-                seconde == kSansLigne ? 0 : m_resultat.magasins[kSeconde].id(seconde)};
-    }
-
-    // Of the first column by which the rows of a group stand; holds until the next call.
-    std::string_view cleDe(std::uint32_t rang) {
-        if (m_ordre.empty()) return cleDeNombre(static_cast<double>(ids(rang).first), m_cleDeNombre);
-        const TriDuPlan& tri = m_ordre.front();
-        const ValeurVue valeur = valeurDe(rang, tri.colonne, m_longue);
-        if (valeur.estNulle()) return {};
-        if (tri.numerique) return cleDeNombre(valeur.enNombre(), m_cleDeNombre);
-        m_cleAjoutee.clear();
-        ajouteCleJet(valeur.texte, m_cleAjoutee);
-        return m_cleAjoutee;
-    }
-
-    std::vector<std::uint32_t> enOrdre() {
-        for (std::uint32_t rang = 0; m_plan.distinct && rang < m_gauches.size(); ++rang) {
-            classe(rang);
-            respire();
-        }
-        std::vector<std::uint32_t> rangs = m_presque.rangs(m_souffle);
-        std::vector<std::uint32_t> fins{static_cast<std::uint32_t>(rangs.size())};
-        if (m_groupee) rangs = m_groupes.range(rangs, fins, m_souffle);
-        if (m_plan.distinct) sansDoublons(rangs, fins);
-        return rangs;
-    }
-
-    void sansDoublons(std::vector<std::uint32_t>& rangs, const std::vector<std::uint32_t>& fins) {
-        auto debut = rangs.begin(), garde = debut;
-        for (const std::uint32_t fin : fins) {
-            const auto suivant = rangs.begin() + fin;
-            const auto bout =
-                std::unique(debut, suivant, [this](auto une, auto autre) { return compare(une, autre) == 0; });
-            garde = std::copy(debut, bout, garde);
-            debut = suivant;
-        }
-        rangs.erase(garde, rangs.end());
-    }
-
-    void ordonne() {
-        const std::vector<std::uint32_t> rangs = enOrdre();
-        const auto suit = [&rangs](std::vector<RangLigne>& lignes) {
-            std::vector<RangLigne> resultat;
-            resultat.reserve(rangs.size());
-            for (const std::uint32_t rang : rangs)
-                resultat.push_back(lignes[rang]);
-            lignes = {};
-            return resultat;
-        };
-        m_resultat.lignes.push_back(suit(m_gauches));
-        if (m_plan.tables.size() > 1) m_resultat.lignes.push_back(suit(m_droites));
+        m_rangement.ajoute(m_ligneDeGauche, droite);
     }
 
     Connexion& m_connexion;
     const Plan& m_plan;
     Resultat m_resultat;
     Par<RangTable, ClesDeLigne> m_cles;
-    std::optional<TriDuPlan> m_groupee;  // the first column to order by, where the groups hold it
-    std::vector<TriDuPlan> m_ordre;      // the columns after it
-    Groupes m_groupes;
-    PresqueEnOrdre m_presque{[this](std::uint32_t gauche, std::uint32_t droite) { return precede(gauche, droite); },
-                             [this](std::uint32_t rang, Ordre& ordre) { ordre.ajoute(cleDe(rang)); }};
-    std::vector<RangLigne> m_gauches;
-    std::vector<RangLigne> m_droites;
+    const Souffle m_souffle;
+    Cadence m_cadence{m_souffle};
+    const Valeurs m_valeurs{m_connexion, m_plan, m_resultat.magasins};
+    Rangement m_rangement{m_plan, m_valeurs, m_souffle};
     RangLigne m_ligneDeGauche = kSansLigne;
     std::unordered_map<std::string, RangLigne> m_vues;
     std::string m_lettres;  // of the row being looked up
-    std::string m_cle, m_autreCle, m_cleAjoutee;
-    std::array<char, kTailleDeNombre> m_cleDeNombre{};
-    std::string m_longue, m_autreLongue;
-    Souffle m_souffle;
-    unsigned m_lignesLues = 0;
+    std::string m_longue;
 };
+
+using Gardees = Par<RangLu, std::shared_ptr<const ColonneGardee>>;
+
+// A column's values for the rows of a store, which come as they came to it. None where they do not.
+std::shared_ptr<const ColonneGardee> litLaColonne(Connexion& connexion, const TableDuPlan& table, RangLu rang,
+                                                  const Magasin& magasin, const Souffle& souffle) {
+    const TableDuPlan seule{table.table, {table.lues[rang]}, table.condition, table.parametres};
+    Balayage balayage(connexion, seule, seule.condition);
+    const auto colonne = std::make_shared<ColonneGardee>();
+    for (Cadence cadence(souffle); colonne->taille() < magasin.taille() && balayage.avance(); cadence()) {
+        const auto suivante = static_cast<RangLigne>(colonne->taille());
+        if (balayage.id() == magasin.id(suivante)) colonne->ajoute(balayage.valeurs().front());
+    }
+    colonne->serre();
+    return colonne->taille() == magasin.taille() ? colonne : nullptr;
+}
+
+// What a plan's table reads, from what another one kept of the same rows.
+std::optional<Gardees> colonnesPour(Connexion& connexion, const TableDuPlan& table, const TableDuPlan& ancienne,
+                                    const Magasin& magasin, const Souffle& souffle) {
+    Gardees colonnes;
+    for (const RangLu rang : table.lues.rangs()) {
+        const auto connue = std::find(ancienne.lues.begin(), ancienne.lues.end(), table.lues[rang]);
+        const bool gardee = connue != ancienne.lues.end();
+        colonnes.push_back(gardee ? magasin.colonne(static_cast<RangLu>(connue - ancienne.lues.begin()))
+                                  : litLaColonne(connexion, table, rang, magasin, souffle));
+        if (!gardee && colonnes.back() == nullptr) return std::nullopt;
+    }
+    return colonnes;
+}
+
+LignesParTable lignesParLaCle(const Resultat& resultat) {
+    if (resultat.places.empty()) return resultat.lignes;
+    LignesParTable lignes;
+    for (const std::vector<RangLigne>& siennes : resultat.lignes) {
+        std::vector<RangLigne>& parLaCle = lignes.emplace_back();
+        parLaCle.reserve(siennes.size());
+        for (const std::uint32_t place : resultat.places)
+            parLaCle.push_back(siennes[place]);
+    }
+    return lignes;
+}
 
 }  // namespace
 
 Resultat execute(Connexion& connexion, const Plan& plan) {
     rendsRegistresLarges();
     return Execution(connexion, plan).resultat();
+}
+
+std::optional<Resultat> reordonne(Connexion& connexion, const Plan& plan, const Plan& ancien,
+                                  const Resultat& resultat) {
+    if (!plan.aLesLignesDe(ancien) || !plan.suitLaCle() || !ancien.suitLaCle()) return std::nullopt;
+    rendsRegistresLarges();
+    const Souffle souffle = souffleDe(connexion);
+    const Regard regard(connexion);
+    Resultat autre;
+    for (const RangTable rang : plan.tables.rangs()) {
+        auto colonnes =
+            colonnesPour(connexion, plan.tables[rang], ancien.tables[rang], resultat.magasins[rang], souffle);
+        if (!colonnes) return std::nullopt;
+        autre.magasins.emplace_back(resultat.magasins[rang], std::move(*colonnes));
+    }
+    autre.lignes = lignesParLaCle(resultat);
+    if (const auto tri = plan.groupes()) {
+        std::vector<std::uint32_t> fins;
+        autre.places = placesParGroupes(*tri, Valeurs(connexion, plan, autre.magasins), autre.lignes, fins, souffle);
+        disperse(autre.lignes, autre.places);
+    }
+    return autre;
 }
 
 }  // namespace dao::interne

@@ -8,4 +8,25 @@ namespace dao {
 // read the base, and changes nothing in it. None: the reading goes on in one go.
 using Souffle = std::function<void()>;
 
+// Breathes once in so many steps, each of which costs a count alone. The breath outlives it.
+class Cadence {
+  public:
+    static constexpr unsigned kLignes = 256;      // rows that are read
+    static constexpr unsigned kEnMemoire = 4096;  // of what a microsecond does
+
+    explicit Cadence(const Souffle& souffle, unsigned pas = kLignes) : m_souffle(souffle), m_pas(pas) {}
+    Cadence(Souffle&&, unsigned = kLignes) = delete;
+
+    void operator()() {
+        if (--m_restent != 0) return;
+        m_restent = m_pas;
+        if (m_souffle) m_souffle();
+    }
+
+  private:
+    const Souffle& m_souffle;
+    unsigned m_pas;
+    unsigned m_restent = m_pas;
+};
+
 }  // namespace dao

@@ -355,17 +355,29 @@ TEST(Requetes, StatementsWithoutOrderComeInRowOrder) {
     EXPECT_EQ(essai.lit("SELECT * FROM Personnel order by titre2;", "Titre2").size(), titres.size());
 }
 
-// Of more rows than are ordered in one go: read in the order of the index, and in no order.
-TEST(Requetes, ManyRowsStandAsTheirWholeKeysDo) {
-    BaseDEssai essai;
-    essai.base.Execute(R"(
+namespace {
+
+struct BaseNombreuse : BaseDEssai {
+    explicit BaseNombreuse(int films) {
+        base.Execute(std::string(R"(
 CREATE TABLE mots (n, mot);
 INSERT INTO mots VALUES (0,'L''Été'),(1,'La Mer'),(2,'l''étape'),(3,'Œdipe'),(4,'oe'),(5,'Zorro'),(6,'été '),(7,NULL),(8,'Ça'),(9,'d''or');
 INSERT INTO Films (Titre, Realisateur, Genre, Note, Acteurs, Annee)
-  WITH RECURSIVE r(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM r WHERE i < 20000)
+  WITH RECURSIVE r(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM r WHERE i < )") +
+                     std::to_string(films) + R"()
   SELECT a.mot || ' ' || (i * 48271 % 2000), b.mot, c.mot, i * 7919 % 11, 'x', printf('%05d', i) FROM r
     JOIN mots a ON a.n = i * 31 % 10 JOIN mots b ON b.n = i * 17 % 7 JOIN mots c ON c.n = i * 13 % 9 ORDER BY i;
-DROP TABLE mots;)");
+DROP TABLE mots;
+INSERT INTO Personnel (Titre2, Realisateur2, Support, Pret)
+  SELECT upper(Titre), Realisateur, Note % 3, CASE Note WHEN 1 THEN 'Zoé' ELSE '' END FROM Films WHERE Note % 2;)");
+    }
+};
+
+}  // namespace
+
+// Of more rows than are ordered in one go: read in the order of the index, and in no order.
+TEST(Requetes, ManyRowsStandAsTheirWholeKeysDo) {
+    BaseNombreuse essai(20000);
     const auto cle = [](const dao::Recordset& films, dao::Colonne champ) {
         const std::string texte(films.vue(champ));
         return dao::cleDeComparaison(texte);
@@ -387,6 +399,60 @@ DROP TABLE mots;)");
         EXPECT_EQ(cles.size(), 20000U);
         EXPECT_TRUE(std::is_sorted(cles.begin(), cles.end())) << enonce;
     }
+}
+
+TEST(Requetes, TheSameRowsInAnotherOrderAreTakenOverAsTheyWouldBeRead) {
+    BaseNombreuse essai(1200);
+    const std::array<std::string_view, 2> portees{"Note", "Annee"};
+    long souffles = 0;
+    essai.base.respireAvec([&souffles] { ++souffles; });
+    const auto lignes = [](dao::Recordset& jeu) {
+        std::vector<std::string> textes;
+        std::array<dao::Colonne, 6> colonnes{jeu.colonne("Titre"), jeu.colonne("Realisateur"), jeu.colonne("Annee"),
+                                             jeu.colonne("Genre"), jeu.colonne("Note"),        jeu.colonne("Support")};
+        for (jeu.MoveFirst(); !jeu.Eof(); jeu.MoveNext()) {
+            std::string& texte = textes.emplace_back();
+            for (const dao::Colonne colonne : colonnes)
+                texte.append(jeu.vue(colonne)).append("|");
+        }
+        return textes;
+    };
+    const auto exigeLaMeme = [&](const std::string& enonce, dao::Recordset& precedent, bool reprise) {
+        souffles = 0;
+        dao::Recordset autre = essai.base.OpenRecordset(enonce, portees, precedent);
+        const long deLAutre = souffles;
+        souffles = 0;
+        dao::Recordset lue = essai.base.OpenRecordset(enonce, portees);
+        EXPECT_EQ(deLAutre < souffles, reprise) << enonce;
+        EXPECT_EQ(lignes(autre), lignes(lue)) << enonce;
+        precedent = std::move(autre);
+    };
+    const std::vector<std::string> tris{"Titre", "Annee", "Realisateur", "Genre", "Note", "Titre", "Note", "Duree"};
+    const std::vector<std::string> origines{"FROM Films%", kJoint + "%, Titre2 ASC",
+                                            kJointEntreParentheses + " WHERE Pret=\"\"%, Titre2 ASC",
+                                            kSans + "%, Titre2 ASC", "FROM Films WHERE INSTR(Titre, \"mer\")>0%"};
+    const auto enonce = [](std::string origine, const std::string& tri) {
+        return "SELECT * " + origine.replace(origine.find('%'), 1, " ORDER BY " + tri + " ASC");
+    };
+    dao::Recordset jeu;
+    for (const std::string& origine : origines) {
+        exigeLaMeme(enonce(origine, "Genre"), jeu, false);
+        for (const std::string& tri : tris)
+            exigeLaMeme(enonce(origine, tri), jeu, true);
+    }
+    jeu = essai.base.OpenRecordset(enonce(origines[1], "Support"), portees);
+    for (const char* tri : {"Titre", "Support", "Realisateur2", "Support"})
+        exigeLaMeme(enonce(origines[1], tri), jeu, true);
+    jeu.MoveFirst();
+    jeu.Edit();
+    jeu.assigne("Genre", "À part");
+    jeu.Update();
+    exigeLaMeme(enonce(origines[1], "Genre"), jeu, false);
+    exigeLaMeme(enonce(origines[1], "Note"), jeu, true);
+    essais::AutreProgramme(essai.chemin).execute("UPDATE Films SET Note = 5 WHERE Note = 3");
+    exigeLaMeme(enonce(origines[1], "Titre"), jeu, false);
+    jeu.allege();
+    exigeLaMeme(enonce(origines[1], "Note"), jeu, false);
 }
 
 TEST(Requetes, ATableIsWalkedInSlicesThatPartNoValue) {
