@@ -2,6 +2,7 @@
 // outside by its published control names.
 
 #include "Guetteur.h"
+#include "platform/systeme/Memoire.h"
 #include "ui/Apparence.h"
 #include "ui/Programme.h"
 
@@ -178,6 +179,7 @@ void mesure(const std::string& dossier, std::size_t clics, bool filtre) {
 }  // namespace
 
 int main(int nombre, char** mots) try {
+    systeme::gardeLesGrandsBlocsAPart();  // as the program does
     QApplication application(nombre, mots);
     QApplication::setApplicationName(QStringLiteral("Ambrelis"));
     if (nombre < 2) throw std::invalid_argument("usage: mesure_fenetre DOSSIER [CLICS | filtre]");

@@ -4,6 +4,7 @@
 #include "Guetteur.h"
 #include "SansFenetre.h"
 #include "Surdite.h"
+#include "platform/systeme/Memoire.h"
 #include "ui/Apparence.h"
 #include "ui/ModeleArbre.h"
 #include "ui/Palettes.h"
@@ -312,6 +313,7 @@ class Seance {
 }  // namespace
 
 int main(int nombre, char** mots) try {
+    systeme::gardeLesGrandsBlocsAPart();  // as the program does
     QApplication application(nombre, mots);
     QApplication::setApplicationName(QStringLiteral("Ambrelis"));
     if (nombre < 3) throw std::invalid_argument("usage: mesure_gestes DOSSIER FICHES [essentiel] [piles]");

@@ -3,6 +3,7 @@
 
 #include "Affiches.h"
 #include "Guetteur.h"
+#include "platform/systeme/Memoire.h"
 #include "ui/Apparence.h"
 #include "ui/MurDAffiches.h"
 #include "ui/Programme.h"
@@ -110,6 +111,7 @@ void mesure(const std::string& dossier) {
 }  // namespace
 
 int main(int nombre, char** mots) try {
+    systeme::gardeLesGrandsBlocsAPart();  // as the program does
     QApplication application(nombre, mots);
     QApplication::setApplicationName(QStringLiteral("Ambrelis"));
     if (nombre < 2) throw std::invalid_argument("usage: mesure_mur DOSSIER");

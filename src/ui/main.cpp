@@ -3,6 +3,7 @@
 #include "app/Ouvertures.h"
 #include "platform/fichiers/Fichiers.h"
 #include "platform/systeme/DossierProgramme.h"
+#include "platform/systeme/Memoire.h"
 #include "ui/Apparence.h"
 #include "ui/FinDemandee.h"
 #include "ui/Programme.h"
@@ -33,6 +34,7 @@ void remetsLesFichiers(const std::string& dossier, const std::vector<std::string
 }  // namespace
 
 int main(int argc, char** argv) {
+    systeme::gardeLesGrandsBlocsAPart();
     int deQt = motsDeQt(argc, argv);
     const app::Appel appel = app::lisAppel({argv + deQt, argv + argc});
     if (!appel.reponse.empty()) {
