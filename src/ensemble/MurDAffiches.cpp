@@ -3,6 +3,7 @@
 #include "browse/ZonesEtTris.h"
 #include "platform/dao/Comparaison.h"
 #include "platform/dao/LigneSupprimee.h"
+#include "util/Ascii.h"
 #include "util/Nombres.h"
 #include "util/Repli.h"
 
@@ -124,8 +125,16 @@ std::string sansBlancDevant(std::string_view texte) {
     return std::string(texte.substr(std::min(texte.find_first_not_of(' '), texte.size())));
 }
 
+// Of a million titles nearly all begin with another letter.
+bool commenceAutrement(std::string_view titre, std::string_view frappe) {
+    const std::size_t debut = std::min(titre.find_first_not_of(' '), titre.size());
+    return debut < titre.size() && util::estUneLettre(titre[debut]) && util::estUneLettre(frappe.front()) &&
+           util::enMinuscule(titre[debut]) != frappe.front();
+}
+
 bool commencePar(std::string_view titre, std::string_view frappe, std::string& repli) {
     constexpr std::size_t kOctetsParLettre = 4, kEnPlus = 16;
+    if (commenceAutrement(titre, frappe)) return false;
     repli.clear();
     util::ajouteRepli(titre.substr(0, kOctetsParLettre * frappe.size() + kEnPlus), repli);
     const std::string_view texte = repli;
