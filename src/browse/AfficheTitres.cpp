@@ -1,5 +1,6 @@
 #include "browse/AfficheTitres.h"
 
+#include "db/Requete.h"
 #include "platform/dao/Comparaison.h"
 #include "platform/systeme/Horloge.h"
 #include "util/Ascii.h"
@@ -15,7 +16,8 @@ namespace browse {
 namespace {
 
 constexpr std::string_view kHorsTri = " Hors tri !";
-constexpr std::size_t kOctetsParTitre = 24;  // a usual title's length, to reserve the tree's text once
+constexpr std::size_t kOctetsParTitre = 48;  // more than usual: a text that outgrows it stands in memory twice
+constexpr std::uint32_t kFilmsParSouffle = 256;
 
 // 1 to 26 for a title that begins with a letter, accented or not, 0 for any other.
 std::size_t rangDeLettre(std::string_view titre) {
@@ -75,9 +77,14 @@ class GroupesParValeur {
     const std::string m_cleVide = dao::cleDeComparaison("");
 };
 
-void remplit(Arbre& arbre, dao::Recordset& liste, const Tri& tri) {
+Arbre arbreDe(const Contexte& c, dao::Recordset& liste, const Tri& tri) {
+    Arbre arbre;
+    const auto films = static_cast<std::size_t>(liste.RecordCount());
+    if (films == 0) return arbre;
+    arbre.reserve(films, films * kOctetsParTitre);
     GroupesParLettre lettres(arbre);
     GroupesParValeur valeurs(arbre);
+    const dao::Souffle souffle = db::souffle(c);
     const dao::Colonne titres = liste.colonne("Titre");
     const dao::Colonne champ = liste.colonne(tri.champ);
     std::uint32_t position = 0;
@@ -87,28 +94,41 @@ void remplit(Arbre& arbre, dao::Recordset& liste, const Tri& tri) {
         const std::string_view titre = liste.vue(titres);
         if (tri.groupes == Groupes::Lettre) groupe = lettres.groupe(titre);
         arbre.ajouteFilm(groupe, ++position, titre);
+        if (position % kFilmsParSouffle == 0) souffle();
     }
+    return arbre;
+}
+
+void montreLesTitres(const Contexte& c, Arbre&& arbre) {
+    VueArbre& vue = c.liste.TreeView1;
+    vue.Nodes.remplace(std::move(arbre));
+    vue.SelectedItem = 0;
+    vue.coches.clear();
 }
 
 }  // namespace
 
-void AfficheTitres(const Contexte& c, int tri) {
-    videLesTitres(c);
-    const long lignes = c.base.liste.RecordCount();
+void AfficheTitres(const Contexte& c, dao::Recordset liste, int tri) {
+    Arbre arbre = arbreDe(c, liste, triDe(tri));
+    const long lignes = liste.RecordCount();
     c.liste.Frame1.Caption = "Liste de films (" + util::phraseCompte(lignes, "# titre", "# titres") + ")";
-    if (lignes < 1) return;
-    Arbre& arbre = c.liste.TreeView1.Nodes;
-    const auto films = static_cast<std::size_t>(lignes);
-    arbre.reserve(films, films * kOctetsParTitre);
-    remplit(arbre, c.base.liste, triDe(tri));
+    c.base.liste = std::move(liste);
+    montreLesTitres(c, std::move(arbre));
     if (c.liste.AffStats.Value == 1) AffStats_Click(c);
 }
 
+// The old tree is still shown while the new one is filled: meanwhile none of its rows is to be read from the new listing.
+void AfficheTitres(const Contexte& c, int tri) {
+    try {
+        AfficheTitres(c, std::move(c.base.liste), tri);
+    } catch (...) {
+        videLesTitres(c);
+        throw;
+    }
+}
+
 void videLesTitres(const Contexte& c) {
-    VueArbre& vue = c.liste.TreeView1;
-    vue.Nodes.Clear();
-    vue.SelectedItem = 0;
-    vue.coches.clear();
+    montreLesTitres(c, Arbre());
 }
 
 // Cut to one decimal in whole numbers: a quotient of its own would make 28.9 of 29.

@@ -4,8 +4,12 @@
 
 namespace browse {
 
-// Fills the tree from the listing recordset, under the headings of a sort, in one pass. Throws dao::ErreurDao when the
-// listing cannot be read.
+// Fills a tree from a listing, under the headings of a sort, aside: the window lives on meanwhile and shows the old tree. Then
+// listing and tree take the place of the old ones at once. Throws dao::ErreurDao when the listing cannot be read: both are
+// as they were.
+void AfficheTitres(const Contexte& c, dao::Recordset liste, int tri);
+// The same from the listing that stands in its place already; it is away meanwhile, and what throws leaves neither it nor a
+// tree.
 void AfficheTitres(const Contexte& c, int tri);
 
 // A tree without nodes.

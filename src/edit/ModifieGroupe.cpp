@@ -23,18 +23,18 @@ bool groupeChoisi(const Contexte& c) {
     return vue.SelectedItem >= 1 && vue.SelectedItem <= vue.Nodes.Count() && vue.Nodes.estGroupe(vue.SelectedItem);
 }
 
-const std::vector<std::int32_t>& enfants(const Contexte& c) {
+browse::Arbre::Enfants enfants(const Contexte& c) {
     return c.liste.TreeView1.Nodes.enfants(c.liste.TreeView1.SelectedItem);
 }
 
 // Answers the film that stopped it. Of a film that is gone the tree still knows the title.
 std::optional<db::CleFilm> renomme(const Contexte& c, const std::string& champ, const std::string& valeur,
                                    bool personnel) {
-    const std::vector<std::int32_t>& noeuds = enfants(c);
+    const browse::Arbre::Enfants noeuds = enfants(c);
     std::optional<db::CleFilm> introuvable;
     TravailParLots travail(c, db::NumeroErreur::ModifieGroupe, std::ssize(noeuds));
     travail.execute(std::ssize(noeuds), [&](long rang) -> TravailParLots::Pas {
-        const int noeud = noeuds[rang];
+        const int noeud = noeuds[static_cast<std::size_t>(rang)];
         const db::CleFilm film =
             filmDuNoeud(c, noeud).value_or(db::CleFilm{std::string(c.liste.TreeView1.Nodes.Text(noeud)), ""});
         dao::Recordset ligne = travail.ouvre(personnel ? db::enoncePossession(film) : db::enonceFilmModifie(film));

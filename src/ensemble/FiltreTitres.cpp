@@ -104,20 +104,8 @@ void FiltreTitres::suisLaListe(const Contexte& c) {
     m_signes.reserve(m_lignes);
     for (std::size_t i = 0; m_lignes > 0 && i < kChamps.size(); ++i)
         m_colonnes[i] = c.base.liste.colonne(kChamps[i]);
-    if (estLimite()) m_limite = lignesLimitees(c);
-}
-
-LignesVues FiltreTitres::lignesLimitees(const Contexte& c) const {
-    LignesVues lignes(m_lignes);
-    if (m_lignes == 0) return lignes;
-    dao::Recordset& liste = c.base.liste;
-    const dao::PlaceGardee garde(liste);
-    liste.MoveFirst();
-    for (std::uint32_t position = 1; position <= m_lignes; ++position, liste.MoveNext())
-        dao::siPresente([&] {
-            if (m_limites->contains(cleDeLaLigne(liste, m_colonnes[0], m_colonnes[1]))) lignes.ajoute(position);
-        });
-    return lignes;
+    m_limiteALire = estLimite();
+    if (m_limiteALire) m_limite = LignesVues(m_lignes);
 }
 
 bool FiltreTitres::estVu(const browse::Arbre& arbre, int noeud) const {
@@ -152,6 +140,7 @@ void FiltreTitres::lit(const Contexte& c, std::size_t lignes) {
 
 // A row that someone deleted meanwhile has no text.
 void FiltreTitres::ajouteLigne(dao::Recordset& liste) {
+    if (m_limiteALire) suisLaLimite(liste);
     const std::size_t debut = m_textes.size();
     const bool presente = dao::siPresente([&] {
         const bool plein = debut > kOctetsMax;
@@ -162,6 +151,13 @@ void FiltreTitres::ajouteLigne(dao::Recordset& liste) {
     if (!presente) m_textes.resize(debut);
     ajouteSignes(std::string_view(m_textes).substr(debut), m_signes.emplace_back());
     m_fins.push_back(static_cast<std::uint32_t>(m_textes.size()));
+}
+
+void FiltreTitres::suisLaLimite(const dao::Recordset& liste) {
+    dao::siPresente([&] {
+        const bool voulu = m_limites->contains(cleDeLaLigne(liste, m_colonnes[0], m_colonnes[1]));
+        if (voulu) m_limite->ajoute(static_cast<std::uint32_t>(lues()) + 1);
+    });
 }
 
 void FiltreTitres::ajouteChamp(std::string_view valeur, std::size_t auPlus) {
@@ -202,6 +198,7 @@ void FiltreTitres::limite(const Contexte& c, const std::vector<std::uint32_t>& l
     suisLaListe(c);
     m_limite = LignesVues(m_lignes);
     m_limites.emplace();
+    m_limiteALire = false;
     m_perimees = true;
     if (m_lignes == 0) return;
     dao::Recordset& liste = c.base.liste;
@@ -218,6 +215,7 @@ void FiltreTitres::limite(const Contexte& c, const std::vector<std::uint32_t>& l
 void FiltreTitres::leveLaLimite() {
     m_limite.reset();
     m_limites.reset();
+    m_limiteALire = false;
     m_perimees = true;
 }
 

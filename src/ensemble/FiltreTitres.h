@@ -73,9 +73,9 @@ class FiltreTitres {
     [[nodiscard]] static bool prolonge(const std::vector<std::string>& mots, const std::vector<std::string>& autres);
 
     void suisLaListe(const Contexte& c);
-    [[nodiscard]] LignesVues lignesLimitees(const Contexte& c) const;
     void lit(const Contexte& c, std::size_t lignes);
     void ajouteLigne(dao::Recordset& liste);
+    void suisLaLimite(const dao::Recordset& liste);
     void ajouteChamp(std::string_view valeur, std::size_t auPlus);
     [[nodiscard]] bool convient(std::size_t rang, const Signes& voulus) const;
     [[nodiscard]] std::size_t lues() const { return m_fins.size(); }
@@ -91,6 +91,7 @@ class FiltreTitres {
     LignesVues m_vues;
     std::optional<std::unordered_set<std::string>> m_limites;  // title and director of the films looked at
     std::optional<LignesVues> m_limite;                        // their rows of this listing
+    bool m_limiteALire = false;                                // as far as it is read
     std::string m_base;                                        // that they are of
     bool m_perimees = true;  // m_vues are of before: of another listing, or of another limit
     int m_version = 0;

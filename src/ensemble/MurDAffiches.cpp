@@ -3,6 +3,7 @@
 #include "browse/ZonesEtTris.h"
 #include "platform/dao/Comparaison.h"
 #include "platform/dao/LigneSupprimee.h"
+#include "util/Ascii.h"
 #include "util/Nombres.h"
 #include "util/Repli.h"
 
@@ -105,36 +106,35 @@ RangeeDuMur aVoir(const Contexte& c) {
             lis(liste, bonnes, liste.RecordCount(), depuisAujourdhui(c, nombre))};
 }
 
-void ajouteLesFilms(const browse::Arbre& arbre, int groupe, const LignesVues* vues, Mur& mur) {
-    for (const std::int32_t noeud : arbre.enfants(groupe)) {
-        if (arbre.estGroupe(noeud) || (vues && !vues->contient(arbre.position(noeud)))) continue;
-        mur.tuiles.push_back({noeud, -1});
-        ++mur.sections.back().nombre;
+void ajouteLaSection(const browse::Arbre& arbre, int groupe, bool entete, const LignesVues* vues, Mur& mur) {
+    int nombre = 0;
+    const auto enfants = arbre.enfants(groupe);
+    if (!vues && !enfants.empty() && !arbre.estGroupe(enfants.front())) {
+        nombre = static_cast<int>(enfants.size());
+    } else if (vues) {
+        for (const std::int32_t noeud : enfants) {
+            if (arbre.estGroupe(noeud) || !vues->contient(arbre.position(noeud))) continue;
+            mur.filtrees->push_back(noeud);
+            ++nombre;
+        }
     }
+    if (nombre > 0) mur.sections.push_back({groupe, mur.nombre(), nombre, entete, false});
 }
 
-void ajouteLaSection(const browse::Arbre& arbre, int groupe, bool nommee, const LignesVues* vues, Mur& mur) {
-    Mur::Section section;
-    if (nommee) {
-        const std::string_view texte = arbre.texteDuGroupe(groupe);
-        section.titre = texte.substr(std::min(texte.find_first_not_of(' '), texte.size()));
-    }
-    mur.sections.push_back(std::move(section));
-    ajouteLesFilms(arbre, groupe, vues, mur);
-    if (mur.sections.back().nombre == 0) return mur.sections.pop_back();
-    if (nommee) mur.sections.back().precision = util::phraseCompte(mur.sections.back().nombre, "# film", "# films");
+std::string sansBlancDevant(std::string_view texte) {
+    return std::string(texte.substr(std::min(texte.find_first_not_of(' '), texte.size())));
 }
 
-void ajouteLaRangee(const RangeeDuMur& rangee, Mur& mur) {
-    mur.sections.push_back({rangee.titre, rangee.precision, static_cast<int>(rangee.films.size()), true});
-    for (const FilmDuMur& film : rangee.films) {
-        mur.tuiles.push_back({0, static_cast<std::int32_t>(mur.films.size())});
-        mur.films.push_back(film);
-    }
+// Of a million titles nearly all begin with another letter.
+bool commenceAutrement(std::string_view titre, std::string_view frappe) {
+    const std::size_t debut = std::min(titre.find_first_not_of(' '), titre.size());
+    return debut < titre.size() && util::estUneLettre(titre[debut]) && util::estUneLettre(frappe.front()) &&
+           util::enMinuscule(titre[debut]) != frappe.front();
 }
 
 bool commencePar(std::string_view titre, std::string_view frappe, std::string& repli) {
     constexpr std::size_t kOctetsParLettre = 4, kEnPlus = 16;
+    if (commenceAutrement(titre, frappe)) return false;
     repli.clear();
     util::ajouteRepli(titre.substr(0, kOctetsParLettre * frappe.size() + kEnPlus), repli);
     const std::string_view texte = repli;
@@ -164,28 +164,70 @@ bool peutAvoirDesRangees(const browse::EtatListe& liste, const browse::PageDuGro
     return page.groupe == 0 && page.films > 0 && (zone == browse::kZoneTous || zone == browse::kZoneMesFilms);
 }
 
+int Mur::nombre() const {
+    return sections.empty() ? 0 : sections.back().premiere + sections.back().nombre;
+}
+
+int Mur::desRangees() const {
+    return rangees.empty() ? 0 : sections[rangees.size() - 1].premiere + sections[rangees.size() - 1].nombre;
+}
+
+const FilmDuMur* Mur::film(int tuile) const {
+    if (tuile >= desRangees()) return nullptr;
+    std::size_t rangee = 0;
+    while (tuile >= sections[rangee].premiere + sections[rangee].nombre)
+        ++rangee;
+    return &rangees[rangee].films[static_cast<std::size_t>(tuile - sections[rangee].premiere)];
+}
+
+std::int32_t Mur::noeud(const browse::Arbre& arbre, int tuile) const {
+    if (tuile < desRangees()) return 0;
+    if (filtrees) return (*filtrees)[static_cast<std::size_t>(tuile - desRangees())];
+    const auto apres = std::upper_bound(sections.begin(), sections.end(), tuile,
+                                        [](int cherche, const Section& section) { return cherche < section.premiere; });
+    const Section& section = *(apres - 1);
+    return arbre.enfants(section.groupe)[static_cast<std::size_t>(tuile - section.premiere)];
+}
+
+std::string Mur::titre(const browse::Arbre& arbre, std::size_t section) const {
+    if (section < rangees.size()) return rangees[section].titre;
+    const Section& voulue = sections[section];
+    if (!voulue.entete) return {};
+    return voulue.groupe == 0 ? nomDeLaListe : sansBlancDevant(arbre.texteDuGroupe(voulue.groupe));
+}
+
+std::string Mur::precision(std::size_t section) const {
+    if (section < rangees.size()) return rangees[section].precision;
+    const Section& voulue = sections[section];
+    return voulue.entete && voulue.groupe != 0 ? util::phraseCompte(voulue.nombre, "# film", "# films") : "";
+}
+
 Mur murDAffiches(const browse::EtatListe& liste, const browse::PageDuGroupe& page, const LignesVues* vues,
                  const std::vector<RangeeDuMur>& rangees) {
     const browse::Arbre& arbre = liste.TreeView1.Nodes;
     Mur mur;
+    mur.rangees = rangees;
     for (const RangeeDuMur& rangee : rangees)
-        ajouteLaRangee(rangee, mur);
-    mur.tuiles.reserve(mur.tuiles.size() + static_cast<std::size_t>(page.films));
+        mur.sections.push_back({0, mur.nombre(), static_cast<int>(rangee.films.size()), true, true});
+    if (vues) mur.filtrees.emplace();
+    if (!rangees.empty()) mur.nomDeLaListe = page.nom;
     if (page.groupe != 0) {
         ajouteLaSection(arbre, page.groupe, false, vues, mur);
         return mur;
     }
-    ajouteLaSection(arbre, 0, false, vues, mur);
-    if (!mur.sections.empty() && !rangees.empty() && !mur.sections.back().uneLigne)
-        mur.sections.back().titre = page.nom;
-    for (const std::int32_t racine : arbre.enfants(0))
-        if (arbre.estGroupe(racine)) ajouteLaSection(arbre, racine, true, vues, mur);
+    const auto racines = arbre.enfants(0);
+    if (!racines.empty() && !arbre.estGroupe(racines.front())) {
+        ajouteLaSection(arbre, 0, !mur.nomDeLaListe.empty(), vues, mur);
+        return mur;
+    }
+    for (const std::int32_t racine : racines)
+        ajouteLaSection(arbre, racine, true, vues, mur);
     return mur;
 }
 
 std::string compteDuMur(const Mur& mur, const browse::PageDuGroupe& page) {
-    const auto films = std::count_if(mur.tuiles.begin(), mur.tuiles.end(), [](const auto& t) { return t.film < 0; });
-    return util::phraseCompte(films, "# film", "# films") + " sur " + std::to_string(page.films);
+    return util::phraseCompte(mur.nombre() - mur.desRangees(), "# film", "# films") + " sur " +
+           std::to_string(page.films);
 }
 
 std::string nomDuFilm(std::string_view titre, std::string_view realisateur, std::string_view annee) {
@@ -198,14 +240,12 @@ std::string nomDuFilm(std::string_view titre, std::string_view realisateur, std:
 int tuileQuiCommencePar(const Mur& mur, const browse::Arbre& arbre, std::string_view frappe, int depuis) {
     std::string voulu, repli;
     util::ajouteRepli(frappe, voulu);
-    const auto debut = std::find_if(mur.tuiles.begin(), mur.tuiles.end(), [](const auto& t) { return t.noeud != 0; });
-    const auto saut = debut - mur.tuiles.begin(), nombre = mur.tuiles.end() - debut;
+    const int saut = mur.desRangees(), nombre = mur.nombre() - saut;
     if (voulu.empty() || nombre == 0) return -1;
-    const auto premier = std::max<std::ptrdiff_t>(0, depuis - saut);
-    for (std::ptrdiff_t pas = 0; pas < nombre; ++pas) {
-        const auto tuile = saut + (premier + pas) % nombre;
-        if (commencePar(arbre.Text(mur.tuiles[static_cast<std::size_t>(tuile)].noeud), voulu, repli))
-            return static_cast<int>(tuile);
+    const int premier = std::max(0, depuis - saut);
+    for (int pas = 0; pas < nombre; ++pas) {
+        const int tuile = saut + (premier % nombre + pas) % nombre;
+        if (commencePar(arbre.Text(mur.noeud(arbre, tuile)), voulu, repli)) return tuile;
     }
     return -1;
 }

@@ -5,6 +5,7 @@
 #include "ensemble/LignesVues.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,21 +33,27 @@ struct RangeeDuMur {
 // The listing is of all films or of all that are owned, and nothing of it is chosen: they may stand above it.
 [[nodiscard]] bool peutAvoirDesRangees(const browse::EtatListe& liste, const browse::PageDuGroupe& page);
 
+// Of the tree's films it keeps ranges: what it says of them is asked of the tree that it was made from, and of no other.
 struct Mur {
-    struct Tuile {
-        std::int32_t noeud = 0;  // of the listing
-        std::int32_t film = -1;  // else of `films`
-        friend bool operator==(const Tuile&, const Tuile&) = default;
-    };
     struct Section {
-        std::string titre, precision;  // "": no heading
-        int nombre = 0;                // of its tiles, which follow those of the section before
-        bool uneLigne = false;
+        std::int32_t groupe = 0;  // the heading whose films they are; 0: the root's, or those of a line above
+        int premiere = 0;         // of its tiles, which follow those of the section before
+        int nombre = 0;
+        bool entete = false;    // it has a title
+        bool uneLigne = false;  // it is a line above
         friend bool operator==(const Section&, const Section&) = default;
     };
     std::vector<Section> sections;
-    std::vector<Tuile> tuiles;
-    std::vector<FilmDuMur> films;
+    std::vector<RangeeDuMur> rangees;                   // the lines above: the first sections
+    std::string nomDeLaListe;                           // above a flat list that has lines above it
+    std::optional<std::vector<std::int32_t>> filtrees;  // the nodes of its films; nothing: all those of each section
+
+    [[nodiscard]] int nombre() const;                      // of tiles
+    [[nodiscard]] int desRangees() const;                  // how many of them are of the lines above
+    [[nodiscard]] const FilmDuMur* film(int tuile) const;  // of those; nullptr for a film of the listing
+    [[nodiscard]] std::int32_t noeud(const browse::Arbre& arbre, int tuile) const;  // 0 for one of a line above
+    [[nodiscard]] std::string titre(const browse::Arbre& arbre, std::size_t section) const;  // "": no heading
+    [[nodiscard]] std::string precision(std::size_t section) const;
     friend bool operator==(const Mur&, const Mur&) = default;
 };
 

@@ -15,7 +15,7 @@ VueTitres::LienArbre::Vue VueTitres::LienArbre::releve() const {
     const QModelIndex choix = m_vue.m_modele.indexDuNoeud(m_choisi);
     const QRect ligne = m_vue.visualRect(choix);
     if (!ligne.isEmpty() && m_vue.viewport()->rect().intersects(ligne)) vue.hauteurDuChoix = ligne.top();
-    vue.groupeDuChoix = libelle(choix.parent());
+    vue.groupeDuChoix = m_vue.libelle(choix.parent());
     vue.rangDuChoix = choix.row();
     return vue;
 }
@@ -78,9 +78,9 @@ void VueTitres::LienArbre::recommence() {
 void VueTitres::LienArbre::passeAuVoisin() {
     const ModeleArbre& modele = m_vue.m_modele;
     QModelIndex groupe;
-    if (!m_avant.groupeDuChoix.isEmpty()) {
+    if (!m_avant.groupeDuChoix.empty()) {
         for (int ligne = 0; !groupe.isValid() && ligne < modele.rowCount(); ++ligne)
-            if (libelle(modele.index(ligne, 0)) == m_avant.groupeDuChoix) groupe = modele.index(ligne, 0);
+            if (m_vue.libelle(modele.index(ligne, 0)) == m_avant.groupeDuChoix) groupe = modele.index(ligne, 0);
         if (!groupe.isValid()) return;
     }
     const int films = modele.rowCount(groupe);

@@ -7,9 +7,6 @@
 
 namespace ui {
 
-// What a heading is called, without the percentage that may follow.
-[[nodiscard]] QString libelle(const QModelIndex& groupe);
-
 // The tree's part of the liaison: the node list is too large to be compared, its generation and count tell it changed.
 // A list filled again for the same zone, sort and search stays where it was, its headings open and the chosen row at the
 // same height; another one begins at its top, or where its chosen row is.
@@ -30,10 +27,10 @@ class VueTitres::LienArbre final : public Lien {
     // Known before a command, used by each writing during it and after it.
     struct Vue {
         Contenu contenu;
-        std::set<QString> ouverts;
+        Libelles ouverts;
         int defilement = 0;
         std::optional<int> hauteurDuChoix;  // of the chosen row in the view, while it is in sight
-        QString groupeDuChoix{};            // the text of its heading; none in a flat list
+        std::string groupeDuChoix{};        // the label of its heading; none in a flat list
         int rangDuChoix = -1;               // under it
     };
     [[nodiscard]] Contenu contenu() const;

@@ -45,14 +45,21 @@ void ModeleArbre::numerote() {
     m_debuts.push_back(m_vus->size() + 1);
 }
 
-std::span<const std::int32_t> ModeleArbre::enfants(int indice) const {
-    if (!m_vus) return m_etat.Nodes.enfants(indice);
+std::span<const std::int32_t> ModeleArbre::enfantsVus(int indice) const {
     if (indice == 0) return m_racines;
     const int racine = rang(indice);
     if (racine < 0) return {};
     const std::size_t debut = m_debuts[static_cast<std::size_t>(racine)];
     const std::size_t fin = m_debuts[static_cast<std::size_t>(racine) + 1] - 1;  // where the next heading stands
     return std::span(*m_vus).subspan(debut, fin - debut);
+}
+
+std::size_t ModeleArbre::nombre(int indice) const {
+    return m_vus ? enfantsVus(indice).size() : m_etat.Nodes.enfants(indice).size();
+}
+
+int ModeleArbre::enfant(int indice, std::size_t ligne) const {
+    return m_vus ? enfantsVus(indice)[ligne] : m_etat.Nodes.enfants(indice)[ligne];
 }
 
 int ModeleArbre::rang(int indice) const {
@@ -65,9 +72,10 @@ bool ModeleArbre::estVu(int indice) const {
 }
 
 int ModeleArbre::premierFilm() const {
-    for (const std::int32_t racine : enfants(0)) {
+    for (std::size_t ligne = 0; ligne < nombre(0); ++ligne) {
+        const int racine = enfant(0, ligne);
         if (!m_etat.Nodes.estGroupe(racine)) return racine;
-        if (const auto films = enfants(racine); !films.empty()) return films.front();
+        if (nombre(racine) > 0) return enfant(racine, 0);
     }
     return 0;
 }
@@ -87,8 +95,8 @@ QModelIndex ModeleArbre::indexDuNoeud(int indice) const {
 
 QModelIndex ModeleArbre::index(int ligne, int colonne, const QModelIndex& parent) const {
     if (colonne != 0 || ligne < 0 || ligne >= rowCount(parent)) return {};
-    const auto siens = enfants(parent.isValid() ? noeud(parent) : 0);
-    return createIndex(ligne, 0, static_cast<quintptr>(siens[static_cast<std::size_t>(ligne)]));
+    const int indice = enfant(parent.isValid() ? noeud(parent) : 0, static_cast<std::size_t>(ligne));
+    return createIndex(ligne, 0, static_cast<quintptr>(indice));
 }
 
 QModelIndex ModeleArbre::parent(const QModelIndex& enfant) const {
@@ -96,9 +104,8 @@ QModelIndex ModeleArbre::parent(const QModelIndex& enfant) const {
 }
 
 int ModeleArbre::rowCount(const QModelIndex& parent) const {
-    if (!parent.isValid()) return static_cast<int>(enfants(0).size());
-    if (!m_etat.Nodes.estGroupe(noeud(parent))) return 0;
-    return static_cast<int>(enfants(noeud(parent)).size());
+    if (parent.isValid() && !m_etat.Nodes.estGroupe(noeud(parent))) return 0;
+    return static_cast<int>(nombre(parent.isValid() ? noeud(parent) : 0));
 }
 
 int ModeleArbre::columnCount(const QModelIndex&) const {

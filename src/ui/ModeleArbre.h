@@ -58,7 +58,9 @@ class ModeleArbre final : public QAbstractItemModel {
     void coche(int indice, bool cochee);  // the user's tick
 
   private:
-    [[nodiscard]] std::span<const std::int32_t> enfants(int indice) const;
+    [[nodiscard]] std::span<const std::int32_t> enfantsVus(int indice) const;  // while it is filtered
+    [[nodiscard]] std::size_t nombre(int indice) const;                        // of children shown
+    [[nodiscard]] int enfant(int indice, std::size_t ligne) const;
     [[nodiscard]] int rang(int indice) const;
     [[nodiscard]] QVariant duFilm(int indice, int role) const;
     void numerote();

@@ -17,7 +17,7 @@ class ModeleMur final : public QAbstractListModel {
     void finis() { endResetModel(); }
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override {
-        return parent.isValid() ? 0 : static_cast<int>(m_mur.mur().tuiles.size());
+        return parent.isValid() ? 0 : m_mur.mur().nombre();
     }
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
         if (!index.isValid()) return {};

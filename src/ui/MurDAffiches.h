@@ -81,6 +81,12 @@ class MurDAffiches final : public QListView {
         QString titre, realisateur, annee;
         QByteArray film;  // what its poster is kept under
     };
+    struct Entete {  // of a section that was in sight
+        QString titre, precision;
+    };
+    [[nodiscard]] const browse::Arbre& arbre() const;
+    [[nodiscard]] int noeud(int tuile) const;  // of the tree that the tiles are of
+    const Entete& entete(std::size_t section);
     [[nodiscard]] browse::MarquesFilm marques(int tuile) const;
     void replace(int ancre, int hauteurDeLAncre);
     [[nodiscard]] ensemble::PlanDuMur::Mesures mesures(int niveau) const;
@@ -96,7 +102,7 @@ class MurDAffiches final : public QListView {
     [[nodiscard]] bool peutLire() const;
     [[nodiscard]] int premiereEnVue() const;
     void repeins(const QByteArray& film);
-    void peintEntete(QPainter& peintre, std::size_t section) const;
+    void peintEntete(QPainter& peintre, std::size_t section);
     void peintTuile(QPainter& peintre, int tuile) const;
     [[nodiscard]] bool frappeEnCours() const;
     Interface& interface();
@@ -107,6 +113,8 @@ class MurDAffiches final : public QListView {
     ModeleMur* m_modele;
     ChargeurAffiches m_chargeur;
     std::unordered_map<int, Legende> m_legendes;
+    std::unordered_map<std::size_t, Entete> m_entetes;
+    const Entete m_sansEntete;
     std::vector<int> m_voulues;  // tiles, in the order in which they are wanted
     std::size_t m_rang = 0;      // of the next of them
     std::size_t m_enVue = 0;     // how many of them are in sight

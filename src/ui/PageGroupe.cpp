@@ -135,21 +135,20 @@ void PageGroupe::paintEvent(QPaintEvent*) {
 
 void PageGroupe::choisit(int tuile) {
     if (m_perimee) return;  // the tiles are of before
-    const ensemble::Mur::Tuile choisie = m_mur->mur().tuiles[static_cast<std::size_t>(tuile)];
-    if (choisie.film < 0) {
-        m_atelier.execute(app::TreeView1_NodeClick, choisie.noeud);
+    if (const ensemble::FilmDuMur* film = m_mur->mur().film(tuile)) {
+        const db::CleFilm cle = film->film;  // the command may replace the wall
+        m_atelier.execute(app::montreLeFilm, cle);
         return;
     }
-    const ensemble::FilmDuMur film = m_mur->mur().films[static_cast<std::size_t>(choisie.film)];
-    m_atelier.execute(app::montreLeFilm, film.film);
+    m_atelier.execute(app::TreeView1_NodeClick, m_mur->mur().noeud(m_atelier.etats().liste.TreeView1.Nodes, tuile));
 }
 
 void PageGroupe::demandeMenu(int tuile, const QPoint& endroit) {
     if (m_perimee) return;
-    const ensemble::Mur::Tuile choisie = m_mur->mur().tuiles[static_cast<std::size_t>(tuile)];
-    if (choisie.film < 0) return emit menuDemande(choisie.noeud, endroit);
-    const ensemble::FilmDuMur film = m_mur->mur().films[static_cast<std::size_t>(choisie.film)];
-    emit menuDuFilmDemande(film.film, endroit);
+    const ensemble::FilmDuMur* film = m_mur->mur().film(tuile);
+    if (!film) return emit menuDemande(m_mur->mur().noeud(m_atelier.etats().liste.TreeView1.Nodes, tuile), endroit);
+    const db::CleFilm cle = film->film;
+    emit menuDuFilmDemande(cle, endroit);
 }
 
 void PageGroupe::renomme() const {

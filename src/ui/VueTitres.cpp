@@ -3,13 +3,13 @@
 #include "ui/DelegueTitres.h"
 #include "ui/Lecteur.h"
 #include "ui/LienArbre.h"
+#include "util/Ascii.h"
 #include "util/Nombres.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QRegularExpression>
 #include <QResizeEvent>
 #include <QScrollBar>
 #include <algorithm>
@@ -40,7 +40,16 @@ QString pourLaFrappe(const QString& texte) {
     return resultat;
 }
 
+// Of a million titles nearly all begin with another letter. Other than plain ones are folded first.
+bool commenceAutrement(std::string_view titre, const QString& frappe) {
+    const auto lettre = std::ranges::find_if_not(titre, [](char c) { return c == ' ' || (c >= '\t' && c <= '\r'); });
+    const bool simples =
+        lettre != titre.end() && static_cast<unsigned char>(*lettre) < 0x80 && frappe.front() < QChar(0x80);
+    return simples && util::enMinuscule(*lettre) != frappe.front().toLatin1();
+}
+
 bool commencePar(std::string_view titre, const QString& frappe) {
+    if (commenceAutrement(titre, frappe)) return false;
     // A character takes four bytes at most, and few letters fold into more than one.
     const auto assez = std::min(titre.size(), 4 * static_cast<std::size_t>(frappe.size() + 4));
     return pourLaFrappe(QString::fromUtf8(titre.data(), static_cast<qsizetype>(assez)).trimmed()).startsWith(frappe);
@@ -63,12 +72,6 @@ bool estUneLettre(const QKeyEvent& evenement) {
 
 }  // namespace
 
-// A heading's text without its percentage.
-QString libelle(const QModelIndex& groupe) {
-    static const QRegularExpression pourcentage(QStringLiteral(" \\([0-9]+([.,][0-9])? %\\)$"));
-    return groupe.data().toString().remove(pourcentage);
-}
-
 VueTitres::VueTitres(browse::VueArbre& etat, QWidget* parent) : QTreeView(parent), m_modele(etat) {
     setModel(&m_modele);
     setItemDelegate(new DelegueTitres(this));
@@ -84,11 +87,11 @@ VueTitres::VueTitres(browse::VueArbre& etat, QWidget* parent) : QTreeView(parent
     header()->setStretchLastSection(true);
     connect(this, &QTreeView::clicked, this, &VueTitres::clique);
     connect(this, &QTreeView::expanded, this, [this](const QModelIndex& groupe) {
-        if (!m_modele.estFiltre()) m_ouverts.insert(libelle(groupe));
+        if (!m_modele.estFiltre()) m_ouverts.emplace(libelle(groupe));
         ditLeGroupe(groupe);
     });
     connect(this, &QTreeView::collapsed, this, [this](const QModelIndex& groupe) {
-        m_ouverts.erase(libelle(groupe));
+        if (const auto ferme = m_ouverts.find(libelle(groupe)); ferme != m_ouverts.end()) m_ouverts.erase(ferme);
         ditLeGroupe(groupe);
     });
     m_resteAOuvrir.setSingleShot(true);
@@ -102,6 +105,12 @@ VueTitres::VueTitres(browse::VueArbre& etat, QWidget* parent) : QTreeView(parent
 
 std::unique_ptr<Lien> VueTitres::lien(const browse::EtatListe& liste) {
     return std::make_unique<LienArbre>(liste, *this);
+}
+
+std::string_view VueTitres::libelle(const QModelIndex& groupe) const {
+    const browse::Arbre& arbre = m_modele.etat().Nodes;
+    const int noeud = groupe.isValid() ? ModeleArbre::noeud(groupe) : 0;
+    return noeud != 0 && arbre.estGroupe(noeud) ? arbre.texteDuGroupe(noeud) : std::string_view();
 }
 
 void VueTitres::clique(const QModelIndex& index) {
@@ -158,7 +167,7 @@ bool VueTitres::choisitPremierFilm() {
     return true;
 }
 
-void VueTitres::ouvre(const std::set<QString>& libelles) {
+void VueTitres::ouvre(const Libelles& libelles) {
     if (libelles.empty()) return;
     for (int ligne = 0; ligne < m_modele.rowCount(); ++ligne) {
         const QModelIndex index = m_modele.index(ligne, 0);

@@ -9,6 +9,8 @@
 #include <QTreeView>
 #include <functional>
 #include <set>
+#include <string>
+#include <string_view>
 
 namespace ui {
 
@@ -52,16 +54,18 @@ class VueTitres final : public QTreeView {
     class LienArbre;
     static constexpr int kRetraitDArbre = 18, kRetraitDeListe = 6;
 
+    using Libelles = std::set<std::string, std::less<>>;  // of headings, without the percentages that may follow
     // What comes back when the filter goes.
     struct AvantFiltre {
-        std::set<QString> ouverts;
+        Libelles ouverts;
         int defilement = 0;
         int choisi = 0;
     };
 
     void clique(const QModelIndex& index);
     [[nodiscard]] int choisi() const;
-    void ouvre(const std::set<QString>& libelles);
+    [[nodiscard]] std::string_view libelle(const QModelIndex& groupe) const;  // empty for what is none
+    void ouvre(const Libelles& libelles);
     void ouvreTout();
     void entreParLaPremiere();
     [[nodiscard]] bool prends(const QMouseEvent& evenement);
@@ -75,7 +79,7 @@ class VueTitres final : public QTreeView {
     ModeleArbre m_modele;
     std::function<Noeuds()> m_filtre;
     AvantFiltre m_avantFiltre;
-    std::set<QString> m_ouverts;  // the labels of the open headings
+    Libelles m_ouverts;  // of the open headings
     QPersistentModelIndex m_casePressee, m_pressee;
     QTimer m_resteAOuvrir;  // headings of what is filtered, beyond those first seen
     QString m_frappe;       // typed so far, to find a title

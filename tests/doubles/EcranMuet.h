@@ -12,6 +12,7 @@ class EcranMuet final : public ecran::Ecran {
   public:
     int arretApres = 0;  // 0: never
     std::function<void()> pendantSouffle;
+    std::function<void()> pendantPatience;  // amid what cannot be stopped
 
     int souffles = 0;
     int debuts = 0;
@@ -25,6 +26,9 @@ class EcranMuet final : public ecran::Ecran {
         return arretApres == 0 || souffles < arretApres;
     }
     void rafraichit() override {}
+    void patiente() override {
+        if (pendantPatience) pendantPatience();
+    }
     void debutTravail() override { ++debuts; }
     void finTravail() override { ++fins; }
 };

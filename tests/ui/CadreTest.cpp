@@ -54,7 +54,7 @@ TEST_F(Cadre, AHeadingHasItsWallOfPostersThatLeadToTheirFilms) {
     ASSERT_TRUE(attendsLaPage("Tous les films"));
     EXPECT_EQ(essai.texte("lblNombreGroupe"), "3 films");
     EXPECT_FALSE(essai.trouve("cmdRenommerGroupe").isVisible());
-    ASSERT_TRUE(essais::attends([&] { return mur().mur().tuiles.size() == 9; })) << "added, to watch, and the listing";
+    ASSERT_TRUE(essais::attends([&] { return mur().mur().nombre() == 9; })) << "added, to watch, and the listing";
     EXPECT_GT(couleur(6).red(), 200) << "the tree's first";
 
     essai.cliqueTitre("Humour");
@@ -85,7 +85,7 @@ TEST_F(Cadre, AHeadingHasItsWallOfPostersThatLeadToTheirFilms) {
 TEST_F(Cadre, TheWallFollowsWhatChangesAndDecodesNothingTwice) {
     importe();
     ASSERT_TRUE(attendsLaPage("Tous les films"));
-    ASSERT_TRUE(essais::attends([&] { return mur().mur().tuiles.size() == 9; }));
+    ASSERT_TRUE(essais::attends([&] { return mur().mur().nombre() == 9; }));
     EXPECT_GT(couleur(6).red(), 200);
     const long decodees = mur().chargeur().decodees();
     EXPECT_EQ(decodees, 2) << "once for all the tiles of a film";
@@ -122,7 +122,7 @@ TEST_F(Cadre, TheWallShowsWhatAFilterLeavesAndAsksForTheMenuOfAFilm) {
     importe();
     ASSERT_TRUE(attendsLaPage("Tous les films"));
     essai.trouve<QLineEdit>("Filtre").setText("trafic");
-    ASSERT_TRUE(essais::attends([&] { return mur().mur().tuiles.size() == 1; }));
+    ASSERT_TRUE(essais::attends([&] { return mur().mur().nombre() == 1; }));
     EXPECT_EQ(essai.texte("lblNombreGroupe"), "1 film sur 3");
     QTest::mouseClick(mur().viewport(), Qt::RightButton, {}, place(0).center());
     auto& menu = essai.trouve<QMenu>("MenuClicDroitFilm");
@@ -132,7 +132,7 @@ TEST_F(Cadre, TheWallShowsWhatAFilterLeavesAndAsksForTheMenuOfAFilm) {
 
     essai.clique("cmdCollection");
     essai.trouve<QLineEdit>("Filtre").clear();
-    ASSERT_TRUE(essais::attends([&] { return mur().mur().tuiles.size() == 9; }));
+    ASSERT_TRUE(essais::attends([&] { return mur().mur().nombre() == 9; }));
     clique(0);
     EXPECT_EQ(essai.texte("Label1_0"), "Trafic") << "the last one added";
 }

@@ -99,6 +99,49 @@ TEST_F(AfficheTitresTest, TickingStatisticsChangesTheHeadingsAlone) {
     EXPECT_EQ(bascule(1), "Avatar");
 }
 
+// The window lives on while a tree is filled: it shows the old one, whose rows are those of the old listing, to the end.
+TEST_F(AfficheTitresTest, ATreeIsFilledAsideAndTakesItsPlaceWithItsListing) {
+    base.base.BeginTrans();
+    for (int i = 0; i < 300; ++i)
+        ajouteFilm(("Film " + std::to_string(i)).c_str(), {{"Genre", i % 2 == 0 ? "Drame" : "Comédie"}});
+    base.base.CommitTrans();
+    montre(browse::kZoneTous, browse::kTriGenre);
+    const Lignes avant = arbreEnTexte();
+    const int generation = liste.TreeView1.Nodes.generation();
+    browse::Contexte presse = fenetre;
+    std::chrono::steady_clock::time_point heure;
+    presse.montre = [&heure] { return heure += std::chrono::seconds(1); };
+    const auto neuve = [this] { return base.base.OpenRecordset("SELECT * FROM Films ORDER BY Titre ASC"); };
+    const auto estComme = [&](const Lignes& arbre, const char* premier) {
+        base.liste.MoveFirst();
+        return arbreEnTexte() == arbre && base.liste.texte("Titre") == premier;
+    };
+    int souffles = 0;
+    ecranMuet.pendantPatience = [&] {
+        ++souffles;
+        EXPECT_EQ(liste.TreeView1.Nodes.generation(), generation);
+        EXPECT_TRUE(estComme(avant, "Film 1"));
+        throw dao::ErreurDao(dao::kErreurDisque, "plein");
+    };
+    EXPECT_THROW(browse::AfficheTitres(presse, neuve(), browse::kTriTitre2), dao::ErreurDao);
+    EXPECT_TRUE(estComme(avant, "Film 1")) << "what throws leaves both";
+    EXPECT_EQ(souffles, 1);
+
+    ecranMuet.pendantPatience = [&] { EXPECT_EQ(arbreEnTexte(), avant); };
+    browse::AfficheTitres(presse, neuve(), browse::kTriTitre2);
+    EXPECT_EQ(liste.TreeView1.Nodes.Count(), 300);
+    EXPECT_TRUE(estComme(arbreEnTexte(), "Film 0"));
+    EXPECT_EQ(liste.TreeView1.Nodes.generation(), generation + 1);
+
+    ecranMuet.pendantPatience = [&] {
+        EXPECT_FALSE(base.liste.estOuvert()) << "no node of the old tree leads into it";
+        throw dao::ErreurDao(dao::kErreurDisque, "plein");
+    };
+    EXPECT_THROW(browse::AfficheTitres(presse, browse::kTriGenre), dao::ErreurDao);
+    EXPECT_EQ(liste.TreeView1.Nodes.Count(), 0);
+    ecranMuet.pendantPatience = nullptr;
+}
+
 // A title, a genre and a cast of five million characters: through the listing, the headings, the sheet and the search.
 TEST_F(AfficheTitresTest, HugeFieldsAreListedShownAndSearched) {
     const std::string longue(5'000'000, 'e');

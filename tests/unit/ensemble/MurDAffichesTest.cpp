@@ -21,12 +21,14 @@ struct MurDAffichesTest : FenetreEdition {
     // "Heading: film film", section by section.
     [[nodiscard]] std::vector<std::string> textes(const Mur& m) const {
         std::vector<std::string> resultat;
-        std::size_t tuile = 0;
-        for (const Mur::Section& section : m.sections) {
-            resultat.push_back(section.titre + ":");
-            for (int i = 0; i < section.nombre; ++i, ++tuile)
-                resultat.back() += " " + std::string(liste.TreeView1.Nodes.Text(m.tuiles[tuile].noeud));
+        const browse::Arbre& arbre = liste.TreeView1.Nodes;
+        int tuile = 0;
+        for (std::size_t i = 0; i < m.sections.size(); ++i) {
+            resultat.push_back(m.titre(arbre, i) + ":");
+            for (const int fin = tuile + m.sections[i].nombre; tuile < fin; ++tuile)
+                resultat.back() += " " + std::string(arbre.Text(m.noeud(arbre, tuile)));
         }
+        EXPECT_EQ(tuile, m.nombre());
         return resultat;
     }
     [[nodiscard]] static std::vector<std::string> titres(const RangeeDuMur& rangee) {
