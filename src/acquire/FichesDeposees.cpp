@@ -6,9 +6,10 @@
 #include "acquire/cmdParcourir2_Click.h"
 #include "browse/CreeRequeteAffichage.h"
 #include "platform/fichiers/Fichiers.h"
+#include "util/NomMontrable.h"
 #include "util/Nombres.h"
+#include "util/Texte.h"
 
-#include <algorithm>
 #include <charconv>
 #include <filesystem>
 #include <optional>
@@ -92,10 +93,7 @@ struct Lot {
 std::string nomMontre(std::string chemin) {
     while (chemin.size() > 1 && chemin.ends_with('/'))
         chemin.pop_back();
-    std::string nom = fichiers::nomDeFichier(chemin);
-    std::ranges::replace_if(
-        nom, [](unsigned char c) { return c < ' ' || c == 0x7F; }, ' ');
-    return "« " + nom + " »";
+    return util::entreChevrons(util::nomMontrable(fichiers::nomDeFichier(chemin)));
 }
 
 std::string ecart(const std::vector<std::string>& chemins, const std::string& un, const std::string& plusieurs) {
