@@ -55,13 +55,20 @@ Depot::Depot(const Atelier& atelier, QWidget* fenetre) : QObject(fenetre), m_ate
 }
 
 void Depot::prepare(QWidget* fenetre) {
+    for (QWidget* champ : fenetre->findChildren<QWidget*>())
+        if (champ->acceptDrops()) champ->installEventFilter(this);
     for (int i = 0; i < kFichiersAttaches; ++i)
         if (auto* zone = fenetre->findChild<QLineEdit*>(QStringLiteral("Text10_%1").arg(i)))
             zone->setAcceptDrops(false);
 }
 
 bool Depot::eventFilter(QObject* objet, QEvent* evenement) {
-    if (objet != m_fenetre) return false;
+    if (objet != m_fenetre) {
+        if (evenement->type() != QEvent::DragEnter || cheminsDe(*static_cast<QDropEvent*>(evenement)).empty())
+            return false;
+        evenement->ignore();  // the window takes it
+        return true;
+    }
     switch (evenement->type()) {
         case QEvent::DragEnter:
         case QEvent::DragMove: {

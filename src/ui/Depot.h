@@ -18,7 +18,7 @@ class Depot final : public QObject {
     Q_OBJECT
   public:
     Depot(const Atelier& atelier, QWidget* fenetre);
-    // The boxes of the attached files would take the text of a link.
+    // Fields would take a file for a text, its address; the boxes of the attached files no text of a link either.
     void prepare(QWidget* fenetre);
 
   protected:

@@ -83,6 +83,24 @@ TEST_F(Depot, AnotherCollectionIsShownBeforeItIsImported) {
     EXPECT_EQ(essai.texte("Label9_0"), "1 titre");
 }
 
+// A field would write the file's address among what is typed.
+TEST_F(Depot, AFileThatIsDroppedOnAFieldIsTheWindows) {
+    essai.clique("cmdModifierTitre");
+    auto& resume = essai.trouve<QPlainTextEdit>("txtResume");
+    const QString avant = resume.toPlainText();
+    for (QWidget* champ : {&essai.trouve("Text3_0"), resume.viewport()}) {
+        QMimeData donnees;
+        donnees.setUrls({QUrl::fromLocalFile(QString::fromStdString(fichier("notes.txt", "rien")))});
+        donnees.setText("notes.txt");  // as file managers do
+        QDragEnterEvent entre(QPoint(5, 5), Qt::CopyAction, &donnees, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(champ, &entre);
+        QDropEvent lache(QPoint(5, 5), Qt::CopyAction, &donnees, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(champ, &lache);
+    }
+    EXPECT_EQ(essai.trouve<QLineEdit>("Text3_0").text(), "L'Été");
+    EXPECT_EQ(resume.toPlainText(), avant);
+}
+
 // An import fills the controls of the page of entry, and lists other films than the one on the sheet.
 TEST_F(Depot, NoSheetNorPageOfAnotherFilmStaysAfterAnImport) {
     const std::string fiche = fichier("a.FILM", "Fantômas\nAndré Hunebelle\n1964\n");
