@@ -4,12 +4,16 @@
 #include "acquire/DossierFiches.h"
 #include "acquire/cmdAjoutAuto_Click.h"
 #include "acquire/cmdParcourir2_Click.h"
+#include "browse/CreeRequeteAffichage.h"
 #include "platform/fichiers/Fichiers.h"
+#include "util/NomMontrable.h"
 #include "util/Nombres.h"
+#include "util/Texte.h"
 
-#include <algorithm>
+#include <charconv>
 #include <filesystem>
 #include <optional>
+#include <string_view>
 
 namespace acquire {
 
@@ -29,13 +33,26 @@ class DossierDeCopies {
     // False when the disk took no copy. Numbers keep sheets of one name from several folders apart.
     bool recois(const std::string& fiche) {
         const DossierFiches& source = dossierDe(fiche);
-        const std::string nom = std::to_string(++m_nombre) + " " + fichiers::nomDeFichier(fiche);
+        m_origines.push_back(fichiers::dossierDe(fiche));
+        const std::string nom = std::to_string(m_origines.size()) + " " + fichiers::nomDeFichier(fiche);
         const auto affiche = source.trouveAffiche(fichiers::nomDeFichier(fiche));
         return fichiers::creeDossier(m_dossier) && fichiers::copie(fiche, m_dossier + nom) &&
                (!affiche || fichiers::copie(*affiche, m_dossier + fichiers::sansExtension(nom) + ".jpg"));
     }
+    // A report speaks of the user's files: the copies are gone when it is read.
+    void rendLesNoms(RapportImport& rapport) const {
+        for (auto* chemins : {&rapport.affichesManquantes, &rapport.fichesIllisibles, &rapport.fichesRestantes})
+            for (std::string& chemin : *chemins)
+                chemin = origine(chemin);
+    }
 
   private:
+    [[nodiscard]] std::string origine(const std::string& copie) const {
+        const std::string_view nom = std::string_view(copie).substr(m_dossier.size());
+        std::size_t numero = 0;
+        const char* const fin = std::from_chars(nom.data(), nom.data() + nom.size(), numero).ptr;
+        return m_origines[numero - 1] + std::string(fin + 1, nom.data() + nom.size());
+    }
     void efface() const {
         fichiers::supprimeSelonMotif(m_dossier, "*");
         std::error_code ignoree;
@@ -49,7 +66,7 @@ class DossierDeCopies {
     }
 
     std::string m_dossier;
-    int m_nombre = 0;
+    std::vector<std::string> m_origines;    // by their numbers, the folders that the sheets came from
     std::optional<DossierFiches> m_source;  // of the last sheet
 };
 
@@ -76,10 +93,7 @@ struct Lot {
 std::string nomMontre(std::string chemin) {
     while (chemin.size() > 1 && chemin.ends_with('/'))
         chemin.pop_back();
-    std::string nom = fichiers::nomDeFichier(chemin);
-    std::ranges::replace_if(
-        nom, [](unsigned char c) { return c < ' ' || c == 0x7F; }, ' ');
-    return "« " + nom + " »";
+    return util::entreChevrons(util::nomMontrable(fichiers::nomDeFichier(chemin)));
 }
 
 std::string ecart(const std::vector<std::string>& chemins, const std::string& un, const std::string& plusieurs) {
@@ -114,6 +128,7 @@ void importeLeDossier(const Contexte& c, const std::string& dossier) {
 }  // namespace
 
 void importeFichesDeposees(const Contexte& c, const std::vector<std::string>& chemins) {
+    c.demandes.premierPlan = true;  // the questions come before the program that the sheets came from
     Lot lot(chemins);
     const std::string aDire = ecarts(lot);
     if (lot.dossiers.size() == 1 && lot.fiches.empty()) {
@@ -127,15 +142,9 @@ void importeFichesDeposees(const Contexte& c, const std::vector<std::string>& ch
         if (!copies.recois(fiche))
             return c.avis.montre(nomMontre(fiche) + " n'a pas pu être lue : rien n'a été importé.");
     if (!aDire.empty()) c.avis.remarque(aDire.substr(1));
-    const std::string avant = c.ajout.txtCheminAjoutAuto.Text;
-    try {
-        importeLeDossier(c, copies.chemin());
-    } catch (...) {
-        c.ajout.txtCheminAjoutAuto.Text = avant;
-        throw;
-    }
-    c.ajout.txtCheminAjoutAuto.Text = avant;
-    montreNombreDeFiches(c);
+    browse::puisVersLaListe(c, [&] {
+        importeFiches(c, {copies.chemin()}, [&copies](RapportImport& rapport) { copies.rendLesNoms(rapport); });
+    });
 }
 
 }  // namespace acquire

@@ -119,6 +119,7 @@ void telecharge(const Contexte& c) {
     if (!programme) return;
     const std::string attente = cherche(c, *programme);
     c.ajout.lblNbFilms.Caption.clear();  // it told of another folder
+    c.ajout.fichesAImporter = false;
     if (attente.empty()) return;
     c.ajout.txtCheminAjoutAuto.Text = attente;  // one click goes on with them
     montreNombreDeFiches(c);

@@ -1,5 +1,8 @@
 #include "app/Depot.h"
 
+#include "acquire/FichesDeposees.h"
+#include "app/Saisies.h"
+#include "browse/AfficheAccueil.h"
 #include "browse/ChargeAffiche.h"
 #include "browse/Label12_Click.h"
 #include "view/cmdRemplacerImage_Click.h"
@@ -12,6 +15,14 @@ void deposeAffiche(const Contexte& c, const std::string& image) {
         view::remplaceAffiche(c, image);
     else
         browse::attacheAffiche(c, image);
+}
+
+void importeFichesDeposees(const Contexte& c, const std::vector<std::string>& chemins) {
+    const browse::Arbre& arbre = c.liste.TreeView1.Nodes;
+    const int avant = arbre.generation();
+    const bool saisie = c.saisies.pageMontree();
+    acquire::importeFichesDeposees(c, chemins);
+    if (saisie && arbre.generation() != avant) browse::AfficheAccueil(c);
 }
 
 }  // namespace app

@@ -1,6 +1,6 @@
 #include "app/Ouvertures.h"
 
-#include "acquire/FichesDeposees.h"
+#include "app/Depot.h"
 #include "platform/fichiers/Fichiers.h"
 #include "util/NomsFichiers.h"
 
@@ -64,8 +64,7 @@ void ouvreCeQuiEstDemande(const Contexte& c) {
         if (fichiers::supprime(dossier + nom) && octets) decoupe(*octets, chemins);
     }
     if (chemins.empty()) return;
-    c.demandes.premierPlan = true;
-    acquire::importeFichesDeposees(c, chemins);
+    importeFichesDeposees(c, chemins);
 }
 
 }  // namespace app

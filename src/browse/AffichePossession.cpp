@@ -4,6 +4,7 @@
 #include "db/EnonceFilm.h"
 #include "db/Requete.h"
 #include "platform/fichiers/Fichiers.h"
+#include "util/NomMontrable.h"
 
 namespace browse {
 
@@ -28,9 +29,9 @@ void retientLesFichiers(FilmCourant& film) {
 
 void nommeLesFichiers(EtatFiche& fiche, const FilmCourant& film) {
     fiche.captionFichiers = film.titre;
-    fiche.cheminsFichiers = film.fichiers;
     for (std::size_t i = 0; i < film.fichiers.size(); ++i) {
-        const std::string nom = fichiers::nomDeFichier(film.fichiers[i]);
+        const std::string nom = util::nomMontrable(fichiers::nomDeFichier(film.fichiers[i]));
+        fiche.cheminsFichiers[i] = util::nomMontrable(film.fichiers[i]);
         fiche.Command1[i].Enabled = !film.fichiers[i].empty();
         fiche.Command1[i].Caption = nom.empty() ? "Fichier " + std::to_string(i + 1) : nom;
     }

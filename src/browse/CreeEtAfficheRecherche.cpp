@@ -1,5 +1,6 @@
 #include "browse/CreeEtAfficheRecherche.h"
 
+#include "browse/AfficheAccueil.h"
 #include "browse/CreeRequeteAffichage.h"
 #include "browse/ListesDeChoix.h"
 
@@ -14,6 +15,7 @@ void CreeEtAfficheRecherche(const Contexte& c) {
 }
 
 void montreAjoutsDuJour(const Contexte& c, const std::string& date) {
+    if (c.panneaux.frameFiche.Visible) AfficheAccueil(c);  // its film is forgotten with the listing
     c.liste.critereRecherche = "DateAjout = \"" + date + "\"";
     c.liste.zoneRecherche = kZoneTous;
     CreeEtAfficheRecherche(c);

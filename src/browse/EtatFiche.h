@@ -38,7 +38,7 @@ struct EtatFiche {
     // frmFichiersFilm.
     std::string captionFichiers;
     std::array<ecran::Bouton, 3> Command1;       // the attached files, by their names; the fourth only closes
-    std::array<std::string, 3> cheminsFichiers;  // their whole paths
+    std::array<std::string, 3> cheminsFichiers;  // their whole paths, as they can be shown
 
     EtatFiche() {
         ecran::choisit(Option1, 0);

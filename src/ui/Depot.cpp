@@ -1,7 +1,6 @@
 #include "ui/Depot.h"
 
 #include "acquire/CompteFilmsRepertoire.h"
-#include "acquire/FichesDeposees.h"
 #include "app/Depot.h"
 #include "edit/SaisiePossession.h"
 #include "ui/FenetreVoisins.h"
@@ -19,6 +18,7 @@ namespace ui {
 namespace {
 
 constexpr int kFichiersAttaches = 3;
+constexpr int kPendantUneCommande = 50;  // milliseconds until the next try
 
 std::vector<std::string> cheminsDe(const QDropEvent& evenement) {
     std::vector<std::string> chemins;
@@ -55,13 +55,20 @@ Depot::Depot(const Atelier& atelier, QWidget* fenetre) : QObject(fenetre), m_ate
 }
 
 void Depot::prepare(QWidget* fenetre) {
+    for (QWidget* champ : fenetre->findChildren<QWidget*>())
+        if (champ->acceptDrops()) champ->installEventFilter(this);
     for (int i = 0; i < kFichiersAttaches; ++i)
         if (auto* zone = fenetre->findChild<QLineEdit*>(QStringLiteral("Text10_%1").arg(i)))
             zone->setAcceptDrops(false);
 }
 
 bool Depot::eventFilter(QObject* objet, QEvent* evenement) {
-    if (objet != m_fenetre) return false;
+    if (objet != m_fenetre) {
+        if (evenement->type() != QEvent::DragEnter || cheminsDe(*static_cast<QDropEvent*>(evenement)).empty())
+            return false;
+        evenement->ignore();  // the window takes it
+        return true;
+    }
     switch (evenement->type()) {
         case QEvent::DragEnter:
         case QEvent::DragMove: {
@@ -97,28 +104,31 @@ Depot::Cible Depot::cible(const QDropEvent& evenement) const {
     return {portentDesFiches(chemins) ? Sorte::Fiches : Sorte::Rien};
 }
 
+// The other program gets its answer first: a question may keep this one for minutes.
 void Depot::recois(const QDropEvent& evenement) const {
-    const std::vector<std::string> chemins = cheminsDe(evenement);
-    const Cible ou = cible(evenement);
-    switch (ou.sorte) {
-        case Sorte::Fiches:
-            m_atelier.execute(acquire::importeFichesDeposees, chemins);
-            break;
-        case Sorte::Affiche:
-            m_atelier.execute(app::deposeAffiche, chemins.front());
-            break;
-        case Sorte::Fichier:
-            m_atelier.execute(edit::attacheFichier, ou.indice, chemins.front());
-            break;
-        // Its window opens once the other program has got its answer.
-        case Sorte::Collection:
-            QTimer::singleShot(0, this, [this, chemin = chemins.front()] {
-                if (!m_atelier.commande.enCours()) ouvreImportDeposee(m_atelier, m_fenetre, chemin);
-            });
-            break;
-        case Sorte::Rien:
-            break;
-    }
+    Cible ou = cible(evenement);
+    if (ou.sorte == Sorte::Rien) return;
+    ou.film = filmMontre();
+    QTimer::singleShot(0, this, [this, ou, chemins = cheminsDe(evenement)] { sers(ou, chemins); });
+}
+
+db::CleFilm Depot::filmMontre() const {
+    return m_atelier.session.regarde([](const app::Contexte& c) -> db::CleFilm { return c.film; });
+}
+
+void Depot::sers(const Cible& ou, const std::vector<std::string>& chemins) const {
+    const bool pourLeFilm = ou.sorte == Sorte::Affiche || ou.sorte == Sorte::Fichier;
+    if (pourLeFilm && ou.film != filmMontre()) return;  // another one took its place meanwhile
+    if (m_atelier.commande.enCours())
+        QTimer::singleShot(kPendantUneCommande, this, [this, ou, chemins] { sers(ou, chemins); });
+    else if (ou.sorte == Sorte::Fiches)
+        m_atelier.execute(app::importeFichesDeposees, chemins);
+    else if (ou.sorte == Sorte::Affiche)
+        m_atelier.execute(app::deposeAffiche, chemins.front());
+    else if (ou.sorte == Sorte::Fichier)
+        m_atelier.execute(edit::attacheFichier, ou.indice, chemins.front());
+    else
+        ouvreImportDeposee(m_atelier, m_fenetre, chemins.front());
 }
 
 }  // namespace ui

@@ -18,6 +18,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -181,12 +182,24 @@ void annonceNomsIllisibles(QFileDialog& boite) {
     suis(boite.directory().absolutePath());
 }
 
+// A typed path passes through the folder that is shown, which Qt then takes for chosen and keeps so: the button would stay
+// dead whatever follows.
+void oublieLeDossierTraverse(QFileDialog& boite) {
+    const auto* nom = boite.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    auto* liste = boite.findChild<QListView*>(QStringLiteral("listView"));
+    if (!nom || !liste) return;
+    QObject::connect(nom, &QLineEdit::textChanged, liste, [liste] {
+        liste->selectionModel()->select(liste->rootIndex(), QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
+    });
+}
+
 std::string choisit(QFileDialog& boite, const std::string& dossier) {
     boite.setOption(QFileDialog::DontUseNativeDialog);  // a desktop's own would speak the desktop's language
     boite.resize(780, 500);
     const QString ouverture = qt(fichiers::cheminTape(dossier, ""));
     boite.setDirectory(QDir(ouverture).exists() && !ouverture.isEmpty() ? ouverture : QDir::homePath());
     annonceNomsIllisibles(boite);
+    oublieLeDossierTraverse(boite);
     ecritEnFrancais(boite);
     if (boite.exec() != QDialog::Accepted || boite.selectedFiles().isEmpty()) return {};
     return boite.selectedFiles().first().toStdString();

@@ -6,7 +6,6 @@
 
 #include <QLocale>
 #include <QPagedPaintDevice>
-#include <QTextLayout>
 #include <algorithm>
 #include <array>
 
@@ -42,31 +41,6 @@ QString propre(const std::string& texte) {
         propre.begin(), propre.end(),
         [](QChar c) { return c != QLatin1Char('\n') && (c.category() == QChar::Other_Control); }, QLatin1Char(' '));
     return sansSigneIsole(propre);
-}
-
-QTextOption coupe(bool justifie = false) {
-    QTextOption option(justifie ? Qt::AlignJustify : Qt::AlignLeft);
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    return option;
-}
-
-// Each paragraph is laid out by itself; `recoit` gets its lines.
-template <typename Recoit>
-bool metEnLignes(const QString& texte, const QFont& police, qreal largeur, bool justifie, Recoit recoit) {
-    for (const QString& paragraphe : texte.split(QLatin1Char('\n'))) {
-        QTextLayout bloc(paragraphe.trimmed(), police);
-        bloc.setTextOption(coupe(justifie));
-        bloc.beginLayout();
-        std::vector<QTextLine> lignes;
-        for (QTextLine ligne = bloc.createLine(); ligne.isValid(); ligne = bloc.createLine()) {
-            ligne.setLineWidth(largeur);
-            lignes.push_back(ligne);
-        }
-        bloc.endLayout();
-        for (const QTextLine& ligne : lignes)
-            if (!recoit(ligne)) return false;
-    }
-    return true;
 }
 
 QString enTete(Champ champ) {
@@ -117,14 +91,15 @@ bool CatalogueSurPapier::commence() {
 }
 
 void CatalogueSurPapier::peintTitre() {
-    peintLignes(QString::fromStdString(m_sujet.titre), police(20, QFont::DemiBold),
-                {0, m_y, m_feuille.width(), m_feuille.height()}, 2);
-    m_y += hauteurDe(QString::fromStdString(m_sujet.titre), police(20, QFont::DemiBold), m_feuille.width(), 2) + mm(1);
+    LignesDeTexte titre(QString::fromStdString(m_sujet.titre), police(20, QFont::DemiBold), m_feuille.width());
+    const int lignes = std::min(titre.nombre(2), 2);
+    peintLignes(titre, 0, lignes);
+    m_y += lignes * interligne(titre.police()) + mm(1);
     const QString sous =
         QString::fromStdString(util::phraseCompte(m_sujet.films, "# film", "# films")) +
         (m_sujet.date.empty() ? QString() : QStringLiteral(", le ") + QString::fromStdString(m_sujet.date));
     m_peintre.setPen(kDiscret);
-    peintLignes(sous, police(kTexte), {0, m_y, m_feuille.width(), mm(10)}, 1);
+    peintLignes({sous, police(kTexte), m_feuille.width()}, 0, 1);
     m_y += mm(8);
 }
 
@@ -189,27 +164,21 @@ void CatalogueSurPapier::peintEnTete() {
     m_y += mm(1.2);
 }
 
-qreal CatalogueSurPapier::hauteurDe(const QString& texte, const QFont& police, qreal largeur, int lignes) const {
+void CatalogueSurPapier::peintLignes(const LignesDeTexte& texte, qreal gauche, int lignes) {
     int nombre = 0;
-    static_cast<void>(metEnLignes(texte, police, largeur, false, [&](const QTextLine&) { return ++nombre < lignes; }));
-    return nombre * interligne(police);
-}
-
-void CatalogueSurPapier::peintLignes(const QString& texte, const QFont& police, const QRectF& place, int lignes) {
-    int nombre = 0;
-    static_cast<void>(metEnLignes(texte, police, place.width(), false, [&](const QTextLine& ligne) {
-        ligne.draw(&m_peintre, {place.left(), place.top() + nombre * interligne(police)});
+    static_cast<void>(texte.parcourt([&](const QTextLine& ligne) {
+        ligne.draw(&m_peintre, {gauche, m_y + nombre * interligne(texte.police())});
         return ++nombre < lignes;
     }));
 }
 
-bool CatalogueSurPapier::ecrit(const QString& texte, const QFont& police, qreal gauche, qreal largeur, bool justifie) {
-    const QPen encre = m_peintre.pen();
-    return metEnLignes(texte, police, largeur, justifie, [&](const QTextLine& ligne) {
-        if (m_y + interligne(police) > m_feuille.bottom() && !pageSuivante()) return false;
-        m_peintre.setPen(encre);
+bool CatalogueSurPapier::ecrit(const Paragraphe& texte, qreal gauche) {
+    const qreal hauteur = interligne(texte.lignes.police());
+    return texte.lignes.parcourt([&](const QTextLine& ligne) {
+        if (m_y + hauteur > m_feuille.bottom() && !pageSuivante()) return false;
+        m_peintre.setPen(texte.encre);
         ligne.draw(&m_peintre, {gauche, m_y});
-        m_y += interligne(police);
+        m_y += hauteur;
         return true;
     });
 }
@@ -232,7 +201,7 @@ bool CatalogueSurPapier::ajouteGroupe(int groupe, qreal place) {
     if (m_y > m_feuille.top() && m_y + place > m_feuille.bottom() && !pageSuivante()) return false;
     if (m_y > m_feuille.top() + mm(1)) m_y += mm(3);
     m_peintre.setPen(kAccent);
-    peintLignes(propre(m_sujet.groupes.at(static_cast<std::size_t>(groupe))), titre, {0, m_y, m_feuille.width(), 0}, 1);
+    peintLignes({propre(m_sujet.groupes.at(static_cast<std::size_t>(groupe))), titre, m_feuille.width()}, 0, 1);
     m_y += interligne(titre) + mm(1.5);
     m_peintre.setPen(kEncre);
     if (liste) peintEnTete();
@@ -241,16 +210,17 @@ bool CatalogueSurPapier::ajouteGroupe(int groupe, qreal place) {
 
 bool CatalogueSurPapier::ajouteRangee(const FilmExporte& film) {
     const QFont texte = police(kTexte), titre = police(kTexte, QFont::DemiBold);
-    const auto policeDe = [&](Champ champ) { return champ == Champ::Titre ? titre : texte; };
-    qreal hauteur = interligne(texte);
-    for (const Colonne& colonne : m_colonnes)
-        hauteur = std::max(
-            hauteur, hauteurDe(valeur(film, colonne.champ), policeDe(colonne.champ), colonne.largeur, kLignesDeRangee));
+    int lignes = 1;
+    std::vector<LignesDeTexte> cases;
+    for (const Colonne& colonne : m_colonnes) {
+        cases.emplace_back(valeur(film, colonne.champ), colonne.champ == Champ::Titre ? titre : texte, colonne.largeur);
+        lignes = std::max(lignes, std::min(cases.back().nombre(kLignesDeRangee), kLignesDeRangee));
+    }
+    const qreal hauteur = lignes * interligne(texte);
     if (!assure(hauteur)) return false;
     m_peintre.setPen(kEncre);
-    for (const Colonne& colonne : m_colonnes)
-        peintLignes(valeur(film, colonne.champ), policeDe(colonne.champ), {colonne.gauche, m_y, colonne.largeur, 0},
-                    kLignesDeRangee);
+    for (std::size_t i = 0; i < cases.size(); ++i)
+        peintLignes(cases[i], m_colonnes[i].gauche, kLignesDeRangee);
     m_y += hauteur + mm(0.7);
     m_peintre.setPen(QPen(kTrait, mm(0.1)));
     m_peintre.drawLine(QPointF(0, m_y), QPointF(m_feuille.width(), m_y));
@@ -272,23 +242,27 @@ CatalogueSurPapier::Fiche CatalogueSurPapier::compose(const FilmExporte& film, b
     if (const QString note = valeur(film, Champ::Note); !note.isEmpty())
         faits += (faits.isEmpty() ? QString() : QStringLiteral(" · ")) + QStringLiteral("note\u00A0%1/10").arg(note);
     Fiche fiche;
-    fiche.gauche = m_sujet.champs.contient(Champ::Affiche) ? mm(kLargeurAffiche + kEcart) : 0;
+    fiche.gauche = affiche ? mm(kLargeurAffiche + kEcart) : 0;
     fiche.affiche = affiche ? mm(kHauteurAffiche) : 0;
-    fiche.textes = {
-        {valeur(film, Champ::Titre), police(kTitre, QFont::DemiBold), kEncre},
-        {apres(QStringLiteral("de "), valeur(film, Champ::Realisateur)), police(kTexte), kEncre},
-        {faits, police(kTexte), kDiscret},
-        {apres(QStringLiteral("Avec "), valeur(film, Champ::Acteurs)), police(kPetit, QFont::Normal, true), kEncre},
-        {valeur(film, Champ::Resume), police(kTexte), kEncre, true},
-        {joints({Champ::Support, Champ::Rangement, Champ::Pret, Champ::Reserve, Champ::Date, Champ::Divers,
-                 Champ::Fichier1, Champ::Fichier2, Champ::Fichier3, Champ::DateAjout},
-                true),
-         police(kPetit), kDiscret}};
-    std::erase_if(fiche.textes, [](const Paragraphe& celui) { return celui.texte.isEmpty(); });
-    const qreal largeur = m_feuille.width() - fiche.gauche, moitie = m_feuille.height() / 2;
+    const auto ajoute = [&](const QString& texte, const QFont& police, const QColor& encre, bool justifie = false) {
+        if (texte.isEmpty()) return;
+        fiche.textes.push_back({{texte, police, m_feuille.width() - fiche.gauche, justifie}, encre});
+    };
+    ajoute(valeur(film, Champ::Titre), police(kTitre, QFont::DemiBold), kEncre);
+    ajoute(apres(QStringLiteral("de "), valeur(film, Champ::Realisateur)), police(kTexte), kEncre);
+    ajoute(faits, police(kTexte), kDiscret);
+    ajoute(apres(QStringLiteral("Avec "), valeur(film, Champ::Acteurs)), police(kPetit, QFont::Normal, true), kEncre);
+    ajoute(valeur(film, Champ::Resume), police(kTexte), kEncre, true);
+    ajoute(joints({Champ::Support, Champ::Rangement, Champ::Pret, Champ::Reserve, Champ::Date, Champ::Divers,
+                   Champ::Fichier1, Champ::Fichier2, Champ::Fichier3, Champ::DateAjout},
+                  true),
+           police(kPetit), kDiscret);
+    const qreal moitie = m_feuille.height() / 2;
     qreal hauteur = 0;
-    for (const Paragraphe& celui : fiche.textes)
-        hauteur += hauteurDe(celui.texte, celui.police, largeur, static_cast<int>(moitie / interligne(celui.police)));
+    for (Paragraphe& celui : fiche.textes) {
+        const qreal ligne = interligne(celui.lignes.police());
+        hauteur += celui.lignes.nombre(static_cast<int>(moitie / ligne)) * ligne;
+    }
     fiche.place = std::max(hauteur < moitie ? hauteur : mm(22), fiche.affiche);
     return fiche;
 }
@@ -302,11 +276,8 @@ bool CatalogueSurPapier::ajouteFiche(const Fiche& fiche, const QImage& affiche) 
             QSizeF(affiche.size()).scaled(mm(kLargeurAffiche), mm(kHauteurAffiche), Qt::KeepAspectRatio);
         m_peintre.drawImage(QRectF({0, m_y}, taille), affiche);
     }
-    for (const Paragraphe& celui : fiche.textes) {
-        m_peintre.setPen(celui.encre);
-        if (!ecrit(celui.texte, celui.police, fiche.gauche, m_feuille.width() - fiche.gauche, celui.justifie))
-            return false;
-    }
+    for (const Paragraphe& celui : fiche.textes)
+        if (!ecrit(celui, fiche.gauche)) return false;
     if (m_page == page) m_y = std::max(m_y, haut + fiche.affiche);
     m_y += mm(5);
     return true;

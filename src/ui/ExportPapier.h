@@ -1,6 +1,7 @@
 #pragma once
 
 #include "export/FilmExporte.h"
+#include "ui/LignesDeTexte.h"
 
 #include <QColor>
 #include <QFont>
@@ -47,10 +48,8 @@ class CatalogueSurPapier {
         qreal gauche = 0, largeur = 0;
     };
     struct Paragraphe {
-        QString texte;
-        QFont police;
+        LignesDeTexte lignes;
         QColor encre;
-        bool justifie = false;
     };
     struct Fiche {
         std::vector<Paragraphe> textes;
@@ -70,11 +69,8 @@ class CatalogueSurPapier {
     [[nodiscard]] bool ajouteRangee(const exportation::FilmExporte& film);
     [[nodiscard]] Fiche compose(const exportation::FilmExporte& film, bool affiche) const;
     [[nodiscard]] bool ajouteFiche(const Fiche& fiche, const QImage& affiche);
-    // Lines of a text from m_y on; `enBas` is told when a page ends within it. `lignes`: at most so many.
-    [[nodiscard]] bool ecrit(const QString& texte, const QFont& police, qreal gauche, qreal largeur,
-                             bool justifie = false);
-    [[nodiscard]] qreal hauteurDe(const QString& texte, const QFont& police, qreal largeur, int lignes) const;
-    void peintLignes(const QString& texte, const QFont& police, const QRectF& place, int lignes);
+    [[nodiscard]] bool ecrit(const Paragraphe& texte, qreal gauche);  // from m_y on, over as many pages as it takes
+    void peintLignes(const LignesDeTexte& texte, qreal gauche, int lignes);  // the first of them, m_y stays
     [[nodiscard]] QString valeur(const exportation::FilmExporte& film, exportation::Champ champ) const;
 
     QPagedPaintDevice& m_papier;

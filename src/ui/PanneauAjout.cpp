@@ -94,19 +94,19 @@ QLayout* PanneauAjout::fiches(const Atelier& atelier) {
     atelier.liaison.lie(ajout.ProgressBar1, progression);
     atelier.auClic(lancer, acquire::cmdAjoutAuto_Click);
     atelier.liaison.apresEcriture([lancer, &ajout] { lancer->metPrincipal(ajout.fichesAImporter); });
-    gardeSaPlace(titre);
-    gardeSaPlace(progression);
+    // The count's line is the progress's while it lasts, so that nothing moves.
+    atelier.liaison.apresEcriture([nombre, &ajout] { nombre->setVisible(!ajout.ProgressBar1.Visible); });
 
     auto* boite = section(atelier, Aide::Fiches);
     boite->addSpacing(kSerre);
     boite->addLayout(dossierDesFiches(atelier));
     auto* apercu = bouton("cmdApercuFiches", tr("Aperçu…"), tr("Voir d'abord ce que l'ajout ferait ; rien ne change"));
     connect(apercu, &QAbstractButton::clicked, this, [this] { ouvreApercuDesFiches(m_atelier, this); });
-    auto* ligne = rangee({lancer, apercu, nombre}, kMoyen);
-    ligne->setStretch(2, 1);
-    boite->addLayout(ligne);
-    boite->addWidget(titre);
-    boite->addWidget(progression);
+    boite->addLayout(aGauche({lancer, apercu}));
+    auto* etat = rangee({nombre, titre, progression}, kMoyen);
+    for (int i = 0; i < etat->count(); ++i)
+        etat->setStretch(i, 1);
+    boite->addLayout(etat);
     boite->addStretch();
     return boite;
 }

@@ -67,8 +67,9 @@ QLayout* PanneauConfig::images(const Atelier& atelier) {
     choix->addWidget(legende(tr("&Dossier des images"), dossier));
     choix->addLayout(rangee({dossier, parcourir}));
     boite->addLayout(choix);
-    boite->addLayout(aGauche({convertir}));
-    boite->addWidget(progression);
+    auto* conversion = rangee({convertir, progression}, kMoyen);
+    conversion->setStretch(1, 1);
+    boite->addLayout(conversion);
     return boite;
 }
 

@@ -18,7 +18,6 @@ constexpr std::string_view kMarqueUtf16Petit = "\xFF\xFE";
 constexpr std::string_view kMarqueUtf16Grand = "\xFE\xFF";
 constexpr std::string_view kMarqueUtf32Petit("\xFF\xFE\0\0", 4);
 constexpr std::string_view kMarqueUtf32Grand("\0\0\xFE\xFF", 4);
-constexpr UChar32 kRemplacement = 0xFFFD;  // where the bytes say no character
 
 // Windows-1252 from 80 to 9F; the five bytes it leaves unused stand for themselves.
 constexpr std::array<char16_t, 32> k1252 = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,

@@ -6,12 +6,10 @@ namespace util {
 
 namespace {
 
-constexpr UChar32 kRemplacement = 0xFFFD;
-
 // What no page may hold, and the signs that turn what follows them round.
 bool seTait(UChar32 point) {
-    return (point < 0x20 && point != '\n' && point != '\r' && point != '\t') || (point >= 0x7F && point < 0xA0) ||
-           (point >= 0x202A && point <= 0x202E) || (point >= 0x2066 && point <= 0x2069) || (point & 0xFFFE) == 0xFFFE;
+    return (estUnSigneDeCommande(point) && point != '\n' && point != '\r' && point != '\t') ||
+           retourneLesLettres(point) || (point & 0xFFFE) == 0xFFFE;
 }
 
 }  // namespace

@@ -10,6 +10,16 @@
 // Text as code points.
 namespace util {
 
+inline constexpr UChar32 kRemplacement = 0xFFFD;  // for what is no character, or may not stand where it does
+
+[[nodiscard]] constexpr bool estUnSigneDeCommande(UChar32 point) {
+    return (point >= 0 && point < 0x20) || (point >= 0x7F && point < 0xA0);
+}
+// What follows it is shown from its end.
+[[nodiscard]] constexpr bool retourneLesLettres(UChar32 point) {
+    return (point >= 0x202A && point <= 0x202E) || (point >= 0x2066 && point <= 0x2069);
+}
+
 struct PointDeCode {
     UChar32 valeur = -1;     // -1: a byte that is no UTF-8
     std::size_t taille = 1;  // in bytes; always 1 for such a byte

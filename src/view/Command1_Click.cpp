@@ -3,6 +3,7 @@
 #include "platform/fichiers/CheminTape.h"
 #include "platform/fichiers/Fichiers.h"
 #include "platform/systeme/LigneDeCommande.h"
+#include "util/NomMontrable.h"
 #include "util/Texte.h"
 #include "view/ChercheFichier.h"
 #include "view/LanceFichier.h"
@@ -16,8 +17,9 @@ constexpr int kFermer = 3;
 // What a box can show of a stored path.
 std::string montrable(const std::string& fichier) {
     constexpr std::size_t kCheminMax = 4096;  // bytes; the system's own limit
-    return fichier.size() <= kCheminMax ? fichier
-                                        : util::coupe(std::string_view(fichier).substr(0, kCheminMax), 1000) + "…";
+    return util::nomMontrable(fichier.size() <= kCheminMax
+                                  ? fichier
+                                  : util::coupe(std::string_view(fichier).substr(0, kCheminMax), 1000) + "…");
 }
 
 // The words of a program of the table: a whole path, blanks included, where there is such a file; else a command line.

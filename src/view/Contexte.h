@@ -5,6 +5,8 @@
 #include "view/TableExtensions.h"
 #include "view/Visionneuse.h"
 
+#include <functional>
+
 namespace view {
 
 // What the commands of the poster viewer and of the attached files work with.
@@ -12,6 +14,7 @@ struct Contexte : browse::Contexte {
     Visionneuse& visionneuse;
     EtatFichiers& fichiers;
     const TableExtensions& extensions;
+    std::function<bool(int noeud)> estVu{};  // whether the tree shows a film's node; none: it shows them all
 };
 
 }  // namespace view

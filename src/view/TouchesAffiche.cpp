@@ -19,11 +19,12 @@ void montreTitre(const Contexte& c, int indice) {
     if (c.film.estUnFilm()) c.visionneuse.montre();  // it may have been deleted meanwhile
 }
 
-// The title below or above the chosen one, headings passed over; 0 at either end.
+// The title below or above the chosen one, headings and what the tree hides passed over; 0 at either end.
 int titreVoisin(const Contexte& c, int pas) {
     const browse::Arbre& arbre = c.liste.TreeView1.Nodes;
+    const auto estPasse = [&](int indice) { return arbre.estGroupe(indice) || (c.estVu && !c.estVu(indice)); };
     int indice = std::clamp(c.liste.noeudChoisi, 0, arbre.Count() + 1) + pas;  // none chosen: from the top
-    while (indice >= 1 && indice <= arbre.Count() && arbre.estGroupe(indice))
+    while (indice >= 1 && indice <= arbre.Count() && estPasse(indice))
         indice += pas;
     return indice >= 1 && indice <= arbre.Count() ? indice : 0;
 }

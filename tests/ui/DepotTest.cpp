@@ -7,6 +7,8 @@
 #include <QFileSystemWatcher>
 #include <QMimeData>
 
+#include <gmock/gmock.h>
+
 namespace {
 
 using essais::attends;
@@ -35,8 +37,13 @@ struct Depot : testing::Test {
         QApplication::sendEvent(&fenetre, &passe);
         if (!entre.isAccepted() || !passe.isAccepted()) return false;
         QDropEvent lache(place, Qt::CopyAction, &donnees, Qt::LeftButton, Qt::NoModifier);
+        const std::size_t questions = essai.boites.messages.size();
         QApplication::sendEvent(&fenetre, &lache);
+        EXPECT_EQ(essai.boites.messages.size(), questions) << "the other program waits for its answer";
         return true;
+    }
+    bool compte(const char* titres) {
+        return attends([&] { return essai.texte("Label9_0") == titres; });
     }
     std::string fichier(const char* nom, const std::string& octets) {
         essai.dossier.ecrit(nom, octets);
@@ -52,14 +59,16 @@ TEST_F(Depot, SheetsAreImportedFromSeveralFoldersAndStayThere) {
     const std::string avant = essai.etats().ajout.txtCheminAjoutAuto.Text;
     EXPECT_FALSE(depose({fichier("notes.txt", "rien")}));
     EXPECT_TRUE(depose({une, autre}));
-    EXPECT_EQ(essai.texte("Label9_0"), "3 titres");
+    EXPECT_TRUE(compte("3 titres"));
+    EXPECT_THAT(essai.boites.messages.back(),
+                testing::HasSubstr("- Image manquante :\n" + essai.dossier.chemin("a/fiche.jpg")));
     EXPECT_EQ(essai.etats().ajout.txtCheminAjoutAuto.Text, avant);
     EXPECT_TRUE(QFile::exists(QString::fromStdString(une)) && QFile::exists(QString::fromStdString(autre)));
     essai.cliqueTitre("Le Corniaud");
     EXPECT_TRUE(essai.trouve("Image1").isVisible()) << "its poster came along";
     fichier("c/autre.FILM", std::string("Fantômas") + fiche);
     EXPECT_TRUE(depose({essai.dossier.chemin("c")}));
-    EXPECT_EQ(essai.texte("Label9_0"), "4 titres");
+    EXPECT_TRUE(compte("4 titres"));
 }
 
 TEST_F(Depot, AnotherCollectionIsShownBeforeItIsImported) {
@@ -72,6 +81,41 @@ TEST_F(Depot, AnotherCollectionIsShownBeforeItIsImported) {
         ASSERT_TRUE(essais::attends([&] { return !essai.fenetre().findChild<QWidget*>(fenetre); })) << nom;
     }
     EXPECT_EQ(essai.texte("Label9_0"), "1 titre");
+}
+
+// A field would write the file's address among what is typed.
+TEST_F(Depot, AFileThatIsDroppedOnAFieldIsTheWindows) {
+    essai.clique("cmdModifierTitre");
+    auto& resume = essai.trouve<QPlainTextEdit>("txtResume");
+    const QString avant = resume.toPlainText();
+    for (QWidget* champ : {&essai.trouve("Text3_0"), resume.viewport()}) {
+        QMimeData donnees;
+        donnees.setUrls({QUrl::fromLocalFile(QString::fromStdString(fichier("notes.txt", "rien")))});
+        donnees.setText("notes.txt");  // as file managers do
+        QDragEnterEvent entre(QPoint(5, 5), Qt::CopyAction, &donnees, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(champ, &entre);
+        QDropEvent lache(QPoint(5, 5), Qt::CopyAction, &donnees, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(champ, &lache);
+    }
+    EXPECT_EQ(essai.trouve<QLineEdit>("Text3_0").text(), "L'Été");
+    EXPECT_EQ(resume.toPlainText(), avant);
+}
+
+// An import fills the controls of the page of entry, and lists other films than the one on the sheet.
+TEST_F(Depot, NoSheetNorPageOfAnotherFilmStaysAfterAnImport) {
+    const std::string fiche = fichier("a.FILM", "Fantômas\nAndré Hunebelle\n1964\n");
+    EXPECT_TRUE(depose({fiche}));
+    EXPECT_TRUE(compte("2 titres"));
+    EXPECT_FALSE(essai.trouve("frameFiche").isVisible());
+    essai.cliqueTitre("L'Été");
+    essai.clique("cmdModifierTitre");
+    QTest::keyClicks(&essai.trouve("Text3_1"), " et d'autres");
+    EXPECT_TRUE(depose({fichier("b.FILM", "Alphaville\nJean-Luc Godard\n1965\n")}));
+    EXPECT_TRUE(compte("3 titres"));
+    EXPECT_FALSE(essai.trouve("Frame13").isVisible());
+    essai.clique("cmdAvis_0");
+    EXPECT_EQ(essai.trouve<QLineEdit>("Text3_1").text(), " et d'autresAgnès Varda");
+    EXPECT_EQ(essai.trouve<QAbstractButton>("cmdAjoutFilm").text(), "Modifier");
 }
 
 // What a start of the program is asked to open while another one runs.
@@ -91,31 +135,31 @@ TEST_F(Depot, SheetsOpenedFromTheDesktopWaitForACommandAndABox) {
         ouvre("un.FILM");
         EXPECT_TRUE(enAttente());
     });
-    EXPECT_TRUE(attends([&] { return essai.texte("Label9_0") == "2 titres"; }));
+    EXPECT_TRUE(compte("2 titres"));
     QDialog boite(&essai.fenetre());
     boite.open();
     ouvre("deux.FILM");
     EXPECT_TRUE(enAttente());
     boite.close();
-    EXPECT_TRUE(attends([&] { return essai.texte("Label9_0") == "3 titres"; }));
+    EXPECT_TRUE(compte("3 titres"));
     EXPECT_FALSE(enAttente());
 }
 
 TEST_F(Depot, APictureOnThePosterIsAttachedThenReplacesAndAVideoFillsABox) {
     QWidget* cadre = &essai.trouve("cadreAffiche");
     EXPECT_TRUE(depose({fichier("rouge.jpg", essais::octetsDImage(Qt::red))}, cadre));
-    ASSERT_TRUE(essai.trouve("Image1").isVisible());
+    ASSERT_TRUE(attends([&] { return essai.trouve("Image1").isVisible(); }));
     EXPECT_TRUE(depose({fichier("bleue.jpg", essais::octetsDImage(Qt::blue))}, cadre));
-    const QColor couleur = essai.programme->session().regarde([&](const app::Contexte&) {
-        return QImage::fromData(QByteArray::fromStdString(essai.dossier.lit("Tmp/ImageTMP.jpg"))).pixelColor(20, 20);
-    });
-    EXPECT_GT(couleur.blue(), 200);
+    EXPECT_TRUE(attends([&] {
+        const QImage image = QImage::fromData(QByteArray::fromStdString(essai.dossier.lit("Tmp/ImageTMP.jpg")));
+        return image.pixelColor(20, 20).blue() > 200;
+    }));
     EXPECT_FALSE(depose({fichier("affiche.svg", "<svg/>")}, cadre));
     essai.clique("cmdAutresInfos");
     const std::string film = fichier("L'été \"2\".mkv", "x");
     EXPECT_TRUE(depose({film}, &essai.trouve("Text10_1")));
+    EXPECT_TRUE(attends([&] { return essai.trouve("cmdValiderInfosPossessions").isVisible(); }));
     EXPECT_EQ(essai.trouve<QLineEdit>("Text10_1").text().toStdString(), film);
-    EXPECT_TRUE(essai.trouve("cmdValiderInfosPossessions").isVisible());
 }
 
 TEST_F(Depot, TheSheetIsCopiedAsTextAndHtmlAndAPictureIsPasted) {

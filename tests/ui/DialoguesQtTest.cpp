@@ -181,6 +181,25 @@ TEST_F(DialoguesQt, TheFileBoxAcceptsTheTypedNameOfAFileThatIsNotThere) {
     }
 }
 
+TEST_F(DialoguesQt, AWholePathIsTypedLetterByLetterInTheFolderThatIsShown) {
+    const doubles::DossierTemporaire dossier;
+    const std::string chemin = dossier.ecrit("Films.mdb", "x");
+    surLaBoite<QFileDialog>([&](QFileDialog& boite) {
+        auto* nom = boite.findChild<QLineEdit*>("fileNameEdit");
+        auto* ouvrir = boite.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open);
+        // Its folder is read aside: what is typed is chosen in the list only then.
+        ASSERT_TRUE(essais::attends([&] {
+            nom->setText(boite.directory().absolutePath());
+            QTest::keyClicks(nom, "/Films.mdb");
+            return boite.findChild<QTreeView*>("treeView")->selectionModel()->hasSelection();
+        }));
+        EXPECT_TRUE(ouvrir->isEnabled());
+        EXPECT_EQ(boite.selectedFiles(), QStringList(QString::fromStdString(chemin)));
+        boite.reject();
+    });
+    static_cast<void>(boites.choisitFichier({"Ouvrir", "Fichiers|*.mdb", dossier.chemin()}));
+}
+
 TEST_F(DialoguesQt, TheFileBoxSaysWhyItLeavesNamesOut) {
     const doubles::DossierTemporaire dossier;
     dossier.ecrit("Été.jpg", "x");

@@ -131,4 +131,27 @@ TEST(Export, ACatalogueBreaksIntoPages) {
     }
 }
 
+// Of a film without a poster, nothing is kept free for one.
+TEST(Export, AFilmWithoutAPosterTakesTheWholeWidth) {
+    const auto pages = [](bool avecAffiches) {
+        QBuffer octets;
+        octets.open(QIODevice::WriteOnly);
+        QPdfWriter pdf(&octets);
+        pdf.setResolution(300);
+        exportation::Champs champs = exportation::Champs::tous();
+        champs.met(exportation::Champ::Affiche, avecAffiches);
+        ui::CatalogueSurPapier catalogue(pdf, 300,
+                                         {.titre = "Titre", .date = "", .films = 60, .groupes = {}, .champs = champs});
+        EXPECT_TRUE(catalogue.commence());
+        exportation::FilmExporte film;
+        for (int i = 0; i < 60; ++i) {
+            film.fiche[static_cast<std::size_t>(exportation::Champ::Resume)] += "encore quelques mots de plus ; ";
+            EXPECT_TRUE(catalogue.ajoute(film, {}));
+        }
+        EXPECT_TRUE(catalogue.termine());
+        return catalogue.pages();
+    };
+    EXPECT_EQ(pages(true), pages(false));
+}
+
 }  // namespace

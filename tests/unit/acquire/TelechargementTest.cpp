@@ -96,6 +96,7 @@ TEST_F(TelechargementTest, ImportsWhatTheDownloaderLeftEvenIfItFailsAndCleansBeh
     EXPECT_THAT(restes(), ElementsAre("autre.txt", "ImageTMP.jpg"));  // the film on the sheet keeps its poster
     EXPECT_FALSE(dossier.existe(acquire::kDossierAImporter));
     EXPECT_EQ(ajout.txtCheminAjoutAuto.Text, chemins.dossierTmp);
+    EXPECT_FALSE(ajout.fichesAImporter) << "what was there is gone";
     EXPECT_TRUE(demandes.premierPlan);
     EXPECT_EQ(demandes.focus, "TreeView1") << "where the films added are to be seen";
     EXPECT_EQ(ecranMuet.soufflesHorsTravail, 0);

@@ -1,3 +1,4 @@
+#include "browse/AffichePossession.h"
 #include "doubles/Temoin.h"
 #include "unit/view/FenetreVue.h"
 #include "view/ChercheFichier.h"
@@ -165,6 +166,18 @@ TEST_F(FichiersDuFilm, WhatIsNowhereOrOnASilentVolumeOrAFolderIsNotFound) {
         Command1_Click(c, indice);
     }
     EXPECT_TRUE(documents.fichiers.empty() && programmes.lances.empty());
+}
+
+// What turns the letters of a name round would show "exe.avi".
+TEST_F(FichiersDuFilm, AProgramIsNotShownAsAFilm) {
+    FenetreVue::SetUp();
+    possede("Alien", "", {{"Fichier1", "usb/Été\n\u202Eiva.exe"}});
+    film.titre = "Alien";
+    browse::AffichePossession(c);
+    EXPECT_EQ(fiche.Command1[0].Caption, "Été \uFFFDiva.exe");
+    EXPECT_EQ(fiche.cheminsFichiers[0], "usb/Été \uFFFDiva.exe");
+    dialogues.attendMsgBox("Le fichier usb/Été \uFFFDiva.exe n'a pas été trouvé !", dialogues::kCritique);
+    Command1_Click(c, 0);
 }
 
 TEST_F(FichiersDuFilm, APathOfMegabytesIsLookedForNowhereAndShortenedInItsMessage) {

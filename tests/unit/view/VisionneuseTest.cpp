@@ -133,6 +133,10 @@ TEST_F(Visionneuse, StepsFromTitleToTitleOverTheHeadings) {
     HScroll1_KeyDown(c, kPagePrecedente);
     EXPECT_EQ(film.titre, "Alien");
     EXPECT_TRUE(affiche.Visible);
+    vue.estVu = [&](int noeud) { return noeuds.Text(noeud) != "Été"; };
+    HScroll1_KeyDown(c, kPageSuivante);
+    EXPECT_FALSE(affiche.Visible) << "what the list hides is passed over";
+    visionneuse.montre();
     HScroll1_KeyDown(c, kPagePrecedente);
     EXPECT_FALSE(affiche.Visible) << "only headings above";
 }
