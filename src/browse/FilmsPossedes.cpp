@@ -16,6 +16,7 @@ namespace {
 constexpr std::string_view kTable = "Personnel";
 constexpr std::array<std::string_view, 4> kChamps{"Titre2", "Realisateur2", "Pret", "Reserve"};
 constexpr std::size_t kLignesParPas = 256;
+constexpr std::size_t kBloc = 8192;  // holdings put in order as they come: all of them at once take a tenth of a second
 
 constexpr std::uint64_t kPrete = 1, kReserve = 2, kDrapeaux = kPrete | kReserve;
 
@@ -23,6 +24,20 @@ std::uint64_t hachage(std::string_view titre, std::string_view realisateur) {
     // A comparison key holds no zero byte.
     const std::string cle = dao::cleDeComparaison(titre) + '\0' + dao::cleDeComparaison(realisateur);
     return std::hash<std::string>{}(cle) & ~kDrapeaux;
+}
+
+void trieLeDernierBloc(std::vector<std::uint64_t>& possessions) {
+    const std::size_t debut = possessions.empty() ? 0 : (possessions.size() - 1) / kBloc * kBloc;
+    std::sort(possessions.begin() + static_cast<std::ptrdiff_t>(debut), possessions.end());
+}
+
+void joinsLesBlocs(std::vector<std::uint64_t>& possessions) {
+    const auto a = [&](std::size_t rang) {
+        return possessions.begin() + static_cast<std::ptrdiff_t>(std::min(rang, possessions.size()));
+    };
+    for (std::size_t pas = kBloc; pas < possessions.size(); pas *= 2)
+        for (std::size_t debut = 0; debut + pas < possessions.size(); debut += 2 * pas)
+            std::inplace_merge(a(debut), a(debut + pas), a(debut + 2 * pas));
 }
 
 }  // namespace
@@ -39,7 +54,8 @@ bool FilmsPossedes::prepare(const db::Contexte& c, std::chrono::milliseconds dur
         m_version = {};
         throw;
     }
-    std::sort(m_enCours.begin(), m_enCours.end());
+    trieLeDernierBloc(m_enCours);
+    joinsLesBlocs(m_enCours);
     m_connues = std::exchange(m_enCours, {});
     return m_aJour = true;
 }
@@ -50,6 +66,7 @@ bool FilmsPossedes::lit(const db::Contexte& c, std::chrono::milliseconds duree) 
         if (!ligne[2].empty()) possession |= kPrete;
         if (!ligne[3].empty()) possession |= kReserve;
         m_enCours.push_back(possession);
+        if (m_enCours.size() % kBloc == 0) trieLeDernierBloc(m_enCours);
     };
     const auto fin = c.montre() + duree;
     bool suite = true;

@@ -51,4 +51,19 @@ TEST_F(MarquesFilmTest, FollowTheHoldingsAndTheRatingWithoutListingAnew) {
     EXPECT_EQ(browse::infobulleDuNoeud(c, noeud("Cléo de 5 à 7")), "");
 }
 
+// Holdings are put in order block by block as they are read: each is found wherever its block lies.
+TEST_F(MarquesFilmTest, EveryHoldingOfManyIsKnown) {
+    constexpr int kPossedes = 2 * 8192 + 100;
+    base.base.BeginTrans();
+    for (int i = 0; i < kPossedes; ++i)
+        possede(std::to_string(i).c_str(), "", {{"Pret", i % 3 == 0 ? "Paul" : ""}});
+    base.base.CommitTrans();
+    ASSERT_TRUE(browse::suisLesMarques(c, 1h));
+    for (int i = 0; i < kPossedes; ++i) {
+        const browse::Possession connue = liste.possedes.cherche(std::to_string(i), "");
+        ASSERT_TRUE(connue.possede && connue.prete == (i % 3 == 0)) << i;
+    }
+    EXPECT_FALSE(liste.possedes.cherche(std::to_string(kPossedes), "").possede);
+}
+
 }  // namespace
