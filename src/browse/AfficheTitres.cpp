@@ -117,16 +117,6 @@ void AfficheTitres(const Contexte& c, dao::Recordset liste, int tri) {
     if (c.liste.AffStats.Value == 1) AffStats_Click(c);
 }
 
-// The old tree is still shown while the new one is filled: meanwhile none of its rows is to be read from the new listing.
-void AfficheTitres(const Contexte& c, int tri) {
-    try {
-        AfficheTitres(c, std::move(c.base.liste), tri);
-    } catch (...) {
-        videLesTitres(c);
-        throw;
-    }
-}
-
 void videLesTitres(const Contexte& c) {
     montreLesTitres(c, Arbre());
 }

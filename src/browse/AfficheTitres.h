@@ -8,9 +8,6 @@ namespace browse {
 // listing and tree take the place of the old ones at once. Throws dao::ErreurDao when the listing cannot be read: both are
 // as they were.
 void AfficheTitres(const Contexte& c, dao::Recordset liste, int tri);
-// The same from the listing that stands in its place already; it is away meanwhile, and what throws leaves neither it nor a
-// tree.
-void AfficheTitres(const Contexte& c, int tri);
 
 // A tree without nodes.
 void videLesTitres(const Contexte& c);

@@ -6,6 +6,8 @@
 #include "browse/TexteRequete.h"
 #include "db/Requete.h"
 
+#include <utility>
+
 namespace browse {
 
 namespace {
@@ -41,12 +43,13 @@ void CreeRequeteAffichage(const Contexte& c, int zone, int tri, const std::strin
         c.dialogues.MsgBox(kTriParSupportImpossible, dialogues::kExclamation);
         return nommeCeQuiEstMontre(c.liste);
     }
-    c.base.liste = ouvre(c, construitRequete(zone, tri, condition));
-    c.liste.triDeLArbre = tri;
-    c.liste.zoneDeLArbre = condition.empty() ? zone : kZoneRecherche;
+    dao::Recordset liste = ouvre(c, construitRequete(zone, tri, condition));
     try {
-        AfficheTitres(c, tri);
+        AfficheTitres(c, std::move(liste), tri);
+        c.liste.triDeLArbre = tri;
+        c.liste.zoneDeLArbre = condition.empty() ? zone : kZoneRecherche;
     } catch (const dao::ErreurDao& erreur) {
+        nommeCeQuiEstMontre(c.liste);
         c.dialogues.MsgBox(db::texteErreurRequete(db::NumeroErreur::CreeRequeteAffichage), dialogues::kCritique);
         throw db::RequeteEchouee(erreur);
     }

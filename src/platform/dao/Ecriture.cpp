@@ -27,21 +27,15 @@ std::optional<std::uint64_t> hachageDeLigne(Connexion& connexion, const Table& t
     return lecture.avance() ? std::optional(hachageDeColonnes(lecture, 0)) : std::nullopt;
 }
 
+// Aside: what is painted in a breath may look a row up, and find none or build an index of its own.
 void construitIndex(Connexion& connexion, Table& table) {
     Requete lecture = connexion.prepare("SELECT " + table.ligneSql + "," + table.clesSql() + " FROM " + table.nomSql);
-    IndexDeCles& index = table.suivi.index;
-    index.commence();
-    try {
-        constexpr long long kLignesParSouffle = 256;
-        for (long long lignes = 1; lecture.avance(); ++lignes) {
-            index.range(hachageDeColonnes(lecture, 1), lecture.entier(0));
-            if (lignes % kLignesParSouffle == 0) connexion.respire();
-        }
-        index.acheve();
-    } catch (...) {
-        index.oublie();
-        throw;
-    }
+    table.suivi.index.oublie();
+    IndexDeCles index;
+    for (Cadence cadence(connexion.souffle()); lecture.avance(); cadence())
+        index.range(hachageDeColonnes(lecture, 1), lecture.entier(0));
+    index.acheve(connexion.souffle());
+    table.suivi.index = std::move(index);
 }
 
 std::string listeSql(const Table& table, const Assignees& assignees, std::string_view apres) {

@@ -1,6 +1,7 @@
 #include "platform/dao/IndexDeCles.h"
 
 #include "platform/dao/CleJet.h"
+#include "platform/dao/TriParMorceaux.h"
 
 #include <algorithm>
 #include <functional>
@@ -23,12 +24,9 @@ std::uint64_t hacheCle(std::string_view premiere, std::string_view seconde) {
     return hache(cle, hachage);
 }
 
-void IndexDeCles::commence() {
-    oublie();
-}
-
-void IndexDeCles::acheve() {
-    std::sort(m_lignes.begin(), m_lignes.end());
+void IndexDeCles::acheve(const Souffle& souffle) {
+    m_lignes.serre();
+    trieParMorceaux(m_lignes.begin(), m_lignes.end(), std::less<>(), souffle);
     m_construit = true;
 }
 

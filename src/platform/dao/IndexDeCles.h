@@ -1,5 +1,8 @@
 #pragma once
 
+#include "platform/dao/Souffle.h"
+#include "platform/dao/Tampon.h"
+
 #include <compare>
 #include <cstdint>
 #include <string_view>
@@ -18,10 +21,9 @@ namespace dao::interne {
 class IndexDeCles {
   public:
     [[nodiscard]] bool estConstruit() const { return m_construit; }
-    // Takes the rows of a whole table: commence, range for each of them, acheve.
-    void commence();
+    // Takes the rows of a whole table: range for each of them, acheve.
     void range(std::uint64_t hachage, long long ligne) { m_lignes.push_back({hachage, ligne}); }
-    void acheve();
+    void acheve(const Souffle& souffle);
     void oublie();
 
     void ajoute(std::uint64_t hachage, long long ligne) { m_ajoutees.emplace(hachage, ligne); }
@@ -34,9 +36,7 @@ class IndexDeCles {
         long long ligne;
         friend auto operator<=>(const Place&, const Place&) = default;
     };
-    using Places = std::vector<Place>;
-
-    Places m_lignes;                                               // in order
+    Tampon<Place> m_lignes;                                        // in order
     std::unordered_multimap<std::uint64_t, long long> m_ajoutees;  // since
     std::unordered_multimap<std::uint64_t, long long> m_retirees;  // of m_lignes
     bool m_construit = false;

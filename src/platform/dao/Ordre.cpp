@@ -1,5 +1,7 @@
 #include "platform/dao/Ordre.h"
 
+#include "platform/dao/TriParMorceaux.h"
+
 #include <algorithm>
 #include <bit>
 #include <cstring>
@@ -9,7 +11,6 @@ namespace dao::interne {
 namespace {
 
 constexpr char kMarqueDeNombre = 0x02;
-constexpr std::ptrdiff_t kMorceau = 1 << 15;  // entries that are ordered in one go
 
 // Eight bytes of a key, the missing ones as zeros.
 std::uint64_t octets(std::string_view cle, std::size_t debut) {
@@ -17,19 +18,6 @@ std::uint64_t octets(std::string_view cle, std::size_t debut) {
     if (debut < cle.size()) std::memcpy(&lus, cle.data() + debut, std::min<std::size_t>(8, cle.size() - debut));
     if constexpr (std::endian::native == std::endian::little) lus = __builtin_bswap64(lus);
     return lus;
-}
-
-// In runs, which what comes nearly in order is made of, with a breath between parts of a few milliseconds.
-void trie(auto* debut, auto* fin, const auto& avant, const Souffle& souffle) {
-    while (souffle && fin - debut > kMorceau) {
-        auto* const milieu = debut + (fin - debut) / 2;
-        std::nth_element(debut, milieu, fin, avant);
-        souffle();
-        trie(debut, milieu, avant, souffle);
-        debut = milieu;
-    }
-    std::stable_sort(debut, fin, avant);
-    if (souffle) souffle();
 }
 
 }  // namespace
@@ -64,7 +52,7 @@ std::vector<std::uint32_t> Ordre::rangs(const Precede& precede, const Souffle& s
         const int ordre = cle(gauche.rang).compare(cle(droite.rang));
         return ordre != 0 ? ordre < 0 : precede(gauche.rang, droite.rang);
     };
-    trie(entrees.begin(), entrees.end(), avant, souffle);
+    trieParMorceaux(entrees.begin(), entrees.end(), avant, souffle);
     std::vector<std::uint32_t> resultat;
     resultat.reserve(entrees.size());
     for (const Entree& entree : entrees)
