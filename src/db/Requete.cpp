@@ -50,7 +50,7 @@ dao::Recordset rouvreRequete(const Contexte& c, const std::string& enonce, Numer
 void parcourtTable(const Contexte& c, std::string_view table, std::span<const std::string_view> colonnes,
                    NumeroErreur numero, const dao::Database::Recoit& recoit) {
     try {
-        c.base.base.parcourt(table, colonnes, recoit, souffle(c));
+        c.base.base.parcourt(table, colonnes, recoit);
     } catch (const dao::ErreurDao& erreur) {
         echoue(c, numero, erreur);
     }

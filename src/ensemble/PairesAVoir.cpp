@@ -9,8 +9,6 @@ namespace ensemble {
 
 namespace {
 
-constexpr long kLignesParSouffle = 256;
-
 using Presents = std::unordered_map<std::string, int>;
 
 std::string texteDe(const db::CleFilm& film) {
@@ -27,8 +25,9 @@ Presents filmsPresents(const Contexte& c) {
     dao::Recordset films = db::ouvreRequete(c, "SELECT Titre, Realisateur FROM films", db::NumeroErreur::Ressemblances);
     const dao::Colonne titre = films.colonne("Titre"), realisateur = films.colonne("Realisateur");
     const dao::Souffle souffle = db::souffle(c);
-    for (long lus = 0; !films.Eof(); films.MoveNext()) {
-        if (++lus % kLignesParSouffle == 0) souffle();
+    dao::Cadence cadence(souffle);
+    for (; !films.Eof(); films.MoveNext()) {
+        cadence();
         ++presents[texteDe(db::CleFilm{std::string(films.vue(titre)), std::string(films.vue(realisateur))})];
     }
     return presents;

@@ -33,7 +33,7 @@ class NomEmprunte {
 std::optional<texteriche::TexteRiche> metEnForme(const Contexte& c, std::string texteBalise) {
     MiseEnForme miseEnForme(std::move(texteBalise));
     c.nom.lblNom1.Caption = "Formatage";
-    const std::function<void()> souffle = db::souffle(c);
+    const dao::Souffle souffle = db::souffle(c);
     for (const Balise& balise : kBalises) {
         c.nom.lblNom2.Caption = balise.nom;
         c.ecran.rafraichit();

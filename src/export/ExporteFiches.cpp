@@ -60,7 +60,7 @@ class DossierNeuf {
         m_chemins.push_back(m_provisoire + nom);
         return note(fichiers::cree(m_chemins.back(), octets) == fichiers::Creation::Faite);
     }
-    [[nodiscard]] bool prendSonNom(const std::function<void()>& souffle) {
+    [[nodiscard]] bool prendSonNom(const dao::Souffle& souffle) {
         if (!m_raison.empty() || !note(fichiers::synchronise(m_chemins, souffle))) return false;
         m_cree = !note(fichiers::renomme(m_dossier + kSuffixe, m_dossier));
         return !m_cree;

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "export/Balises.h"
+#include "platform/dao/Souffle.h"
 #include "platform/texteriche/TexteRiche.h"
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -25,7 +25,7 @@ class MiseEnForme {
     explicit MiseEnForme(std::string texteBalise);
 
     // In a time that grows as the text does; `souffle` is called on the way.
-    void applique(const Balise& balise, const std::function<void()>& souffle = {});
+    void applique(const Balise& balise, const dao::Souffle& souffle = {});
     [[nodiscard]] texteriche::TexteRiche resultat() &&;
 
   private:

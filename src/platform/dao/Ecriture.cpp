@@ -32,10 +32,10 @@ void construitIndex(Connexion& connexion, Table& table) {
     IndexDeCles& index = table.suivi.index;
     index.commence();
     try {
-        constexpr long long kLignesParSouffle = 256;
-        for (long long lignes = 1; lecture.avance(); ++lignes) {
+        Cadence cadence(connexion.souffle());
+        while (lecture.avance()) {
             index.range(hachageDeColonnes(lecture, 1), lecture.entier(0));
-            if (lignes % kLignesParSouffle == 0) connexion.respire();
+            cadence();
         }
         index.acheve();
     } catch (...) {
