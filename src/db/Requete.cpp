@@ -1,5 +1,7 @@
 #include "db/Requete.h"
 
+#include "platform/systeme/ACote.h"
+
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -25,6 +27,15 @@ namespace {
 [[noreturn]] void echoue(const Contexte& c, NumeroErreur numero, const dao::ErreurDao& erreur) {
     c.dialogues.MsgBox(texteErreurRequete(numero), dialogues::kCritique);
     throw RequeteEchouee(erreur);
+}
+
+dao::Souffle souffleDe(ecran::Ecran& ecran, const systeme::Montre& montre) {
+    static constexpr std::chrono::milliseconds kPatience{30};
+    return [&ecran, montre, prochain = montre() + kPatience]() mutable {
+        if (montre() < prochain) return;
+        ecran.patiente();
+        prochain = montre() + kPatience;
+    };
 }
 
 }  // namespace
@@ -57,11 +68,12 @@ void parcourtTable(const Contexte& c, std::string_view table, std::span<const st
 }
 
 dao::Souffle souffle(const Contexte& c) {
-    static constexpr std::chrono::milliseconds kPatience{30};
-    return [&ecran = c.ecran, montre = c.montre, prochain = c.montre() + kPatience]() mutable {
-        if (montre() < prochain) return;
-        ecran.patiente();
-        prochain = montre() + kPatience;
+    return souffleDe(c.ecran, c.montre);
+}
+
+dao::Attente attente(const Contexte& c) {
+    return [&ecran = c.ecran, montre = c.montre](const std::function<void()>& travail) {
+        systeme::aCote(travail, souffleDe(ecran, montre));
     };
 }
 

@@ -3,6 +3,7 @@
 #include "db/CopieVisible.h"
 #include "db/OuvertureBase.h"
 #include "db/OuvertureJet.h"
+#include "db/Requete.h"
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
 #include "platform/fichiers/Restes.h"
@@ -43,8 +44,10 @@ class BasePrete {
         CopieVisible visible(c, "Lecture de la sauvegarde…");
         if (visible.copie(copie.chemin, m_chemin) == dao::DBEngine::IssueDeCopie::Arretee) throw RetourArrete{};
         try {
-            dao::DBEngine::verifieEntierement(m_chemin);
-            (void)sOuvreCommeBase(m_chemin);
+            attente(c)([this] {
+                dao::DBEngine::verifieEntierement(m_chemin);
+                (void)sOuvreCommeBase(m_chemin);
+            });
         } catch (...) {
             fichiers::supprime(m_chemin);
             throw;

@@ -1,6 +1,7 @@
 #include "db/cmdCompacter_Click.h"
 
 #include "db/OuvertureBase.h"
+#include "db/Requete.h"
 #include "db/Sauvegardes.h"
 #include "db/TravauxInacheves.h"
 #include "platform/dao/DBEngine.h"
@@ -32,11 +33,12 @@ void copieEtRemplace(const Contexte& c, const std::string& base) {
     c.base.base.Execute("PRAGMA journal_mode=DELETE");  // a base made elsewhere may keep a log of its own
     fichiers::supprime(travail);
     fichiers::supprime(travail + "-journal");
-    dao::DBEngine::CompactDatabase(base, travail, [&] {
+    const auto remplace = [&] {
         c.base.ferme();
         if (!fichiers::renomme(travail, base))
             throw dao::ErreurDao(dao::kErreurDisque, "Le fichier " + base + " n'a pas pu être remplacé.");
-    });
+    };
+    dao::DBEngine::CompactDatabase(base, travail, remplace, attente(c));
 }
 
 Empechement compacte(const Contexte& c) {

@@ -46,7 +46,7 @@ Regard::~Regard() {
 
 Connexion::Connexion(Poignee base, std::string nom)
     : m_base(std::move(base)), m_nom(std::move(nom)), m_fichier(fichierNomme(m_nom)) {
-    inscritFonctions(brute());
+    inscritFonctions(*this);
     m_versionDuFichier = versionDuFichier();
 }
 

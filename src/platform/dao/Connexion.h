@@ -77,6 +77,7 @@ class Connexion {
     void respire() {
         if (m_souffle) m_souffle();
     }
+    void respireEntreDeuxLignes() { m_entreDeuxLignes(); }  // once in so many
     [[nodiscard]] const Souffle& souffle() const { return m_souffle; }
 
     void inscrit(Jeu& jeu) { m_jeux.push_back(&jeu); }
@@ -106,6 +107,7 @@ class Connexion {
     std::uint64_t m_version = 0;
     long long m_versionDuFichier = 0;
     Souffle m_souffle;
+    Cadence m_entreDeuxLignes{m_souffle};
     std::unique_ptr<Enregistreur> m_enregistreur;
     bool m_dejaEnregistree = false;
 };
