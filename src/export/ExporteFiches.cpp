@@ -61,7 +61,11 @@ class DossierNeuf {
     }
     [[nodiscard]] bool prendSonNom(const dao::Attente& attente) {
         bool surLeDisque = false;
-        if (m_raison.empty()) attente([&] { surLeDisque = note(fichiers::synchronise(m_chemins)); });
+        if (m_raison.empty())
+            attente([&] {
+                surLeDisque = note(fichiers::synchronise(m_chemins));
+                m_chemins = {};
+            });
         if (!surLeDisque) return false;
         m_cree = !note(fichiers::renomme(m_dossier + kSuffixe, m_dossier));
         return !m_cree;
@@ -115,6 +119,10 @@ class EcritFiches {
                              " : voir « " + kFichierRemarques + " ».";
         }
         return m_dossier.ecrit(kFichierRemarques, "\uFEFF" + texte);
+    }
+    // To give so many names back one by one takes long.
+    void rendsLesNoms(const dao::Attente& attente) {
+        attente([this] { m_noms = {}; });
     }
 
   private:
@@ -177,6 +185,7 @@ Bilan exporteFiches(const db::Contexte& c, dao::Recordset& liste, const FilmsAEx
     EcritFiches fiches(neuf, lecteur, redige);
     const bool complet = parcourt(
         c, lecteur, films, [&](const FilmExporte& film) { return fiches.ecrit(film); }, bilan);
+    fiches.rendsLesNoms(db::attente(c));
     if (complet && fiches.ecritLesRemarques(bilan) && neuf.prendSonNom(db::attente(c))) return bilan;
     bilan.raison = neuf.raison();
     bilan.issue = bilan.raison.empty() ? Bilan::Issue::Arretee : Bilan::Issue::Echouee;

@@ -41,10 +41,8 @@ class MiseEnForme::Passe {
     Passe(MiseEnForme& cible, const Balise& balise)
         : m_cible(cible), m_balise(balise), m_texte(cible.m_texte.data()), m_styles(cible.m_stylesDesOctets.data()) {}
 
-    void execute(const dao::Souffle& souffle) {
-        dao::Cadence cadence(souffle, dao::Cadence::kEnMemoire);
+    void execute() {
         while (!m_arretee && avance()) {
-            cadence();
             if (m_enAttente) {
                 if (finitPar(m_fermante, m_file, m_finFile)) selectionne();
             } else if (finitPar(m_ouvrante, 0, m_fait)) {
@@ -174,8 +172,8 @@ MiseEnForme::MiseEnForme(std::string texteBalise) : m_texte(std::move(texteBalis
     m_alignements.resize(static_cast<std::size_t>(std::count(m_texte.begin(), m_texte.end(), '\n')) + 1);
 }
 
-void MiseEnForme::applique(const Balise& balise, const dao::Souffle& souffle) {
-    Passe(*this, balise).execute(souffle);
+void MiseEnForme::applique(const Balise& balise) {
+    Passe(*this, balise).execute();
 }
 
 texteriche::TexteRiche MiseEnForme::resultat() && {

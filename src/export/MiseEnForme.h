@@ -1,7 +1,6 @@
 #pragma once
 
 #include "export/Balises.h"
-#include "platform/dao/Souffle.h"
 #include "platform/texteriche/TexteRiche.h"
 
 #include <cstdint>
@@ -24,8 +23,7 @@ class MiseEnForme {
     // The text as it is loaded: the default style on the left, each line end made a LF.
     explicit MiseEnForme(std::string texteBalise);
 
-    // In a time that grows as the text does; `souffle` is called on the way.
-    void applique(const Balise& balise, const dao::Souffle& souffle = {});
+    void applique(const Balise& balise);  // in a time that grows as the text does
     [[nodiscard]] texteriche::TexteRiche resultat() &&;
 
   private:

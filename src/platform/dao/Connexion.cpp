@@ -153,7 +153,10 @@ void Connexion::soulageLEnregistrement() {
     if (m_enregistreur) m_enregistreur->soulage();
 }
 
-void Connexion::relisToutesLesLignes() {
+void Connexion::relisToutesLesLignes(std::vector<IndexDeCles>& anciens) noexcept {
+    auto ancien = anciens.begin();
+    for (const auto& [nom, table] : m_tables)
+        if (ancien != anciens.end()) std::swap(*ancien++, table->suivi.index);
     nouvelleVersion();
     oublieLesLignes();
 }

@@ -69,8 +69,9 @@ class Connexion {
     [[nodiscard]] bool estEnregistree() const { return m_enregistreur != nullptr; }
     void noteModification();  // a row is about to be modified
     void soulageLEnregistrement();
-    // As after another program's change.
-    void relisToutesLesLignes();
+    // As after another program's change. What was known of the rows goes to `anciens`, which has a place for each table.
+    void relisToutesLesLignes(std::vector<IndexDeCles>& anciens) noexcept;
+    [[nodiscard]] std::size_t nombreDeTables() const { return m_tables.size(); }
 
     // Between two rows of whatever is read at length (Database::respireAvec).
     void respireAvec(Souffle souffle) { m_souffle = std::move(souffle); }
