@@ -429,13 +429,6 @@ void mesureBaseJet(bench::Tableau& tableau, const Options& options) {
     fs::remove(base);
 }
 
-// What one statement of SQLite, or the disk, takes as long as it takes.
-bool estDUnSeulTenant(const std::string& geste) {
-    for (const char* tenant : {"compaction", "conversion", "copies_", "export_optFiches"})
-        if (geste.starts_with(tenant)) return true;
-    return false;
-}
-
 // Gesture by gesture; those that stay below half of the target are one line.
 void mesureGestes(bench::Tableau& tableau, const Options& options, int films, double cible) {
     const fs::path copie = copieDe(options, collection(options, {films, false}));
@@ -449,7 +442,7 @@ void mesureGestes(bench::Tableau& tableau, const Options& options, int films, do
         if (duree < cible / 2)
             autres = std::max(autres, duree);
         else
-            tableau.ajoute({geste, "ms", duree, {}, estDUnSeulTenant(geste) ? std::nullopt : std::optional(cible)});
+            tableau.ajoute({geste, "ms", duree, {}, cible});
     }
     tableau.ajoute({"each of the other gestures, at most", "ms", autres, {}, cible});
 }

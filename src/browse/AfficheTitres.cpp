@@ -17,7 +17,6 @@ namespace {
 
 constexpr std::string_view kHorsTri = " Hors tri !";
 constexpr std::size_t kOctetsParTitre = 48;  // more than usual: a text that outgrows it stands in memory twice
-constexpr std::uint32_t kFilmsParSouffle = 256;
 
 // 1 to 26 for a title that begins with a letter, accented or not, 0 for any other.
 std::size_t rangDeLettre(std::string_view titre) {
@@ -85,6 +84,7 @@ Arbre arbreDe(const Contexte& c, dao::Recordset& liste, const Tri& tri) {
     GroupesParLettre lettres(arbre);
     GroupesParValeur valeurs(arbre);
     const dao::Souffle souffle = db::souffle(c);
+    dao::Cadence cadence(souffle);
     const dao::Colonne titres = liste.colonne("Titre");
     const dao::Colonne champ = liste.colonne(tri.champ);
     std::uint32_t position = 0;
@@ -94,7 +94,7 @@ Arbre arbreDe(const Contexte& c, dao::Recordset& liste, const Tri& tri) {
         const std::string_view titre = liste.vue(titres);
         if (tri.groupes == Groupes::Lettre) groupe = lettres.groupe(titre);
         arbre.ajouteFilm(groupe, ++position, titre);
-        if (position % kFilmsParSouffle == 0) souffle();
+        cadence();
     }
     return arbre;
 }

@@ -12,8 +12,6 @@ namespace browse {
 
 namespace {
 
-constexpr std::uint32_t kLignesParSouffle = 256;
-
 using Convient = std::function<bool(std::string_view)>;
 
 Convient memesOctets(const std::string& voulu) {
@@ -31,9 +29,11 @@ std::uint32_t cherche(const Contexte& c, const Convient& titreConvient, const Co
     const dao::Souffle souffle = db::souffle(c);
     if (liste.RecordCount() < 1) return 0;
     const dao::Colonne titres = liste.colonne("Titre"), realisateurs = liste.colonne("Realisateur");
+    dao::Cadence cadence(souffle);
     std::uint32_t position = 0;
     for (liste.MoveFirst(); !liste.Eof(); liste.MoveNext()) {
-        if (++position % kLignesParSouffle == 0) souffle();
+        cadence();
+        ++position;
         if (titreConvient(liste.vue(titres)) && realisateurConvient(liste.vue(realisateurs))) return position;
     }
     return 0;

@@ -37,22 +37,32 @@ std::string decrit(const dao::DBEngine::Contenu& contenu) {
            compte(contenu.possessions, "# exemplaire", "# exemplaires");
 }
 
+struct Comparees {
+    dao::DBEngine::Contenu alors, aujourdhui;
+    dao::Ecarts films, exemplaires;
+};
+
+Comparees compare(const std::string& la, const std::string& ici) {
+    return {dao::DBEngine::contenuDe(la), dao::DBEngine::contenuDe(ici),
+            dao::ecarts(la, ici, "Films", "Titre", "Realisateur", kPremieres),
+            dao::ecarts(la, ici, "Personnel", "Titre2", "Realisateur2", kPremieres)};
+}
+
 }  // namespace
 
 std::string comparaison(const Contexte& c, const Sauvegarde& copie) {
     const std::string ici = fichierAJour(c);
+    Comparees comparees;
+    attente(c)([&] { comparees = compare(copie.chemin, ici); });
+    const auto& [alors, aujourdhui, films, exemplaires] = comparees;
     std::string texte = "Sauvegarde du " + dateDe(copie) + ", avant : " + libelle(copie.nom.avant) + "\n    " +
-                        decrit(dao::DBEngine::contenuDe(copie.chemin)) + "\nAujourd'hui\n    " +
-                        decrit(dao::DBEngine::contenuDe(ici)) + "\n";
-    const dao::Ecarts films = dao::ecarts(copie.chemin, ici, "Films", "Titre", "Realisateur", kPremieres, souffle(c));
+                        decrit(alors) + "\nAujourd'hui\n    " + decrit(aujourdhui) + "\n";
     if (sontVides(films)) texte += "\nLes films sont les mêmes.\n";
     ajoute(texte, films.seulementLa,
            {"# film n'est que dans la sauvegarde :", "# films ne sont que dans la sauvegarde :"});
     ajoute(texte, films.seulementIci,
            {"# film n'est que dans la base d'aujourd'hui :", "# films ne sont que dans la base d'aujourd'hui :"});
     ajoute(texte, films.differentes, {"# film a changé depuis :", "# films ont changé depuis :"});
-    const dao::Ecarts exemplaires =
-        dao::ecarts(copie.chemin, ici, "Personnel", "Titre2", "Realisateur2", kPremieres, souffle(c));
     if (sontVides(exemplaires)) texte += "\nLes exemplaires sont les mêmes.\n";
     ajoute(texte, exemplaires.seulementLa,
            {"# exemplaire n'est que dans la sauvegarde :", "# exemplaires ne sont que dans la sauvegarde :"});
@@ -70,14 +80,18 @@ std::string comparaison(const Contexte& c, const Sauvegarde& copie) {
 
 // A value that is longer than any name is a picture.
 long affichesSansFichier(const Contexte& c, const Sauvegarde& copie) {
-    const std::vector<std::string> noms =
-        dao::DBEngine::textesDe(copie.chemin,
-                                "SELECT CAST(Affiche AS TEXT) FROM Films WHERE length(Affiche) BETWEEN 4 AND 4096 AND "
-                                "CAST(substr(Affiche, 1, 3) AS TEXT)='JPG'");
     const std::string dossier = dossierImages(c);
-    return std::ranges::count_if(noms, [&](const std::string& affiche) {
-        return !fichierAffiche(dossier, affiche) && !afficheVoisine(copie.base, affiche);
+    long absentes = 0;
+    attente(c)([&] {
+        const std::vector<std::string> noms = dao::DBEngine::textesDe(
+            copie.chemin,
+            "SELECT CAST(Affiche AS TEXT) FROM Films WHERE length(Affiche) BETWEEN 4 AND 4096 AND "
+            "CAST(substr(Affiche, 1, 3) AS TEXT)='JPG'");
+        absentes = std::ranges::count_if(noms, [&](const std::string& affiche) {
+            return !fichierAffiche(dossier, affiche) && !afficheVoisine(copie.base, affiche);
+        });
     });
+    return absentes;
 }
 
 }  // namespace db

@@ -6,6 +6,7 @@
 #include "db/Schema.h"
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
+#include "platform/systeme/ACote.h"
 #include "util/Texte.h"
 
 #include <algorithm>
@@ -127,8 +128,9 @@ RapportJet Passage::convertit() {
         copie(m_personnel, base);
     }
     if (m_abimee) releveLesDommages();
-    if (!fichiers::synchronise({m_destination}))
-        throw Echec{"Le fichier " + util::entreChevrons(m_destination) + " n'a pas pu être enregistré."};
+    bool surLeDisque = false;
+    systeme::aCote([&] { surLeDisque = fichiers::synchronise({m_destination}); }, [this] { m_ecran.patiente(); });
+    if (!surLeDisque) throw Echec{"Le fichier " + util::entreChevrons(m_destination) + " n'a pas pu être enregistré."};
     dao::Database base = dao::DBEngine::OpenDatabase(m_destination, true);
     relit(m_films, base, 0, m_films.lignes + m_personnel.lignes);
     relit(m_personnel, base, m_films.lignes, m_films.lignes + m_personnel.lignes);

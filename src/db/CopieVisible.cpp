@@ -1,5 +1,6 @@
 #include "db/CopieVisible.h"
 
+#include "db/Requete.h"
 #include "platform/fichiers/Fichiers.h"
 #include "platform/fichiers/Verrou.h"
 
@@ -46,7 +47,8 @@ dao::DBEngine::IssueDeCopie CopieVisible::copie(const std::string& source, const
     const auto droits = std::filesystem::status(source, ignoree).permissions();
     std::filesystem::permissions(travail, droits & std::filesystem::perms::all, ignoree);
     const auto issue = dao::DBEngine::copieBase(
-        source, travail, [this](std::int64_t faits, std::int64_t total) { return m_visible.avance(faits, total); });
+        source, travail, [this](std::int64_t faits, std::int64_t total) { return m_visible.avance(faits, total); },
+        attente(m_c));
     if (issue == dao::DBEngine::IssueDeCopie::Faite) fichier.garde();
     return issue;
 }

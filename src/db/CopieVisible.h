@@ -32,13 +32,15 @@ class OctetsVisibles {
 // Copying a base as the user sees it.
 class CopieVisible {
   public:
-    CopieVisible(const Contexte& c, std::string texte) : m_visible(c, std::move(texte), 32 << 20) {}  // `c` outlives it
+    CopieVisible(const Contexte& c, std::string texte)
+        : m_c(c), m_visible(c, std::move(texte), 32 << 20) {}  // `c` outlives it
 
     // As dao::DBEngine::copieBase, to a new file at `travail`, which is gone again unless it answers Faite. That file is
     // the user's own in the same measure as the base, and marked as in use as long as this stands.
     [[nodiscard]] dao::DBEngine::IssueDeCopie copie(const std::string& source, const std::string& travail);
 
   private:
+    const Contexte& m_c;
     OctetsVisibles m_visible;
 };
 

@@ -98,7 +98,9 @@ void LotAffiches::releveDossier(Connaissance& connu) const {
 }
 
 void LotAffiches::avantValidation() {
-    if (!fichiers::synchronise(m_aSynchroniser)) throw EchecConversion{texteEchecFichier(m_dossier)};
+    bool surLeDisque = false;
+    m_attente([&] { surLeDisque = fichiers::synchronise(m_aSynchroniser); });
+    if (!surLeDisque) throw EchecConversion{texteEchecFichier(m_dossier)};
 }
 
 void LotAffiches::apresValidation() {

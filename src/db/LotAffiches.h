@@ -1,6 +1,7 @@
 #pragma once
 
 #include "db/Contexte.h"
+#include "db/Requete.h"
 
 #include <optional>
 #include <string>
@@ -29,7 +30,11 @@ class LotAffiches {
 
     // `c` need not outlive it.
     LotAffiches(const Contexte& c, std::string dossier, Inconnus inconnus = Inconnus::Gardes)
-        : m_base(c.base.base), m_annulations(c.annulations), m_dossier(std::move(dossier)), m_inconnus(inconnus) {}
+        : m_base(c.base.base),
+          m_annulations(c.annulations),
+          m_attente(attente(c)),
+          m_dossier(std::move(dossier)),
+          m_inconnus(inconnus) {}
 
     // Gives the picture a file of that name, or of the next one that is free, and answers it. A file of the very same
     // bytes is shared. `actuelle` is the film's present value: the file it names is the film's own to replace, unless
@@ -58,7 +63,8 @@ class LotAffiches {
 
     dao::Database& m_base;
     Annulations& m_annulations;  // told of every file that is made or replaced
-    std::string m_dossier;       // with its final separator
+    dao::Attente m_attente;
+    std::string m_dossier;  // with its final separator
     Inconnus m_inconnus;
     std::optional<Connaissance> m_connaissance;  // read once for each lot
     std::vector<std::string> m_crees;

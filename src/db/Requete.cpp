@@ -1,5 +1,7 @@
 #include "db/Requete.h"
 
+#include "platform/systeme/ACote.h"
+
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -27,6 +29,15 @@ namespace {
     throw RequeteEchouee(erreur);
 }
 
+dao::Souffle souffleDe(ecran::Ecran& ecran, const systeme::Montre& montre) {
+    static constexpr std::chrono::milliseconds kPatience{30};
+    return [&ecran, montre, prochain = montre() + kPatience]() mutable {
+        if (montre() < prochain) return;
+        ecran.patiente();
+        prochain = montre() + kPatience;
+    };
+}
+
 }  // namespace
 
 dao::Recordset ouvreRequete(const Contexte& c, const std::string& enonce, NumeroErreur numero,
@@ -50,18 +61,19 @@ dao::Recordset rouvreRequete(const Contexte& c, const std::string& enonce, Numer
 void parcourtTable(const Contexte& c, std::string_view table, std::span<const std::string_view> colonnes,
                    NumeroErreur numero, const dao::Database::Recoit& recoit) {
     try {
-        c.base.base.parcourt(table, colonnes, recoit, souffle(c));
+        c.base.base.parcourt(table, colonnes, recoit);
     } catch (const dao::ErreurDao& erreur) {
         echoue(c, numero, erreur);
     }
 }
 
 dao::Souffle souffle(const Contexte& c) {
-    static constexpr std::chrono::milliseconds kPatience{30};
-    return [&ecran = c.ecran, montre = c.montre, prochain = c.montre() + kPatience]() mutable {
-        if (montre() < prochain) return;
-        ecran.patiente();
-        prochain = montre() + kPatience;
+    return souffleDe(c.ecran, c.montre);
+}
+
+dao::Attente attente(const Contexte& c) {
+    return [&ecran = c.ecran, montre = c.montre](const std::function<void()>& travail) {
+        systeme::aCote(travail, souffleDe(ecran, montre));
     };
 }
 

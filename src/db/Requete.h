@@ -64,5 +64,8 @@ void parcourtTable(const Contexte& c, std::string_view table, std::span<const st
 // For what a command does at length, step by step: lets the window live on, several times a second. It is called as often
 // as one likes, with what the screen shows whole; the base, once open, calls it in all that it reads. The screen outlives it.
 [[nodiscard]] dao::Souffle souffle(const Contexte& c);
+// For what lasts in one piece and touches neither the state nor the open base: it is done aside (systeme::aCote) while the
+// window lives on. The screen outlives it.
+[[nodiscard]] dao::Attente attente(const Contexte& c);
 
 }  // namespace db

@@ -3,14 +3,17 @@
 #include "db/CopieVisible.h"
 #include "db/OuvertureBase.h"
 #include "db/OuvertureJet.h"
+#include "db/Requete.h"
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
 #include "platform/fichiers/Restes.h"
+#include "platform/fichiers/Retenu.h"
 #include "util/Texte.h"
 
 #include <array>
 #include <filesystem>
 #include <limits>
+#include <optional>
 #include <system_error>
 #include <utility>
 
@@ -43,8 +46,10 @@ class BasePrete {
         CopieVisible visible(c, "Lecture de la sauvegarde…");
         if (visible.copie(copie.chemin, m_chemin) == dao::DBEngine::IssueDeCopie::Arretee) throw RetourArrete{};
         try {
-            dao::DBEngine::verifieEntierement(m_chemin);
-            (void)sOuvreCommeBase(m_chemin);
+            attente(c)([this] {
+                dao::DBEngine::verifieEntierement(m_chemin);
+                (void)sOuvreCommeBase(m_chemin);
+            });
         } catch (...) {
             fichiers::supprime(m_chemin);
             throw;
@@ -76,7 +81,7 @@ void sauveAujourdhui(const Contexte& c, const Sauvegarde& copie) {
         throw RetourImpossible{"L'état actuel de la base n'a pas pu être sauvegardé : " + resultat.raison + "."};
 }
 
-void remplace(const Contexte& c, const Sauvegarde& copie) {
+void remplace(const Contexte& c, const Sauvegarde& copie, std::optional<fichiers::Retenu>& ancien) {
     if (fichierDeLaBase(c.base.base.nom()) != copie.base)
         throw RetourImpossible{"Cette sauvegarde est celle d'une autre base."};
     BasePrete prete(c, copie);
@@ -84,6 +89,7 @@ void remplace(const Contexte& c, const Sauvegarde& copie) {
     c.base.base.Execute("PRAGMA journal_mode=DELETE");  // a base made elsewhere may keep a log of its own
     dao::DBEngine::seulAvecLaBase(copie.base, [&] {
         c.base.ferme();
+        ancien.emplace(copie.base);
         prete.prendsLaPlace();
     });
 }
@@ -138,14 +144,16 @@ std::string metDeCote(const std::string& base) {
 }  // namespace
 
 bool revientA(const Contexte& c, const Sauvegarde& copie) {
+    std::optional<fichiers::Retenu> ancien;
     const bool revenu = raconte(c, "La base n'a pas pu revenir à la sauvegarde du " + dateDe(copie) + ".",
-                                "Rien n'a changé.", [&] { remplace(c, copie); });
+                                "Rien n'a changé.", [&] { remplace(c, copie, ancien); });
     if (c.base.base.estOuverte()) return revenu;
     c.rafraichissement.AfficheAccueil();
     if (revenu)
         ouvreLaBase(c);  // another base, for all that was kept of the rows of this one
     else
         reprendLaBase(c);
+    attente(c)([&ancien] { ancien.reset(); });
     c.rafraichissement.reconstruitListe();
     c.rafraichissement.RaffraichitBoitesDeroulantes();
     c.rafraichissement.AfficheNbTitres();

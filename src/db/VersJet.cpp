@@ -5,6 +5,7 @@
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
 #include "platform/jet/EcrivainJet.h"
+#include "platform/systeme/ACote.h"
 #include "util/Nombres.h"
 #include "util/Texte.h"
 
@@ -136,8 +137,9 @@ RapportVersJet Envois::execute(double jour) {
                       " n'a pas été écrit : l'ordre de Jet n'est pas connu pour " + util::entreChevrons(omis.texte) +
                       ". Les films y sont tous.");
     }
-    if (!fichiers::synchronise({m_destination}))
-        throw Echec{"Le fichier " + util::entreChevrons(m_destination) + " n'a pas pu être enregistré."};
+    bool surLeDisque = false;
+    systeme::aCote([&] { surLeDisque = fichiers::synchronise({m_destination}); }, [this] { m_ecran.patiente(); });
+    if (!surLeDisque) throw Echec{"Le fichier " + util::entreChevrons(m_destination) + " n'a pas pu être enregistré."};
     jet::Lecteur lecteur(m_destination);
     relit(m_films, lecteur, kAvancementEcriture, kAvancementMax);
     relit(m_personnel, lecteur, kAvancementEcriture, kAvancementMax);

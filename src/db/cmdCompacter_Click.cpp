@@ -1,10 +1,12 @@
 #include "db/cmdCompacter_Click.h"
 
 #include "db/OuvertureBase.h"
+#include "db/Requete.h"
 #include "db/Sauvegardes.h"
 #include "db/TravauxInacheves.h"
 #include "platform/dao/DBEngine.h"
 #include "platform/fichiers/Fichiers.h"
+#include "platform/fichiers/Retenu.h"
 #include "util/Sql.h"
 
 #include <filesystem>
@@ -19,6 +21,7 @@ namespace {
 namespace fs = std::filesystem;
 
 using Empechement = std::optional<std::string>;  // what to tell the user
+using AncienFichier = std::optional<fichiers::Retenu>;
 
 std::string fichierDeTravail(const Contexte& c, const std::string& base) {
     std::error_code erreur;
@@ -27,24 +30,26 @@ std::string fichierDeTravail(const Contexte& c, const std::string& base) {
 }
 
 // The recordsets are closed between the copy and its putting in place: a copy that fails leaves them open.
-void copieEtRemplace(const Contexte& c, const std::string& base) {
+void copieEtRemplace(const Contexte& c, const std::string& base, AncienFichier& ancien) {
     const std::string travail = fichierDeTravail(c, base);
     c.base.base.Execute("PRAGMA journal_mode=DELETE");  // a base made elsewhere may keep a log of its own
     fichiers::supprime(travail);
     fichiers::supprime(travail + "-journal");
-    dao::DBEngine::CompactDatabase(base, travail, [&] {
+    const auto remplace = [&] {
         c.base.ferme();
+        ancien.emplace(base);
         if (!fichiers::renomme(travail, base))
             throw dao::ErreurDao(dao::kErreurDisque, "Le fichier " + base + " n'a pas pu être remplacé.");
-    });
+    };
+    dao::DBEngine::CompactDatabase(base, travail, remplace, attente(c));
 }
 
-Empechement compacte(const Contexte& c) {
+Empechement compacte(const Contexte& c, AncienFichier& ancien) {
     std::error_code erreur;
     const fs::path base = fs::canonical(c.base.base.nom(), erreur);
     try {
         if (erreur) throw dao::ErreurDao(dao::kErreurFichierIntrouvable, "Le fichier de la base n'existe plus.");
-        copieEtRemplace(c, base.string());
+        copieEtRemplace(c, base.string(), ancien);
         return std::nullopt;
     } catch (const dao::ErreurDao& echec) {
         return "Le compactage n'a pas pu être effectué.\n" + echec.description;
@@ -83,9 +88,11 @@ void cmdCompacter_Click(const Contexte& c) {
 }
 
 void compacteEtRapporte(const Contexte& c) {
-    Empechement echec = compacte(c);
+    AncienFichier ancien;
+    Empechement echec = compacte(c, ancien);
     if (!c.base.base.estOuverte()) {
         reprendLaBase(c);
+        attente(c)([&ancien] { ancien.reset(); });
         if (!echec) echec = nettoieLesPossessions(c);
         c.rafraichissement.AfficheNbTitres();
         c.rafraichissement.AffichageApresModification();

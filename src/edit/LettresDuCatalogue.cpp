@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <span>
 #include <tuple>
 #include <utility>
 
@@ -27,25 +28,27 @@ LettresDuCatalogue LettresDuCatalogue::de(const Contexte& c) {
                       [&lettres](long long ligne, std::span<const std::string_view> textes) {
                           lettres.ajoute(ligne, textes[0], textes[1]);
                       });
+    lettres.range();
     return lettres;
 }
 
 void LettresDuCatalogue::ajoute(const db::CleFilm& film) {
-    ajoute(kDuLot, film.titre, film.realisateur);
+    const std::uint32_t sien = ajoute(kDuLot, film.titre, film.realisateur);
+    m_titres.back().precedent = m_realisateurs[sien].dernier;
+    m_realisateurs[sien].dernier = static_cast<std::uint32_t>(m_titres.size()) - 1;
 }
 
-void LettresDuCatalogue::ajoute(long long ligne, std::string_view titre, std::string_view realisateur) {
-    const auto rang = static_cast<std::uint32_t>(m_titres.size());
+std::uint32_t LettresDuCatalogue::ajoute(long long ligne, std::string_view titre, std::string_view realisateur) {
     const std::uint32_t sien = rangDu(realisateur);
-    m_titres.push_back({ligne, m_textes.size(), static_cast<std::uint32_t>(titre.size()), sien});
+    m_titres.push_back({ligne, m_textes.size(), static_cast<std::uint32_t>(titre.size()), sien, kAucun});
     m_textes += titre;
-    ajoute(sien, rang, util::empreinteLettres(titre));
+    return sien;
 }
 
 std::uint32_t LettresDuCatalogue::rangDu(std::string_view realisateur) {
-    const std::uint32_t rang = m_realisateurs.rang(realisateur);
-    if (rang < m_derniers.size()) return rang;
-    m_derniers.push_back(kAucun);
+    const std::uint32_t rang = m_noms.rang(realisateur);
+    if (rang < m_realisateurs.size()) return rang;
+    m_realisateurs.push_back({0, 0, kAucun});
     const util::EmpreinteLettres lettres = util::empreinteLettres(realisateur);
     DeMemeTotal& pareils = m_parLettres[lettres.total];
     pareils.genres.push_back(lettres.genres);
@@ -53,38 +56,48 @@ std::uint32_t LettresDuCatalogue::rangDu(std::string_view realisateur) {
     return rang;
 }
 
-void LettresDuCatalogue::ajoute(std::uint32_t realisateur, std::uint32_t titre, const util::EmpreinteLettres& lettres) {
-    std::uint32_t& dernier = m_derniers[realisateur];
-    if (dernier == kAucun || m_parRealisateur[dernier].nombre == Titres::kAuPlus) {
-        const auto nouveau = static_cast<std::uint32_t>(m_parRealisateur.size());
-        m_parRealisateur.emplace_back().precedents = std::exchange(dernier, nouveau);
+void LettresDuCatalogue::range() {
+    for (const Titre& titre : m_titres)
+        ++m_realisateurs[titre.realisateur].nombre;
+    std::uint32_t fin = 0;
+    for (Realisateur& sien : m_realisateurs) {
+        sien.debut = fin;
+        fin += std::exchange(sien.nombre, 0);
     }
-    Titres& titres = m_parRealisateur[dernier];
-    titres.empreintes[titres.nombre] = lettres;
-    titres.rangs[titres.nombre++] = titre;
+    m_ranges.resize(fin);
+    for (std::uint32_t i = 0; i < fin; ++i) {
+        Realisateur& sien = m_realisateurs[m_titres[i].realisateur];
+        const util::EmpreinteLettres lettres = util::empreinteLettres(texte(m_titres[i]));
+        m_ranges[sien.debut + sien.nombre++] = {lettres.genres, lettres.total, i};
+    }
 }
 
-// The titles of the directors that may resemble lie anywhere in the memory: it is asked for all of them before the first
-// is looked at.
-std::vector<std::uint32_t> LettresDuCatalogue::titresPossibles(const util::EmpreinteLettres& titre,
-                                                               const util::EmpreinteLettres& realisateur) const {
-    std::vector<std::uint32_t> places, blocs, rangs;
+std::vector<std::uint32_t> LettresDuCatalogue::realisateursPossibles(const util::EmpreinteLettres& realisateur) const {
+    std::vector<std::uint32_t> places, rangs;
     for (const auto& [total, pareils] : m_parLettres) {
         if (totalAuPlus(total) < realisateur.total) continue;
         if (totalAuPlus(realisateur.total) < total) break;
         places.clear();
         retientPossibles(pareils.genres, total, realisateur, places);
-        for (const std::uint32_t place : places) {
-            blocs.push_back(m_derniers[pareils.rangs[place]]);
-            __builtin_prefetch(&m_parRealisateur[blocs.back()]);
-        }
+        for (const std::uint32_t place : places)
+            rangs.push_back(pareils.rangs[place]);
     }
-    for (std::uint32_t bloc : blocs) {
-        for (; bloc != kAucun; bloc = m_parRealisateur[bloc].precedents) {
-            const Titres& titres = m_parRealisateur[bloc];
-            for (std::uint32_t i = 0; i < titres.nombre; ++i)
-                if (peutRessembler(titre, titres.empreintes[i])) rangs.push_back(titres.rangs[i]);
-        }
+    return rangs;
+}
+
+// The titles of those directors lie anywhere in the memory: it is asked for all of them before the first is looked at.
+std::vector<std::uint32_t> LettresDuCatalogue::titresPossibles(const util::EmpreinteLettres& titre,
+                                                               const util::EmpreinteLettres& realisateur) const {
+    const std::vector<std::uint32_t> realisateurs = realisateursPossibles(realisateur);
+    for (const std::uint32_t rang : realisateurs)
+        __builtin_prefetch(m_ranges.data() + m_realisateurs[rang].debut);
+    std::vector<std::uint32_t> rangs;
+    for (const std::uint32_t rang : realisateurs) {
+        const Realisateur& sien = m_realisateurs[rang];
+        for (const Range& range : std::span(m_ranges).subspan(sien.debut, sien.nombre))
+            if (peutRessembler(titre, {range.genres, range.total})) rangs.push_back(range.titre);
+        for (std::uint32_t autre = sien.dernier; autre != kAucun; autre = m_titres[autre].precedent)
+            if (peutRessembler(titre, util::empreinteLettres(texte(m_titres[autre])))) rangs.push_back(autre);
     }
     return rangs;
 }
@@ -98,7 +111,7 @@ void LettresDuCatalogue::chercheProches(const db::CleFilm& film, Recoit recoit) 
         const Titre& titre = m_titres[possible];
         const int leTitre = util::similarite(duTitre, util::compteLettres(texte(titre)));
         if (leTitre <= kSeuilRessemblance) continue;
-        const int leNom = util::similarite(duRealisateur, util::compteLettres(m_realisateurs.nom(titre.realisateur)));
+        const int leNom = util::similarite(duRealisateur, util::compteLettres(m_noms.nom(titre.realisateur)));
         if (leNom > kSeuilRessemblance && !recoit(titre, leTitre, leNom)) return;
     }
 }
@@ -116,8 +129,7 @@ bool LettresDuCatalogue::aUnProche(const db::CleFilm& film) const {
 std::vector<LettresDuCatalogue::Trouve> LettresDuCatalogue::trouves(const db::CleFilm& film) const {
     std::vector<Trouve> trouves;
     chercheProches(film, [&](const Titre& titre, int duTitre, int duNom) {
-        FilmProche proche{
-            {std::string(texte(titre)), std::string(m_realisateurs.nom(titre.realisateur))}, duTitre, duNom};
+        FilmProche proche{{std::string(texte(titre)), std::string(m_noms.nom(titre.realisateur))}, duTitre, duNom};
         std::string cle =
             dao::cleDeComparaison(proche.film.titre) + '\0' + dao::cleDeComparaison(proche.film.realisateur);
         trouves.push_back({std::move(cle), &titre, std::move(proche)});

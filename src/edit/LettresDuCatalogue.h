@@ -5,7 +5,6 @@
 #include "util/NomsDistincts.h"
 #include "util/Similarite.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -35,19 +34,22 @@ class LettresDuCatalogue {
         std::size_t debut = 0;  // in m_textes
         std::uint32_t taille = 0;
         std::uint32_t realisateur = 0;  // in m_realisateurs
+        std::uint32_t precedent = 0;    // in m_titres, of the same director; of the batch
     };
-    // Some titles of one director, side by side with what rules nearly all of them out: what a film costs is how many places
-    // of the memory are looked at for it.
-    struct Titres {
-        static constexpr std::size_t kAuPlus = 6;
-        std::array<util::EmpreinteLettres, kAuPlus> empreintes{};
-        std::array<std::uint32_t, kAuPlus> rangs{};  // in m_titres
-        std::uint32_t nombre = 0;
-        std::uint32_t precedents = 0;  // in m_parRealisateur, of the same director
+    // What rules nearly every title out. Those of a director stand side by side: what a film costs is how many places of
+    // the memory are looked at for it.
+    struct Range {
+        std::uint64_t genres = 0;  // of its letters
+        std::uint32_t total = 0;
+        std::uint32_t titre = 0;  // in m_titres
+    };
+    struct Realisateur {
+        std::uint32_t debut = 0, nombre = 0;  // in m_ranges
+        std::uint32_t dernier = 0;            // of the batch, in m_titres
     };
     struct DeMemeTotal {
         std::vector<std::uint64_t> genres;  // of their letters
-        std::vector<std::uint32_t> rangs;   // in m_derniers
+        std::vector<std::uint32_t> rangs;   // in m_realisateurs
     };
     struct Trouve {
         std::string cle;  // as the base orders it
@@ -55,12 +57,13 @@ class LettresDuCatalogue {
         FilmProche film;
     };
 
-    void ajoute(long long ligne, std::string_view titre, std::string_view realisateur);
+    std::uint32_t ajoute(long long ligne, std::string_view titre, std::string_view realisateur);  // its director
     [[nodiscard]] std::uint32_t rangDu(std::string_view realisateur);
-    void ajoute(std::uint32_t realisateur, std::uint32_t titre, const util::EmpreinteLettres& lettres);
     [[nodiscard]] std::string_view texte(const Titre& titre) const {
         return std::string_view(m_textes).substr(titre.debut, titre.taille);
     }
+    void range();  // the titles that were read
+    [[nodiscard]] std::vector<std::uint32_t> realisateursPossibles(const util::EmpreinteLettres& realisateur) const;
     [[nodiscard]] std::vector<std::uint32_t> titresPossibles(const util::EmpreinteLettres& titre,
                                                              const util::EmpreinteLettres& realisateur) const;
     // Hands each film that resembles, with its scores, until `recoit` answers false.
@@ -70,10 +73,10 @@ class LettresDuCatalogue {
 
     std::string m_textes;  // the titles, one after the other
     std::vector<Titre> m_titres;
-    std::vector<Titres> m_parRealisateur;
-    std::vector<std::uint32_t> m_derniers;  // of each director, in m_parRealisateur
-    util::NomsDistincts m_realisateurs;
-    std::map<std::uint32_t, DeMemeTotal> m_parLettres;  // directors, by their letters
+    std::vector<Range> m_ranges;  // by director
+    util::NomsDistincts m_noms;   // of the directors
+    std::vector<Realisateur> m_realisateurs;
+    std::map<std::uint32_t, DeMemeTotal> m_parLettres;  // by how many letters they have
 };
 
 }  // namespace edit

@@ -9,8 +9,6 @@ namespace ensemble {
 
 namespace {
 
-constexpr long kLignesParSouffle = 256;
-
 using Presents = std::unordered_map<std::string, int>;
 
 std::string texteDe(const db::CleFilm& film) {
@@ -21,15 +19,21 @@ std::string texteDe(const Paire& paire) {
     return texteDe(paire.gauche) + '\0' + texteDe(paire.droite);
 }
 
-// By the very texts: what was renamed is another film for a pair.
-Presents filmsPresents(const Contexte& c) {
+// Of the films of these pairs, by the very texts: what was renamed is another film for a pair.
+Presents filmsPresents(const Contexte& c, const std::vector<Paire>& paires) {
     Presents presents;
+    for (const Paire& paire : paires)
+        for (const db::CleFilm& film : {paire.gauche, paire.droite})
+            presents.try_emplace(texteDe(film));
     dao::Recordset films = db::ouvreRequete(c, "SELECT Titre, Realisateur FROM films", db::NumeroErreur::Ressemblances);
     const dao::Colonne titre = films.colonne("Titre"), realisateur = films.colonne("Realisateur");
     const dao::Souffle souffle = db::souffle(c);
-    for (long lus = 0; !films.Eof(); films.MoveNext()) {
-        if (++lus % kLignesParSouffle == 0) souffle();
-        ++presents[texteDe(db::CleFilm{std::string(films.vue(titre)), std::string(films.vue(realisateur))})];
+    dao::Cadence cadence(souffle);
+    std::string cle;
+    for (; !films.Eof(); films.MoveNext()) {
+        cadence();
+        cle.assign(films.vue(titre)).append(1, '\0').append(films.vue(realisateur));
+        if (const auto present = presents.find(cle); present != presents.end()) ++present->second;
     }
     return presents;
 }
@@ -57,7 +61,7 @@ void PairesAVoir::oublie() {
 bool PairesAVoir::actualise(const Contexte& c) {
     std::vector<std::size_t> rangs;
     if (!m_trouvees.paires.empty()) {
-        const Presents presents = filmsPresents(c);
+        const Presents presents = filmsPresents(c, m_trouvees.paires);
         for (std::size_t i = 0; i < m_trouvees.paires.size(); ++i)
             if (const Paire& paire = m_trouvees.paires[i];
                 estEntiere(paire, presents) && !m_laissees.contains(texteDe(paire)))

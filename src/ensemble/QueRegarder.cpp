@@ -24,7 +24,6 @@ constexpr std::string_view kPossedes =
 // Read with the rows: one by one they would be asked of the file each on its own.
 constexpr std::array<std::string_view, 9> kPortees{"Titre", "Realisateur", "Annee",     "Genre", "Duree",
                                                    "Note",  "Support",     "Rangement", "Pret"};
-constexpr long kLignesParSouffle = 256;
 
 bool convient(const FilmPropose& film, const Envies& envies) {
     if (film.note < envies.noteAuMoins) return false;
@@ -59,8 +58,9 @@ QueRegarder::QueRegarder(const Contexte& c, const Envies& envies, Hasard hasard)
     dao::Recordset films =
         db::ouvreRequete(c, "SELECT * " + std::string(kPossedes) + " ORDER BY Titre ASC", kNumero, kPortees);
     const dao::Souffle souffle = db::souffle(c);
-    for (long lus = 0; !films.Eof(); films.MoveNext()) {
-        if (++lus % kLignesParSouffle == 0) souffle();
+    dao::Cadence cadence(souffle);
+    for (; !films.Eof(); films.MoveNext()) {
+        cadence();
         if (!dao::egalJet(films.texte("Pret"), "")) continue;
         FilmPropose film{.film = {films.texte("Titre"), films.texte("Realisateur")},
                          .annee = films.texte("Annee"),

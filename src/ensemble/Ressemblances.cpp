@@ -57,8 +57,9 @@ class Recherche {
         dao::Recordset films = edit::ouvreFilmsParTitre(m_c);
         const dao::Colonne titre = films.colonne("Titre"), realisateur = films.colonne("Realisateur");
         const dao::Souffle souffle = db::souffle(m_c);
+        dao::Cadence cadence(souffle);
         for (; !films.Eof(); films.MoveNext()) {
-            if (m_films.size() % kLignesParSouffle == 0) souffle();
+            cadence();
             std::string leTitre(films.vue(titre));
             std::string sien(films.vue(realisateur));
             const auto [place, nouveau] = rangs.try_emplace(sien, m_realisateurs.size());
@@ -126,7 +127,7 @@ class Recherche {
         if (m_paires.size() > auPlus) m_paires.resize(auPlus);
     }
 
-    static constexpr std::size_t kBeaucoup = 1000, kLignesParSouffle = 256;
+    static constexpr std::size_t kBeaucoup = 1000;
 
     const Contexte& m_c;
     std::size_t m_auPlus;

@@ -39,6 +39,11 @@ bool parcourt(const Contexte& c, Avancement& avancement, const std::string& enon
     return true;
 }
 
+// To give so many back one by one takes as long as a slice of the work.
+void rends(const Contexte& c, auto& valeurs) {
+    db::attente(c)([&valeurs] { valeurs = {}; });
+}
+
 db::CleFilm film(const dao::Recordset& films) {
     return {films.texte("Titre"), films.texte("Realisateur")};
 }
@@ -58,6 +63,7 @@ void sansChamp(const Contexte& c, Avancement& avancement, Constat& constat, cons
                  });
     for (auto& [cle, sien] : sans)
         constat.lignes.push_back({std::move(sien), ""});
+    rends(c, sans);
 }
 
 // A pattern looks at the first bytes of a value only: no poster is read.
@@ -81,6 +87,7 @@ std::vector<db::CleFilm> filmsSansAffiche(const Contexte& c, Avancement& avancem
                  else
                      sans.push_back(std::move(sien));
              });
+    rends(c, avec);
     return sans;
 }
 
@@ -154,6 +161,8 @@ void affichesSansFilm(const Contexte& c, Avancement& avancement, Constat& consta
         const bool connue = attendue != attendues.end();
         constat.lignes.push_back({connue ? attendue->second : db::CleFilm{}, nom, connue, connue});
     }
+    rends(c, attendues);
+    rends(c, nommees);
 }
 
 void fichiersAbsents(const Contexte& c, Avancement& avancement, Constat& constat) {
@@ -185,6 +194,7 @@ void possessionsSansFilm(const Contexte& c, Avancement& avancement, Constat& con
         const bool reparable = !dao::egalJet(sien.titre, "") && films.insert(cle + '\x1').second;
         constat.lignes.push_back({sien, support, false, reparable});
     });
+    rends(c, films);
 }
 
 void possessionsDoubles(const Contexte& c, Avancement& avancement, Constat& constat) {
@@ -206,13 +216,15 @@ void possessionsDoubles(const Contexte& c, Avancement& avancement, Constat& cons
         connue.joignables = connue.joignables && ensemble;
         if (ensemble) connue.valeurs = *ensemble;
     });
-    const Noms films = clesDesFilms(c, avancement);
+    Noms films = clesDesFilms(c, avancement);
     for (const auto& [cle, connue] : connues)
         if (connue.combien > 1)
             constat.lignes.push_back(
                 {connue.film,
                  std::to_string(connue.combien) + " possessions" + (connue.joignables ? "" : " qui se contredisent"),
                  films.contains(cle), connue.joignables});
+    rends(c, connues);
+    rends(c, films);
 }
 
 void titresACorriger(const Contexte& c, Avancement& avancement, Constat& constat) {

@@ -31,16 +31,17 @@ class NomEmprunte {
 
 // Nothing when the user stopped.
 std::optional<texteriche::TexteRiche> metEnForme(const Contexte& c, std::string texteBalise) {
-    MiseEnForme miseEnForme(std::move(texteBalise));
+    const dao::Attente attente = db::attente(c);
+    std::optional<MiseEnForme> miseEnForme;
+    attente([&] { miseEnForme.emplace(std::move(texteBalise)); });
     c.nom.lblNom1.Caption = "Formatage";
-    const std::function<void()> souffle = db::souffle(c);
     for (const Balise& balise : kBalises) {
         c.nom.lblNom2.Caption = balise.nom;
         c.ecran.rafraichit();
         if (!c.ecran.respire()) return std::nullopt;
-        miseEnForme.applique(balise, souffle);
+        attente([&] { miseEnForme->applique(balise); });
     }
-    return std::move(miseEnForme).resultat();
+    return std::move(*miseEnForme).resultat();
 }
 
 // False when the user stopped, or when it cannot be written. The text stays in memory: what an older version left of it
@@ -51,8 +52,14 @@ bool ecrit(const Contexte& c, const std::string& fichier, dao::Recordset& titres
     TexteBalise texteBalise(parGenre);
     if (!parcourtLesFilms(titres, avancement, [&](const FilmDeLaListe& film) { texteBalise.ajoute(film); }))
         return false;
-    const auto texte = metEnForme(c, std::move(texteBalise).texte());
-    return texte && ecritExport(c, fichier, texteriche::enRtf(*texte, db::souffle(c)));
+    auto texte = metEnForme(c, std::move(texteBalise).texte());
+    if (!texte) return false;
+    std::string rtf;
+    db::attente(c)([&] {
+        rtf = texteriche::enRtf(*texte);
+        texte.reset();
+    });
+    return ecritExport(c, fichier, rtf);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "export/DernierExport.h"
 
+#include "db/Requete.h"
 #include "platform/fichiers/Fichiers.h"
 #include "view/LanceFichier.h"
 
@@ -16,7 +17,9 @@ void ouvreDossier(const db::Contexte& c, const std::string& fichier) {
 }  // namespace
 
 bool ecritExport(const db::Contexte& c, const std::string& fichier, std::string_view octets) {
-    if (!fichiers::remplace(fichier, octets)) {
+    bool ecrit = false;
+    db::attente(c)([&] { ecrit = fichiers::remplace(fichier, octets); });
+    if (!ecrit) {
         c.avis.montre("Le fichier " + fichier + " n'a pas pu être écrit.");
         return false;
     }

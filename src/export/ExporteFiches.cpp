@@ -1,7 +1,6 @@
 #include "db/Requete.h"
 #include "export/Exporter.h"
 #include "platform/fichiers/Fichiers.h"
-#include "platform/fichiers/Synchronisation.h"
 #include "util/Nombres.h"
 #include "util/NomsFichiers.h"
 #include "util/Texte.h"
@@ -60,8 +59,14 @@ class DossierNeuf {
         m_chemins.push_back(m_provisoire + nom);
         return note(fichiers::cree(m_chemins.back(), octets) == fichiers::Creation::Faite);
     }
-    [[nodiscard]] bool prendSonNom(const std::function<void()>& souffle) {
-        if (!m_raison.empty() || !note(fichiers::synchronise(m_chemins, souffle))) return false;
+    [[nodiscard]] bool prendSonNom(const dao::Attente& attente) {
+        bool surLeDisque = false;
+        if (m_raison.empty())
+            attente([&] {
+                surLeDisque = note(fichiers::synchronise(m_chemins));
+                m_chemins = {};
+            });
+        if (!surLeDisque) return false;
         m_cree = !note(fichiers::renomme(m_dossier + kSuffixe, m_dossier));
         return !m_cree;
     }
@@ -114,6 +119,10 @@ class EcritFiches {
                              " : voir « " + kFichierRemarques + " ».";
         }
         return m_dossier.ecrit(kFichierRemarques, "\uFEFF" + texte);
+    }
+    // To give so many names back one by one takes long.
+    void rendsLesNoms(const dao::Attente& attente) {
+        attente([this] { m_noms = {}; });
     }
 
   private:
@@ -176,7 +185,8 @@ Bilan exporteFiches(const db::Contexte& c, dao::Recordset& liste, const FilmsAEx
     EcritFiches fiches(neuf, lecteur, redige);
     const bool complet = parcourt(
         c, lecteur, films, [&](const FilmExporte& film) { return fiches.ecrit(film); }, bilan);
-    if (complet && fiches.ecritLesRemarques(bilan) && neuf.prendSonNom(db::souffle(c))) return bilan;
+    fiches.rendsLesNoms(db::attente(c));
+    if (complet && fiches.ecritLesRemarques(bilan) && neuf.prendSonNom(db::attente(c))) return bilan;
     bilan.raison = neuf.raison();
     bilan.issue = bilan.raison.empty() ? Bilan::Issue::Arretee : Bilan::Issue::Echouee;
     return bilan;

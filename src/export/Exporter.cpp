@@ -1,5 +1,6 @@
 #include "export/Exporter.h"
 
+#include "db/Requete.h"
 #include "export/DernierExport.h"
 #include "export/ListeDesTitres.h"
 #include "export/TableauCsv.h"
@@ -33,8 +34,10 @@ std::string cleAuHasard() {
     return cle;
 }
 
-Bilan termine(fichiers::Remplacement& fichier, Bilan bilan, bool complet) {
-    if (complet && fichier.termine()) return bilan;
+Bilan termine(const db::Contexte& c, fichiers::Remplacement& fichier, Bilan bilan, bool complet) {
+    bool finie = false;
+    if (complet) db::attente(c)([&] { finie = fichier.termine(); });
+    if (finie) return bilan;
     if (!complet && fichier.raison().empty()) {
         bilan.issue = Bilan::Issue::Arretee;
         return bilan;
@@ -107,7 +110,7 @@ Bilan exporteTableau(const db::Contexte& c, dao::Recordset& liste, const FilmsAE
             return sortie.ecrit(lignes);
         },
         bilan);
-    return termine(sortie, std::move(bilan), complet);
+    return termine(c, sortie, std::move(bilan), complet);
 }
 
 Bilan exportePage(const db::Contexte& c, dao::Recordset& liste, const FilmsAExporter& films, const Champs& champs,
@@ -129,7 +132,7 @@ Bilan exportePage(const db::Contexte& c, dao::Recordset& liste, const FilmsAExpo
         bilan);
     sortie.ecrit(page.fin());
     bilan.remarque = affiches.remarque();
-    return termine(sortie, std::move(bilan), complet);
+    return termine(c, sortie, std::move(bilan), complet);
 }
 
 void annonceBilan(const db::Contexte& c, const Bilan& bilan, const std::string& chemin) {

@@ -41,10 +41,8 @@ class MiseEnForme::Passe {
     Passe(MiseEnForme& cible, const Balise& balise)
         : m_cible(cible), m_balise(balise), m_texte(cible.m_texte.data()), m_styles(cible.m_stylesDesOctets.data()) {}
 
-    void execute(const std::function<void()>& souffle) {
-        constexpr unsigned kParSouffle = 1024;
-        for (unsigned pas = 1; !m_arretee && avance(); ++pas) {
-            if (souffle && pas % kParSouffle == 0) souffle();
+    void execute() {
+        while (!m_arretee && avance()) {
             if (m_enAttente) {
                 if (finitPar(m_fermante, m_file, m_finFile)) selectionne();
             } else if (finitPar(m_ouvrante, 0, m_fait)) {
@@ -174,8 +172,8 @@ MiseEnForme::MiseEnForme(std::string texteBalise) : m_texte(std::move(texteBalis
     m_alignements.resize(static_cast<std::size_t>(std::count(m_texte.begin(), m_texte.end(), '\n')) + 1);
 }
 
-void MiseEnForme::applique(const Balise& balise, const std::function<void()>& souffle) {
-    Passe(*this, balise).execute(souffle);
+void MiseEnForme::applique(const Balise& balise) {
+    Passe(*this, balise).execute();
 }
 
 texteriche::TexteRiche MiseEnForme::resultat() && {

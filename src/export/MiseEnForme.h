@@ -4,7 +4,6 @@
 #include "platform/texteriche/TexteRiche.h"
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -24,8 +23,7 @@ class MiseEnForme {
     // The text as it is loaded: the default style on the left, each line end made a LF.
     explicit MiseEnForme(std::string texteBalise);
 
-    // In a time that grows as the text does; `souffle` is called on the way.
-    void applique(const Balise& balise, const std::function<void()>& souffle = {});
+    void applique(const Balise& balise);  // in a time that grows as the text does
     [[nodiscard]] texteriche::TexteRiche resultat() &&;
 
   private:

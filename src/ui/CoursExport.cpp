@@ -1,5 +1,6 @@
 #include "ui/CoursExport.h"
 
+#include "db/Requete.h"
 #include "export/DernierExport.h"
 #include "platform/fichiers/Fichiers.h"
 #include "platform/fichiers/Remplacement.h"
@@ -113,7 +114,9 @@ bool exportePdf(const app::Contexte& c, const ExportVoulu& voulu, const std::str
     pdf.setTitle(QString::fromStdString(choix.films.nom));
     pdf.setCreator(QStringLiteral("Ambrelis"));
     Bilan bilan = dessine(c, voulu, choix, pdf, kResolutionPdf, kToutesLesPages);
-    if (bilan.issue == Bilan::Issue::Faite && !fichier.termine()) bilan.issue = Bilan::Issue::Echouee;
+    bool finie = false;
+    if (bilan.issue == Bilan::Issue::Faite) db::attente(c)([&] { finie = fichier.termine(); });
+    if (bilan.issue == Bilan::Issue::Faite && !finie) bilan.issue = Bilan::Issue::Echouee;
     if (bilan.issue == Bilan::Issue::Arretee && !fichier.raison().empty()) bilan.issue = Bilan::Issue::Echouee;
     bilan.raison = fichier.raison();
     if (voulu.etendue == app::Etendue::Base) app::noteLesPossessionsSansFiche(c, bilan);

@@ -15,6 +15,7 @@ namespace ui {
 namespace {
 
 constexpr int kLignesAuMoins = 3, kLignesVoulues = 8;
+constexpr int kLignesMesurees = 300;   // for the width of a column, beside those in sight
 constexpr double kPartDuFilm = 0.28;   // of the width, at least
 constexpr int kLargeurDesJours = 112;  // "9999 jours", bold, behind its mark
 constexpr int kLargeurAuMoins = 48;    // of any other column
@@ -53,6 +54,7 @@ TablePrets::TablePrets(ModelePrets::Sorte sorte, const char* nom, const QString&
 
 void TablePrets::composeEntete() {
     header()->setStretchLastSection(false);
+    header()->setResizeContentsPrecision(kLignesMesurees);
     header()->setSectionsClickable(true);
     header()->setSortIndicatorShown(true);
     header()->setSortIndicator(m_modele.colonneTriee(), Qt::AscendingOrder);
@@ -106,22 +108,27 @@ void TablePrets::remetsLeChoix() {
     for (int colonne = 1; colonne < m_modele.columnCount(); ++colonne)
         setColumnHidden(colonne, m_modele.colonneVide(colonne));
     m_metLesLargeurs = false;
+    mesureLesColonnes();
     metLesLargeurs();
     emit choixChange();
 }
 
+// Once for what stands in them: a window that is made larger asks again and again.
+void TablePrets::mesureLesColonnes() {
+    m_largeurs.clear();
+    for (int colonne = 1; colonne < m_modele.columnCount(); ++colonne)
+        m_largeurs.push_back(
+            isColumnHidden(colonne) ? 0 : std::max(sizeHintForColumn(colonne), header()->sectionSizeHint(colonne)));
+}
+
 // As wide as what stands in them, the widest giving way; the films have the rest, and enough of it.
 void TablePrets::metLesLargeurs() {
-    if (m_largeursChoisies || m_modele.rowCount() == 0) return;
+    if (m_largeursChoisies || m_modele.rowCount() == 0 || m_largeurs.empty()) return;
     m_metLesLargeurs = true;
     const int place = viewport()->width(), film = static_cast<int>(kPartDuFilm * place);
-    std::vector<int> largeurs;
-    for (int colonne = 1; colonne < m_modele.columnCount(); ++colonne)
-        largeurs.push_back(
-            isColumnHidden(colonne) ? 0 : std::max(sizeHintForColumn(colonne), header()->sectionSizeHint(colonne)));
     const int jours = m_modele.colonneDesJours();  // a number that is cut says nothing
     const auto largeurDe = [&](int colonne, int auPlus) {
-        return std::min(largeurs[static_cast<std::size_t>(colonne) - 1],
+        return std::min(m_largeurs[static_cast<std::size_t>(colonne) - 1],
                         colonne == jours ? std::max(auPlus, kLargeurDesJours) : auPlus);
     };
     const auto ensemble = [&](int auPlus) {
@@ -130,13 +137,20 @@ void TablePrets::metLesLargeurs() {
             somme += largeurDe(colonne, auPlus);
         return somme;
     };
-    int auPlus = *std::max_element(largeurs.begin(), largeurs.end());
+    int auPlus = *std::max_element(m_largeurs.begin(), m_largeurs.end());
     while (auPlus > kLargeurAuMoins && film + ensemble(auPlus) > place)
         --auPlus;
     for (int colonne = 1; colonne < m_modele.columnCount(); ++colonne)
         if (!isColumnHidden(colonne)) setColumnWidth(colonne, largeurDe(colonne, auPlus));
     setColumnWidth(0, std::max(film, place - ensemble(auPlus)));
     m_metLesLargeurs = false;
+}
+
+void TablePrets::changeEvent(QEvent* evenement) {
+    QTreeView::changeEvent(evenement);
+    if (evenement->type() != QEvent::FontChange && evenement->type() != QEvent::StyleChange) return;
+    mesureLesColonnes();
+    metLesLargeurs();
 }
 
 void TablePrets::resizeEvent(QResizeEvent* evenement) {

@@ -25,9 +25,11 @@ class TablePrets final : public QTreeView {
   protected:
     void keyPressEvent(QKeyEvent* evenement) override;
     void resizeEvent(QResizeEvent* evenement) override;
+    void changeEvent(QEvent* evenement) override;
 
   private:
     void composeEntete();
+    void mesureLesColonnes();
     void metLesLargeurs();
     void retiensLeChoix();
     void remetsLeChoix();
@@ -35,6 +37,7 @@ class TablePrets final : public QTreeView {
 
     ModelePrets m_modele;
     std::vector<db::CleFilm> m_choisis;
+    std::vector<int> m_largeurs;  // that the columns but the first would like
     int m_courante = -1;
     bool m_largeursChoisies = false;  // by the user
     bool m_metLesLargeurs = false;

@@ -7,8 +7,9 @@
 
 namespace {
 
-// The rows that SQLite handed out, on any connection: the work that was done, whatever the machine does beside.
-long g_lignes = 0;
+// The rows that SQLite handed out, on any connection: the work that was done, whatever the machine does beside. What is done
+// aside holds nobody up.
+thread_local long g_lignes = 0;
 
 int suisLesLignes(sqlite3* base, const char**, const sqlite3_api_routines*) {
     return sqlite3_trace_v2(

@@ -44,7 +44,7 @@ bool Balayage::avance() {
 }
 
 void parcourt(Connexion& connexion, Table& table, std::span<const std::string_view> colonnes,
-              const Database::Recoit& recoit, const Souffle& souffle) {
+              const Database::Recoit& recoit) {
     TableDuPlan lue{&table};
     for (const std::string_view nom : colonnes) {
         const auto rang = table.rang(nom);
@@ -53,8 +53,7 @@ void parcourt(Connexion& connexion, Table& table, std::span<const std::string_vi
     }
     std::vector<std::string> tampons(colonnes.size());
     std::vector<std::string_view> textes(colonnes.size());
-    constexpr unsigned kLignesParSouffle = 4096;
-    unsigned lignes = 0;
+    Cadence cadence(connexion.souffle());
     for (Balayage balayage(connexion, lue, ""); balayage.avance();) {
         std::size_t i = 0;
         for (const ValeurVue& valeur : balayage.valeurs()) {
@@ -62,7 +61,7 @@ void parcourt(Connexion& connexion, Table& table, std::span<const std::string_vi
             ++i;
         }
         recoit(balayage.id(), textes);
-        if (souffle && ++lignes % kLignesParSouffle == 0) souffle();
+        cadence();
     }
 }
 

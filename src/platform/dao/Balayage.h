@@ -30,6 +30,6 @@ class Balayage {
 
 // What Database::parcourt says.
 void parcourt(Connexion& connexion, Table& table, std::span<const std::string_view> colonnes,
-              const Database::Recoit& recoit, const Souffle& souffle);
+              const Database::Recoit& recoit);
 
 }  // namespace dao::interne

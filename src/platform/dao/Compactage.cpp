@@ -21,6 +21,8 @@ using interne::Poignee;
 constexpr const char* kTables =
     "SELECT name FROM sqlite_schema WHERE type='table' AND rootpage<>0 AND name NOT LIKE 'sqlite~_%' ESCAPE '~'";
 
+constexpr const char* kVersion = "PRAGMA data_version";  // another one once another handle changed the base
+
 // The copy can be read through, and has every row.
 void verifie(Poignee& source, const std::string& destination) {
     Poignee copie(destination, SQLITE_OPEN_READONLY);
@@ -47,18 +49,33 @@ void efface(const std::string& destination) {
         fs::remove(destination + suite, ignoree);
 }
 
+void copie(Poignee& base, const std::string& source, const std::string& destination) {
+    base.prepare("VACUUM INTO ?1").lie(1, destination).execute();
+    verifie(base, destination);
+    std::error_code ignoree;
+    fs::permissions(destination, fs::status(source).permissions(), ignoree);
+    synchronise(destination);
+}
+
+// Until the handle goes. Not before: the window, which lives on during the copy, reads the base by a handle of its own.
+void prendsPourSoi(Poignee& base) {
+    base.execute("PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE; ROLLBACK");
+}
+
 }  // namespace
 
-void CompactDatabase(const std::string& source, const std::string& destination, const std::function<void()>& ensuite) {
-    Poignee base = interne::ouvreBase(source, true);
+void CompactDatabase(const std::string& source, const std::string& destination, const std::function<void()>& ensuite,
+                     const Attente& attente) {
+    Poignee base = interne::ouvreBase(source, false);
     std::error_code erreur;
     if (fs::exists(destination, erreur)) jette(kErreurFichierExiste, "Le fichier « " + destination + " » existe déjà.");
     try {
         base.execute("PRAGMA journal_mode=DELETE");  // else the old log would be taken for the copy's
-        base.prepare("VACUUM INTO ?1").lie(1, destination).execute();
-        verifie(base, destination);
-        fs::permissions(destination, fs::status(source).permissions(), erreur);
-        synchronise(destination);
+        const long long version = base.entier(kVersion);
+        attends(attente, [&] { copie(base, source, destination); });
+        prendsPourSoi(base);
+        if (base.entier(kVersion) != version)
+            jette(kErreurVerrouille, "La base a été modifiée par un autre programme pendant qu'elle était copiée.");
         if (ensuite) ensuite();
     } catch (...) {
         efface(destination);

@@ -46,7 +46,7 @@ Regard::~Regard() {
 
 Connexion::Connexion(Poignee base, std::string nom)
     : m_base(std::move(base)), m_nom(std::move(nom)), m_fichier(fichierNomme(m_nom)) {
-    inscritFonctions(brute());
+    inscritFonctions(*this);
     m_versionDuFichier = versionDuFichier();
 }
 
@@ -153,7 +153,10 @@ void Connexion::soulageLEnregistrement() {
     if (m_enregistreur) m_enregistreur->soulage();
 }
 
-void Connexion::relisToutesLesLignes() {
+void Connexion::relisToutesLesLignes(std::vector<IndexDeCles>& anciens) noexcept {
+    auto ancien = anciens.begin();
+    for (const auto& [nom, table] : m_tables)
+        if (ancien != anciens.end()) std::swap(*ancien++, table->suivi.index);
     nouvelleVersion();
     oublieLesLignes();
 }

@@ -69,14 +69,16 @@ class Connexion {
     [[nodiscard]] bool estEnregistree() const { return m_enregistreur != nullptr; }
     void noteModification();  // a row is about to be modified
     void soulageLEnregistrement();
-    // As after another program's change.
-    void relisToutesLesLignes();
+    // As after another program's change. What was known of the rows goes to `anciens`, which has a place for each table.
+    void relisToutesLesLignes(std::vector<IndexDeCles>& anciens) noexcept;
+    [[nodiscard]] std::size_t nombreDeTables() const { return m_tables.size(); }
 
     // Between two rows of whatever is read at length (Database::respireAvec).
     void respireAvec(Souffle souffle) { m_souffle = std::move(souffle); }
     void respire() {
         if (m_souffle) m_souffle();
     }
+    void respireEntreDeuxLignes() { m_entreDeuxLignes(); }  // once in so many
     [[nodiscard]] const Souffle& souffle() const { return m_souffle; }
 
     void inscrit(Jeu& jeu) { m_jeux.push_back(&jeu); }
@@ -106,6 +108,7 @@ class Connexion {
     std::uint64_t m_version = 0;
     long long m_versionDuFichier = 0;
     Souffle m_souffle;
+    Cadence m_entreDeuxLignes{m_souffle};
     std::unique_ptr<Enregistreur> m_enregistreur;
     bool m_dejaEnregistree = false;
 };

@@ -50,7 +50,8 @@ Contenu compte(Poignee& base) {
 
 using Recopie = std::unique_ptr<sqlite3_backup, decltype(&sqlite3_backup_finish)>;
 
-IssueDeCopie verse(Poignee& source, Poignee& cible, const SurLeDisque& disque, const AvanceDeCopie& avance) {
+IssueDeCopie verse(Poignee& source, Poignee& cible, const SurLeDisque& disque, const AvanceDeCopie& avance,
+                   const Attente& attente) {
     const long long page = std::max(1LL, source.entier("PRAGMA page_size"));
     const Recopie recopie(sqlite3_backup_init(cible.brute(), "main", source.brute(), "main"), &sqlite3_backup_finish);
     if (!recopie) jetteSqlite(cible.brute(), sqlite3_errcode(cible.brute()), Acces::Ecriture);
@@ -63,7 +64,7 @@ IssueDeCopie verse(Poignee& source, Poignee& cible, const SurLeDisque& disque, c
         const long long faits = total - page * sqlite3_backup_remaining(recopie.get());
         if (avance && !avance(faits, total)) return IssueDeCopie::Arretee;
         if (faits - misALAbri < kOctetsEntreDeuxMises) continue;
-        disque.met();
+        attends(attente, [&disque] { disque.met(); });
         misALAbri = faits;
     }
 }
@@ -74,18 +75,7 @@ void rendUnSeulFichier(const std::string& chemin) {
     copie.execute("PRAGMA journal_mode=DELETE");
 }
 
-}  // namespace
-
-IssueDeCopie copieBase(const std::string& source, const std::string& destination, const AvanceDeCopie& avance) {
-    Poignee lue = interne::ouvreEnLecture(source);
-    lue.execute("BEGIN");  // one state of the base, whatever comes meanwhile
-    const Contenu contenu = compte(lue);
-    const SurLeDisque disque(destination);
-    {
-        Poignee ecrite(destination, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOFOLLOW);
-        ecrite.execute("PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF");  // a copy that fails goes whole
-        if (verse(lue, ecrite, disque, avance) == IssueDeCopie::Arretee) return IssueDeCopie::Arretee;
-    }
+void acheve(Poignee& lue, const std::string& destination, const Contenu& contenu, const SurLeDisque& disque) {
     rendUnSeulFichier(destination);
     const long long attendue = lue.entier("PRAGMA page_count") * lue.entier("PRAGMA page_size");
     std::error_code erreur;
@@ -93,6 +83,23 @@ IssueDeCopie copieBase(const std::string& source, const std::string& destination
     if (erreur || static_cast<long long>(taille) != attendue || contenuDe(destination) != contenu)
         jette(kErreurFormat, "La copie de la base n'est pas identique à l'originale.");
     disque.met();
+}
+
+}  // namespace
+
+IssueDeCopie copieBase(const std::string& source, const std::string& destination, const AvanceDeCopie& avance,
+                       const Attente& attente) {
+    Poignee lue = interne::ouvreEnLecture(source);
+    lue.execute("BEGIN");  // one state of the base, whatever comes meanwhile
+    Contenu contenu;
+    attends(attente, [&] { contenu = compte(lue); });
+    const SurLeDisque disque(destination);
+    {
+        Poignee ecrite(destination, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOFOLLOW);
+        ecrite.execute("PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF");  // a copy that fails goes whole
+        if (verse(lue, ecrite, disque, avance, attente) == IssueDeCopie::Arretee) return IssueDeCopie::Arretee;
+    }
+    attends(attente, [&] { acheve(lue, destination, contenu, disque); });
     return IssueDeCopie::Faite;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/dao/Souffle.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -21,10 +23,10 @@ struct Contenu {
 
 // Copies the base at `source`, as it stands between two transactions, into the file at `destination`, which exists, is
 // empty, and is the caller's. Other programs may read the base meanwhile, none changes it. Answers Faite when the copy
-// is whole, counted, on the disk, and one file alone. Otherwise, and when it throws ErreurDao (disk full, source damaged,
+// is whole, counted, on the disk, and one file alone; what lasts between two calls of `avance` goes to `attente`. Otherwise, and when it throws ErreurDao (disk full, source damaged,
 // locked or no base of ours), what the destination holds is worth nothing.
 [[nodiscard]] IssueDeCopie copieBase(const std::string& source, const std::string& destination,
-                                     const AvanceDeCopie& avance = {});
+                                     const AvanceDeCopie& avance = {}, const Attente& attente = {});
 
 // The counts of a base that is only read, its file left as it is. Throws ErreurDao where it is none, or damaged there.
 [[nodiscard]] Contenu contenuDe(const std::string& chemin);

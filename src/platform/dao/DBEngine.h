@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/dao/Database.h"
+#include "platform/dao/Souffle.h"
 
 #include <cstdint>
 #include <functional>
@@ -23,10 +24,10 @@ void CreateDatabase(const std::string& chemin, std::string_view schema);
 
 // Writes a compacted copy of the base at `source` to a file of its own at `destination`, which must not exist. Row ids,
 // `application_id` and `user_version` stay; the copy is checked, row counts included, and on the disk when this returns.
-// The source is locked against every other program meanwhile, and while `ensuite` runs, last: the place to put the
-// copy where the source was. Throws ErreurDao, whatever `ensuite` throws included: the source is then as it was, and
-// there is no destination.
+// Others may read the source meanwhile; it is locked against every other program while `ensuite` runs, last: the place to
+// put the copy where the source was. What lasts goes to `attente`. Throws ErreurDao, where another program changed the
+// source meanwhile too, and whatever `ensuite` throws: the source is then as it was, and there is no destination.
 void CompactDatabase(const std::string& source, const std::string& destination,
-                     const std::function<void()>& ensuite = {});
+                     const std::function<void()>& ensuite = {}, const Attente& attente = {});
 
 }  // namespace dao::DBEngine

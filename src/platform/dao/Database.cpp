@@ -64,11 +64,10 @@ void Database::respireAvec(Souffle souffle) {
     ouverte(m_connexion).respireAvec(std::move(souffle));
 }
 
-void Database::parcourt(std::string_view table, std::span<const std::string_view> colonnes, const Recoit& recoit,
-                        const Souffle& souffle) {
+void Database::parcourt(std::string_view table, std::span<const std::string_view> colonnes, const Recoit& recoit) {
     interne::Connexion& connexion = ouverte(m_connexion);
     connexion.veille();
-    interne::parcourt(connexion, connexion.table(table), colonnes, recoit, souffle);
+    interne::parcourt(connexion, connexion.table(table), colonnes, recoit);
 }
 
 bool Database::litTranche(std::string_view table, std::span<const std::string_view> colonnes, Parcours& parcours,

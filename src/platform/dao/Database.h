@@ -54,8 +54,7 @@ class Database {
     // Hands every row of a table to `recoit`, in no order: its id and the texts of these columns, "" for Null, which stand
     // until it returns. Nothing is kept, which a recordset does. Throws ErreurDao 3078, 3061, or a disk error.
     using Recoit = std::function<void(long long id, std::span<const std::string_view> textes)>;
-    void parcourt(std::string_view table, std::span<const std::string_view> colonnes, const Recoit& recoit,
-                  const Souffle& souffle = {});
+    void parcourt(std::string_view table, std::span<const std::string_view> colonnes, const Recoit& recoit);
 
     // One pass over a table in slices, which keeps nothing between them: the columns' texts of rows by the first column, in
     // the order of the file's index that begins with it. At least so many rows and all that have the last one's value;

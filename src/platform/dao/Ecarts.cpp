@@ -24,7 +24,6 @@ constexpr int kOctetsCompares = 1024;    // of a blob; a longer one is a poster
 struct Demande {
     std::string table, titre, realisateur;
     std::size_t premieres;
-    const Souffle& souffle;
 };
 
 std::string nomDe(const std::string& titre, const std::string& realisateur) {
@@ -41,7 +40,6 @@ void parcourt(Poignee& base, const std::string& schema, const Demande& demande, 
     interne::Requete lignes = base.prepare("SELECT _rowid_, " + demande.titre + ", " + demande.realisateur + " FROM " +
                                            schema + "." + demande.table + " ORDER BY 2, 3, 1");
     while (lignes.avance()) {
-        if (demande.souffle) demande.souffle();
         const std::string titre = lignes.valeur(1).texte(), realisateur = lignes.valeur(2).texte();
         recoit(cleDeComparaison(titre) + '\0' + cleDeComparaison(realisateur), lignes.entier(0),
                nomDe(titre, realisateur));
@@ -92,7 +90,6 @@ void compare(Poignee& base, const Demande& demande, LotDeLignes& differentes) {
                      demande.table + " a ON a._rowid_=p.la JOIN ici." + demande.table + " b ON b._rowid_=p.ici WHERE " +
                      condition(base, demande) + " ORDER BY 1, 2");
     while (lignes.avance()) {
-        if (demande.souffle) demande.souffle();
         note(differentes, nomDe(lignes.valeur(0).texte(), lignes.valeur(1).texte()), demande.premieres);
     }
 }
@@ -100,8 +97,8 @@ void compare(Poignee& base, const Demande& demande, LotDeLignes& differentes) {
 }  // namespace
 
 Ecarts ecarts(const std::string& la, const std::string& ici, const std::string& table, const std::string& titre,
-              const std::string& realisateur, std::size_t premieres, const Souffle& souffle) {
-    const Demande demande{table, titre, realisateur, premieres, souffle};
+              const std::string& realisateur, std::size_t premieres) {
+    const Demande demande{table, titre, realisateur, premieres};
     (void)interne::ouvreEnLecture(ici);  // it is one of ours
     Poignee base = interne::ouvreEnLecture(la);
     base.prepare("ATTACH ?1 AS ici").lie(1, ici).execute();

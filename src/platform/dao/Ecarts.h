@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/dao/Souffle.h"
-
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -23,9 +21,8 @@ struct Ecarts {
 
 // Rows are the same one where Jet's comparison holds both columns for equal; of several, those that come first go
 // together. Values are compared as they are written, posters in the base by their size. Both bases are only read. Throws
-// ErreurDao. `souffle` is called between two rows.
+// ErreurDao.
 [[nodiscard]] Ecarts ecarts(const std::string& la, const std::string& ici, const std::string& table,
-                            const std::string& titre, const std::string& realisateur, std::size_t premieres,
-                            const Souffle& souffle = {});
+                            const std::string& titre, const std::string& realisateur, std::size_t premieres);
 
 }  // namespace dao

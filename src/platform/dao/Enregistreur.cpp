@@ -299,9 +299,11 @@ void Enregistreur::annule() noexcept {
 
 Application applique(Connexion& connexion, Enregistrement& changements, Sens sens, const Avance& avance) {
     std::vector<LigneChangee> ajoutsEtRetraits;
+    std::vector<IndexDeCles> anciens;
     connexion.commence();
     try {
         const std::vector<Morceau> avant = changements.morceaux;
+        anciens.resize(connexion.nombreDeTables());  // memory may lack once it is stored
         const Application issue = appliqueTout(connexion, changements, sens, avance, ajoutsEtRetraits);
         if (issue != Application::Faite) {
             connexion.annule();
@@ -318,7 +320,10 @@ Application applique(Connexion& connexion, Enregistrement& changements, Sens sen
         throw;
     }
     suisLesLignes(ajoutsEtRetraits, sens);
-    connexion.relisToutesLesLignes();
+    connexion.relisToutesLesLignes(anciens);
+    Cadence cadence(connexion.souffle(), Cadence::kEnMemoire);
+    for (IndexDeCles& ancien : anciens)
+        ancien.rends(cadence);
     return Application::Faite;
 }
 

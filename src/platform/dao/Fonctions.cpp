@@ -2,6 +2,7 @@
 
 #include "platform/dao/AccesValeur.h"
 #include "platform/dao/CleJet.h"
+#include "platform/dao/Connexion.h"
 #include "platform/dao/Erreurs.h"
 #include "platform/dao/TexteJet.h"
 #include "util/Ascii.h"
@@ -100,6 +101,7 @@ using Fonction = void (*)(sqlite3_context*, int, sqlite3_value**);
 template <Fonction kFonction>
 void gardee(sqlite3_context* contexte, int nombre, sqlite3_value** arguments) noexcept {
     try {
+        static_cast<Connexion*>(sqlite3_user_data(contexte))->respireEntreDeuxLignes();
         kFonction(contexte, nombre, arguments);
     } catch (const std::bad_alloc&) {
         sqlite3_result_error_nomem(contexte);
@@ -108,19 +110,19 @@ void gardee(sqlite3_context* contexte, int nombre, sqlite3_value** arguments) no
     }
 }
 
-void inscrit(sqlite3* base, const char* nom, int arguments, Fonction fonction) {
+void inscrit(Connexion& connexion, const char* nom, int arguments, Fonction fonction) {
     constexpr int kOptions = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY;  // a file's schema cannot call it
-    const int code =
-        sqlite3_create_function_v2(base, nom, arguments, kOptions, nullptr, fonction, nullptr, nullptr, nullptr);
-    if (code != SQLITE_OK) jetteSqlite(base, code, Acces::Lecture);
+    const int code = sqlite3_create_function_v2(connexion.brute(), nom, arguments, kOptions, &connexion, fonction,
+                                                nullptr, nullptr, nullptr);
+    if (code != SQLITE_OK) jetteSqlite(connexion.brute(), code, Acces::Lecture);
 }
 
 }  // namespace
 
-void inscritFonctions(sqlite3* base) {
-    inscrit(base, "egal_jet", 2, gardee<egal>);
-    inscrit(base, "contient_jet", -1, gardee<contientUn>);
-    inscrit(base, "commence_jet", 5, gardee<commence>);
+void inscritFonctions(Connexion& connexion) {
+    inscrit(connexion, "egal_jet", 2, gardee<egal>);
+    inscrit(connexion, "contient_jet", -1, gardee<contientUn>);
+    inscrit(connexion, "commence_jet", 5, gardee<commence>);
 }
 
 }  // namespace dao::interne

@@ -1,8 +1,8 @@
 #pragma once
 
-struct sqlite3;
-
 namespace dao::interne {
+
+class Connexion;
 
 // Gives a connection, and never its file, the tests that our statements have rows judged by. Null is neither true nor
 // false, a text is what was looked for as long as the statement runs.
@@ -11,6 +11,9 @@ namespace dao::interne {
 //   contient_jet(text, values...)    whether INSTR finds the text in one of them; never where one of them is Null
 //   commence_jet(text, type, table, column, row id)   whether a value of this type() begins so, letter case aside: what
 //                                    is longer than that is not read
-void inscritFonctions(sqlite3* base);
+//
+// The connection breathes among the rows that they judge, so that one statement without a row does not hold the window up:
+// they may run other statements on it, as SQLite allows its functions.
+void inscritFonctions(Connexion& connexion);
 
 }  // namespace dao::interne

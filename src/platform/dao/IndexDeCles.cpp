@@ -34,6 +34,13 @@ void IndexDeCles::oublie() {
     *this = {};
 }
 
+void IndexDeCles::rends(Cadence& cadence) {
+    for (auto* places : {&m_ajoutees, &m_retirees})
+        for (; !places->empty(); cadence())
+            places->erase(places->begin());
+    oublie();
+}
+
 void IndexDeCles::retire(std::uint64_t hachage, long long ligne) {
     const auto [debut, fin] = m_ajoutees.equal_range(hachage);
     const auto trouvee = std::find_if(debut, fin, [ligne](const auto& place) { return place.second == ligne; });

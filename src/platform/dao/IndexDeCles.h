@@ -25,6 +25,7 @@ class IndexDeCles {
     void range(std::uint64_t hachage, long long ligne) { m_lignes.push_back({hachage, ligne}); }
     void acheve(const Souffle& souffle);
     void oublie();
+    void rends(Cadence& cadence);  // as oublie, with a breath in it: nobody looks for anything in it any more
 
     void ajoute(std::uint64_t hachage, long long ligne) { m_ajoutees.emplace(hachage, ligne); }
     void retire(std::uint64_t hachage, long long ligne);

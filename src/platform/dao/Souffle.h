@@ -8,6 +8,13 @@ namespace dao {
 // read the base, and changes nothing in it. None: the reading goes on in one go.
 using Souffle = std::function<void()>;
 
+// Has something done that waits for the disk, or works on a file of its own, wherever it likes, and comes back once it is
+// done. None: it is done at once.
+using Attente = std::function<void(const std::function<void()>& travail)>;
+inline void attends(const Attente& attente, const std::function<void()>& travail) {
+    attente ? attente(travail) : travail();
+}
+
 // Breathes once in so many steps, each of which costs a count alone. The breath outlives it.
 class Cadence {
   public:

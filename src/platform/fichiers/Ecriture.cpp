@@ -1,7 +1,6 @@
 #include "platform/fichiers/Descripteur.h"
 #include "platform/fichiers/Remplacement.h"
 #include "platform/fichiers/Restes.h"
-#include "platform/fichiers/Synchronisation.h"
 
 #include <algorithm>
 #include <array>
@@ -38,11 +37,9 @@ bool synchroniseFichier(const std::string& chemin) {
 }
 
 // The file systems of files that all stand there, each of them taken to the disk whole.
-bool synchroniseEnsemble(const std::vector<std::string>& chemins, const std::set<std::string>& dossiers,
-                         const std::function<void()>& souffle) {
+bool synchroniseEnsemble(const std::vector<std::string>& chemins, const std::set<std::string>& dossiers) {
     std::map<dev_t, Descripteur> systemes;
     const auto releve = [&](const std::string& chemin) {
-        if (souffle) souffle();
         const auto infos = infosDe(chemin);
         return infos && systemes.try_emplace(infos->st_dev, chemin, O_RDONLY).first->second.estOuvert();
     };
@@ -230,21 +227,15 @@ Creation cree(const std::string& chemin, std::string_view octets) {
 }
 
 // Waited for one by one, many files would have the disk empty its cache as many times.
-bool synchronise(const std::vector<std::string>& chemins, const std::function<void()>& souffle) {
+bool synchronise(const std::vector<std::string>& chemins) {
     std::set<std::string> dossiers;
-    for (const std::string& chemin : chemins) {
-        if (souffle) souffle();
+    for (const std::string& chemin : chemins)
         dossiers.insert(dossierDe(chemin));
-    }
-    if (chemins.size() > kPeuDeFichiers) return synchroniseEnsemble(chemins, dossiers, souffle);
+    if (chemins.size() > kPeuDeFichiers) return synchroniseEnsemble(chemins, dossiers);
     const bool tous = std::all_of(chemins.begin(), chemins.end(), synchroniseFichier);
     for (const std::string& dossier : dossiers)
         synchroniseDossier(dossier);
     return tous;
-}
-
-bool synchronise(const std::vector<std::string>& chemins) {
-    return synchronise(chemins, {});
 }
 
 bool renomme(const std::string& de, const std::string& vers) {

@@ -35,7 +35,7 @@ std::size_t rangDans(std::vector<Valeur>& table, const Valeur& valeur) {
 class Redacteur {
   public:
     explicit Redacteur(const TexteRiche& texte);
-    [[nodiscard]] std::string redige(const std::function<void()>& souffle);
+    [[nodiscard]] std::string redige();
 
   private:
     // A style by its numbers in the document's tables.
@@ -106,13 +106,11 @@ Redacteur::Aspect Redacteur::aspectDe(const Style& style) {
             style.souligne};
 }
 
-std::string Redacteur::redige(const std::function<void()>& souffle) {
+std::string Redacteur::redige() {
     m_rtf.reserve(m_texte.texte.size() + m_texte.texte.size() / 2 + 1024);
     ecritTables();
-    for (const Passage& passage : m_texte.passages) {
+    for (const Passage& passage : m_texte.passages)
         ecritPassage(passage.fin, passage.style);
-        if (souffle) souffle();
-    }
     ecritPassage(m_texte.texte.size(), m_texte.styles.size());
     m_rtf += "}\r\n";
     return std::move(m_rtf);
@@ -232,8 +230,8 @@ void Redacteur::prendAspect(const Aspect& aspect) {
 
 }  // namespace
 
-std::string enRtf(const TexteRiche& texte, const std::function<void()>& souffle) {
-    return Redacteur(texte).redige(souffle);
+std::string enRtf(const TexteRiche& texte) {
+    return Redacteur(texte).redige();
 }
 
 }  // namespace texteriche

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -37,8 +36,7 @@ struct TexteRiche {
 };
 
 // The whole as an RTF document, in one pass. Every character of Unicode is kept; a byte that is no UTF-8 is shown as the
-// replacement character, and control characters that RTF has no word for are left out. `souffle` is called between two
-// passages.
-[[nodiscard]] std::string enRtf(const TexteRiche& texte, const std::function<void()>& souffle = {});
+// replacement character, and control characters that RTF has no word for are left out.
+[[nodiscard]] std::string enRtf(const TexteRiche& texte);
 
 }  // namespace texteriche

@@ -66,9 +66,8 @@ class AutreProgramme {
     AutreProgramme(const AutreProgramme&) = delete;
     AutreProgramme& operator=(const AutreProgramme&) = delete;
     ~AutreProgramme() { sqlite3_close(m_base); }
-    void execute(const char* sql) {
-        EXPECT_EQ(sqlite3_exec(m_base, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(m_base);
-    }
+    void execute(const char* sql) { EXPECT_EQ(essaie(sql), SQLITE_OK) << sqlite3_errmsg(m_base); }
+    int essaie(const char* sql) { return sqlite3_exec(m_base, sql, nullptr, nullptr, nullptr); }
 
   private:
     sqlite3* m_base = nullptr;

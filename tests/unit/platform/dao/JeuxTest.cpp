@@ -331,3 +331,26 @@ TEST_F(JeuxTest, HandsEveryRowOverWithoutKeepingIt) {
     static constexpr std::array<std::string_view, 1> kInconnue{"Nulle part"};
     EXPECT_EQ(numeroErreur([&] { base.parcourt("Films", kInconnue, [](auto, auto) {}); }), dao::kErreurParametre);
 }
+
+TEST_F(JeuxTest, BreathesAmidRowsThatItHandsOverOrLeavesOut) {
+    base.Execute(
+        "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<2000) "
+        "INSERT INTO Films(Titre) SELECT i FROM n");
+    dao::Recordset films = base.OpenRecordset(kParTitre);
+    unsigned souffles = 0;
+    base.respireAvec([&] {
+        films.MoveFirst();
+        ++souffles;
+        EXPECT_FALSE(films.texte("Titre").empty());  // what is painted may read the base
+    });
+    for (const char* condition : {"Affiche LIKE 'STO*'", "Titre='nulle part'"}) {
+        souffles = 0;
+        EXPECT_TRUE(base.OpenRecordset(std::string("SELECT * FROM Films WHERE ") + condition).Eof()) << condition;
+        EXPECT_GE(souffles, 2000 / dao::Cadence::kLignes) << condition;
+    }
+    unsigned depuis = 0, auPlus = 0;
+    base.respireAvec([&depuis] { depuis = 0; });
+    static constexpr std::array<std::string_view, 1> kColonnes{"Titre"};
+    base.parcourt("Films", kColonnes, [&](auto, auto) { auPlus = std::max(auPlus, ++depuis); });
+    EXPECT_EQ(auPlus, dao::Cadence::kLignes);
+}

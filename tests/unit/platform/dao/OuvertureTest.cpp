@@ -218,6 +218,35 @@ TEST(Ouverture, ABaseAndItsCopyAreAsPrivateAsTheUserWants) {
         EXPECT_EQ(fs::status(dossier.chemin(nom)).permissions() & fs::perms(077), fs::perms::none) << nom;
 }
 
+// The window reads the base while it is compacted, and another program may: what it stores meanwhile is not lost.
+TEST(Ouverture, ACompactionLetsOthersReadAndGivesUpWhereTheyWrote) {
+    BaseDEssai essai;
+    essai.film("Dune", "x");
+    const std::string copie = essai.dossier.chemin("copie.mdb");
+    AutreProgramme autre(essai.chemin);
+    int remplacements = 0;
+    const auto compacte = [&](const char* pendant) {
+        dao::DBEngine::CompactDatabase(
+            essai.chemin, copie,
+            [&] {
+                ++remplacements;
+                EXPECT_EQ(autre.essaie("BEGIN IMMEDIATE"), SQLITE_BUSY);
+            },
+            [&](const std::function<void()>& travail) {
+                EXPECT_EQ(essai.lit("SELECT * FROM Films"), std::vector<std::string>{"Dune"});
+                travail();
+                autre.execute(pendant);
+            });
+    };
+    compacte("");
+    EXPECT_EQ(remplacements, 1);
+    EXPECT_TRUE(fs::remove(copie));
+    EXPECT_EQ(numeroErreur([&] { compacte("UPDATE Films SET Titre='Dune 2'"); }), dao::kErreurVerrouille);
+    EXPECT_EQ(remplacements, 1);
+    EXPECT_FALSE(fs::exists(copie));
+    EXPECT_EQ(essai.lit("SELECT * FROM Films"), std::vector<std::string>{"Dune 2"});
+}
+
 // What stands beside the base came with it. SQLite rolls a journal back, then deletes the file that its end names.
 TEST(Ouverture, NoJournalLeadsToAnotherFile) {
     BaseDEssai essai;
