@@ -295,7 +295,7 @@ void FenetrePrincipale::closeEvent(QCloseEvent* evenement) {
         evenement->ignore();
         return;
     }
-    bool ferme = true;
+    bool ferme = m_atelier.commande.finie();  // what fails before the shut-down leaves the window
     m_atelier.commande.execute([&] {
         ferme = m_atelier.session.Form_QueryUnload();
         if (ferme) m_atelier.session.Form_Unload();
