@@ -8,6 +8,7 @@
 #include "browse/LigneDuNoeud.h"
 #include "browse/ModifieNoteFilm.h"
 #include "db/Affiches.h"
+#include "db/EnonceFilm.h"
 #include "db/Requete.h"
 #include "db/TitreCite.h"
 #include "util/Nombres.h"
@@ -48,11 +49,18 @@ void remplitGeneralites(EtatFiche& fiche, const db::CleFilm& cle, const dao::Rec
     fiche.captionAffiche = cle.titre;
 }
 
+// A rating is stored with the first film of that name, which may be another one with a rating of its own.
+bool estNoteeAinsi(const Contexte& c, double note) {
+    const dao::Recordset films = db::ouvreRequete(c, db::enonceFilmNote(c.film), db::NumeroErreur::ModifieNoteFilm);
+    return films.Eof() || films.valeur("Note").nombre() == note;
+}
+
 // A base that cannot be written, locked or on a full disk, is looked at all the same: the next look does it.
-void ramene(const Contexte& c, int note) {
+void ramene(const Contexte& c, double note) {
     const std::string titre = db::titreCite(c.film.titre);
     try {
-        ModifieNoteFilm(c, note);
+        if (!estNoteeAinsi(c, note)) return;
+        ModifieNoteFilm(c, depuisAncienneNote(note));
         c.annulations.nomme("passage sur 10 de la note de " + titre, titre + " : sa note, sur 100, est passée sur 10.");
     } catch (const dao::ErreurDao& erreur) {
         c.avis.montre("La note de " + titre + ", sur 100, n'a pas pu passer sur 10 : " + erreur.description);
@@ -64,7 +72,7 @@ void remplitNote(const Contexte& c) {
     const double note = c.base.liste.valeur("Note").nombre();
     const bool ancienne = note > kNoteMax && note <= kAncienneNoteMax;
     montreNote(c.fiche, ancienne ? depuisAncienneNote(note) : note);
-    if (ancienne) ramene(c, depuisAncienneNote(note));
+    if (ancienne) ramene(c, note);
 }
 
 void remplit(const Contexte& c, int noeud) {

@@ -87,6 +87,15 @@ TEST_F(AfficheFicheTest, AnOldRatingThatCannotBeWrittenHidesNoSheet) {
     EXPECT_EQ(noteEnBase(), dao::Valeur(7));
 }
 
+TEST_F(AfficheFicheTest, AnOldRatingIsNoReasonToChangeThatOfAFilmOfTheSameName) {
+    ajouteFilm("Double", {{"Realisateur", "R"}, {"Note", 7}});
+    ajouteFilm("Double", {{"Realisateur", "R"}, {"Note", 100}});
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    TreeView1_NodeClick(c, 2);
+    EXPECT_EQ(fiche.lblNote.Caption, "Note : 9/10");
+    EXPECT_EQ(noteEnBase(), dao::Valeur(7));
+}
+
 TEST_F(AfficheFicheTest, ARatingNeedsItsFilm) {
     film.titre = "Parti";
     dialogues.attendMsgBox("Film non trouvé !", 48);
