@@ -28,7 +28,13 @@ void BaseAbsente::reessaie() {
         montre("La base " + absente +
                " est toujours introuvable. Branchez le disque où elle se trouve, puis réessayez.");
     else if (m_c.saisies.abandonneTout())
-        db::changeDeBase(m_c, absente);
+        change(absente);
+}
+
+// One that is there and cannot be opened can be tried again: why stands in the line.
+void BaseAbsente::change(const std::string& absente) {
+    db::changeDeBase(m_c, absente);
+    if (m_c.chemins.baseAbsente == absente) montre(m_c.etats.avis.lblAvis.Caption);
 }
 
 }  // namespace app

@@ -20,6 +20,7 @@ class BaseAbsente {
   private:
     void montre(const std::string& texte);
     void reessaie();
+    void change(const std::string& absente);
 
     const Contexte& m_c;
     int m_numero = 0;  // of the last notice shown here

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 namespace app {
 
@@ -70,6 +71,13 @@ void montreSeulement(const Contexte& c, const std::vector<std::uint32_t>& lignes
 void leveLaLimite(const Contexte& c) {
     c.etats.filtre.titres.leveLaLimite();
     c.etats.filtre.libelle.clear();
+}
+
+void suisLesRecherches(const Contexte& c) {
+    ensemble::EtatFiltre& filtre = c.etats.filtre;
+    if (std::exchange(filtre.recherches, c.liste.recherches) == c.liste.recherches) return;
+    filtre.saisie.clear();
+    leveLaLimite(c);
 }
 
 void montreCoches(const Contexte& c) {

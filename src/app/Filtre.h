@@ -27,6 +27,8 @@ namespace app {
 // they are: "Drame". The keys go to the list.
 void montreSeulement(const Contexte& c, const std::vector<std::uint32_t>& lignes, const std::string& libelle);
 void leveLaLimite(const Contexte& c);
+// After each command: a search shows all that it finds, whatever was typed in the filter before it.
+void suisLesRecherches(const Contexte& c);
 
 // How many films are ticked, and how many of these are out of sight: they are deleted with the others.
 void montreCoches(const Contexte& c);

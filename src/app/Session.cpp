@@ -89,6 +89,7 @@ const Contexte& Session::contexte() const {
 void Session::accompagne(const std::function<void()>& commande) {
     const auto suite = [&c = contexte()] {
         if (!c.panneaux.frameMultiSuppression.Visible) edit::rangeMultiSuppression(c);
+        suisLesRecherches(c);
         montreCoches(c);
         if (!c.film.estUnFilm()) c.etats.fichiers.Visible = false;
         nommeLaBase(c);

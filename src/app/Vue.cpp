@@ -55,7 +55,11 @@ Vue Vue::de(const Contexte& c) {
         vue.m_cle = arbre.Nodes.Key(arbre.SelectedItem);
         vue.m_texte = texteDe(arbre.Nodes, arbre.SelectedItem);
     }
-    if (c.film.estUnFilm()) vue.m_film = c.film;
+    if (c.film.estUnFilm()) {  // the gesture may have highlighted another node already
+        vue.m_film = c.film;
+        vue.m_cle = c.film.cle;
+        vue.m_texte = c.film.titre;
+    }
     vue.m_panneaux = c.panneaux;
     vue.m_generalites = c.fiche.frameGeneralites[0].Visible;
     return vue;

@@ -25,7 +25,7 @@ class Vue {
     int m_zoneRecherche = 0;
     int m_noeuds = 0;
     std::set<int> m_coches;
-    std::string m_cle;    // of the highlighted node, "" for none
+    std::string m_cle;    // of the film's node, else of the highlighted one, "" for none
     std::string m_texte;  // and what it reads, a heading without what follows it
     db::CleFilm m_film;   // whose sheet is shown; empty for none
     browse::EtatPanneaux m_panneaux;

@@ -8,7 +8,9 @@
 #include "browse/LigneDuNoeud.h"
 #include "browse/ModifieNoteFilm.h"
 #include "db/Affiches.h"
+#include "db/EnonceFilm.h"
 #include "db/Requete.h"
+#include "db/TitreCite.h"
 #include "util/Nombres.h"
 #include "util/Texte.h"
 
@@ -47,15 +49,30 @@ void remplitGeneralites(EtatFiche& fiche, const db::CleFilm& cle, const dao::Rec
     fiche.captionAffiche = cle.titre;
 }
 
+// A rating is stored with the first film of that name, which may be another one with a rating of its own.
+bool estNoteeAinsi(const Contexte& c, double note) {
+    const dao::Recordset films = db::ouvreRequete(c, db::enonceFilmNote(c.film), db::NumeroErreur::ModifieNoteFilm);
+    return films.Eof() || films.valeur("Note").nombre() == note;
+}
+
+// A base that cannot be written, locked or on a full disk, is looked at all the same: the next look does it.
+void ramene(const Contexte& c, double note) {
+    const std::string titre = db::titreCite(c.film.titre);
+    try {
+        if (!estNoteeAinsi(c, note)) return;
+        ModifieNoteFilm(c, depuisAncienneNote(note));
+        c.annulations.nomme("passage sur 10 de la note de " + titre, titre + " : sa note, sur 100, est passée sur 10.");
+    } catch (const dao::ErreurDao& erreur) {
+        c.avis.montre("La note de " + titre + ", sur 100, n'a pas pu passer sur 10 : " + erreur.description);
+    }
+}
+
 // Ratings were once out of 100: one met here is brought to the present scale, in the base too.
 void remplitNote(const Contexte& c) {
     const double note = c.base.liste.valeur("Note").nombre();
-    if (note > kNoteMax && note <= kAncienneNoteMax) {
-        montreNote(c.fiche, depuisAncienneNote(note));
-        ModifieNoteFilm(c, depuisAncienneNote(note));
-    } else {
-        montreNote(c.fiche, note);
-    }
+    const bool ancienne = note > kNoteMax && note <= kAncienneNoteMax;
+    montreNote(c.fiche, ancienne ? depuisAncienneNote(note) : note);
+    if (ancienne) ramene(c, note);
 }
 
 void remplit(const Contexte& c, int noeud) {
@@ -89,6 +106,7 @@ void AfficheFiche(const Contexte& c) {
     } catch (const dao::ErreurDao& erreur) {
         abandonne(c);
         if (erreur.numero != dao::kErreurEnregistrementSupprime) throw;
+        c.avis.montre(db::titreCite(std::string(arbre.Text(noeud))) + " n'est plus dans la base.");
     } catch (...) {  // a sheet that is not whole is nobody's
         abandonne(c);
         throw;

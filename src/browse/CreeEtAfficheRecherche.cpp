@@ -12,6 +12,7 @@ void CreeEtAfficheRecherche(const Contexte& c) {
     liste.ChoixTri.selectionne(kTriTitre2);
     choisitZoneRecherche(liste);
     CreeRequeteAffichage(c, liste.zoneRecherche, liste.ChoixTri.ListIndex, liste.critereRecherche);
+    ++liste.recherches;
 }
 
 void montreAjoutsDuJour(const Contexte& c, const std::string& date) {

@@ -37,6 +37,7 @@ struct EtatListe {
     FilmsPossedes possedes;         // for the marks of the films
     std::string critereRecherche;   // search condition, empty when no search was made
     int zoneRecherche = kZoneTous;  // saved search zone
+    int recherches = 0;             // rises with each search that is shown, also of what was just added
 };
 
 }  // namespace browse

@@ -56,6 +56,10 @@ bool prepare(const Contexte& c, const std::string& nom, RapportDAncienne& rappor
     return rapport && sOuvre(c, nom);
 }
 
+std::string texteDuRefus(const Contexte& c, const std::string& nom) {
+    return "La base " + nom + " n'a pas pu être ouverte" + (c.base.raison.empty() ? "" : " : " + c.base.raison);
+}
+
 void ouvreCommeSienne(const Contexte& c, const std::string& nom) {
     c.chemins.base = nom;
     c.chemins.baseAbsente.clear();
@@ -83,14 +87,16 @@ void changeDeBase(const Contexte& c, const std::string& nom) {
         return;
     }
     RapportDAncienne rapport;
-    if (prepare(c, nom, rapport)) remplaceLaBase(c, nom);
+    c.base.raison.clear();
+    if (prepare(c, nom, rapport))
+        remplaceLaBase(c, nom);
+    else if (!c.base.raison.empty())  // the box says that it failed, not why
+        c.avis.montre(texteDuRefus(c, nom) + ".");
     if (rapport) c.dialogues.MsgBox(*rapport, dialogues::kInformation);
 }
 
 bool ouvreUneAutreBase(const Contexte& c) {
-    const std::string raison = c.base.raison.empty() ? "" : " : " + c.base.raison;
-    const std::string question =
-        "La base " + c.chemins.base + " n'a pas pu être ouverte" + raison + ".\nVoulez-vous en choisir une autre ?";
+    const std::string question = texteDuRefus(c, c.chemins.base) + ".\nVoulez-vous en choisir une autre ?";
     while (c.dialogues.MsgBox(question, dialogues::kQuestion) == dialogues::kOui) {
         const std::string nom = choisitUneBase(c);
         if (nom.empty()) return false;

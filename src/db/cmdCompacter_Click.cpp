@@ -96,6 +96,7 @@ void compacteEtRapporte(const Contexte& c) {
         if (!echec) echec = nettoieLesPossessions(c);
         c.rafraichissement.AfficheNbTitres();
         c.rafraichissement.AffichageApresModification();
+        c.rafraichissement.RaffraichitBoitesDeroulantes();
     }
     c.dialogues.MsgBox(echec.value_or("Compactage effectué."), echec ? dialogues::kCritique : dialogues::kInformation);
 }

@@ -12,6 +12,7 @@ struct EtatFiltre {
     std::string saisie;   // what is typed, as it is
     std::string libelle;  // what the films that it is limited to are called: "Drame"
     std::string echec;    // why nothing could be filtered, else empty
+    int recherches = 0;   // of the listing, when it was last looked at
 };
 
 }  // namespace ensemble

@@ -205,6 +205,11 @@ void ListeDeroulante::showPopup() {
     donneLaFormeDuChamp(*view()->window());
 }
 
+// Qt keeps the least size of a list without entries.
+QSize ListeDeroulante::minimumSizeHint() const {
+    return sizeAdjustPolicy() == AdjustToContents ? sizeHint() : QComboBox::minimumSizeHint();
+}
+
 // An entry is chosen once the list is hidden.
 void ListeDeroulante::hidePopup() {
     QComboBox::hidePopup();

@@ -83,6 +83,7 @@ class ListeDeroulante final : public QComboBox {
     explicit ListeDeroulante(QWidget* parent = nullptr);
     void showPopup() override;
     void hidePopup() override;
+    QSize minimumSizeHint() const override;
 
   signals:
     void vaSOuvrir();

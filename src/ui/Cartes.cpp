@@ -4,6 +4,7 @@
 #include "ui/Couleurs.h"
 #include "ui/Traits.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <algorithm>
 
@@ -44,7 +45,20 @@ QSize CoteACote::minimumSizeHint() const {
 }
 
 void CoteACote::resizeEvent(QResizeEvent*) {
-    const auto voulue = width() >= m_aPartirDe ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
+    dispose();
+}
+
+bool CoteACote::event(QEvent* evenement) {
+    if (evenement->type() == QEvent::LayoutRequest) dispose();
+    return QWidget::event(evenement);
+}
+
+void CoteACote::dispose() {
+    int besoin = (m_boite->count() - 1) * m_boite->spacing();
+    for (int i = 0; i < m_boite->count(); ++i)
+        besoin += m_boite->itemAt(i)->minimumSize().width();
+    const bool tiennent = width() >= std::max(besoin, m_aPartirDe);
+    const auto voulue = tiennent ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
     if (m_boite->direction() != voulue) m_boite->setDirection(voulue);
 }
 

@@ -19,7 +19,8 @@ class Carte final : public QWidget {
     Sorte m_sorte;
 };
 
-// Its widgets are side by side, as wide as one another, where it is at least so wide; else one below the other.
+// Its widgets are side by side, as wide as one another, where it is at least so wide and has room for each; else one
+// below the other.
 class CoteACote final : public QWidget {
     Q_OBJECT
   public:
@@ -28,8 +29,11 @@ class CoteACote final : public QWidget {
 
   protected:
     void resizeEvent(QResizeEvent* evenement) override;
+    bool event(QEvent* evenement) override;
 
   private:
+    void dispose();
+
     QBoxLayout* m_boite;
     int m_aPartirDe;
 };

@@ -116,7 +116,8 @@ void ChampFiltre::suisLEtat() {
     const app::Etats& etats = m_atelier.etats();
     const ensemble::EtatFiltre& filtre = etats.filtre;
     const std::string avant = std::exchange(m_base, etats.fonctions.lblCheminBase.Caption);
-    if (!avant.empty() && avant != m_base) m_champ->clear();  // another collection begins whole
+    if (!avant.empty() && avant != m_base) m_champ->clear();                    // another collection begins whole
+    if (filtre.saisie.empty() && !m_champ->text().isEmpty()) m_champ->clear();  // a search ended it
 
     m_limite->setVisible(filtre.titres.estLimite());
     const QString libelle = QString::fromStdString(filtre.libelle);

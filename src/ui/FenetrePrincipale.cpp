@@ -42,6 +42,8 @@ constexpr QSize kTailleParDefaut{1180, 760};
 constexpr QSize kTailleMinimale{900, 480};
 constexpr int kLargeurDeuxPages = 1340;          // a screen of 1366 shows both pages of the sheet
 constexpr int kListeMin = 300, kListeMax = 420;  // of the width it opens with, a quarter of the window's
+constexpr int kListeAisee = 336;                 // zone and sort side by side
+constexpr int kLargeurAisee = 1100;              // the window's from which the list has that much
 
 }  // namespace
 
@@ -268,7 +270,7 @@ void FenetrePrincipale::suisLargeur() {
 // Until the user moves what parts them.
 void FenetrePrincipale::repartis() {
     if (m_partageChoisi) return;
-    const int liste = std::clamp(width() / 4, kListeMin, kListeMax);
+    const int liste = std::clamp(width() / 4, width() < kLargeurAisee ? kListeMin : kListeAisee, kListeMax);
     m_partage->setSizes({liste, width() - liste});
 }
 
@@ -293,7 +295,7 @@ void FenetrePrincipale::closeEvent(QCloseEvent* evenement) {
         evenement->ignore();
         return;
     }
-    bool ferme = true;
+    bool ferme = m_atelier.commande.finie();  // what fails before the shut-down leaves the window
     m_atelier.commande.execute([&] {
         ferme = m_atelier.session.Form_QueryUnload();
         if (ferme) m_atelier.session.Form_Unload();

@@ -42,8 +42,8 @@ QWidget* PanneauListe::choix() {
     auto* tri = nomme(new ListeDeroulante, "ChoixTri");
     zone->setToolTip(tr("Les films à montrer"));
     tri->setToolTip(tr("L'ordre des films et leur classement dans la liste"));
-    for (QComboBox* choix : {zone, tri})
-        choix->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    for (QComboBox* choix : {zone, tri})  // no zone, no sort is cut
+        choix->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_atelier.liaison.lie(liste.ChoixZone, zone);
     m_atelier.liaison.lie(liste.ChoixTri, tri);
 

@@ -22,6 +22,7 @@ bool a(const QStyleOption& option, QStyle::StateFlag etat) {
 }
 
 constexpr int kLigneDeListe = 28;  // of drop-down lists and menus
+constexpr int kAvantLEntree = 5;   // of a closed list, beside the base style's own
 
 bool estUnePetiteFenetre(const QWidget* widget) {
     return widget && widget->windowType() == Qt::Popup;
@@ -285,8 +286,9 @@ QSize StyleAmbrelis::sizeFromContents(ContentsType type, const QStyleOption* opt
             const int icone = bouton && !bouton->icon.isNull() ? bouton->iconSize.height() + 16 : 0;
             return {taille.width(), std::max(haute, icone)};
         }
-        case CT_ToolButton:
         case CT_ComboBox:
+            return {taille.width() + kAvantLEntree, std::max(taille.height(), haute)};
+        case CT_ToolButton:
         case CT_LineEdit:
             return {taille.width(), std::max(taille.height(), haute)};
         case CT_ItemViewItem:
@@ -329,7 +331,7 @@ QRect StyleAmbrelis::subElementRect(SubElement element, const QStyleOption* opti
 QRect StyleAmbrelis::subControlRect(ComplexControl controle, const QStyleOptionComplex* option, SubControl partie,
                                     const QWidget* widget) const {
     const QRect zone = QProxyStyle::subControlRect(controle, option, partie, widget);
-    if (controle == CC_ComboBox && partie == SC_ComboBoxEditField) return zone.adjusted(5, 0, 0, 0);
+    if (controle == CC_ComboBox && partie == SC_ComboBoxEditField) return zone.adjusted(kAvantLEntree, 0, 0, 0);
     const auto* ascenseur = qstyleoption_cast<const QStyleOptionSlider*>(option);
     return controle == CC_ScrollBar && ascenseur ? partieDAscenseur(*ascenseur, partie) : zone;
 }

@@ -367,4 +367,24 @@ TEST_F(UneAnnulation, TakesBackEveryCommandToTheFirstAndMakesThemAgain) {
     }
 }
 
+// The keys have moved to the film before the command that shows it begins.
+TEST_F(UneAnnulation, ARatingBroughtToTheNewScaleBecomesTheOldOneAgain) {
+    liste(browse::kZoneTous, browse::kTriTitre2);
+    const browse::Arbre& noeuds = etats.liste.TreeView1.Nodes;
+    dao::DBEngine::OpenDatabase(installation.chemin("Films.mdb"))
+        .Execute("UPDATE Films SET Note = 85 WHERE Titre = '" + std::string(noeuds.Text(2)) + "'");
+    const Photographie avant = photographie(installation);
+    session.execute(app::TreeView1_NodeClick, 1);
+    const std::string film = filmVu();
+    etats.liste.TreeView1.SelectedItem = 2;
+    session.execute(app::TreeView1_NodeClick, 2);
+    EXPECT_EQ(etats.fiche.lblNote.Caption, "Note : 8/10");
+    EXPECT_THAT(etats.avis.lblAvis.Caption, HasSubstr("sa note, sur 100, est passée sur 10."));
+    session.execute(app::cmdAnnuler_Click);
+    EXPECT_EQ(filmVu(), film);
+    EXPECT_EQ(differences(avant, photographie(installation)), "");
+    session.execute(app::cmdRetablir_Click);
+    EXPECT_EQ(etats.fiche.lblNote.Caption, "Note : 8/10");
+}
+
 }  // namespace

@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QProgressBar>
 #include <QSettings>
+#include <QStyleOptionComboBox>
 #include <tuple>
 
 namespace {
@@ -242,7 +243,8 @@ TEST_F(Cadre, ColumnsFollowTheWidth) {
     };
     EXPECT_TRUE(coteACote("txtCheminAjoutAuto", "txtRechInternet", 1100));
     EXPECT_FALSE(coteACote("txtCheminAjoutAuto", "txtRechInternet", 900));
-    EXPECT_TRUE(coteACote("ChoixZone", "ChoixTri", 900));
+    EXPECT_TRUE(coteACote("ChoixZone", "ChoixTri", 1100));
+    EXPECT_FALSE(coteACote("ChoixZone", "ChoixTri", 900));
     const int liste = essai.arbre().width();
     essai.clique("Command13_1");
     EXPECT_FALSE(coteACote("Text3_0", "txtResume", 900));
@@ -254,6 +256,23 @@ TEST_F(Cadre, ColumnsFollowTheWidth) {
         essai.clique(onglet);
         EXPECT_TRUE(coteACote(gauche, droite, 1800));
         EXPECT_FALSE(coteACote(gauche, droite, 900));
+    }
+}
+
+TEST_F(Cadre, NoZoneAndNoSortIsCut) {
+    for (const int largeur : {900, 1100, 1180, 1366}) {
+        essai.fenetre().resize(largeur, 600);
+        QCoreApplication::processEvents();
+        for (const char* nom : {"ChoixZone", "ChoixTri"}) {
+            auto& liste = essai.trouve<QComboBox>(nom);
+            QStyleOptionComboBox option;
+            option.initFrom(&liste);
+            const int place = liste.style()
+                                  ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &liste)
+                                  .width();
+            for (int i = 0; i < liste.count(); ++i)
+                EXPECT_LE(liste.fontMetrics().horizontalAdvance(liste.itemText(i)), place) << largeur << nom << i;
+        }
     }
 }
 

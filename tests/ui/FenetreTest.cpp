@@ -326,6 +326,17 @@ TEST_F(Fenetre, ClosingDuringWorkStopsItAndThenSavesTheSettings) {
     EXPECT_FALSE(essai.dossier.lit("Ambrelis.ini").empty());
 }
 
+TEST_F(Fenetre, AClosingThatFailsBeforeTheShutDownLeavesTheWindow) {
+    essai.programme->commande().accompagne({[] { throw dao::ErreurDao(dao::kErreurVerrouille, "Verrouillée."); }, {}});
+    essai.fenetre().close();
+    EXPECT_TRUE(essai.fenetre().isVisible());
+    EXPECT_TRUE(essai.boites.messages.back().ends_with("Verrouillée.")) << essai.boites.messages.back();
+    essai.programme->commande().accompagne({});
+    essai.fenetre().close();
+    EXPECT_FALSE(essai.fenetre().isVisible());
+    EXPECT_FALSE(essai.dossier.lit("Ambrelis.ini").empty());
+}
+
 TEST(Depart, TheWindowComesBackAsItWasLeft) {
     ProgrammeDEssai essai;
     essai.demarre();

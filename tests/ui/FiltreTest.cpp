@@ -181,4 +181,21 @@ TEST_F(Filtre, TheFilmsOfABarStayThoseThroughSortsAndFillings) {
     EXPECT_EQ(essai.arbre().model()->rowCount(), 5);
 }
 
+TEST_F(Filtre, ASearchShowsAllThatItFinds) {
+    const auto cherche = [this] {
+        essai.cliqueTitre("Cléo De 5 À 7");
+        essai.clique("lblRealisateur");
+        EXPECT_THAT(montres(), ElementsAre("Cléo De 5 À 7", "Sans Toit Ni Loi"));
+        EXPECT_EQ(champ().text(), "");
+        EXPECT_FALSE(essai.trouve("cmdLeverLimite").isVisible());
+    };
+    tape("cleo");
+    cherche();
+    tape("cleo");  // the same search again, of which a bar shows one film
+    essai.programme->session().execute(app::montreSeulement, std::vector<std::uint32_t>{1}, std::string("Un"));
+    cherche();
+    tape("toit");
+    EXPECT_THAT(montres(), ElementsAre("Sans Toit Ni Loi"));
+}
+
 }  // namespace

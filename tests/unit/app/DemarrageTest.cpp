@@ -186,6 +186,13 @@ TEST(Demarrage, ABaseWhoseDiskIsGoneIsNamedUntilItIsBack) {
     {
         Execution execution(installation.chemin());
         ASSERT_TRUE(execution.demarre());
+        installation.ecrit("disque/Ma collection.mdb", "Ce fichier est une lettre.");
+        execution.boites.attendMsgBox(kBaseRefusee, dialogues::kCritique);
+        execution.session.execute(app::cmdAvis_Click, 0);
+        EXPECT_EQ(avis(execution), "La base " + absente +
+                                       " n'a pas pu être ouverte : le fichier est endommagé ou n'est pas une base "
+                                       "d'Ambrelis.");
+        std::filesystem::remove(absente);
         remetFilms(installation, "disque/Ma collection.mdb", "Été violent");
         execution.session.execute(app::cmdAvis_Click, 0);
         EXPECT_EQ(execution.etats.liste.Label9[0].Caption, "1 titre");

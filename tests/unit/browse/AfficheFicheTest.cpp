@@ -72,6 +72,30 @@ TEST_F(AfficheFicheTest, OldRatingsAreBroughtToTheNewScale) {
     }
 }
 
+TEST_F(AfficheFicheTest, AnOldRatingThatCannotBeWrittenHidesNoSheet) {
+    ajouteFilm("Ancien", {{"Note", 80}});
+    dao::Database autre = dao::DBEngine::OpenDatabase(chemins.base);
+    autre.BeginTrans();
+    montreFilm("Ancien");
+    EXPECT_TRUE(panneaux.frameFiche.Visible);
+    EXPECT_EQ(fiche.lblNote.Caption, "Note : 7/10");
+    EXPECT_EQ(etatAvis.lblAvis.Caption,
+              "La note de « Ancien », sur 100, n'a pas pu passer sur 10 : Mise à jour impossible : la base est "
+              "verrouillée par un autre programme.");
+    autre.Rollback();
+    clique("Ancien");
+    EXPECT_EQ(noteEnBase(), dao::Valeur(7));
+}
+
+TEST_F(AfficheFicheTest, AnOldRatingIsNoReasonToChangeThatOfAFilmOfTheSameName) {
+    ajouteFilm("Double", {{"Realisateur", "R"}, {"Note", 7}});
+    ajouteFilm("Double", {{"Realisateur", "R"}, {"Note", 100}});
+    montre(browse::kZoneTous, browse::kTriTitre2);
+    TreeView1_NodeClick(c, 2);
+    EXPECT_EQ(fiche.lblNote.Caption, "Note : 9/10");
+    EXPECT_EQ(noteEnBase(), dao::Valeur(7));
+}
+
 TEST_F(AfficheFicheTest, ARatingNeedsItsFilm) {
     film.titre = "Parti";
     dialogues.attendMsgBox("Film non trouvé !", 48);
@@ -275,6 +299,7 @@ TEST_F(AfficheFicheTest, AHeadingAndADeletedFilmShowThePresentation) {
     clique("Avatar");
     EXPECT_TRUE(panneaux.framePresentation.Visible);
     EXPECT_FALSE(panneaux.frameFiche.Visible);
+    EXPECT_EQ(etatAvis.lblAvis.Caption, "« Avatar » n'est plus dans la base.");
     EXPECT_EQ(film.titre, "");  // no command reaches the film shown before
     EXPECT_EQ(TreeView1_MouseUp(c, 2), browse::MenuArbre::Aucun);
 }

@@ -47,7 +47,8 @@ TEST_F(EntretienTest, CompactionShrinksTheFileAndKeepsEveryRow) {
     EXPECT_EQ(affiches().at(1), "STO" + std::string(20000, 'x'));
     EXPECT_EQ(possedes(), (std::vector<std::string>{"Film 3", "L'\"été\""}));
     EXPECT_FALSE(dossier.existe("temp.tmp"));
-    EXPECT_EQ(rafraichissement.appels, (std::vector<std::string>{"AfficheNbTitres", "AffichageApresModification"}));
+    EXPECT_EQ(rafraichissement.appels, (std::vector<std::string>{"AfficheNbTitres", "AffichageApresModification",
+                                                                 "RaffraichitBoitesDeroulantes"}));
 }
 
 TEST_F(EntretienTest, AHoldingIsNoOrphanWhereNullStandsForTheEmptyText) {

@@ -63,6 +63,7 @@ TEST_F(cmdChargeOuvreBaseTest, AFileThatIsNoBaseLeavesTheOpenOne) {
         choisit(chemin(nom));
         dialogues.attendMsgBox("Erreur (22) : Ouverture de la base (Lecture seule/Fichier manquant ?)", 16);
         rienNAChange();
+        EXPECT_EQ(etatAvis.lblAvis.Caption.rfind("La base " + chemin(nom) + " n'a pas pu être ouverte : ", 0), 0U);
     }
     EXPECT_EQ(dossier.lit("lettre.mdb"), "Ce fichier est une lettre.");
 }
