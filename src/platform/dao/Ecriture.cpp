@@ -27,7 +27,7 @@ std::optional<std::uint64_t> hachageDeLigne(Connexion& connexion, const Table& t
     return lecture.avance() ? std::optional(hachageDeColonnes(lecture, 0)) : std::nullopt;
 }
 
-// Aside: what is painted in a breath may look a row up, and find none or build an index of its own.
+// Aside: what throws leaves none.
 void construitIndex(Connexion& connexion, Table& table) {
     Requete lecture = connexion.prepare("SELECT " + table.ligneSql + "," + table.clesSql() + " FROM " + table.nomSql);
     table.suivi.index.oublie();
