@@ -6,6 +6,7 @@
 #include <QKeySequence>
 #include <QRegularExpression>
 #include <QThread>
+#include <QTimer>
 #include <atomic>
 #include <filesystem>
 #include <thread>
@@ -103,21 +104,33 @@ class Aveugle {
         const QString annonce = essais::annonceLue();
         return ou() + '\n' + essais::boiteLue() + '\n' + (annonce == s_annonceAvant ? QString() : annonce);
     }
+    // False while the program reads: a desktop's keys wait until it is done, those of a test would be refused.
+    static bool envoie(const Geste& geste) {
+        if (s_commande->enCours() && !QApplication::activeModalWidget()) return false;
+        s_annonceAvant = essais::annonceLue();
+        const QPointer<QWindow> fenetre = QGuiApplication::focusWindow();
+        if (!fenetre) return true;
+        if (!geste.touche.isEmpty()) {
+            const QKeyCombination touche = combinaison(geste.touche);
+            QTest::keyClick(fenetre, touche.key(), touche.keyboardModifiers());
+        }
+        for (const QChar lettre : geste.tape)
+            if (fenetre) QTest::sendKeyEvent(QTest::Click, fenetre.data(), Qt::Key_unknown, lettre, Qt::NoModifier);
+        return true;
+    }
+    static void renvoie(const Geste& geste) {
+        if (!envoie(geste)) QTimer::singleShot(1, qApp, [geste] { renvoie(geste); });
+    }
+    // What a key does may run a box's loop, which is not waited for; a text is typed to its end.
     static void fais(const Geste& geste) {
-        const auto envoie = [geste] {
-            s_annonceAvant = essais::annonceLue();
-            const QPointer<QWindow> fenetre = QGuiApplication::focusWindow();
-            if (!fenetre) return;
-            if (!geste.touche.isEmpty()) {
-                const QKeyCombination touche = combinaison(geste.touche);
-                QTest::keyClick(fenetre, touche.key(), touche.keyboardModifiers());
-            }
-            for (const QChar lettre : geste.tape)
-                if (fenetre) QTest::sendKeyEvent(QTest::Click, fenetre.data(), Qt::Key_unknown, lettre, Qt::NoModifier);
-        };
-        // What a key does may run a box's loop; a text is typed to its end.
-        QMetaObject::invokeMethod(qApp, envoie,
-                                  geste.tape.isEmpty() ? Qt::QueuedConnection : Qt::BlockingQueuedConnection);
+        if (geste.tape.isEmpty()) {
+            QMetaObject::invokeMethod(
+                qApp, [geste] { renvoie(geste); }, Qt::QueuedConnection);
+            return;
+        }
+        for (bool fait = false; !fait; QThread::msleep(1))
+            QMetaObject::invokeMethod(
+                qApp, [&] { fait = envoie(geste); }, Qt::BlockingQueuedConnection);
     }
     static bool entend(const QString& dit) {
         QElapsedTimer depuis;
