@@ -158,7 +158,8 @@ void Annulations::retireFichiers(Commande& commande, dao::Sens sens) {
     if (!commande.fichiers.retireraDesFichiers(sens)) return;
     try {
         const auto noms = nomsDesAffiches(m_base.base);
-        commande.fichiers.retire(sens, [&noms](const std::string& chemin) {
+        commande.fichiers.retire(sens, [this, &noms](const std::string& chemin) {
+            m_base.base.respire();
             return noms.contains(util::cleSansCasse(fichiers::nomDeFichier(chemin)));
         });
     } catch (const dao::ErreurDao&) {  // what cannot be read says nothing: the files stay

@@ -29,9 +29,10 @@ namespace {
     throw RequeteEchouee(erreur);
 }
 
-dao::Souffle souffleDe(ecran::Ecran& ecran, const systeme::Montre& montre) {
-    static constexpr std::chrono::milliseconds kPatience{30};
-    return [&ecran, montre, prochain = montre() + kPatience]() mutable {
+constexpr std::chrono::milliseconds kPatience{30};
+
+dao::Souffle souffleDe(ecran::Ecran& ecran, const systeme::Montre& montre, std::chrono::milliseconds dAbord) {
+    return [&ecran, montre, prochain = montre() + dAbord]() mutable {
         if (montre() < prochain) return;
         ecran.patiente();
         prochain = montre() + kPatience;
@@ -68,12 +69,12 @@ void parcourtTable(const Contexte& c, std::string_view table, std::span<const st
 }
 
 dao::Souffle souffle(const Contexte& c) {
-    return souffleDe(c.ecran, c.montre);
+    return souffleDe(c.ecran, c.montre, kPatience);
 }
 
 dao::Attente attente(const Contexte& c) {
     return [&ecran = c.ecran, montre = c.montre](const std::function<void()>& travail) {
-        systeme::aCote(travail, souffleDe(ecran, montre));
+        systeme::aCote(travail, souffleDe(ecran, montre, {}));  // what came before may not have breathed for long
     };
 }
 

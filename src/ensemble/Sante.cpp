@@ -98,20 +98,24 @@ void sansAffiche(const Contexte& c, Avancement& avancement, Constat& constat) {
 
 using Noms = std::unordered_set<std::string>;
 
-void ajouteLesFichiers(const std::string& dossier, Noms& noms) {
-    for (const std::string& nom : fichiers::listeFichiers(dossier))
+void ajouteLesFichiers(const std::string& dossier, Noms& noms, dao::Cadence& cadence) {
+    for (const std::string& nom : fichiers::listeFichiers(dossier)) {
         noms.insert(util::cleSansCasse(nom));
+        cadence();
+    }
 }
 
 // Every name under which a poster is found, each folder read once.
 Noms affichesPresentes(const Contexte& c, const std::string& dossier) {
     Noms noms;
-    ajouteLesFichiers(dossier, noms);
+    const dao::Souffle souffle = db::souffle(c);
+    dao::Cadence cadence(souffle);
+    ajouteLesFichiers(dossier, noms, cadence);
     std::error_code erreur;
     const std::string base = std::filesystem::canonical(c.chemins.base, erreur).string();
     if (erreur) return noms;
     for (const std::string& voisin : {fichiers::dossierDe(base) + "Images/", fichiers::dossierDe(base)})
-        ajouteLesFichiers(voisin, noms);
+        ajouteLesFichiers(voisin, noms, cadence);
     return noms;
 }
 
@@ -151,10 +155,15 @@ void affichesSansFilm(const Contexte& c, Avancement& avancement, Constat& consta
         if (!nommees.empty()) constat.reserve = kDossierAbsent;
         return;
     }
+    const dao::Souffle souffle = db::souffle(c);
+    dao::Cadence cadence(souffle);
     std::unordered_map<std::string, db::CleFilm> attendues;
-    for (const db::CleFilm& sans : filmsSansAffiche(c, avancement))
+    for (const db::CleFilm& sans : filmsSansAffiche(c, avancement)) {
         attendues.try_emplace(util::cleSansCasse(db::nomFichierAffiche(sans.titre, sans.realisateur)), sans);
+        cadence();
+    }
     for (const std::string& nom : fichiers::listeFichiers(dossier)) {
+        cadence();
         const std::string cle = util::cleSansCasse(nom);
         if (!estUneImage(nom) || nommees.contains(cle)) continue;
         const auto attendue = attendues.find(cle);

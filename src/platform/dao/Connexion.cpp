@@ -153,10 +153,13 @@ void Connexion::soulageLEnregistrement() {
     if (m_enregistreur) m_enregistreur->soulage();
 }
 
-void Connexion::relisToutesLesLignes(std::vector<IndexDeCles>& anciens) noexcept {
+void Connexion::relisToutesLesLignes(std::vector<AncienSuivi>& anciens) noexcept {
     auto ancien = anciens.begin();
-    for (const auto& [nom, table] : m_tables)
-        if (ancien != anciens.end()) std::swap(*ancien++, table->suivi.index);
+    for (const auto& [nom, table] : m_tables) {
+        if (ancien == anciens.end()) break;
+        std::swap(ancien->index, table->suivi.index);
+        std::swap(ancien++->ecrites, table->suivi.ecrites);
+    }
     nouvelleVersion();
     oublieLesLignes();
 }

@@ -70,7 +70,7 @@ class Connexion {
     void noteModification();  // a row is about to be modified
     void soulageLEnregistrement();
     // As after another program's change. What was known of the rows goes to `anciens`, which has a place for each table.
-    void relisToutesLesLignes(std::vector<IndexDeCles>& anciens) noexcept;
+    void relisToutesLesLignes(std::vector<AncienSuivi>& anciens) noexcept;
     [[nodiscard]] std::size_t nombreDeTables() const { return m_tables.size(); }
 
     // Between two rows of whatever is read at length (Database::respireAvec).

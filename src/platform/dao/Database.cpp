@@ -64,6 +64,10 @@ void Database::respireAvec(Souffle souffle) {
     ouverte(m_connexion).respireAvec(std::move(souffle));
 }
 
+void Database::respire() {
+    ouverte(m_connexion).respire();
+}
+
 void Database::parcourt(std::string_view table, std::span<const std::string_view> colonnes, const Recoit& recoit) {
     interne::Connexion& connexion = ouverte(m_connexion);
     connexion.veille();

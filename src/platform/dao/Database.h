@@ -50,6 +50,7 @@ class Database {
 
     // What every reading of this base calls from now on, every few rows and never amid a change of a row.
     void respireAvec(Souffle souffle);
+    void respire();  // the same, for what is done beside the base
 
     // Hands every row of a table to `recoit`, in no order: its id and the texts of these columns, "" for Null, which stand
     // until it returns. Nothing is kept, which a recordset does. Throws ErreurDao 3078, 3061, or a disk error.

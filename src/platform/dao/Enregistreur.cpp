@@ -299,7 +299,7 @@ void Enregistreur::annule() noexcept {
 
 Application applique(Connexion& connexion, Enregistrement& changements, Sens sens, const Avance& avance) {
     std::vector<LigneChangee> ajoutsEtRetraits;
-    std::vector<IndexDeCles> anciens;
+    std::vector<AncienSuivi> anciens;
     connexion.commence();
     try {
         const std::vector<Morceau> avant = changements.morceaux;
@@ -322,8 +322,11 @@ Application applique(Connexion& connexion, Enregistrement& changements, Sens sen
     suisLesLignes(ajoutsEtRetraits, sens);
     connexion.relisToutesLesLignes(anciens);
     Cadence cadence(connexion.souffle(), Cadence::kEnMemoire);
-    for (IndexDeCles& ancien : anciens)
-        ancien.rends(cadence);
+    for (AncienSuivi& ancien : anciens) {
+        ancien.index.rends(cadence);
+        for (; !ancien.ecrites.empty(); cadence())
+            ancien.ecrites.erase(ancien.ecrites.begin());
+    }
     return Application::Faite;
 }
 

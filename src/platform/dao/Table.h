@@ -46,6 +46,12 @@ struct Suivi {
     IndexDeCles index;
 };
 
+// What was known of a table's rows and is no more, to be given back without holding anybody up.
+struct AncienSuivi {
+    IndexDeCles index;
+    std::unordered_map<long long, std::uint64_t> ecrites;
+};
+
 // The columns of a declared key.
 struct CleDeTable {
     RangColonne premiere, seconde;
