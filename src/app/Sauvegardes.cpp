@@ -1,6 +1,7 @@
 #include "app/Sauvegardes.h"
 
 #include "app/Saisies.h"
+#include "db/Requete.h"
 #include "db/RetourASauvegarde.h"
 #include "db/cmdChargeOuvreBase_Click.h"
 #include "platform/fichiers/Fichiers.h"
@@ -48,9 +49,11 @@ std::string texteDe(const std::string& base, std::size_t nombre) {
 void lis(const Contexte& c) {
     EtatSauvegardes& etat = c.etats.sauvegardes;
     const std::string base = c.base.base.nom();
-    etat.copies = db::sauvegardesDe(base);
-    etat.lignes.clear();
-    std::ranges::transform(etat.copies, std::back_inserter(etat.lignes), ligneDe);
+    std::vector<db::Sauvegarde> copies = db::sauvegardesDe(base);
+    std::vector<EtatSauvegardes::Ligne> lignes;
+    db::attente(c)([&] { std::ranges::transform(copies, std::back_inserter(lignes), ligneDe); });  // counts their rows
+    etat.copies = std::move(copies);
+    etat.lignes = std::move(lignes);
     etat.lblSauvegardes.Caption = texteDe(base, etat.copies.size());
     etat.txtComparaison.Text.clear();
 }

@@ -19,7 +19,8 @@ namespace ui {
 
 namespace {
 
-constexpr int kSurUneLigne = 700;  // the page's width from which all its buttons stand side by side
+constexpr int kLignesMesurees = 100;  // for the width of the scores, beside those in sight
+constexpr int kSurUneLigne = 700;     // the page's width from which all its buttons stand side by side
 
 QByteArray octets(const std::optional<std::string>& affiche) {
     return affiche ? QByteArray::fromStdString(*affiche) : QByteArray();
@@ -46,6 +47,7 @@ PageDoublons::PageDoublons(const Atelier& atelier)
     m_vue = vueDeLignes("lstDoublons", tr("Paires de films qui se ressemblent"), m_modele);
     m_vue->setUniformRowHeights(true);
     m_vue->header()->setStretchLastSection(false);
+    m_vue->header()->setResizeContentsPrecision(kLignesMesurees);
     for (const int film : {ModelePaires::Gauche, ModelePaires::Droite})
         m_vue->header()->setSectionResizeMode(film, QHeaderView::Stretch);
     for (const int score : {ModelePaires::Titre, ModelePaires::Realisateur})

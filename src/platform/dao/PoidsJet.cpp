@@ -17,11 +17,11 @@ struct Ligature {
 constexpr std::array<Ligature, 6> kLigatures{
     {{u"œ", u"oe"}, {u"Œ", u"oe"}, {u"æ", u"ae"}, {u"Æ", u"ae"}, {u"ß", u"ss"}, {u"ẞ", u"ss"}}};
 
-// ICU's root order, opened once: it lives as long as the program.
+// ICU's root order, opened once for each thread that compares, with an iterator of its own.
 class OrdreRacine {
   public:
     static OrdreRacine& unique() {
-        static OrdreRacine ordre;
+        thread_local OrdreRacine ordre;
         return ordre;
     }
 
@@ -100,8 +100,8 @@ std::uint8_t signeDe(char32_t caractere) {
     }
 }
 
-constinit std::array<Poids, kFinLatin + (kFinPonctuation - kDebutPonctuation)> g_poids{};
-constinit std::array<std::uint8_t, 256> g_lettresSimples{};
+constinit thread_local std::array<Poids, kFinLatin + (kFinPonctuation - kDebutPonctuation)> g_poids{};
+constinit thread_local std::array<std::uint8_t, 256> g_lettresSimples{};
 
 const Poids& poidsNouveau(char32_t caractere) {
     char32_t rang = caractere;

@@ -28,12 +28,12 @@ inline constexpr char32_t kFinLatin = 0x250;
 inline constexpr char32_t kDebutPonctuation = 0x2000;
 inline constexpr char32_t kFinPonctuation = 0x2070;
 
-// Filled as characters are met: nothing is paid for those that no text holds.
-extern constinit std::array<Poids, kFinLatin + (kFinPonctuation - kDebutPonctuation)> g_poids;
+// Filled as characters are met, by each thread for itself: nothing is paid for those that no text holds.
+extern constinit thread_local std::array<Poids, kFinLatin + (kFinPonctuation - kDebutPonctuation)> g_poids;
 [[nodiscard]] const Poids& poidsNouveau(char32_t caractere);
 // The one byte that an ASCII character weighs when it is a plain letter, digit or blank; 0 for any other, and for those
 // that g_poids does not hold yet.
-extern constinit std::array<std::uint8_t, 256> g_lettresSimples;
+extern constinit thread_local std::array<std::uint8_t, 256> g_lettresSimples;
 
 // The weights of one character, ready for ordinary Latin letters and punctuation. Lent: the character weighs with its
 // neighbours or is out of the ordinary, and the whole text must go through ElementsDeTexte.

@@ -3,6 +3,7 @@
 #include "util/Unicode.h"
 
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -113,4 +114,23 @@ TEST(CleJet, HoldsNoZeroByteAndIsNeverEmpty) {
         ASSERT_EQ(cle.find('\0'), std::string::npos) << std::hex << static_cast<unsigned>(point);
     }
     EXPECT_FALSE(cleJet("").empty());
+}
+
+// A copy is compared aside while the window, which lives on, compares texts too.
+TEST(CleJet, IsTheSameInEachOfSeveralThreads) {
+    const auto toutes = [] {
+        std::vector<std::string> cles;
+        for (char32_t point = 0x80; point < 0x2100; ++point)  // most weigh through ICU
+            cles.push_back(cleJet("L'œuvre" + caractere(point)));
+        return cles;
+    };
+    std::vector<std::vector<std::string>> deChacun(4);
+    {
+        std::vector<std::jthread> fils;
+        for (auto& siennes : deChacun)
+            fils.emplace_back([&] { siennes = toutes(); });
+    }
+    const std::vector<std::string> voulues = toutes();
+    for (const auto& siennes : deChacun)
+        EXPECT_EQ(siennes, voulues);
 }
