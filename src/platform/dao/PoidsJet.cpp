@@ -2,6 +2,8 @@
 
 #include "platform/dao/Erreurs.h"
 
+#include <memory>
+
 #include <unicode/normalizer2.h>
 #include <unicode/ucol.h>
 #include <unicode/ucoleitr.h>
@@ -17,6 +19,11 @@ struct Ligature {
 constexpr std::array<Ligature, 6> kLigatures{
     {{u"œ", u"oe"}, {u"Œ", u"oe"}, {u"æ", u"ae"}, {u"Æ", u"ae"}, {u"ß", u"ss"}, {u"ẞ", u"ss"}}};
 
+template <auto kFerme>
+struct Ferme {
+    void operator()(auto* objet) const { kFerme(objet); }
+};
+
 // ICU's root order, opened once for each thread that compares, with an iterator of its own.
 class OrdreRacine {
   public:
@@ -30,13 +37,13 @@ class OrdreRacine {
         m_texte = m_forme->normalize(texte, etat);
         for (const auto& [signe, lettres] : kLigatures)
             m_texte.findAndReplace(signe, lettres);
-        ucol_setText(m_elements, m_texte.getBuffer(), m_texte.length(), &etat);
+        ucol_setText(m_elements.get(), m_texte.getBuffer(), m_texte.length(), &etat);
         exigeSucces(etat);
     }
 
     std::int32_t suivant() {
         UErrorCode etat = U_ZERO_ERROR;
-        const std::int32_t element = ucol_next(m_elements, &etat);
+        const std::int32_t element = ucol_next(m_elements.get(), &etat);
         exigeSucces(etat);
         return element;
     }
@@ -45,12 +52,14 @@ class OrdreRacine {
     OrdreRacine() {
         UErrorCode etat = U_ZERO_ERROR;
         m_forme = icu::Normalizer2::getNFDInstance(etat);
-        m_elements = ucol_openElements(ucol_open("root", &etat), u"", 0, &etat);
+        m_ordre.reset(ucol_open("root", &etat));
+        m_elements.reset(ucol_openElements(m_ordre.get(), u"", 0, &etat));
         exigeSucces(etat);
     }
 
     const icu::Normalizer2* m_forme = nullptr;
-    UCollationElements* m_elements = nullptr;
+    std::unique_ptr<UCollator, Ferme<ucol_close>> m_ordre;
+    std::unique_ptr<UCollationElements, Ferme<ucol_closeElements>> m_elements;  // of m_ordre, which outlives it
     icu::UnicodeString m_texte;
 };
 
